@@ -17,9 +17,9 @@ Input pictureNamed(const QString &path)
     const auto item = platform::targetFacts(path);
     Input input = {path, {}, {}, false};
     if (!item)
-        input.problem = image::sentence(QT_TRANSLATE_NOOP("recipe", "there is no such file"));
+        input.problem = image::sentence(QT_TRANSLATE_NOOP("recipe", "no such file"));
     else if (!item->isFile)
-        input.problem = image::sentence(QT_TRANSLATE_NOOP("recipe", "it is no ordinary file"));
+        input.problem = image::sentence(QT_TRANSLATE_NOOP("recipe", "not an ordinary file"));
     return input;
 }
 

@@ -106,7 +106,7 @@ OutputPlace OutputPlaces::placeFor(const QString &wanted, const QString &planned
     if (output.ifTaken == image::IfTaken::Replace && isOnDisk && !isResumed(planned))
         return {planned, true, false, {}};
     if (output.ifTaken == image::IfTaken::Skip && standing != Standing::OtherResult)
-        return {planned, false, true, image::sentence(QT_TRANSLATE_NOOP("recipe", "the name is taken"))};
+        return {planned, false, true, image::sentence(QT_TRANSLATE_NOOP("recipe", "file already exists"))};
     return {m_names.giveNumbered(wanted), false, false, {}};
 }
 

@@ -25,7 +25,7 @@ using platform::Result;
 tl::unexpected<platform::Error> unwritten(const QString &folder)
 {
     return platform::failure(platform::ErrorCode::WriteFailed,
-                             image::sentence(QT_TRANSLATE_NOOP("recipe", "%1 cannot be written to")).arg(folder));
+                             image::sentence(QT_TRANSLATE_NOOP("recipe", "%1 is read-only")).arg(folder));
 }
 
 } // namespace
@@ -178,7 +178,7 @@ ResultFiles::Placed ResultFiles::placed(const Kept &kept, OutputPlaces &places) 
         if (!kept.place.replaces)
             path = places.numbered(kept.place.path);
     }
-    return {kept.index, path, false, image::sentence(QT_TRANSLATE_NOOP("recipe", "its name is taken again and again"))};
+    return {kept.index, path, false, image::sentence(QT_TRANSLATE_NOOP("recipe", "no free name found"))};
 }
 
 } // namespace jobs

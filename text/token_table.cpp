@@ -15,8 +15,8 @@ constexpr std::array table = {
     TokenRow{Token::Name, "name", TokenForms::Name, path, QT_TRANSLATE_NOOP("text", "Name without extension"),
              "IMG_4711"},
     TokenRow{Token::Extension, "extension", TokenForms::None, path, QT_TRANSLATE_NOOP("text", "Extension"), "jpg"},
-    TokenRow{Token::Date, "date", TokenForms::Date, facts, QT_TRANSLATE_NOOP("text", "Date taken, or else changed"),
-             "2026-08-14"},
+    TokenRow{Token::Date, "date", TokenForms::Date, facts,
+             QT_TRANSLATE_NOOP("text", "Date taken, otherwise date changed"), "2026-08-14"},
     TokenRow{Token::Taken, "taken", TokenForms::Date, facts, QT_TRANSLATE_NOOP("text", "Date taken"), "2026-08-14"},
     TokenRow{Token::Created, "created", TokenForms::Date, facts, QT_TRANSLATE_NOOP("text", "Date created"),
              "2026-08-14"},
@@ -31,7 +31,7 @@ constexpr std::array table = {
     TokenRow{Token::Type, "type", TokenForms::None, facts, QT_TRANSLATE_NOOP("text", "File type"), "JPEG"},
     TokenRow{Token::Orientation, "orientation", TokenForms::None, facts,
              QT_TRANSLATE_NOOP("text", "Landscape, portrait or square"), QT_TRANSLATE_NOOP("text", "Landscape")},
-    TokenRow{Token::Folder, "folder", TokenForms::None, path, QT_TRANSLATE_NOOP("text", "Name of its folder"),
+    TokenRow{Token::Folder, "folder", TokenForms::None, path, QT_TRANSLATE_NOOP("text", "Name of the folder"),
              QT_TRANSLATE_NOOP("text", "Holiday")},
 };
 

@@ -35,20 +35,20 @@ QString formHint(const TokenRow &row, const QString &form)
     switch (row.forms) {
     case TokenForms::Date:
         return QCoreApplication::translate(
-                   "text", "“%1” is no form of a date: write it with yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss")
+                   "text", "“%1” is not a valid date format. Use yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss")
             .arg(form);
     case TokenForms::Counter:
-        return QCoreApplication::translate("text", "“%1” is no first number of a counter").arg(form);
+        return QCoreApplication::translate("text", "“%1” is not a valid start number").arg(form);
     case TokenForms::Name:
-        return QCoreApplication::translate("text", "“%1” takes no part of a name: write a number of letters, “word”, "
-                                                   "or “~” and words with commas between them")
+        return QCoreApplication::translate("text", "“%1” does not select part of a name. Use a number of characters, "
+                                                   "“word”, or “~” and words separated by commas")
             .arg(form);
     case TokenForms::Size:
-        return QCoreApplication::translate("text", "“%1” is no form of a size: write “class” or “MB”").arg(form);
+        return QCoreApplication::translate("text", "“%1” is not a valid size format. Use “class” or “MB”").arg(form);
     case TokenForms::None:
         break;
     }
-    return QCoreApplication::translate("text", "{%1} has no forms: leave out what stands behind its colon")
+    return QCoreApplication::translate("text", "{%1} takes no format. Remove the colon and what follows it")
         .arg(QLatin1String(row.name));
 }
 
@@ -57,9 +57,9 @@ QString problemOf(const TokenPart &part)
 {
     if (const TokenRow *row = tokenRow(part.token); row != nullptr)
         return isTokenForm(row->forms, part.form) ? QString() : formHint(*row, part.form);
-    return part.token.isEmpty() ? QCoreApplication::translate(
-                                      "text", "There is no token between the braces; a brace of its own is written {{")
-                                : QCoreApplication::translate("text", "There is no token {%1}").arg(part.token);
+    return part.token.isEmpty()
+               ? QCoreApplication::translate("text", "There is no token between the braces. To write a brace, type {{")
+               : QCoreApplication::translate("text", "There is no token {%1}").arg(part.token);
 }
 
 /** Whether a brace is text though it was not written twice. */
@@ -154,7 +154,7 @@ QStringList tokenProblems(const QString &pattern)
             found.append(problem);
     }
     if (hasOpenBrace(pattern, parts))
-        found.append(QCoreApplication::translate("text", "A brace is not closed; a brace of its own is written {{"));
+        found.append(QCoreApplication::translate("text", "A brace is not closed. To write a brace, type {{"));
     found.removeDuplicates();
     return found;
 }

@@ -240,7 +240,7 @@ def main(arguments):
     convert, output = path.parent / "manual/convert.md", path.parent / "manual/output.md"
     wanted = {path: text(),
               convert: with_table(convert.read_text(encoding="utf-8"), "## What is kept, exactly\n\n", manual_table()),
-              output: with_table(output.read_text(encoding="utf-8"), "What is kept. In short:\n\n", actions_table())}
+              output: with_table(output.read_text(encoding="utf-8"), "## What is kept\n\n", actions_table())}
     if arguments[0] != "--check":
         for name, content in wanted.items():
             name.write_text(content, encoding="utf-8")

@@ -100,7 +100,7 @@ int main(int argc, char **argv)
     }
     const QString file = QString::fromLocal8Bit(argv[1]);
     if (!QFileInfo(file).isFile()) {
-        platform::logLine(QStringLiteral("Cannot read %1: there is no such file").arg(file));
+        platform::logLine(QStringLiteral("Cannot read %1: no such file").arg(file));
         return badCommandLine;
     }
     script::installScriptOutput();

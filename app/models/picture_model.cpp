@@ -112,7 +112,7 @@ QVariant PictureModel::data(const QModelIndex &index, int role) const
         if (index.column() == Pixels && !row.problem.isEmpty())
             return row.problem;
         if (index.column() == Taken && row.taken != row.stated)
-            return tr("%1 by the camera's own clock").arg(dateText(row.stated));
+            return tr("%1 according to the camera clock").arg(dateText(row.stated));
         if (index.column() == Status)
             return row.detail.isEmpty() ? row.status : row.detail;
         return index.column() == NewName ? row.newName : QDir::toNativeSeparators(row.path);

@@ -108,7 +108,7 @@ platform::Result<QJSValue> ScriptEngine::importFile(const QString &path)
 {
     const QFileInfo info(path);
     if (!info.isFile())
-        return platform::failure(platform::ErrorCode::NotFound, tr("Cannot read %1: there is no such file").arg(path));
+        return platform::failure(platform::ErrorCode::NotFound, tr("Cannot read %1: no such file").arg(path));
     const QString file = info.absoluteFilePath();
     // The engine would hand out a module again that stopped half way.
     if (const auto failed = m_failedModules.constFind(file); failed != m_failedModules.constEnd())

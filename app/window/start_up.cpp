@@ -79,7 +79,7 @@ void tellFatalProblem(const QString &problem)
 {
     QMessageBox box(
         QMessageBox::Critical, QStringLiteral("Quorlin"),
-        QCoreApplication::translate("window::StartUp", "Quorlin cannot start: a script of its windows failed."));
+        QCoreApplication::translate("window::StartUp", "Quorlin cannot start: a script of its interface failed."));
     box.setInformativeText(problem);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     box.exec();

@@ -49,7 +49,7 @@ OperationOutcome failureFor(const std::error_code &error, const QString &path, c
         return failed(MoveProblem::TooLong, to);
     OperationOutcome other;
     other.why = MoveProblem::Other;
-    other.message = QCoreApplication::translate("files", "%1 stays as it is: %2")
+    other.message = QCoreApplication::translate("files", "%1 stays unchanged: %2")
                         .arg(lastPathComponent(path), QString::fromLocal8Bit(error.message().c_str()));
     return other;
 }
@@ -243,8 +243,7 @@ OperationOutcome MoveOperations::movedToOtherDisk(int index, const QString &from
         why.path = removal.path;
     if (removal.isWhole)
         return withoutCopy(index, why, removal.path, outcome);
-    outcome.message =
-        QCoreApplication::translate("files", "A part of %1 could not be removed and is still there").arg(removal.path);
+    outcome.message = QCoreApplication::translate("files", "A part of %1 could not be removed").arg(removal.path);
     return outcome;
 }
 

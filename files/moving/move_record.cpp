@@ -242,7 +242,7 @@ private:
     bool addItem(const QJsonObject &line)
     {
         const int index = line[key("item")].toInt(-1);
-        const int operation = positionIn(operationWords, line[key("deed")]);
+        const int operation = positionIn(operationWords, line[key("operation")]);
         if (index < int(run.items.size()) || index >= m_mostItems || operation < 0)
             return false;
         MoveItem item;
@@ -326,7 +326,7 @@ QByteArray stepsLine(const RunRecord &run)
 QByteArray itemLine(int index, const MoveItem &item)
 {
     QJsonObject line = {{key("item"), index},
-                        {key("deed"), key(operationWords[size_t(item.operation)])},
+                        {key("operation"), key(operationWords[size_t(item.operation)])},
                         {key("from"), item.from},
                         {key("to"), item.to}};
     if (item.of >= 0)

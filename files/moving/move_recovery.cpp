@@ -126,7 +126,7 @@ private:
         if (isWhole && place == record.item.to)
             done(record, place);
         else
-            problems.append(QCoreApplication::translate("files", "%1 is gone; what was copied of it is at %2")
+            problems.append(QCoreApplication::translate("files", "%1 no longer exists; its partial copy is at %2")
                                 .arg(record.item.from, place));
     }
 
@@ -177,7 +177,7 @@ private:
             return;
         }
         if (m_disk.remove(aside))
-            problems.append(QCoreApplication::translate("files", "A part of %1 could not be removed and is still there")
+            problems.append(QCoreApplication::translate("files", "A part of %1 could not be removed")
                                 .arg(m_names.putBack(aside, record.item.from)));
         done(record, record.item.to);
     }
@@ -190,7 +190,7 @@ private:
         if (holds(item.to, left) && !m_disk.remove(left))
             return;
         if (m_names.putBack(left, place) == left)
-            problems.append(QCoreApplication::translate("files", "%1 could not be put away").arg(left));
+            problems.append(QCoreApplication::translate("files", "%1 could not be moved aside").arg(left));
     }
 
     /** A copy on another disk, or a second name on this one, was made and the first not yet removed. */

@@ -87,7 +87,7 @@ private:
         const QString path = platform::joinedPath(folder, name);
         const QString place =
             operations.putBack(path, platform::joinedPath(folder, nameFor(name.mid(prefix().size()))));
-        problems.append(QCoreApplication::translate("files", "%1 had only its temporary name left and is now called %2")
+        problems.append(QCoreApplication::translate("files", "%1 was left with a temporary name and is now called %2")
                             .arg(path, platform::lastPathComponent(place)));
     }
 

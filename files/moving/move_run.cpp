@@ -213,9 +213,8 @@ void MoveRun::bringBack(int index, const OperationOutcome &why)
         return markDone(index, given);
     OperationOutcome outcome = why;
     outcome.path = m_operations.putBack(aside, item.from);
-    outcome.message =
-        QCoreApplication::translate("files", "The name %1 was taken in the meantime; the item is now called %2")
-            .arg(lastPathComponent(item.from), lastPathComponent(outcome.path));
+    outcome.message = QCoreApplication::translate("files", "The name %1 is now in use; the item is called %2")
+                          .arg(lastPathComponent(item.from), lastPathComponent(outcome.path));
     markFailed(index, outcome);
     if (outcome.path == aside)
         at(index).stand = Stand::Aside;

@@ -122,7 +122,7 @@ QString FileService::makeFolder(const QString &folder) const
 {
     if (QDir().mkpath(folder))
         return {};
-    return tr("The folder %1 cannot be made").arg(QDir::toNativeSeparators(folder));
+    return tr("The folder %1 cannot be created").arg(QDir::toNativeSeparators(folder));
 }
 
 void FileService::removeEmptyFolder(const QString &folder) const

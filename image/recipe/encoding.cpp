@@ -76,7 +76,7 @@ Result<QByteArray> encodedWithin(const Bitmap &bitmap, const RecipeOutput &outpu
     const auto tooLarge = [&] {
         return platform::failure(
             platform::ErrorCode::TooLarge,
-            sentence(QT_TRANSLATE_NOOP("recipe", "It cannot be made as small as %1 bytes")).arg(*output.maxBytes));
+            sentence(QT_TRANSLATE_NOOP("recipe", "It does not fit into %1 bytes")).arg(*output.maxBytes));
     };
     const auto fits = [&](const Result<QByteArray> &file) { return file && file->size() <= *output.maxBytes; };
     const std::optional<int> stated = chosenQuality(output, type, bitmap.jpegQuantisation().has_value());

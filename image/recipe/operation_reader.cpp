@@ -78,11 +78,11 @@ void readBox(RecipeKeys &keys, ResizeOperation &resize)
     else if (resize.fit == BoxFit::Pad)
         resize.position = keys.choice("position", places).value_or(Place::Center);
     else
-        keys.refuseKey("position", sentence(QT_TRANSLATE_NOOP("recipe", "it has a meaning with fit fill or pad only")));
+        keys.refuseKey("position", sentence(QT_TRANSLATE_NOOP("recipe", "it applies only with fit fill or pad")));
     if (resize.fit == BoxFit::Pad)
         resize.color = keys.color("color").value_or(QColor(Qt::white));
     else
-        keys.refuseKey("color", sentence(QT_TRANSLATE_NOOP("recipe", "it has a meaning with fit pad only")));
+        keys.refuseKey("color", sentence(QT_TRANSLATE_NOOP("recipe", "it applies only with fit pad")));
 }
 
 Operation resizeFrom(RecipeKeys &keys)
@@ -106,7 +106,7 @@ Operation resizeFrom(RecipeKeys &keys)
         readBox(keys, resize);
     } else {
         for (const char *each : {"fit", "position", "color"})
-            keys.refuseKey(each, sentence(QT_TRANSLATE_NOOP("recipe", "it has a meaning with a box only")));
+            keys.refuseKey(each, sentence(QT_TRANSLATE_NOOP("recipe", "it applies only with box")));
         const bool isShare = resize.by == ResizeBy::Percent || resize.by == ResizeBy::Megapixels;
         if (!named.isEmpty())
             resize.number = keys.number(key.constData(), isShare ? share : lengthRange(resize.scale)).value_or(1);
@@ -126,9 +126,9 @@ void readRatio(RecipeKeys &keys, CropOperation &crop)
     crop.height = parts.value(1).toDouble(&isSecond);
     const auto isUsable = [](double part) { return part >= 0.001 && part <= longestSide; };
     if (parts.size() != 2 || !isFirst || !isSecond || !isUsable(crop.width) || !isUsable(crop.height))
-        keys.complain("ratio", sentence(QT_TRANSLATE_NOOP(
-                                            "recipe", "two numbers with a colon between them such as 3:2, not \"%1\""))
-                                   .arg(ratio));
+        keys.complain("ratio",
+                      sentence(QT_TRANSLATE_NOOP("recipe", "two numbers separated by a colon such as 3:2, not \"%1\""))
+                          .arg(ratio));
 }
 
 Operation cropFrom(RecipeKeys &keys)
@@ -151,14 +151,14 @@ Operation cropFrom(RecipeKeys &keys)
     } else if (!way.isEmpty()) {
         for (const char *side : {"width", "height"})
             if (!keys.has(side))
-                keys.complain(side, sentence(QT_TRANSLATE_NOOP("recipe", "it is missing beside %1")).arg(way));
+                keys.complain(side, sentence(QT_TRANSLATE_NOOP("recipe", "it is required with %1")).arg(way));
         crop.width = keys.number("width", lengthRange(crop.scale)).value_or(1);
         crop.height = keys.number("height", lengthRange(crop.scale)).value_or(1);
     }
     if (crop.by == CropBy::Ratio)
         crop.turns = keys.flag("turn").value_or(true);
     else
-        keys.refuseKey("turn", sentence(QT_TRANSLATE_NOOP("recipe", "it has a meaning with a ratio only")));
+        keys.refuseKey("turn", sentence(QT_TRANSLATE_NOOP("recipe", "it applies only with ratio")));
     crop.position = keys.choice("position", placesOfParts).value_or(Place::Center);
     const NumberRange way2 = widthRange(crop.scale, -longestSide);
     const std::array<NumberRange, 2> offsets = {way2, way2};
@@ -196,7 +196,7 @@ Operation roundFrom(RecipeKeys &keys)
             keys.complain("radius", sentence(QT_TRANSLATE_NOOP("recipe", "it is missing")));
         round.radius = keys.number("radius", widthRange(round.scale)).value_or(0);
     } else {
-        keys.refuseKey("radius", sentence(QT_TRANSLATE_NOOP("recipe", "it has a meaning with a rectangle only")));
+        keys.refuseKey("radius", sentence(QT_TRANSLATE_NOOP("recipe", "it applies only with a rectangle")));
     }
     round.color = keys.color("color");
     if (std::optional<RecipeKeys> band = keys.object("band")) {
@@ -249,7 +249,7 @@ void readLetters(RecipeKeys &keys, WatermarkOperation &mark)
 {
     mark.text = keys.text("text").value_or(QString());
     if (mark.text.trimmed().isEmpty())
-        keys.complain("text", sentence(QT_TRANSLATE_NOOP("recipe", "a text, not nothing")));
+        keys.complain("text", sentence(QT_TRANSLATE_NOOP("recipe", "a text that is not empty")));
     if (const QStringList problems = text::tokenProblems(mark.text); !problems.isEmpty())
         keys.complain("text", problems.first());
     mark.font = keys.text("font").value_or(QString());
@@ -266,7 +266,7 @@ Operation watermarkFrom(RecipeKeys &keys, const RecipeFiles &files)
     if (isPicture) {
         mark.picture = pictureNamed(keys, "picture", files);
         for (const char *each : {"font", "color"})
-            keys.refuseKey(each, sentence(QT_TRANSLATE_NOOP("recipe", "it has a meaning with a text only")));
+            keys.refuseKey(each, sentence(QT_TRANSLATE_NOOP("recipe", "it applies only with a text")));
     } else if (way) {
         readLetters(keys, mark);
     }

@@ -31,9 +31,8 @@ QStringList lossesOfPixels(const OutputPlan &plan, const RecipeOutput &output, c
     const QString name = writtenType(plan.type).word;
     QStringList losses;
     if (end.hasAlpha && !holdsAlpha(plan.type))
-        losses.append(
-            sentence(QT_TRANSLATE_NOOP("recipe", "%1 has no transparency: transparent parts get the colour %2"))
-                .arg(name, output.matte.name()));
+        losses.append(sentence(QT_TRANSLATE_NOOP("recipe", "%1 has no transparency: transparent parts become %2"))
+                          .arg(name, output.matte.name()));
     if (facts.bits > 8 && !holdsDepth16(plan.type))
         losses.append(
             sentence(QT_TRANSLATE_NOOP("recipe", "%1 has 8 bits for each channel, the picture more")).arg(name));
@@ -98,16 +97,16 @@ QStringList lossesOfParts(const platform::ImageSource &source)
         if (parts.testFlag(part))
             losses.append(sentence(english));
     };
-    add(PartBeside::FurtherPictures, QT_TRANSLATE_NOOP("recipe", "Further pictures behind the first one are left out"));
+    add(PartBeside::FurtherPictures, QT_TRANSLATE_NOOP("recipe", "Only the first picture is kept"));
     add(PartBeside::GainMap, QT_TRANSLATE_NOOP("recipe", "The gain map is left out"));
     add(PartBeside::Motion, QT_TRANSLATE_NOOP("recipe", "The motion picture is left out"));
     add(PartBeside::Credentials,
-        QT_TRANSLATE_NOOP("recipe", "Signed content credentials are left out, since no changed file agrees with them"));
+        QT_TRANSLATE_NOOP("recipe", "Signed content credentials are left out, since they do not match a changed file"));
     add(PartBeside::OfMakers,
-        QT_TRANSLATE_NOOP("recipe", "Data that the maker of the camera or a program keeps beside EXIF is left out"));
+        QT_TRANSLATE_NOOP("recipe", "Data that the camera maker or a program keeps outside EXIF is left out"));
     add(PartBeside::ExtendedXmp, QT_TRANSLATE_NOOP("recipe", "XMP beyond the first 64 KB is left out"));
     if (losses.isEmpty())
-        add(PartBeside::BehindTheEnd, QT_TRANSLATE_NOOP("recipe", "Data behind the end of the picture is left out"));
+        add(PartBeside::BehindTheEnd, QT_TRANSLATE_NOOP("recipe", "Data after the end of the picture is left out"));
     return losses;
 }
 
@@ -123,8 +122,8 @@ QStringList lossesOfMetadata(const OutputPlan &plan, const RecipeOutput &output,
         return {};
     const QString name = writtenType(plan.type).word;
     return {isHeldInPart
-                ? sentence(QT_TRANSLATE_NOOP("recipe", "%1 holds metadata as XMP alone, without maker notes")).arg(name)
-                : sentence(QT_TRANSLATE_NOOP("recipe", "%1 holds no metadata")).arg(name)};
+                ? sentence(QT_TRANSLATE_NOOP("recipe", "%1 holds metadata as XMP only, without maker notes")).arg(name)
+                : sentence(QT_TRANSLATE_NOOP("recipe", "%1 cannot hold metadata")).arg(name)};
 }
 
 QString refusalFor(const OutputPlan &plan, const RecipeOutput &output, const Stage &end, int bits)
@@ -139,8 +138,9 @@ QString refusalFor(const OutputPlan &plan, const RecipeOutput &output, const Sta
     const double megapixels = double(plan.size.width()) * plan.size.height() / million;
     if (need <= most)
         return {};
-    return sentence(QT_TRANSLATE_NOOP("recipe", "%1 of %2 megapixels takes more than 1.5 GB of memory; at most %3 can be "
-                                                "made of this picture, or choose another type"))
+    return sentence(QT_TRANSLATE_NOOP(
+                        "recipe",
+                        "%1 with %2 megapixels needs more than 1.5 GB of memory; use at most %3, or choose another type"))
         .arg(writtenType(plan.type).word, QString::number(megapixels, 'f', 0),
              QString::number(std::floor(megapixels * double(most) / double(need)), 'f', 0));
 }
@@ -154,7 +154,7 @@ QStringList lossesOf(const OutputPlan &plan, const RecipeOutput &output, const S
     if (!plan.isLossless) {
         losses += lossesOfPixels(plan, output, end, source.pixelFacts().value_or(platform::PixelFacts()));
         if (plan.leftOut > 0)
-            losses.append(sentence(QT_TRANSLATE_NOOP("recipe", "%1 further pictures of the file are left out"))
+            losses.append(sentence(QT_TRANSLATE_NOOP("recipe", "More pictures in the file that are left out: %1"))
                               .arg(plan.leftOut));
     }
     return losses;

@@ -86,7 +86,7 @@ OutputPlan planned(const Recipe &recipe, const RecipeOutput &output, const Image
     const std::optional<OutputType> own = ownTypeOf(source);
     if (output.type == OutputType::Original && !own) {
         plan.problem = sentence(
-            QT_TRANSLATE_NOOP("recipe", "Pictures of this type are read and not written; choose another type"));
+            QT_TRANSLATE_NOOP("recipe", "Pictures of this type can be read but not written; choose another type"));
         plan.isNotSupported = true;
         return plan;
     }

@@ -184,7 +184,7 @@ std::optional<QString> RecipeKeys::oneOf(const QStringList &keys)
             continue;
         if (found) {
             complain(key.toLatin1().constData(),
-                     sentence(QT_TRANSLATE_NOOP("recipe", "it cannot stand beside %1")).arg(*found));
+                     sentence(QT_TRANSLATE_NOOP("recipe", "it cannot be used together with %1")).arg(*found));
             return std::nullopt;
         }
         found = key;
@@ -211,7 +211,7 @@ void RecipeKeys::finish()
     for (auto key = m_object.begin(); key != m_object.end(); ++key)
         if (!m_taken.contains(key.key()))
             m_problem->state(m_place.isEmpty() ? key.key() : m_place + u'.' + key.key(),
-                             sentence(QT_TRANSLATE_NOOP("recipe", "there is no such key here")));
+                             sentence(QT_TRANSLATE_NOOP("recipe", "unknown key")));
 }
 
 } // namespace image

@@ -52,14 +52,13 @@ void readEncoding(RecipeKeys &keys, RecipeOutput &output)
     else if (const auto quality = keys.number("quality", {1, 100, true}))
         output.quality = int(*quality);
     if (!canBeLossless(output.type))
-        keys.refuseKey("lossless",
-                       sentence(QT_TRANSLATE_NOOP("recipe", "this type has no choice between lossless and not")));
+        keys.refuseKey("lossless", sentence(QT_TRANSLATE_NOOP("recipe", "this type has no lossless option")));
     else
         output.isLossless = keys.flag("lossless").value_or(false);
     if (output.isLossless && output.quality)
         keys.complain(
             "lossless",
-            sentence(QT_TRANSLATE_NOOP("recipe", "it cannot stand beside %1")).arg(QStringLiteral("quality")));
+            sentence(QT_TRANSLATE_NOOP("recipe", "it cannot be used together with %1")).arg(QStringLiteral("quality")));
     constexpr double largestFile = 1e15;
     if (const auto bytes = keys.number("maxBytes", {1, largestFile, true}))
         output.maxBytes = qint64(*bytes);
@@ -76,9 +75,9 @@ void readPlace(RecipeKeys &keys, RecipeOutput &output)
     output.name = keys.text("name").value_or(output.name);
     checkTokens(keys, "name", output.name);
     if (output.name.trimmed().isEmpty())
-        keys.complain("name", sentence(QT_TRANSLATE_NOOP("recipe", "a name, not nothing")));
+        keys.complain("name", sentence(QT_TRANSLATE_NOOP("recipe", "a name that is not empty")));
     if (output.name.contains(u'/'))
-        keys.complain("name", sentence(QT_TRANSLATE_NOOP("recipe", "a name without /; folders stand under folder")));
+        keys.complain("name", sentence(QT_TRANSLATE_NOOP("recipe", "a name without /; use folder for folders")));
     output.folder = keys.text("folder").value_or(QString());
     checkTokens(keys, "folder", output.folder);
     output.dates = keys.choice("dates", dates).value_or(output.dates);
@@ -110,11 +109,12 @@ bool readVersion(RecipeKeys &keys)
     if (!version)
         keys.complain("quorlin", sentence(QT_TRANSLATE_NOOP("recipe", "the version of the recipe is missing")));
     else if (*version > recipeVersion)
-        keys.complain("quorlin",
-                      sentence(QT_TRANSLATE_NOOP(
-                                   "recipe", "this recipe has version %1, and this program knows versions up to %2"))
-                          .arg(*version)
-                          .arg(recipeVersion));
+        keys.complain(
+            "quorlin",
+            sentence(QT_TRANSLATE_NOOP("recipe",
+                                       "this recipe has version %1, but this program supports versions up to %2 only"))
+                .arg(*version)
+                .arg(recipeVersion));
     return version && *version <= recipeVersion;
 }
 
@@ -157,7 +157,7 @@ Result<Recipe> readRecipe(const QByteArray &json, const RecipeFiles &files)
     }
     if (!document.isObject())
         return platform::failure(platform::ErrorCode::InvalidValue,
-                                 sentence(QT_TRANSLATE_NOOP("recipe", "a recipe is a JSON object")));
+                                 sentence(QT_TRANSLATE_NOOP("recipe", "a recipe must be a JSON object")));
     RecipeProblem problem;
     RecipeKeys keys(document.object(), {}, problem);
     const Recipe recipe = recipeFrom(keys, files);
@@ -204,7 +204,7 @@ Result<Recipe> readRecipeFile(const QString &path)
         return platform::failure(platform::ErrorCode::InvalidValue,
                                  file.atEnd()
                                      ? file.readProblem()
-                                     : sentence(QT_TRANSLATE_NOOP("recipe", "a recipe is no larger than 4 MB")));
+                                     : sentence(QT_TRANSLATE_NOOP("recipe", "a recipe cannot be larger than 4 MB")));
     return readRecipe(json, QFileInfo(path).absolutePath());
 }
 

@@ -150,7 +150,7 @@ Result<Change> made(Effect effect, const Stage &after)
     constexpr int rgba = 4;
     if (!platform::fitsMemoryBudget(after.size.width(), after.size.height(), rgba, 1))
         return platform::failure(platform::ErrorCode::TooLarge,
-                                 sentence(QT_TRANSLATE_NOOP("recipe", "No picture of %1 x %2 pixels can be made"))
+                                 sentence(QT_TRANSLATE_NOOP("recipe", "A picture of %1 × %2 pixels cannot be made"))
                                      .arg(after.size.width())
                                      .arg(after.size.height()));
     return Change{effect, {}, after};

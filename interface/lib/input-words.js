@@ -11,45 +11,44 @@ const WORDS = {
     pictures: {
         count: pictures,
         none: () => qsTr("No pictures yet"),
-        nothing: () => qsTr("No pictures there"),
+        nothing: () => qsTr("No pictures found"),
         add: () => qsTr("Add Pictures…"),
         title: () => qsTr("Drop pictures or folders here"),
-        text: () => qsTr("Then choose at the left what to do with them. Your originals stay as they are unless you say otherwise."),
+        text: () => qsTr("Then choose an action on the left. Your originals stay unchanged unless you ask for it."),
         leftOut: (found) =>
-            leftOut(found, qsTr("“%1” is not a picture that can be taken"),
-                    qsTr("%n files are not pictures that can be taken", "", found.leftOut)),
-        hidden: (number) =>
-            qsTr("%n other files of the list are not pictures that can be taken", "", number),
+            leftOut(found, qsTr("“%1” was not added: it is not a supported picture."),
+                    qsTr("%n files were not added: they are not supported pictures.", "", found.leftOut)),
+        hidden: (number, action) =>
+            fill(qsTr("%n files are not shown because %1 cannot use them.", "", number), action),
     },
     files: {
         count: (number) => qsTr("%n files", "", number),
         none: () => qsTr("No files yet"),
-        nothing: () => qsTr("No files there"),
+        nothing: () => qsTr("No files found"),
         add: () => qsTr("Add Files…"),
         title: () => qsTr("Drop files or folders here"),
-        text: () => qsTr("Then say on the right what is to become of them. You see everything before it happens, and can undo it afterwards."),
-        leftOut: (found) => leftOut(found, qsTr("“%1” cannot be taken"),
-                                    qsTr("%n files cannot be taken", "", found.leftOut)),
-        hidden: (number) =>
-            qsTr("%n folders of the list are left out", "", number),
+        text: () => qsTr("Then set up the action on the right. You see every result before it is written."),
+        leftOut: (found) => leftOut(found, qsTr("“%1” was not added: it is not a file."),
+                                    qsTr("%n items were not added: they are not files.", "", found.leftOut)),
+        hidden: (number, action) =>
+            fill(qsTr("%n folders are not shown because %1 cannot use them.", "", number), action),
     },
     folders: {
         count: (number) => qsTr("%n folders", "", number),
         none: () => qsTr("No folders yet"),
-        nothing: () => qsTr("No folders there"),
+        nothing: () => qsTr("No folders found"),
         add: () => qsTr("Add Folder…"),
         title: () => qsTr("Drop folders here"),
-        text: () => qsTr("The folders themselves are worked on; what is in them stays in them."),
-        leftOut: (found) => leftOut(found, qsTr("“%1” is not a folder"),
-                                    qsTr("%n files are not folders", "", found.leftOut)),
-        hidden: (number) =>
-            qsTr("%n files of the list are left out", "", number),
+        text: () => qsTr("The folders themselves are renamed. What is in them does not change."),
+        leftOut: (found) => leftOut(found, qsTr("“%1” was not added: it is not a folder."),
+                                    qsTr("%n files were not added: they are not folders.", "", found.leftOut)),
+        hidden: (number) => qsTr("%n files are not shown because folders are being renamed.", "", number),
     },
 };
 
 /**
  * The words for a list of "pictures", "files" or "folders": count(number), none(), nothing(), add(), title(), text(), leftOut(found),
- * hidden(number).
+ * hidden(number, title of the action).
  */
 export function wordsFor(kind) {
     return WORDS[kind];

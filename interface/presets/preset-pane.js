@@ -194,7 +194,7 @@ export class PresetPane {
             [qsTr("Export…"), ifTrue(this.chosen !== null && this.chosen.fields.length === FIELDS, "save as file")],
             [qsTr("Import…"), ifTrue(works, "bring in")],
         ].concat(this.more.isFor(this.action) ? [["-", null], [this.more.text(), "more"]] : [])
-            .concat(works ? [] : [["-", null], [qsTr("Look Again"), "look"]]);
+            .concat(works ? [] : [["-", null], [qsTr("Try Again"), "look"]]);
     }
 
     showMenu() {
@@ -299,7 +299,7 @@ export class PresetPane {
         const name = this.chosen.name;
         const answer = shell.ask({
             title: qsTr("Delete preset"), text: fill(qsTr("Delete the preset “%1”?"), name),
-            detail: qsTr("The settings stay as they are now."),
+            detail: qsTr("Your current settings are kept."),
             buttons: [qsTr("Delete"), qsTr("Keep")], initial: 1, escape: 1, check: "",
         });
         if (answer.button === 0) {
@@ -374,7 +374,7 @@ export class PresetPane {
     broughtInText(done, own) {
         const parts = [qsTr("%n presets imported", "", done.names.length)];
         if (done.renamed > 0) {
-            parts.push(qsTr("%n renamed, their names were taken", "", done.renamed));
+            parts.push(qsTr("%n renamed because their names were in use", "", done.renamed));
         }
         if (own === 0) {
             parts.push(qsTr("none for this action"));

@@ -91,7 +91,7 @@ export class PresetStore {
     setAside() {
         const name = this.files.setAsideUnusableDatabase(this.path());
         if (name !== "") {
-            this.notice = fill(qsTr("The presets database was empty and could not be used. It is called %1 now, and there is a new one."),
+            this.notice = fill(qsTr("The presets database was empty. It was renamed to %1, and a new one was created."),
                                splitPath(name).name);
         }
         return name !== "";
@@ -268,28 +268,28 @@ export class PresetStore {
     readProblem() {
         const path = this.path();
         if (!this.files.info(path).exists) {
-            return qsTr("Presets cannot be kept: their database cannot be made.");
+            return qsTr("Presets cannot be saved: the database could not be created.");
         }
         const text = this.files.readText(path);
         if (text === null) {
             return qsTr("The presets database cannot be read.");
         }
         if (text !== "" && !text.startsWith(HEADER)) {
-            return qsTr("The presets database is damaged. It is left as it is.");
+            return qsTr("The presets database is damaged. It was not changed.");
         }
         return text === "" || this.rows("StrField0", "appSys", "AppResource") !== null
-            ? qsTr("The presets database has no place for presets. It is left as it is.")
-            : qsTr("The presets database is in use by another program, or damaged. It is left as it is.");
+            ? qsTr("The presets database has no table for presets. It was not changed.")
+            : qsTr("The presets database is in use by another program or damaged. It was not changed.");
     }
 
     writeProblem() {
         const path = this.path();
         const folder = path.slice(0, path.lastIndexOf("/"));
         if (!this.files.info(path).writable || !this.files.info(folder).writable) {
-            return qsTr("The presets database is read-only; nothing was changed.");
+            return qsTr("The presets database is read-only. It was not changed.");
         }
         return this.rows(NAME, "") === null
             ? this.readProblem()
-            : qsTr("The presets database is in use by another program, or the disk is full; nothing was changed.");
+            : qsTr("The presets database is in use by another program, or the disk is full. It was not changed.");
     }
 }

@@ -265,8 +265,8 @@ export function presetOf(row, kinds) {
 
 function stateOf(state, settings) {
     const notes = {
-        unknown: qsTr("This preset was not made by Quorlin. It is left as it is."),
-        newer: qsTr("This preset was made by a newer Quorlin. It is left as it is."),
+        unknown: qsTr("This preset was not made by Quorlin. It was not changed."),
+        newer: qsTr("This preset was made by a newer version of Quorlin. It was not changed."),
         damaged: qsTr("This preset is damaged and cannot be used."),
     };
     return { state: state, settings: settings, note: notes[state] || "" };
@@ -301,17 +301,17 @@ export function nameProblem(text, taken) {
         return qsTr("A name cannot have a straight apostrophe (') in it. A curved one (\u2019) is fine.");
     }
     if (name.indexOf("|") >= 0) {
-        return qsTr("A name cannot have a bar (|) in it.");
+        return qsTr("A name cannot contain a vertical bar (|).");
     }
     // All that is left to be written as a code: control characters, and half a character.
     if (encoded(name.replace(/%/g, "")).indexOf("%") >= 0) {
-        return qsTr("A name cannot have line breaks or control characters in it.");
+        return qsTr("A name cannot contain line breaks or control characters.");
     }
     if (name.length > LONGEST_NAME) {
         return qsTr("A name can have up to %n characters.", "", LONGEST_NAME);
     }
     const other = taken.find((known) => sameName(known, name));
-    return other === undefined ? "" : fill(qsTr("There is a preset named %1 already."), other);
+    return other === undefined ? "" : fill(qsTr("A preset named %1 already exists."), other);
 }
 
 // What two names have in common that are one.
@@ -384,10 +384,10 @@ export function rowsOfFile(text) {
     }
     if (content === null || typeof content !== "object" || content.format !== FILE_MARK
         || !Array.isArray(content.presets)) {
-        return { rows: [], problem: qsTr("This file holds no presets.") };
+        return { rows: [], problem: qsTr("This file contains no presets.") };
     }
     if (content.version !== 1) {
-        return { rows: [], problem: qsTr("This file was made by a newer Quorlin.") };
+        return { rows: [], problem: qsTr("This file was made by a newer version of Quorlin.") };
     }
     const rows = content.presets.filter((row) => isRow(row) && nameProblem(row[0], []) === "");
     const lost = content.presets.length - rows.length;

@@ -146,7 +146,7 @@ export class CommentJob {
         // What cannot be reverted as a whole stands apart, as a run beside the other.
         const lostPages = result.pages > 0;
         const run = lostPages ? work.pagesRun : work.run;
-        const action = lostPages ? qsTr("Write comment, keep the first page only") : work.action;
+        const action = lostPages ? qsTr("Write comment, keep only the first page") : work.action;
         editsOf([result], run).forEach((edit) => work.edits.push(edit));
         work.problem = work.problem || appendRows(files, [editRow(result, action, new Date().toISOString(), run)]);
     }

@@ -77,16 +77,16 @@ function* written(comments, path, before, comment) {
     const isThere = after.problem !== "" || after.comment === comment;
     return { path: path, status: isThere ? "OK" : "Failed", before: before,
              after: after.problem === "" ? after.comment : comment, pagesLeft: after.pagesLost,
-             reason: isThere ? "" : qsTr("The file does not say what was written into it.") };
+             reason: isThere ? "" : qsTr("The file does not contain what was written.") };
 }
 
 /** What is said of pages that go, or would go. */
 export function pagesGone(pages) {
-    return qsTr("%n further pages were taken out and do not come back.", "", pages);
+    return qsTr("%n more pages were removed. This cannot be undone.", "", pages);
 }
 
 function pagesInTheWay(pages) {
-    return qsTr("It has %n further pages, which would be lost.", "", pages);
+    return qsTr("It has %n more pages, which would be lost.", "", pages);
 }
 
 // A file whose old comment cannot be read keeps it.
@@ -121,17 +121,18 @@ export function* writing(comments, paths, comment, pagesMayGo) {
 // Why an edit is not reverted; null where it can be.
 function* obstacle(comments, edit) {
     if (!comments.isThere(edit.path)) {
-        return failed(edit.path, qsTr("The file is not there any more."), "");
+        return failed(edit.path, qsTr("The file no longer exists."), "");
     }
     const now = yield* comments.look(edit.path);
     if (now.problem !== "") {
         return failed(edit.path, now.problem, "");
     }
     if (now.comment === edit.before) {
-        return skipped(edit.path, qsTr("It has its old comment already."), now.comment);
+        return skipped(edit.path, qsTr("It already has its old comment."), now.comment);
     }
     return now.comment === edit.after ? null
-        : skipped(edit.path, fill(qsTr("The comment was changed since and stays: “%1”"), now.comment), now.comment);
+        : skipped(edit.path, fill(qsTr("The comment has been changed since and is kept: “%1”"), now.comment),
+                  now.comment);
 }
 
 /**
@@ -178,7 +179,7 @@ export function editsOf(results, run) {
 /** What an edit was, as one sentence. */
 export function editWords(before, after) {
     if (before === "" || after === "") {
-        return before === "" ? fill(qsTr("“%1” was written"), after) : fill(qsTr("“%1” was emptied"), before);
+        return before === "" ? fill(qsTr("“%1” was written"), after) : fill(qsTr("“%1” was cleared"), before);
     }
     return fill(qsTr("“%1” became “%2”"), before, after);
 }

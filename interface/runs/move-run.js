@@ -119,7 +119,7 @@ export class MoveRun extends BaseRun {
             return true;
         }
         const answer = shell.ask({
-            title: qsTr("Too little room"), text: problem, detail: qsTr("Files that find no room stay where they are."),
+            title: qsTr("Not enough space"), text: problem, detail: qsTr("Files that do not fit stay where they are."),
             buttons: [qsTr("Start Anyway"), qsTr("Cancel")], initial: 1, escape: 1, check: "",
         });
         return answer.button === 0;
@@ -199,7 +199,7 @@ export class MoveRun extends BaseRun {
 
     endSimulation(plan) {
         const ready = plan.states.filter((state) => state === "ready").length;
-        const parts = [fill(qsTr("Simulation: %1"), this.window.action.startText(ready, this.settings))];
+        const parts = [fill(qsTr("Dry run: %1"), this.window.action.startText(ready, this.settings))];
         if (this.leftOut > 0) {
             parts.push(fill(qsTr("%1 left out"), this.leftOut));
         }
@@ -351,7 +351,7 @@ export class MoveRun extends BaseRun {
     }
 
     * ending(how, value) {
-        const reason = how === "failed" ? String(value) : qsTr("cancelled before its turn");
+        const reason = how === "failed" ? String(value) : qsTr("cancelled");
         for (let i = 0; i < this.items.length; i += 1) {
             if (!this.done[i]) {
                 this.noteResult(this.items[i], { status: "Skipped", reason: reason, path: "" });

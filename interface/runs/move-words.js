@@ -8,19 +8,19 @@ function nameOf(path) {
 }
 
 const REFUSED = {
-    empty: () => qsTr("name is empty"),
-    illegal: () => qsTr("a name cannot have “/” in it or be “.” or “..”"),
-    long: () => qsTr("name is too long"),
-    gone: () => qsTr("the file is not there any more"),
-    twice: (other) => fill(qsTr("%1 would get this name too"), other),
-    taken: (other) => (other ? fill(qsTr("name is taken by %1, which is not in this list or stays"), other)
-                             : qsTr("name is taken by a file not in this list")),
+    empty: () => qsTr("the name is empty"),
+    illegal: () => qsTr("a name cannot contain “/” or be “.” or “..”"),
+    long: () => qsTr("the name is too long"),
+    gone: () => qsTr("the file no longer exists"),
+    twice: (other) => fill(qsTr("same new name as %1"), other),
+    taken: (other) => (other ? fill(qsTr("name in use by %1, which keeps its name"), other)
+                             : qsTr("name in use by a file that is not in this list")),
     "case": (other) => fill(qsTr("differs only by case or accents from %1"), other),
-    inside: () => qsTr("a folder cannot go into itself"),
-    locked: () => qsTr("the folder cannot be written"),
-    leader: () => qsTr("the file that it goes with stays"),
-    along: (other) => (other ? fill(qsTr("a file that goes along cannot: %1 is in its place"), other)
-                             : qsTr("a file that goes along cannot")),
+    inside: () => qsTr("a folder cannot be moved into itself"),
+    locked: () => qsTr("the folder is read-only"),
+    leader: () => qsTr("the picture of this sidecar file stays"),
+    along: (other) => (other ? fill(qsTr("a sidecar file cannot be moved: %1 is in its place"), other)
+                             : qsTr("a sidecar file cannot be moved")),
 };
 
 /** Why a wish cannot be had. */
@@ -29,7 +29,7 @@ export function refusalText(item) {
     const other = nameOf(item.other);
     // The name itself is what is taken: saying it again would say nothing.
     return words === undefined
-        ? qsTr("cannot be done") : words(item.code === "taken" && other === nameOf(item.to) ? "" : other);
+        ? qsTr("not possible") : words(item.code === "taken" && other === nameOf(item.to) ? "" : other);
 }
 
 function companions(row) {
@@ -45,12 +45,12 @@ function companions(row) {
 
 function readyText(row, item) {
     if (item.code === "aside") {
-        return fill(qsTr("changes places with %1: done in two steps"), nameOf(item.other));
+        return fill(qsTr("swaps names with %1"), nameOf(item.other));
     }
     if (item.code === "case" && row.along.length > 0) {
         return fill(qsTr("ready, with its %1"), companions(row));
     }
-    const words = { numbered: qsTr("ready, numbered because the name is taken"), disk: qsTr("ready, onto another disk"),
+    const words = { numbered: qsTr("ready, numbered because the file exists"), disk: qsTr("ready, to another disk"),
                     "case": qsTr("ready, only the case changes") };
     return words[item.code]
         || (row.along.length > 0 ? fill(qsTr("ready, with its %1"), companions(row)) : qsTr("ready"));
@@ -59,7 +59,7 @@ function readyText(row, item) {
 function ready(row, item) {
     const isPlainMove = item.code === "" || item.code === "case";
     const notes = row.notes
-        .concat(row.along.length > 0 && !isPlainMove ? [fill(qsTr("Goes with its %1."), companions(row))] : []);
+        .concat(row.along.length > 0 && !isPlainMove ? [fill(qsTr("Includes its %1."), companions(row))] : []);
     if (row.caution !== "") {
         const text = readyText(row, item);
         return { state: "ready", kind: "caution", text: row.caution,
@@ -77,8 +77,8 @@ const TAKEN = ["taken", "twice", "case"];
 // The rule for names that are taken is to leave such files where they are.
 function skipped(item) {
     const text = item.code === "twice"
-        ? fill(qsTr("stays: %1 gets this name"), nameOf(item.other)) : qsTr("stays: a file of this name is there");
-    return { state: "same", kind: "caution", text: text, detail: fill(qsTr("In the way: %1"), item.other) };
+        ? fill(qsTr("stays: %1 gets this name"), nameOf(item.other)) : qsTr("stays: file already exists");
+    return { state: "same", kind: "caution", text: text, detail: fill(qsTr("Existing file: %1"), item.other) };
 }
 
 /**
@@ -87,14 +87,14 @@ function skipped(item) {
  */
 export function stateOf(row, item, leaderName) {
     if (row.goesWith >= 0) {
-        return { state: "along", kind: "waiting", text: fill(qsTr("goes along with %1"), leaderName), detail: "" };
+        return { state: "along", kind: "waiting", text: fill(qsTr("sidecar file of %1"), leaderName), detail: "" };
     }
     if (item === null) {
         return { state: row.isLeft ? "same" : "attention", kind: row.isLeft ? "caution" : "bad", text: row.reason,
                  detail: row.notes.join("\n") };
     }
     if (item.status === "same") {
-        return { state: "same", kind: "none", text: qsTr("stays as it is"), detail: row.notes.join("\n") };
+        return { state: "same", kind: "none", text: qsTr("unchanged"), detail: row.notes.join("\n") };
     }
     if (item.status === "refused" && row.skips && TAKEN.indexOf(item.code) >= 0) {
         return skipped(item);

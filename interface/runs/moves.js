@@ -10,13 +10,13 @@ function startText(window) {
         return window.action.title();
     }
     const text = window.action.startText(ready, window.settings);
-    return window.settings.simulation ? fill(qsTr("Simulate: %1"), text) : text;
+    return window.settings.simulation ? fill(qsTr("Dry Run: %1"), text) : text;
 }
 
 function startNote(window) {
     const planned = window.planned;
     if (planned.named !== undefined) {
-        return fill(qsTr("Working out names: %1 of %2…"), planned.named, planned.all);
+        return fill(qsTr("Planning: %1 of %2…"), planned.named, planned.all);
     }
     // After a run there is no plan until something changes.
     if (window.pictures.tickedCount === 0 || planned.ready === undefined) {
@@ -27,10 +27,10 @@ function startNote(window) {
         parts.push(qsTr("%n need attention", "", planned.attention));
     }
     if (planned.same > 0) {
-        parts.push(qsTr("%n stay as they are", "", planned.same));
+        parts.push(qsTr("%n unchanged", "", planned.same));
     }
     if (planned.along > 0) {
-        parts.push(qsTr("%n go along", "", planned.along));
+        parts.push(qsTr("%n sidecar files", "", planned.along));
     }
     return parts.concat(planned.ready > 0 ? [qsTr("can be undone")] : []).join(" · ");
 }
@@ -48,6 +48,6 @@ export const MOVES = {
     startText: startText,
     startNote: startNote,
     isReady: (window) => window.pictures.tickedCount > 0 && window.pictures.settled && window.planned.ready > 0,
-    simulationText: () => qsTr("Simulation: show, move nothing"),
+    simulationText: () => qsTr("Dry run: move nothing"),
     replaces: () => false,
 };

@@ -136,7 +136,7 @@ function settleName(item, names, rule, context) {
         context.cancelled = true;
         skip(item, qsTr("cancelled"));
     } else if (chosen === "skip") {
-        skip(item, given ? qsTr("another picture of this run gets this name") : qsTr("a file of this name is there"));
+        skip(item, given ? qsTr("another picture in this run has the same new name") : qsTr("file already exists"));
     } else {
         replaceOrNumber(item, names, chosen === "replace" && !given ? existing : null, context);
     }
@@ -145,7 +145,7 @@ function settleName(item, names, rule, context) {
 // A picture that cannot be read may have been taken away since it was added.
 function reasonOf(photo, planned, services) {
     return planned.status === "Failed" && !services.files.info(photo.path).exists
-        ? qsTr("the picture is no longer there") : planned.reason || "";
+        ? qsTr("the picture no longer exists") : planned.reason || "";
 }
 
 function itemFor(photo, planned, settings, services) {
@@ -158,7 +158,7 @@ function itemFor(photo, planned, settings, services) {
     };
     if (item.status === "ready" && !isSound(settings.output.destination)) {
         item.status = "Failed";
-        item.reason = qsTr("the folder to save to has no name of its own");
+        item.reason = qsTr("the destination folder has no name");
     }
     return item;
 }

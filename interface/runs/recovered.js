@@ -6,15 +6,15 @@ import { fill } from "../lib/wording.js";
 export function recoveredText(run) {
     const parts = [];
     if (run.done + run.finished > 0) {
-        parts.push(qsTr("%n items have their new names", "", run.done + run.finished));
+        parts.push(qsTr("%n files have their new names", "", run.done + run.finished));
     }
     if (run.takenBack > 0) {
-        parts.push(qsTr("%n items were taken back", "", run.takenBack));
+        parts.push(qsTr("%n files restored", "", run.takenBack));
     }
     if (run.left > 0) {
-        parts.push(qsTr("the turn of %n items had not come", "", run.left));
+        parts.push(qsTr("%n files not started", "", run.left));
     }
-    const what = fill(qsTr("%1 was interrupted and is ended now"), run.title);
+    const what = fill(qsTr("%1 was interrupted and has been cleaned up"), run.title);
     return (parts.length > 0 ? fill(qsTr("%1: %2"), what, parts.join(", ")) : what) + ".";
 }
 

@@ -50,14 +50,14 @@ export function roomText(disks, byteText) {
     const sum = disks.reduce((bytes, each) => bytes + each.bytes, 0);
     if (tight.length > 0) {
         return { note: "",
-                 problem: fill(qsTr("The files need %1, but only %2 are free for %3."), byteText(tight[0].bytes),
+                 problem: fill(qsTr("The files need %1, but only %2 is free for %3."), byteText(tight[0].bytes),
                                          byteText(tight[0].free), tight[0].folder) };
     }
     if (sum === 0) {
         return { note: "", problem: "" };
     }
     const free = disks.length === 1 && disks[0].free >= 0
-        ? "; " + fill(qsTr("%1 are free"), byteText(disks[0].free)) : "";
+        ? "; " + fill(qsTr("%1 free"), byteText(disks[0].free)) : "";
     return { note: fill(qsTr("%1 to be written"), byteText(sum)) + free, problem: "" };
 }
 
@@ -70,6 +70,6 @@ export function roomProblem(path, folder, kind, files) {
     const needsRoom = kind === "copy" || (kind === "move" && target.disk !== files.space(path).disk);
     const bytes = needsRoom ? files.info(path).bytes : 0;
     return target.free >= 0 && bytes > target.free
-        ? fill(qsTr("too little room (needs %1, %2 are free)"), files.byteText(bytes), files.byteText(target.free))
+        ? fill(qsTr("not enough space (needs %1, %2 free)"), files.byteText(bytes), files.byteText(target.free))
         : "";
 }

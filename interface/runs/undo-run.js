@@ -19,7 +19,7 @@ function sentence(text) {
 export function undoWords(moves, run) {
     if (run === "" || WRITES.test(run)) {
         return { can: false, button: qsTr("Undo This Run"), isRedo: false,
-                 note: qsTr("This run wrote new files and moved none, so that there is nothing to take back: its results can be deleted.") };
+                 note: qsTr("This run wrote new files and moved none. To undo it, delete its results.") };
     }
     const known = moves.runs().find((each) => each.id === run) || { undoes: "" };
     const isRedo = Boolean(known.undoes);
@@ -27,7 +27,7 @@ export function undoWords(moves, run) {
     const undoable = moves.undoable(run);
     if (undoable.can) {
         return { can: true, button: button, isRedo: isRedo,
-                 note: qsTr("%n files can be taken back.", "", undoable.count) };
+                 note: qsTr("%n files can be restored.", "", undoable.count) };
     }
     return { can: false, button: button, isRedo: isRedo, note: sentence(undoable.reason) };
 }
@@ -43,10 +43,10 @@ function revertNote(chosen, left) {
         return qsTr("No comment was changed.");
     }
     if (left <= 0) {
-        return qsTr("All its comments were reverted already.");
+        return qsTr("All its comments have already been reverted.");
     }
     const now = qsTr("%n comments can be reverted.", "", left);
-    const before = qsTr("%n were reverted before.", "", chosen.undone);
+    const before = qsTr("%n have already been reverted.", "", chosen.undone);
     return chosen.undone > 0 ? now + " " + before : now;
 }
 

@@ -17,7 +17,7 @@ export function showItem(list, id, item, simulated) {
     const detail = item.notes.join("\n");
     const remarked = (text) => [text].concat(item.remarks).join(", ");
     if (item.asks) {
-        list.setStatus(id, "planned", remarked(qsTr("name is taken: will ask")), detail);
+        list.setStatus(id, "planned", remarked(qsTr("file exists: will ask")), detail);
     } else if (item.replaces) {
         const text = item.replacesOriginal ? qsTr("replaces original") : fill(qsTr("replaces %1"), item.name);
         list.setStatus(id, "caution", remarked(text), detail);

@@ -21,10 +21,10 @@ import { Joining } from "./joining.js";
 /** Asks what becomes of a file whose name is taken: {rule, forAll}. */
 export function askAboutName(question) {
     const answer = shell.ask({
-        title: qsTr("Name taken"),
-        text: fill(qsTr("There is a file “%1” in the folder already."), question.name),
+        title: qsTr("File exists"),
+        text: fill(qsTr("“%1” already exists in this folder."), question.name),
         detail: question.folder,
-        buttons: [qsTr("Number"), qsTr("Replace"), qsTr("Skip"), qsTr("Cancel Run")],
+        buttons: [qsTr("Keep Both"), qsTr("Replace"), qsTr("Skip"), qsTr("Cancel Run")],
         initial: 0,
         escape: 3,
         check: qsTr("Do this for all"),
@@ -135,12 +135,12 @@ export class WriteRun extends BaseRun {
 
     /** What becomes of originals that are replaced. */
     replacedText(bytes) {
-        return fill(qsTr("What is in them now goes to the trash (%1) and comes back with Undo."), bytes);
+        return fill(qsTr("The replaced files (%1) go to the trash. Undo brings them back."), bytes);
     }
 
     endSimulation() {
         const ready = this.items.filter((item) => item.status === "ready").length;
-        const parts = [qsTr("Simulation: %n pictures would be written", "", ready)];
+        const parts = [qsTr("Dry run: %n pictures would be written", "", ready)];
         if (ready < this.items.length) {
             parts.push(fill(qsTr("%1 left out"), this.items.length - ready));
         }
@@ -218,8 +218,8 @@ export class WriteRun extends BaseRun {
     // The run waits until there is room.
     askAboutRoom(item) {
         const answer = shell.ask({
-            title: qsTr("The disk is full"), text: fill(qsTr("There is no room left in %1."), item.folder),
-            detail: qsTr("What is done stays. The run can go on when there is room, or in another folder."),
+            title: qsTr("The disk is full"), text: fill(qsTr("There is no space left in %1."), item.folder),
+            detail: qsTr("Finished pictures are kept. Free some space and try again, or choose another folder."),
             buttons: [qsTr("Retry"), qsTr("Choose Folder…"), qsTr("Cancel")], initial: 0, escape: 2, check: "",
         });
         const folder = answer.button === 1 ? shell.chooseFolder(qsTr("Save the rest to"), item.folder) : null;
@@ -311,10 +311,10 @@ export class WriteRun extends BaseRun {
 
     timeText() {
         if (this.flow !== null && this.flow.isStopping) {
-            return qsTr("stopping after the pictures in progress");
+            return qsTr("stopping after the current pictures");
         }
         return this.paused && this.flow !== null && this.inWork > 0
-            ? qsTr("pausing after the pictures in progress") : super.timeText();
+            ? qsTr("pausing after the current pictures") : super.timeText();
     }
 
     togglePause() {
@@ -372,7 +372,7 @@ export class WriteRun extends BaseRun {
 
     // Each picture has one final state, also those whose turn never came.
     * ending(how, value) {
-        const reason = how === "failed" ? String(value) : qsTr("cancelled before its turn");
+        const reason = how === "failed" ? String(value) : qsTr("cancelled");
         const isStopped = this.flow !== null && this.flow.isStopping;
         this.flow = null;
         for (let i = 0; i < this.items.length; i += 1) {

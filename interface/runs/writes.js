@@ -17,12 +17,12 @@ function startText(window) {
         return window.action.title();
     }
     if (window.settings.output.simulation) {
-        return fill(qsTr("Simulate: %1"), window.action.startText(total));
+        return fill(qsTr("Dry Run: %1"), window.action.startText(total, window.settings));
     }
     return originals > 0
-        ? window.action.startText(total) + ", "
+        ? window.action.startText(total, window.settings) + ", "
         + qsTr("Replace %n Originals", "", originals)
-        : window.action.startText(total);
+        : window.action.startText(total, window.settings);
 }
 
 // With how much of the disk is needed, once that is known.
@@ -56,6 +56,6 @@ export const WRITES = {
     startText: startText,
     startNote: startNote,
     isReady: (window) => window.pictures.tickedCount > 0 && window.pictures.settled,
-    simulationText: () => qsTr("Simulation: show, write nothing"),
+    simulationText: () => qsTr("Dry run: write nothing"),
     replaces: (window) => window.planned.originals > 0 && !window.settings.output.simulation,
 };

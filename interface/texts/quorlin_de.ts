@@ -28,15 +28,15 @@
         <translation>Schließen</translation>
     </message>
     <message>
-        <source>What keeps those who read pictures from doing harm</source>
-        <translation>Was verhindert, dass das Lesen von Bildern Schaden anrichtet</translation>
+        <source>How the processes that read pictures are confined</source>
+        <translation>Wie die Prozesse abgeschirmt sind, die Bilder lesen</translation>
     </message>
     <message>
         <source>Copy Versions</source>
         <translation>Versionen kopieren</translation>
     </message>
     <message>
-        <source>Copy the versions, for a report of a fault</source>
+        <source>Copy the versions for a bug report</source>
         <translation>Die Versionen für einen Fehlerbericht kopieren</translation>
     </message>
 </context>
@@ -51,28 +51,28 @@
         <translation>Fil&amp;ter …</translation>
     </message>
     <message>
-        <source>Add only some of the files, by type, size, date or name</source>
-        <translation>Nur manche Dateien hinzufügen, nach Art, Größe, Datum oder Namen</translation>
+        <source>Add only files of a certain type, size, date or name</source>
+        <translation>Nur Dateien mit bestimmtem Typ, Datum, Namen oder bestimmter Größe hinzufügen</translation>
     </message>
     <message>
         <source>T&amp;ypes</source>
-        <translation>&amp;Arten</translation>
+        <translation>T&amp;ypen</translation>
     </message>
     <message>
-        <source>all, or for example: jpg, tif</source>
-        <translation>alle, oder etwa: jpg, tif</translation>
+        <source>all, or such as jpg, tif</source>
+        <translation>alle, oder etwa jpg, tif</translation>
     </message>
     <message>
-        <source>Types of files, by extension</source>
-        <translation>Arten der Dateien, nach Endung</translation>
+        <source>File types, by extension</source>
+        <translation>Dateitypen, nach Endung</translation>
     </message>
     <message>
         <source>Name &amp;contains</source>
         <translation>Name &amp;enthält</translation>
     </message>
     <message>
-        <source>anything</source>
-        <translation>Beliebiges</translation>
+        <source>any</source>
+        <translation>beliebig</translation>
     </message>
     <message>
         <source>Part of the name</source>
@@ -103,8 +103,8 @@
         <translation>&amp;Datum von</translation>
     </message>
     <message>
-        <source>The date taken, or where a file states none, the day on which it was changed</source>
-        <translation>Das Aufnahmedatum, oder wo eine Datei keines nennt, der Tag ihrer Änderung</translation>
+        <source>The date taken, or the date changed if the file has no date taken</source>
+        <translation>Das Aufnahmedatum, oder das Änderungsdatum, wenn die Datei kein Aufnahmedatum hat</translation>
     </message>
     <message>
         <source>Date from</source>
@@ -149,19 +149,19 @@
         <translation>Muster</translation>
     </message>
     <message>
-        <source>What lies under transparent parts</source>
-        <translation>Was unter transparenten Bereichen liegt</translation>
+        <source>What fills transparent parts</source>
+        <translation>Was transparente Bereiche füllt</translation>
     </message>
     <message>
-        <source>Colour under transparent parts</source>
-        <translation>Farbe unter transparenten Bereichen</translation>
+        <source>Colour for transparent parts</source>
+        <translation>Farbe für transparente Bereiche</translation>
     </message>
     <message>
-        <source>Pattern under transparent parts</source>
-        <translation>Muster unter transparenten Bereichen</translation>
+        <source>Pattern for transparent parts</source>
+        <translation>Muster für transparente Bereiche</translation>
     </message>
     <message>
-        <source>About patterns of your own</source>
+        <source>About your own patterns</source>
         <translation>Über eigene Muster</translation>
     </message>
     <message>
@@ -169,20 +169,16 @@
         <translation>Rand</translation>
     </message>
     <message>
-        <source>Band</source>
-        <translation>Rahmen</translation>
+        <source>Border width</source>
+        <translation>Randbreite</translation>
     </message>
     <message>
-        <source>Colour of the band</source>
-        <translation>Farbe des Rahmens</translation>
+        <source>Border colour</source>
+        <translation>Randfarbe</translation>
     </message>
     <message>
         <source> px</source>
         <translation> px</translation>
-    </message>
-    <message>
-        <source>Width of the band</source>
-        <translation>Breite des Rahmens</translation>
     </message>
     <message>
         <source>Result</source>
@@ -200,16 +196,16 @@
         <translation>Kamerauhren</translation>
     </message>
     <message>
-        <source>Where the clock of a camera was wrong, its dates are told later or earlier: in the order of the list, in new names and in folders. No file is changed.</source>
-        <translation>Ging die Uhr einer Kamera falsch, so werden ihre Daten später oder früher genannt: in der Reihenfolge der Liste, in neuen Namen und in Ordnern. Keine Datei wird geändert.</translation>
+        <source>Correct the dates of a camera whose clock was wrong. This affects sorting, new names and folders. No file is changed.</source>
+        <translation>Korrigieren Sie die Daten einer Kamera, deren Uhr falsch ging. Das wirkt auf Sortierung, neue Namen und Ordner. Keine Datei wird geändert.</translation>
     </message>
     <message>
         <source>Ca&amp;mera</source>
         <translation>Ka&amp;mera</translation>
     </message>
     <message>
-        <source>Tell its &amp;dates</source>
-        <translation>Ihre &amp;Daten</translation>
+        <source>Move its &amp;dates</source>
+        <translation>Ihre &amp;Daten verschieben</translation>
     </message>
     <message>
         <source>Later or earlier</source>
@@ -489,8 +485,8 @@
         <translation>Dateityp der Ergebnisse</translation>
     </message>
     <message>
-        <source>What the pictures become</source>
-        <translation>Was aus den Bildern wird</translation>
+        <source>File type to convert to</source>
+        <translation>Dateityp, in den umgewandelt wird</translation>
     </message>
     <message>
         <source>Quality</source>
@@ -501,8 +497,8 @@
         <translation>JPEG-Qualität, 1 bis 9</translation>
     </message>
     <message>
-        <source>The higher, the finer and the larger</source>
-        <translation>Je höher, desto feiner und größer</translation>
+        <source>Higher quality means larger files</source>
+        <translation>Höhere Qualität bedeutet größere Dateien</translation>
     </message>
     <message>
         <source>Result</source>
@@ -528,8 +524,8 @@
         <translation>Pixel</translation>
     </message>
     <message>
-        <source>What the frame is given by</source>
-        <translation>Wie der Ausschnitt angegeben wird</translation>
+        <source>How the frame is set</source>
+        <translation>Wie der Ausschnitt festgelegt wird</translation>
     </message>
     <message>
         <source>Width, height</source>
@@ -552,20 +548,20 @@
         <translation>Höhe des Ausschnitts</translation>
     </message>
     <message>
-        <source>Cut away</source>
-        <translation>Abschneiden</translation>
+        <source>Trim</source>
+        <translation>Beschneiden</translation>
     </message>
     <message>
         <source> %</source>
         <translation> %</translation>
     </message>
     <message>
-        <source>Per cent to cut away from both sides</source>
-        <translation>Prozent, die an beiden Seiten wegfallen</translation>
+        <source>Percentage to trim from width and height</source>
+        <translation>Prozentsatz, der von Breite und Höhe abgeschnitten wird</translation>
     </message>
     <message>
-        <source>Pixels to cut away from both sides</source>
-        <translation>Pixel, die an beiden Seiten wegfallen</translation>
+        <source>Pixels to trim from width and height</source>
+        <translation>Pixel, die von Breite und Höhe abgeschnitten werden</translation>
     </message>
     <message>
         <source>Ratio</source>
@@ -628,8 +624,8 @@
         <translation>Bei Hochformat tauschen</translation>
     </message>
     <message>
-        <source>The longer number goes with the longer side of each picture: 3:2 becomes 2:3 in pictures that stand</source>
-        <translation>Die größere Zahl gilt der längeren Seite jedes Bildes: aus 3:2 wird bei stehenden Bildern 2:3</translation>
+        <source>The larger number is used for the longer side: 3:2 becomes 2:3 in portrait pictures</source>
+        <translation>Die größere Zahl gilt für die längere Seite: Aus 3:2 wird bei Hochformat 2:3</translation>
     </message>
     <message>
         <source>First number of the ratio</source>
@@ -640,12 +636,12 @@
         <translation>Zweite Zahl des Verhältnisses</translation>
     </message>
     <message>
-        <source>Attention</source>
+        <source>Focus of attention</source>
         <translation>Blickfang</translation>
     </message>
     <message>
-        <source>The frame lies where the eye is drawn to, found in each picture</source>
-        <translation>Der Rahmen liegt dort, wohin der Blick fällt; das wird in jedem Bild gesucht</translation>
+        <source>Finds in each picture the part that draws the eye, and places the frame there</source>
+        <translation>Sucht in jedem Bild die Stelle, die den Blick anzieht, und legt den Ausschnitt dorthin</translation>
     </message>
     <message>
         <source>Resolution</source>
@@ -653,19 +649,19 @@
     </message>
     <message>
         <source>Unit of the offsets</source>
-        <translation>Einheit der Verschiebungen</translation>
+        <translation>Einheit des Versatzes</translation>
     </message>
     <message>
         <source>Unit of the offsets: pixels, millimetres, centimetres, inches, picas, points</source>
-        <translation>Einheit der Verschiebungen: Pixel, Millimeter, Zentimeter, Zoll, Pica, Punkt</translation>
+        <translation>Einheit des Versatzes: Pixel, Millimeter, Zentimeter, Zoll, Pica, Punkt</translation>
     </message>
     <message>
-        <source>Resolution of the lengths</source>
-        <translation>Auflösung der Längen</translation>
+        <source>Resolution used for lengths</source>
+        <translation>Auflösung für Längen</translation>
     </message>
     <message>
-        <source>The dots per inch that make pixels of these lengths; a chosen resolution is written into the file</source>
-        <translation>Die Punkte pro Zoll, die aus diesen Längen Pixel machen; eine gewählte Auflösung wird in die Datei geschrieben</translation>
+        <source>Dots per inch used to turn lengths into pixels. A chosen resolution is also written into the file.</source>
+        <translation>Punkte pro Zoll, mit denen Längen in Pixel umgerechnet werden. Eine gewählte Auflösung wird auch in die Datei geschrieben.</translation>
     </message>
     <message>
         <source>Dots per inch</source>
@@ -679,8 +675,8 @@
         <translation>Bilder oder Ordner hier ablegen</translation>
     </message>
     <message>
-        <source>They are shown one after the other, and each goes with one key into one of your folders.</source>
-        <translation>Sie werden nacheinander gezeigt, und jedes kommt mit einem Tastendruck in einen Ihrer Ordner.</translation>
+        <source>Pictures appear one at a time; press a key to send each one to a folder.</source>
+        <translation>Die Bilder erscheinen einzeln; ein Tastendruck schickt jedes in einen Ordner.</translation>
     </message>
     <message>
         <source>Add Pictures…</source>
@@ -695,28 +691,28 @@
         <translation>Ordner hinzufügen…</translation>
     </message>
     <message>
-        <source>Add all pictures of a folder and the folders in it (Ctrl+Shift+O)</source>
+        <source>Add all pictures in a folder and its subfolders (Ctrl+Shift+O)</source>
         <translation>Alle Bilder eines Ordners und seiner Unterordner hinzufügen (Strg+Umschalt+O)</translation>
     </message>
     <message>
         <source>The picture to sort</source>
-        <translation>Das Bild zum Einsortieren</translation>
+        <translation>Zu sortierendes Bild</translation>
     </message>
     <message>
         <source>← Back</source>
         <translation>← Zurück</translation>
     </message>
     <message>
-        <source>The picture before (Left, Backspace)</source>
+        <source>Previous picture (Left, Backspace)</source>
         <translation>Vorheriges Bild (Links, Rücktaste)</translation>
     </message>
     <message>
         <source>Skip →</source>
-        <translation>Weiter →</translation>
+        <translation>Überspringen →</translation>
     </message>
     <message>
-        <source>On to the next picture (Right)</source>
-        <translation>Weiter zum nächsten Bild (Rechts)</translation>
+        <source>Next picture (Right)</source>
+        <translation>Nächstes Bild (Rechts)</translation>
     </message>
     <message>
         <source>Trash</source>
@@ -731,8 +727,8 @@
         <translation>Rückgängig</translation>
     </message>
     <message>
-        <source>Take back the last deed (Ctrl+Z)</source>
-        <translation>Letzten Schritt zurücknehmen (Strg+Z)</translation>
+        <source>Undo (Ctrl+Z)</source>
+        <translation>Rückgängig (Strg+Z)</translation>
     </message>
     <message>
         <source>Back</source>
@@ -759,15 +755,15 @@
         <translation>Originalpixel</translation>
     </message>
     <message>
-        <source>Show the picture’s own pixels, and all of it again (Ctrl+2)</source>
-        <translation>Die eigenen Pixel des Bildes zeigen und wieder das ganze Bild (Strg+2)</translation>
+        <source>Switch between actual pixels and the whole picture (Ctrl+2)</source>
+        <translation>Zwischen Originalpixeln und ganzem Bild wechseln (Strg+2)</translation>
     </message>
 </context>
 <context>
     <name>HandPane</name>
     <message>
-        <source>Keys</source>
-        <translation>Tasten</translation>
+        <source>When a key is pressed</source>
+        <translation>Bei Tastendruck</translation>
     </message>
     <message>
         <source>Move</source>
@@ -783,7 +779,7 @@
     </message>
     <message>
         <source>What a key does with the picture</source>
-        <translation>Was eine Taste mit dem Bild tut</translation>
+        <translation>Was bei einem Tastendruck mit dem Bild geschieht</translation>
     </message>
     <message>
         <source>Folders</source>
@@ -791,18 +787,18 @@
     </message>
     <message>
         <source>Add…</source>
-        <translation>Wählen…</translation>
+        <translation>Hinzufügen …</translation>
     </message>
     <message>
-        <source>Choose a folder; folders can be dropped on the list too</source>
-        <translation>Ordner wählen; Ordner lassen sich auch auf der Liste ablegen</translation>
+        <source>Choose a folder, or drop folders on the list</source>
+        <translation>Einen Ordner wählen oder Ordner auf der Liste ablegen</translation>
     </message>
     <message>
         <source>New…</source>
         <translation>Neu…</translation>
     </message>
     <message>
-        <source>Make a new folder</source>
+        <source>Create a new folder</source>
         <translation>Neuen Ordner anlegen</translation>
     </message>
     <message>
@@ -810,8 +806,8 @@
         <translation>⋯</translation>
     </message>
     <message>
-        <source>More deeds for the chosen folder</source>
-        <translation>Mehr für den gewählten Ordner</translation>
+        <source>Folder Options</source>
+        <translation>Ordneroptionen</translation>
     </message>
     <message>
         <source>Name of the new folder</source>
@@ -822,15 +818,15 @@
         <translation>Abbrechen</translation>
     </message>
     <message>
-        <source>Make no folder (Esc)</source>
+        <source>Do not create a folder (Esc)</source>
         <translation>Keinen Ordner anlegen (Esc)</translation>
     </message>
     <message>
-        <source>Make Folder</source>
+        <source>Create Folder</source>
         <translation>Ordner anlegen</translation>
     </message>
     <message>
-        <source>Make the folder and give it a key (Return)</source>
+        <source>Create the folder and give it a key (Return)</source>
         <translation>Ordner anlegen und ihm eine Taste geben (Eingabe)</translation>
     </message>
     <message>
@@ -838,8 +834,8 @@
         <translation>Ordner und ihre Tasten</translation>
     </message>
     <message>
-        <source>Add the folders that you sort into. The first gets the key 1, and so on: up to 59 folders.</source>
-        <translation>Fügen Sie die Ordner hinzu, in die Sie sortieren. Der erste bekommt die Taste 1 und so weiter: bis zu 59 Ordner.</translation>
+        <source>Add up to 59 folders to sort into. The first one gets key 1, and so on.</source>
+        <translation>Fügen Sie bis zu 59 Zielordner hinzu. Der erste bekommt die Taste 1 und so weiter.</translation>
     </message>
 </context>
 <context>
@@ -855,25 +851,6 @@
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
-    </message>
-</context>
-<context>
-    <name>Print</name>
-    <message>
-        <source>Print</source>
-        <translation>Drucken</translation>
-    </message>
-    <message>
-        <source>Pictures made ready for the print</source>
-        <translation>Für den Druck vorbereitete Bilder</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Schließen</translation>
-    </message>
-    <message>
-        <source>Print…</source>
-        <translation>Drucken …</translation>
     </message>
 </context>
 <context>
@@ -1018,12 +995,12 @@
         <translation>Quorlin wurde unerwartet beendet</translation>
     </message>
     <message>
-        <source>A fault of its own ended Quorlin the last time. Your originals are not affected.</source>
-        <translation>Ein Fehler im Programm hat Quorlin beim letzten Mal beendet. Ihre Originale sind nicht betroffen.</translation>
+        <source>An error in Quorlin ended the last session. Your originals are not affected.</source>
+        <translation>Ein Fehler in Quorlin hat die letzte Sitzung beendet. Ihre Originale sind nicht betroffen.</translation>
     </message>
     <message>
-        <source>A report was kept on this computer and sent to nobody. It names the version, the action, the picture and the place of the fault.</source>
-        <translation>Ein Bericht liegt auf diesem Computer und wurde niemandem gesendet. Er nennt Version, Aktion, Bild und Stelle des Fehlers.</translation>
+        <source>A report was saved on this computer and not sent. It names the version, the action, the picture and the place of the error.</source>
+        <translation>Ein Bericht wurde auf diesem Computer gespeichert und nicht gesendet. Er nennt Version, Aktion, Bild und Stelle des Fehlers.</translation>
     </message>
     <message>
         <source>Copy Report</source>
@@ -1042,7 +1019,7 @@
     </message>
     <message>
         <source>Continue</source>
-        <translation>Weiter</translation>
+        <translation>Fortsetzen</translation>
     </message>
 </context>
 <context>
@@ -1052,8 +1029,8 @@
         <translation>Im Protokoll suchen</translation>
     </message>
     <message>
-        <source>Every word must occur somewhere in an entry (Ctrl+F)</source>
-        <translation>Jedes Wort muss irgendwo im Eintrag vorkommen (Strg+F)</translation>
+        <source>Shows entries that contain every word (Ctrl+F)</source>
+        <translation>Zeigt Einträge, die jedes Wort enthalten (Strg+F)</translation>
     </message>
     <message>
         <source>Show entries with this status</source>
@@ -1068,7 +1045,7 @@
         <translation>Bild zeigen</translation>
     </message>
     <message>
-        <source>Show the picture large, if it is still there (Enter)</source>
+        <source>Show the picture large, if it still exists (Enter)</source>
         <translation>Bild groß zeigen, falls es noch da ist (Eingabe)</translation>
     </message>
     <message>
@@ -1076,24 +1053,24 @@
         <translation>Im Ordner zeigen</translation>
     </message>
     <message>
-        <source>Open the folder of the file and choose the file there</source>
-        <translation>Ordner der Datei öffnen und die Datei darin auswählen</translation>
+        <source>Open the folder and select the file in it</source>
+        <translation>Den Ordner öffnen und die Datei darin auswählen</translation>
     </message>
     <message>
         <source>Export…</source>
         <translation>Exportieren…</translation>
     </message>
     <message>
-        <source>Save the entries that are shown as CSV, for spreadsheets</source>
-        <translation>Gezeigte Einträge als CSV für Tabellenprogramme speichern</translation>
+        <source>Save the entries shown as a CSV file for spreadsheets</source>
+        <translation>Die gezeigten Einträge als CSV-Datei für Tabellenprogramme speichern</translation>
     </message>
     <message>
         <source>More</source>
         <translation>Mehr</translation>
     </message>
     <message>
-        <source>More deeds for the log</source>
-        <translation>Mehr zum Protokoll</translation>
+        <source>Log Options</source>
+        <translation>Protokolloptionen</translation>
     </message>
     <message>
         <source>Runs</source>
@@ -1108,8 +1085,8 @@
         <translation>Kommentar zurücksetzen</translation>
     </message>
     <message>
-        <source>Give the chosen pictures their old comments again</source>
-        <translation>Den gewählten Bildern ihre alten Kommentare zurückgeben</translation>
+        <source>Restore the old comments of the selected pictures</source>
+        <translation>Die alten Kommentare der ausgewählten Bilder wiederherstellen</translation>
     </message>
     <message>
         <source>Undo This Run</source>
@@ -1128,8 +1105,8 @@
         <translation>Diese Einstellungen verwenden</translation>
     </message>
     <message>
-        <source>Show the action of this run, with the settings that it had</source>
-        <translation>Die Aktion dieses Durchlaufs zeigen, mit seinen Einstellungen</translation>
+        <source>Open the action of this run with its settings</source>
+        <translation>Die Aktion dieses Durchlaufs mit seinen Einstellungen öffnen</translation>
     </message>
 </context>
 <context>
@@ -1151,7 +1128,7 @@
         <translation>Ordner hinzufügen…</translation>
     </message>
     <message>
-        <source>Add all pictures of a folder and the folders in it (Ctrl+Shift+O)</source>
+        <source>Add all pictures in a folder and its subfolders (Ctrl+Shift+O)</source>
         <translation>Alle Bilder eines Ordners und seiner Unterordner hinzufügen (Strg+Umschalt+O)</translation>
     </message>
     <message>
@@ -1159,8 +1136,8 @@
         <translation>Leeren</translation>
     </message>
     <message>
-        <source>Take all pictures off the list; the files stay</source>
-        <translation>Alle Bilder aus der Liste nehmen; die Dateien bleiben</translation>
+        <source>Clear the list (files are not deleted)</source>
+        <translation>Die Liste leeren (Dateien werden nicht gelöscht)</translation>
     </message>
     <message>
         <source>Fit</source>
@@ -1171,8 +1148,8 @@
         <translation>Füllen</translation>
     </message>
     <message>
-        <source>How the preview fits its place</source>
-        <translation>Wie die Vorschau ihren Platz ausfüllt</translation>
+        <source>How the preview fits the view</source>
+        <translation>Wie die Vorschau die Ansicht füllt</translation>
     </message>
     <message>
         <source>Full Screen</source>
@@ -1191,11 +1168,11 @@
         <translation>Ordner wählen…</translation>
     </message>
     <message>
-        <source>Not Now</source>
-        <translation>Später</translation>
+        <source>No, Thanks</source>
+        <translation>Nein, danke</translation>
     </message>
     <message>
-        <source>It can be chosen in the preferences at any time (Ctrl+,)</source>
+        <source>You can choose it in the preferences at any time (Ctrl+,)</source>
         <translation>Er lässt sich jederzeit in den Einstellungen wählen (Strg+,)</translation>
     </message>
     <message>
@@ -1207,8 +1184,8 @@
         <translation>Bilder oder Ordner hier ablegen</translation>
     </message>
     <message>
-        <source>Then choose at the left what to do with them. Your originals stay as they are unless you say otherwise.</source>
-        <translation>Wählen Sie dann links, was mit ihnen geschehen soll. Ihre Originale bleiben, wie sie sind, sofern Sie nichts anderes bestimmen.</translation>
+        <source>Then choose an action on the left. Your originals stay unchanged unless you ask for it.</source>
+        <translation>Wählen Sie dann links eine Aktion. Ihre Originale bleiben unverändert, sofern Sie nichts anderes verlangen.</translation>
     </message>
     <message>
         <source>Preview of the original and the result</source>
@@ -1219,12 +1196,12 @@
         <translation>Bilder</translation>
     </message>
     <message>
-        <source>Simulation: show, move nothing</source>
-        <translation>Simulation: zeigen, nichts bewegen</translation>
+        <source>Dry run: move nothing</source>
+        <translation>Probelauf: nichts verschieben</translation>
     </message>
     <message>
-        <source>What simulation means</source>
-        <translation>Was Simulation bedeutet</translation>
+        <source>About dry runs</source>
+        <translation>Über Probeläufe</translation>
     </message>
     <message>
         <source>Resize Pictures</source>
@@ -1363,8 +1340,8 @@
         <translation>&amp;Große Vorschau</translation>
     </message>
     <message>
-        <source>Like the &amp;System</source>
-        <translation>Wie das &amp;System</translation>
+        <source>&amp;System</source>
+        <translation>&amp;System</translation>
     </message>
     <message>
         <source>&amp;Light</source>
@@ -1415,8 +1392,8 @@
         <translation>&amp;Handbuch</translation>
     </message>
     <message>
-        <source>Look for a &amp;New Version</source>
-        <translation>Nach &amp;neuer Version suchen</translation>
+        <source>Check for &amp;Updates</source>
+        <translation>Nach &amp;Aktualisierungen suchen</translation>
     </message>
     <message>
         <source>&amp;About Quorlin</source>
@@ -1431,56 +1408,56 @@
         <translation>Alle zeigen</translation>
     </message>
     <message>
-        <source>Show all rows of the list again</source>
-        <translation>Wieder alle Zeilen der Liste zeigen</translation>
+        <source>Show all rows of the list</source>
+        <translation>Alle Zeilen der Liste zeigen</translation>
     </message>
     <message>
         <source>Show Them…</source>
-        <translation>Zeigen…</translation>
+        <translation>Anzeigen …</translation>
     </message>
     <message>
-        <source>Say which files of the list this action leaves out</source>
-        <translation>Sagen, welche Dateien der Liste diese Aktion auslässt</translation>
+        <source>Show which files of the list this action cannot use</source>
+        <translation>Zeigen, welche Dateien der Liste diese Aktion nicht verwenden kann</translation>
     </message>
     <message>
         <source>Convert Them</source>
-        <translation>Konvertieren</translation>
+        <translation>Umwandeln</translation>
     </message>
     <message>
-        <source>Go to Convert, which takes them</source>
-        <translation>Zu „Konvertieren“ gehen, wo sie angenommen werden</translation>
+        <source>Go to Convert, which can use them</source>
+        <translation>Zu „Umwandeln“ wechseln, das sie verwenden kann</translation>
     </message>
     <message>
         <source>Try Sample Pictures</source>
         <translation>Beispielbilder ausprobieren</translation>
     </message>
     <message>
-        <source>Puts five pictures into the folder “Quorlin Samples” among your pictures</source>
-        <translation>Legt fünf Bilder in den Ordner „Quorlin Samples“ bei Ihren Bildern</translation>
+        <source>Copies five pictures to the folder “Quorlin Samples” in your pictures folder</source>
+        <translation>Kopiert fünf Bilder in den Ordner „Quorlin Samples“ in Ihrem Bilderordner</translation>
     </message>
     <message>
         <source>&amp;Watch a Folder…</source>
         <translation>Ordner über&amp;wachen…</translation>
     </message>
     <message>
-        <source>Pictures that arrive in a folder are worked on at once, with these settings</source>
-        <translation>Bilder, die in einem Ordner ankommen, werden gleich mit diesen Einstellungen bearbeitet</translation>
+        <source>Process pictures as they arrive in a folder, with these settings</source>
+        <translation>Bilder, die in einem Ordner ankommen, sofort mit diesen Einstellungen bearbeiten</translation>
     </message>
     <message>
         <source>Stop Watching</source>
         <translation>Überwachung beenden</translation>
     </message>
     <message>
-        <source>Add Them</source>
+        <source>Add Anyway</source>
         <translation>Trotzdem hinzufügen</translation>
     </message>
     <message>
-        <source>Add what runs of this program wrote to the list all the same</source>
-        <translation>Was Läufe dieses Programms geschrieben haben, trotzdem auf die Liste setzen</translation>
+        <source>Add results of earlier runs to the list</source>
+        <translation>Ergebnisse früherer Durchläufe zur Liste hinzufügen</translation>
     </message>
     <message>
-        <source>What happens when this run has ended</source>
-        <translation>Was geschieht, wenn dieser Durchlauf beendet ist</translation>
+        <source>What to do when this run is finished</source>
+        <translation>Was geschieht, wenn dieser Durchlauf fertig ist</translation>
     </message>
     <message>
         <source>When done</source>
@@ -1491,12 +1468,12 @@
         <translation>Belassen</translation>
     </message>
     <message>
-        <source>Give the files that were done their old names and places again (Ctrl+Z)</source>
-        <translation>Den fertigen Dateien ihre alten Namen und Orte wiedergeben (Strg+Z)</translation>
+        <source>Return the finished files to their old names and folders (Ctrl+Z)</source>
+        <translation>Den fertigen Dateien ihre alten Namen und Ordner zurückgeben (Strg+Z)</translation>
     </message>
     <message>
-        <source>What is done stays as it is, and this is not asked again</source>
-        <translation>Was fertig ist, bleibt so, und es wird nicht noch einmal gefragt</translation>
+        <source>Keep what is finished. You will not be asked again.</source>
+        <translation>Was fertig ist, bleibt. Sie werden nicht noch einmal gefragt.</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -1507,12 +1484,12 @@
         <translation>&amp;Häkchen setzen oder entfernen</translation>
     </message>
     <message>
-        <source>Rows without a tick are left out of the run</source>
-        <translation>Zeilen ohne Häkchen bleiben beim Lauf außen vor</translation>
+        <source>A run leaves out rows that are not ticked</source>
+        <translation>Ein Durchlauf lässt Zeilen ohne Häkchen aus</translation>
     </message>
     <message>
         <source>Tick A&amp;ll</source>
-        <translation>A&amp;lle ankreuzen</translation>
+        <translation>A&amp;lle abhaken</translation>
     </message>
     <message>
         <source>&amp;Columns of the List</source>
@@ -1531,16 +1508,16 @@
         <translation>&amp;Letzten Durchlauf wiederholen</translation>
     </message>
     <message>
-        <source>The pictures that were added since, with the settings of the last run</source>
-        <translation>Die seither hinzugefügten Bilder, mit den Einstellungen des letzten Durchlaufs</translation>
+        <source>Process the pictures added since the last run, with its settings</source>
+        <translation>Die seit dem letzten Durchlauf hinzugefügten Bilder mit dessen Einstellungen bearbeiten</translation>
     </message>
     <message>
         <source>Camera &amp;Clocks…</source>
         <translation>Kamera&amp;uhren …</translation>
     </message>
     <message>
-        <source>Set right the dates of a camera whose clock was wrong, in the list and in new names only</source>
-        <translation>Die Daten einer Kamera richtigstellen, deren Uhr falsch ging, nur in der Liste und in neuen Namen</translation>
+        <source>Correct the dates of a camera whose clock was wrong, without changing any file</source>
+        <translation>Die Daten einer Kamera korrigieren, deren Uhr falsch ging, ohne eine Datei zu ändern</translation>
     </message>
     <message>
         <source>Recent &amp;Destinations</source>
@@ -1555,16 +1532,16 @@
         <translation>Liste &amp;exportieren …</translation>
     </message>
     <message>
-        <source>Write the list with all its columns into a CSV file for spreadsheets</source>
-        <translation>Die Liste mit allen Spalten in eine CSV-Datei für Tabellen schreiben</translation>
+        <source>Save the list with all its columns as a CSV file for spreadsheets</source>
+        <translation>Die Liste mit allen Spalten als CSV-Datei für Tabellenprogramme speichern</translation>
     </message>
     <message>
         <source>&amp;Copy Files</source>
         <translation>Dateien &amp;kopieren</translation>
     </message>
     <message>
-        <source>Copy the files of the chosen rows, or what was made of them (in the list: Ctrl+C)</source>
-        <translation>Die Dateien der gewählten Zeilen kopieren, oder was aus ihnen wurde (in der Liste: Strg+C)</translation>
+        <source>Copy the files of the selected rows, or their results (in the list: Ctrl+C)</source>
+        <translation>Die Dateien der ausgewählten Zeilen oder ihre Ergebnisse kopieren (in der Liste: Strg+C)</translation>
     </message>
     <message>
         <source>Move &amp;Up</source>
@@ -1614,8 +1591,8 @@
         <translation>Im Handbuch suchen</translation>
     </message>
     <message>
-        <source>Return shows the next place (Ctrl+F, F3)</source>
-        <translation>Die Eingabetaste zeigt die nächste Stelle (Strg+F, F3)</translation>
+        <source>Press Return for the next match (Ctrl+F, F3)</source>
+        <translation>Die Eingabetaste zeigt die nächste Fundstelle (Strg+F, F3)</translation>
     </message>
     <message>
         <source>Pages of the manual</source>
@@ -1633,8 +1610,8 @@
         <translation>Bilder oder Ordner hier ablegen</translation>
     </message>
     <message>
-        <source>All properties of each are shown, and its comment can be read, written and reverted.</source>
-        <translation>Zu jedem werden alle Eigenschaften gezeigt; seinen Kommentar können Sie lesen, schreiben und zurücksetzen.</translation>
+        <source>You see all properties of each picture, and can read, write and revert its comment.</source>
+        <translation>Sie sehen alle Eigenschaften jedes Bildes und können seinen Kommentar lesen, schreiben und zurücksetzen.</translation>
     </message>
     <message>
         <source>Add Pictures…</source>
@@ -1653,8 +1630,8 @@
         <translation>Kopieren</translation>
     </message>
     <message>
-        <source>Copy the chosen value or branch (Ctrl+C in the tree), or the place where the picture was taken</source>
-        <translation>Gewählten Wert oder Zweig kopieren (Strg+C im Baum) oder den Ort der Aufnahme</translation>
+        <source>Copy the selected value or branch (Ctrl+C in the tree), or the location of the picture</source>
+        <translation>Den ausgewählten Wert oder Zweig (Strg+C im Baum) oder den Aufnahmeort kopieren</translation>
     </message>
     <message>
         <source>Properties of the picture</source>
@@ -1669,24 +1646,24 @@
         <translation>Benutzerkommentar</translation>
     </message>
     <message>
-        <source>Whose comment is written</source>
-        <translation>Wessen Kommentar geschrieben wird</translation>
+        <source>Which pictures get the comment</source>
+        <translation>Welche Bilder den Kommentar bekommen</translation>
     </message>
     <message>
         <source>Insert Token…</source>
         <translation>Platzhalter einfügen…</translation>
     </message>
     <message>
-        <source>Insert what stands for something that each picture has</source>
-        <translation>Einfügen, was für einen Wert jedes Bildes steht</translation>
+        <source>Insert a placeholder that is filled in for each picture</source>
+        <translation>Einen Platzhalter einfügen, der für jedes Bild ausgefüllt wird</translation>
     </message>
     <message>
-        <source>Edit Log</source>
-        <translation>Kommentarprotokoll</translation>
+        <source>Metadata History</source>
+        <translation>Metadatenverlauf</translation>
     </message>
     <message>
-        <source>Show what was written into comments, with old and new comments, and revert it</source>
-        <translation>Zeigen, was in Kommentare geschrieben wurde, mit altem und neuem Text, und es zurücksetzen</translation>
+        <source>Show old and new comments, and revert them</source>
+        <translation>Alte und neue Kommentare zeigen und zurücksetzen</translation>
     </message>
     <message>
         <source>Progress of the comments</source>
@@ -1705,24 +1682,24 @@
         <translation>Zurücksetzen</translation>
     </message>
     <message>
-        <source>Give the pictures of the last run their old comments again</source>
-        <translation>Den Bildern des letzten Durchlaufs ihre alten Kommentare zurückgeben</translation>
+        <source>Restore the old comments of the last run</source>
+        <translation>Die alten Kommentare des letzten Durchlaufs wiederherstellen</translation>
     </message>
     <message>
         <source>Choose Files…</source>
         <translation>Dateien wählen…</translation>
     </message>
     <message>
-        <source>Choose JPEG and TIFF files and write the comment into each</source>
-        <translation>JPEG- und TIFF-Dateien wählen und den Kommentar in jede schreiben</translation>
+        <source>Choose JPEG and TIFF files and write the comment into all of them</source>
+        <translation>JPEG- und TIFF-Dateien wählen und den Kommentar in alle schreiben</translation>
     </message>
     <message>
         <source>Choose Folder…</source>
         <translation>Ordner wählen…</translation>
     </message>
     <message>
-        <source>Choose a folder and write the comment into each JPEG and TIFF file in it and in its folders</source>
-        <translation>Einen Ordner wählen und den Kommentar in jede JPEG- und TIFF-Datei darin und in seinen Unterordnern schreiben</translation>
+        <source>Choose a folder and write the comment into all its JPEG and TIFF files, subfolders included</source>
+        <translation>Einen Ordner wählen und den Kommentar in alle JPEG- und TIFF-Dateien schreiben, auch in Unterordnern</translation>
     </message>
     <message>
         <source>Write into All…</source>
@@ -1733,8 +1710,8 @@
         <translation>Anwenden</translation>
     </message>
     <message>
-        <source>Write the comment into this picture. Ctrl+Return writes it and goes to the next one.</source>
-        <translation>Den Kommentar in dieses Bild schreiben. Strg+Eingabe schreibt ihn und geht zum nächsten.</translation>
+        <source>Write the comment into this picture. Press Ctrl+Return to also go to the next one.</source>
+        <translation>Den Kommentar in dieses Bild schreiben. Strg+Eingabe geht danach zum nächsten.</translation>
     </message>
     <message>
         <source>Write comment and go to the next picture</source>
@@ -1795,55 +1772,55 @@
         <translation>Über den Ordner der Ergebnisse</translation>
     </message>
     <message>
-        <source>If name is taken</source>
-        <translation>Name vergeben</translation>
+        <source>If the file exists</source>
+        <translation>Falls vorhanden</translation>
     </message>
     <message>
-        <source>If a file of that name is there</source>
-        <translation>Wenn es schon eine Datei dieses Namens gibt</translation>
+        <source>If a file with this name exists</source>
+        <translation>Wenn eine Datei mit diesem Namen vorhanden ist</translation>
     </message>
     <message>
-        <source>Simulation: show, write nothing</source>
-        <translation>Simulation: zeigen, nichts schreiben</translation>
+        <source>Dry run: write nothing</source>
+        <translation>Probelauf: nichts schreiben</translation>
     </message>
     <message>
-        <source>What simulation means</source>
-        <translation>Was Simulation bedeutet</translation>
+        <source>About dry runs</source>
+        <translation>Über Probeläufe</translation>
     </message>
     <message>
         <source>Metadata</source>
         <translation>Metadaten</translation>
     </message>
     <message>
-        <source>What results keep of the metadata</source>
-        <translation>Was die Ergebnisse von den Metadaten behalten</translation>
+        <source>Metadata that results keep</source>
+        <translation>Metadaten, die die Ergebnisse behalten</translation>
     </message>
     <message>
         <source>Remove location</source>
-        <translation>Ort entfernen</translation>
+        <translation>Aufnahmeort entfernen</translation>
     </message>
     <message>
-        <source>Leaves out where the picture was taken: coordinates and names of places</source>
-        <translation>Lässt weg, wo das Bild aufgenommen wurde: Koordinaten und Ortsnamen</translation>
+        <source>Removes where the picture was taken: coordinates and place names</source>
+        <translation>Entfernt, wo das Bild aufgenommen wurde: Koordinaten und Ortsnamen</translation>
     </message>
     <message>
         <source>Transparency</source>
         <translation>Transparenz</translation>
     </message>
     <message>
-        <source>Colour under transparent parts</source>
-        <translation>Farbe unter transparenten Teilen</translation>
+        <source>Colour for transparent parts</source>
+        <translation>Farbe für transparente Bereiche</translation>
     </message>
     <message>
-        <source>Colour under transparent parts, in file types that have none</source>
-        <translation>Farbe unter transparenten Teilen, in Dateitypen ohne Transparenz</translation>
+        <source>Replaces transparency in file types that cannot hold it</source>
+        <translation>Ersetzt Transparenz in Dateitypen, die keine kennen</translation>
     </message>
     <message>
         <source>Folder name</source>
         <translation>Ordnername</translation>
     </message>
     <message>
-        <source>Name of the folder beside the originals</source>
+        <source>Name of the folder next to the originals</source>
         <translation>Name des Ordners neben den Originalen</translation>
     </message>
     <message>
@@ -1851,8 +1828,8 @@
         <translation>Unterordner beibehalten</translation>
     </message>
     <message>
-        <source>Builds the folders again that lie below each added folder</source>
-        <translation>Legt die Ordner, die unter jedem hinzugefügten Ordner liegen, wieder an</translation>
+        <source>Recreates the subfolders of each added folder</source>
+        <translation>Legt die Unterordner jedes hinzugefügten Ordners wieder an</translation>
     </message>
     <message>
         <source>Name</source>
@@ -1863,28 +1840,28 @@
         <translation>Name der Ergebnisse, ohne Endung</translation>
     </message>
     <message>
-        <source>Values such as {name}, {taken} and {counter:001} stand for what each picture has; {{ is a brace.</source>
-        <translation>Werte wie {name}, {taken} und {counter:001} stehen für das, was jedes Bild hat; {{ ist eine Klammer.</translation>
+        <source>Tokens such as {name}, {taken} and {counter:001} are filled in for each picture. To write a brace, type {{.</source>
+        <translation>Platzhalter wie {name}, {taken} und {counter:001} werden für jedes Bild ausgefüllt. Für eine geschweifte Klammer tippen Sie {{.</translation>
     </message>
     <message>
-        <source>Insert a value of the picture into the name</source>
-        <translation>Wert des Bilds in den Namen einfügen</translation>
+        <source>Insert a token into the name</source>
+        <translation>Einen Platzhalter in den Namen einfügen</translation>
     </message>
     <message>
-        <source>Keep the file’s date</source>
-        <translation>Datum der Datei beibehalten</translation>
+        <source>Keep the file date</source>
+        <translation>Dateidatum behalten</translation>
     </message>
     <message>
-        <source>Results get the time of change of their pictures</source>
-        <translation>Ergebnisse erhalten die Änderungszeit ihrer Bilder</translation>
+        <source>Results get the modification time of their originals</source>
+        <translation>Ergebnisse bekommen die Änderungszeit ihrer Originale</translation>
     </message>
     <message>
         <source>More…</source>
         <translation>Mehr …</translation>
     </message>
     <message>
-        <source>More or fewer settings of the results</source>
-        <translation>Mehr oder weniger Einstellungen der Ergebnisse</translation>
+        <source>Show more or fewer settings</source>
+        <translation>Mehr oder weniger Einstellungen zeigen</translation>
     </message>
     <message>
         <source>Write all as JPEG</source>
@@ -1906,8 +1883,8 @@
         <translation>Noch keiner gewählt</translation>
     </message>
     <message>
-        <source>Quorlin keeps your background patterns in a folder below this one. Whatever you put there can be chosen in Background &amp; Border.</source>
-        <translation>Quorlin bewahrt Ihre Hintergrundmuster in einem Ordner unter diesem auf. Was Sie dort ablegen, lässt sich in Hintergrund &amp; Rand wählen.</translation>
+        <source>Put your own background patterns into its subfolder Patterns. They then appear in Background &amp; Border.</source>
+        <translation>Legen Sie eigene Hintergrundmuster in den Unterordner Patterns. Sie erscheinen dann in Hintergrund &amp; Rand.</translation>
     </message>
     <message>
         <source>Change…</source>
@@ -1918,88 +1895,84 @@
         <translation>Sprache</translation>
     </message>
     <message>
-        <source>Takes effect when Quorlin starts again.</source>
-        <translation>Gilt ab dem nächsten Start von Quorlin.</translation>
+        <source>Takes effect after a restart.</source>
+        <translation>Wirkt nach einem Neustart.</translation>
     </message>
     <message>
         <source>Appearance</source>
         <translation>Darstellung</translation>
     </message>
     <message>
-        <source>If name is taken</source>
-        <translation>Name vergeben</translation>
+        <source>If the file exists</source>
+        <translation>Falls vorhanden</translation>
     </message>
     <message>
-        <source>What an action does at first where a name is taken</source>
-        <translation>Was eine Aktion anfangs tut, wenn ein Name vergeben ist</translation>
+        <source>What new actions do if the file exists</source>
+        <translation>Was neue Aktionen tun, falls die Datei vorhanden ist</translation>
     </message>
     <message>
-        <source>For actions that you use for the first time; each one keeps what you choose there.</source>
-        <translation>Für Aktionen, die Sie zum ersten Mal verwenden; jede merkt sich, was Sie dort wählen.</translation>
+        <source>Default for actions you have not used yet.</source>
+        <translation>Vorgabewert für Aktionen, die Sie noch nicht benutzt haben.</translation>
     </message>
     <message>
-        <source>Log keeps</source>
-        <translation>Protokoll</translation>
+        <source>Keep log entries for</source>
+        <translation>Protokoll aufbewahren</translation>
     </message>
     <message>
-        <source>How many entries the log keeps</source>
-        <translation>Wie viele Einträge das Protokoll behält</translation>
+        <source>How many log entries to keep</source>
+        <translation>Wie viele Protokolleinträge bleiben</translation>
     </message>
     <message>
-        <source>Look for a new version at every start</source>
-        <translation>Bei jedem Start nach einer neuen Version suchen</translation>
+        <source>Check for updates at startup</source>
+        <translation>Beim Start nach Aktualisierungen suchen</translation>
     </message>
     <message>
         <source>Done</source>
         <translation>Fertig</translation>
     </message>
     <message>
-        <source>Work with</source>
-        <translation>Arbeiten mit</translation>
+        <source>Processors</source>
+        <translation>Prozessoren</translation>
     </message>
     <message>
-        <source>How many processors runs use</source>
-        <translation>Wie viele Prozessoren ein Lauf benutzt</translation>
+        <source>How many processors runs may use</source>
+        <translation>Wie viele Prozessoren Durchläufe benutzen dürfen</translation>
     </message>
     <message>
-        <source>Light or dark, for all windows; it holds at once.</source>
-        <translation>Hell oder dunkel, für alle Fenster; es gilt sofort.</translation>
+        <source>Applies to all windows at once.</source>
+        <translation>Gilt sofort für alle Fenster.</translation>
     </message>
     <message>
-        <source>Results go</source>
-        <translation>Ergebnisse in</translation>
+        <source>Save results to</source>
+        <translation>Ergebnisse speichern in</translation>
     </message>
     <message>
-        <source>Where results go at first</source>
-        <translation>Wohin Ergebnisse zuerst kommen</translation>
+        <source>Where new actions save their results</source>
+        <translation>Wo neue Aktionen ihre Ergebnisse speichern</translation>
     </message>
     <message>
-        <source>The same: a start for actions that you have not used yet.</source>
-        <translation>Ebenso: ein Anfang für Aktionen, die Sie noch nicht benutzt haben.</translation>
+        <source>Older entries are deleted for good.</source>
+        <translation>Ältere Einträge werden endgültig gelöscht.</translation>
     </message>
     <message>
-        <source>When there are more, the oldest go for good.</source>
-        <translation>Werden es mehr, gehen die ältesten endgültig.</translation>
-    </message>
-    <message>
-        <source>Fewer leave more for other programs; what is made is the same.</source>
-        <translation>Weniger lassen anderen Programmen mehr; das Ergebnis ist dasselbe.</translation>
+        <source>Use fewer to keep other programs fast. The results are the same.</source>
+        <translation>Weniger Prozessoren lassen andere Programme schneller laufen. Die Ergebnisse sind gleich.</translation>
     </message>
     <message>
         <source>Memory</source>
         <translation>Speicher</translation>
     </message>
     <message>
-        <source>How much memory runs use</source>
-        <translation>Wie viel Speicher Durchläufe benutzen</translation>
+        <source>How much memory runs may use</source>
+        <translation>Wie viel Speicher Durchläufe benutzen dürfen</translation>
     </message>
     <message>
-        <source>Where large pictures need more together, fewer of them are made at a time.</source>
-        <translation>Brauchen große Bilder zusammen mehr, entstehen weniger zugleich.</translation>
+        <source>If large pictures need more, fewer are processed at a time.</source>
+        <translation>Brauchen große Bilder mehr, werden weniger zugleich bearbeitet.</translation>
     </message>
     <message>
-        <source>Quorlin asks for its number only; nothing is downloaded or installed by itself.</source>
-        <translation>Quorlin fragt nur nach ihrer Nummer; nichts wird von selbst geladen oder installiert.</translation>
+        <source>Quorlin only asks for the version number. It downloads and installs nothing.</source>
+        <translation>Quorlin fragt nur nach der Versionsnummer. Es lädt und installiert nichts.</translation>
     </message>
     <message>
         <source>Share thumbnails with other programs</source>
@@ -2042,6 +2015,25 @@
     </message>
 </context>
 <context>
+    <name>Print</name>
+    <message>
+        <source>Print</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>Pictures made ready for the print</source>
+        <translation>Für den Druck vorbereitete Bilder</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Print…</source>
+        <translation>Drucken …</translation>
+    </message>
+</context>
+<context>
     <name>QAbstractFileIconProvider</name>
     <message>
         <source>Drive</source>
@@ -2071,8 +2063,8 @@
         <translation>&amp;Speichern</translation>
     </message>
     <message>
-        <source>Files that can be chosen</source>
-        <translation>Wählbare Dateien</translation>
+        <source>Supported files</source>
+        <translation>Unterstützte Dateien</translation>
     </message>
 </context>
 <context>
@@ -2139,7 +2131,7 @@
     </message>
     <message>
         <source>Duplicate</source>
-        <translation>Verdoppeln</translation>
+        <translation>Duplizieren</translation>
     </message>
     <message>
         <source>Move this card (arrow keys)</source>
@@ -2175,7 +2167,7 @@
     </message>
     <message>
         <source>+ Add Operation for This Output…</source>
-        <translation>+ Bearbeitung nur für diese Ausgabe…</translation>
+        <translation>+ Bearbeitung für diese Ausgabe …</translation>
     </message>
     <message>
         <source>The picture after this operation</source>
@@ -2185,8 +2177,8 @@
 <context>
     <name>RecipeField</name>
     <message>
-        <source>Insert a value of the picture</source>
-        <translation>Einen Wert des Bildes einfügen</translation>
+        <source>Insert a token</source>
+        <translation>Platzhalter einfügen</translation>
     </message>
     <message>
         <source>Choose…</source>
@@ -2204,8 +2196,8 @@
         <translation>Rezept</translation>
     </message>
     <message>
-        <source>Make, save, rename, delete, export or import recipes</source>
-        <translation>Rezepte anlegen, sichern, umbenennen, löschen, exportieren oder importieren</translation>
+        <source>Create, save, rename, delete, export or import recipes</source>
+        <translation>Rezepte anlegen, speichern, umbenennen, löschen, exportieren oder importieren</translation>
     </message>
     <message>
         <source>Name</source>
@@ -2220,20 +2212,20 @@
         <translation>Speichern</translation>
     </message>
     <message>
-        <source>This recipe reaches beyond the pictures’ own folders</source>
-        <translation>Dieses Rezept reicht über die Ordner der Bilder hinaus</translation>
+        <source>This recipe uses files outside the folders of the pictures</source>
+        <translation>Dieses Rezept benutzt Dateien außerhalb der Ordner der Bilder</translation>
     </message>
     <message>
         <source>Allow</source>
         <translation>Erlauben</translation>
     </message>
     <message>
-        <source>Nothing was read or written there so far</source>
-        <translation>Bisher wurde dort nichts gelesen oder geschrieben</translation>
+        <source>Nothing has been read or written there so far.</source>
+        <translation>Bisher wurde dort nichts gelesen oder geschrieben.</translation>
     </message>
     <message>
-        <source>No operations: the pictures stay as they are.</source>
-        <translation>Keine Bearbeitungen: die Bilder bleiben, wie sie sind.</translation>
+        <source>No operations yet: pictures stay unchanged.</source>
+        <translation>Noch keine Bearbeitungen: Bilder bleiben unverändert.</translation>
     </message>
     <message>
         <source>+ Add Operation…</source>
@@ -2260,8 +2252,8 @@
         <translation>Ordner in</translation>
     </message>
     <message>
-        <source>Where the folders of the outputs are</source>
-        <translation>Wo die Ordner der Ausgaben liegen</translation>
+        <source>Where the folders of the outputs are created</source>
+        <translation>Wo die Ordner der Ausgaben angelegt werden</translation>
     </message>
     <message>
         <source>Keep subfolders</source>
@@ -2323,16 +2315,16 @@
         <translation>+</translation>
     </message>
     <message>
-        <source>Insert a value of the file</source>
-        <translation>Einen Wert der Datei einfügen</translation>
+        <source>Insert a token</source>
+        <translation>Platzhalter einfügen</translation>
     </message>
     <message>
         <source>With</source>
         <translation>Durch</translation>
     </message>
     <message>
-        <source>How</source>
-        <translation>Wie</translation>
+        <source>Case</source>
+        <translation>Schreibweise</translation>
     </message>
     <message>
         <source>How many</source>
@@ -2354,12 +2346,12 @@
         <translation>Umbenennen</translation>
     </message>
     <message>
-        <source>What is renamed</source>
+        <source>What to rename</source>
         <translation>Was umbenannt wird</translation>
     </message>
     <message>
-        <source>No steps yet: names stay as they are. Add a step, or choose a preset.</source>
-        <translation>Noch keine Schritte: Namen bleiben, wie sie sind. Fügen Sie einen Schritt hinzu oder wählen Sie eine Vorgabe.</translation>
+        <source>No steps yet: names stay unchanged. Add a step or choose a preset.</source>
+        <translation>Noch keine Schritte: Namen bleiben unverändert. Fügen Sie einen Schritt hinzu oder wählen Sie eine Vorgabe.</translation>
     </message>
     <message>
         <source>+ Add Step…</source>
@@ -2378,16 +2370,16 @@
         <translation>Beispiel</translation>
     </message>
     <message>
-        <source>Take sidecar files (.xmp …) along</source>
-        <translation>Begleitdateien (.xmp …) mitnehmen</translation>
+        <source>Include sidecar files (.xmp …)</source>
+        <translation>Begleitdateien einschließen (.xmp …)</translation>
     </message>
     <message>
-        <source>Files of other programs that bear the name of a picture get its new name too</source>
-        <translation>Dateien anderer Programme, die den Namen eines Bildes tragen, bekommen ebenfalls den neuen Namen</translation>
+        <source>Files with the name of a picture from other programs are renamed with it</source>
+        <translation>Dateien anderer Programme mit dem Namen eines Bildes werden mit ihm umbenannt</translation>
     </message>
     <message>
-        <source>Puts zeros before the numbers, so that names sort as they count</source>
-        <translation>Setzt Nullen vor die Zahlen, damit Namen sich so ordnen, wie sie zählen</translation>
+        <source>Adds leading zeros so that names sort in order</source>
+        <translation>Ergänzt führende Nullen, damit sich die Namen richtig ordnen</translation>
     </message>
 </context>
 <context>
@@ -2401,8 +2393,8 @@
         <translation>Höhe</translation>
     </message>
     <message>
-        <source>Longest</source>
-        <translation>Längste</translation>
+        <source>Longest side</source>
+        <translation>Längste Seite</translation>
     </message>
     <message>
         <source>%</source>
@@ -2410,15 +2402,11 @@
     </message>
     <message>
         <source>Box</source>
-        <translation>Format</translation>
+        <translation>Rahmen</translation>
     </message>
     <message>
-        <source>What the size is given by</source>
-        <translation>Wodurch die Größe bestimmt wird</translation>
-    </message>
-    <message>
-        <source>Longest side</source>
-        <translation>Längste Seite</translation>
+        <source>How the new size is set</source>
+        <translation>Wie die neue Größe festgelegt wird</translation>
     </message>
     <message>
         <source> px</source>
@@ -2430,7 +2418,7 @@
     </message>
     <message>
         <source>Width of the box</source>
-        <translation>Breite des Formats</translation>
+        <translation>Breite des Rahmens</translation>
     </message>
     <message>
         <source>×</source>
@@ -2438,7 +2426,7 @@
     </message>
     <message>
         <source>Height of the box</source>
-        <translation>Höhe des Formats</translation>
+        <translation>Höhe des Rahmens</translation>
     </message>
     <message>
         <source>Unit of the size</source>
@@ -2449,12 +2437,12 @@
         <translation>Einheit der Größe: Pixel, Millimeter, Zentimeter, Zoll, Pica, Punkt</translation>
     </message>
     <message>
-        <source>Picture</source>
-        <translation>Bild</translation>
+        <source>Fit</source>
+        <translation>Einpassen</translation>
     </message>
     <message>
         <source>How the picture fits the box</source>
-        <translation>Wie das Bild ins Format passt</translation>
+        <translation>Wie das Bild in den Rahmen passt</translation>
     </message>
     <message>
         <source>Result</source>
@@ -2473,20 +2461,20 @@
         <translation>Auflösung</translation>
     </message>
     <message>
-        <source>Resolution of the lengths</source>
-        <translation>Auflösung der Längen</translation>
+        <source>Resolution used for lengths</source>
+        <translation>Auflösung für Längen</translation>
     </message>
     <message>
-        <source>The dots per inch that make pixels of these lengths; a chosen resolution is written into the file</source>
-        <translation>Die Punkte pro Zoll, die aus diesen Längen Pixel machen; eine gewählte Auflösung wird in die Datei geschrieben</translation>
+        <source>Dots per inch used to turn lengths into pixels. A chosen resolution is also written into the file.</source>
+        <translation>Punkte pro Zoll, mit denen Längen in Pixel umgerechnet werden. Eine gewählte Auflösung wird auch in die Datei geschrieben.</translation>
     </message>
     <message>
         <source>Dots per inch</source>
         <translation>Punkte pro Zoll</translation>
     </message>
     <message>
-        <source>Around it</source>
-        <translation>Darum herum</translation>
+        <source>Padding</source>
+        <translation>Auffüllung</translation>
     </message>
     <message>
         <source>Colour around the picture</source>
@@ -2508,8 +2496,8 @@
         <translation>Ellipse</translation>
     </message>
     <message>
-        <source>Shape that is cut out</source>
-        <translation>Form, die ausgeschnitten wird</translation>
+        <source>Shape to cut out</source>
+        <translation>Auszuschneidende Form</translation>
     </message>
     <message>
         <source>Radius</source>
@@ -2524,24 +2512,24 @@
         <translation>Radius der Ecken</translation>
     </message>
     <message>
-        <source>Colour outside the shape</source>
-        <translation>Farbe außerhalb der Form</translation>
+        <source>Fill colour</source>
+        <translation>Füllfarbe</translation>
     </message>
     <message>
         <source>Colour</source>
         <translation>Farbe</translation>
     </message>
     <message>
-        <source>Band</source>
-        <translation>Rahmen</translation>
+        <source>Border width</source>
+        <translation>Randbreite</translation>
     </message>
     <message>
-        <source>Width of the coloured band inside the edge</source>
-        <translation>Breite des farbigen Rahmens innen am Rand</translation>
+        <source>Width of the border inside the picture</source>
+        <translation>Breite des Rands innerhalb des Bildes</translation>
     </message>
     <message>
-        <source>A band of the colour inside the edge; 0 is none</source>
-        <translation>Ein Rahmen dieser Farbe innen am Rand; 0: keiner</translation>
+        <source>Border inside the picture; 0 means none</source>
+        <translation>Rand innerhalb des Bildes; 0 bedeutet keiner</translation>
     </message>
     <message>
         <source>Result</source>
@@ -2572,38 +2560,38 @@
     </message>
     <message>
         <source>Size</source>
-        <translation>Größe</translation>
+        <translation>Dateigröße</translation>
     </message>
     <message>
-        <source>Estimated size of the file</source>
-        <translation>Geschätzte Größe der Datei</translation>
+        <source>Estimated file size</source>
+        <translation>Geschätzte Dateigröße</translation>
     </message>
     <message>
-        <source>Preview of the original and of what is saved</source>
+        <source>Preview of the original and the saved picture</source>
         <translation>Vorschau von Original und gespeichertem Bild</translation>
     </message>
 </context>
 <context>
     <name>SortPane</name>
     <message>
-        <source>Folders</source>
-        <translation>Ordner</translation>
+        <source>Level 1</source>
+        <translation>Ebene 1</translation>
     </message>
     <message>
         <source>First level of folders</source>
         <translation>Erste Ordnerebene</translation>
     </message>
     <message>
-        <source>in them</source>
-        <translation>darin</translation>
+        <source>Level 2</source>
+        <translation>Ebene 2</translation>
     </message>
     <message>
         <source>Second level of folders</source>
         <translation>Zweite Ordnerebene</translation>
     </message>
     <message>
-        <source>in those</source>
-        <translation>darin</translation>
+        <source>Level 3</source>
+        <translation>Ebene 3</translation>
     </message>
     <message>
         <source>Third level of folders</source>
@@ -2614,11 +2602,11 @@
         <translation>Muster</translation>
     </message>
     <message>
-        <source>Pattern of folders</source>
+        <source>Folder pattern</source>
         <translation>Ordnermuster</translation>
     </message>
     <message>
-        <source>Text and tokens in braces, with “/” between the levels of folders</source>
+        <source>Text and tokens in braces, with “/” between folder levels</source>
         <translation>Text und Platzhalter in geschweiften Klammern, mit „/“ zwischen den Ordnerebenen</translation>
     </message>
     <message>
@@ -2630,16 +2618,16 @@
         <translation>Platzhalter einfügen</translation>
     </message>
     <message>
-        <source>Without a date</source>
-        <translation>Ohne Datum</translation>
+        <source>No date taken</source>
+        <translation>Kein Aufnahmedatum</translation>
     </message>
     <message>
-        <source>What becomes of files without a date taken</source>
+        <source>What to do with files that have no date taken</source>
         <translation>Was mit Dateien ohne Aufnahmedatum geschieht</translation>
     </message>
     <message>
-        <source>Name of the folder for files without a date taken</source>
-        <translation>Name des Ordners für Dateien ohne Aufnahmedatum</translation>
+        <source>Folder name for files without a date taken</source>
+        <translation>Ordnername für Dateien ohne Aufnahmedatum</translation>
     </message>
     <message>
         <source>Files</source>
@@ -2650,22 +2638,22 @@
         <translation>Verschieben, kopieren oder verknüpfen</translation>
     </message>
     <message>
-        <source>Into</source>
+        <source>Destination</source>
         <translation>Ziel</translation>
     </message>
     <message>
-        <source>Where the folders are made</source>
+        <source>Where the folders are created</source>
         <translation>Wo die Ordner angelegt werden</translation>
     </message>
     <message>
-        <source>If name is taken</source>
-        <translation>Name vergeben</translation>
+        <source>If the file exists</source>
+        <translation>Falls vorhanden</translation>
     </message>
 </context>
 <context>
     <name>SortTree</name>
     <message>
-        <source>Folders after the run</source>
+        <source>Resulting folders</source>
         <translation>Ordner danach</translation>
     </message>
     <message>
@@ -2673,8 +2661,8 @@
         <translation>Alle zeigen</translation>
     </message>
     <message>
-        <source>Show all files in the list again</source>
-        <translation>Wieder alle Dateien in der Liste zeigen</translation>
+        <source>Show all files in the list</source>
+        <translation>Alle Dateien in der Liste zeigen</translation>
     </message>
 </context>
 <context>
@@ -2684,28 +2672,28 @@
         <translation>90°</translation>
     </message>
     <message>
-        <source>Turn 90 degrees to the left</source>
-        <translation>Um 90 Grad nach links drehen</translation>
+        <source>Rotate 90° anticlockwise</source>
+        <translation>Um 90° gegen den Uhrzeigersinn drehen</translation>
     </message>
     <message>
-        <source>90 degrees to the left</source>
-        <translation>90 Grad nach links</translation>
+        <source>90° anticlockwise</source>
+        <translation>90° gegen den Uhrzeigersinn</translation>
     </message>
     <message>
-        <source>Turn 90 degrees to the right</source>
-        <translation>Um 90 Grad nach rechts drehen</translation>
+        <source>Rotate 90° clockwise</source>
+        <translation>Um 90° im Uhrzeigersinn drehen</translation>
     </message>
     <message>
-        <source>90 degrees to the right</source>
-        <translation>90 Grad nach rechts</translation>
+        <source>90° clockwise</source>
+        <translation>90° im Uhrzeigersinn</translation>
     </message>
     <message>
         <source>180°</source>
         <translation>180°</translation>
     </message>
     <message>
-        <source>Turn 180 degrees</source>
-        <translation>Um 180 Grad drehen</translation>
+        <source>Rotate 180°</source>
+        <translation>Um 180° drehen</translation>
     </message>
     <message>
         <source>Half a turn</source>
@@ -2716,7 +2704,7 @@
         <translation>Winkel</translation>
     </message>
     <message>
-        <source>Angle, counter-clockwise</source>
+        <source>Angle, anticlockwise</source>
         <translation>Winkel, gegen den Uhrzeigersinn</translation>
     </message>
     <message>
@@ -2724,39 +2712,39 @@
         <translation>°</translation>
     </message>
     <message>
-        <source>Angle in degrees, counter-clockwise</source>
+        <source>Angle in degrees, anticlockwise</source>
         <translation>Winkel in Grad, gegen den Uhrzeigersinn</translation>
     </message>
     <message>
-        <source>to the left</source>
-        <translation>nach links</translation>
+        <source>anticlockwise</source>
+        <translation>gegen Uhrzeiger</translation>
     </message>
     <message>
         <source>Flip</source>
         <translation>Spiegeln</translation>
     </message>
     <message>
-        <source>Across</source>
+        <source>Horizontal</source>
         <translation>Horizontal</translation>
     </message>
     <message>
-        <source>Flip horizontally: left and right change places</source>
+        <source>Flip horizontally: swap left and right</source>
         <translation>Horizontal spiegeln: links und rechts vertauschen</translation>
     </message>
     <message>
-        <source>Left and right change places</source>
+        <source>Swap left and right</source>
         <translation>Links und rechts vertauschen</translation>
     </message>
     <message>
-        <source>Down</source>
+        <source>Vertical</source>
         <translation>Vertikal</translation>
     </message>
     <message>
-        <source>Flip vertically: top and bottom change places</source>
+        <source>Flip vertically: swap top and bottom</source>
         <translation>Vertikal spiegeln: oben und unten vertauschen</translation>
     </message>
     <message>
-        <source>Top and bottom change places</source>
+        <source>Swap top and bottom</source>
         <translation>Oben und unten vertauschen</translation>
     </message>
     <message>
@@ -2764,8 +2752,8 @@
         <translation>Zurücksetzen</translation>
     </message>
     <message>
-        <source>Back to no turn and no flip</source>
-        <translation>Zurück zu keiner Drehung und Spiegelung</translation>
+        <source>Reset rotation and flip</source>
+        <translation>Drehung und Spiegelung zurücksetzen</translation>
     </message>
     <message>
         <source>Result</source>
@@ -2791,23 +2779,23 @@
         <translation>Bild</translation>
     </message>
     <message>
-        <source>What lies over the picture</source>
-        <translation>Was über dem Bild liegt</translation>
+        <source>What the watermark consists of</source>
+        <translation>Woraus das Wasserzeichen besteht</translation>
     </message>
     <message>
         <source>Text of the watermark</source>
         <translation>Text des Wasserzeichens</translation>
     </message>
     <message>
-        <source>Insert a value of the picture</source>
-        <translation>Einen Wert des Bildes einfügen</translation>
+        <source>Insert a token</source>
+        <translation>Platzhalter einfügen</translation>
     </message>
     <message>
-        <source>Picture that lies over the picture</source>
-        <translation>Bild, das über dem Foto liegt</translation>
+        <source>Picture used as the watermark</source>
+        <translation>Bild, das als Wasserzeichen dient</translation>
     </message>
     <message>
-        <source>About watermarks of your own</source>
+        <source>About your own watermarks</source>
         <translation>Über eigene Wasserzeichen</translation>
     </message>
     <message>
@@ -2827,16 +2815,16 @@
         <translation> %</translation>
     </message>
     <message>
-        <source>Size of the text, in per cent of the height of the picture</source>
-        <translation>Größe des Textes, in Prozent der Bildhöhe</translation>
+        <source>Text size, in % of the picture height</source>
+        <translation>Textgröße, in % der Bildhöhe</translation>
     </message>
     <message>
         <source>of the height</source>
         <translation>der Bildhöhe</translation>
     </message>
     <message>
-        <source>Width of the watermark, in per cent of the width of the picture</source>
-        <translation>Breite des Wasserzeichens, in Prozent der Bildbreite</translation>
+        <source>Watermark width, in % of the picture width</source>
+        <translation>Breite des Wasserzeichens, in % der Bildbreite</translation>
     </message>
     <message>
         <source>of the width</source>
@@ -2863,12 +2851,12 @@
         <translation>Abstand</translation>
     </message>
     <message>
-        <source>Margin, in per cent of the shorter side</source>
-        <translation>Abstand vom Rand, in Prozent der kürzeren Seite</translation>
+        <source>Margin, in % of the shorter side</source>
+        <translation>Abstand vom Rand, in % der kürzeren Seite</translation>
     </message>
     <message>
-        <source>In per cent of the shorter side of the picture</source>
-        <translation>Abstand vom Rand in Prozent der kürzeren Bildseite</translation>
+        <source>In % of the shorter side of the picture</source>
+        <translation>In % der kürzeren Bildseite</translation>
     </message>
     <message>
         <source>Angle</source>
@@ -2879,11 +2867,11 @@
         <translation>°</translation>
     </message>
     <message>
-        <source>Angle, counter-clockwise</source>
+        <source>Angle, anticlockwise</source>
         <translation>Winkel, gegen den Uhrzeigersinn</translation>
     </message>
     <message>
-        <source>Counter-clockwise</source>
+        <source>Anticlockwise</source>
         <translation>Gegen den Uhrzeigersinn</translation>
     </message>
     <message>
@@ -2906,8 +2894,8 @@
         <translation>Quorlin %1</translation>
     </message>
     <message>
-        <source>No worker that reads pictures is running.</source>
-        <translation>Kein Hilfsprozess, der Bilder liest, läuft gerade.</translation>
+        <source>No process that reads pictures is running.</source>
+        <translation>Es läuft gerade kein Prozess, der Bilder liest.</translation>
     </message>
     <message>
         <source>no new privileges</source>
@@ -2922,16 +2910,16 @@
         <translation>Filter für Systemaufrufe (seccomp)</translation>
     </message>
     <message>
-        <source>Workers that make pictures are confined by: %1.</source>
-        <translation>Hilfsprozesse, die Bilder herstellen, sind eingeschränkt durch: %1.</translation>
+        <source>Processes that read pictures are confined by: %1.</source>
+        <translation>Prozesse, die Bilder lesen, sind abgeschirmt durch: %1.</translation>
     </message>
     <message>
         <source>nothing</source>
         <translation>nichts</translation>
     </message>
     <message>
-        <source>This system lacks: %1.</source>
-        <translation>Diesem System fehlt: %1.</translation>
+        <source>Not available on this system: %1.</source>
+        <translation>Auf diesem System nicht verfügbar: %1.</translation>
     </message>
 </context>
 <context>
@@ -2942,7 +2930,7 @@
     </message>
     <message>
         <source>Added. The recipe is not saved yet.</source>
-        <translation>Hinzugefügt. Das Rezept ist noch nicht gesichert.</translation>
+        <translation>Hinzugefügt. Das Rezept ist noch nicht gespeichert.</translation>
     </message>
 </context>
 <context>
@@ -2973,16 +2961,23 @@
         <source>Background &amp; Border</source>
         <translation>Hintergrund &amp; Rand</translation>
     </message>
+    <message>
+        <source>Adding background and border</source>
+        <translation>Das Hinzufügen von Hintergrund und Rand</translation>
+    </message>
     <message numerus="yes">
-        <source>Frame %n Pictures</source>
+        <source>Add Background to %n Pictures</source>
         <translation>
-            <numerusform>%n Bild rahmen</numerusform>
-            <numerusform>%n Bilder rahmen</numerusform>
+            <numerusform>Hintergrund für %n Bild hinzufügen</numerusform>
+            <numerusform>Hintergrund für %n Bilder hinzufügen</numerusform>
         </translation>
     </message>
-    <message>
-        <source>Framing</source>
-        <translation>Das Rahmen</translation>
+    <message numerus="yes">
+        <source>Add Border to %n Pictures</source>
+        <translation>
+            <numerusform>Rand für %n Bild hinzufügen</numerusform>
+            <numerusform>Rand für %n Bilder hinzufügen</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3020,12 +3015,12 @@
         <translation>Keiner</translation>
     </message>
     <message>
-        <source>White, 10 pixels around</source>
-        <translation>Weiß, ringsum 10 Pixel</translation>
+        <source>White, 10 pixels on all sides</source>
+        <translation>Weiß, 10 Pixel an allen Seiten</translation>
     </message>
     <message>
-        <source>Coloured band inside</source>
-        <translation>Farbiger Rahmen innen</translation>
+        <source>Border inside the picture</source>
+        <translation>Rand innerhalb des Bildes</translation>
     </message>
     <message>
         <source>Choose…</source>
@@ -3043,12 +3038,12 @@
         <translation>Weißer Hintergrund</translation>
     </message>
     <message>
-        <source>White frame</source>
+        <source>White border</source>
         <translation>Weißer Rand</translation>
     </message>
     <message>
-        <source>Black band</source>
-        <translation>Schwarzer Rahmen</translation>
+        <source>Black border</source>
+        <translation>Schwarzer Rand</translation>
     </message>
     <message>
         <source>Ivory mount</source>
@@ -3074,28 +3069,28 @@
         <translation>auf Muster %1</translation>
     </message>
     <message>
-        <source>white frame</source>
+        <source>white border</source>
         <translation>weißer Rand</translation>
     </message>
     <message>
-        <source>band of %1 px in %2</source>
-        <translation>Rahmen von %1 px in %2</translation>
+        <source>border of %1 px in %2</source>
+        <translation>Rand von %1 px in %2</translation>
     </message>
     <message>
         <source>Choose a pattern.</source>
         <translation>Wählen Sie ein Muster.</translation>
     </message>
     <message>
-        <source>Enter a width of the band from 1 to %1.</source>
-        <translation>Geben Sie eine Rahmenbreite von 1 bis %1 ein.</translation>
+        <source>Enter a border width from 1 to %1.</source>
+        <translation>Geben Sie eine Randbreite von 1 bis %1 ein.</translation>
     </message>
     <message>
-        <source>the band would cover all of it</source>
-        <translation>der Rahmen würde alles bedecken</translation>
+        <source>the border would cover the whole picture</source>
+        <translation>der Rand würde das ganze Bild bedecken</translation>
     </message>
     <message>
-        <source>A %1 picture has no transparent parts: it stays as it looks.</source>
-        <translation>Ein %1-Bild hat keine transparenten Bereiche: Es bleibt, wie es aussieht.</translation>
+        <source>%1 pictures have no transparent parts, so a background would not be visible.</source>
+        <translation>%1-Bilder haben keine transparenten Bereiche; ein Hintergrund wäre also nicht zu sehen.</translation>
     </message>
     <message>
         <source>“%1” cannot be read as a picture.</source>
@@ -3109,40 +3104,40 @@
         <translation>Vorschau von %1</translation>
     </message>
     <message numerus="yes">
-        <source>%n further pictures left out</source>
+        <source>%n more pictures left out</source>
         <translation>
             <numerusform>%n weiteres Bild ausgelassen</numerusform>
             <numerusform>%n weitere Bilder ausgelassen</numerusform>
         </translation>
     </message>
     <message>
-        <source>cut off at the picture’s edge</source>
-        <translation>am Bildrand abgeschnitten</translation>
+        <source>smaller than asked for: the frame extends past the edge of the picture</source>
+        <translation>kleiner als verlangt: der Ausschnitt reicht über den Bildrand hinaus</translation>
     </message>
 </context>
 <context>
     <name>clocks</name>
     <message>
-        <source>No camera stated</source>
-        <translation>Ohne Kamera</translation>
+        <source>Unknown camera</source>
+        <translation>Unbekannte Kamera</translation>
     </message>
     <message>
         <source>%1 · %2</source>
         <translation>%1 · %2</translation>
     </message>
     <message>
-        <source>later by</source>
-        <translation>später um</translation>
+        <source>forward by</source>
+        <translation>vor um</translation>
     </message>
     <message>
-        <source>earlier by</source>
-        <translation>früher um</translation>
+        <source>back by</source>
+        <translation>zurück um</translation>
     </message>
 </context>
 <context>
     <name>comment-job</name>
     <message>
-        <source>Write comment, keep the first page only</source>
+        <source>Write comment, keep only the first page</source>
         <translation>Kommentar schreiben, nur die erste Seite behalten</translation>
     </message>
     <message numerus="yes">
@@ -3174,32 +3169,32 @@
 <context>
     <name>comment-questions</name>
     <message numerus="yes">
-        <source>%n further pages</source>
+        <source>%n more pages</source>
         <translation>
             <numerusform>%n weitere Seite</numerusform>
             <numerusform>%n weitere Seiten</numerusform>
         </translation>
     </message>
     <message>
-        <source>This file has %1, which would be taken out and cannot be brought back: only its first page is kept.</source>
-        <translation>Diese Datei hat %1. Sie würden entfernt und lassen sich nicht zurückholen: Nur die erste Seite bleibt erhalten.</translation>
+        <source>This file has %1. Only the first page is kept; this cannot be undone.</source>
+        <translation>Diese Datei hat %1. Nur die erste Seite bleibt erhalten; das lässt sich nicht rückgängig machen.</translation>
     </message>
     <message numerus="yes">
-        <source>%n files have several pages and are left out; their comments would cost them %1: %2.</source>
+        <source>%n files with several pages are left out, since writing would remove %1: %2.</source>
         <translation>
-            <numerusform>%n Datei hat mehrere Seiten und wird ausgelassen; der Kommentar würde sie %1 kosten: %2.</numerusform>
-            <numerusform>%n Dateien haben mehrere Seiten und werden ausgelassen; der Kommentar würde sie %1 kosten: %2.</numerusform>
+            <numerusform>%n Datei mit mehreren Seiten wird ausgelassen, da das Schreiben %1 entfernen würde: %2.</numerusform>
+            <numerusform>%n Dateien mit mehreren Seiten werden ausgelassen, da das Schreiben %1 entfernen würde: %2.</numerusform>
         </translation>
     </message>
     <message>
-        <source>The originals themselves are changed: their comment, and nothing else in them.</source>
-        <translation>Geändert werden die Originale selbst: ihr Kommentar und sonst nichts.</translation>
+        <source>This changes the metadata inside your originals. Their pictures are not touched.</source>
+        <translation>Dies ändert die Metadaten in Ihren Originalen. Die Bilder selbst bleiben unangetastet.</translation>
     </message>
     <message numerus="yes">
-        <source>%n files are of types that have no place for a comment, and stay as they are.</source>
+        <source>%n files have types that cannot hold a comment and stay unchanged.</source>
         <translation>
-            <numerusform>%n Datei ist von einem Typ ohne Platz für einen Kommentar und bleibt, wie sie ist.</numerusform>
-            <numerusform>%n Dateien sind von einem Typ ohne Platz für einen Kommentar und bleiben, wie sie sind.</numerusform>
+            <numerusform>%n Datei hat einen Typ ohne Kommentare und bleibt unverändert.</numerusform>
+            <numerusform>%n Dateien haben Typen ohne Kommentare und bleiben unverändert.</numerusform>
         </translation>
     </message>
     <message>
@@ -3207,7 +3202,7 @@
         <translation>Kommentar schreiben</translation>
     </message>
     <message numerus="yes">
-        <source>Empty the comments of %n pictures?</source>
+        <source>Clear the comments of %n pictures?</source>
         <translation>
             <numerusform>Den Kommentar dieses Bildes leeren?</numerusform>
             <numerusform>Die Kommentare von %n Bildern leeren?</numerusform>
@@ -3233,7 +3228,7 @@
         <translation>Abbrechen</translation>
     </message>
     <message>
-        <source>Write into these too, and keep only their first page</source>
+        <source>Write into these too, keeping only their first page</source>
         <translation>Auch in diese schreiben und nur die erste Seite behalten</translation>
     </message>
     <message>
@@ -3241,52 +3236,52 @@
         <translation>Kommentar nicht geschrieben</translation>
     </message>
     <message>
-        <source>Write what was typed into %1?</source>
-        <translation>Das Getippte in %1 schreiben?</translation>
+        <source>Write your changes to %1?</source>
+        <translation>Ihre Änderungen in %1 schreiben?</translation>
     </message>
     <message>
-        <source>It is not in the file yet.</source>
-        <translation>Es steht noch nicht in der Datei.</translation>
+        <source>The comment has not been written yet.</source>
+        <translation>Der Kommentar ist noch nicht geschrieben.</translation>
     </message>
     <message>
         <source>Discard</source>
         <translation>Verwerfen</translation>
     </message>
     <message>
-        <source>Keep Typing</source>
-        <translation>Weiter tippen</translation>
+        <source>Keep Editing</source>
+        <translation>Weiter bearbeiten</translation>
     </message>
 </context>
 <context>
     <name>comment-run</name>
     <message>
-        <source>The file does not say what was written into it.</source>
-        <translation>In der Datei steht nicht, was in sie geschrieben wurde.</translation>
+        <source>The file does not contain what was written.</source>
+        <translation>Die Datei enthält nicht, was geschrieben wurde.</translation>
     </message>
     <message numerus="yes">
-        <source>%n further pages were taken out and do not come back.</source>
+        <source>%n more pages were removed. This cannot be undone.</source>
         <translation>
-            <numerusform>%n weitere Seite wurde entfernt und kommt nicht zurück.</numerusform>
-            <numerusform>%n weitere Seiten wurden entfernt und kommen nicht zurück.</numerusform>
+            <numerusform>%n weitere Seite wurde entfernt. Das lässt sich nicht rückgängig machen.</numerusform>
+            <numerusform>%n weitere Seiten wurden entfernt. Das lässt sich nicht rückgängig machen.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>It has %n further pages, which would be lost.</source>
+        <source>It has %n more pages, which would be lost.</source>
         <translation>
             <numerusform>Sie hat %n weitere Seite, die verloren ginge.</numerusform>
             <numerusform>Sie hat %n weitere Seiten, die verloren gingen.</numerusform>
         </translation>
     </message>
     <message>
-        <source>The file is not there any more.</source>
-        <translation>Die Datei ist nicht mehr da.</translation>
+        <source>The file no longer exists.</source>
+        <translation>Die Datei ist nicht mehr vorhanden.</translation>
     </message>
     <message>
-        <source>It has its old comment already.</source>
+        <source>It already has its old comment.</source>
         <translation>Es hat seinen alten Kommentar schon.</translation>
     </message>
     <message>
-        <source>The comment was changed since and stays: “%1”</source>
+        <source>The comment has been changed since and is kept: “%1”</source>
         <translation>Der Kommentar wurde seitdem geändert und bleibt: „%1“</translation>
     </message>
     <message>
@@ -3305,8 +3300,8 @@
         <translation>„%1“ wurde geschrieben</translation>
     </message>
     <message>
-        <source>“%1” was emptied</source>
-        <translation>„%1“ wurde geleert</translation>
+        <source>“%1” was cleared</source>
+        <translation>„%1“ wurde gelöscht</translation>
     </message>
     <message>
         <source>“%1” became “%2”</source>
@@ -3454,16 +3449,20 @@
         <translation>Original</translation>
     </message>
     <message>
-        <source>%1 at %2, %3</source>
-        <translation>%1 bei %2, %3</translation>
-    </message>
-    <message>
         <source>Ratio</source>
         <translation>Verhältnis</translation>
     </message>
     <message>
         <source>Other</source>
         <translation>Anderes</translation>
+    </message>
+    <message>
+        <source>%1 × %2 px at %3, %4</source>
+        <translation>%1 × %2 px bei %3, %4</translation>
+    </message>
+    <message>
+        <source>%1 × %2 px</source>
+        <translation>%1 × %2 px</translation>
     </message>
 </context>
 <context>
@@ -3485,7 +3484,7 @@
         <translation>16:9, 1920 × 1080</translation>
     </message>
     <message>
-        <source>Trim 5 %</source>
+        <source>Trim 5%</source>
         <translation>5 % beschneiden</translation>
     </message>
 </context>
@@ -3496,14 +3495,14 @@
         <translation>Zugeschnitten</translation>
     </message>
     <message>
-        <source>%1 % away</source>
-        <translation>%1 % ab</translation>
+        <source>trim %1%</source>
+        <translation>%1 % beschneiden</translation>
     </message>
     <message numerus="yes">
-        <source>%n pixels away</source>
+        <source>trim %n pixels</source>
         <translation>
-            <numerusform>%n Pixel ab</numerusform>
-            <numerusform>%n Pixel ab</numerusform>
+            <numerusform>%n Pixel beschneiden</numerusform>
+            <numerusform>%n Pixel beschneiden</numerusform>
         </translation>
     </message>
     <message>
@@ -3515,8 +3514,8 @@
         <translation>Position %1</translation>
     </message>
     <message>
-        <source>Enter a whole number from 0 to 99 per cent.</source>
-        <translation>Geben Sie eine ganze Zahl von 0 bis 99 Prozent ein.</translation>
+        <source>Enter a whole number from 0 to 99.</source>
+        <translation>Geben Sie eine ganze Zahl von 0 bis 99 ein.</translation>
     </message>
     <message>
         <source>Enter a whole number from 0 to %1.</source>
@@ -3543,7 +3542,7 @@
         <translation>nicht getauscht</translation>
     </message>
     <message>
-        <source>where the eye is drawn to</source>
+        <source>at the focus of attention</source>
         <translation>am Blickfang</translation>
     </message>
     <message>
@@ -3554,8 +3553,8 @@
 <context>
     <name>field-kinds</name>
     <message>
-        <source>The part that draws the eye</source>
-        <translation>Der Teil, der ins Auge fällt</translation>
+        <source>Focus of attention</source>
+        <translation>Blickfang</translation>
     </message>
     <message>
         <source>Position</source>
@@ -3569,11 +3568,11 @@
         <translation>%1 kann nicht gelesen werden: kein Text in UTF-8</translation>
     </message>
     <message>
-        <source>%1 stays as it is: %2</source>
-        <translation>%1 bleibt, wie es ist: %2</translation>
+        <source>%1 stays unchanged: %2</source>
+        <translation>%1 bleibt unverändert: %2</translation>
     </message>
     <message>
-        <source>A part of %1 could not be removed and is still there</source>
+        <source>A part of %1 could not be removed</source>
         <translation>Ein Teil von %1 konnte nicht entfernt werden und ist noch da</translation>
     </message>
     <message>
@@ -3581,19 +3580,19 @@
         <translation>%1; eine Kopie liegt unter %2</translation>
     </message>
     <message>
-        <source>%1 is gone; what was copied of it is at %2</source>
-        <translation>%1 ist weg; was davon kopiert wurde, liegt unter %2</translation>
+        <source>%1 no longer exists; its partial copy is at %2</source>
+        <translation>%1 ist nicht mehr vorhanden; eine unvollständige Kopie liegt unter %2</translation>
     </message>
     <message>
-        <source>%1 could not be put away</source>
-        <translation>%1 konnte nicht weggeräumt werden</translation>
+        <source>%1 could not be moved aside</source>
+        <translation>%1 konnte nicht beiseitegelegt werden</translation>
     </message>
     <message>
         <source>%1 is also at %2</source>
         <translation>%1 liegt auch unter %2</translation>
     </message>
     <message>
-        <source>%1 had only its temporary name left and is now called %2</source>
+        <source>%1 was left with a temporary name and is now called %2</source>
         <translation>%1 hatte nur noch seinen vorläufigen Namen und heißt jetzt %2</translation>
     </message>
     <message>
@@ -3601,32 +3600,32 @@
         <translation>Das Protokoll dieses Durchlaufs ist beschädigt: %1</translation>
     </message>
     <message>
-        <source>The name %1 was taken in the meantime; the item is now called %2</source>
-        <translation>Der Name %1 wurde inzwischen vergeben; das Element heißt jetzt %2</translation>
+        <source>The name %1 is now in use; the item is called %2</source>
+        <translation>Der Name %1 ist inzwischen belegt; das Element heißt %2</translation>
     </message>
     <message>
         <source>The run was interrupted</source>
         <translation>Der Durchlauf wurde unterbrochen</translation>
     </message>
     <message>
-        <source>Nothing is known of this run any more</source>
-        <translation>Über diesen Durchlauf ist nichts mehr bekannt</translation>
+        <source>There is no record of this run</source>
+        <translation>Über diesen Durchlauf gibt es keine Aufzeichnung</translation>
     </message>
     <message>
-        <source>This run has not ended yet</source>
-        <translation>Dieser Durchlauf ist noch nicht beendet</translation>
+        <source>This run is still in progress</source>
+        <translation>Dieser Durchlauf läuft noch</translation>
     </message>
     <message>
         <source>Nothing was done in this run</source>
         <translation>In diesem Durchlauf wurde nichts getan</translation>
     </message>
     <message>
-        <source>This run was taken back already</source>
-        <translation>Dieser Durchlauf wurde schon zurückgenommen</translation>
+        <source>This run has already been undone</source>
+        <translation>Dieser Durchlauf wurde schon rückgängig gemacht</translation>
     </message>
     <message>
-        <source>Nothing of this run can be taken back any more</source>
-        <translation>Von diesem Durchlauf lässt sich nichts mehr zurücknehmen</translation>
+        <source>Nothing in this run can be undone any more</source>
+        <translation>Von diesem Durchlauf lässt sich nichts mehr rückgängig machen</translation>
     </message>
     <message>
         <source>%1 could not be copied correctly</source>
@@ -3641,20 +3640,20 @@
         <translation>Der Name %1 ist für dieses Laufwerk zu lang</translation>
     </message>
     <message>
-        <source>%1 is not there any more</source>
-        <translation>%1 ist nicht mehr da</translation>
+        <source>%1 no longer exists</source>
+        <translation>%1 ist nicht mehr vorhanden</translation>
     </message>
     <message>
-        <source>The name %1 is taken</source>
-        <translation>Der Name %1 ist vergeben</translation>
+        <source>The name %1 is already in use</source>
+        <translation>Der Name %1 ist schon belegt</translation>
     </message>
     <message>
-        <source>The folder %1 cannot go into itself</source>
-        <translation>Der Ordner %1 kann nicht in sich selbst</translation>
+        <source>The folder %1 cannot be moved into itself</source>
+        <translation>Der Ordner %1 kann nicht in sich selbst verschoben werden</translation>
     </message>
     <message>
-        <source>%1 or its folder may not be changed</source>
-        <translation>%1 oder sein Ordner darf nicht geändert werden</translation>
+        <source>You are not allowed to change %1 or its folder</source>
+        <translation>Sie dürfen %1 oder seinen Ordner nicht ändern</translation>
     </message>
     <message>
         <source>%1, which it belongs to, keeps its name</source>
@@ -3665,16 +3664,16 @@
         <translation>%1 wurde inzwischen geändert oder ersetzt</translation>
     </message>
     <message>
-        <source>There is no room left on the disk for %1</source>
+        <source>There is no space left on the disk for %1</source>
         <translation>Auf dem Laufwerk ist kein Platz mehr für %1</translation>
     </message>
     <message>
-        <source>%1 is the original itself by now, no copy of it</source>
+        <source>%1 is now the original itself, not a copy of it</source>
         <translation>%1 ist inzwischen das Original selbst und keine Kopie davon</translation>
     </message>
     <message>
-        <source>%1 could not get its new name, and others wait for its old one</source>
-        <translation>%1 konnte seinen neuen Namen nicht bekommen, und andere warten auf seinen alten</translation>
+        <source>%1 could not be renamed, and other files need its old name</source>
+        <translation>%1 konnte nicht umbenannt werden, und andere Dateien brauchen seinen alten Namen</translation>
     </message>
 </context>
 <context>
@@ -3684,7 +3683,7 @@
         <translation>%1 kann nicht geschrieben werden: %2</translation>
     </message>
     <message>
-        <source>The folder %1 cannot be made</source>
+        <source>The folder %1 cannot be created</source>
         <translation>Der Ordner %1 kann nicht angelegt werden</translation>
     </message>
 </context>
@@ -3729,16 +3728,16 @@
         <translation>%1, %2</translation>
     </message>
     <message>
-        <source>file of %1</source>
+        <source>file dated %1</source>
         <translation>Datei vom %1</translation>
     </message>
     <message>
-        <source>Take back the last deed (Ctrl+Z)</source>
-        <translation>Letzten Schritt zurücknehmen (Strg+Z)</translation>
+        <source>Undo (Ctrl+Z)</source>
+        <translation>Rückgängig (Strg+Z)</translation>
     </message>
     <message>
-        <source>Take back: %1 (Ctrl+Z)</source>
-        <translation>Zurücknehmen: %1 (Strg+Z)</translation>
+        <source>Undo: %1 (Ctrl+Z)</source>
+        <translation>Rückgängig: %1 (Strg+Z)</translation>
     </message>
     <message>
         <source>Keys move pictures now.</source>
@@ -3791,19 +3790,19 @@
         <translation>Verknüpfen</translation>
     </message>
     <message>
-        <source>The picture leaves its folder. (Alt+1)</source>
-        <translation>Das Bild verlässt seinen Ordner. (Alt+1)</translation>
+        <source>Moves the picture to the folder. (Alt+1)</source>
+        <translation>Verschiebt das Bild in den Ordner. (Alt+1)</translation>
     </message>
     <message>
-        <source>The picture stays, and a copy goes into the folder. (Alt+2)</source>
-        <translation>Das Bild bleibt, und eine Kopie kommt in den Ordner. (Alt+2)</translation>
+        <source>Copies the picture to the folder. (Alt+2)</source>
+        <translation>Kopiert das Bild in den Ordner. (Alt+2)</translation>
     </message>
     <message>
-        <source>The picture stays, and the folder gets a link to it. (Alt+3)</source>
-        <translation>Das Bild bleibt, und der Ordner bekommt eine Verknüpfung darauf. (Alt+3)</translation>
+        <source>Puts a link to the picture into the folder. (Alt+3)</source>
+        <translation>Legt im Ordner eine Verknüpfung zum Bild an. (Alt+3)</translation>
     </message>
     <message>
-        <source>Change Label</source>
+        <source>Rename Label</source>
         <translation>Bezeichnung ändern</translation>
     </message>
     <message>
@@ -3831,15 +3830,15 @@
         <translation>Alle Ordner entfernen</translation>
     </message>
     <message numerus="yes">
-        <source>Take all %n folders off the list?</source>
+        <source>Remove all %n folders from the list?</source>
         <translation>
             <numerusform>Den Ordner aus der Liste nehmen?</numerusform>
             <numerusform>Alle %n Ordner aus der Liste nehmen?</numerusform>
         </translation>
     </message>
     <message>
-        <source>The folders themselves stay as they are, and so do presets.</source>
-        <translation>Die Ordner selbst bleiben, wie sie sind, ebenso die Vorgaben.</translation>
+        <source>The folders and your presets are not changed.</source>
+        <translation>Die Ordner und Ihre Vorgaben werden nicht verändert.</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -3854,26 +3853,26 @@
         <translation>Zielordner wählen</translation>
     </message>
     <message numerus="yes">
-        <source>%n folders are in the list already.</source>
+        <source>%n folders are already in the list.</source>
         <translation>
             <numerusform>%n Ordner ist schon in der Liste.</numerusform>
             <numerusform>%n Ordner sind schon in der Liste.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>There are keys for %n folders only.</source>
+        <source>Only %n folders can have a key.</source>
         <translation>
-            <numerusform>Es gibt nur für %n Ordner eine Taste.</numerusform>
-            <numerusform>Es gibt nur für %n Ordner Tasten.</numerusform>
+            <numerusform>Nur %n Ordner kann eine Taste haben.</numerusform>
+            <numerusform>Nur %n Ordner können eine Taste haben.</numerusform>
         </translation>
     </message>
     <message>
-        <source>A folder cannot be called that.</source>
-        <translation>So kann ein Ordner nicht heißen.</translation>
+        <source>This is not a valid folder name.</source>
+        <translation>Dies ist kein gültiger Ordnername.</translation>
     </message>
     <message>
-        <source>There is something of this name already.</source>
-        <translation>Etwas mit diesem Namen gibt es schon.</translation>
+        <source>This name is already in use.</source>
+        <translation>Dieser Name ist schon belegt.</translation>
     </message>
     <message>
         <source>In %1</source>
@@ -3883,16 +3882,16 @@
 <context>
     <name>hand-slots</name>
     <message>
-        <source>not there</source>
-        <translation>nicht vorhanden</translation>
+        <source>not found</source>
+        <translation>nicht gefunden</translation>
     </message>
     <message>
         <source>not a folder</source>
         <translation>kein Ordner</translation>
     </message>
     <message>
-        <source>cannot be written</source>
-        <translation>nicht beschreibbar</translation>
+        <source>read-only</source>
+        <translation>schreibgeschützt</translation>
     </message>
 </context>
 <context>
@@ -3930,15 +3929,15 @@
         <translation>In den Papierkorb</translation>
     </message>
     <message>
-        <source>This picture is in the trash. Undo brings it back.</source>
+        <source>This picture is in the trash. Use Undo to restore it.</source>
         <translation>Dieses Bild ist im Papierkorb. „Rückgängig“ holt es zurück.</translation>
     </message>
     <message>
-        <source>This picture is in %1 already.</source>
+        <source>This picture is already in %1.</source>
         <translation>Dieses Bild ist schon in %1.</translation>
     </message>
     <message>
-        <source>This picture is in the trash already.</source>
+        <source>This picture is already in the trash.</source>
         <translation>Dieses Bild ist schon im Papierkorb.</translation>
     </message>
     <message>
@@ -3947,7 +3946,7 @@
     </message>
     <message>
         <source>There is nothing left to undo.</source>
-        <translation>Es gibt nichts mehr zurückzunehmen.</translation>
+        <translation>Es gibt nichts mehr rückgängig zu machen.</translation>
     </message>
     <message>
         <source>Sort by Hand</source>
@@ -3976,20 +3975,20 @@
         <translation>Das Handbuch ist nicht installiert.</translation>
     </message>
     <message>
-        <source>Looking for a new version…</source>
-        <translation>Nach einer neuen Version wird gesucht…</translation>
+        <source>Checking for updates…</source>
+        <translation>Es wird nach Aktualisierungen gesucht …</translation>
     </message>
     <message>
-        <source>This is the newest version.</source>
-        <translation>Dies ist die neueste Version.</translation>
+        <source>Quorlin is up to date.</source>
+        <translation>Quorlin ist auf dem neuesten Stand.</translation>
     </message>
     <message>
-        <source>Nobody answers where new versions are announced.</source>
-        <translation>Die Stelle, die neue Versionen ankündigt, antwortet nicht.</translation>
+        <source>Could not reach the update server.</source>
+        <translation>Der Aktualisierungsserver ist nicht erreichbar.</translation>
     </message>
     <message>
-        <source>This installation does not know where new versions are announced.</source>
-        <translation>Diese Installation weiß nicht, wo neue Versionen angekündigt werden.</translation>
+        <source>No update server is set in this installation.</source>
+        <translation>In dieser Installation ist kein Aktualisierungsserver eingestellt.</translation>
     </message>
 </context>
 <context>
@@ -4049,10 +4048,10 @@
         <translation>Einen früheren Durchlauf rückgängig machen</translation>
     </message>
     <message numerus="yes">
-        <source>%1 of %n files was done before Quorlin was started this time. Undo it?</source>
+        <source>%1 of %n files belongs to an earlier session. Undo it?</source>
         <translation>
-            <numerusform>„%1“ von %n Datei war vor diesem Start von Quorlin. Rückgängig machen?</numerusform>
-            <numerusform>„%1“ von %n Dateien war vor diesem Start von Quorlin. Rückgängig machen?</numerusform>
+            <numerusform>„%1“ von %n Datei stammt aus einer früheren Sitzung. Rückgängig machen?</numerusform>
+            <numerusform>„%1“ von %n Dateien stammt aus einer früheren Sitzung. Rückgängig machen?</numerusform>
         </translation>
     </message>
     <message>
@@ -4108,17 +4107,17 @@
         <translation>%1 hinzugefügt</translation>
     </message>
     <message numerus="yes">
-        <source>%n were in the list already</source>
+        <source>%n already in the list</source>
         <translation>
-            <numerusform>%n war schon in der Liste</numerusform>
-            <numerusform>%n waren schon in der Liste</numerusform>
+            <numerusform>%n schon in der Liste</numerusform>
+            <numerusform>%n schon in der Liste</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n files go along</source>
+        <source>%n sidecar files</source>
         <translation>
-            <numerusform>%n Datei geht mit</numerusform>
-            <numerusform>%n Dateien gehen mit</numerusform>
+            <numerusform>%n Begleitdatei</numerusform>
+            <numerusform>%n Begleitdateien</numerusform>
         </translation>
     </message>
     <message>
@@ -4142,8 +4141,8 @@
         <translation>In der Zwischenablage sind keine Dateien</translation>
     </message>
     <message>
-        <source>Left out here</source>
-        <translation>Hier ausgelassen</translation>
+        <source>Not shown</source>
+        <translation>Nicht gezeigt</translation>
     </message>
     <message numerus="yes">
         <source>and %n more</source>
@@ -4157,11 +4156,11 @@
         <translation>Schließen</translation>
     </message>
     <message>
-        <source>The sample pictures could not be copied into your folder of pictures</source>
+        <source>The sample pictures could not be copied to your pictures folder</source>
         <translation>Die Beispielbilder konnten nicht in Ihren Bilderordner kopiert werden</translation>
     </message>
     <message>
-        <source>Recipe opened. Nothing was run.</source>
+        <source>Recipe opened. Nothing has been run.</source>
         <translation>Rezept geöffnet. Nichts wurde ausgeführt.</translation>
     </message>
     <message numerus="yes">
@@ -4172,10 +4171,10 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>Looking at %n files…</source>
+        <source>Reading %n files…</source>
         <translation>
-            <numerusform>%n Datei wird angesehen …</numerusform>
-            <numerusform>%n Dateien werden angesehen …</numerusform>
+            <numerusform>%n Datei wird gelesen …</numerusform>
+            <numerusform>%n Dateien werden gelesen …</numerusform>
         </translation>
     </message>
 </context>
@@ -4186,7 +4185,7 @@
         <translation>Noch keine Bilder</translation>
     </message>
     <message>
-        <source>No pictures there</source>
+        <source>No pictures found</source>
         <translation>Keine Bilder gefunden</translation>
     </message>
     <message>
@@ -4198,25 +4197,25 @@
         <translation>Bilder oder Ordner hier ablegen</translation>
     </message>
     <message>
-        <source>Then choose at the left what to do with them. Your originals stay as they are unless you say otherwise.</source>
-        <translation>Wählen Sie dann links, was mit ihnen geschehen soll. Ihre Originale bleiben, wie sie sind, sofern Sie nichts anderes bestimmen.</translation>
+        <source>Then choose an action on the left. Your originals stay unchanged unless you ask for it.</source>
+        <translation>Wählen Sie dann links eine Aktion. Ihre Originale bleiben unverändert, sofern Sie nichts anderes verlangen.</translation>
     </message>
     <message>
-        <source>“%1” is not a picture that can be taken</source>
-        <translation>„%1“ ist kein verwendbares Bild</translation>
+        <source>“%1” was not added: it is not a supported picture.</source>
+        <translation>„%1“ wurde nicht hinzugefügt: Das ist kein unterstütztes Bild.</translation>
     </message>
     <message numerus="yes">
-        <source>%n files are not pictures that can be taken</source>
+        <source>%n files were not added: they are not supported pictures.</source>
         <translation>
-            <numerusform>%n Datei ist kein verwendbares Bild</numerusform>
-            <numerusform>%n Dateien sind keine verwendbaren Bilder</numerusform>
+            <numerusform>%n Datei wurde nicht hinzugefügt: Das ist kein unterstütztes Bild.</numerusform>
+            <numerusform>%n Dateien wurden nicht hinzugefügt: Das sind keine unterstützten Bilder.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n other files of the list are not pictures that can be taken</source>
+        <source>%n files are not shown because %1 cannot use them.</source>
         <translation>
-            <numerusform>%n weitere Datei der Liste ist kein verwendbares Bild</numerusform>
-            <numerusform>%n weitere Dateien der Liste sind keine verwendbaren Bilder</numerusform>
+            <numerusform>%n Datei wird nicht gezeigt, weil „%1“ sie nicht verwenden kann.</numerusform>
+            <numerusform>%n Dateien werden nicht gezeigt, weil „%1“ sie nicht verwenden kann.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -4231,7 +4230,7 @@
         <translation>Noch keine Dateien</translation>
     </message>
     <message>
-        <source>No files there</source>
+        <source>No files found</source>
         <translation>Keine Dateien gefunden</translation>
     </message>
     <message>
@@ -4243,25 +4242,25 @@
         <translation>Dateien oder Ordner hier ablegen</translation>
     </message>
     <message>
-        <source>Then say on the right what is to become of them. You see everything before it happens, and can undo it afterwards.</source>
-        <translation>Bestimmen Sie dann rechts, was mit ihnen geschehen soll. Sie sehen alles vorher und können es nachher rückgängig machen.</translation>
+        <source>Then set up the action on the right. You see every result before it is written.</source>
+        <translation>Stellen Sie dann rechts die Aktion ein. Sie sehen jedes Ergebnis, bevor es geschrieben wird.</translation>
     </message>
     <message>
-        <source>“%1” cannot be taken</source>
-        <translation>„%1“ ist nicht verwendbar</translation>
+        <source>“%1” was not added: it is not a file.</source>
+        <translation>„%1“ wurde nicht hinzugefügt: Das ist keine Datei.</translation>
     </message>
     <message numerus="yes">
-        <source>%n files cannot be taken</source>
+        <source>%n items were not added: they are not files.</source>
         <translation>
-            <numerusform>%n Datei ist nicht verwendbar</numerusform>
-            <numerusform>%n Dateien sind nicht verwendbar</numerusform>
+            <numerusform>%n Element wurde nicht hinzugefügt: Das ist keine Datei.</numerusform>
+            <numerusform>%n Elemente wurden nicht hinzugefügt: Das sind keine Dateien.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n folders of the list are left out</source>
+        <source>%n folders are not shown because %1 cannot use them.</source>
         <translation>
-            <numerusform>%n Ordner der Liste wird ausgelassen</numerusform>
-            <numerusform>%n Ordner der Liste werden ausgelassen</numerusform>
+            <numerusform>%n Ordner wird nicht gezeigt, weil „%1“ ihn nicht verwenden kann.</numerusform>
+            <numerusform>%n Ordner werden nicht gezeigt, weil „%1“ sie nicht verwenden kann.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -4276,7 +4275,7 @@
         <translation>Noch keine Ordner</translation>
     </message>
     <message>
-        <source>No folders there</source>
+        <source>No folders found</source>
         <translation>Keine Ordner gefunden</translation>
     </message>
     <message>
@@ -4288,25 +4287,25 @@
         <translation>Ordner hier ablegen</translation>
     </message>
     <message>
-        <source>The folders themselves are worked on; what is in them stays in them.</source>
-        <translation>Bearbeitet werden die Ordner selbst; was darin ist, bleibt darin.</translation>
+        <source>The folders themselves are renamed. What is in them does not change.</source>
+        <translation>Umbenannt werden die Ordner selbst. Ihr Inhalt ändert sich nicht.</translation>
     </message>
     <message>
-        <source>“%1” is not a folder</source>
-        <translation>„%1“ ist kein Ordner</translation>
+        <source>“%1” was not added: it is not a folder.</source>
+        <translation>„%1“ wurde nicht hinzugefügt: Das ist kein Ordner.</translation>
     </message>
     <message numerus="yes">
-        <source>%n files are not folders</source>
+        <source>%n files were not added: they are not folders.</source>
         <translation>
-            <numerusform>%n Datei ist kein Ordner</numerusform>
-            <numerusform>%n Dateien sind keine Ordner</numerusform>
+            <numerusform>%n Datei wurde nicht hinzugefügt: Das ist kein Ordner.</numerusform>
+            <numerusform>%n Dateien wurden nicht hinzugefügt: Das sind keine Ordner.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n files of the list are left out</source>
+        <source>%n files are not shown because folders are being renamed.</source>
         <translation>
-            <numerusform>%n Datei der Liste wird ausgelassen</numerusform>
-            <numerusform>%n Dateien der Liste werden ausgelassen</numerusform>
+            <numerusform>%n Datei wird nicht gezeigt, weil Ordner umbenannt werden.</numerusform>
+            <numerusform>%n Dateien werden nicht gezeigt, weil Ordner umbenannt werden.</numerusform>
         </translation>
     </message>
 </context>
@@ -4352,22 +4351,22 @@
 <context>
     <name>job</name>
     <message>
-        <source>the folder cannot be written</source>
-        <translation>der Ordner ist nicht beschreibbar</translation>
+        <source>the folder is read-only</source>
+        <translation>der Ordner ist schreibgeschützt</translation>
     </message>
     <message>
-        <source>a file of this name is there</source>
-        <translation>es gibt schon eine Datei dieses Namens</translation>
+        <source>file already exists</source>
+        <translation>Datei ist schon vorhanden</translation>
     </message>
     <message>
-        <source>no free name was found</source>
+        <source>no free name found</source>
         <translation>kein freier Name gefunden</translation>
     </message>
 </context>
 <context>
     <name>list-estimate</name>
     <message>
-        <source>about %1 in all</source>
+        <source>about %1 in total</source>
         <translation>insgesamt etwa %1</translation>
     </message>
 </context>
@@ -4418,8 +4417,8 @@
         <translation>Datum</translation>
     </message>
     <message>
-        <source>Deed</source>
-        <translation>Vorgang</translation>
+        <source>Action</source>
+        <translation>Aktion</translation>
     </message>
     <message>
         <source>File</source>
@@ -4462,20 +4461,20 @@
         <translation>%1 (Durchlauf vom %2)</translation>
     </message>
     <message>
-        <source>Any deed</source>
-        <translation>Jeder Vorgang</translation>
+        <source>All actions</source>
+        <translation>Alle Aktionen</translation>
     </message>
     <message>
         <source>Comments only</source>
         <translation>Nur Kommentare</translation>
     </message>
     <message>
-        <source>Any status</source>
-        <translation>Jeder Status</translation>
+        <source>All statuses</source>
+        <translation>Alle Status</translation>
     </message>
     <message>
         <source>A run is being undone. Stop it first, or wait.</source>
-        <translation>Ein Durchlauf wird gerade zurückgenommen. Stoppen Sie das zuerst oder warten Sie.</translation>
+        <translation>Ein Durchlauf wird gerade rückgängig gemacht. Stoppen Sie das zuerst oder warten Sie.</translation>
     </message>
     <message numerus="yes">
         <source>%Ln entries</source>
@@ -4510,10 +4509,10 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n comments chosen</source>
+        <source>%n comments selected</source>
         <translation>
-            <numerusform>%n Kommentar gewählt</numerusform>
-            <numerusform>%n Kommentare gewählt</numerusform>
+            <numerusform>%n Kommentar ausgewählt</numerusform>
+            <numerusform>%n Kommentare ausgewählt</numerusform>
         </translation>
     </message>
     <message>
@@ -4521,10 +4520,10 @@
         <translation>Kein Eintrag passt.</translation>
     </message>
     <message numerus="yes">
-        <source>Nothing was done yet. Every run writes what became of each picture here; the newest %Ln entries are kept.</source>
+        <source>No entries yet. Each run is recorded here, and the last %Ln entries are kept.</source>
         <translation>
-            <numerusform>Noch ist nichts geschehen. Jeder Durchlauf hält hier fest, was aus jedem Bild wurde; der neueste Eintrag bleibt erhalten.</numerusform>
-            <numerusform>Noch ist nichts geschehen. Jeder Durchlauf hält hier fest, was aus jedem Bild wurde; die neuesten %Ln Einträge bleiben erhalten.</numerusform>
+            <numerusform>Noch keine Einträge. Jeder Durchlauf wird hier festgehalten; der letzte Eintrag bleibt erhalten.</numerusform>
+            <numerusform>Noch keine Einträge. Jeder Durchlauf wird hier festgehalten; die letzten %Ln Einträge bleiben erhalten.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -4558,8 +4557,8 @@
         </translation>
     </message>
     <message>
-        <source>Your files stay as they are. Runs can then no longer be undone from here.</source>
-        <translation>Ihre Dateien bleiben, wie sie sind. Durchläufe lassen sich danach von hier aus nicht mehr rückgängig machen.</translation>
+        <source>Your files are not changed. Runs can then no longer be undone from here.</source>
+        <translation>Ihre Dateien werden nicht verändert. Durchläufe lassen sich danach hier nicht mehr rückgängig machen.</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -4579,13 +4578,13 @@
     </message>
     <message>
         <source>Undoing: %1 of %2</source>
-        <translation>Wird zurückgenommen: %1 von %2</translation>
+        <translation>Rückgängig machen: %1 von %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n files taken back</source>
+        <source>%n files restored</source>
         <translation>
-            <numerusform>%n Datei zurückgenommen</numerusform>
-            <numerusform>%n Dateien zurückgenommen</numerusform>
+            <numerusform>%n Datei wiederhergestellt</numerusform>
+            <numerusform>%n Dateien wiederhergestellt</numerusform>
         </translation>
     </message>
     <message>
@@ -4593,8 +4592,8 @@
         <translation>Gestoppt:</translation>
     </message>
     <message>
-        <source>A run is under way. What became of each picture stands here when it has ended.</source>
-        <translation>Ein Durchlauf ist im Gang. Was aus jedem Bild geworden ist, steht hier, wenn er beendet ist.</translation>
+        <source>A run is in progress. Its entries appear here when it is finished.</source>
+        <translation>Ein Durchlauf ist im Gange. Seine Einträge erscheinen hier, wenn er fertig ist.</translation>
     </message>
     <message>
         <source>These settings cannot be used now.</source>
@@ -4609,7 +4608,7 @@
     </message>
     <message>
         <source>Continue</source>
-        <translation>Weiter</translation>
+        <translation>Fortfahren</translation>
     </message>
 </context>
 <context>
@@ -4627,16 +4626,16 @@
         <translation>Füllen</translation>
     </message>
     <message>
-        <source>A run is under way</source>
-        <translation>Ein Durchlauf ist im Gang</translation>
+        <source>A run is in progress</source>
+        <translation>Ein Durchlauf ist im Gange</translation>
     </message>
     <message>
         <source>Stop the run and close the window?</source>
         <translation>Den Durchlauf abbrechen und das Fenster schließen?</translation>
     </message>
     <message>
-        <source>What is finished stays; nothing half written is left.</source>
-        <translation>Was fertig ist, bleibt; nichts halb Geschriebenes bleibt zurück.</translation>
+        <source>Finished pictures are kept. No half-written file is left behind.</source>
+        <translation>Fertige Bilder bleiben erhalten. Keine halb geschriebene Datei bleibt zurück.</translation>
     </message>
     <message>
         <source>Stop and Close</source>
@@ -4651,22 +4650,22 @@
         <translation>%1 %</translation>
     </message>
     <message>
-        <source>No file manager opens the folder. It is %1</source>
-        <translation>Kein Dateimanager öffnet den Ordner. Es ist %1</translation>
+        <source>No file manager could open the folder. It is %1</source>
+        <translation>Kein Dateimanager konnte den Ordner öffnen. Er ist %1</translation>
     </message>
     <message numerus="yes">
-        <source>Opened: %1, which holds the %n folders</source>
+        <source>Opened %1, which contains the %n folders</source>
         <translation>
-            <numerusform>Geöffnet: %1 mit dem %n Ordner</numerusform>
-            <numerusform>Geöffnet: %1 mit den %n Ordnern</numerusform>
+            <numerusform>%1 geöffnet, das den Ordner enthält</numerusform>
+            <numerusform>%1 geöffnet, das die %n Ordner enthält</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>manual</name>
     <message>
-        <source>No page says “%1”.</source>
-        <translation>„%1“ steht auf keiner Seite.</translation>
+        <source>“%1” was not found in the manual.</source>
+        <translation>„%1“ wurde im Handbuch nicht gefunden.</translation>
     </message>
 </context>
 <context>
@@ -4757,7 +4756,7 @@
         <translation>Werte suchen</translation>
     </message>
     <message>
-        <source>Comments are being written. Cancel it first, or wait.</source>
+        <source>Comments are being written. Cancel this first, or wait.</source>
         <translation>Kommentare werden gerade geschrieben. Brechen Sie das zuerst ab oder warten Sie.</translation>
     </message>
     <message>
@@ -4769,12 +4768,12 @@
         <translation>Wert oder Zweig kopieren</translation>
     </message>
     <message>
-        <source>Copy Place in Degrees, 48.85840, 2.29450</source>
-        <translation>Ort in Grad kopieren, 48.85840, 2.29450</translation>
+        <source>Copy Location in Degrees, 48.85840, 2.29450</source>
+        <translation>Aufnahmeort in Grad kopieren, 48.85840, 2.29450</translation>
     </message>
     <message>
-        <source>Copy Place in Minutes, 48° 51′ 30″ N</source>
-        <translation>Ort in Minuten kopieren, 48° 51′ 30″ N</translation>
+        <source>Copy Location in Minutes, 48° 51′ 30″ N</source>
+        <translation>Aufnahmeort in Minuten kopieren, 48° 51′ 30″ N</translation>
     </message>
     <message numerus="yes">
         <source>%n lines copied</source>
@@ -4784,20 +4783,20 @@
         </translation>
     </message>
     <message>
-        <source>Choose a property to copy first.</source>
-        <translation>Wählen Sie zuerst die Eigenschaft, die kopiert werden soll.</translation>
+        <source>Select a property to copy first.</source>
+        <translation>Wählen Sie zuerst eine Eigenschaft aus.</translation>
     </message>
     <message>
         <source>Copied: %1</source>
         <translation>Kopiert: %1</translation>
     </message>
     <message>
-        <source>Files of this type have no place for a comment.</source>
-        <translation>Dateien dieses Typs haben keinen Platz für einen Kommentar.</translation>
+        <source>Files of this type cannot hold a comment.</source>
+        <translation>Dateien dieses Typs können keinen Kommentar enthalten.</translation>
     </message>
     <message>
-        <source>Tokens such as {name}, {date} and {counter} stand for what each picture has; {{ is a brace.</source>
-        <translation>Platzhalter wie {name}, {date} und {counter} stehen für die Werte jedes Bildes; {{ ergibt eine geschweifte Klammer.</translation>
+        <source>Tokens such as {name}, {date} and {counter} are filled in for each picture. To write a brace, type {{.</source>
+        <translation>Platzhalter wie {name}, {date} und {counter} werden für jedes Bild ausgefüllt. Für eine geschweifte Klammer tippen Sie {{.</translation>
     </message>
     <message>
         <source>For example %1: “%2”</source>
@@ -4855,12 +4854,12 @@
 <context>
     <name>move-run</name>
     <message>
-        <source>Too little room</source>
-        <translation>Zu wenig Platz</translation>
+        <source>Not enough space</source>
+        <translation>Nicht genug Platz</translation>
     </message>
     <message>
-        <source>Files that find no room stay where they are.</source>
-        <translation>Dateien, die keinen Platz finden, bleiben, wo sie sind.</translation>
+        <source>Files that do not fit stay where they are.</source>
+        <translation>Dateien, die nicht passen, bleiben, wo sie sind.</translation>
     </message>
     <message>
         <source>Start Anyway</source>
@@ -4872,7 +4871,7 @@
     </message>
     <message>
         <source>Cancelled before the first file. Nothing was moved.</source>
-        <translation>Vor der ersten Datei abgebrochen. Nichts wurde bewegt.</translation>
+        <translation>Vor der ersten Datei abgebrochen. Nichts wurde verschoben.</translation>
     </message>
     <message>
         <source>There is nothing to do.</source>
@@ -4880,11 +4879,11 @@
     </message>
     <message>
         <source>Cancelled. Nothing was moved.</source>
-        <translation>Abgebrochen. Nichts wurde bewegt.</translation>
+        <translation>Abgebrochen. Nichts wurde verschoben.</translation>
     </message>
     <message>
-        <source>Simulation: %1</source>
-        <translation>Simulation: %1</translation>
+        <source>Dry run: %1</source>
+        <translation>Probelauf: %1</translation>
     </message>
     <message>
         <source>%1 left out</source>
@@ -4892,15 +4891,15 @@
     </message>
     <message>
         <source>nothing was moved</source>
-        <translation>nichts wurde bewegt</translation>
+        <translation>nichts wurde verschoben</translation>
     </message>
     <message>
         <source>done</source>
         <translation>fertig</translation>
     </message>
     <message>
-        <source>cancelled before its turn</source>
-        <translation>vorher abgebrochen</translation>
+        <source>cancelled</source>
+        <translation>abgebrochen</translation>
     </message>
     <message>
         <source>Cancelled:</source>
@@ -4933,88 +4932,88 @@
 <context>
     <name>move-words</name>
     <message>
-        <source>name is empty</source>
-        <translation>Name ist leer</translation>
+        <source>the name is empty</source>
+        <translation>der Name ist leer</translation>
     </message>
     <message>
-        <source>a name cannot have “/” in it or be “.” or “..”</source>
+        <source>a name cannot contain “/” or be “.” or “..”</source>
         <translation>ein Name darf kein „/“ enthalten und nicht „.“ oder „..“ sein</translation>
     </message>
     <message>
-        <source>name is too long</source>
-        <translation>Name ist zu lang</translation>
+        <source>the name is too long</source>
+        <translation>der Name ist zu lang</translation>
     </message>
     <message>
-        <source>the file is not there any more</source>
-        <translation>die Datei ist nicht mehr da</translation>
+        <source>the file no longer exists</source>
+        <translation>die Datei ist nicht mehr vorhanden</translation>
     </message>
     <message>
-        <source>%1 would get this name too</source>
-        <translation>%1 bekäme diesen Namen auch</translation>
+        <source>same new name as %1</source>
+        <translation>gleicher neuer Name wie %1</translation>
     </message>
     <message>
-        <source>name is taken by %1, which is not in this list or stays</source>
-        <translation>Name vergeben an %1, das nicht in dieser Liste steht oder bleibt</translation>
+        <source>name in use by %1, which keeps its name</source>
+        <translation>Name belegt durch %1, das ihn behält</translation>
     </message>
     <message>
-        <source>name is taken by a file not in this list</source>
-        <translation>Name vergeben: Datei nicht in Liste</translation>
+        <source>name in use by a file that is not in this list</source>
+        <translation>Name durch eine Datei außerhalb der Liste belegt</translation>
     </message>
     <message>
         <source>differs only by case or accents from %1</source>
         <translation>unterscheidet sich nur in Großschreibung oder Akzenten von %1</translation>
     </message>
     <message>
-        <source>a folder cannot go into itself</source>
-        <translation>ein Ordner kann nicht in sich selbst</translation>
+        <source>a folder cannot be moved into itself</source>
+        <translation>ein Ordner kann nicht in sich selbst verschoben werden</translation>
     </message>
     <message>
-        <source>the folder cannot be written</source>
-        <translation>der Ordner ist nicht beschreibbar</translation>
+        <source>the folder is read-only</source>
+        <translation>der Ordner ist schreibgeschützt</translation>
     </message>
     <message>
-        <source>the file that it goes with stays</source>
-        <translation>die Datei, zu der sie gehört, bleibt</translation>
+        <source>the picture of this sidecar file stays</source>
+        <translation>das Bild zu dieser Begleitdatei bleibt</translation>
     </message>
     <message>
-        <source>a file that goes along cannot: %1 is in its place</source>
-        <translation>eine Begleitdatei kann nicht mit: %1 ist an ihrer Stelle</translation>
+        <source>a sidecar file cannot be moved: %1 is in its place</source>
+        <translation>eine Begleitdatei lässt sich nicht verschieben: %1 ist an ihrer Stelle</translation>
     </message>
     <message>
-        <source>a file that goes along cannot</source>
-        <translation>eine Begleitdatei kann nicht mit</translation>
+        <source>a sidecar file cannot be moved</source>
+        <translation>eine Begleitdatei lässt sich nicht verschieben</translation>
     </message>
     <message>
-        <source>cannot be done</source>
+        <source>not possible</source>
         <translation>nicht möglich</translation>
     </message>
     <message>
-        <source>changes places with %1: done in two steps</source>
-        <translation>tauscht mit %1: geschieht in zwei Schritten</translation>
+        <source>swaps names with %1</source>
+        <translation>tauscht den Namen mit %1</translation>
     </message>
     <message>
         <source>ready, with its %1</source>
-        <translation>bereit, samt %1</translation>
+        <translation>bereit, mit %1</translation>
     </message>
     <message>
-        <source>ready, numbered because the name is taken</source>
-        <translation>bereit, nummeriert, da der Name vergeben ist</translation>
+        <source>ready, numbered because the file exists</source>
+        <translation>bereit, nummeriert, da die Datei vorhanden ist</translation>
     </message>
     <message>
-        <source>ready, onto another disk</source>
+        <source>ready, to another disk</source>
         <translation>bereit, auf anderes Laufwerk</translation>
     </message>
     <message>
         <source>ready, only the case changes</source>
-        <translation>bereit, nur Groß/klein ändert sich</translation>
+        <translation>bereit, nur Groß-/Kleinschreibung ändert sich</translation>
     </message>
     <message>
         <source>ready</source>
         <translation>bereit</translation>
     </message>
     <message>
-        <source>Goes with its %1.</source>
-        <translation>Nimmt %1 mit.</translation>
+        <source>Includes its %1.</source>
+        <translation>Mit %1.</translation>
     </message>
     <message>
         <source>ready, but %1</source>
@@ -5025,31 +5024,31 @@
         <translation>bleibt: %1 bekommt diesen Namen</translation>
     </message>
     <message>
-        <source>stays: a file of this name is there</source>
-        <translation>bleibt: es gibt schon eine Datei dieses Namens</translation>
+        <source>stays: file already exists</source>
+        <translation>bleibt: Datei ist schon vorhanden</translation>
     </message>
     <message>
-        <source>In the way: %1</source>
-        <translation>Im Weg: %1</translation>
+        <source>Existing file: %1</source>
+        <translation>Vorhandene Datei: %1</translation>
     </message>
     <message>
-        <source>goes along with %1</source>
-        <translation>geht mit %1 mit</translation>
+        <source>sidecar file of %1</source>
+        <translation>Begleitdatei von %1</translation>
     </message>
     <message>
-        <source>stays as it is</source>
-        <translation>bleibt, wie es ist</translation>
+        <source>unchanged</source>
+        <translation>unverändert</translation>
     </message>
 </context>
 <context>
     <name>moves</name>
     <message>
-        <source>Simulate: %1</source>
-        <translation>Simulation: %1</translation>
+        <source>Dry Run: %1</source>
+        <translation>Probelauf: %1</translation>
     </message>
     <message>
-        <source>Working out names: %1 of %2…</source>
-        <translation>Namen werden gebildet: %1 von %2…</translation>
+        <source>Planning: %1 of %2…</source>
+        <translation>Wird geplant: %1 von %2 …</translation>
     </message>
     <message>
         <source>%1 ready</source>
@@ -5063,17 +5062,17 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n stay as they are</source>
+        <source>%n unchanged</source>
         <translation>
-            <numerusform>%n bleibt unverändert</numerusform>
-            <numerusform>%n bleiben unverändert</numerusform>
+            <numerusform>%n unverändert</numerusform>
+            <numerusform>%n unverändert</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n go along</source>
+        <source>%n sidecar files</source>
         <translation>
-            <numerusform>%n geht mit</numerusform>
-            <numerusform>%n gehen mit</numerusform>
+            <numerusform>%n Begleitdatei</numerusform>
+            <numerusform>%n Begleitdateien</numerusform>
         </translation>
     </message>
     <message>
@@ -5085,8 +5084,8 @@
         <translation>Jetzt</translation>
     </message>
     <message>
-        <source>Simulation: show, move nothing</source>
-        <translation>Simulation: zeigen, nichts bewegen</translation>
+        <source>Dry run: move nothing</source>
+        <translation>Probelauf: nichts verschieben</translation>
     </message>
 </context>
 <context>
@@ -5096,8 +5095,8 @@
         <translation>Geben Sie einen Text ein.</translation>
     </message>
     <message>
-        <source>Write numbers of pieces with commas between them, such as 2,1; -1 is the last.</source>
-        <translation>Schreiben Sie Nummern von Teilen mit Kommas dazwischen, etwa 2,1; -1 ist das letzte.</translation>
+        <source>Enter piece numbers separated by commas, such as 2,1. Use -1 for the last piece.</source>
+        <translation>Geben Sie Teilnummern durch Kommas getrennt ein, etwa 2,1. Mit -1 wählen Sie das letzte Teil.</translation>
     </message>
 </context>
 <context>
@@ -5130,8 +5129,8 @@
         <translation>Einheit</translation>
     </message>
     <message>
-        <source>At a resolution of its own</source>
-        <translation>Mit eigener Auflösung</translation>
+        <source>At a chosen resolution</source>
+        <translation>Mit gewählter Auflösung</translation>
     </message>
     <message>
         <source>Resolution</source>
@@ -5154,23 +5153,23 @@
         <translation>Höhe</translation>
     </message>
     <message>
-        <source>How</source>
-        <translation>Wie</translation>
+        <source>Mode</source>
+        <translation>Modus</translation>
     </message>
     <message>
         <source>Fit inside</source>
         <translation>Einpassen</translation>
     </message>
     <message>
-        <source>Fill and cut</source>
-        <translation>Füllen und beschneiden</translation>
+        <source>Fill (crops)</source>
+        <translation>Füllen (beschneidet)</translation>
     </message>
     <message>
         <source>Stretch</source>
         <translation>Strecken</translation>
     </message>
     <message>
-        <source>Fit and fill the rest</source>
+        <source>Fit and pad</source>
         <translation>Einpassen und auffüllen</translation>
     </message>
     <message>
@@ -5182,8 +5181,8 @@
         <translation>Kürzeste Seite</translation>
     </message>
     <message>
-        <source>Per cent</source>
-        <translation>Prozent</translation>
+        <source>Percentage</source>
+        <translation>Prozentsatz</translation>
     </message>
     <message>
         <source>Megapixels</source>
@@ -5191,7 +5190,7 @@
     </message>
     <message>
         <source>Box</source>
-        <translation>Format</translation>
+        <translation>Rahmen</translation>
     </message>
     <message>
         <source>Size</source>
@@ -5214,12 +5213,12 @@
         <translation>Verhältnis</translation>
     </message>
     <message>
-        <source>Longer number along the longer side</source>
-        <translation>Größere Zahl an der längeren Seite</translation>
+        <source>Larger number for the longer side</source>
+        <translation>Größere Zahl für die längere Seite</translation>
     </message>
     <message>
-        <source>Cut away</source>
-        <translation>Abschneiden</translation>
+        <source>Trim</source>
+        <translation>Beschneiden</translation>
     </message>
     <message>
         <source>Width and height</source>
@@ -5230,16 +5229,16 @@
         <translation>Pixel</translation>
     </message>
     <message>
-        <source>To the right</source>
-        <translation>Nach rechts</translation>
+        <source>Offset to the right</source>
+        <translation>Versatz nach rechts</translation>
     </message>
     <message>
-        <source>Down</source>
-        <translation>Vertikal</translation>
+        <source>Offset downward</source>
+        <translation>Versatz nach unten</translation>
     </message>
     <message>
-        <source>Moved from there</source>
-        <translation>Von dort verschoben</translation>
+        <source>Offset from there</source>
+        <translation>Von dort versetzt</translation>
     </message>
     <message>
         <source>Angle</source>
@@ -5254,12 +5253,12 @@
         <translation>Radius</translation>
     </message>
     <message>
-        <source>Width of the band</source>
-        <translation>Breite des Rahmens</translation>
+        <source>Border width</source>
+        <translation>Randbreite</translation>
     </message>
     <message>
-        <source>Colour of the band</source>
-        <translation>Farbe des Rahmens</translation>
+        <source>Border colour</source>
+        <translation>Randfarbe</translation>
     </message>
     <message>
         <source>Shape</source>
@@ -5278,16 +5277,16 @@
         <translation>Ellipse</translation>
     </message>
     <message>
-        <source>Colour outside</source>
-        <translation>Farbe außerhalb</translation>
+        <source>Fill colour</source>
+        <translation>Füllfarbe</translation>
     </message>
     <message>
-        <source>Band along the edge</source>
-        <translation>Band entlang des Rands</translation>
+        <source>Border inside the picture</source>
+        <translation>Rand innerhalb des Bildes</translation>
     </message>
     <message>
-        <source>Under it</source>
-        <translation>Darunter</translation>
+        <source>Under the picture</source>
+        <translation>Unter dem Bild</translation>
     </message>
     <message>
         <source>A colour</source>
@@ -5385,8 +5384,8 @@
         <translation>Dateityp</translation>
     </message>
     <message>
-        <source>Lossless, where the type can be</source>
-        <translation>Verlustfrei, wo der Typ es kann</translation>
+        <source>Lossless if the type allows it</source>
+        <translation>Verlustfrei, wenn der Typ es erlaubt</translation>
     </message>
     <message>
         <source>Lossless</source>
@@ -5401,7 +5400,7 @@
         <translation>Qualität</translation>
     </message>
     <message>
-        <source>Limit the size of the file</source>
+        <source>Limit the file size</source>
         <translation>Dateigröße begrenzen</translation>
     </message>
     <message>
@@ -5426,15 +5425,15 @@
     </message>
     <message>
         <source>Remove location</source>
-        <translation>Ort entfernen</translation>
+        <translation>Aufnahmeort entfernen</translation>
     </message>
     <message>
-        <source>If it exists</source>
-        <translation>Wenn sie existiert</translation>
+        <source>If the file exists</source>
+        <translation>Falls vorhanden</translation>
     </message>
     <message>
-        <source>Number the new file</source>
-        <translation>Neue Datei nummerieren</translation>
+        <source>Keep both (add a number)</source>
+        <translation>Beide behalten (mit Nummer)</translation>
     </message>
     <message>
         <source>Replace</source>
@@ -5443,10 +5442,6 @@
     <message>
         <source>Skip</source>
         <translation>Überspringen</translation>
-    </message>
-    <message>
-        <source>Skip if up to date</source>
-        <translation>Überspringen, wenn aktuell</translation>
     </message>
     <message>
         <source>Name</source>
@@ -5469,19 +5464,23 @@
         <translation>Auflösung</translation>
     </message>
     <message>
-        <source>Under transparent parts</source>
-        <translation>Unter Durchsichtigem</translation>
+        <source>Transparency</source>
+        <translation>Transparenz</translation>
     </message>
     <message>
-        <source>Keep the date of the file</source>
-        <translation>Datum der Datei behalten</translation>
+        <source>Keep the file date</source>
+        <translation>Dateidatum behalten</translation>
+    </message>
+    <message>
+        <source>Skip if up to date</source>
+        <translation>Überspringen, wenn aktuell</translation>
     </message>
 </context>
 <context>
     <name>output-pane</name>
     <message>
-        <source>Number the new file</source>
-        <translation>Neue Datei nummerieren</translation>
+        <source>Keep both (add a number)</source>
+        <translation>Beide behalten (mit Nummer)</translation>
     </message>
     <message>
         <source>Replace</source>
@@ -5500,8 +5499,8 @@
         <translation>Typ des Originals</translation>
     </message>
     <message>
-        <source>Folder “%1” beside it</source>
-        <translation>„%1“ daneben</translation>
+        <source>“%1” folder next to each picture</source>
+        <translation>Ordner „%1“ neben jedem Bild</translation>
     </message>
     <message>
         <source>Folder of the original</source>
@@ -5536,19 +5535,19 @@
         <translation>Mehr …</translation>
     </message>
     <message numerus="yes">
-        <source>%n pictures are of a type that is not written.</source>
+        <source>%n pictures have a type that cannot be written.</source>
         <translation>
-            <numerusform>%n Bild hat einen Typ, der nicht geschrieben wird.</numerusform>
-            <numerusform>%n Bilder haben einen Typ, der nicht geschrieben wird.</numerusform>
+            <numerusform>%n Bild hat einen Typ, der nicht geschrieben werden kann.</numerusform>
+            <numerusform>%n Bilder haben einen Typ, der nicht geschrieben werden kann.</numerusform>
         </translation>
     </message>
     <message>
-        <source>Picture’s own</source>
-        <translation>die des Bilds</translation>
+        <source>Same as the picture</source>
+        <translation>wie im Bild</translation>
     </message>
     <message>
-        <source>Usual</source>
-        <translation>die übliche</translation>
+        <source>Standard</source>
+        <translation>Standard</translation>
     </message>
     <message>
         <source>Skip if up to date</source>
@@ -5558,10 +5557,10 @@
 <context>
     <name>own-results</name>
     <message numerus="yes">
-        <source>%n results of earlier runs were left out</source>
+        <source>%n results of earlier runs not added</source>
         <translation>
-            <numerusform>%n Ergebnis früherer Läufe wurde ausgelassen</numerusform>
-            <numerusform>%n Ergebnisse früherer Läufe wurden ausgelassen</numerusform>
+            <numerusform>%n Ergebnis früherer Durchläufe nicht hinzugefügt</numerusform>
+            <numerusform>%n Ergebnisse früherer Durchläufe nicht hinzugefügt</numerusform>
         </translation>
     </message>
 </context>
@@ -5630,20 +5629,20 @@
         <translation>abgebrochen</translation>
     </message>
     <message>
-        <source>another picture of this run gets this name</source>
-        <translation>ein anderes Bild dieses Durchlaufs bekommt diesen Namen</translation>
+        <source>another picture in this run has the same new name</source>
+        <translation>ein anderes Bild dieses Durchlaufs hat denselben neuen Namen</translation>
     </message>
     <message>
-        <source>a file of this name is there</source>
-        <translation>es gibt schon eine Datei dieses Namens</translation>
+        <source>file already exists</source>
+        <translation>Datei ist schon vorhanden</translation>
     </message>
     <message>
-        <source>the folder to save to has no name of its own</source>
-        <translation>der Zielordner hat keinen eigenen Namen</translation>
+        <source>the destination folder has no name</source>
+        <translation>der Zielordner hat keinen Namen</translation>
     </message>
     <message>
-        <source>the picture is no longer there</source>
-        <translation>das Bild ist nicht mehr da</translation>
+        <source>the picture no longer exists</source>
+        <translation>das Bild ist nicht mehr vorhanden</translation>
     </message>
     <message>
         <source>up to date</source>
@@ -5657,16 +5656,16 @@
         <translation>Die Schlagwörter von %1 konnten nicht geschrieben werden</translation>
     </message>
     <message>
-        <source>Cannot trash %1</source>
-        <translation>%1 kann nicht in den Papierkorb</translation>
+        <source>Cannot move %1 to the trash</source>
+        <translation>%1 kann nicht in den Papierkorb verschoben werden</translation>
     </message>
     <message>
-        <source>Cannot trash %1: there is nothing</source>
-        <translation>%1 kann nicht in den Papierkorb: Dort ist nichts</translation>
+        <source>Cannot move %1 to the trash: no such file</source>
+        <translation>%1 kann nicht in den Papierkorb verschoben werden: keine solche Datei</translation>
     </message>
     <message>
-        <source>Cannot trash %1: %2</source>
-        <translation>%1 kann nicht in den Papierkorb: %2</translation>
+        <source>Cannot move %1 to the trash: %2</source>
+        <translation>%1 kann nicht in den Papierkorb verschoben werden: %2</translation>
     </message>
     <message>
         <source>Cannot read %1: %2</source>
@@ -5732,8 +5731,8 @@
         <translation>Es gibt nichts zu zeichnen</translation>
     </message>
     <message>
-        <source>No picture of %1 x %2 pixels can be made</source>
-        <translation>Ein Bild von %1 x %2 Pixeln ist nicht möglich</translation>
+        <source>A picture of %1 × %2 pixels cannot be made</source>
+        <translation>Ein Bild von %1 × %2 Pixeln ist nicht möglich</translation>
     </message>
     <message>
         <source>Reading the picture</source>
@@ -5748,11 +5747,11 @@
         <translation>Es gibt kein Bild zum Skalieren</translation>
     </message>
     <message>
-        <source>There is no picture to turn</source>
+        <source>There is no picture to rotate</source>
         <translation>Es gibt kein Bild zum Drehen</translation>
     </message>
     <message>
-        <source>A picture cannot be turned by that angle</source>
+        <source>A picture cannot be rotated by that angle</source>
         <translation>Um diesen Winkel lässt sich kein Bild drehen</translation>
     </message>
     <message>
@@ -5768,15 +5767,15 @@
         <translation>Es gibt kein Bild zum Schreiben</translation>
     </message>
     <message>
-        <source>The page could not be made: %1</source>
+        <source>The page could not be created: %1</source>
         <translation>Die Seite konnte nicht erzeugt werden: %1</translation>
     </message>
     <message>
-        <source>The JPEG could not be made: %1</source>
+        <source>The JPEG could not be created: %1</source>
         <translation>Das JPEG konnte nicht erzeugt werden: %1</translation>
     </message>
     <message>
-        <source>A WebP file holds at most %1 pixels on a side, not %2</source>
+        <source>A WebP file can have at most %1 pixels on a side, not %2</source>
         <translation>Eine WebP-Datei fasst höchstens %1 Pixel je Seite, nicht %2</translation>
     </message>
     <message>
@@ -5819,8 +5818,8 @@
 <context>
     <name>preferences</name>
     <message>
-        <source>As the system</source>
-        <translation>Wie das System</translation>
+        <source>System</source>
+        <translation>System</translation>
     </message>
     <message>
         <source>Light</source>
@@ -5831,8 +5830,8 @@
         <translation>Dunkel</translation>
     </message>
     <message>
-        <source>Number the new file</source>
-        <translation>Neue Datei nummerieren</translation>
+        <source>Keep both (add a number)</source>
+        <translation>Beide behalten (mit Nummer)</translation>
     </message>
     <message>
         <source>Replace</source>
@@ -5847,16 +5846,16 @@
         <translation>Fragen</translation>
     </message>
     <message>
-        <source>the newest 1,000 entries</source>
-        <translation>die neuesten 1.000 Einträge</translation>
+        <source>the last 1,000 files</source>
+        <translation>die letzten 1.000 Dateien</translation>
     </message>
     <message>
-        <source>the newest 10,000 entries</source>
-        <translation>die neuesten 10.000 Einträge</translation>
+        <source>the last 10,000 files</source>
+        <translation>die letzten 10.000 Dateien</translation>
     </message>
     <message>
-        <source>the newest 100,000 entries</source>
-        <translation>die neuesten 100.000 Einträge</translation>
+        <source>the last 100,000 files</source>
+        <translation>die letzten 100.000 Dateien</translation>
     </message>
     <message>
         <source>all %1 processors</source>
@@ -5867,16 +5866,16 @@
         <translation>%1 von %2 Prozessoren</translation>
     </message>
     <message>
-        <source>Into a folder beside the originals</source>
-        <translation>einen Ordner neben den Originalen</translation>
+        <source>A folder next to the originals</source>
+        <translation>Ordner neben den Originalen</translation>
     </message>
     <message>
-        <source>Into the folder of the originals</source>
-        <translation>den Ordner der Originale</translation>
+        <source>The folder of the originals</source>
+        <translation>Ordner der Originale</translation>
     </message>
     <message>
-        <source>all that is free</source>
-        <translation>alles, was frei ist</translation>
+        <source>all free memory</source>
+        <translation>der ganze freie Speicher</translation>
     </message>
     <message>
         <source>%1 GB at most</source>
@@ -5938,8 +5937,8 @@
         <translation>Importieren…</translation>
     </message>
     <message>
-        <source>Look Again</source>
-        <translation>Erneut nachsehen</translation>
+        <source>Try Again</source>
+        <translation>Erneut versuchen</translation>
     </message>
     <message>
         <source>My preset</source>
@@ -5958,8 +5957,8 @@
         <translation>Die Vorgabe „%1“ löschen?</translation>
     </message>
     <message>
-        <source>The settings stay as they are now.</source>
-        <translation>Die Einstellungen bleiben, wie sie jetzt sind.</translation>
+        <source>Your current settings are kept.</source>
+        <translation>Ihre aktuellen Einstellungen bleiben erhalten.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -6000,10 +5999,10 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n renamed, their names were taken</source>
+        <source>%n renamed because their names were in use</source>
         <translation>
-            <numerusform>%n umbenannt, da ihr Name vergeben war</numerusform>
-            <numerusform>%n umbenannt, da ihre Namen vergeben waren</numerusform>
+            <numerusform>%n umbenannt, da der Name schon belegt war</numerusform>
+            <numerusform>%n umbenannt, da die Namen schon belegt waren</numerusform>
         </translation>
     </message>
     <message>
@@ -6014,11 +6013,11 @@
 <context>
     <name>preset-store</name>
     <message>
-        <source>The presets database was empty and could not be used. It is called %1 now, and there is a new one.</source>
-        <translation>Die Datenbank der Vorgaben war leer und unbrauchbar. Sie heißt jetzt %1, und es gibt eine neue.</translation>
+        <source>The presets database was empty. It was renamed to %1, and a new one was created.</source>
+        <translation>Die Datenbank der Vorgaben war leer. Sie wurde in %1 umbenannt, und eine neue wurde angelegt.</translation>
     </message>
     <message>
-        <source>Presets cannot be kept: their database cannot be made.</source>
+        <source>Presets cannot be saved: the database could not be created.</source>
         <translation>Vorgaben können nicht gespeichert werden: Ihre Datenbank lässt sich nicht anlegen.</translation>
     </message>
     <message>
@@ -6026,35 +6025,35 @@
         <translation>Die Datenbank der Vorgaben kann nicht gelesen werden.</translation>
     </message>
     <message>
-        <source>The presets database is damaged. It is left as it is.</source>
-        <translation>Die Datenbank der Vorgaben ist beschädigt. Sie bleibt, wie sie ist.</translation>
+        <source>The presets database is damaged. It was not changed.</source>
+        <translation>Die Datenbank der Vorgaben ist beschädigt. Sie wurde nicht verändert.</translation>
     </message>
     <message>
-        <source>The presets database has no place for presets. It is left as it is.</source>
-        <translation>Die Datenbank der Vorgaben hat keinen Platz für Vorgaben. Sie bleibt, wie sie ist.</translation>
+        <source>The presets database has no table for presets. It was not changed.</source>
+        <translation>Die Datenbank der Vorgaben hat keine Tabelle für Vorgaben. Sie wurde nicht verändert.</translation>
     </message>
     <message>
-        <source>The presets database is in use by another program, or damaged. It is left as it is.</source>
-        <translation>Die Datenbank der Vorgaben wird von einem anderen Programm benutzt oder ist beschädigt. Sie bleibt, wie sie ist.</translation>
+        <source>The presets database is in use by another program or damaged. It was not changed.</source>
+        <translation>Die Datenbank der Vorgaben wird von einem anderen Programm benutzt oder ist beschädigt. Sie wurde nicht verändert.</translation>
     </message>
     <message>
-        <source>The presets database is read-only; nothing was changed.</source>
-        <translation>Die Datenbank der Vorgaben ist schreibgeschützt; nichts wurde geändert.</translation>
+        <source>The presets database is read-only. It was not changed.</source>
+        <translation>Die Datenbank der Vorgaben ist schreibgeschützt. Sie wurde nicht verändert.</translation>
     </message>
     <message>
-        <source>The presets database is in use by another program, or the disk is full; nothing was changed.</source>
-        <translation>Die Datenbank der Vorgaben wird von einem anderen Programm benutzt oder das Laufwerk ist voll; nichts wurde geändert.</translation>
+        <source>The presets database is in use by another program, or the disk is full. It was not changed.</source>
+        <translation>Die Datenbank der Vorgaben wird von einem anderen Programm benutzt, oder das Laufwerk ist voll. Sie wurde nicht verändert.</translation>
     </message>
 </context>
 <context>
     <name>presets</name>
     <message>
-        <source>This preset was not made by Quorlin. It is left as it is.</source>
-        <translation>Diese Vorgabe stammt nicht von Quorlin. Sie bleibt, wie sie ist.</translation>
+        <source>This preset was not made by Quorlin. It was not changed.</source>
+        <translation>Diese Vorgabe stammt nicht von Quorlin. Sie wurde nicht verändert.</translation>
     </message>
     <message>
-        <source>This preset was made by a newer Quorlin. It is left as it is.</source>
-        <translation>Diese Vorgabe stammt von einem neueren Quorlin. Sie bleibt, wie sie ist.</translation>
+        <source>This preset was made by a newer version of Quorlin. It was not changed.</source>
+        <translation>Diese Vorgabe stammt von einer neueren Version von Quorlin. Sie wurde nicht verändert.</translation>
     </message>
     <message>
         <source>This preset is damaged and cannot be used.</source>
@@ -6069,11 +6068,11 @@
         <translation>Ein Name darf keinen geraden Apostroph (&apos;) enthalten. Ein runder (’) ist erlaubt.</translation>
     </message>
     <message>
-        <source>A name cannot have a bar (|) in it.</source>
+        <source>A name cannot contain a vertical bar (|).</source>
         <translation>Ein Name darf keinen senkrechten Strich (|) enthalten.</translation>
     </message>
     <message>
-        <source>A name cannot have line breaks or control characters in it.</source>
+        <source>A name cannot contain line breaks or control characters.</source>
         <translation>Ein Name darf keine Zeilenumbrüche oder Steuerzeichen enthalten.</translation>
     </message>
     <message numerus="yes">
@@ -6084,16 +6083,16 @@
         </translation>
     </message>
     <message>
-        <source>There is a preset named %1 already.</source>
+        <source>A preset named %1 already exists.</source>
         <translation>Eine Vorgabe namens %1 gibt es schon.</translation>
     </message>
     <message>
-        <source>This file holds no presets.</source>
+        <source>This file contains no presets.</source>
         <translation>Diese Datei enthält keine Vorgaben.</translation>
     </message>
     <message>
-        <source>This file was made by a newer Quorlin.</source>
-        <translation>Diese Datei stammt von einem neueren Quorlin.</translation>
+        <source>This file was made by a newer version of Quorlin.</source>
+        <translation>Diese Datei stammt von einer neueren Version von Quorlin.</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %n presets in this file cannot be used.</source>
@@ -7521,15 +7520,15 @@
         <translation>Menü leeren</translation>
     </message>
     <message>
-        <source>%1 is no longer there</source>
-        <translation>%1 ist nicht mehr da</translation>
+        <source>%1 no longer exists</source>
+        <translation>%1 ist nicht mehr vorhanden</translation>
     </message>
 </context>
 <context>
     <name>recipe</name>
     <message>
-        <source>%1 has no transparency: transparent parts get the colour %2</source>
-        <translation>%1 kennt keine Transparenz: Transparente Bereiche bekommen die Farbe %2</translation>
+        <source>%1 has no transparency: transparent parts become %2</source>
+        <translation>%1 kennt keine Transparenz: Transparente Bereiche werden %2</translation>
     </message>
     <message>
         <source>%1 has 8 bits for each channel, the picture more</source>
@@ -7544,8 +7543,8 @@
         <translation>%1 hat höchstens 256 Farben</translation>
     </message>
     <message>
-        <source>Further pictures behind the first one are left out</source>
-        <translation>Weitere Bilder hinter dem ersten fallen weg</translation>
+        <source>Only the first picture is kept</source>
+        <translation>Nur das erste Bild bleibt erhalten</translation>
     </message>
     <message>
         <source>The gain map is left out</source>
@@ -7560,40 +7559,40 @@
         <translation>XMP jenseits der ersten 64 KB fällt weg</translation>
     </message>
     <message>
-        <source>Signed content credentials are left out, since no changed file agrees with them</source>
-        <translation>Signierte Herkunftsnachweise fallen weg, denn zu keiner geänderten Datei passen sie noch</translation>
+        <source>Signed content credentials are left out, since they do not match a changed file</source>
+        <translation>Signierte Herkunftsnachweise fallen weg, da sie zu einer geänderten Datei nicht passen</translation>
     </message>
     <message>
-        <source>Data behind the end of the picture is left out</source>
+        <source>Data after the end of the picture is left out</source>
         <translation>Daten hinter dem Ende des Bildes fallen weg</translation>
     </message>
     <message>
-        <source>%1 holds metadata as XMP alone, without maker notes</source>
+        <source>%1 holds metadata as XMP only, without maker notes</source>
         <translation>%1 nimmt Metadaten nur als XMP auf, ohne Herstellernotizen</translation>
     </message>
     <message>
-        <source>%1 holds no metadata</source>
-        <translation>%1 nimmt keine Metadaten auf</translation>
+        <source>%1 cannot hold metadata</source>
+        <translation>%1 kann keine Metadaten aufnehmen</translation>
     </message>
     <message>
-        <source>%1 further pictures of the file are left out</source>
-        <translation>Weitere Bilder der Datei fallen weg: %1</translation>
+        <source>More pictures in the file that are left out: %1</source>
+        <translation>Weitere Bilder der Datei, die wegfallen: %1</translation>
     </message>
     <message>
-        <source>Pictures of this type are read and not written; choose another type</source>
-        <translation>Bilder dieses Typs werden gelesen, aber nicht geschrieben; wählen Sie einen anderen Typ</translation>
+        <source>Pictures of this type can be read but not written; choose another type</source>
+        <translation>Bilder dieses Typs können gelesen, aber nicht geschrieben werden; wählen Sie einen anderen Typ</translation>
     </message>
     <message>
-        <source>No picture of %1 x %2 pixels can be made</source>
-        <translation>Ein Bild von %1 x %2 Pixeln ist nicht möglich</translation>
+        <source>A picture of %1 × %2 pixels cannot be made</source>
+        <translation>Ein Bild von %1 × %2 Pixeln ist nicht möglich</translation>
     </message>
     <message>
         <source>Nothing of the picture is left</source>
         <translation>Vom Bild bleibt nichts übrig</translation>
     </message>
     <message>
-        <source>Data that the maker of the camera or a program keeps beside EXIF is left out</source>
-        <translation>Daten, die der Kamerahersteller oder ein Programm neben EXIF ablegt, fallen weg</translation>
+        <source>Data that the camera maker or a program keeps outside EXIF is left out</source>
+        <translation>Daten, die der Kamerahersteller oder ein Programm außerhalb von EXIF ablegt, fallen weg</translation>
     </message>
     <message>
         <source>a number above %1, to %2</source>
@@ -7636,64 +7635,64 @@
         <translation>ein Objekt</translation>
     </message>
     <message>
-        <source>it cannot stand beside %1</source>
-        <translation>es kann nicht neben %1 stehen</translation>
+        <source>it cannot be used together with %1</source>
+        <translation>es kann nicht zusammen mit %1 verwendet werden</translation>
     </message>
     <message>
         <source>one of %1 is missing</source>
         <translation>eines von %1 fehlt</translation>
     </message>
     <message>
-        <source>there is no such key here</source>
-        <translation>einen solchen Schlüssel gibt es hier nicht</translation>
+        <source>unknown key</source>
+        <translation>unbekannter Schlüssel</translation>
     </message>
     <message>
-        <source>it has a meaning with fit fill or pad only</source>
-        <translation>es hat nur mit fit fill oder pad eine Bedeutung</translation>
+        <source>it applies only with fit fill or pad</source>
+        <translation>es gilt nur mit fit fill oder pad</translation>
     </message>
     <message>
-        <source>it has a meaning with fit pad only</source>
-        <translation>es hat nur mit fit pad eine Bedeutung</translation>
+        <source>it applies only with fit pad</source>
+        <translation>es gilt nur mit fit pad</translation>
     </message>
     <message>
-        <source>it has a meaning with a box only</source>
-        <translation>es hat nur mit box eine Bedeutung</translation>
+        <source>it applies only with box</source>
+        <translation>es gilt nur mit box</translation>
     </message>
     <message>
-        <source>two numbers with a colon between them such as 3:2, not "%1"</source>
-        <translation>zwei Zahlen mit einem Doppelpunkt dazwischen wie 3:2, nicht „%1“</translation>
+        <source>two numbers separated by a colon such as 3:2, not "%1"</source>
+        <translation>zwei durch Doppelpunkt getrennte Zahlen wie 3:2, nicht „%1“</translation>
     </message>
     <message>
-        <source>it is missing beside %1</source>
-        <translation>es fehlt neben %1</translation>
+        <source>it is required with %1</source>
+        <translation>es ist mit %1 erforderlich</translation>
     </message>
     <message>
-        <source>it has a meaning with a ratio only</source>
-        <translation>es hat nur mit ratio eine Bedeutung</translation>
+        <source>it applies only with ratio</source>
+        <translation>es gilt nur mit ratio</translation>
     </message>
     <message>
         <source>it is missing</source>
         <translation>es fehlt</translation>
     </message>
     <message>
-        <source>it has a meaning with a rectangle only</source>
-        <translation>es hat nur mit einem Rechteck eine Bedeutung</translation>
+        <source>it applies only with a rectangle</source>
+        <translation>es gilt nur mit einem Rechteck</translation>
     </message>
     <message>
         <source>there is no picture "%1"</source>
         <translation>es gibt kein Bild „%1“</translation>
     </message>
     <message>
-        <source>a text, not nothing</source>
-        <translation>ein Text, nicht nichts</translation>
+        <source>a text that is not empty</source>
+        <translation>ein Text, der nicht leer ist</translation>
     </message>
     <message>
         <source>there is no font "%1"</source>
         <translation>es gibt keine Schrift „%1“</translation>
     </message>
     <message>
-        <source>it has a meaning with a text only</source>
-        <translation>es hat nur mit einem Text eine Bedeutung</translation>
+        <source>it applies only with a text</source>
+        <translation>es gilt nur mit einem Text</translation>
     </message>
     <message>
         <source>sRGB, Display P3, Adobe RGB, gray or the path of an ICC file, not "%1"</source>
@@ -7704,32 +7703,32 @@
         <translation>Die Pixel können nicht bleiben, wie sie sind</translation>
     </message>
     <message>
-        <source>It cannot be made as small as %1 bytes</source>
-        <translation>So klein wie %1 Byte lässt es sich nicht machen</translation>
+        <source>It does not fit into %1 bytes</source>
+        <translation>Es passt nicht in %1 Byte</translation>
     </message>
     <message>
         <source>this type has no quality</source>
         <translation>dieser Typ hat keine Qualität</translation>
     </message>
     <message>
-        <source>this type has no choice between lossless and not</source>
-        <translation>dieser Typ lässt nicht zwischen verlustfrei und nicht wählen</translation>
+        <source>this type has no lossless option</source>
+        <translation>dieser Typ kennt keine Wahl von verlustfrei</translation>
     </message>
     <message>
-        <source>a name, not nothing</source>
-        <translation>ein Name, nicht nichts</translation>
+        <source>a name that is not empty</source>
+        <translation>ein Name, der nicht leer ist</translation>
     </message>
     <message>
-        <source>a name without /; folders stand under folder</source>
-        <translation>ein Name ohne /; Ordner stehen unter folder</translation>
+        <source>a name without /; use folder for folders</source>
+        <translation>ein Name ohne /; für Ordner dient folder</translation>
     </message>
     <message>
         <source>the version of the recipe is missing</source>
         <translation>die Version des Rezepts fehlt</translation>
     </message>
     <message>
-        <source>this recipe has version %1, and this program knows versions up to %2</source>
-        <translation>dieses Rezept hat Version %1, und dieses Programm kennt Versionen bis %2</translation>
+        <source>this recipe has version %1, but this program supports versions up to %2 only</source>
+        <translation>dieses Rezept hat Version %1, dieses Programm unterstützt nur Versionen bis %2</translation>
     </message>
     <message>
         <source>at least one output</source>
@@ -7744,68 +7743,64 @@
         <translation>Zeile %1: %2</translation>
     </message>
     <message>
-        <source>a recipe is a JSON object</source>
-        <translation>ein Rezept ist ein JSON-Objekt</translation>
+        <source>a recipe must be a JSON object</source>
+        <translation>ein Rezept muss ein JSON-Objekt sein</translation>
     </message>
     <message>
-        <source>a recipe is no larger than 4 MB</source>
-        <translation>ein Rezept ist nicht größer als 4 MB</translation>
+        <source>a recipe cannot be larger than 4 MB</source>
+        <translation>ein Rezept kann nicht größer als 4 MB sein</translation>
     </message>
     <message>
-        <source>%1 cannot be written to</source>
-        <translation>In %1 kann nicht geschrieben werden</translation>
+        <source>%1 is read-only</source>
+        <translation>%1 ist schreibgeschützt</translation>
     </message>
     <message>
         <source>%1 cannot be written: %2</source>
         <translation>%1 kann nicht geschrieben werden: %2</translation>
     </message>
     <message>
-        <source>its name is taken again and again</source>
-        <translation>sein Name ist immer wieder vergeben</translation>
+        <source>no free name found</source>
+        <translation>kein freier Name gefunden</translation>
     </message>
     <message>
-        <source>there is no such file</source>
-        <translation>eine solche Datei gibt es nicht</translation>
+        <source>no such file</source>
+        <translation>keine solche Datei</translation>
     </message>
     <message>
-        <source>it is no ordinary file</source>
-        <translation>es ist keine gewöhnliche Datei</translation>
+        <source>not an ordinary file</source>
+        <translation>keine gewöhnliche Datei</translation>
     </message>
     <message>
-        <source>the name is taken</source>
-        <translation>der Name ist vergeben</translation>
-    </message>
-    <message>
-        <source>it is up to date</source>
-        <translation>sie ist aktuell</translation>
+        <source>file already exists</source>
+        <translation>Datei ist schon vorhanden</translation>
     </message>
     <message>
         <source>it cannot be read</source>
         <translation>es kann nicht gelesen werden</translation>
     </message>
     <message>
-        <source>there is not enough memory to show it</source>
-        <translation>der Speicher reicht nicht, um es zu zeigen</translation>
+        <source>not enough memory to show it</source>
+        <translation>nicht genug Speicher, um es zu zeigen</translation>
     </message>
     <message>
-        <source>nothing came of it</source>
-        <translation>es ist nichts daraus geworden</translation>
+        <source>no result</source>
+        <translation>kein Ergebnis</translation>
     </message>
     <message>
-        <source>outputs: one, and no more</source>
-        <translation>outputs: eine und nicht mehr</translation>
+        <source>outputs: exactly one</source>
+        <translation>outputs: genau eine</translation>
     </message>
     <message>
         <source>%1 cannot be started: %2</source>
         <translation>%1 kann nicht gestartet werden: %2</translation>
     </message>
     <message>
-        <source>a worker ended while it started</source>
-        <translation>ein Helferprozess endete beim Start</translation>
+        <source>a worker process ended while starting</source>
+        <translation>ein Arbeitsprozess endete beim Start</translation>
     </message>
     <message>
-        <source>it takes longer than %1 seconds</source>
-        <translation>es dauert länger als %1 Sekunden</translation>
+        <source>it took longer than %1 seconds</source>
+        <translation>es dauerte länger als %1 Sekunden</translation>
     </message>
     <message>
         <source>it needs more than %1 MB of memory</source>
@@ -7816,12 +7811,16 @@
         <translation>sein Leseprogramm ist abgestürzt</translation>
     </message>
     <message>
-        <source>the recipe cannot be carried out</source>
+        <source>the recipe cannot be run</source>
         <translation>das Rezept kann nicht ausgeführt werden</translation>
     </message>
     <message>
-        <source>%1 of %2 megapixels takes more than 1.5 GB of memory; at most %3 can be made of this picture, or choose another type</source>
-        <translation>%1 mit %2 Megapixeln braucht mehr als 1,5 GB Speicher; von diesem Bild sind höchstens %3 möglich, oder wählen Sie einen anderen Typ</translation>
+        <source>%1 with %2 megapixels needs more than 1.5 GB of memory; use at most %3, or choose another type</source>
+        <translation>%1 mit %2 Megapixeln braucht mehr als 1,5 GB Speicher; verwenden Sie höchstens %3 oder einen anderen Typ</translation>
+    </message>
+    <message>
+        <source>it is up to date</source>
+        <translation>sie ist aktuell</translation>
     </message>
 </context>
 <context>
@@ -7931,11 +7930,11 @@
         <translation>Geben Sie einen Namen ein.</translation>
     </message>
     <message>
-        <source>A name has no slash and does not begin with a dot.</source>
-        <translation>Ein Name hat keinen Schrägstrich und beginnt nicht mit einem Punkt.</translation>
+        <source>A name cannot contain a slash or begin with a dot.</source>
+        <translation>Ein Name darf keinen Schrägstrich enthalten und nicht mit einem Punkt beginnen.</translation>
     </message>
     <message>
-        <source>There is a recipe “%1” already.</source>
+        <source>A recipe named “%1” already exists.</source>
         <translation>Es gibt schon ein Rezept „%1“.</translation>
     </message>
     <message>
@@ -7943,12 +7942,12 @@
         <translation>%1 kann nicht gelesen werden.</translation>
     </message>
     <message>
-        <source>%1 is no recipe: %2</source>
+        <source>%1 is not a recipe: %2</source>
         <translation>%1 ist kein Rezept: %2</translation>
     </message>
     <message>
-        <source>%1 could not be put into the trash.</source>
-        <translation>%1 konnte nicht in den Papierkorb gelegt werden.</translation>
+        <source>%1 could not be moved to the trash.</source>
+        <translation>%1 konnte nicht in den Papierkorb verschoben werden.</translation>
     </message>
 </context>
 <context>
@@ -8014,12 +8013,12 @@
         <translation>Rezept löschen</translation>
     </message>
     <message>
-        <source>Put the recipe “%1” into the trash?</source>
-        <translation>Das Rezept „%1“ in den Papierkorb legen?</translation>
+        <source>Move the recipe “%1” to the trash?</source>
+        <translation>Das Rezept „%1“ in den Papierkorb verschieben?</translation>
     </message>
     <message>
-        <source>What it does stays as it is shown now.</source>
-        <translation>Was es tut, bleibt, wie es jetzt gezeigt wird.</translation>
+        <source>Your current settings are kept.</source>
+        <translation>Ihre aktuellen Einstellungen bleiben erhalten.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -8088,8 +8087,8 @@
         <translation>bereit</translation>
     </message>
     <message>
-        <source>the recipe needs attention</source>
-        <translation>das Rezept braucht Aufmerksamkeit</translation>
+        <source>check the recipe</source>
+        <translation>Rezept prüfen</translation>
     </message>
     <message>
         <source>not a readable picture</source>
@@ -8099,10 +8098,10 @@
 <context>
     <name>recipe-run</name>
     <message numerus="yes">
-        <source>Simulation: %n files would be written</source>
+        <source>Dry run: %n files would be written</source>
         <translation>
-            <numerusform>Simulation: %n Datei würde geschrieben</numerusform>
-            <numerusform>Simulation: %n Dateien würden geschrieben</numerusform>
+            <numerusform>Probelauf: %n Datei würde geschrieben</numerusform>
+            <numerusform>Probelauf: %n Dateien würden geschrieben</numerusform>
         </translation>
     </message>
     <message>
@@ -8144,8 +8143,8 @@
 <context>
     <name>recipe-step</name>
     <message>
-        <source>Look at what this recipe reads and writes, and allow it first.</source>
-        <translation>Sehen Sie erst an, was dieses Rezept liest und schreibt, und erlauben Sie es.</translation>
+        <source>Check what this recipe reads and writes, and allow it first.</source>
+        <translation>Prüfen Sie zuerst, was dieses Rezept liest und schreibt, und erlauben Sie es.</translation>
     </message>
 </context>
 <context>
@@ -8155,8 +8154,8 @@
         <translation>Skalieren</translation>
     </message>
     <message>
-        <source>By a side, a percentage, megapixels, or into a box</source>
-        <translation>Nach Seite, Prozent, Megapixel oder in einen Rahmen</translation>
+        <source>To a side, a percentage, megapixels or a box</source>
+        <translation>Auf eine Seite, Prozent, Megapixel oder einen Rahmen</translation>
     </message>
     <message>
         <source>scale small large pixels size</source>
@@ -8167,8 +8166,8 @@
         <translation>Zuschneiden</translation>
     </message>
     <message>
-        <source>To a ratio, a size, or less at the edges</source>
-        <translation>Auf ein Verhältnis, eine Größe oder weniger am Rand</translation>
+        <source>To a ratio or size, or trim the edges</source>
+        <translation>Auf Verhältnis oder Größe, oder Ränder beschneiden</translation>
     </message>
     <message>
         <source>cut trim ratio</source>
@@ -8191,8 +8190,8 @@
         <translation>Spiegeln</translation>
     </message>
     <message>
-        <source>Left and right, or top and bottom</source>
-        <translation>Links und rechts oder oben und unten</translation>
+        <source>Horizontally or vertically</source>
+        <translation>Horizontal oder vertikal</translation>
     </message>
     <message>
         <source>mirror</source>
@@ -8203,8 +8202,8 @@
         <translation>Ecken abrunden</translation>
     </message>
     <message>
-        <source>Rectangle, circle, ellipse, with a band</source>
-        <translation>Rechteck, Kreis, Ellipse, mit Band</translation>
+        <source>Rectangle, circle or ellipse, with a border</source>
+        <translation>Rechteck, Kreis oder Ellipse, mit Rand</translation>
     </message>
     <message>
         <source>radius circle</source>
@@ -8215,8 +8214,8 @@
         <translation>Hintergrund</translation>
     </message>
     <message>
-        <source>Under transparent parts</source>
-        <translation>Unter Durchsichtigem</translation>
+        <source>Fills transparent parts</source>
+        <translation>Füllt transparente Bereiche</translation>
     </message>
     <message>
         <source>colour pattern transparent</source>
@@ -8227,7 +8226,7 @@
         <translation>Rahmen</translation>
     </message>
     <message>
-        <source>Around the picture, on all sides</source>
+        <source>Around the picture on all sides</source>
         <translation>Um das Bild, auf allen Seiten</translation>
     </message>
     <message>
@@ -8251,8 +8250,8 @@
         <translation>Schärfen</translation>
     </message>
     <message>
-        <source>For viewing at the size at that point</source>
-        <translation>Zum Betrachten in der Größe an dieser Stelle</translation>
+        <source>For the size at that point</source>
+        <translation>Für die Größe an dieser Stelle</translation>
     </message>
     <message>
         <source>crisp unsharp</source>
@@ -8291,16 +8290,16 @@
         <translation>Rahmen %1</translation>
     </message>
     <message>
-        <source>%1 % less</source>
-        <translation>%1 % weniger</translation>
+        <source>Trim %1%</source>
+        <translation>%1 % beschneiden</translation>
     </message>
     <message>
-        <source>%1 px less</source>
-        <translation>%1 px weniger</translation>
+        <source>Trim %1 px</source>
+        <translation>%1 px beschneiden</translation>
     </message>
     <message>
-        <source>where the eye is drawn</source>
-        <translation>wo es ins Auge fällt</translation>
+        <source>at the focus of attention</source>
+        <translation>am Blickfang</translation>
     </message>
     <message>
         <source>no file chosen</source>
@@ -8362,8 +8361,8 @@
 <context>
     <name>recipes</name>
     <message>
-        <source>Simulate: %1</source>
-        <translation>Simulation: %1</translation>
+        <source>Dry Run: %1</source>
+        <translation>Probelauf: %1</translation>
     </message>
     <message numerus="yes">
         <source>Replace %n Originals</source>
@@ -8395,29 +8394,29 @@
 <context>
     <name>recovered</name>
     <message numerus="yes">
-        <source>%n items have their new names</source>
+        <source>%n files have their new names</source>
         <translation>
-            <numerusform>%n Element hat seinen neuen Namen</numerusform>
-            <numerusform>%n Elemente haben ihre neuen Namen</numerusform>
+            <numerusform>%n Datei hat ihren neuen Namen</numerusform>
+            <numerusform>%n Dateien haben ihre neuen Namen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n items were taken back</source>
+        <source>%n files restored</source>
         <translation>
-            <numerusform>%n Element wurde zurückgenommen</numerusform>
-            <numerusform>%n Elemente wurden zurückgenommen</numerusform>
+            <numerusform>%n Datei wiederhergestellt</numerusform>
+            <numerusform>%n Dateien wiederhergestellt</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>the turn of %n items had not come</source>
+        <source>%n files not started</source>
         <translation>
-            <numerusform>%n Element war noch nicht an der Reihe</numerusform>
-            <numerusform>%n Elemente waren noch nicht an der Reihe</numerusform>
+            <numerusform>%n Datei nicht begonnen</numerusform>
+            <numerusform>%n Dateien nicht begonnen</numerusform>
         </translation>
     </message>
     <message>
-        <source>%1 was interrupted and is ended now</source>
-        <translation>„%1“ wurde unterbrochen und ist jetzt beendet</translation>
+        <source>%1 was interrupted and has been cleaned up</source>
+        <translation>„%1“ wurde unterbrochen und ist bereinigt</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -8459,17 +8458,10 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n folders have their old names again</source>
+        <source>%n names restored</source>
         <translation>
-            <numerusform>%n Ordner hat wieder seinen alten Namen</numerusform>
-            <numerusform>%n Ordner haben wieder ihre alten Namen</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n files have their old names again</source>
-        <translation>
-            <numerusform>%n Datei hat wieder ihren alten Namen</numerusform>
-            <numerusform>%n Dateien haben wieder ihre alten Namen</numerusform>
+            <numerusform>%n Name wiederhergestellt</numerusform>
+            <numerusform>%n Namen wiederhergestellt</numerusform>
         </translation>
     </message>
     <message>
@@ -8484,24 +8476,24 @@
         <translation>Text</translation>
     </message>
     <message>
-        <source>Count by</source>
+        <source>Increment</source>
         <translation>Schrittweite</translation>
     </message>
     <message>
-        <source>Begin anew</source>
-        <translation>Neu beginnen</translation>
+        <source>Restart counter</source>
+        <translation>Zähler neu starten</translation>
     </message>
     <message>
         <source>Never</source>
         <translation>Nie</translation>
     </message>
     <message>
-        <source>In each folder</source>
-        <translation>In jedem Ordner</translation>
+        <source>For each folder</source>
+        <translation>Für jeden Ordner</translation>
     </message>
     <message>
-        <source>On each date taken</source>
-        <translation>An jedem Aufnahmetag</translation>
+        <source>For each date taken</source>
+        <translation>Für jeden Aufnahmetag</translation>
     </message>
     <message>
         <source>Case</source>
@@ -8533,7 +8525,7 @@
     </message>
     <message>
         <source>After</source>
-        <translation>Nach</translation>
+        <translation>Dahinter</translation>
     </message>
     <message>
         <source>Characters</source>
@@ -8552,10 +8544,6 @@
         <translation>Davor</translation>
     </message>
     <message>
-        <source>Behind</source>
-        <translation>Dahinter</translation>
-    </message>
-    <message>
         <source>From</source>
         <translation>Von</translation>
     </message>
@@ -8572,15 +8560,15 @@
         <translation>Ab dem</translation>
     </message>
     <message>
-        <source>Split at</source>
-        <translation>Teilen bei</translation>
+        <source>Separator</source>
+        <translation>Trennzeichen</translation>
     </message>
     <message>
         <source>Pieces</source>
         <translation>Teile</translation>
     </message>
     <message>
-        <source>Join by</source>
+        <source>Join with</source>
         <translation>Verbinden mit</translation>
     </message>
     <message>
@@ -8608,8 +8596,8 @@
         <translation>als ein Zeichen (NFC)</translation>
     </message>
     <message>
-        <source>apart (NFD)</source>
-        <translation>getrennt (NFD)</translation>
+        <source>as separate marks (NFD)</source>
+        <translation>als eigenes Zeichen (NFD)</translation>
     </message>
     <message>
         <source>Names that</source>
@@ -8648,10 +8636,10 @@
         <translation>Name und Endung</translation>
     </message>
     <message numerus="yes">
-        <source>%n names are too short for this and stay as they are.</source>
+        <source>%n names are too short and stay unchanged.</source>
         <translation>
-            <numerusform>%n Name ist dafür zu kurz und bleibt, wie er ist.</numerusform>
-            <numerusform>%n Namen sind dafür zu kurz und bleiben, wie sie sind.</numerusform>
+            <numerusform>%n Name ist zu kurz und bleibt unverändert.</numerusform>
+            <numerusform>%n Namen sind zu kurz und bleiben unverändert.</numerusform>
         </translation>
     </message>
 </context>
@@ -8678,18 +8666,18 @@
         <translation>Werte suchen</translation>
     </message>
     <message>
-        <source>A chain can have up to 30 steps.</source>
-        <translation>Eine Kette kann bis zu 30 Schritte haben.</translation>
+        <source>You can use up to 30 steps.</source>
+        <translation>Sie können bis zu 30 Schritte verwenden.</translation>
     </message>
     <message>
-        <source>A step needs attention: names are not made before it is right.</source>
-        <translation>Ein Schritt ist zu prüfen: Erst wenn er stimmt, werden Namen gebildet.</translation>
+        <source>Fix the marked step to see the new names.</source>
+        <translation>Korrigieren Sie den markierten Schritt, um die neuen Namen zu sehen.</translation>
     </message>
     <message numerus="yes">
-        <source>The counter runs past its width: the last number has %n digits.</source>
+        <source>The counter needs more digits: the last number has %n.</source>
         <translation>
-            <numerusform>Der Zähler überschreitet seine Breite: die letzte Zahl hat %n Stelle.</numerusform>
-            <numerusform>Der Zähler überschreitet seine Breite: die letzte Zahl hat %n Stellen.</numerusform>
+            <numerusform>Der Zähler braucht mehr Stellen: die letzte Zahl hat %n.</numerusform>
+            <numerusform>Der Zähler braucht mehr Stellen: die letzte Zahl hat %n.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -8719,12 +8707,12 @@
         <translation>Endungen klein</translation>
     </message>
     <message>
-        <source>Date in front</source>
-        <translation>Datum voran</translation>
+        <source>Date prefix</source>
+        <translation>Datum als Präfix</translation>
     </message>
     <message>
-        <source>Number behind</source>
-        <translation>Nummer dahinter</translation>
+        <source>Number suffix</source>
+        <translation>Nummer als Suffix</translation>
     </message>
 </context>
 <context>
@@ -8742,11 +8730,11 @@
         <translation>kein Aufnahmedatum</translation>
     </message>
     <message>
-        <source>no date of creation</source>
+        <source>no date created</source>
         <translation>kein Erstelldatum</translation>
     </message>
     <message>
-        <source>no date of change</source>
+        <source>no date changed</source>
         <translation>kein Änderungsdatum</translation>
     </message>
     <message>
@@ -8766,12 +8754,12 @@
         <translation>%1: „%2“</translation>
     </message>
     <message>
-        <source>a letter and its accent are parted</source>
-        <translation>ein Buchstabe und sein Akzent werden getrennt</translation>
+        <source>separates a letter from its accent</source>
+        <translation>trennt einen Buchstaben von seinem Akzent</translation>
     </message>
     <message>
-        <source>a character would be cut in two</source>
-        <translation>ein Zeichen würde zerteilt</translation>
+        <source>would split a character</source>
+        <translation>würde ein Zeichen zerteilen</translation>
     </message>
 </context>
 <context>
@@ -8810,36 +8798,32 @@
         <translation>Höhe</translation>
     </message>
     <message>
-        <source>Longest</source>
-        <translation>Längste</translation>
-    </message>
-    <message>
-        <source>Box</source>
-        <translation>Format</translation>
-    </message>
-    <message>
-        <source>Fill the box and cut</source>
-        <translation>Format füllen und beschneiden</translation>
-    </message>
-    <message>
-        <source>Stretch to the box</source>
-        <translation>Auf das Format strecken</translation>
-    </message>
-    <message>
         <source>Longest side</source>
         <translation>Längste Seite</translation>
     </message>
     <message>
-        <source>Per cent</source>
-        <translation>Prozent</translation>
+        <source>Box</source>
+        <translation>Rahmen</translation>
     </message>
     <message>
-        <source>Fit into the box</source>
-        <translation>In das Format einpassen</translation>
+        <source>Fill (crops)</source>
+        <translation>Füllen (beschneidet)</translation>
     </message>
     <message>
-        <source>Pad to the box</source>
-        <translation>Zum Format auffüllen</translation>
+        <source>Stretch</source>
+        <translation>Strecken</translation>
+    </message>
+    <message>
+        <source>Percentage</source>
+        <translation>Prozentsatz</translation>
+    </message>
+    <message>
+        <source>Fit inside</source>
+        <translation>Einpassen</translation>
+    </message>
+    <message>
+        <source>Pad</source>
+        <translation>Auffüllen</translation>
     </message>
 </context>
 <context>
@@ -8904,16 +8888,16 @@
         <translation>Höhe %1</translation>
     </message>
     <message>
-        <source>longest %1</source>
+        <source>longest side %1</source>
         <translation>längste Seite %1</translation>
     </message>
     <message>
-        <source>percent %1</source>
+        <source>%1 percent</source>
         <translation>%1 Prozent</translation>
     </message>
     <message>
         <source>box %1</source>
-        <translation>Format %1</translation>
+        <translation>Rahmen %1</translation>
     </message>
     <message>
         <source>Enter a whole number from 1 to %1.</source>
@@ -8927,8 +8911,8 @@
 <context>
     <name>resolution-row</name>
     <message>
-        <source>Picture’s own</source>
-        <translation>die des Bilds</translation>
+        <source>Same as the picture</source>
+        <translation>wie im Bild</translation>
     </message>
     <message>
         <source>300 dpi</source>
@@ -8942,43 +8926,43 @@
 <context>
     <name>risky-names</name>
     <message>
-        <source>other systems keep the name %1 for themselves</source>
+        <source>other systems reserve the name %1</source>
         <translation>andere Systeme behalten sich den Namen %1 vor</translation>
     </message>
     <message>
-        <source>other systems do not take %1</source>
+        <source>other systems do not allow %1</source>
         <translation>andere Systeme erlauben kein %1</translation>
     </message>
     <message>
-        <source>it has a control character in it</source>
-        <translation>der Name enthält ein Steuerzeichen</translation>
+        <source>contains a control character</source>
+        <translation>enthält ein Steuerzeichen</translation>
     </message>
     <message>
-        <source>it begins with a blank</source>
-        <translation>der Name beginnt mit einem Leerzeichen</translation>
+        <source>starts with a space</source>
+        <translation>beginnt mit einem Leerzeichen</translation>
     </message>
     <message>
-        <source>other systems take no blank or dot at the end</source>
+        <source>other systems do not allow a trailing space or dot</source>
         <translation>andere Systeme erlauben kein Leerzeichen und keinen Punkt am Ende</translation>
     </message>
 </context>
 <context>
     <name>room</name>
     <message>
-        <source>The files need %1, but only %2 are free for %3.</source>
+        <source>The files need %1, but only %2 is free for %3.</source>
         <translation>Die Dateien brauchen %1, aber für %3 sind nur %2 frei.</translation>
     </message>
     <message>
-        <source>%1 are free</source>
-        <translation>%1 sind frei</translation>
+        <source>%1 free</source>
+        <translation>%1 frei</translation>
     </message>
     <message>
         <source>%1 to be written</source>
         <translation>%1 zu schreiben</translation>
     </message>
     <message>
-        <source>too little room (needs %1, %2 are free)</source>
-        <translation>zu wenig Platz (braucht %1, frei sind %2)</translation>
+        <source>not enough space (needs %1, %2 free)</source>
+        <translation>nicht genug Platz (braucht %1, frei %2)</translation>
     </message>
 </context>
 <context>
@@ -8987,16 +8971,16 @@
         <source>Round Corners</source>
         <translation>Ecken abrunden</translation>
     </message>
-    <message numerus="yes">
-        <source>Round %n Pictures</source>
-        <translation>
-            <numerusform>%n Bild abrunden</numerusform>
-            <numerusform>%n Bilder abrunden</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Rounding corners</source>
         <translation>Das Abrunden der Ecken</translation>
+    </message>
+    <message numerus="yes">
+        <source>Round the Corners of %n Pictures</source>
+        <translation>
+            <numerusform>Ecken von %n Bild abrunden</numerusform>
+            <numerusform>Ecken von %n Bildern abrunden</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -9056,20 +9040,20 @@
         <translation>auf %1</translation>
     </message>
     <message>
-        <source>band of %1 px</source>
-        <translation>Rahmen von %1 px</translation>
+        <source>border of %1 px</source>
+        <translation>Rand von %1 px</translation>
     </message>
     <message>
         <source>Enter a radius from 0 to %1.</source>
         <translation>Geben Sie einen Radius von 0 bis %1 ein.</translation>
     </message>
     <message>
-        <source>Enter a width of the band from 0 to %1.</source>
-        <translation>Geben Sie eine Rahmenbreite von 0 bis %1 ein.</translation>
+        <source>Enter a border width from 0 to %1.</source>
+        <translation>Geben Sie eine Randbreite von 0 bis %1 ein.</translation>
     </message>
     <message>
-        <source>the band would cover all of it</source>
-        <translation>der Rahmen würde alles bedecken</translation>
+        <source>the border would cover the whole picture</source>
+        <translation>der Rand würde das ganze Bild bedecken</translation>
     </message>
     <message>
         <source>The circle is cut from the square in the middle.</source>
@@ -9145,8 +9129,8 @@
         <translation>Gespeichert</translation>
     </message>
     <message>
-        <source>Choose a picture to save</source>
-        <translation>Wählen Sie ein Bild zum Speichern</translation>
+        <source>Choose a picture to save.</source>
+        <translation>Wählen Sie ein Bild zum Speichern.</translation>
     </message>
     <message>
         <source>Saved %1, %2</source>
@@ -9165,8 +9149,8 @@
         <translation>Schließen</translation>
     </message>
     <message>
-        <source>Wait until the picture is saved</source>
-        <translation>Warten Sie, bis das Bild gespeichert ist</translation>
+        <source>Wait until the picture has been saved.</source>
+        <translation>Warten Sie, bis das Bild gespeichert ist.</translation>
     </message>
     <message>
         <source>Saving %1…</source>
@@ -9180,8 +9164,8 @@
 <context>
     <name>script::ScriptEngine</name>
     <message>
-        <source>Cannot read %1: there is no such file</source>
-        <translation>%1 kann nicht gelesen werden: Es gibt keine solche Datei</translation>
+        <source>Cannot read %1: no such file</source>
+        <translation>%1 kann nicht gelesen werden: keine solche Datei</translation>
     </message>
     <message>
         <source>This is not a function of a script</source>
@@ -9191,8 +9175,8 @@
 <context>
     <name>settings-watch</name>
     <message>
-        <source>Settings cannot be written. What you change holds until you quit.</source>
-        <translation>Die Einstellungen können nicht gespeichert werden. Änderungen gelten bis zum Beenden.</translation>
+        <source>Settings cannot be saved. Your changes apply until you quit.</source>
+        <translation>Einstellungen können nicht gespeichert werden. Änderungen gelten bis zum Beenden.</translation>
     </message>
 </context>
 <context>
@@ -9367,7 +9351,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n links made</source>
+        <source>%n links created</source>
         <translation>
             <numerusform>%n Verknüpfung angelegt</numerusform>
             <numerusform>%n Verknüpfungen angelegt</numerusform>
@@ -9382,10 +9366,10 @@
         <translation>Ordner</translation>
     </message>
     <message numerus="yes">
-        <source>%n files put back</source>
+        <source>%n files restored</source>
         <translation>
-            <numerusform>%n Datei zurückgelegt</numerusform>
-            <numerusform>%n Dateien zurückgelegt</numerusform>
+            <numerusform>%n Datei wiederhergestellt</numerusform>
+            <numerusform>%n Dateien wiederhergestellt</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -9414,7 +9398,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n folders made</source>
+        <source>%n folders created</source>
         <translation>
             <numerusform>%n Ordner angelegt</numerusform>
             <numerusform>%n Ordner angelegt</numerusform>
@@ -9428,8 +9412,8 @@
 <context>
     <name>sort-pane</name>
     <message>
-        <source>Folder of their own</source>
-        <translation>Eigener Ordner</translation>
+        <source>Put in folder</source>
+        <translation>In Ordner legen</translation>
     </message>
     <message>
         <source>Use date created</source>
@@ -9440,8 +9424,8 @@
         <translation>Änderungsdatum nehmen</translation>
     </message>
     <message>
-        <source>Leave where they are</source>
-        <translation>Liegen lassen</translation>
+        <source>Do not move</source>
+        <translation>Nicht verschieben</translation>
     </message>
     <message>
         <source>Move</source>
@@ -9456,8 +9440,8 @@
         <translation>Verknüpfen</translation>
     </message>
     <message>
-        <source>Number the file</source>
-        <translation>Datei nummerieren</translation>
+        <source>Keep both (add a number)</source>
+        <translation>Beide behalten (mit Nummer)</translation>
     </message>
     <message>
         <source>Skip</source>
@@ -9468,11 +9452,11 @@
         <translation>Die Originale bleiben, wo sie sind.</translation>
     </message>
     <message>
-        <source>Links lead to the files where they are now.</source>
-        <translation>Verknüpfungen führen zu den Dateien an ihrem jetzigen Ort.</translation>
+        <source>Links point to the files where they are now.</source>
+        <translation>Verknüpfungen verweisen auf den jetzigen Ort der Dateien.</translation>
     </message>
     <message>
-        <source>Own pattern</source>
+        <source>Custom pattern</source>
         <translation>Eigenes Muster</translation>
     </message>
     <message>
@@ -9496,8 +9480,8 @@
         <translation>%1 hat kein Datum und bleibt.</translation>
     </message>
     <message>
-        <source>%1 goes into %2</source>
-        <translation>%1 kommt in %2</translation>
+        <source>%1 → %2</source>
+        <translation>%1 → %2</translation>
     </message>
 </context>
 <context>
@@ -9574,27 +9558,27 @@
         <translation>nach Änderungsdatum</translation>
     </message>
     <message>
-        <source>no date taken: stays</source>
-        <translation>kein Aufnahmedatum: bleibt</translation>
+        <source>no date taken: not moved</source>
+        <translation>kein Aufnahmedatum: nicht verschoben</translation>
     </message>
     <message>
-        <source>a file has the name of the folder: %1</source>
-        <translation>eine Datei heißt wie der Ordner: %1</translation>
+        <source>a file already has this folder name: %1</source>
+        <translation>eine Datei heißt schon so wie der Ordner: %1</translation>
     </message>
     <message>
-        <source>The file states no date on which it was taken.</source>
-        <translation>Die Datei nennt kein Aufnahmedatum.</translation>
+        <source>The file has no date taken.</source>
+        <translation>Die Datei hat kein Aufnahmedatum.</translation>
     </message>
     <message>
-        <source>It lies in such a folder already.</source>
-        <translation>Es liegt schon in einem solchen Ordner.</translation>
+        <source>It is already in such a folder.</source>
+        <translation>Es ist schon in einem solchen Ordner.</translation>
     </message>
 </context>
 <context>
     <name>sort-tree</name>
     <message>
-        <source>No file will go anywhere.</source>
-        <translation>Keine Datei wird bewegt.</translation>
+        <source>No file will be moved.</source>
+        <translation>Keine Datei wird verschoben.</translation>
     </message>
     <message>
         <source>%1 into %2</source>
@@ -9619,10 +9603,10 @@
         <translation>%1 (%2)</translation>
     </message>
     <message numerus="yes">
-        <source>%n folders will be made, counting parents</source>
+        <source>%n new folders, including parents</source>
         <translation>
-            <numerusform>%n Ordner wird angelegt, übergeordnete mitgezählt</numerusform>
-            <numerusform>%n Ordner werden angelegt, übergeordnete mitgezählt</numerusform>
+            <numerusform>%n neuer Ordner, übergeordnete mitgezählt</numerusform>
+            <numerusform>%n neue Ordner, übergeordnete mitgezählt</numerusform>
         </translation>
     </message>
 </context>
@@ -9685,8 +9669,8 @@
         <translation>Objektiv</translation>
     </message>
     <message>
-        <source>Name up to a number</source>
-        <translation>Name bis zu einer Zahl</translation>
+        <source>Name up to the first digit</source>
+        <translation>Name bis zur ersten Ziffer</translation>
     </message>
     <message>
         <source>First letter</source>
@@ -9705,24 +9689,24 @@
         <translation>Ein Ordner kann nicht „.“ oder „..“ heißen.</translation>
     </message>
     <message>
-        <source>A folder cannot have a name of blanks only.</source>
+        <source>A folder name cannot consist of spaces only.</source>
         <translation>Ein Ordnername kann nicht nur aus Leerzeichen bestehen.</translation>
     </message>
     <message>
-        <source>The name of a folder is too long.</source>
+        <source>A folder name is too long.</source>
         <translation>Ein Ordnername ist zu lang.</translation>
     </message>
     <message>
-        <source>A pattern cannot hold control characters.</source>
+        <source>A pattern cannot contain control characters.</source>
         <translation>Ein Muster darf keine Steuerzeichen enthalten.</translation>
     </message>
     <message>
-        <source>Enter a name for the folder of pictures without a date.</source>
+        <source>Enter a folder name for pictures without a date.</source>
         <translation>Geben Sie einen Namen für den Ordner der Bilder ohne Datum ein.</translation>
     </message>
     <message>
-        <source>“%1” cannot be the name of a folder.</source>
-        <translation>„%1“ ist kein möglicher Ordnername.</translation>
+        <source>“%1” is not a valid folder name.</source>
+        <translation>„%1“ ist kein gültiger Ordnername.</translation>
     </message>
     <message>
         <source>Undated</source>
@@ -9772,7 +9756,7 @@
         <translation>Rückgängig</translation>
     </message>
     <message>
-        <source>Continue</source>
+        <source>Resume</source>
         <translation>Fortsetzen</translation>
     </message>
     <message>
@@ -9780,10 +9764,10 @@
         <translation>Pause</translation>
     </message>
     <message numerus="yes">
-        <source>Only what failed is shown: %n of the list</source>
+        <source>Only failed pictures are shown: %n</source>
         <translation>
-            <numerusform>Nur Fehlgeschlagenes wird gezeigt: %n aus der Liste</numerusform>
-            <numerusform>Nur Fehlgeschlagenes wird gezeigt: %n aus der Liste</numerusform>
+            <numerusform>Nur fehlgeschlagene Bilder werden gezeigt: %n</numerusform>
+            <numerusform>Nur fehlgeschlagene Bilder werden gezeigt: %n</numerusform>
         </translation>
     </message>
     <message>
@@ -9822,8 +9806,8 @@
         <translation>Text ersetzen</translation>
     </message>
     <message>
-        <source>One text by another, wherever it occurs</source>
-        <translation>Einen Text durch einen anderen, wo immer er vorkommt</translation>
+        <source>Replaces a text everywhere in the name</source>
+        <translation>Ersetzt einen Text überall im Namen</translation>
     </message>
     <message>
         <source>search find substitute delete</source>
@@ -9834,8 +9818,8 @@
         <translation>Text einfügen</translation>
     </message>
     <message>
-        <source>At a place counted from the start or the end</source>
-        <translation>An einer Stelle, vom Anfang oder Ende gezählt</translation>
+        <source>At a position counted from the start or the end</source>
+        <translation>An einer Position, vom Anfang oder Ende gezählt</translation>
     </message>
     <message>
         <source>add position</source>
@@ -9846,7 +9830,7 @@
         <translation>Davor und dahinter</translation>
     </message>
     <message>
-        <source>Text in front of the name and behind it</source>
+        <source>Text before and after the name</source>
         <translation>Text vor und hinter dem Namen</translation>
     </message>
     <message>
@@ -9854,15 +9838,15 @@
         <translation>präfix suffix anhängen voranstellen hinzufügen</translation>
     </message>
     <message>
-        <source>Strip characters</source>
-        <translation>Zeichen abschneiden</translation>
+        <source>Remove characters</source>
+        <translation>Zeichen entfernen</translation>
     </message>
     <message>
-        <source>A number of them from the left or the right</source>
-        <translation>Einige von links oder von rechts</translation>
+        <source>A number of characters from the left or the right</source>
+        <translation>Eine Anzahl Zeichen von links oder rechts</translation>
     </message>
     <message>
-        <source>remove cut trim shorten</source>
+        <source>strip cut trim shorten</source>
         <translation>entfernen kürzen abschneiden weg</translation>
     </message>
     <message>
@@ -9870,7 +9854,7 @@
         <translation>Abschnitt behalten</translation>
     </message>
     <message>
-        <source>Only the characters at certain places</source>
+        <source>Only the characters at certain positions</source>
         <translation>Nur die Zeichen an bestimmten Stellen</translation>
     </message>
     <message>
@@ -9890,15 +9874,15 @@
         <translation>stücke umstellen tauschen</translation>
     </message>
     <message>
-        <source>Remove signs</source>
-        <translation>Sonderzeichen entfernen</translation>
+        <source>Keep letters and digits</source>
+        <translation>Buchstaben und Ziffern behalten</translation>
     </message>
     <message>
-        <source>Keep letters, or letters and digits</source>
-        <translation>Buchstaben behalten, auf Wunsch auch Ziffern</translation>
+        <source>Removes all other characters</source>
+        <translation>Entfernt alle anderen Zeichen</translation>
     </message>
     <message>
-        <source>non-letters clean punctuation digits</source>
+        <source>remove signs non-letters clean punctuation digits</source>
         <translation>satzzeichen säubern bereinigen ziffern</translation>
     </message>
     <message>
@@ -9906,7 +9890,7 @@
         <translation>Leerzeichen entfernen</translation>
     </message>
     <message>
-        <source>All blanks, also between words</source>
+        <source>All spaces, also between words</source>
         <translation>Alle, auch zwischen Wörtern</translation>
     </message>
     <message>
@@ -9914,23 +9898,23 @@
         <translation>leerraum lücken blanks</translation>
     </message>
     <message>
-        <source>Fold accents</source>
-        <translation>Akzente auflösen</translation>
+        <source>Remove accents (é → e)</source>
+        <translation>Akzente entfernen (é → e)</translation>
     </message>
     <message>
         <source>é becomes e</source>
         <translation>é wird zu e</translation>
     </message>
     <message>
-        <source>ascii umlaut diacritics plain</source>
+        <source>fold ascii umlaut diacritics plain</source>
         <translation>ascii umlaut diakritische einfach</translation>
     </message>
     <message>
-        <source>One writing of accents</source>
-        <translation>Akzente einheitlich</translation>
+        <source>Normalise accents</source>
+        <translation>Akzente vereinheitlichen</translation>
     </message>
     <message>
-        <source>For names that came from another system</source>
+        <source>For names that come from another system</source>
         <translation>Für Namen von anderen Systemen</translation>
     </message>
     <message>
@@ -9942,7 +9926,7 @@
         <translation>Nur manche Namen</translation>
     </message>
     <message>
-        <source>The steps below work on names that fit</source>
+        <source>The steps below apply only to matching names</source>
         <translation>Die Schritte darunter gelten für passende Namen</translation>
     </message>
     <message>
@@ -9954,8 +9938,8 @@
         <translation>Zähler</translation>
     </message>
     <message>
-        <source>001, 002, 003 behind the name</source>
-        <translation>001, 002, 003 hinter dem Namen</translation>
+        <source>001, 002, 003 after the name</source>
+        <translation>001, 002, 003 nach dem Namen</translation>
     </message>
     <message>
         <source>number sequence</source>
@@ -9966,7 +9950,7 @@
         <translation>Aufnahmedatum</translation>
     </message>
     <message>
-        <source>In front of the name</source>
+        <source>Before the name</source>
         <translation>Vor dem Namen</translation>
     </message>
     <message>
@@ -9986,8 +9970,8 @@
         <translation>Kamera</translation>
     </message>
     <message>
-        <source>Behind the name</source>
-        <translation>Hinter dem Namen</translation>
+        <source>After the name</source>
+        <translation>Nach dem Namen</translation>
     </message>
     <message>
         <source>model lens</source>
@@ -10054,7 +10038,7 @@
         <translation>%1, %2 vom Anfang</translation>
     </message>
     <message>
-        <source>%1 before, %2 behind</source>
+        <source>%1 before, %2 after</source>
         <translation>%1 davor, %2 dahinter</translation>
     </message>
     <message>
@@ -10081,24 +10065,24 @@
         <translation>bei %1, Teile %3, verbunden mit %2</translation>
     </message>
     <message>
-        <source>only letters stay</source>
+        <source>only letters are kept</source>
         <translation>nur Buchstaben bleiben</translation>
     </message>
     <message>
-        <source>only letters and digits stay</source>
+        <source>only letters and digits are kept</source>
         <translation>nur Buchstaben und Ziffern bleiben</translation>
     </message>
     <message>
-        <source>no blanks are left</source>
-        <translation>kein Leerzeichen bleibt</translation>
+        <source>all spaces are removed</source>
+        <translation>alle Leerzeichen werden entfernt</translation>
     </message>
     <message>
         <source>é becomes e, others %1</source>
         <translation>é wird zu e, andere zu %1</translation>
     </message>
     <message>
-        <source>accents apart (NFD)</source>
-        <translation>Akzente getrennt (NFD)</translation>
+        <source>accents as separate marks (NFD)</source>
+        <translation>Akzente als eigene Zeichen (NFD)</translation>
     </message>
     <message>
         <source>accents and letters as one (NFC)</source>
@@ -10120,16 +10104,16 @@
 <context>
     <name>targets</name>
     <message>
-        <source>The first page is drawn at 72 pixels per inch.</source>
-        <translation>Die erste Seite wird mit 72 Pixeln pro Zoll gezeichnet.</translation>
+        <source>The first page is rendered at 72 pixels per inch.</source>
+        <translation>Die erste Seite wird mit 72 Pixeln pro Zoll gerendert.</translation>
     </message>
     <message>
-        <source>Layers become one picture.</source>
-        <translation>Ebenen werden zu einem Bild.</translation>
+        <source>Layers are merged into one picture.</source>
+        <translation>Ebenen werden zu einem Bild vereint.</translation>
     </message>
     <message>
-        <source>Small files for showing. Fine detail is lost, the more the lower the quality; transparent parts get a colour and 16 bits become 8. Colour profile and metadata are kept.</source>
-        <translation>Kleine Dateien zum Zeigen. Feine Details gehen verloren, je niedriger die Qualität, desto mehr; transparente Bereiche bekommen eine Farbe, aus 16 Bit werden 8. Farbprofil und Metadaten bleiben erhalten.</translation>
+        <source>Small files for sharing. The lower the quality, the more detail is lost. Transparent parts get a colour and 16 bits become 8. Colour profile and metadata are kept.</source>
+        <translation>Kleine Dateien zum Weitergeben. Je niedriger die Qualität, desto mehr Details gehen verloren. Transparente Bereiche bekommen eine Farbe, aus 16 Bit werden 8. Farbprofil und Metadaten bleiben erhalten.</translation>
     </message>
     <message>
         <source>Nothing is lost: pixels, transparency, 16 bits, colour profile and metadata are kept.</source>
@@ -10140,28 +10124,28 @@
         <translation>Nichts geht verloren: Pixel, Transparenz, 16 Bit, CMYK, Farbprofil und Metadaten bleiben erhalten. Große Dateien.</translation>
     </message>
     <message>
-        <source>One page of the picture’s own size. A JPEG goes in as it is; others without loss. Of the metadata what XMP has words for is kept.</source>
-        <translation>Eine Seite in der Größe des Bildes. Ein JPEG kommt unverändert hinein, anderes verlustfrei. Von den Metadaten bleibt, wofür XMP Worte hat.</translation>
+        <source>One page of the size of the picture. A JPEG is included unchanged, other types without loss. Metadata is kept as far as XMP can hold it.</source>
+        <translation>Eine Seite in der Größe des Bildes. Ein JPEG wird unverändert übernommen, andere Typen verlustfrei. Metadaten bleiben erhalten, soweit XMP sie aufnimmt.</translation>
     </message>
     <message>
-        <source>Loss that cannot be seen. Transparency, 16 bits and metadata are kept, and the colour profile where it fits in. Few programs show such files.</source>
-        <translation>Verlust, den man nicht sieht. Transparenz, 16 Bit und Metadaten bleiben erhalten, das Farbprofil, wo es hineinpasst. Wenige Programme zeigen solche Dateien.</translation>
+        <source>Visually lossless. Transparency, 16 bits and metadata are kept, and most colour profiles. Few programs can open it.</source>
+        <translation>Ohne sichtbaren Verlust. Transparenz, 16 Bit, Metadaten und die meisten Farbprofile bleiben erhalten. Wenige Programme können es öffnen.</translation>
     </message>
     <message>
-        <source>256 colours at most, and a pixel is either transparent or not; colours become sRGB. Of the metadata what XMP has words for is kept.</source>
-        <translation>Höchstens 256 Farben, und ein Pixel ist entweder transparent oder nicht; Farben werden zu sRGB. Von den Metadaten bleibt, wofür XMP Worte hat.</translation>
+        <source>At most 256 colours. A pixel is either transparent or not. Colours become sRGB. Metadata is kept as far as XMP can hold it.</source>
+        <translation>Höchstens 256 Farben. Ein Pixel ist entweder transparent oder nicht. Farben werden zu sRGB. Metadaten bleiben erhalten, soweit XMP sie aufnimmt.</translation>
     </message>
     <message>
-        <source>Pixels and resolution only, in large files. Colours become sRGB, transparent parts get a colour, and 16 bits become 8.</source>
-        <translation>Nur Pixel und Auflösung, in großen Dateien. Farben werden zu sRGB, transparente Bereiche bekommen eine Farbe, aus 16 Bit werden 8.</translation>
+        <source>Large files with pixels and resolution only. Colours become sRGB, transparent parts get a colour and 16 bits become 8.</source>
+        <translation>Große Dateien nur mit Pixeln und Auflösung. Farben werden zu sRGB, transparente Bereiche bekommen eine Farbe, aus 16 Bit werden 8.</translation>
     </message>
     <message>
-        <source>It is %1 already; no pixel of it changes.</source>
-        <translation>Es ist schon %1; kein Pixel davon ändert sich.</translation>
+        <source>Already %1: no pixel changes.</source>
+        <translation>Schon %1: Kein Pixel ändert sich.</translation>
     </message>
     <message>
-        <source>It is %1 already and is encoded again.</source>
-        <translation>Es ist schon %1 und wird neu kodiert.</translation>
+        <source>Already %1: it will be encoded again.</source>
+        <translation>Schon %1: wird neu kodiert.</translation>
     </message>
     <message>
         <source>1 – smallest file</source>
@@ -10172,16 +10156,16 @@
         <translation>9 – beste Qualität</translation>
     </message>
     <message>
-        <source>Small files for web pages. Fine detail is lost, the more the lower the quality, and 16 bits become 8. Transparency, colour profile and metadata are kept.</source>
-        <translation>Kleine Dateien für Webseiten. Feine Details gehen verloren, je niedriger die Qualität, desto mehr, und aus 16 Bit werden 8. Transparenz, Farbprofil und Metadaten bleiben erhalten.</translation>
+        <source>Small files for web pages. The lower the quality, the more detail is lost. 16 bits become 8. Transparency, colour profile and metadata are kept.</source>
+        <translation>Kleine Dateien für Webseiten. Je niedriger die Qualität, desto mehr Details gehen verloren. Aus 16 Bit werden 8. Transparenz, Farbprofil und Metadaten bleiben erhalten.</translation>
     </message>
     <message>
-        <source>Very small files for web pages, which take the longest to write. Fine detail is lost, the more the lower the quality, and 16 bits become 8. Transparency, colour profile and metadata are kept.</source>
-        <translation>Sehr kleine Dateien für Webseiten, deren Schreiben am längsten dauert. Feine Details gehen verloren, je niedriger die Qualität, desto mehr, und aus 16 Bit werden 8. Transparenz, Farbprofil und Metadaten bleiben erhalten.</translation>
+        <source>Very small files for web pages, which take the longest to write. The lower the quality, the more detail is lost. 16 bits become 8. Transparency, colour profile and metadata are kept.</source>
+        <translation>Sehr kleine Dateien für Webseiten, deren Schreiben am längsten dauert. Je niedriger die Qualität, desto mehr Details gehen verloren. Aus 16 Bit werden 8. Transparenz, Farbprofil und Metadaten bleiben erhalten.</translation>
     </message>
     <message>
-        <source>Small files for archives. Fine detail is lost, the more the lower the quality. Transparency, 16 bits, colour profile and metadata are kept. Few programs show such files.</source>
-        <translation>Kleine Dateien für Archive. Feine Details gehen verloren, je niedriger die Qualität, desto mehr. Transparenz, 16 Bit, Farbprofil und Metadaten bleiben erhalten. Wenige Programme zeigen solche Dateien.</translation>
+        <source>Small files for archives. The lower the quality, the more detail is lost. Transparency, 16 bits, colour profile and metadata are kept. Few programs can open it.</source>
+        <translation>Kleine Dateien für Archive. Je niedriger die Qualität, desto mehr Details gehen verloren. Transparenz, 16 Bit, Farbprofil und Metadaten bleiben erhalten. Wenige Programme können es öffnen.</translation>
     </message>
 </context>
 <context>
@@ -10195,8 +10179,8 @@
         <translation>Endung</translation>
     </message>
     <message>
-        <source>Date taken, or else changed</source>
-        <translation>Aufnahmedatum, sonst geändert</translation>
+        <source>Date taken, otherwise date changed</source>
+        <translation>Aufnahmedatum, sonst Änderungsdatum</translation>
     </message>
     <message>
         <source>Date taken</source>
@@ -10247,7 +10231,7 @@
         <translation>Querformat</translation>
     </message>
     <message>
-        <source>Name of its folder</source>
+        <source>Name of the folder</source>
         <translation>Name des Ordners</translation>
     </message>
     <message>
@@ -10255,36 +10239,36 @@
         <translation>Urlaub</translation>
     </message>
     <message>
-        <source>“%1” is no form of a date: write it with yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss</source>
-        <translation>„%1“ ist keine Form eines Datums: Schreiben Sie es mit yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss</translation>
+        <source>“%1” is not a valid date format. Use yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss</source>
+        <translation>„%1“ ist kein gültiges Datumsformat. Verwenden Sie yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss</translation>
     </message>
     <message>
-        <source>“%1” is no first number of a counter</source>
-        <translation>„%1“ ist keine Anfangszahl für einen Zähler</translation>
+        <source>“%1” is not a valid start number</source>
+        <translation>„%1“ ist keine gültige Startzahl</translation>
     </message>
     <message>
-        <source>“%1” takes no part of a name: write a number of letters, “word”, or “~” and words with commas between them</source>
-        <translation>„%1“ nimmt keinen Teil eines Namens: Schreiben Sie eine Anzahl von Buchstaben, „word“ oder „~“ und Wörter mit Kommas dazwischen</translation>
+        <source>“%1” does not select part of a name. Use a number of characters, “word”, or “~” and words separated by commas</source>
+        <translation>„%1“ wählt keinen Teil eines Namens aus. Verwenden Sie eine Anzahl Zeichen, „word“ oder „~“ und Wörter mit Kommas dazwischen</translation>
     </message>
     <message>
-        <source>“%1” is no form of a size: write “class” or “MB”</source>
-        <translation>„%1“ ist keine Form einer Größe: Schreiben Sie „class“ oder „MB“</translation>
+        <source>“%1” is not a valid size format. Use “class” or “MB”</source>
+        <translation>„%1“ ist kein gültiges Größenformat. Verwenden Sie „class“ oder „MB“</translation>
     </message>
     <message>
-        <source>{%1} has no forms: leave out what stands behind its colon</source>
-        <translation>{%1} hat keine Formen: Lassen Sie weg, was hinter dem Doppelpunkt steht</translation>
+        <source>{%1} takes no format. Remove the colon and what follows it</source>
+        <translation>{%1} hat kein Format. Entfernen Sie den Doppelpunkt und was darauf folgt</translation>
     </message>
     <message>
-        <source>There is no token between the braces; a brace of its own is written {{</source>
-        <translation>Zwischen den geschweiften Klammern fehlt der Platzhalter; für die Klammer selbst schreiben Sie {{</translation>
+        <source>There is no token between the braces. To write a brace, type {{</source>
+        <translation>Zwischen den geschweiften Klammern fehlt der Platzhalter. Für eine Klammer tippen Sie {{</translation>
     </message>
     <message>
         <source>There is no token {%1}</source>
         <translation>Einen Platzhalter {%1} gibt es nicht</translation>
     </message>
     <message>
-        <source>A brace is not closed; a brace of its own is written {{</source>
-        <translation>Eine geschweifte Klammer ist nicht geschlossen; für die Klammer selbst schreiben Sie {{</translation>
+        <source>A brace is not closed. To write a brace, type {{</source>
+        <translation>Eine geschweifte Klammer ist nicht geschlossen. Für eine Klammer tippen Sie {{</translation>
     </message>
     <message>
         <source>Jan Feb Mar Apr May Jun Jul Aug Sep Oct Nov Dec</source>
@@ -10423,42 +10407,60 @@
         <source>Rotate &amp; Flip</source>
         <translation>Drehen &amp; Spiegeln</translation>
     </message>
+    <message>
+        <source>Rotating</source>
+        <translation>Das Drehen</translation>
+    </message>
     <message numerus="yes">
-        <source>Turn %n Pictures</source>
+        <source>Rotate and Flip %n Pictures</source>
+        <translation>
+            <numerusform>%n Bild drehen und spiegeln</numerusform>
+            <numerusform>%n Bilder drehen und spiegeln</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Flip %n Pictures</source>
+        <translation>
+            <numerusform>%n Bild spiegeln</numerusform>
+            <numerusform>%n Bilder spiegeln</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Rotate %n Pictures</source>
         <translation>
             <numerusform>%n Bild drehen</numerusform>
             <numerusform>%n Bilder drehen</numerusform>
         </translation>
     </message>
     <message>
-        <source>Rotating</source>
-        <translation>Das Drehen</translation>
+        <source>Nothing to do</source>
+        <translation>Nichts zu tun</translation>
     </message>
 </context>
 <context>
     <name>turn-pane</name>
     <message>
-        <source>not turned</source>
-        <translation>nicht gedreht</translation>
+        <source>No rotation</source>
+        <translation>Keine Drehung</translation>
     </message>
     <message>
-        <source>↺ to the left</source>
-        <translation>↺ nach links</translation>
+        <source>↺ anticlockwise</source>
+        <translation>↺ gegen den Uhrzeigersinn</translation>
     </message>
     <message>
-        <source>↻ to the right</source>
-        <translation>↻ nach rechts</translation>
+        <source>↻ clockwise</source>
+        <translation>↻ im Uhrzeigersinn</translation>
     </message>
 </context>
 <context>
     <name>turn-presets</name>
     <message>
-        <source>A quarter left</source>
-        <translation>Vierteldrehung links</translation>
+        <source>90° anticlockwise</source>
+        <translation>90° gegen den Uhrzeigersinn</translation>
     </message>
     <message>
-        <source>A quarter right</source>
-        <translation>Vierteldrehung rechts</translation>
+        <source>90° clockwise</source>
+        <translation>90° im Uhrzeigersinn</translation>
     </message>
     <message>
         <source>Upside down</source>
@@ -10472,11 +10474,11 @@
 <context>
     <name>turn-step</name>
     <message>
-        <source>Turned</source>
+        <source>Rotated</source>
         <translation>Gedreht</translation>
     </message>
     <message>
-        <source>turn %1°</source>
+        <source>rotate %1°</source>
         <translation>%1° drehen</translation>
     </message>
     <message>
@@ -10496,7 +10498,7 @@
         <translation>Wählen Sie einen Winkel oder eine Spiegelung.</translation>
     </message>
     <message>
-        <source>Turned without loss.</source>
+        <source>Rotated without loss.</source>
         <translation>Verlustfrei gedreht.</translation>
     </message>
     <message>
@@ -10504,8 +10506,8 @@
         <translation>Die Bildfläche wächst, damit die Ecken Platz haben.</translation>
     </message>
     <message>
-        <source>The canvas grows so that the corners fit; what is beside the picture becomes white.</source>
-        <translation>Die Bildfläche wächst, damit die Ecken Platz haben; was neben dem Bild liegt, wird weiß.</translation>
+        <source>The canvas grows so that the corners fit. The new corners become white.</source>
+        <translation>Die Bildfläche wächst, damit die Ecken Platz haben. Die neuen Ecken werden weiß.</translation>
     </message>
 </context>
 <context>
@@ -10515,18 +10517,18 @@
         <translation>Rückgängig machen</translation>
     </message>
     <message>
-        <source>This run wrote new files and moved none, so that there is nothing to take back: its results can be deleted.</source>
-        <translation>Dieser Durchlauf hat neue Dateien geschrieben und keine bewegt; es gibt also nichts zurückzunehmen: Seine Ergebnisse können gelöscht werden.</translation>
+        <source>This run wrote new files and moved none. To undo it, delete its results.</source>
+        <translation>Dieser Durchlauf hat neue Dateien geschrieben und keine verschoben. Löschen Sie seine Ergebnisse, um ihn rückgängig zu machen.</translation>
     </message>
     <message>
         <source>Redo</source>
         <translation>Wiederholen</translation>
     </message>
     <message numerus="yes">
-        <source>%n files can be taken back.</source>
+        <source>%n files can be restored.</source>
         <translation>
-            <numerusform>%n Datei kann zurückgenommen werden.</numerusform>
-            <numerusform>%n Dateien können zurückgenommen werden.</numerusform>
+            <numerusform>%n Datei kann wiederhergestellt werden.</numerusform>
+            <numerusform>%n Dateien können wiederhergestellt werden.</numerusform>
         </translation>
     </message>
     <message>
@@ -10538,7 +10540,7 @@
         <translation>Kein Kommentar wurde geändert.</translation>
     </message>
     <message>
-        <source>All its comments were reverted already.</source>
+        <source>All its comments have already been reverted.</source>
         <translation>Alle seine Kommentare wurden schon zurückgesetzt.</translation>
     </message>
     <message numerus="yes">
@@ -10549,7 +10551,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n were reverted before.</source>
+        <source>%n have already been reverted.</source>
         <translation>
             <numerusform>%n wurde schon zurückgesetzt.</numerusform>
             <numerusform>%n wurden schon zurückgesetzt.</numerusform>
@@ -10563,31 +10565,31 @@
 <context>
     <name>watching</name>
     <message>
-        <source>Pictures of a watched folder are written at once: turn Simulation off first.</source>
-        <translation>Bilder eines überwachten Ordners werden gleich geschrieben: schalten Sie zuerst die Simulation aus.</translation>
+        <source>Pictures in a watched folder are written at once: turn the dry run off first.</source>
+        <translation>Bilder eines überwachten Ordners werden sofort geschrieben: Schalten Sie zuerst den Probelauf aus.</translation>
     </message>
     <message>
-        <source>Nobody can be asked while a folder is watched: choose to number or to skip what is there already.</source>
-        <translation>Während ein Ordner überwacht wird, kann niemand gefragt werden: lassen Sie vorhandene Namen nummerieren oder überspringen.</translation>
+        <source>A watched folder cannot ask: choose to keep both or to skip existing files.</source>
+        <translation>Ein überwachter Ordner kann nicht nachfragen: Wählen Sie für vorhandene Dateien beide behalten oder überspringen.</translation>
     </message>
     <message>
         <source>Watch a folder</source>
         <translation>Einen Ordner überwachen</translation>
     </message>
     <message>
-        <source>This folder is not there.</source>
+        <source>This folder does not exist.</source>
         <translation>Diesen Ordner gibt es nicht.</translation>
     </message>
     <message>
-        <source>This folder is watched for the same by another window or program.</source>
-        <translation>Dieser Ordner wird schon von einem anderen Fenster oder Programm für dasselbe überwacht.</translation>
+        <source>Another window or program is already watching this folder for the same purpose.</source>
+        <translation>Ein anderes Fenster oder Programm überwacht diesen Ordner schon für denselben Zweck.</translation>
     </message>
     <message>
         <source>The folder cannot be watched: %1</source>
         <translation>Der Ordner kann nicht überwacht werden: %1</translation>
     </message>
     <message>
-        <source>The folder “%1” is gone and is not watched any more.</source>
+        <source>The folder “%1” no longer exists and is no longer watched.</source>
         <translation>Den Ordner „%1“ gibt es nicht mehr; er wird nicht weiter überwacht.</translation>
     </message>
     <message>
@@ -10695,8 +10697,8 @@
         <translation>Copyright, dunkel</translation>
     </message>
     <message>
-        <source>Name of the file</source>
-        <translation>Name der Datei</translation>
+        <source>File name</source>
+        <translation>Dateiname</translation>
     </message>
     <message>
         <source>Tiled draft</source>
@@ -10730,8 +10732,8 @@
         <translation>Geben Sie einen Text ein.</translation>
     </message>
     <message>
-        <source>A watermark cannot count: leave out {counter}.</source>
-        <translation>Ein Wasserzeichen kann nicht zählen: Lassen Sie {counter} weg.</translation>
+        <source>A watermark cannot contain {counter}.</source>
+        <translation>Ein Wasserzeichen kann {counter} nicht enthalten.</translation>
     </message>
     <message>
         <source>There is no font “%1” on this computer. Choose another.</source>
@@ -10742,24 +10744,24 @@
         <translation>Wählen Sie ein Bild.</translation>
     </message>
     <message>
-        <source>The picture “%1” is no longer there.</source>
-        <translation>Das Bild „%1“ ist nicht mehr da.</translation>
+        <source>The picture “%1” no longer exists.</source>
+        <translation>Das Bild „%1“ ist nicht mehr vorhanden.</translation>
     </message>
     <message>
         <source>“%1” cannot be read as a picture.</source>
         <translation>„%1“ kann nicht als Bild gelesen werden.</translation>
     </message>
     <message>
-        <source>Enter a size from 0.1 to 100 per cent.</source>
-        <translation>Geben Sie eine Größe von 0,1 bis 100 Prozent ein.</translation>
+        <source>Enter a size from 0.1% to 100%.</source>
+        <translation>Geben Sie eine Größe von 0,1 % bis 100 % ein.</translation>
     </message>
     <message>
-        <source>Enter a margin from 0 to 100 per cent.</source>
-        <translation>Geben Sie einen Abstand von 0 bis 100 Prozent ein.</translation>
+        <source>Enter a margin from 0% to 100%.</source>
+        <translation>Geben Sie einen Abstand von 0 % bis 100 % ein.</translation>
     </message>
     <message>
-        <source>Enter an opacity from 1 to 100 per cent.</source>
-        <translation>Geben Sie eine Deckkraft von 1 bis 100 Prozent ein.</translation>
+        <source>Enter an opacity from 1% to 100%.</source>
+        <translation>Geben Sie eine Deckkraft von 1 % bis 100 % ein.</translation>
     </message>
     <message>
         <source>Enter an angle from -180 to 180 degrees.</source>
@@ -10884,8 +10886,8 @@
         <translation>Ausschnitt</translation>
     </message>
     <message>
-        <source>%1 by %2 pixels, %3 from the left, %4 from the top</source>
-        <translation>%1 mal %2 Pixel, %3 von links, %4 von oben</translation>
+        <source>%1 × %2 pixels, %3 from the left, %4 from the top</source>
+        <translation>%1 × %2 Pixel, %3 von links, %4 von oben</translation>
     </message>
 </context>
 <context>
@@ -10903,7 +10905,7 @@
     </message>
     <message>
         <source>exists</source>
-        <translation>da</translation>
+        <translation>vorhanden</translation>
     </message>
     <message numerus="yes">
         <source>%Ln files</source>
@@ -10975,7 +10977,7 @@
     </message>
     <message>
         <source>New size</source>
-        <translation>Neue Pixel</translation>
+        <translation>Neue Größe</translation>
     </message>
     <message>
         <source>Status</source>
@@ -10995,10 +10997,10 @@
     </message>
     <message>
         <source>Thumbnail of %1, left out of the run</source>
-        <translation>Miniatur von %1, vom Lauf ausgelassen</translation>
+        <translation>Miniatur von %1, vom Durchlauf ausgelassen</translation>
     </message>
     <message>
-        <source>%1 by the camera's own clock</source>
+        <source>%1 according to the camera clock</source>
         <translation>%1 nach der Uhr der Kamera</translation>
     </message>
 </context>
@@ -11035,12 +11037,12 @@
         <translation>Kopieren</translation>
     </message>
     <message>
-        <source>Copy Place in Degrees</source>
-        <translation>Ort in Grad kopieren</translation>
+        <source>Copy Location in Degrees</source>
+        <translation>Aufnahmeort in Grad kopieren</translation>
     </message>
     <message>
-        <source>Copy Place in Minutes</source>
-        <translation>Ort in Minuten kopieren</translation>
+        <source>Copy Location in Minutes</source>
+        <translation>Aufnahmeort in Minuten kopieren</translation>
     </message>
 </context>
 <context>
@@ -11083,8 +11085,8 @@
         <translation>Schlagwörter, durch Kommas getrennt</translation>
     </message>
     <message>
-        <source>“%1” is there already. Replace it?</source>
-        <translation>„%1“ gibt es schon. Ersetzen?</translation>
+        <source>“%1” already exists. Replace it?</source>
+        <translation>„%1“ ist schon vorhanden. Ersetzen?</translation>
     </message>
 </context>
 <context>
@@ -11104,8 +11106,8 @@
 <context>
     <name>window::StartUp</name>
     <message>
-        <source>Quorlin cannot start: a script of its windows failed.</source>
-        <translation>Quorlin kann nicht starten: Ein Skript seiner Fenster ist fehlgeschlagen.</translation>
+        <source>Quorlin cannot start: a script of its interface failed.</source>
+        <translation>Quorlin kann nicht starten: Ein Skript der Oberfläche ist fehlgeschlagen.</translation>
     </message>
 </context>
 <context>
@@ -11148,8 +11150,8 @@
 <context>
     <name>worker-job</name>
     <message>
-        <source>the picture is no longer there</source>
-        <translation>das Bild ist nicht mehr da</translation>
+        <source>the picture no longer exists</source>
+        <translation>das Bild ist nicht mehr vorhanden</translation>
     </message>
     <message>
         <source>the result is %1 instead of %2</source>
@@ -11159,8 +11161,8 @@
 <context>
     <name>write-plan</name>
     <message>
-        <source>name is taken: will ask</source>
-        <translation>Name vergeben: fragt nach</translation>
+        <source>file exists: will ask</source>
+        <translation>Datei vorhanden: fragt nach</translation>
     </message>
     <message>
         <source>replaces original</source>
@@ -11182,16 +11184,16 @@
 <context>
     <name>write-run</name>
     <message>
-        <source>Name taken</source>
-        <translation>Name vergeben</translation>
+        <source>File exists</source>
+        <translation>Datei vorhanden</translation>
     </message>
     <message>
-        <source>There is a file “%1” in the folder already.</source>
-        <translation>Eine Datei „%1“ gibt es in dem Ordner schon.</translation>
+        <source>“%1” already exists in this folder.</source>
+        <translation>„%1“ ist in diesem Ordner schon vorhanden.</translation>
     </message>
     <message>
-        <source>Number</source>
-        <translation>Nummerieren</translation>
+        <source>Keep Both</source>
+        <translation>Beide behalten</translation>
     </message>
     <message>
         <source>Replace</source>
@@ -11233,10 +11235,10 @@
         <translation>Abgebrochen. Nichts wurde geschrieben.</translation>
     </message>
     <message numerus="yes">
-        <source>Simulation: %n pictures would be written</source>
+        <source>Dry run: %n pictures would be written</source>
         <translation>
-            <numerusform>Simulation: %n Bild würde geschrieben</numerusform>
-            <numerusform>Simulation: %n Bilder würden geschrieben</numerusform>
+            <numerusform>Probelauf: %n Bild würde geschrieben</numerusform>
+            <numerusform>Probelauf: %n Bilder würden geschrieben</numerusform>
         </translation>
     </message>
     <message>
@@ -11256,8 +11258,8 @@
         <translation>in Arbeit…</translation>
     </message>
     <message>
-        <source>cancelled before its turn</source>
-        <translation>vorher abgebrochen</translation>
+        <source>cancelled</source>
+        <translation>abgebrochen</translation>
     </message>
     <message numerus="yes">
         <source>%n pictures done</source>
@@ -11287,28 +11289,28 @@
         <translation>Abgebrochen:</translation>
     </message>
     <message>
-        <source>stopping after the pictures in progress</source>
-        <translation>hält nach den Bildern in Arbeit an</translation>
+        <source>stopping after the current pictures</source>
+        <translation>hält nach den aktuellen Bildern an</translation>
     </message>
     <message>
-        <source>pausing after the pictures in progress</source>
-        <translation>pausiert nach den Bildern in Arbeit</translation>
+        <source>pausing after the current pictures</source>
+        <translation>pausiert nach den aktuellen Bildern</translation>
     </message>
     <message>
-        <source>What is in them now goes to the trash (%1) and comes back with Undo.</source>
-        <translation>Was jetzt in ihnen ist, kommt in den Papierkorb (%1) und mit Rückgängig zurück.</translation>
+        <source>The replaced files (%1) go to the trash. Undo brings them back.</source>
+        <translation>Die ersetzten Dateien (%1) kommen in den Papierkorb. „Rückgängig“ holt sie zurück.</translation>
     </message>
     <message>
         <source>The disk is full</source>
         <translation>Der Datenträger ist voll</translation>
     </message>
     <message>
-        <source>There is no room left in %1.</source>
+        <source>There is no space left in %1.</source>
         <translation>In %1 ist kein Platz mehr.</translation>
     </message>
     <message>
-        <source>What is done stays. The run can go on when there is room, or in another folder.</source>
-        <translation>Was fertig ist, bleibt. Der Lauf kann weitergehen, wenn Platz ist, oder in einem anderen Ordner.</translation>
+        <source>Finished pictures are kept. Free some space and try again, or choose another folder.</source>
+        <translation>Fertige Bilder bleiben erhalten. Schaffen Sie Platz und versuchen Sie es erneut, oder wählen Sie einen anderen Ordner.</translation>
     </message>
     <message>
         <source>Retry</source>
@@ -11330,8 +11332,8 @@
 <context>
     <name>writes</name>
     <message>
-        <source>Simulate: %1</source>
-        <translation>Simulation: %1</translation>
+        <source>Dry Run: %1</source>
+        <translation>Probelauf: %1</translation>
     </message>
     <message numerus="yes">
         <source>Replace %n Originals</source>
@@ -11352,8 +11354,8 @@
         </translation>
     </message>
     <message>
-        <source>Simulation: show, write nothing</source>
-        <translation>Simulation: zeigen, nichts schreiben</translation>
+        <source>Dry run: write nothing</source>
+        <translation>Probelauf: nichts schreiben</translation>
     </message>
 </context>
 <context>
@@ -11363,8 +11365,8 @@
         <translation>Wählen Sie einen Ordner zum Speichern.</translation>
     </message>
     <message>
-        <source>“%1” is no name for a folder beside the originals.</source>
-        <translation>„%1“ ist kein Name für einen Ordner neben den Originalen.</translation>
+        <source>“%1” is not a valid folder name.</source>
+        <translation>„%1“ ist kein gültiger Ordnername.</translation>
     </message>
     <message>
         <source>%1 cannot be written, choose another file type</source>
@@ -11391,7 +11393,7 @@
         <translation>Geben Sie einen Namen für die Ergebnisse ein.</translation>
     </message>
     <message>
-        <source>A name cannot have “/” in it.</source>
+        <source>A name cannot contain “/”.</source>
         <translation>Ein Name darf kein „/“ enthalten.</translation>
     </message>
 </context>

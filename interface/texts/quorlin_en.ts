@@ -4,20 +4,27 @@
 <context>
     <name>background-action</name>
     <message numerus="yes">
-        <source>Frame %n Pictures</source>
+        <source>Add Background to %n Pictures</source>
         <translation>
-            <numerusform>Frame %n Picture</numerusform>
-            <numerusform>Frame %n Pictures</numerusform>
+            <numerusform>Add Background to %n Picture</numerusform>
+            <numerusform>Add Background to %n Pictures</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Add Border to %n Pictures</source>
+        <translation>
+            <numerusform>Add Border to %n Picture</numerusform>
+            <numerusform>Add Border to %n Pictures</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>by-recipe</name>
     <message numerus="yes">
-        <source>%n further pictures left out</source>
+        <source>%n more pictures left out</source>
         <translation>
-            <numerusform>%n further picture left out</numerusform>
-            <numerusform>%n further pictures left out</numerusform>
+            <numerusform>%n more picture left out</numerusform>
+            <numerusform>%n more pictures left out</numerusform>
         </translation>
     </message>
 </context>
@@ -48,31 +55,31 @@
 <context>
     <name>comment-questions</name>
     <message numerus="yes">
-        <source>%n further pages</source>
+        <source>%n more pages</source>
         <translation>
-            <numerusform>%n further page</numerusform>
-            <numerusform>%n further pages</numerusform>
+            <numerusform>%n more page</numerusform>
+            <numerusform>%n more pages</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n files have several pages and are left out; their comments would cost them %1: %2.</source>
+        <source>%n files with several pages are left out, since writing would remove %1: %2.</source>
         <translation>
-            <numerusform>%n file has several pages and is left out; its comment would cost it %1: %2.</numerusform>
-            <numerusform>%n files have several pages and are left out; their comments would cost them %1: %2.</numerusform>
+            <numerusform>%n file with several pages is left out, since writing would remove %1: %2.</numerusform>
+            <numerusform>%n files with several pages are left out, since writing would remove %1: %2.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n files are of types that have no place for a comment, and stay as they are.</source>
+        <source>%n files have types that cannot hold a comment and stay unchanged.</source>
         <translation>
-            <numerusform>%n file is of a type that has no place for a comment, and stays as it is.</numerusform>
-            <numerusform>%n files are of types that have no place for a comment, and stay as they are.</numerusform>
+            <numerusform>%n file has a type that cannot hold a comment and stays unchanged.</numerusform>
+            <numerusform>%n files have types that cannot hold a comment and stay unchanged.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Empty the comments of %n pictures?</source>
+        <source>Clear the comments of %n pictures?</source>
         <translation>
-            <numerusform>Empty the comment of this picture?</numerusform>
-            <numerusform>Empty the comments of %n pictures?</numerusform>
+            <numerusform>Clear the comment of this picture?</numerusform>
+            <numerusform>Clear the comments of %n pictures?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -86,17 +93,17 @@
 <context>
     <name>comment-run</name>
     <message numerus="yes">
-        <source>%n further pages were taken out and do not come back.</source>
+        <source>%n more pages were removed. This cannot be undone.</source>
         <translation>
-            <numerusform>%n further page was taken out and does not come back.</numerusform>
-            <numerusform>%n further pages were taken out and do not come back.</numerusform>
+            <numerusform>%n more page was removed. This cannot be undone.</numerusform>
+            <numerusform>%n more pages were removed. This cannot be undone.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>It has %n further pages, which would be lost.</source>
+        <source>It has %n more pages, which would be lost.</source>
         <translation>
-            <numerusform>It has %n further page, which would be lost.</numerusform>
-            <numerusform>It has %n further pages, which would be lost.</numerusform>
+            <numerusform>It has %n more page, which would be lost.</numerusform>
+            <numerusform>It has %n more pages, which would be lost.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -140,10 +147,10 @@
 <context>
     <name>crop-step</name>
     <message numerus="yes">
-        <source>%n pixels away</source>
+        <source>trim %n pixels</source>
         <translation>
-            <numerusform>%n pixel away</numerusform>
-            <numerusform>%n pixels away</numerusform>
+            <numerusform>trim %n pixel</numerusform>
+            <numerusform>trim %n pixels</numerusform>
         </translation>
     </message>
 </context>
@@ -160,24 +167,24 @@
 <context>
     <name>hand-pane</name>
     <message numerus="yes">
-        <source>Take all %n folders off the list?</source>
+        <source>Remove all %n folders from the list?</source>
         <translation>
-            <numerusform>Take the folder off the list?</numerusform>
-            <numerusform>Take all %n folders off the list?</numerusform>
+            <numerusform>Remove the folder from the list?</numerusform>
+            <numerusform>Remove all %n folders from the list?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n folders are in the list already.</source>
+        <source>%n folders are already in the list.</source>
         <translation>
-            <numerusform>%n folder is in the list already.</numerusform>
-            <numerusform>%n folders are in the list already.</numerusform>
+            <numerusform>%n folder is already in the list.</numerusform>
+            <numerusform>%n folders are already in the list.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>There are keys for %n folders only.</source>
+        <source>Only %n folders can have a key.</source>
         <translation>
-            <numerusform>There is a key for %n folder only.</numerusform>
-            <numerusform>There are keys for %n folders only.</numerusform>
+            <numerusform>Only %n folder can have a key.</numerusform>
+            <numerusform>Only %n folders can have a key.</numerusform>
         </translation>
     </message>
 </context>
@@ -226,10 +233,10 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 of %n files was done before Quorlin was started this time. Undo it?</source>
+        <source>%1 of %n files belongs to an earlier session. Undo it?</source>
         <translation>
-            <numerusform>%1 of %n file was done before Quorlin was started this time. Undo it?</numerusform>
-            <numerusform>%1 of %n files was done before Quorlin was started this time. Undo it?</numerusform>
+            <numerusform>%1 of %n file belongs to an earlier session. Undo it?</numerusform>
+            <numerusform>%1 of %n files belongs to an earlier session. Undo it?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -250,17 +257,17 @@
 <context>
     <name>input</name>
     <message numerus="yes">
-        <source>%n were in the list already</source>
+        <source>%n already in the list</source>
         <translation>
-            <numerusform>%n was in the list already</numerusform>
-            <numerusform>%n were in the list already</numerusform>
+            <numerusform>%n already in the list</numerusform>
+            <numerusform>%n already in the list</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n files go along</source>
+        <source>%n sidecar files</source>
         <translation>
-            <numerusform>%n file goes along</numerusform>
-            <numerusform>%n files go along</numerusform>
+            <numerusform>%n sidecar file</numerusform>
+            <numerusform>%n sidecar files</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -278,27 +285,27 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>Looking at %n files…</source>
+        <source>Reading %n files…</source>
         <translation>
-            <numerusform>Looking at %n file…</numerusform>
-            <numerusform>Looking at %n files…</numerusform>
+            <numerusform>Reading %n file…</numerusform>
+            <numerusform>Reading %n files…</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>input-words</name>
     <message numerus="yes">
-        <source>%n files are not pictures that can be taken</source>
+        <source>%n files were not added: they are not supported pictures.</source>
         <translation>
-            <numerusform>%n file is not a picture that can be taken</numerusform>
-            <numerusform>%n files are not pictures that can be taken</numerusform>
+            <numerusform>%n file was not added: it is not a supported picture.</numerusform>
+            <numerusform>%n files were not added: they are not supported pictures.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n other files of the list are not pictures that can be taken</source>
+        <source>%n files are not shown because %1 cannot use them.</source>
         <translation>
-            <numerusform>%n other file of the list is not a picture that can be taken</numerusform>
-            <numerusform>%n other files of the list are not pictures that can be taken</numerusform>
+            <numerusform>%n file is not shown because %1 cannot use it.</numerusform>
+            <numerusform>%n files are not shown because %1 cannot use them.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -309,17 +316,17 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n files cannot be taken</source>
+        <source>%n items were not added: they are not files.</source>
         <translation>
-            <numerusform>%n file cannot be taken</numerusform>
-            <numerusform>%n files cannot be taken</numerusform>
+            <numerusform>%n item was not added: it is not a file.</numerusform>
+            <numerusform>%n items were not added: they are not files.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n folders of the list are left out</source>
+        <source>%n folders are not shown because %1 cannot use them.</source>
         <translation>
-            <numerusform>%n folder of the list is left out</numerusform>
-            <numerusform>%n folders of the list are left out</numerusform>
+            <numerusform>%n folder is not shown because %1 cannot use it.</numerusform>
+            <numerusform>%n folders are not shown because %1 cannot use them.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -330,17 +337,17 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n files are not folders</source>
+        <source>%n files were not added: they are not folders.</source>
         <translation>
-            <numerusform>%n file is not a folder</numerusform>
-            <numerusform>%n files are not folders</numerusform>
+            <numerusform>%n file was not added: it is not a folder.</numerusform>
+            <numerusform>%n files were not added: they are not folders.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n files of the list are left out</source>
+        <source>%n files are not shown because folders are being renamed.</source>
         <translation>
-            <numerusform>%n file of the list is left out</numerusform>
-            <numerusform>%n files of the list are left out</numerusform>
+            <numerusform>%n file is not shown because folders are being renamed.</numerusform>
+            <numerusform>%n files are not shown because folders are being renamed.</numerusform>
         </translation>
     </message>
 </context>
@@ -416,17 +423,17 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n comments chosen</source>
+        <source>%n comments selected</source>
         <translation>
-            <numerusform>%n comment chosen</numerusform>
-            <numerusform>%n comments chosen</numerusform>
+            <numerusform>%n comment selected</numerusform>
+            <numerusform>%n comments selected</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Nothing was done yet. Every run writes what became of each picture here; the newest %Ln entries are kept.</source>
+        <source>No entries yet. Each run is recorded here, and the last %Ln entries are kept.</source>
         <translation>
-            <numerusform>Nothing was done yet. Every run writes what became of each picture here; the newest entry is kept.</numerusform>
-            <numerusform>Nothing was done yet. Every run writes what became of each picture here; the newest %Ln entries are kept.</numerusform>
+            <numerusform>No entries yet. Each run is recorded here, and the last entry is kept.</numerusform>
+            <numerusform>No entries yet. Each run is recorded here, and the last %Ln entries are kept.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -444,20 +451,20 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n files taken back</source>
+        <source>%n files restored</source>
         <translation>
-            <numerusform>%n file taken back</numerusform>
-            <numerusform>%n files taken back</numerusform>
+            <numerusform>%n file restored</numerusform>
+            <numerusform>%n files restored</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>main-window</name>
     <message numerus="yes">
-        <source>Opened: %1, which holds the %n folders</source>
+        <source>Opened %1, which contains the %n folders</source>
         <translation>
-            <numerusform>Opened: %1, which holds the %n folder</numerusform>
-            <numerusform>Opened: %1, which holds the %n folders</numerusform>
+            <numerusform>Opened %1, which contains the folder</numerusform>
+            <numerusform>Opened %1, which contains the %n folders</numerusform>
         </translation>
     </message>
 </context>
@@ -519,37 +526,37 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n stay as they are</source>
+        <source>%n unchanged</source>
         <translation>
-            <numerusform>%n stays as it is</numerusform>
-            <numerusform>%n stay as they are</numerusform>
+            <numerusform>%n unchanged</numerusform>
+            <numerusform>%n unchanged</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n go along</source>
+        <source>%n sidecar files</source>
         <translation>
-            <numerusform>%n goes along</numerusform>
-            <numerusform>%n go along</numerusform>
+            <numerusform>%n sidecar file</numerusform>
+            <numerusform>%n sidecar files</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>output-pane</name>
     <message numerus="yes">
-        <source>%n pictures are of a type that is not written.</source>
+        <source>%n pictures have a type that cannot be written.</source>
         <translation>
-            <numerusform>%n picture is of a type that is not written.</numerusform>
-            <numerusform>%n pictures are of a type that is not written.</numerusform>
+            <numerusform>%n picture has a type that cannot be written.</numerusform>
+            <numerusform>%n pictures have a type that cannot be written.</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>own-results</name>
     <message numerus="yes">
-        <source>%n results of earlier runs were left out</source>
+        <source>%n results of earlier runs not added</source>
         <translation>
-            <numerusform>%n result of earlier runs was left out</numerusform>
-            <numerusform>%n results of earlier runs were left out</numerusform>
+            <numerusform>%n result of earlier runs not added</numerusform>
+            <numerusform>%n results of earlier runs not added</numerusform>
         </translation>
     </message>
 </context>
@@ -580,10 +587,10 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n renamed, their names were taken</source>
+        <source>%n renamed because their names were in use</source>
         <translation>
-            <numerusform>%n renamed, its name was taken</numerusform>
-            <numerusform>%n renamed, their names were taken</numerusform>
+            <numerusform>%n renamed because its name was in use</numerusform>
+            <numerusform>%n renamed because their names were in use</numerusform>
         </translation>
     </message>
 </context>
@@ -665,10 +672,10 @@
 <context>
     <name>recipe-run</name>
     <message numerus="yes">
-        <source>Simulation: %n files would be written</source>
+        <source>Dry run: %n files would be written</source>
         <translation>
-            <numerusform>Simulation: %n file would be written</numerusform>
-            <numerusform>Simulation: %n files would be written</numerusform>
+            <numerusform>Dry run: %n file would be written</numerusform>
+            <numerusform>Dry run: %n files would be written</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -699,24 +706,24 @@
 <context>
     <name>recovered</name>
     <message numerus="yes">
-        <source>%n items have their new names</source>
+        <source>%n files have their new names</source>
         <translation>
-            <numerusform>%n item has its new name</numerusform>
-            <numerusform>%n items have their new names</numerusform>
+            <numerusform>%n file has its new name</numerusform>
+            <numerusform>%n files have their new names</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n items were taken back</source>
+        <source>%n files restored</source>
         <translation>
-            <numerusform>%n item was taken back</numerusform>
-            <numerusform>%n items were taken back</numerusform>
+            <numerusform>%n file restored</numerusform>
+            <numerusform>%n files restored</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>the turn of %n items had not come</source>
+        <source>%n files not started</source>
         <translation>
-            <numerusform>the turn of %n item had not come</numerusform>
-            <numerusform>the turn of %n items had not come</numerusform>
+            <numerusform>%n file not started</numerusform>
+            <numerusform>%n files not started</numerusform>
         </translation>
     </message>
 </context>
@@ -751,37 +758,37 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n folders have their old names again</source>
+        <source>%n names restored</source>
         <translation>
-            <numerusform>%n folder has its old name again</numerusform>
-            <numerusform>%n folders have their old names again</numerusform>
+            <numerusform>%n name restored</numerusform>
+            <numerusform>%n names restored</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n files have their old names again</source>
+        <source>%n names restored</source>
         <translation>
-            <numerusform>%n file has its old name again</numerusform>
-            <numerusform>%n files have their old names again</numerusform>
+            <numerusform>%n name restored</numerusform>
+            <numerusform>%n names restored</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>rename-card</name>
     <message numerus="yes">
-        <source>%n names are too short for this and stay as they are.</source>
+        <source>%n names are too short and stay unchanged.</source>
         <translation>
-            <numerusform>%n name is too short for this and stays as it is.</numerusform>
-            <numerusform>%n names are too short for this and stay as they are.</numerusform>
+            <numerusform>%n name is too short and stays unchanged.</numerusform>
+            <numerusform>%n names are too short and stay unchanged.</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>rename-pane</name>
     <message numerus="yes">
-        <source>The counter runs past its width: the last number has %n digits.</source>
+        <source>The counter needs more digits: the last number has %n.</source>
         <translation>
-            <numerusform>The counter runs past its width: the last number has %n digit.</numerusform>
-            <numerusform>The counter runs past its width: the last number has %n digits.</numerusform>
+            <numerusform>The counter needs more digits: the last number has %n.</numerusform>
+            <numerusform>The counter needs more digits: the last number has %n.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -805,10 +812,10 @@
 <context>
     <name>round-action</name>
     <message numerus="yes">
-        <source>Round %n Pictures</source>
+        <source>Round the Corners of %n Pictures</source>
         <translation>
-            <numerusform>Round %n Picture</numerusform>
-            <numerusform>Round %n Pictures</numerusform>
+            <numerusform>Round the Corners of %n Picture</numerusform>
+            <numerusform>Round the Corners of %n Pictures</numerusform>
         </translation>
     </message>
 </context>
@@ -860,17 +867,17 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n links made</source>
+        <source>%n links created</source>
         <translation>
-            <numerusform>%n link made</numerusform>
-            <numerusform>%n links made</numerusform>
+            <numerusform>%n link created</numerusform>
+            <numerusform>%n links created</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n files put back</source>
+        <source>%n files restored</source>
         <translation>
-            <numerusform>%n file put back</numerusform>
-            <numerusform>%n files put back</numerusform>
+            <numerusform>%n file restored</numerusform>
+            <numerusform>%n files restored</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -895,10 +902,10 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n folders made</source>
+        <source>%n folders created</source>
         <translation>
-            <numerusform>%n folder made</numerusform>
-            <numerusform>%n folders made</numerusform>
+            <numerusform>%n folder created</numerusform>
+            <numerusform>%n folders created</numerusform>
         </translation>
     </message>
 </context>
@@ -919,20 +926,20 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n folders will be made, counting parents</source>
+        <source>%n new folders, including parents</source>
         <translation>
-            <numerusform>%n folder will be made, counting parents</numerusform>
-            <numerusform>%n folders will be made, counting parents</numerusform>
+            <numerusform>%n new folder, including parents</numerusform>
+            <numerusform>%n new folders, including parents</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>status-bar</name>
     <message numerus="yes">
-        <source>Only what failed is shown: %n of the list</source>
+        <source>Only failed pictures are shown: %n</source>
         <translation>
-            <numerusform>Only what failed is shown: %n of the list</numerusform>
-            <numerusform>Only what failed is shown: %n of the list</numerusform>
+            <numerusform>Only failed pictures are shown: %n</numerusform>
+            <numerusform>Only failed pictures are shown: %n</numerusform>
         </translation>
     </message>
 </context>
@@ -949,20 +956,34 @@
 <context>
     <name>turn-action</name>
     <message numerus="yes">
-        <source>Turn %n Pictures</source>
+        <source>Rotate and Flip %n Pictures</source>
         <translation>
-            <numerusform>Turn %n Picture</numerusform>
-            <numerusform>Turn %n Pictures</numerusform>
+            <numerusform>Rotate and Flip %n Picture</numerusform>
+            <numerusform>Rotate and Flip %n Pictures</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Flip %n Pictures</source>
+        <translation>
+            <numerusform>Flip %n Picture</numerusform>
+            <numerusform>Flip %n Pictures</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Rotate %n Pictures</source>
+        <translation>
+            <numerusform>Rotate %n Picture</numerusform>
+            <numerusform>Rotate %n Pictures</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>undo-run</name>
     <message numerus="yes">
-        <source>%n files can be taken back.</source>
+        <source>%n files can be restored.</source>
         <translation>
-            <numerusform>%n file can be taken back.</numerusform>
-            <numerusform>%n files can be taken back.</numerusform>
+            <numerusform>%n file can be restored.</numerusform>
+            <numerusform>%n files can be restored.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -973,10 +994,10 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n were reverted before.</source>
+        <source>%n have already been reverted.</source>
         <translation>
-            <numerusform>%n was reverted before.</numerusform>
-            <numerusform>%n were reverted before.</numerusform>
+            <numerusform>%n has already been reverted.</numerusform>
+            <numerusform>%n have already been reverted.</numerusform>
         </translation>
     </message>
 </context>
@@ -1054,10 +1075,10 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>Simulation: %n pictures would be written</source>
+        <source>Dry run: %n pictures would be written</source>
         <translation>
-            <numerusform>Simulation: %n picture would be written</numerusform>
-            <numerusform>Simulation: %n pictures would be written</numerusform>
+            <numerusform>Dry run: %n picture would be written</numerusform>
+            <numerusform>Dry run: %n pictures would be written</numerusform>
         </translation>
     </message>
     <message numerus="yes">

@@ -28,16 +28,16 @@
         <translation>Fermer</translation>
     </message>
     <message>
-        <source>What keeps those who read pictures from doing harm</source>
-        <translation>Ce qui empêche la lecture des images de nuire</translation>
+        <source>How the processes that read pictures are confined</source>
+        <translation>Comment les processus qui lisent les images sont confinés</translation>
     </message>
     <message>
         <source>Copy Versions</source>
         <translation>Copier les versions</translation>
     </message>
     <message>
-        <source>Copy the versions, for a report of a fault</source>
-        <translation>Copier les versions, pour signaler une erreur</translation>
+        <source>Copy the versions for a bug report</source>
+        <translation>Copier les versions pour un rapport d’erreur</translation>
     </message>
 </context>
 <context>
@@ -51,28 +51,28 @@
         <translation>Fil&amp;trer…</translation>
     </message>
     <message>
-        <source>Add only some of the files, by type, size, date or name</source>
-        <translation>N’ajouter que certains fichiers, selon le type, la taille, la date ou le nom</translation>
+        <source>Add only files of a certain type, size, date or name</source>
+        <translation>N’ajouter que les fichiers d’un certain type, poids, date ou nom</translation>
     </message>
     <message>
         <source>T&amp;ypes</source>
-        <translation>T&amp;ypes</translation>
+        <translation>F&amp;ormats</translation>
     </message>
     <message>
-        <source>all, or for example: jpg, tif</source>
-        <translation>tous, ou par exemple : jpg, tif</translation>
+        <source>all, or such as jpg, tif</source>
+        <translation>tous, ou par exemple jpg, tif</translation>
     </message>
     <message>
-        <source>Types of files, by extension</source>
-        <translation>Types de fichiers, par extension</translation>
+        <source>File types, by extension</source>
+        <translation>Formats de fichier, par extension</translation>
     </message>
     <message>
         <source>Name &amp;contains</source>
         <translation>Le nom &amp;contient</translation>
     </message>
     <message>
-        <source>anything</source>
-        <translation>n’importe quoi</translation>
+        <source>any</source>
+        <translation>n’importe lequel</translation>
     </message>
     <message>
         <source>Part of the name</source>
@@ -80,7 +80,7 @@
     </message>
     <message>
         <source>Si&amp;ze from</source>
-        <translation>Tai&amp;lle de</translation>
+        <translation>&amp;Poids de</translation>
     </message>
     <message>
         <source> MB</source>
@@ -88,7 +88,7 @@
     </message>
     <message>
         <source>Size from</source>
-        <translation>Taille de</translation>
+        <translation>Poids de</translation>
     </message>
     <message>
         <source>to</source>
@@ -96,15 +96,15 @@
     </message>
     <message>
         <source>Size to</source>
-        <translation>Taille jusqu’à</translation>
+        <translation>Poids jusqu’à</translation>
     </message>
     <message>
         <source>&amp;Date from</source>
         <translation>&amp;Date du</translation>
     </message>
     <message>
-        <source>The date taken, or where a file states none, the day on which it was changed</source>
-        <translation>La date de prise de vue ou, si le fichier n’en indique pas, le jour de sa modification</translation>
+        <source>The date taken, or the date changed if the file has no date taken</source>
+        <translation>La date de prise de vue ou, à défaut, la date de modification</translation>
     </message>
     <message>
         <source>Date from</source>
@@ -149,19 +149,19 @@
         <translation>Motif</translation>
     </message>
     <message>
-        <source>What lies under transparent parts</source>
-        <translation>Ce qui se trouve sous les parties transparentes</translation>
+        <source>What fills transparent parts</source>
+        <translation>Ce qui remplit les parties transparentes</translation>
     </message>
     <message>
-        <source>Colour under transparent parts</source>
-        <translation>Couleur sous les parties transparentes</translation>
+        <source>Colour for transparent parts</source>
+        <translation>Couleur des parties transparentes</translation>
     </message>
     <message>
-        <source>Pattern under transparent parts</source>
-        <translation>Motif sous les parties transparentes</translation>
+        <source>Pattern for transparent parts</source>
+        <translation>Motif des parties transparentes</translation>
     </message>
     <message>
-        <source>About patterns of your own</source>
+        <source>About your own patterns</source>
         <translation>À propos de vos propres motifs</translation>
     </message>
     <message>
@@ -169,20 +169,16 @@
         <translation>Bordure</translation>
     </message>
     <message>
-        <source>Band</source>
-        <translation>Bande</translation>
+        <source>Border width</source>
+        <translation>Largeur de bordure</translation>
     </message>
     <message>
-        <source>Colour of the band</source>
-        <translation>Couleur de la bande</translation>
+        <source>Border colour</source>
+        <translation>Couleur de la bordure</translation>
     </message>
     <message>
         <source> px</source>
         <translation> px</translation>
-    </message>
-    <message>
-        <source>Width of the band</source>
-        <translation>Largeur de la bande</translation>
     </message>
     <message>
         <source>Result</source>
@@ -200,16 +196,16 @@
         <translation>Horloges des appareils</translation>
     </message>
     <message>
-        <source>Where the clock of a camera was wrong, its dates are told later or earlier: in the order of the list, in new names and in folders. No file is changed.</source>
-        <translation>Si l’horloge d’un appareil était mal réglée, ses dates sont avancées ou reculées : dans l’ordre de la liste, dans les nouveaux noms et les dossiers. Aucun fichier n’est modifié.</translation>
+        <source>Correct the dates of a camera whose clock was wrong. This affects sorting, new names and folders. No file is changed.</source>
+        <translation>Corrigez les dates d’un appareil dont l’horloge était déréglée. Cela agit sur le tri, les nouveaux noms et les dossiers. Aucun fichier n’est modifié.</translation>
     </message>
     <message>
         <source>Ca&amp;mera</source>
         <translation>Ap&amp;pareil</translation>
     </message>
     <message>
-        <source>Tell its &amp;dates</source>
-        <translation>Ses &amp;dates</translation>
+        <source>Move its &amp;dates</source>
+        <translation>Décaler ses &amp;dates</translation>
     </message>
     <message>
         <source>Later or earlier</source>
@@ -489,8 +485,8 @@
         <translation>Format des résultats</translation>
     </message>
     <message>
-        <source>What the pictures become</source>
-        <translation>Ce que deviennent les images</translation>
+        <source>File type to convert to</source>
+        <translation>Format dans lequel convertir</translation>
     </message>
     <message>
         <source>Quality</source>
@@ -501,8 +497,8 @@
         <translation>Qualité JPEG, de 1 à 9</translation>
     </message>
     <message>
-        <source>The higher, the finer and the larger</source>
-        <translation>Plus haut&#x202f;: plus fin, mais plus lourd</translation>
+        <source>Higher quality means larger files</source>
+        <translation>Plus la qualité est haute, plus le fichier est lourd</translation>
     </message>
     <message>
         <source>Result</source>
@@ -528,7 +524,7 @@
         <translation>Pixels</translation>
     </message>
     <message>
-        <source>What the frame is given by</source>
+        <source>How the frame is set</source>
         <translation>Façon de définir le cadre</translation>
     </message>
     <message>
@@ -552,7 +548,7 @@
         <translation>Hauteur du cadre</translation>
     </message>
     <message>
-        <source>Cut away</source>
+        <source>Trim</source>
         <translation>Rogner</translation>
     </message>
     <message>
@@ -560,12 +556,12 @@
         <translation> %</translation>
     </message>
     <message>
-        <source>Per cent to cut away from both sides</source>
-        <translation>Pourcentage à rogner de chaque côté</translation>
+        <source>Percentage to trim from width and height</source>
+        <translation>Pourcentage à rogner en largeur et en hauteur</translation>
     </message>
     <message>
-        <source>Pixels to cut away from both sides</source>
-        <translation>Pixels à rogner de chaque côté</translation>
+        <source>Pixels to trim from width and height</source>
+        <translation>Pixels à rogner en largeur et en hauteur</translation>
     </message>
     <message>
         <source>Ratio</source>
@@ -577,11 +573,11 @@
     </message>
     <message>
         <source>Unit of size and offsets</source>
-        <translation>Unité de la taille et des décalages</translation>
+        <translation>Unité des dimensions et des décalages</translation>
     </message>
     <message>
         <source>Unit of size and offsets: pixels, millimetres, centimetres, inches, picas, points</source>
-        <translation>Unité de la taille et des décalages&#x202f;: pixels, millimètres, centimètres, pouces, picas, points</translation>
+        <translation>Unité des dimensions et des décalages : pixels, millimètres, centimètres, pouces, picas, points</translation>
     </message>
     <message>
         <source>Position</source>
@@ -628,8 +624,8 @@
         <translation>Inverser pour les portraits</translation>
     </message>
     <message>
-        <source>The longer number goes with the longer side of each picture: 3:2 becomes 2:3 in pictures that stand</source>
-        <translation>Le plus grand nombre va au plus long côté de chaque image : 3:2 devient 2:3 pour les images verticales</translation>
+        <source>The larger number is used for the longer side: 3:2 becomes 2:3 in portrait pictures</source>
+        <translation>Le plus grand nombre s’applique au grand côté : 3:2 devient 2:3 pour les portraits</translation>
     </message>
     <message>
         <source>First number of the ratio</source>
@@ -640,12 +636,12 @@
         <translation>Second nombre du rapport</translation>
     </message>
     <message>
-        <source>Attention</source>
+        <source>Focus of attention</source>
         <translation>Centre d’intérêt</translation>
     </message>
     <message>
-        <source>The frame lies where the eye is drawn to, found in each picture</source>
-        <translation>Le cadre est placé là où le regard est attiré, cherché dans chaque image</translation>
+        <source>Finds in each picture the part that draws the eye, and places the frame there</source>
+        <translation>Cherche dans chaque image la partie qui attire le regard et y place le cadre</translation>
     </message>
     <message>
         <source>Resolution</source>
@@ -660,12 +656,12 @@
         <translation>Unité des décalages : pixels, millimètres, centimètres, pouces, picas, points</translation>
     </message>
     <message>
-        <source>Resolution of the lengths</source>
-        <translation>Résolution des longueurs</translation>
+        <source>Resolution used for lengths</source>
+        <translation>Résolution pour les longueurs</translation>
     </message>
     <message>
-        <source>The dots per inch that make pixels of these lengths; a chosen resolution is written into the file</source>
-        <translation>Les points par pouce qui transforment ces longueurs en pixels ; une résolution choisie est écrite dans le fichier</translation>
+        <source>Dots per inch used to turn lengths into pixels. A chosen resolution is also written into the file.</source>
+        <translation>Points par pouce servant à convertir les longueurs en pixels. Une résolution choisie est aussi écrite dans le fichier.</translation>
     </message>
     <message>
         <source>Dots per inch</source>
@@ -679,8 +675,8 @@
         <translation>Déposez ici des images ou des dossiers</translation>
     </message>
     <message>
-        <source>They are shown one after the other, and each goes with one key into one of your folders.</source>
-        <translation>Elles s’affichent l’une après l’autre, et une touche envoie chacune dans l’un de vos dossiers.</translation>
+        <source>Pictures appear one at a time; press a key to send each one to a folder.</source>
+        <translation>Les images s’affichent une à une ; une touche envoie chacune dans un dossier.</translation>
     </message>
     <message>
         <source>Add Pictures…</source>
@@ -695,7 +691,7 @@
         <translation>Ajouter un dossier…</translation>
     </message>
     <message>
-        <source>Add all pictures of a folder and the folders in it (Ctrl+Shift+O)</source>
+        <source>Add all pictures in a folder and its subfolders (Ctrl+Shift+O)</source>
         <translation>Ajouter toutes les images d’un dossier et de ses sous-dossiers (Ctrl+Maj+O)</translation>
     </message>
     <message>
@@ -707,7 +703,7 @@
         <translation>← Retour</translation>
     </message>
     <message>
-        <source>The picture before (Left, Backspace)</source>
+        <source>Previous picture (Left, Backspace)</source>
         <translation>Image précédente (Gauche, Retour arrière)</translation>
     </message>
     <message>
@@ -715,8 +711,8 @@
         <translation>Passer →</translation>
     </message>
     <message>
-        <source>On to the next picture (Right)</source>
-        <translation>Passer à l’image suivante (Droite)</translation>
+        <source>Next picture (Right)</source>
+        <translation>Image suivante (Droite)</translation>
     </message>
     <message>
         <source>Trash</source>
@@ -731,8 +727,8 @@
         <translation>Annuler</translation>
     </message>
     <message>
-        <source>Take back the last deed (Ctrl+Z)</source>
-        <translation>Annuler la dernière action (Ctrl+Z)</translation>
+        <source>Undo (Ctrl+Z)</source>
+        <translation>Annuler (Ctrl+Z)</translation>
     </message>
     <message>
         <source>Back</source>
@@ -759,15 +755,15 @@
         <translation>Pixels réels</translation>
     </message>
     <message>
-        <source>Show the picture’s own pixels, and all of it again (Ctrl+2)</source>
-        <translation>Afficher les pixels de l’image, puis de nouveau l’image entière (Ctrl+2)</translation>
+        <source>Switch between actual pixels and the whole picture (Ctrl+2)</source>
+        <translation>Passer des pixels réels à l’image entière et inversement (Ctrl+2)</translation>
     </message>
 </context>
 <context>
     <name>HandPane</name>
     <message>
-        <source>Keys</source>
-        <translation>Touches</translation>
+        <source>When a key is pressed</source>
+        <translation>Quand on appuie sur une touche</translation>
     </message>
     <message>
         <source>Move</source>
@@ -783,7 +779,7 @@
     </message>
     <message>
         <source>What a key does with the picture</source>
-        <translation>Ce qu’une touche fait de l’image</translation>
+        <translation>Ce que fait une touche de l’image</translation>
     </message>
     <message>
         <source>Folders</source>
@@ -794,15 +790,15 @@
         <translation>Ajouter…</translation>
     </message>
     <message>
-        <source>Choose a folder; folders can be dropped on the list too</source>
-        <translation>Choisir un dossier&#x202f;; vous pouvez aussi en déposer sur la liste</translation>
+        <source>Choose a folder, or drop folders on the list</source>
+        <translation>Choisir un dossier, ou déposer des dossiers sur la liste</translation>
     </message>
     <message>
         <source>New…</source>
         <translation>Nouveau…</translation>
     </message>
     <message>
-        <source>Make a new folder</source>
+        <source>Create a new folder</source>
         <translation>Créer un dossier</translation>
     </message>
     <message>
@@ -810,8 +806,8 @@
         <translation>⋯</translation>
     </message>
     <message>
-        <source>More deeds for the chosen folder</source>
-        <translation>Autres actions pour le dossier choisi</translation>
+        <source>Folder Options</source>
+        <translation>Options du dossier</translation>
     </message>
     <message>
         <source>Name of the new folder</source>
@@ -822,15 +818,15 @@
         <translation>Annuler</translation>
     </message>
     <message>
-        <source>Make no folder (Esc)</source>
+        <source>Do not create a folder (Esc)</source>
         <translation>Ne pas créer de dossier (Échap)</translation>
     </message>
     <message>
-        <source>Make Folder</source>
+        <source>Create Folder</source>
         <translation>Créer</translation>
     </message>
     <message>
-        <source>Make the folder and give it a key (Return)</source>
+        <source>Create the folder and give it a key (Return)</source>
         <translation>Créer le dossier et lui donner une touche (Entrée)</translation>
     </message>
     <message>
@@ -838,8 +834,8 @@
         <translation>Dossiers et leurs touches</translation>
     </message>
     <message>
-        <source>Add the folders that you sort into. The first gets the key 1, and so on: up to 59 folders.</source>
-        <translation>Ajoutez les dossiers où vous voulez classer. Le premier reçoit la touche 1, et ainsi de suite&#x202f;: jusqu’à 59 dossiers.</translation>
+        <source>Add up to 59 folders to sort into. The first one gets key 1, and so on.</source>
+        <translation>Ajoutez jusqu’à 59 dossiers de destination. Le premier reçoit la touche 1, et ainsi de suite.</translation>
     </message>
 </context>
 <context>
@@ -855,25 +851,6 @@
     <message>
         <source>Close</source>
         <translation>Fermer</translation>
-    </message>
-</context>
-<context>
-    <name>Print</name>
-    <message>
-        <source>Print</source>
-        <translation>Imprimer</translation>
-    </message>
-    <message>
-        <source>Pictures made ready for the print</source>
-        <translation>Images préparées pour l’impression</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Fermer</translation>
-    </message>
-    <message>
-        <source>Print…</source>
-        <translation>Imprimer…</translation>
     </message>
 </context>
 <context>
@@ -1018,12 +995,12 @@
         <translation>Quorlin s’est arrêté de façon inattendue</translation>
     </message>
     <message>
-        <source>A fault of its own ended Quorlin the last time. Your originals are not affected.</source>
-        <translation>Une erreur du programme a arrêté Quorlin la dernière fois. Vos originaux ne sont pas touchés.</translation>
+        <source>An error in Quorlin ended the last session. Your originals are not affected.</source>
+        <translation>Une erreur de Quorlin a mis fin à la dernière session. Vos originaux ne sont pas touchés.</translation>
     </message>
     <message>
-        <source>A report was kept on this computer and sent to nobody. It names the version, the action, the picture and the place of the fault.</source>
-        <translation>Un rapport est resté sur cet ordinateur et n’a été envoyé à personne. Il indique la version, l’action, l’image et l’endroit de l’erreur.</translation>
+        <source>A report was saved on this computer and not sent. It names the version, the action, the picture and the place of the error.</source>
+        <translation>Un rapport a été enregistré sur cet ordinateur sans être envoyé. Il indique la version, l’action, l’image et l’endroit de l’erreur.</translation>
     </message>
     <message>
         <source>Copy Report</source>
@@ -1052,8 +1029,8 @@
         <translation>Rechercher</translation>
     </message>
     <message>
-        <source>Every word must occur somewhere in an entry (Ctrl+F)</source>
-        <translation>Chaque mot doit figurer quelque part dans une entrée (Ctrl+F)</translation>
+        <source>Shows entries that contain every word (Ctrl+F)</source>
+        <translation>Affiche les entrées qui contiennent chaque mot (Ctrl+F)</translation>
     </message>
     <message>
         <source>Show entries with this status</source>
@@ -1068,7 +1045,7 @@
         <translation>Voir l’image</translation>
     </message>
     <message>
-        <source>Show the picture large, if it is still there (Enter)</source>
+        <source>Show the picture large, if it still exists (Enter)</source>
         <translation>Voir l’image en grand, si elle existe encore (Entrée)</translation>
     </message>
     <message>
@@ -1076,24 +1053,24 @@
         <translation>Voir dans le dossier</translation>
     </message>
     <message>
-        <source>Open the folder of the file and choose the file there</source>
-        <translation>Ouvrir le dossier du fichier et y sélectionner celui-ci</translation>
+        <source>Open the folder and select the file in it</source>
+        <translation>Ouvrir le dossier et y sélectionner le fichier</translation>
     </message>
     <message>
         <source>Export…</source>
         <translation>Exporter…</translation>
     </message>
     <message>
-        <source>Save the entries that are shown as CSV, for spreadsheets</source>
-        <translation>Enregistrer les entrées affichées en CSV, pour les tableurs</translation>
+        <source>Save the entries shown as a CSV file for spreadsheets</source>
+        <translation>Enregistrer les entrées affichées dans un fichier CSV pour tableurs</translation>
     </message>
     <message>
         <source>More</source>
         <translation>Plus</translation>
     </message>
     <message>
-        <source>More deeds for the log</source>
-        <translation>Autres actions pour le journal</translation>
+        <source>Log Options</source>
+        <translation>Options du journal</translation>
     </message>
     <message>
         <source>Runs</source>
@@ -1108,8 +1085,8 @@
         <translation>Restaurer le commentaire</translation>
     </message>
     <message>
-        <source>Give the chosen pictures their old comments again</source>
-        <translation>Rendre aux images choisies leur ancien commentaire</translation>
+        <source>Restore the old comments of the selected pictures</source>
+        <translation>Restaurer l’ancien commentaire des images sélectionnées</translation>
     </message>
     <message>
         <source>Undo This Run</source>
@@ -1128,8 +1105,8 @@
         <translation>Utiliser ces réglages</translation>
     </message>
     <message>
-        <source>Show the action of this run, with the settings that it had</source>
-        <translation>Afficher l’action de ce traitement, avec ses réglages</translation>
+        <source>Open the action of this run with its settings</source>
+        <translation>Ouvrir l’action de ce traitement avec ses réglages</translation>
     </message>
 </context>
 <context>
@@ -1151,7 +1128,7 @@
         <translation>Ajouter un dossier…</translation>
     </message>
     <message>
-        <source>Add all pictures of a folder and the folders in it (Ctrl+Shift+O)</source>
+        <source>Add all pictures in a folder and its subfolders (Ctrl+Shift+O)</source>
         <translation>Ajouter toutes les images d’un dossier et de ses sous-dossiers (Ctrl+Maj+O)</translation>
     </message>
     <message>
@@ -1159,8 +1136,8 @@
         <translation>Vider</translation>
     </message>
     <message>
-        <source>Take all pictures off the list; the files stay</source>
-        <translation>Retirer toutes les images de la liste&#x202f;; les fichiers restent</translation>
+        <source>Clear the list (files are not deleted)</source>
+        <translation>Vider la liste (les fichiers ne sont pas supprimés)</translation>
     </message>
     <message>
         <source>Fit</source>
@@ -1171,8 +1148,8 @@
         <translation>Remplir</translation>
     </message>
     <message>
-        <source>How the preview fits its place</source>
-        <translation>Façon dont l’aperçu occupe sa place</translation>
+        <source>How the preview fits the view</source>
+        <translation>Façon dont l’aperçu occupe la vue</translation>
     </message>
     <message>
         <source>Full Screen</source>
@@ -1191,11 +1168,11 @@
         <translation>Choisir un dossier…</translation>
     </message>
     <message>
-        <source>Not Now</source>
-        <translation>Plus tard</translation>
+        <source>No, Thanks</source>
+        <translation>Non merci</translation>
     </message>
     <message>
-        <source>It can be chosen in the preferences at any time (Ctrl+,)</source>
+        <source>You can choose it in the preferences at any time (Ctrl+,)</source>
         <translation>Vous pouvez le choisir à tout moment dans les préférences (Ctrl+,)</translation>
     </message>
     <message>
@@ -1207,8 +1184,8 @@
         <translation>Déposez ici des images ou des dossiers</translation>
     </message>
     <message>
-        <source>Then choose at the left what to do with them. Your originals stay as they are unless you say otherwise.</source>
-        <translation>Choisissez ensuite à gauche ce que vous voulez en faire. Vos originaux restent tels quels, sauf si vous en décidez autrement.</translation>
+        <source>Then choose an action on the left. Your originals stay unchanged unless you ask for it.</source>
+        <translation>Choisissez ensuite une action à gauche. Vos originaux restent inchangés, sauf si vous demandez autre chose.</translation>
     </message>
     <message>
         <source>Preview of the original and the result</source>
@@ -1219,12 +1196,12 @@
         <translation>Images</translation>
     </message>
     <message>
-        <source>Simulation: show, move nothing</source>
-        <translation>Simulation&#x202f;: montrer sans déplacer</translation>
+        <source>Dry run: move nothing</source>
+        <translation>Essai à blanc : ne rien déplacer</translation>
     </message>
     <message>
-        <source>What simulation means</source>
-        <translation>À quoi sert la simulation</translation>
+        <source>About dry runs</source>
+        <translation>À propos des essais à blanc</translation>
     </message>
     <message>
         <source>Resize Pictures</source>
@@ -1363,8 +1340,8 @@
         <translation>&amp;Grand aperçu</translation>
     </message>
     <message>
-        <source>Like the &amp;System</source>
-        <translation>Comme le s&amp;ystème</translation>
+        <source>&amp;System</source>
+        <translation>S&amp;ystème</translation>
     </message>
     <message>
         <source>&amp;Light</source>
@@ -1415,8 +1392,8 @@
         <translation>&amp;Manuel</translation>
     </message>
     <message>
-        <source>Look for a &amp;New Version</source>
-        <translation>Chercher une &amp;nouvelle version</translation>
+        <source>Check for &amp;Updates</source>
+        <translation>Rechercher des mises à &amp;jour</translation>
     </message>
     <message>
         <source>&amp;About Quorlin</source>
@@ -1431,56 +1408,56 @@
         <translation>Tout afficher</translation>
     </message>
     <message>
-        <source>Show all rows of the list again</source>
-        <translation>Afficher à nouveau toutes les lignes de la liste</translation>
+        <source>Show all rows of the list</source>
+        <translation>Afficher toutes les lignes de la liste</translation>
     </message>
     <message>
         <source>Show Them…</source>
         <translation>Les afficher…</translation>
     </message>
     <message>
-        <source>Say which files of the list this action leaves out</source>
-        <translation>Dire quels fichiers de la liste cette action laisse de côté</translation>
+        <source>Show which files of the list this action cannot use</source>
+        <translation>Afficher les fichiers de la liste que cette action ne peut pas utiliser</translation>
     </message>
     <message>
         <source>Convert Them</source>
         <translation>Les convertir</translation>
     </message>
     <message>
-        <source>Go to Convert, which takes them</source>
-        <translation>Passer à « Convertir », qui les accepte</translation>
+        <source>Go to Convert, which can use them</source>
+        <translation>Passer à « Convertir », qui peut les utiliser</translation>
     </message>
     <message>
         <source>Try Sample Pictures</source>
-        <translation>Essayer avec des photos d’exemple</translation>
+        <translation>Essayer avec des images d’exemple</translation>
     </message>
     <message>
-        <source>Puts five pictures into the folder “Quorlin Samples” among your pictures</source>
-        <translation>Place cinq images dans le dossier « Quorlin Samples » de vos images</translation>
+        <source>Copies five pictures to the folder “Quorlin Samples” in your pictures folder</source>
+        <translation>Copie cinq images dans le dossier « Quorlin Samples » de votre dossier d’images</translation>
     </message>
     <message>
         <source>&amp;Watch a Folder…</source>
         <translation>&amp;Surveiller un dossier…</translation>
     </message>
     <message>
-        <source>Pictures that arrive in a folder are worked on at once, with these settings</source>
-        <translation>Les images qui arrivent dans un dossier sont traitées aussitôt avec ces réglages</translation>
+        <source>Process pictures as they arrive in a folder, with these settings</source>
+        <translation>Traiter les images dès qu’elles arrivent dans un dossier, avec ces réglages</translation>
     </message>
     <message>
         <source>Stop Watching</source>
         <translation>Arrêter la surveillance</translation>
     </message>
     <message>
-        <source>Add Them</source>
+        <source>Add Anyway</source>
         <translation>Les ajouter quand même</translation>
     </message>
     <message>
-        <source>Add what runs of this program wrote to the list all the same</source>
-        <translation>Ajouter quand même à la liste ce que les traitements de ce programme ont écrit</translation>
+        <source>Add results of earlier runs to the list</source>
+        <translation>Ajouter à la liste les résultats de traitements antérieurs</translation>
     </message>
     <message>
-        <source>What happens when this run has ended</source>
-        <translation>Ce qui se passe à la fin de ce traitement</translation>
+        <source>What to do when this run is finished</source>
+        <translation>Que faire à la fin de ce traitement</translation>
     </message>
     <message>
         <source>When done</source>
@@ -1491,12 +1468,12 @@
         <translation>Laisser</translation>
     </message>
     <message>
-        <source>Give the files that were done their old names and places again (Ctrl+Z)</source>
-        <translation>Rendre aux fichiers faits leurs anciens noms et emplacements (Ctrl+Z)</translation>
+        <source>Return the finished files to their old names and folders (Ctrl+Z)</source>
+        <translation>Rendre aux fichiers traités leurs anciens noms et dossiers (Ctrl+Z)</translation>
     </message>
     <message>
-        <source>What is done stays as it is, and this is not asked again</source>
-        <translation>Ce qui est fait reste ainsi, et la question ne revient pas</translation>
+        <source>Keep what is finished. You will not be asked again.</source>
+        <translation>Garder ce qui est fait. La question ne sera plus posée.</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -1507,8 +1484,8 @@
         <translation>&amp;Cocher ou décocher</translation>
     </message>
     <message>
-        <source>Rows without a tick are left out of the run</source>
-        <translation>Les lignes non cochées sont laissées de côté</translation>
+        <source>A run leaves out rows that are not ticked</source>
+        <translation>Un traitement ignore les lignes non cochées</translation>
     </message>
     <message>
         <source>Tick A&amp;ll</source>
@@ -1531,16 +1508,16 @@
         <translation>Répéter le &amp;dernier traitement</translation>
     </message>
     <message>
-        <source>The pictures that were added since, with the settings of the last run</source>
-        <translation>Les images ajoutées depuis, avec les réglages du dernier traitement</translation>
+        <source>Process the pictures added since the last run, with its settings</source>
+        <translation>Traiter les images ajoutées depuis le dernier traitement, avec ses réglages</translation>
     </message>
     <message>
         <source>Camera &amp;Clocks…</source>
         <translation>&amp;Horloges des appareils…</translation>
     </message>
     <message>
-        <source>Set right the dates of a camera whose clock was wrong, in the list and in new names only</source>
-        <translation>Corriger les dates d’un appareil mal réglé, dans la liste et les nouveaux noms seulement</translation>
+        <source>Correct the dates of a camera whose clock was wrong, without changing any file</source>
+        <translation>Corriger les dates d’un appareil dont l’horloge était déréglée, sans modifier de fichier</translation>
     </message>
     <message>
         <source>Recent &amp;Destinations</source>
@@ -1555,16 +1532,16 @@
         <translation>&amp;Exporter la liste…</translation>
     </message>
     <message>
-        <source>Write the list with all its columns into a CSV file for spreadsheets</source>
-        <translation>Écrire la liste avec toutes ses colonnes dans un fichier CSV pour tableurs</translation>
+        <source>Save the list with all its columns as a CSV file for spreadsheets</source>
+        <translation>Enregistrer la liste avec toutes ses colonnes dans un fichier CSV pour tableurs</translation>
     </message>
     <message>
         <source>&amp;Copy Files</source>
         <translation>&amp;Copier les fichiers</translation>
     </message>
     <message>
-        <source>Copy the files of the chosen rows, or what was made of them (in the list: Ctrl+C)</source>
-        <translation>Copier les fichiers des lignes choisies ou leurs résultats (dans la liste : Ctrl+C)</translation>
+        <source>Copy the files of the selected rows, or their results (in the list: Ctrl+C)</source>
+        <translation>Copier les fichiers des lignes sélectionnées ou leurs résultats (dans la liste : Ctrl+C)</translation>
     </message>
     <message>
         <source>Move &amp;Up</source>
@@ -1614,8 +1591,8 @@
         <translation>Rechercher dans le manuel</translation>
     </message>
     <message>
-        <source>Return shows the next place (Ctrl+F, F3)</source>
-        <translation>Entrée montre l’occurrence suivante (Ctrl+F, F3)</translation>
+        <source>Press Return for the next match (Ctrl+F, F3)</source>
+        <translation>Entrée affiche l’occurrence suivante (Ctrl+F, F3)</translation>
     </message>
     <message>
         <source>Pages of the manual</source>
@@ -1633,8 +1610,8 @@
         <translation>Déposez ici des images ou des dossiers</translation>
     </message>
     <message>
-        <source>All properties of each are shown, and its comment can be read, written and reverted.</source>
-        <translation>Toutes leurs propriétés s’affichent&#x202f;; leur commentaire peut être lu, écrit et restauré.</translation>
+        <source>You see all properties of each picture, and can read, write and revert its comment.</source>
+        <translation>Vous voyez toutes les propriétés de chaque image et pouvez lire, écrire et restaurer son commentaire.</translation>
     </message>
     <message>
         <source>Add Pictures…</source>
@@ -1653,8 +1630,8 @@
         <translation>Copier</translation>
     </message>
     <message>
-        <source>Copy the chosen value or branch (Ctrl+C in the tree), or the place where the picture was taken</source>
-        <translation>Copier la valeur ou la branche choisie (Ctrl+C dans l’arbre), ou le lieu de la prise de vue</translation>
+        <source>Copy the selected value or branch (Ctrl+C in the tree), or the location of the picture</source>
+        <translation>Copier la valeur ou la branche sélectionnée (Ctrl+C dans l’arbre), ou le lieu de l’image</translation>
     </message>
     <message>
         <source>Properties of the picture</source>
@@ -1669,24 +1646,24 @@
         <translation>Commentaire utilisateur</translation>
     </message>
     <message>
-        <source>Whose comment is written</source>
-        <translation>Images dont le commentaire est écrit</translation>
+        <source>Which pictures get the comment</source>
+        <translation>Images qui reçoivent le commentaire</translation>
     </message>
     <message>
         <source>Insert Token…</source>
         <translation>Insérer une variable…</translation>
     </message>
     <message>
-        <source>Insert what stands for something that each picture has</source>
-        <translation>Insérer une variable qui prend la valeur de chaque image</translation>
+        <source>Insert a placeholder that is filled in for each picture</source>
+        <translation>Insérer une variable qui est remplacée pour chaque image</translation>
     </message>
     <message>
-        <source>Edit Log</source>
-        <translation>Voir le journal</translation>
+        <source>Metadata History</source>
+        <translation>Historique des métadonnées</translation>
     </message>
     <message>
-        <source>Show what was written into comments, with old and new comments, and revert it</source>
-        <translation>Voir ce qui a été écrit dans les commentaires, l’ancien et le nouveau, et le restaurer</translation>
+        <source>Show old and new comments, and revert them</source>
+        <translation>Afficher les anciens et les nouveaux commentaires, et les restaurer</translation>
     </message>
     <message>
         <source>Progress of the comments</source>
@@ -1705,24 +1682,24 @@
         <translation>Restaurer</translation>
     </message>
     <message>
-        <source>Give the pictures of the last run their old comments again</source>
-        <translation>Rendre aux images du dernier traitement leur ancien commentaire</translation>
+        <source>Restore the old comments of the last run</source>
+        <translation>Restaurer les anciens commentaires du dernier traitement</translation>
     </message>
     <message>
         <source>Choose Files…</source>
         <translation>Choisir des fichiers…</translation>
     </message>
     <message>
-        <source>Choose JPEG and TIFF files and write the comment into each</source>
-        <translation>Choisir des fichiers JPEG et TIFF et écrire le commentaire dans chacun</translation>
+        <source>Choose JPEG and TIFF files and write the comment into all of them</source>
+        <translation>Choisir des fichiers JPEG et TIFF et écrire le commentaire dans tous</translation>
     </message>
     <message>
         <source>Choose Folder…</source>
         <translation>Choisir un dossier…</translation>
     </message>
     <message>
-        <source>Choose a folder and write the comment into each JPEG and TIFF file in it and in its folders</source>
-        <translation>Choisir un dossier et écrire le commentaire dans chaque fichier JPEG et TIFF qui s’y trouve, sous-dossiers compris</translation>
+        <source>Choose a folder and write the comment into all its JPEG and TIFF files, subfolders included</source>
+        <translation>Choisir un dossier et écrire le commentaire dans tous ses fichiers JPEG et TIFF, sous-dossiers compris</translation>
     </message>
     <message>
         <source>Write into All…</source>
@@ -1733,8 +1710,8 @@
         <translation>Appliquer</translation>
     </message>
     <message>
-        <source>Write the comment into this picture. Ctrl+Return writes it and goes to the next one.</source>
-        <translation>Écrire le commentaire dans cette image. Ctrl+Entrée l’écrit et passe à la suivante.</translation>
+        <source>Write the comment into this picture. Press Ctrl+Return to also go to the next one.</source>
+        <translation>Écrire le commentaire dans cette image. Ctrl+Entrée passe ensuite à la suivante.</translation>
     </message>
     <message>
         <source>Write comment and go to the next picture</source>
@@ -1795,55 +1772,55 @@
         <translation>À propos du dossier des résultats</translation>
     </message>
     <message>
-        <source>If name is taken</source>
-        <translation>Nom déjà pris</translation>
+        <source>If the file exists</source>
+        <translation>Si le fichier existe</translation>
     </message>
     <message>
-        <source>If a file of that name is there</source>
-        <translation>Si un fichier de ce nom existe déjà</translation>
+        <source>If a file with this name exists</source>
+        <translation>Si un fichier de ce nom existe</translation>
     </message>
     <message>
-        <source>Simulation: show, write nothing</source>
-        <translation>Simulation&#x202f;: montrer sans écrire</translation>
+        <source>Dry run: write nothing</source>
+        <translation>Essai à blanc : ne rien écrire</translation>
     </message>
     <message>
-        <source>What simulation means</source>
-        <translation>À quoi sert la simulation</translation>
+        <source>About dry runs</source>
+        <translation>À propos des essais à blanc</translation>
     </message>
     <message>
         <source>Metadata</source>
         <translation>Métadonnées</translation>
     </message>
     <message>
-        <source>What results keep of the metadata</source>
-        <translation>Ce que les résultats gardent des métadonnées</translation>
+        <source>Metadata that results keep</source>
+        <translation>Métadonnées gardées dans les résultats</translation>
     </message>
     <message>
         <source>Remove location</source>
         <translation>Retirer le lieu</translation>
     </message>
     <message>
-        <source>Leaves out where the picture was taken: coordinates and names of places</source>
-        <translation>Laisse de côté le lieu de prise de vue&#x202f;: coordonnées et noms de lieux</translation>
+        <source>Removes where the picture was taken: coordinates and place names</source>
+        <translation>Retire le lieu de prise de vue : coordonnées et noms de lieux</translation>
     </message>
     <message>
         <source>Transparency</source>
         <translation>Transparence</translation>
     </message>
     <message>
-        <source>Colour under transparent parts</source>
-        <translation>Couleur sous les parties transparentes</translation>
+        <source>Colour for transparent parts</source>
+        <translation>Couleur des parties transparentes</translation>
     </message>
     <message>
-        <source>Colour under transparent parts, in file types that have none</source>
-        <translation>Couleur sous les parties transparentes, dans les types de fichier sans transparence</translation>
+        <source>Replaces transparency in file types that cannot hold it</source>
+        <translation>Remplace la transparence dans les formats qui n’en ont pas</translation>
     </message>
     <message>
         <source>Folder name</source>
         <translation>Nom du dossier</translation>
     </message>
     <message>
-        <source>Name of the folder beside the originals</source>
+        <source>Name of the folder next to the originals</source>
         <translation>Nom du dossier à côté des originaux</translation>
     </message>
     <message>
@@ -1851,8 +1828,8 @@
         <translation>Conserver les sous-dossiers</translation>
     </message>
     <message>
-        <source>Builds the folders again that lie below each added folder</source>
-        <translation>Recrée les dossiers qui se trouvent sous chaque dossier ajouté</translation>
+        <source>Recreates the subfolders of each added folder</source>
+        <translation>Recrée les sous-dossiers de chaque dossier ajouté</translation>
     </message>
     <message>
         <source>Name</source>
@@ -1863,28 +1840,28 @@
         <translation>Nom des résultats, sans extension</translation>
     </message>
     <message>
-        <source>Values such as {name}, {taken} and {counter:001} stand for what each picture has; {{ is a brace.</source>
-        <translation>Des variables comme {name}, {taken} et {counter:001} valent ce que contient chaque image&#x202f;; {{ donne une accolade.</translation>
+        <source>Tokens such as {name}, {taken} and {counter:001} are filled in for each picture. To write a brace, type {{.</source>
+        <translation>Les variables comme {name}, {taken} et {counter:001} sont remplacées pour chaque image. Pour une accolade, tapez {{.</translation>
     </message>
     <message>
-        <source>Insert a value of the picture into the name</source>
-        <translation>Insérer une variable de l’image dans le nom</translation>
+        <source>Insert a token into the name</source>
+        <translation>Insérer une variable dans le nom</translation>
     </message>
     <message>
-        <source>Keep the file’s date</source>
-        <translation>Conserver la date du fichier</translation>
+        <source>Keep the file date</source>
+        <translation>Garder la date du fichier</translation>
     </message>
     <message>
-        <source>Results get the time of change of their pictures</source>
-        <translation>Les résultats reçoivent la date de modification de leurs images</translation>
+        <source>Results get the modification time of their originals</source>
+        <translation>Les résultats reçoivent la date de modification de leurs originaux</translation>
     </message>
     <message>
         <source>More…</source>
         <translation>Plus…</translation>
     </message>
     <message>
-        <source>More or fewer settings of the results</source>
-        <translation>Plus ou moins de réglages des résultats</translation>
+        <source>Show more or fewer settings</source>
+        <translation>Afficher plus ou moins de réglages</translation>
     </message>
     <message>
         <source>Write all as JPEG</source>
@@ -1906,8 +1883,8 @@
         <translation>Pas encore choisi</translation>
     </message>
     <message>
-        <source>Quorlin keeps your background patterns in a folder below this one. Whatever you put there can be chosen in Background &amp; Border.</source>
-        <translation>Quorlin garde vos motifs de fond dans un dossier placé sous celui-ci. Ce que vous y mettez peut être choisi dans Fond et bordure.</translation>
+        <source>Put your own background patterns into its subfolder Patterns. They then appear in Background &amp; Border.</source>
+        <translation>Placez vos propres motifs dans son sous-dossier Patterns. Ils apparaissent ensuite dans Fond et bordure.</translation>
     </message>
     <message>
         <source>Change…</source>
@@ -1918,88 +1895,84 @@
         <translation>Langue</translation>
     </message>
     <message>
-        <source>Takes effect when Quorlin starts again.</source>
-        <translation>Prend effet au prochain démarrage de Quorlin.</translation>
+        <source>Takes effect after a restart.</source>
+        <translation>Prend effet après un redémarrage.</translation>
     </message>
     <message>
         <source>Appearance</source>
         <translation>Apparence</translation>
     </message>
     <message>
-        <source>If name is taken</source>
-        <translation>Nom déjà pris</translation>
+        <source>If the file exists</source>
+        <translation>Si le fichier existe</translation>
     </message>
     <message>
-        <source>What an action does at first where a name is taken</source>
-        <translation>Ce qu’une action fait au départ quand un nom est pris</translation>
+        <source>What new actions do if the file exists</source>
+        <translation>Ce que font les nouvelles actions si le fichier existe</translation>
     </message>
     <message>
-        <source>For actions that you use for the first time; each one keeps what you choose there.</source>
-        <translation>Pour les actions utilisées pour la première fois&#x202f;; chacune retient ensuite votre choix.</translation>
+        <source>Default for actions you have not used yet.</source>
+        <translation>Valeur par défaut des actions pas encore utilisées.</translation>
     </message>
     <message>
-        <source>Log keeps</source>
-        <translation>Journal</translation>
+        <source>Keep log entries for</source>
+        <translation>Garder dans le journal</translation>
     </message>
     <message>
-        <source>How many entries the log keeps</source>
-        <translation>Nombre d’entrées gardées dans le journal</translation>
+        <source>How many log entries to keep</source>
+        <translation>Nombre d’entrées à garder dans le journal</translation>
     </message>
     <message>
-        <source>Look for a new version at every start</source>
-        <translation>Chercher une nouvelle version à chaque démarrage</translation>
+        <source>Check for updates at startup</source>
+        <translation>Rechercher les mises à jour au démarrage</translation>
     </message>
     <message>
         <source>Done</source>
         <translation>Fermer</translation>
     </message>
     <message>
-        <source>Work with</source>
-        <translation>Travailler avec</translation>
+        <source>Processors</source>
+        <translation>Processeurs</translation>
     </message>
     <message>
-        <source>How many processors runs use</source>
-        <translation>Combien de processeurs un traitement utilise</translation>
+        <source>How many processors runs may use</source>
+        <translation>Nombre de processeurs utilisés par les traitements</translation>
     </message>
     <message>
-        <source>Light or dark, for all windows; it holds at once.</source>
-        <translation>Clair ou sombre, pour toutes les fenêtres ; effet immédiat.</translation>
+        <source>Applies to all windows at once.</source>
+        <translation>S’applique aussitôt à toutes les fenêtres.</translation>
     </message>
     <message>
-        <source>Results go</source>
-        <translation>Résultats</translation>
+        <source>Save results to</source>
+        <translation>Enregistrer dans</translation>
     </message>
     <message>
-        <source>Where results go at first</source>
-        <translation>Où vont d’abord les résultats</translation>
+        <source>Where new actions save their results</source>
+        <translation>Où les nouvelles actions enregistrent leurs résultats</translation>
     </message>
     <message>
-        <source>The same: a start for actions that you have not used yet.</source>
-        <translation>De même : un point de départ pour les actions pas encore utilisées.</translation>
+        <source>Older entries are deleted for good.</source>
+        <translation>Les entrées plus anciennes sont supprimées définitivement.</translation>
     </message>
     <message>
-        <source>When there are more, the oldest go for good.</source>
-        <translation>S’il y en a plus, les plus anciennes disparaissent pour de bon.</translation>
-    </message>
-    <message>
-        <source>Fewer leave more for other programs; what is made is the same.</source>
-        <translation>Moins en laisse plus aux autres programmes ; le résultat est le même.</translation>
+        <source>Use fewer to keep other programs fast. The results are the same.</source>
+        <translation>En utiliser moins laisse de la vitesse aux autres programmes. Les résultats sont les mêmes.</translation>
     </message>
     <message>
         <source>Memory</source>
         <translation>Mémoire</translation>
     </message>
     <message>
-        <source>How much memory runs use</source>
-        <translation>Mémoire utilisée par les traitements</translation>
+        <source>How much memory runs may use</source>
+        <translation>Mémoire que les traitements peuvent utiliser</translation>
     </message>
     <message>
-        <source>Where large pictures need more together, fewer of them are made at a time.</source>
-        <translation>Si de grandes images en demandent plus ensemble, moins sont traitées à la fois.</translation>
+        <source>If large pictures need more, fewer are processed at a time.</source>
+        <translation>Si de grandes images en demandent plus, moins d’images sont traitées à la fois.</translation>
     </message>
     <message>
-        <source>Quorlin asks for its number only; nothing is downloaded or installed by itself.</source>
-        <translation>Quorlin ne demande que son numéro ; rien n’est téléchargé ni installé tout seul.</translation>
+        <source>Quorlin only asks for the version number. It downloads and installs nothing.</source>
+        <translation>Quorlin ne demande que le numéro de version. Il ne télécharge et n’installe rien.</translation>
     </message>
     <message>
         <source>Share thumbnails with other programs</source>
@@ -2042,6 +2015,25 @@
     </message>
 </context>
 <context>
+    <name>Print</name>
+    <message>
+        <source>Print</source>
+        <translation>Imprimer</translation>
+    </message>
+    <message>
+        <source>Pictures made ready for the print</source>
+        <translation>Images préparées pour l’impression</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Print…</source>
+        <translation>Imprimer…</translation>
+    </message>
+</context>
+<context>
     <name>QAbstractFileIconProvider</name>
     <message>
         <source>Drive</source>
@@ -2071,8 +2063,8 @@
         <translation>&amp;Enregistrer</translation>
     </message>
     <message>
-        <source>Files that can be chosen</source>
-        <translation>Fichiers acceptés</translation>
+        <source>Supported files</source>
+        <translation>Fichiers pris en charge</translation>
     </message>
 </context>
 <context>
@@ -2185,8 +2177,8 @@
 <context>
     <name>RecipeField</name>
     <message>
-        <source>Insert a value of the picture</source>
-        <translation>Insérer une valeur de l’image</translation>
+        <source>Insert a token</source>
+        <translation>Insérer une variable</translation>
     </message>
     <message>
         <source>Choose…</source>
@@ -2204,7 +2196,7 @@
         <translation>Recette</translation>
     </message>
     <message>
-        <source>Make, save, rename, delete, export or import recipes</source>
+        <source>Create, save, rename, delete, export or import recipes</source>
         <translation>Créer, enregistrer, renommer, supprimer, exporter ou importer des recettes</translation>
     </message>
     <message>
@@ -2220,20 +2212,20 @@
         <translation>Enregistrer</translation>
     </message>
     <message>
-        <source>This recipe reaches beyond the pictures’ own folders</source>
-        <translation>Cette recette sort des dossiers des images</translation>
+        <source>This recipe uses files outside the folders of the pictures</source>
+        <translation>Cette recette utilise des fichiers hors des dossiers des images</translation>
     </message>
     <message>
         <source>Allow</source>
         <translation>Autoriser</translation>
     </message>
     <message>
-        <source>Nothing was read or written there so far</source>
-        <translation>Rien n’y a été lu ni écrit jusqu’ici</translation>
+        <source>Nothing has been read or written there so far.</source>
+        <translation>Rien n’y a encore été lu ni écrit.</translation>
     </message>
     <message>
-        <source>No operations: the pictures stay as they are.</source>
-        <translation>Aucune opération : les images restent telles quelles.</translation>
+        <source>No operations yet: pictures stay unchanged.</source>
+        <translation>Pas encore d’opération : les images restent inchangées.</translation>
     </message>
     <message>
         <source>+ Add Operation…</source>
@@ -2260,8 +2252,8 @@
         <translation>Dossiers dans</translation>
     </message>
     <message>
-        <source>Where the folders of the outputs are</source>
-        <translation>Où se trouvent les dossiers des sorties</translation>
+        <source>Where the folders of the outputs are created</source>
+        <translation>Où les dossiers des sorties sont créés</translation>
     </message>
     <message>
         <source>Keep subfolders</source>
@@ -2323,16 +2315,16 @@
         <translation>+</translation>
     </message>
     <message>
-        <source>Insert a value of the file</source>
-        <translation>Insérer une valeur du fichier</translation>
+        <source>Insert a token</source>
+        <translation>Insérer une variable</translation>
     </message>
     <message>
         <source>With</source>
         <translation>Par</translation>
     </message>
     <message>
-        <source>How</source>
-        <translation>Mode</translation>
+        <source>Case</source>
+        <translation>Casse</translation>
     </message>
     <message>
         <source>How many</source>
@@ -2354,12 +2346,12 @@
         <translation>Renommer</translation>
     </message>
     <message>
-        <source>What is renamed</source>
+        <source>What to rename</source>
         <translation>Ce qui est renommé</translation>
     </message>
     <message>
-        <source>No steps yet: names stay as they are. Add a step, or choose a preset.</source>
-        <translation>Aucune étape&#x202f;: les noms restent tels quels. Ajoutez une étape ou choisissez un préréglage.</translation>
+        <source>No steps yet: names stay unchanged. Add a step or choose a preset.</source>
+        <translation>Pas encore d’étape : les noms restent inchangés. Ajoutez une étape ou choisissez un préréglage.</translation>
     </message>
     <message>
         <source>+ Add Step…</source>
@@ -2378,16 +2370,16 @@
         <translation>Exemple</translation>
     </message>
     <message>
-        <source>Take sidecar files (.xmp …) along</source>
-        <translation>Inclure les fichiers annexes (.xmp …)</translation>
+        <source>Include sidecar files (.xmp …)</source>
+        <translation>Inclure les fichiers annexes (.xmp…)</translation>
     </message>
     <message>
-        <source>Files of other programs that bear the name of a picture get its new name too</source>
-        <translation>Les fichiers d’autres programmes qui portent le nom d’une image reçoivent aussi son nouveau nom</translation>
+        <source>Files with the name of a picture from other programs are renamed with it</source>
+        <translation>Les fichiers d’autres programmes qui portent le nom d’une image sont renommés avec elle</translation>
     </message>
     <message>
-        <source>Puts zeros before the numbers, so that names sort as they count</source>
-        <translation>Met des zéros devant les numéros, pour que les noms se classent dans leur ordre</translation>
+        <source>Adds leading zeros so that names sort in order</source>
+        <translation>Ajoute des zéros en tête pour que les noms se classent dans l’ordre</translation>
     </message>
 </context>
 <context>
@@ -2401,7 +2393,7 @@
         <translation>Hauteur</translation>
     </message>
     <message>
-        <source>Longest</source>
+        <source>Longest side</source>
         <translation>Grand côté</translation>
     </message>
     <message>
@@ -2413,12 +2405,8 @@
         <translation>Cadre</translation>
     </message>
     <message>
-        <source>What the size is given by</source>
-        <translation>Façon de définir la taille</translation>
-    </message>
-    <message>
-        <source>Longest side</source>
-        <translation>Grand côté</translation>
+        <source>How the new size is set</source>
+        <translation>Façon de définir les nouvelles dimensions</translation>
     </message>
     <message>
         <source> px</source>
@@ -2426,7 +2414,7 @@
     </message>
     <message>
         <source>New size</source>
-        <translation>Nouvelle taille</translation>
+        <translation>Nouvelles dimensions</translation>
     </message>
     <message>
         <source>Width of the box</source>
@@ -2442,15 +2430,15 @@
     </message>
     <message>
         <source>Unit of the size</source>
-        <translation>Unité de la taille</translation>
+        <translation>Unité des dimensions</translation>
     </message>
     <message>
         <source>Unit of the size: pixels, millimetres, centimetres, inches, picas, points</source>
-        <translation>Unité de la taille&#x202f;: pixels, millimètres, centimètres, pouces, picas, points</translation>
+        <translation>Unité des dimensions : pixels, millimètres, centimètres, pouces, picas, points</translation>
     </message>
     <message>
-        <source>Picture</source>
-        <translation>Image</translation>
+        <source>Fit</source>
+        <translation>Ajustement</translation>
     </message>
     <message>
         <source>How the picture fits the box</source>
@@ -2473,20 +2461,20 @@
         <translation>Résolution</translation>
     </message>
     <message>
-        <source>Resolution of the lengths</source>
-        <translation>Résolution des longueurs</translation>
+        <source>Resolution used for lengths</source>
+        <translation>Résolution pour les longueurs</translation>
     </message>
     <message>
-        <source>The dots per inch that make pixels of these lengths; a chosen resolution is written into the file</source>
-        <translation>Les points par pouce qui transforment ces longueurs en pixels ; une résolution choisie est écrite dans le fichier</translation>
+        <source>Dots per inch used to turn lengths into pixels. A chosen resolution is also written into the file.</source>
+        <translation>Points par pouce servant à convertir les longueurs en pixels. Une résolution choisie est aussi écrite dans le fichier.</translation>
     </message>
     <message>
         <source>Dots per inch</source>
         <translation>Points par pouce</translation>
     </message>
     <message>
-        <source>Around it</source>
-        <translation>Autour</translation>
+        <source>Padding</source>
+        <translation>Remplissage</translation>
     </message>
     <message>
         <source>Colour around the picture</source>
@@ -2508,8 +2496,8 @@
         <translation>Ellipse</translation>
     </message>
     <message>
-        <source>Shape that is cut out</source>
-        <translation>Forme découpée</translation>
+        <source>Shape to cut out</source>
+        <translation>Forme à découper</translation>
     </message>
     <message>
         <source>Radius</source>
@@ -2524,24 +2512,24 @@
         <translation>Rayon des coins</translation>
     </message>
     <message>
-        <source>Colour outside the shape</source>
-        <translation>Couleur hors de la forme</translation>
+        <source>Fill colour</source>
+        <translation>Couleur de remplissage</translation>
     </message>
     <message>
         <source>Colour</source>
         <translation>Couleur</translation>
     </message>
     <message>
-        <source>Band</source>
-        <translation>Bande</translation>
+        <source>Border width</source>
+        <translation>Largeur de bordure</translation>
     </message>
     <message>
-        <source>Width of the coloured band inside the edge</source>
-        <translation>Largeur de la bande colorée à l’intérieur du bord</translation>
+        <source>Width of the border inside the picture</source>
+        <translation>Largeur de la bordure à l’intérieur de l’image</translation>
     </message>
     <message>
-        <source>A band of the colour inside the edge; 0 is none</source>
-        <translation>Bande de la couleur à l’intérieur du bord&#x202f;; 0&#x202f;: aucune</translation>
+        <source>Border inside the picture; 0 means none</source>
+        <translation>Bordure à l’intérieur de l’image ; 0 : aucune</translation>
     </message>
     <message>
         <source>Result</source>
@@ -2575,35 +2563,35 @@
         <translation>Poids</translation>
     </message>
     <message>
-        <source>Estimated size of the file</source>
+        <source>Estimated file size</source>
         <translation>Poids estimé du fichier</translation>
     </message>
     <message>
-        <source>Preview of the original and of what is saved</source>
-        <translation>Aperçu de l’original et du fichier enregistré</translation>
+        <source>Preview of the original and the saved picture</source>
+        <translation>Aperçu de l’original et de l’image enregistrée</translation>
     </message>
 </context>
 <context>
     <name>SortPane</name>
     <message>
-        <source>Folders</source>
-        <translation>Dossiers</translation>
+        <source>Level 1</source>
+        <translation>Niveau 1</translation>
     </message>
     <message>
         <source>First level of folders</source>
         <translation>Premier niveau de dossiers</translation>
     </message>
     <message>
-        <source>in them</source>
-        <translation>puis</translation>
+        <source>Level 2</source>
+        <translation>Niveau 2</translation>
     </message>
     <message>
         <source>Second level of folders</source>
         <translation>Deuxième niveau de dossiers</translation>
     </message>
     <message>
-        <source>in those</source>
-        <translation>puis</translation>
+        <source>Level 3</source>
+        <translation>Niveau 3</translation>
     </message>
     <message>
         <source>Third level of folders</source>
@@ -2614,12 +2602,12 @@
         <translation>Modèle</translation>
     </message>
     <message>
-        <source>Pattern of folders</source>
+        <source>Folder pattern</source>
         <translation>Modèle de dossiers</translation>
     </message>
     <message>
-        <source>Text and tokens in braces, with “/” between the levels of folders</source>
-        <translation>Texte et variables entre accolades, avec «&#x202f;/&#x202f;» entre les niveaux de dossiers</translation>
+        <source>Text and tokens in braces, with “/” between folder levels</source>
+        <translation>Texte et variables entre accolades, avec « / » entre les niveaux de dossiers</translation>
     </message>
     <message>
         <source>+</source>
@@ -2630,15 +2618,15 @@
         <translation>Insérer une variable</translation>
     </message>
     <message>
-        <source>Without a date</source>
-        <translation>Sans date</translation>
+        <source>No date taken</source>
+        <translation>Sans date de prise de vue</translation>
     </message>
     <message>
-        <source>What becomes of files without a date taken</source>
+        <source>What to do with files that have no date taken</source>
         <translation>Que faire des fichiers sans date de prise de vue</translation>
     </message>
     <message>
-        <source>Name of the folder for files without a date taken</source>
+        <source>Folder name for files without a date taken</source>
         <translation>Nom du dossier des fichiers sans date de prise de vue</translation>
     </message>
     <message>
@@ -2650,31 +2638,31 @@
         <translation>Déplacer, copier ou lier</translation>
     </message>
     <message>
-        <source>Into</source>
-        <translation>Dans</translation>
+        <source>Destination</source>
+        <translation>Destination</translation>
     </message>
     <message>
-        <source>Where the folders are made</source>
+        <source>Where the folders are created</source>
         <translation>Où les dossiers sont créés</translation>
     </message>
     <message>
-        <source>If name is taken</source>
-        <translation>Nom déjà pris</translation>
+        <source>If the file exists</source>
+        <translation>Si le fichier existe</translation>
     </message>
 </context>
 <context>
     <name>SortTree</name>
     <message>
-        <source>Folders after the run</source>
-        <translation>Dossiers après traitement</translation>
+        <source>Resulting folders</source>
+        <translation>Dossiers obtenus</translation>
     </message>
     <message>
         <source>Show All</source>
         <translation>Tout afficher</translation>
     </message>
     <message>
-        <source>Show all files in the list again</source>
-        <translation>Afficher à nouveau tous les fichiers de la liste</translation>
+        <source>Show all files in the list</source>
+        <translation>Afficher tous les fichiers de la liste</translation>
     </message>
 </context>
 <context>
@@ -2684,28 +2672,28 @@
         <translation>90°</translation>
     </message>
     <message>
-        <source>Turn 90 degrees to the left</source>
-        <translation>Pivoter de 90 degrés à gauche</translation>
+        <source>Rotate 90° anticlockwise</source>
+        <translation>Pivoter de 90° dans le sens antihoraire</translation>
     </message>
     <message>
-        <source>90 degrees to the left</source>
-        <translation>90 degrés à gauche</translation>
+        <source>90° anticlockwise</source>
+        <translation>90° dans le sens antihoraire</translation>
     </message>
     <message>
-        <source>Turn 90 degrees to the right</source>
-        <translation>Pivoter de 90 degrés à droite</translation>
+        <source>Rotate 90° clockwise</source>
+        <translation>Pivoter de 90° dans le sens horaire</translation>
     </message>
     <message>
-        <source>90 degrees to the right</source>
-        <translation>90 degrés à droite</translation>
+        <source>90° clockwise</source>
+        <translation>90° dans le sens horaire</translation>
     </message>
     <message>
         <source>180°</source>
         <translation>180°</translation>
     </message>
     <message>
-        <source>Turn 180 degrees</source>
-        <translation>Pivoter de 180 degrés</translation>
+        <source>Rotate 180°</source>
+        <translation>Pivoter de 180°</translation>
     </message>
     <message>
         <source>Half a turn</source>
@@ -2716,7 +2704,7 @@
         <translation>Angle</translation>
     </message>
     <message>
-        <source>Angle, counter-clockwise</source>
+        <source>Angle, anticlockwise</source>
         <translation>Angle, sens antihoraire</translation>
     </message>
     <message>
@@ -2724,48 +2712,48 @@
         <translation>°</translation>
     </message>
     <message>
-        <source>Angle in degrees, counter-clockwise</source>
+        <source>Angle in degrees, anticlockwise</source>
         <translation>Angle en degrés, sens antihoraire</translation>
     </message>
     <message>
-        <source>to the left</source>
-        <translation>vers la gauche</translation>
+        <source>anticlockwise</source>
+        <translation>sens antihoraire</translation>
     </message>
     <message>
         <source>Flip</source>
         <translation>Miroir</translation>
     </message>
     <message>
-        <source>Across</source>
+        <source>Horizontal</source>
         <translation>Horizontal</translation>
     </message>
     <message>
-        <source>Flip horizontally: left and right change places</source>
-        <translation>Miroir horizontal&#x202f;: gauche et droite s’échangent</translation>
+        <source>Flip horizontally: swap left and right</source>
+        <translation>Miroir horizontal : échanger gauche et droite</translation>
     </message>
     <message>
-        <source>Left and right change places</source>
-        <translation>Gauche et droite s’échangent</translation>
+        <source>Swap left and right</source>
+        <translation>Échanger gauche et droite</translation>
     </message>
     <message>
-        <source>Down</source>
+        <source>Vertical</source>
         <translation>Vertical</translation>
     </message>
     <message>
-        <source>Flip vertically: top and bottom change places</source>
-        <translation>Miroir vertical&#x202f;: haut et bas s’échangent</translation>
+        <source>Flip vertically: swap top and bottom</source>
+        <translation>Miroir vertical : échanger haut et bas</translation>
     </message>
     <message>
-        <source>Top and bottom change places</source>
-        <translation>Haut et bas s’échangent</translation>
+        <source>Swap top and bottom</source>
+        <translation>Échanger haut et bas</translation>
     </message>
     <message>
         <source>Reset</source>
         <translation>Réinitialiser</translation>
     </message>
     <message>
-        <source>Back to no turn and no flip</source>
-        <translation>Revenir sans rotation ni miroir</translation>
+        <source>Reset rotation and flip</source>
+        <translation>Réinitialiser la rotation et le miroir</translation>
     </message>
     <message>
         <source>Result</source>
@@ -2791,23 +2779,23 @@
         <translation>Image</translation>
     </message>
     <message>
-        <source>What lies over the picture</source>
-        <translation>Ce qui recouvre l’image</translation>
+        <source>What the watermark consists of</source>
+        <translation>Ce dont le filigrane est fait</translation>
     </message>
     <message>
         <source>Text of the watermark</source>
         <translation>Texte du filigrane</translation>
     </message>
     <message>
-        <source>Insert a value of the picture</source>
-        <translation>Insérer une valeur de l’image</translation>
+        <source>Insert a token</source>
+        <translation>Insérer une variable</translation>
     </message>
     <message>
-        <source>Picture that lies over the picture</source>
-        <translation>Image du filigrane</translation>
+        <source>Picture used as the watermark</source>
+        <translation>Image qui sert de filigrane</translation>
     </message>
     <message>
-        <source>About watermarks of your own</source>
+        <source>About your own watermarks</source>
         <translation>À propos de vos propres filigranes</translation>
     </message>
     <message>
@@ -2820,23 +2808,23 @@
     </message>
     <message>
         <source>Size</source>
-        <translation>Poids</translation>
+        <translation>Taille</translation>
     </message>
     <message>
         <source> %</source>
         <translation> %</translation>
     </message>
     <message>
-        <source>Size of the text, in per cent of the height of the picture</source>
-        <translation>Taille du texte, en pour cent de la hauteur de l’image</translation>
+        <source>Text size, in % of the picture height</source>
+        <translation>Taille du texte, en % de la hauteur de l’image</translation>
     </message>
     <message>
         <source>of the height</source>
         <translation>de la hauteur</translation>
     </message>
     <message>
-        <source>Width of the watermark, in per cent of the width of the picture</source>
-        <translation>Largeur du filigrane, en pour cent de la largeur de l’image</translation>
+        <source>Watermark width, in % of the picture width</source>
+        <translation>Largeur du filigrane, en % de la largeur de l’image</translation>
     </message>
     <message>
         <source>of the width</source>
@@ -2863,12 +2851,12 @@
         <translation>Marge</translation>
     </message>
     <message>
-        <source>Margin, in per cent of the shorter side</source>
-        <translation>Marge, en pour cent du petit côté</translation>
+        <source>Margin, in % of the shorter side</source>
+        <translation>Marge, en % du petit côté</translation>
     </message>
     <message>
-        <source>In per cent of the shorter side of the picture</source>
-        <translation>En pour cent du petit côté de l’image</translation>
+        <source>In % of the shorter side of the picture</source>
+        <translation>En % du petit côté de l’image</translation>
     </message>
     <message>
         <source>Angle</source>
@@ -2879,11 +2867,11 @@
         <translation>°</translation>
     </message>
     <message>
-        <source>Angle, counter-clockwise</source>
+        <source>Angle, anticlockwise</source>
         <translation>Angle, sens antihoraire</translation>
     </message>
     <message>
-        <source>Counter-clockwise</source>
+        <source>Anticlockwise</source>
         <translation>Sens antihoraire</translation>
     </message>
     <message>
@@ -2906,8 +2894,8 @@
         <translation>Quorlin %1</translation>
     </message>
     <message>
-        <source>No worker that reads pictures is running.</source>
-        <translation>Aucun processus auxiliaire qui lit les images n’est actif.</translation>
+        <source>No process that reads pictures is running.</source>
+        <translation>Aucun processus de lecture d’images n’est actif.</translation>
     </message>
     <message>
         <source>no new privileges</source>
@@ -2922,16 +2910,16 @@
         <translation>filtre d’appels système (seccomp)</translation>
     </message>
     <message>
-        <source>Workers that make pictures are confined by: %1.</source>
-        <translation>Les processus auxiliaires qui traitent les images sont confinés par : %1.</translation>
+        <source>Processes that read pictures are confined by: %1.</source>
+        <translation>Les processus qui lisent les images sont confinés par : %1.</translation>
     </message>
     <message>
         <source>nothing</source>
         <translation>rien</translation>
     </message>
     <message>
-        <source>This system lacks: %1.</source>
-        <translation>Il manque à ce système : %1.</translation>
+        <source>Not available on this system: %1.</source>
+        <translation>Non disponible sur ce système : %1.</translation>
     </message>
 </context>
 <context>
@@ -2973,16 +2961,23 @@
         <source>Background &amp; Border</source>
         <translation>Fond et bordure</translation>
     </message>
+    <message>
+        <source>Adding background and border</source>
+        <translation>L’ajout de fond et de bordure</translation>
+    </message>
     <message numerus="yes">
-        <source>Frame %n Pictures</source>
+        <source>Add Background to %n Pictures</source>
         <translation>
-            <numerusform>Encadrer %n image</numerusform>
-            <numerusform>Encadrer %n images</numerusform>
+            <numerusform>Ajouter un fond à %n image</numerusform>
+            <numerusform>Ajouter un fond à %n images</numerusform>
         </translation>
     </message>
-    <message>
-        <source>Framing</source>
-        <translation>L’encadrement</translation>
+    <message numerus="yes">
+        <source>Add Border to %n Pictures</source>
+        <translation>
+            <numerusform>Ajouter une bordure à %n image</numerusform>
+            <numerusform>Ajouter une bordure à %n images</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3020,12 +3015,12 @@
         <translation>Aucune</translation>
     </message>
     <message>
-        <source>White, 10 pixels around</source>
-        <translation>Blanche, 10 pixels autour</translation>
+        <source>White, 10 pixels on all sides</source>
+        <translation>Blanche, 10 pixels de chaque côté</translation>
     </message>
     <message>
-        <source>Coloured band inside</source>
-        <translation>Bande colorée à l’intérieur</translation>
+        <source>Border inside the picture</source>
+        <translation>Bordure dans l’image</translation>
     </message>
     <message>
         <source>Choose…</source>
@@ -3043,12 +3038,12 @@
         <translation>Fond blanc</translation>
     </message>
     <message>
-        <source>White frame</source>
+        <source>White border</source>
         <translation>Bordure blanche</translation>
     </message>
     <message>
-        <source>Black band</source>
-        <translation>Bande noire</translation>
+        <source>Black border</source>
+        <translation>Bordure noire</translation>
     </message>
     <message>
         <source>Ivory mount</source>
@@ -3074,28 +3069,28 @@
         <translation>sur le motif %1</translation>
     </message>
     <message>
-        <source>white frame</source>
+        <source>white border</source>
         <translation>bordure blanche</translation>
     </message>
     <message>
-        <source>band of %1 px in %2</source>
-        <translation>bande de %1 px en %2</translation>
+        <source>border of %1 px in %2</source>
+        <translation>bordure de %1 px en %2</translation>
     </message>
     <message>
         <source>Choose a pattern.</source>
         <translation>Choisissez un motif.</translation>
     </message>
     <message>
-        <source>Enter a width of the band from 1 to %1.</source>
-        <translation>Saisissez une largeur de bande de 1 à %1.</translation>
+        <source>Enter a border width from 1 to %1.</source>
+        <translation>Saisissez une largeur de bordure de 1 à %1.</translation>
     </message>
     <message>
-        <source>the band would cover all of it</source>
-        <translation>la bande couvrirait toute l’image</translation>
+        <source>the border would cover the whole picture</source>
+        <translation>la bordure couvrirait toute l’image</translation>
     </message>
     <message>
-        <source>A %1 picture has no transparent parts: it stays as it looks.</source>
-        <translation>Une image %1 n’a pas de parties transparentes&#x202f;: elle garde son aspect.</translation>
+        <source>%1 pictures have no transparent parts, so a background would not be visible.</source>
+        <translation>Les images %1 n’ont pas de parties transparentes ; un fond ne serait donc pas visible.</translation>
     </message>
     <message>
         <source>“%1” cannot be read as a picture.</source>
@@ -3109,21 +3104,21 @@
         <translation>aperçu de %1</translation>
     </message>
     <message numerus="yes">
-        <source>%n further pictures left out</source>
+        <source>%n more pictures left out</source>
         <translation>
             <numerusform>%n autre image laissée de côté</numerusform>
             <numerusform>%n autres images laissées de côté</numerusform>
         </translation>
     </message>
     <message>
-        <source>cut off at the picture’s edge</source>
-        <translation>coupé au bord de l’image</translation>
+        <source>smaller than asked for: the frame extends past the edge of the picture</source>
+        <translation>plus petit que demandé : le cadre dépasse le bord de l’image</translation>
     </message>
 </context>
 <context>
     <name>clocks</name>
     <message>
-        <source>No camera stated</source>
+        <source>Unknown camera</source>
         <translation>Appareil inconnu</translation>
     </message>
     <message>
@@ -3131,18 +3126,18 @@
         <translation>%1 · %2</translation>
     </message>
     <message>
-        <source>later by</source>
-        <translation>plus tard de</translation>
+        <source>forward by</source>
+        <translation>avancer de</translation>
     </message>
     <message>
-        <source>earlier by</source>
-        <translation>plus tôt de</translation>
+        <source>back by</source>
+        <translation>reculer de</translation>
     </message>
 </context>
 <context>
     <name>comment-job</name>
     <message>
-        <source>Write comment, keep the first page only</source>
+        <source>Write comment, keep only the first page</source>
         <translation>Écrire le commentaire, ne garder que la première page</translation>
     </message>
     <message numerus="yes">
@@ -3174,32 +3169,32 @@
 <context>
     <name>comment-questions</name>
     <message numerus="yes">
-        <source>%n further pages</source>
+        <source>%n more pages</source>
         <translation>
             <numerusform>%n autre page</numerusform>
             <numerusform>%n autres pages</numerusform>
         </translation>
     </message>
     <message>
-        <source>This file has %1, which would be taken out and cannot be brought back: only its first page is kept.</source>
-        <translation>Ce fichier a %1, qui seraient retirées sans retour possible : seule la première page est gardée.</translation>
+        <source>This file has %1. Only the first page is kept; this cannot be undone.</source>
+        <translation>Ce fichier a %1. Seule la première page est gardée ; cela ne peut pas être annulé.</translation>
     </message>
     <message numerus="yes">
-        <source>%n files have several pages and are left out; their comments would cost them %1: %2.</source>
+        <source>%n files with several pages are left out, since writing would remove %1: %2.</source>
         <translation>
-            <numerusform>%n fichier a plusieurs pages et est laissé de côté ; le commentaire lui coûterait %1 : %2.</numerusform>
-            <numerusform>%n fichiers ont plusieurs pages et sont laissés de côté ; le commentaire leur coûterait %1 : %2.</numerusform>
+            <numerusform>%n fichier à plusieurs pages est laissé de côté, car l’écriture retirerait %1 : %2.</numerusform>
+            <numerusform>%n fichiers à plusieurs pages sont laissés de côté, car l’écriture retirerait %1 : %2.</numerusform>
         </translation>
     </message>
     <message>
-        <source>The originals themselves are changed: their comment, and nothing else in them.</source>
-        <translation>Les originaux eux-mêmes sont modifiés&#x202f;: leur commentaire, et rien d’autre.</translation>
+        <source>This changes the metadata inside your originals. Their pictures are not touched.</source>
+        <translation>Cela modifie les métadonnées dans vos originaux. Les images elles-mêmes ne sont pas touchées.</translation>
     </message>
     <message numerus="yes">
-        <source>%n files are of types that have no place for a comment, and stay as they are.</source>
+        <source>%n files have types that cannot hold a comment and stay unchanged.</source>
         <translation>
-            <numerusform>%n fichier a un format sans place pour un commentaire et reste tel quel.</numerusform>
-            <numerusform>%n fichiers ont un format sans place pour un commentaire et restent tels quels.</numerusform>
+            <numerusform>%n fichier est d’un format sans commentaire et reste inchangé.</numerusform>
+            <numerusform>%n fichiers sont de formats sans commentaire et restent inchangés.</numerusform>
         </translation>
     </message>
     <message>
@@ -3207,7 +3202,7 @@
         <translation>Écrire le commentaire</translation>
     </message>
     <message numerus="yes">
-        <source>Empty the comments of %n pictures?</source>
+        <source>Clear the comments of %n pictures?</source>
         <translation>
             <numerusform>Vider le commentaire de cette image&#x202f;?</numerusform>
             <numerusform>Vider le commentaire de %n images&#x202f;?</numerusform>
@@ -3233,7 +3228,7 @@
         <translation>Annuler</translation>
     </message>
     <message>
-        <source>Write into these too, and keep only their first page</source>
+        <source>Write into these too, keeping only their first page</source>
         <translation>Écrire aussi dans ceux-ci et ne garder que leur première page</translation>
     </message>
     <message>
@@ -3241,52 +3236,52 @@
         <translation>Commentaire non écrit</translation>
     </message>
     <message>
-        <source>Write what was typed into %1?</source>
-        <translation>Écrire le texte saisi dans %1 ?</translation>
+        <source>Write your changes to %1?</source>
+        <translation>Écrire vos modifications dans %1 ?</translation>
     </message>
     <message>
-        <source>It is not in the file yet.</source>
-        <translation>Il n’est pas encore dans le fichier.</translation>
+        <source>The comment has not been written yet.</source>
+        <translation>Le commentaire n’est pas encore écrit.</translation>
     </message>
     <message>
         <source>Discard</source>
         <translation>Abandonner</translation>
     </message>
     <message>
-        <source>Keep Typing</source>
-        <translation>Continuer la saisie</translation>
+        <source>Keep Editing</source>
+        <translation>Continuer la modification</translation>
     </message>
 </context>
 <context>
     <name>comment-run</name>
     <message>
-        <source>The file does not say what was written into it.</source>
-        <translation>Relu, le fichier ne contient pas ce qui y a été écrit.</translation>
+        <source>The file does not contain what was written.</source>
+        <translation>Le fichier ne contient pas ce qui a été écrit.</translation>
     </message>
     <message numerus="yes">
-        <source>%n further pages were taken out and do not come back.</source>
+        <source>%n more pages were removed. This cannot be undone.</source>
         <translation>
-            <numerusform>%n autre page a été retirée et ne reviendra pas.</numerusform>
-            <numerusform>%n autres pages ont été retirées et ne reviendront pas.</numerusform>
+            <numerusform>%n autre page a été retirée. Cela ne peut pas être annulé.</numerusform>
+            <numerusform>%n autres pages ont été retirées. Cela ne peut pas être annulé.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>It has %n further pages, which would be lost.</source>
+        <source>It has %n more pages, which would be lost.</source>
         <translation>
             <numerusform>Il a %n autre page, qui serait perdue.</numerusform>
             <numerusform>Il a %n autres pages, qui seraient perdues.</numerusform>
         </translation>
     </message>
     <message>
-        <source>The file is not there any more.</source>
+        <source>The file no longer exists.</source>
         <translation>Le fichier n’existe plus.</translation>
     </message>
     <message>
-        <source>It has its old comment already.</source>
+        <source>It already has its old comment.</source>
         <translation>L’ancien commentaire y est déjà.</translation>
     </message>
     <message>
-        <source>The comment was changed since and stays: “%1”</source>
+        <source>The comment has been changed since and is kept: “%1”</source>
         <translation>Le commentaire a été modifié depuis et reste&#x202f;: «&#x202f;%1&#x202f;»</translation>
     </message>
     <message>
@@ -3305,8 +3300,8 @@
         <translation>«&#x202f;%1&#x202f;» a été écrit</translation>
     </message>
     <message>
-        <source>“%1” was emptied</source>
-        <translation>«&#x202f;%1&#x202f;» a été vidé</translation>
+        <source>“%1” was cleared</source>
+        <translation>« %1 » a été effacé</translation>
     </message>
     <message>
         <source>“%1” became “%2”</source>
@@ -3454,16 +3449,20 @@
         <translation>Original</translation>
     </message>
     <message>
-        <source>%1 at %2, %3</source>
-        <translation>%1 en %2, %3</translation>
-    </message>
-    <message>
         <source>Ratio</source>
         <translation>Rapport</translation>
     </message>
     <message>
         <source>Other</source>
         <translation>Autre</translation>
+    </message>
+    <message>
+        <source>%1 × %2 px at %3, %4</source>
+        <translation>%1 × %2 px en %3, %4</translation>
+    </message>
+    <message>
+        <source>%1 × %2 px</source>
+        <translation>%1 × %2 px</translation>
     </message>
 </context>
 <context>
@@ -3485,7 +3484,7 @@
         <translation>16:9, 1920 × 1080</translation>
     </message>
     <message>
-        <source>Trim 5 %</source>
+        <source>Trim 5%</source>
         <translation>Rogner 5 %</translation>
     </message>
 </context>
@@ -3496,14 +3495,14 @@
         <translation>Recadrées</translation>
     </message>
     <message>
-        <source>%1 % away</source>
-        <translation>%1 % rognés</translation>
+        <source>trim %1%</source>
+        <translation>rogner %1 %</translation>
     </message>
     <message numerus="yes">
-        <source>%n pixels away</source>
+        <source>trim %n pixels</source>
         <translation>
-            <numerusform>%n pixel rogné</numerusform>
-            <numerusform>%n pixels rognés</numerusform>
+            <numerusform>rogner %n pixel</numerusform>
+            <numerusform>rogner %n pixels</numerusform>
         </translation>
     </message>
     <message>
@@ -3515,8 +3514,8 @@
         <translation>position %1</translation>
     </message>
     <message>
-        <source>Enter a whole number from 0 to 99 per cent.</source>
-        <translation>Saisissez un nombre entier de 0 à 99 pour cent.</translation>
+        <source>Enter a whole number from 0 to 99.</source>
+        <translation>Saisissez un nombre entier de 0 à 99.</translation>
     </message>
     <message>
         <source>Enter a whole number from 0 to %1.</source>
@@ -3543,7 +3542,7 @@
         <translation>non inversé</translation>
     </message>
     <message>
-        <source>where the eye is drawn to</source>
+        <source>at the focus of attention</source>
         <translation>au centre d’intérêt</translation>
     </message>
     <message>
@@ -3554,8 +3553,8 @@
 <context>
     <name>field-kinds</name>
     <message>
-        <source>The part that draws the eye</source>
-        <translation>La partie qui attire le regard</translation>
+        <source>Focus of attention</source>
+        <translation>Centre d’intérêt</translation>
     </message>
     <message>
         <source>Position</source>
@@ -3569,11 +3568,11 @@
         <translation>Lecture de %1 impossible&#x202f;: ce n’est pas du texte UTF-8</translation>
     </message>
     <message>
-        <source>%1 stays as it is: %2</source>
-        <translation>%1 reste tel quel&#x202f;: %2</translation>
+        <source>%1 stays unchanged: %2</source>
+        <translation>%1 reste inchangé : %2</translation>
     </message>
     <message>
-        <source>A part of %1 could not be removed and is still there</source>
+        <source>A part of %1 could not be removed</source>
         <translation>Une partie de %1 n’a pas pu être supprimée et est toujours là</translation>
     </message>
     <message>
@@ -3581,19 +3580,19 @@
         <translation>%1 ; une copie se trouve dans %2</translation>
     </message>
     <message>
-        <source>%1 is gone; what was copied of it is at %2</source>
-        <translation>%1 a disparu ; ce qui en a été copié se trouve dans %2</translation>
+        <source>%1 no longer exists; its partial copy is at %2</source>
+        <translation>%1 n’existe plus ; une copie partielle se trouve dans %2</translation>
     </message>
     <message>
-        <source>%1 could not be put away</source>
-        <translation>%1 n’a pas pu être rangé</translation>
+        <source>%1 could not be moved aside</source>
+        <translation>%1 n’a pas pu être mis de côté</translation>
     </message>
     <message>
         <source>%1 is also at %2</source>
         <translation>%1 se trouve aussi dans %2</translation>
     </message>
     <message>
-        <source>%1 had only its temporary name left and is now called %2</source>
+        <source>%1 was left with a temporary name and is now called %2</source>
         <translation>%1 n’avait plus que son nom temporaire et s’appelle maintenant %2</translation>
     </message>
     <message>
@@ -3601,31 +3600,31 @@
         <translation>Le journal de ce traitement est endommagé : %1</translation>
     </message>
     <message>
-        <source>The name %1 was taken in the meantime; the item is now called %2</source>
-        <translation>Le nom %1 a été pris entre-temps&#x202f;; l’élément s’appelle maintenant %2</translation>
+        <source>The name %1 is now in use; the item is called %2</source>
+        <translation>Le nom %1 est maintenant utilisé ; l’élément s’appelle %2</translation>
     </message>
     <message>
         <source>The run was interrupted</source>
         <translation>Le traitement a été interrompu</translation>
     </message>
     <message>
-        <source>Nothing is known of this run any more</source>
-        <translation>On ne sait plus rien de ce traitement</translation>
+        <source>There is no record of this run</source>
+        <translation>Il n’y a pas de trace de ce traitement</translation>
     </message>
     <message>
-        <source>This run has not ended yet</source>
-        <translation>Ce traitement n’est pas encore terminé</translation>
+        <source>This run is still in progress</source>
+        <translation>Ce traitement est encore en cours</translation>
     </message>
     <message>
         <source>Nothing was done in this run</source>
         <translation>Rien n’a été fait dans ce traitement</translation>
     </message>
     <message>
-        <source>This run was taken back already</source>
+        <source>This run has already been undone</source>
         <translation>Ce traitement a déjà été annulé</translation>
     </message>
     <message>
-        <source>Nothing of this run can be taken back any more</source>
+        <source>Nothing in this run can be undone any more</source>
         <translation>Plus rien de ce traitement ne peut être annulé</translation>
     </message>
     <message>
@@ -3641,20 +3640,20 @@
         <translation>Le nom %1 est trop long pour ce disque</translation>
     </message>
     <message>
-        <source>%1 is not there any more</source>
+        <source>%1 no longer exists</source>
         <translation>%1 n’existe plus</translation>
     </message>
     <message>
-        <source>The name %1 is taken</source>
-        <translation>Le nom %1 est déjà pris</translation>
+        <source>The name %1 is already in use</source>
+        <translation>Le nom %1 est déjà utilisé</translation>
     </message>
     <message>
-        <source>The folder %1 cannot go into itself</source>
-        <translation>Le dossier %1 ne peut pas aller dans lui-même</translation>
+        <source>The folder %1 cannot be moved into itself</source>
+        <translation>Le dossier %1 ne peut pas être déplacé dans lui-même</translation>
     </message>
     <message>
-        <source>%1 or its folder may not be changed</source>
-        <translation>%1 ou son dossier ne peut pas être modifié</translation>
+        <source>You are not allowed to change %1 or its folder</source>
+        <translation>Vous n’avez pas le droit de modifier %1 ou son dossier</translation>
     </message>
     <message>
         <source>%1, which it belongs to, keeps its name</source>
@@ -3665,16 +3664,16 @@
         <translation>%1 a été modifié ou remplacé entre-temps</translation>
     </message>
     <message>
-        <source>There is no room left on the disk for %1</source>
+        <source>There is no space left on the disk for %1</source>
         <translation>Il n’y a plus de place sur le disque pour %1</translation>
     </message>
     <message>
-        <source>%1 is the original itself by now, no copy of it</source>
+        <source>%1 is now the original itself, not a copy of it</source>
         <translation>%1 est désormais l’original lui-même et non une copie</translation>
     </message>
     <message>
-        <source>%1 could not get its new name, and others wait for its old one</source>
-        <translation>%1 n’a pas pu recevoir son nouveau nom, et d’autres attendent l’ancien</translation>
+        <source>%1 could not be renamed, and other files need its old name</source>
+        <translation>%1 n’a pas pu être renommé, et d’autres fichiers attendent son ancien nom</translation>
     </message>
 </context>
 <context>
@@ -3684,7 +3683,7 @@
         <translation>Écriture de %1 impossible&#x202f;: %2</translation>
     </message>
     <message>
-        <source>The folder %1 cannot be made</source>
+        <source>The folder %1 cannot be created</source>
         <translation>Le dossier %1 ne peut pas être créé</translation>
     </message>
 </context>
@@ -3729,15 +3728,15 @@
         <translation>%1, %2</translation>
     </message>
     <message>
-        <source>file of %1</source>
+        <source>file dated %1</source>
         <translation>fichier du %1</translation>
     </message>
     <message>
-        <source>Take back the last deed (Ctrl+Z)</source>
-        <translation>Annuler la dernière action (Ctrl+Z)</translation>
+        <source>Undo (Ctrl+Z)</source>
+        <translation>Annuler (Ctrl+Z)</translation>
     </message>
     <message>
-        <source>Take back: %1 (Ctrl+Z)</source>
+        <source>Undo: %1 (Ctrl+Z)</source>
         <translation>Annuler&#x202f;: %1 (Ctrl+Z)</translation>
     </message>
     <message>
@@ -3791,20 +3790,20 @@
         <translation>Lier</translation>
     </message>
     <message>
-        <source>The picture leaves its folder. (Alt+1)</source>
-        <translation>L’image quitte son dossier. (Alt+1)</translation>
+        <source>Moves the picture to the folder. (Alt+1)</source>
+        <translation>Déplace l’image vers le dossier. (Alt+1)</translation>
     </message>
     <message>
-        <source>The picture stays, and a copy goes into the folder. (Alt+2)</source>
-        <translation>L’image reste, et une copie va dans le dossier. (Alt+2)</translation>
+        <source>Copies the picture to the folder. (Alt+2)</source>
+        <translation>Copie l’image dans le dossier. (Alt+2)</translation>
     </message>
     <message>
-        <source>The picture stays, and the folder gets a link to it. (Alt+3)</source>
-        <translation>L’image reste, et le dossier reçoit un lien vers elle. (Alt+3)</translation>
+        <source>Puts a link to the picture into the folder. (Alt+3)</source>
+        <translation>Place dans le dossier un lien vers l’image. (Alt+3)</translation>
     </message>
     <message>
-        <source>Change Label</source>
-        <translation>Changer le libellé</translation>
+        <source>Rename Label</source>
+        <translation>Renommer le libellé</translation>
     </message>
     <message>
         <source>Show Folder</source>
@@ -3831,15 +3830,15 @@
         <translation>Retirer tous les dossiers</translation>
     </message>
     <message numerus="yes">
-        <source>Take all %n folders off the list?</source>
+        <source>Remove all %n folders from the list?</source>
         <translation>
             <numerusform>Retirer le dossier de la liste&#x202f;?</numerusform>
             <numerusform>Retirer les %n dossiers de la liste&#x202f;?</numerusform>
         </translation>
     </message>
     <message>
-        <source>The folders themselves stay as they are, and so do presets.</source>
-        <translation>Les dossiers eux-mêmes restent tels quels, les préréglages aussi.</translation>
+        <source>The folders and your presets are not changed.</source>
+        <translation>Les dossiers et vos préréglages ne sont pas modifiés.</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -3854,26 +3853,26 @@
         <translation>Choisir un dossier où classer</translation>
     </message>
     <message numerus="yes">
-        <source>%n folders are in the list already.</source>
+        <source>%n folders are already in the list.</source>
         <translation>
             <numerusform>%n dossier est déjà dans la liste.</numerusform>
             <numerusform>%n dossiers sont déjà dans la liste.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>There are keys for %n folders only.</source>
+        <source>Only %n folders can have a key.</source>
         <translation>
-            <numerusform>Il n’y a de touche que pour %n dossier.</numerusform>
-            <numerusform>Il n’y a de touches que pour %n dossiers.</numerusform>
+            <numerusform>Seul %n dossier peut avoir une touche.</numerusform>
+            <numerusform>Seuls %n dossiers peuvent avoir une touche.</numerusform>
         </translation>
     </message>
     <message>
-        <source>A folder cannot be called that.</source>
-        <translation>Un dossier ne peut pas s’appeler ainsi.</translation>
+        <source>This is not a valid folder name.</source>
+        <translation>Ce n’est pas un nom de dossier valide.</translation>
     </message>
     <message>
-        <source>There is something of this name already.</source>
-        <translation>Ce nom est déjà pris.</translation>
+        <source>This name is already in use.</source>
+        <translation>Ce nom est déjà utilisé.</translation>
     </message>
     <message>
         <source>In %1</source>
@@ -3883,7 +3882,7 @@
 <context>
     <name>hand-slots</name>
     <message>
-        <source>not there</source>
+        <source>not found</source>
         <translation>introuvable</translation>
     </message>
     <message>
@@ -3891,8 +3890,8 @@
         <translation>pas un dossier</translation>
     </message>
     <message>
-        <source>cannot be written</source>
-        <translation>écriture impossible</translation>
+        <source>read-only</source>
+        <translation>en lecture seule</translation>
     </message>
 </context>
 <context>
@@ -3930,15 +3929,15 @@
         <translation>Corbeille</translation>
     </message>
     <message>
-        <source>This picture is in the trash. Undo brings it back.</source>
+        <source>This picture is in the trash. Use Undo to restore it.</source>
         <translation>Cette image est à la corbeille. «&#x202f;Annuler&#x202f;» la ramène.</translation>
     </message>
     <message>
-        <source>This picture is in %1 already.</source>
+        <source>This picture is already in %1.</source>
         <translation>Cette image est déjà dans %1.</translation>
     </message>
     <message>
-        <source>This picture is in the trash already.</source>
+        <source>This picture is already in the trash.</source>
         <translation>Cette image est déjà à la corbeille.</translation>
     </message>
     <message>
@@ -3976,20 +3975,20 @@
         <translation>Le manuel n’est pas installé.</translation>
     </message>
     <message>
-        <source>Looking for a new version…</source>
-        <translation>Recherche d’une nouvelle version…</translation>
+        <source>Checking for updates…</source>
+        <translation>Recherche de mises à jour…</translation>
     </message>
     <message>
-        <source>This is the newest version.</source>
-        <translation>C’est la version la plus récente.</translation>
+        <source>Quorlin is up to date.</source>
+        <translation>Quorlin est à jour.</translation>
     </message>
     <message>
-        <source>Nobody answers where new versions are announced.</source>
-        <translation>Le service qui annonce les nouvelles versions ne répond pas.</translation>
+        <source>Could not reach the update server.</source>
+        <translation>Le serveur de mises à jour n’a pas pu être joint.</translation>
     </message>
     <message>
-        <source>This installation does not know where new versions are announced.</source>
-        <translation>Cette installation ne sait pas où les nouvelles versions sont annoncées.</translation>
+        <source>No update server is set in this installation.</source>
+        <translation>Aucun serveur de mises à jour n’est défini dans cette installation.</translation>
     </message>
 </context>
 <context>
@@ -4049,10 +4048,10 @@
         <translation>Annuler un traitement précédent</translation>
     </message>
     <message numerus="yes">
-        <source>%1 of %n files was done before Quorlin was started this time. Undo it?</source>
+        <source>%1 of %n files belongs to an earlier session. Undo it?</source>
         <translation>
-            <numerusform>« %1 » de %n fichier date d’avant ce démarrage de Quorlin. L’annuler ?</numerusform>
-            <numerusform>« %1 » de %n fichiers date d’avant ce démarrage de Quorlin. L’annuler ?</numerusform>
+            <numerusform>« %1 » de %n fichier date d’une session précédente. L’annuler ?</numerusform>
+            <numerusform>« %1 » de %n fichiers date d’une session précédente. L’annuler ?</numerusform>
         </translation>
     </message>
     <message>
@@ -4065,7 +4064,7 @@
     </message>
     <message>
         <source>Undo It</source>
-        <translation>Revenir en arrière</translation>
+        <translation>Annuler le traitement</translation>
     </message>
     <message>
         <source>Leave It</source>
@@ -4108,17 +4107,17 @@
         <translation>Ajout de %1</translation>
     </message>
     <message numerus="yes">
-        <source>%n were in the list already</source>
+        <source>%n already in the list</source>
         <translation>
-            <numerusform>%n était déjà dans la liste</numerusform>
-            <numerusform>%n étaient déjà dans la liste</numerusform>
+            <numerusform>%n déjà dans la liste</numerusform>
+            <numerusform>%n déjà dans la liste</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n files go along</source>
+        <source>%n sidecar files</source>
         <translation>
-            <numerusform>%n fichier suit</numerusform>
-            <numerusform>%n fichiers suivent</numerusform>
+            <numerusform>%n fichier annexe</numerusform>
+            <numerusform>%n fichiers annexes</numerusform>
         </translation>
     </message>
     <message>
@@ -4142,8 +4141,8 @@
         <translation>Il n’y a pas de fichiers dans le presse-papiers</translation>
     </message>
     <message>
-        <source>Left out here</source>
-        <translation>Laissés de côté ici</translation>
+        <source>Not shown</source>
+        <translation>Non affichés</translation>
     </message>
     <message numerus="yes">
         <source>and %n more</source>
@@ -4157,11 +4156,11 @@
         <translation>Fermer</translation>
     </message>
     <message>
-        <source>The sample pictures could not be copied into your folder of pictures</source>
+        <source>The sample pictures could not be copied to your pictures folder</source>
         <translation>Les images d’exemple n’ont pas pu être copiées dans votre dossier d’images</translation>
     </message>
     <message>
-        <source>Recipe opened. Nothing was run.</source>
+        <source>Recipe opened. Nothing has been run.</source>
         <translation>Recette ouverte. Rien n’a été exécuté.</translation>
     </message>
     <message numerus="yes">
@@ -4172,10 +4171,10 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>Looking at %n files…</source>
+        <source>Reading %n files…</source>
         <translation>
-            <numerusform>Examen de %n fichier…</numerusform>
-            <numerusform>Examen de %n fichiers…</numerusform>
+            <numerusform>Lecture de %n fichier…</numerusform>
+            <numerusform>Lecture de %n fichiers…</numerusform>
         </translation>
     </message>
 </context>
@@ -4186,8 +4185,8 @@
         <translation>Pas encore d’images</translation>
     </message>
     <message>
-        <source>No pictures there</source>
-        <translation>Aucune image à cet endroit</translation>
+        <source>No pictures found</source>
+        <translation>Aucune image trouvée</translation>
     </message>
     <message>
         <source>Add Pictures…</source>
@@ -4198,25 +4197,25 @@
         <translation>Déposez ici des images ou des dossiers</translation>
     </message>
     <message>
-        <source>Then choose at the left what to do with them. Your originals stay as they are unless you say otherwise.</source>
-        <translation>Choisissez ensuite à gauche ce que vous voulez en faire. Vos originaux restent tels quels, sauf si vous en décidez autrement.</translation>
+        <source>Then choose an action on the left. Your originals stay unchanged unless you ask for it.</source>
+        <translation>Choisissez ensuite une action à gauche. Vos originaux restent inchangés, sauf si vous demandez autre chose.</translation>
     </message>
     <message>
-        <source>“%1” is not a picture that can be taken</source>
-        <translation>«&#x202f;%1&#x202f;» n’est pas une image acceptée</translation>
+        <source>“%1” was not added: it is not a supported picture.</source>
+        <translation>« %1 » n’a pas été ajouté : ce n’est pas une image prise en charge.</translation>
     </message>
     <message numerus="yes">
-        <source>%n files are not pictures that can be taken</source>
+        <source>%n files were not added: they are not supported pictures.</source>
         <translation>
-            <numerusform>%n fichier n’est pas une image acceptée</numerusform>
-            <numerusform>%n fichiers ne sont pas des images acceptées</numerusform>
+            <numerusform>%n fichier n’a pas été ajouté : ce n’est pas une image prise en charge.</numerusform>
+            <numerusform>%n fichiers n’ont pas été ajoutés : ce ne sont pas des images prises en charge.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n other files of the list are not pictures that can be taken</source>
+        <source>%n files are not shown because %1 cannot use them.</source>
         <translation>
-            <numerusform>%n autre fichier de la liste n’est pas une image acceptée</numerusform>
-            <numerusform>%n autres fichiers de la liste ne sont pas des images acceptées</numerusform>
+            <numerusform>%n fichier n’est pas affiché, car « %1 » ne peut pas l’utiliser.</numerusform>
+            <numerusform>%n fichiers ne sont pas affichés, car « %1 » ne peut pas les utiliser.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -4231,8 +4230,8 @@
         <translation>Pas encore de fichiers</translation>
     </message>
     <message>
-        <source>No files there</source>
-        <translation>Aucun fichier à cet endroit</translation>
+        <source>No files found</source>
+        <translation>Aucun fichier trouvé</translation>
     </message>
     <message>
         <source>Add Files…</source>
@@ -4243,25 +4242,25 @@
         <translation>Déposez ici des fichiers ou des dossiers</translation>
     </message>
     <message>
-        <source>Then say on the right what is to become of them. You see everything before it happens, and can undo it afterwards.</source>
-        <translation>Dites ensuite à droite ce qu’ils doivent devenir. Vous voyez tout avant que cela ne se fasse, et pouvez l’annuler après.</translation>
+        <source>Then set up the action on the right. You see every result before it is written.</source>
+        <translation>Réglez ensuite l’action à droite. Vous voyez chaque résultat avant qu’il ne soit écrit.</translation>
     </message>
     <message>
-        <source>“%1” cannot be taken</source>
-        <translation>«&#x202f;%1&#x202f;» n’est pas accepté</translation>
+        <source>“%1” was not added: it is not a file.</source>
+        <translation>« %1 » n’a pas été ajouté : ce n’est pas un fichier.</translation>
     </message>
     <message numerus="yes">
-        <source>%n files cannot be taken</source>
+        <source>%n items were not added: they are not files.</source>
         <translation>
-            <numerusform>%n fichier n’est pas accepté</numerusform>
-            <numerusform>%n fichiers ne sont pas acceptés</numerusform>
+            <numerusform>%n élément n’a pas été ajouté : ce n’est pas un fichier.</numerusform>
+            <numerusform>%n éléments n’ont pas été ajoutés : ce ne sont pas des fichiers.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n folders of the list are left out</source>
+        <source>%n folders are not shown because %1 cannot use them.</source>
         <translation>
-            <numerusform>%n dossier de la liste est exclu</numerusform>
-            <numerusform>%n dossiers de la liste sont exclus</numerusform>
+            <numerusform>%n dossier n’est pas affiché, car « %1 » ne peut pas l’utiliser.</numerusform>
+            <numerusform>%n dossiers ne sont pas affichés, car « %1 » ne peut pas les utiliser.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -4276,8 +4275,8 @@
         <translation>Pas encore de dossiers</translation>
     </message>
     <message>
-        <source>No folders there</source>
-        <translation>Aucun dossier à cet endroit</translation>
+        <source>No folders found</source>
+        <translation>Aucun dossier trouvé</translation>
     </message>
     <message>
         <source>Add Folder…</source>
@@ -4288,25 +4287,25 @@
         <translation>Déposez ici des dossiers</translation>
     </message>
     <message>
-        <source>The folders themselves are worked on; what is in them stays in them.</source>
-        <translation>L’action porte sur les dossiers eux-mêmes&#x202f;; leur contenu y reste.</translation>
+        <source>The folders themselves are renamed. What is in them does not change.</source>
+        <translation>Les dossiers eux-mêmes sont renommés. Leur contenu ne change pas.</translation>
     </message>
     <message>
-        <source>“%1” is not a folder</source>
-        <translation>«&#x202f;%1&#x202f;» n’est pas un dossier</translation>
+        <source>“%1” was not added: it is not a folder.</source>
+        <translation>« %1 » n’a pas été ajouté : ce n’est pas un dossier.</translation>
     </message>
     <message numerus="yes">
-        <source>%n files are not folders</source>
+        <source>%n files were not added: they are not folders.</source>
         <translation>
-            <numerusform>%n fichier n’est pas un dossier</numerusform>
-            <numerusform>%n fichiers ne sont pas des dossiers</numerusform>
+            <numerusform>%n fichier n’a pas été ajouté : ce n’est pas un dossier.</numerusform>
+            <numerusform>%n fichiers n’ont pas été ajoutés : ce ne sont pas des dossiers.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n files of the list are left out</source>
+        <source>%n files are not shown because folders are being renamed.</source>
         <translation>
-            <numerusform>%n fichier de la liste est exclu</numerusform>
-            <numerusform>%n fichiers de la liste sont exclus</numerusform>
+            <numerusform>%n fichier n’est pas affiché, car des dossiers sont renommés.</numerusform>
+            <numerusform>%n fichiers ne sont pas affichés, car des dossiers sont renommés.</numerusform>
         </translation>
     </message>
 </context>
@@ -4352,22 +4351,22 @@
 <context>
     <name>job</name>
     <message>
-        <source>the folder cannot be written</source>
-        <translation>impossible d’écrire dans le dossier</translation>
+        <source>the folder is read-only</source>
+        <translation>le dossier est en lecture seule</translation>
     </message>
     <message>
-        <source>a file of this name is there</source>
-        <translation>un fichier de ce nom existe déjà</translation>
+        <source>file already exists</source>
+        <translation>le fichier existe déjà</translation>
     </message>
     <message>
-        <source>no free name was found</source>
+        <source>no free name found</source>
         <translation>aucun nom libre n’a été trouvé</translation>
     </message>
 </context>
 <context>
     <name>list-estimate</name>
     <message>
-        <source>about %1 in all</source>
+        <source>about %1 in total</source>
         <translation>environ %1 au total</translation>
     </message>
 </context>
@@ -4375,7 +4374,7 @@
     <name>list-rows</name>
     <message>
         <source>left out</source>
-        <translation>laissée de côté</translation>
+        <translation>laissé de côté</translation>
     </message>
 </context>
 <context>
@@ -4418,7 +4417,7 @@
         <translation>Date</translation>
     </message>
     <message>
-        <source>Deed</source>
+        <source>Action</source>
         <translation>Action</translation>
     </message>
     <message>
@@ -4462,7 +4461,7 @@
         <translation>%1 (traitement du %2)</translation>
     </message>
     <message>
-        <source>Any deed</source>
+        <source>All actions</source>
         <translation>Toutes les actions</translation>
     </message>
     <message>
@@ -4470,7 +4469,7 @@
         <translation>Commentaires seuls</translation>
     </message>
     <message>
-        <source>Any status</source>
+        <source>All statuses</source>
         <translation>Tous les statuts</translation>
     </message>
     <message>
@@ -4510,10 +4509,10 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n comments chosen</source>
+        <source>%n comments selected</source>
         <translation>
-            <numerusform>%n commentaire choisi</numerusform>
-            <numerusform>%n commentaires choisis</numerusform>
+            <numerusform>%n commentaire sélectionné</numerusform>
+            <numerusform>%n commentaires sélectionnés</numerusform>
         </translation>
     </message>
     <message>
@@ -4521,10 +4520,10 @@
         <translation>Aucune entrée ne correspond.</translation>
     </message>
     <message numerus="yes">
-        <source>Nothing was done yet. Every run writes what became of each picture here; the newest %Ln entries are kept.</source>
+        <source>No entries yet. Each run is recorded here, and the last %Ln entries are kept.</source>
         <translation>
-            <numerusform>Rien n’a encore été fait. Chaque traitement écrit ici ce que chaque image est devenue&#x202f;; la dernière entrée est gardée.</numerusform>
-            <numerusform>Rien n’a encore été fait. Chaque traitement écrit ici ce que chaque image est devenue&#x202f;; les %Ln dernières entrées sont gardées.</numerusform>
+            <numerusform>Pas encore d’entrée. Chaque traitement est consigné ici ; la dernière entrée est gardée.</numerusform>
+            <numerusform>Pas encore d’entrée. Chaque traitement est consigné ici ; les %Ln dernières entrées sont gardées.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -4558,8 +4557,8 @@
         </translation>
     </message>
     <message>
-        <source>Your files stay as they are. Runs can then no longer be undone from here.</source>
-        <translation>Vos fichiers restent tels quels. Les traitements ne pourront plus être annulés d’ici.</translation>
+        <source>Your files are not changed. Runs can then no longer be undone from here.</source>
+        <translation>Vos fichiers ne sont pas modifiés. Les traitements ne pourront plus être annulés d’ici.</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -4582,10 +4581,10 @@
         <translation>Annulation&#x202f;: %1 sur %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n files taken back</source>
+        <source>%n files restored</source>
         <translation>
-            <numerusform>%n fichier remis en place</numerusform>
-            <numerusform>%n fichiers remis en place</numerusform>
+            <numerusform>%n fichier rétabli</numerusform>
+            <numerusform>%n fichiers rétablis</numerusform>
         </translation>
     </message>
     <message>
@@ -4593,8 +4592,8 @@
         <translation>Arrêté&#x202f;:</translation>
     </message>
     <message>
-        <source>A run is under way. What became of each picture stands here when it has ended.</source>
-        <translation>Un traitement est en cours. Ce que chaque image est devenue sera indiqué ici quand il sera terminé.</translation>
+        <source>A run is in progress. Its entries appear here when it is finished.</source>
+        <translation>Un traitement est en cours. Ses entrées apparaîtront ici une fois qu’il sera terminé.</translation>
     </message>
     <message>
         <source>These settings cannot be used now.</source>
@@ -4627,7 +4626,7 @@
         <translation>Remplir</translation>
     </message>
     <message>
-        <source>A run is under way</source>
+        <source>A run is in progress</source>
         <translation>Un traitement est en cours</translation>
     </message>
     <message>
@@ -4635,8 +4634,8 @@
         <translation>Arrêter le traitement et fermer la fenêtre&#x202f;?</translation>
     </message>
     <message>
-        <source>What is finished stays; nothing half written is left.</source>
-        <translation>Ce qui est terminé reste&#x202f;; rien n’est laissé à moitié écrit.</translation>
+        <source>Finished pictures are kept. No half-written file is left behind.</source>
+        <translation>Les images terminées sont gardées. Aucun fichier à moitié écrit ne reste.</translation>
     </message>
     <message>
         <source>Stop and Close</source>
@@ -4651,22 +4650,22 @@
         <translation>%1 %</translation>
     </message>
     <message>
-        <source>No file manager opens the folder. It is %1</source>
-        <translation>Aucun gestionnaire de fichiers n’ouvre le dossier. C’est %1</translation>
+        <source>No file manager could open the folder. It is %1</source>
+        <translation>Aucun gestionnaire de fichiers n’a pu ouvrir le dossier. C’est %1</translation>
     </message>
     <message numerus="yes">
-        <source>Opened: %1, which holds the %n folders</source>
+        <source>Opened %1, which contains the %n folders</source>
         <translation>
-            <numerusform>Ouvert : %1, qui contient le %n dossier</numerusform>
-            <numerusform>Ouvert : %1, qui contient les %n dossiers</numerusform>
+            <numerusform>%1 est ouvert ; il contient le dossier</numerusform>
+            <numerusform>%1 est ouvert ; il contient les %n dossiers</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>manual</name>
     <message>
-        <source>No page says “%1”.</source>
-        <translation>Aucune page ne contient «&#x202f;%1&#x202f;».</translation>
+        <source>“%1” was not found in the manual.</source>
+        <translation>« %1 » est introuvable dans le manuel.</translation>
     </message>
 </context>
 <context>
@@ -4757,7 +4756,7 @@
         <translation>Chercher une valeur</translation>
     </message>
     <message>
-        <source>Comments are being written. Cancel it first, or wait.</source>
+        <source>Comments are being written. Cancel this first, or wait.</source>
         <translation>L’écriture des commentaires est en cours. Arrêtez-la d’abord, ou attendez.</translation>
     </message>
     <message>
@@ -4769,11 +4768,11 @@
         <translation>Copier la valeur ou la branche</translation>
     </message>
     <message>
-        <source>Copy Place in Degrees, 48.85840, 2.29450</source>
+        <source>Copy Location in Degrees, 48.85840, 2.29450</source>
         <translation>Copier le lieu en degrés, 48.85840, 2.29450</translation>
     </message>
     <message>
-        <source>Copy Place in Minutes, 48° 51′ 30″ N</source>
+        <source>Copy Location in Minutes, 48° 51′ 30″ N</source>
         <translation>Copier le lieu en minutes, 48° 51′ 30″ N</translation>
     </message>
     <message numerus="yes">
@@ -4784,20 +4783,20 @@
         </translation>
     </message>
     <message>
-        <source>Choose a property to copy first.</source>
-        <translation>Choisissez d’abord une propriété à copier.</translation>
+        <source>Select a property to copy first.</source>
+        <translation>Sélectionnez d’abord une propriété à copier.</translation>
     </message>
     <message>
         <source>Copied: %1</source>
         <translation>Copié&#x202f;: %1</translation>
     </message>
     <message>
-        <source>Files of this type have no place for a comment.</source>
-        <translation>Les fichiers de ce format n’ont pas de place pour un commentaire.</translation>
+        <source>Files of this type cannot hold a comment.</source>
+        <translation>Les fichiers de ce format ne peuvent pas contenir de commentaire.</translation>
     </message>
     <message>
-        <source>Tokens such as {name}, {date} and {counter} stand for what each picture has; {{ is a brace.</source>
-        <translation>Des variables comme {name}, {date} et {counter} valent ce que contient chaque image&#x202f;; {{ donne une accolade.</translation>
+        <source>Tokens such as {name}, {date} and {counter} are filled in for each picture. To write a brace, type {{.</source>
+        <translation>Les variables comme {name}, {date} et {counter} sont remplacées pour chaque image. Pour une accolade, tapez {{.</translation>
     </message>
     <message>
         <source>For example %1: “%2”</source>
@@ -4855,12 +4854,12 @@
 <context>
     <name>move-run</name>
     <message>
-        <source>Too little room</source>
+        <source>Not enough space</source>
         <translation>Pas assez de place</translation>
     </message>
     <message>
-        <source>Files that find no room stay where they are.</source>
-        <translation>Les fichiers qui ne trouvent pas de place restent où ils sont.</translation>
+        <source>Files that do not fit stay where they are.</source>
+        <translation>Les fichiers qui ne tiennent pas restent où ils sont.</translation>
     </message>
     <message>
         <source>Start Anyway</source>
@@ -4883,8 +4882,8 @@
         <translation>Arrêté. Rien n’a été déplacé.</translation>
     </message>
     <message>
-        <source>Simulation: %1</source>
-        <translation>Simulation&#x202f;: %1</translation>
+        <source>Dry run: %1</source>
+        <translation>Essai à blanc : %1</translation>
     </message>
     <message>
         <source>%1 left out</source>
@@ -4899,8 +4898,8 @@
         <translation>fait</translation>
     </message>
     <message>
-        <source>cancelled before its turn</source>
-        <translation>arrêté avant son tour</translation>
+        <source>cancelled</source>
+        <translation>interrompu</translation>
     </message>
     <message>
         <source>Cancelled:</source>
@@ -4933,75 +4932,75 @@
 <context>
     <name>move-words</name>
     <message>
-        <source>name is empty</source>
+        <source>the name is empty</source>
         <translation>le nom est vide</translation>
     </message>
     <message>
-        <source>a name cannot have “/” in it or be “.” or “..”</source>
+        <source>a name cannot contain “/” or be “.” or “..”</source>
         <translation>un nom ne peut ni contenir «&#x202f;/&#x202f;» ni être «&#x202f;.&#x202f;» ou «&#x202f;..&#x202f;»</translation>
     </message>
     <message>
-        <source>name is too long</source>
+        <source>the name is too long</source>
         <translation>le nom est trop long</translation>
     </message>
     <message>
-        <source>the file is not there any more</source>
+        <source>the file no longer exists</source>
         <translation>le fichier n’existe plus</translation>
     </message>
     <message>
-        <source>%1 would get this name too</source>
-        <translation>%1 prendrait aussi ce nom</translation>
+        <source>same new name as %1</source>
+        <translation>même nouveau nom que %1</translation>
     </message>
     <message>
-        <source>name is taken by %1, which is not in this list or stays</source>
-        <translation>nom pris par %1, qui n’est pas dans cette liste ou reste</translation>
+        <source>name in use by %1, which keeps its name</source>
+        <translation>nom utilisé par %1, qui le garde</translation>
     </message>
     <message>
-        <source>name is taken by a file not in this list</source>
-        <translation>nom pris par un fichier hors de cette liste</translation>
+        <source>name in use by a file that is not in this list</source>
+        <translation>nom utilisé par un fichier hors de cette liste</translation>
     </message>
     <message>
         <source>differs only by case or accents from %1</source>
         <translation>ne diffère de %1 que par la casse ou les accents</translation>
     </message>
     <message>
-        <source>a folder cannot go into itself</source>
-        <translation>un dossier ne peut pas aller dans lui-même</translation>
+        <source>a folder cannot be moved into itself</source>
+        <translation>un dossier ne peut pas être déplacé dans lui-même</translation>
     </message>
     <message>
-        <source>the folder cannot be written</source>
-        <translation>impossible d’écrire dans le dossier</translation>
+        <source>the folder is read-only</source>
+        <translation>le dossier est en lecture seule</translation>
     </message>
     <message>
-        <source>the file that it goes with stays</source>
-        <translation>le fichier qu’il suit reste</translation>
+        <source>the picture of this sidecar file stays</source>
+        <translation>l’image de ce fichier annexe reste</translation>
     </message>
     <message>
-        <source>a file that goes along cannot: %1 is in its place</source>
-        <translation>un fichier annexe ne peut pas suivre&#x202f;: %1 occupe sa place</translation>
+        <source>a sidecar file cannot be moved: %1 is in its place</source>
+        <translation>un fichier annexe ne peut pas être déplacé : %1 occupe sa place</translation>
     </message>
     <message>
-        <source>a file that goes along cannot</source>
-        <translation>un fichier annexe ne peut pas suivre</translation>
+        <source>a sidecar file cannot be moved</source>
+        <translation>un fichier annexe ne peut pas être déplacé</translation>
     </message>
     <message>
-        <source>cannot be done</source>
+        <source>not possible</source>
         <translation>impossible</translation>
     </message>
     <message>
-        <source>changes places with %1: done in two steps</source>
-        <translation>échange sa place avec %1&#x202f;: en deux étapes</translation>
+        <source>swaps names with %1</source>
+        <translation>échange son nom avec %1</translation>
     </message>
     <message>
         <source>ready, with its %1</source>
         <translation>prêt, avec son %1</translation>
     </message>
     <message>
-        <source>ready, numbered because the name is taken</source>
-        <translation>prêt, numéroté car le nom est pris</translation>
+        <source>ready, numbered because the file exists</source>
+        <translation>prêt, numéroté car le fichier existe</translation>
     </message>
     <message>
-        <source>ready, onto another disk</source>
+        <source>ready, to another disk</source>
         <translation>prêt, vers un autre disque</translation>
     </message>
     <message>
@@ -5013,7 +5012,7 @@
         <translation>prêt</translation>
     </message>
     <message>
-        <source>Goes with its %1.</source>
+        <source>Includes its %1.</source>
         <translation>Avec son %1.</translation>
     </message>
     <message>
@@ -5025,31 +5024,31 @@
         <translation>reste&#x202f;: %1 prend ce nom</translation>
     </message>
     <message>
-        <source>stays: a file of this name is there</source>
-        <translation>reste&#x202f;: un fichier de ce nom existe déjà</translation>
+        <source>stays: file already exists</source>
+        <translation>reste : le fichier existe déjà</translation>
     </message>
     <message>
-        <source>In the way: %1</source>
-        <translation>Déjà à cette place&#x202f;: %1</translation>
+        <source>Existing file: %1</source>
+        <translation>Fichier existant : %1</translation>
     </message>
     <message>
-        <source>goes along with %1</source>
-        <translation>suit %1</translation>
+        <source>sidecar file of %1</source>
+        <translation>fichier annexe de %1</translation>
     </message>
     <message>
-        <source>stays as it is</source>
-        <translation>reste tel quel</translation>
+        <source>unchanged</source>
+        <translation>inchangé</translation>
     </message>
 </context>
 <context>
     <name>moves</name>
     <message>
-        <source>Simulate: %1</source>
-        <translation>Simuler&#x202f;: %1</translation>
+        <source>Dry Run: %1</source>
+        <translation>Essai à blanc : %1</translation>
     </message>
     <message>
-        <source>Working out names: %1 of %2…</source>
-        <translation>Calcul des noms&#x202f;: %1 sur %2…</translation>
+        <source>Planning: %1 of %2…</source>
+        <translation>Préparation : %1 sur %2…</translation>
     </message>
     <message>
         <source>%1 ready</source>
@@ -5063,17 +5062,17 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n stay as they are</source>
+        <source>%n unchanged</source>
         <translation>
-            <numerusform>%n reste tel quel</numerusform>
-            <numerusform>%n restent tels quels</numerusform>
+            <numerusform>%n inchangé</numerusform>
+            <numerusform>%n inchangés</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n go along</source>
+        <source>%n sidecar files</source>
         <translation>
-            <numerusform>%n suit</numerusform>
-            <numerusform>%n suivent</numerusform>
+            <numerusform>%n fichier annexe</numerusform>
+            <numerusform>%n fichiers annexes</numerusform>
         </translation>
     </message>
     <message>
@@ -5085,8 +5084,8 @@
         <translation>Nom actuel</translation>
     </message>
     <message>
-        <source>Simulation: show, move nothing</source>
-        <translation>Simulation&#x202f;: montrer sans déplacer</translation>
+        <source>Dry run: move nothing</source>
+        <translation>Essai à blanc : ne rien déplacer</translation>
     </message>
 </context>
 <context>
@@ -5096,8 +5095,8 @@
         <translation>Saisissez un texte.</translation>
     </message>
     <message>
-        <source>Write numbers of pieces with commas between them, such as 2,1; -1 is the last.</source>
-        <translation>Saisissez des numéros de morceaux séparés par des virgules, comme 2,1&#x202f;; -1 est le dernier.</translation>
+        <source>Enter piece numbers separated by commas, such as 2,1. Use -1 for the last piece.</source>
+        <translation>Saisissez des numéros de morceaux séparés par des virgules, comme 2,1. Utilisez -1 pour le dernier.</translation>
     </message>
 </context>
 <context>
@@ -5130,8 +5129,8 @@
         <translation>Unité</translation>
     </message>
     <message>
-        <source>At a resolution of its own</source>
-        <translation>Avec sa propre résolution</translation>
+        <source>At a chosen resolution</source>
+        <translation>Avec une résolution choisie</translation>
     </message>
     <message>
         <source>Resolution</source>
@@ -5154,24 +5153,24 @@
         <translation>Hauteur</translation>
     </message>
     <message>
-        <source>How</source>
+        <source>Mode</source>
         <translation>Mode</translation>
     </message>
     <message>
         <source>Fit inside</source>
-        <translation>Faire tenir</translation>
+        <translation>Ajuster</translation>
     </message>
     <message>
-        <source>Fill and cut</source>
-        <translation>Remplir et couper</translation>
+        <source>Fill (crops)</source>
+        <translation>Remplir (rogne)</translation>
     </message>
     <message>
         <source>Stretch</source>
         <translation>Étirer</translation>
     </message>
     <message>
-        <source>Fit and fill the rest</source>
-        <translation>Faire tenir et combler</translation>
+        <source>Fit and pad</source>
+        <translation>Ajuster et compléter</translation>
     </message>
     <message>
         <source>Longest side</source>
@@ -5179,11 +5178,11 @@
     </message>
     <message>
         <source>Shortest side</source>
-        <translation>Plus petit côté</translation>
+        <translation>Petit côté</translation>
     </message>
     <message>
-        <source>Per cent</source>
-        <translation>Pour cent</translation>
+        <source>Percentage</source>
+        <translation>Pourcentage</translation>
     </message>
     <message>
         <source>Megapixels</source>
@@ -5195,7 +5194,7 @@
     </message>
     <message>
         <source>Size</source>
-        <translation>Poids</translation>
+        <translation>Taille</translation>
     </message>
     <message>
         <source>By</source>
@@ -5214,11 +5213,11 @@
         <translation>Rapport</translation>
     </message>
     <message>
-        <source>Longer number along the longer side</source>
-        <translation>Plus grand nombre sur le plus long côté</translation>
+        <source>Larger number for the longer side</source>
+        <translation>Plus grand nombre pour le grand côté</translation>
     </message>
     <message>
-        <source>Cut away</source>
+        <source>Trim</source>
         <translation>Rogner</translation>
     </message>
     <message>
@@ -5230,15 +5229,15 @@
         <translation>Pixels</translation>
     </message>
     <message>
-        <source>To the right</source>
-        <translation>Vers la droite</translation>
+        <source>Offset to the right</source>
+        <translation>Décalage vers la droite</translation>
     </message>
     <message>
-        <source>Down</source>
-        <translation>Vertical</translation>
+        <source>Offset downward</source>
+        <translation>Décalage vers le bas</translation>
     </message>
     <message>
-        <source>Moved from there</source>
+        <source>Offset from there</source>
         <translation>Décalée de là</translation>
     </message>
     <message>
@@ -5254,12 +5253,12 @@
         <translation>Rayon</translation>
     </message>
     <message>
-        <source>Width of the band</source>
-        <translation>Largeur de la bande</translation>
+        <source>Border width</source>
+        <translation>Largeur de bordure</translation>
     </message>
     <message>
-        <source>Colour of the band</source>
-        <translation>Couleur de la bande</translation>
+        <source>Border colour</source>
+        <translation>Couleur de la bordure</translation>
     </message>
     <message>
         <source>Shape</source>
@@ -5278,16 +5277,16 @@
         <translation>Ellipse</translation>
     </message>
     <message>
-        <source>Colour outside</source>
-        <translation>Couleur à l’extérieur</translation>
+        <source>Fill colour</source>
+        <translation>Couleur de remplissage</translation>
     </message>
     <message>
-        <source>Band along the edge</source>
-        <translation>Bande le long du bord</translation>
+        <source>Border inside the picture</source>
+        <translation>Bordure dans l’image</translation>
     </message>
     <message>
-        <source>Under it</source>
-        <translation>Dessous</translation>
+        <source>Under the picture</source>
+        <translation>Sous l’image</translation>
     </message>
     <message>
         <source>A colour</source>
@@ -5385,7 +5384,7 @@
         <translation>Format</translation>
     </message>
     <message>
-        <source>Lossless, where the type can be</source>
+        <source>Lossless if the type allows it</source>
         <translation>Sans perte, si le type le permet</translation>
     </message>
     <message>
@@ -5401,8 +5400,8 @@
         <translation>Qualité</translation>
     </message>
     <message>
-        <source>Limit the size of the file</source>
-        <translation>Limiter la taille du fichier</translation>
+        <source>Limit the file size</source>
+        <translation>Limiter le poids du fichier</translation>
     </message>
     <message>
         <source>At most</source>
@@ -5429,12 +5428,12 @@
         <translation>Retirer le lieu</translation>
     </message>
     <message>
-        <source>If it exists</source>
-        <translation>S’il existe</translation>
+        <source>If the file exists</source>
+        <translation>Si le fichier existe</translation>
     </message>
     <message>
-        <source>Number the new file</source>
-        <translation>Numéroter le nouveau</translation>
+        <source>Keep both (add a number)</source>
+        <translation>Garder les deux (numéroter)</translation>
     </message>
     <message>
         <source>Replace</source>
@@ -5442,11 +5441,7 @@
     </message>
     <message>
         <source>Skip</source>
-        <translation>Passer</translation>
-    </message>
-    <message>
-        <source>Skip if up to date</source>
-        <translation>Ignorer si à jour</translation>
+        <translation>Ignorer</translation>
     </message>
     <message>
         <source>Name</source>
@@ -5469,19 +5464,23 @@
         <translation>Résolution</translation>
     </message>
     <message>
-        <source>Under transparent parts</source>
-        <translation>Sous le transparent</translation>
+        <source>Transparency</source>
+        <translation>Transparence</translation>
     </message>
     <message>
-        <source>Keep the date of the file</source>
+        <source>Keep the file date</source>
         <translation>Garder la date du fichier</translation>
+    </message>
+    <message>
+        <source>Skip if up to date</source>
+        <translation>Ignorer si à jour</translation>
     </message>
 </context>
 <context>
     <name>output-pane</name>
     <message>
-        <source>Number the new file</source>
-        <translation>Numéroter le nouveau</translation>
+        <source>Keep both (add a number)</source>
+        <translation>Garder les deux (numéroter)</translation>
     </message>
     <message>
         <source>Replace</source>
@@ -5500,8 +5499,8 @@
         <translation>Format d’origine</translation>
     </message>
     <message>
-        <source>Folder “%1” beside it</source>
-        <translation>«&#x202f;%1&#x202f;» à côté</translation>
+        <source>“%1” folder next to each picture</source>
+        <translation>Dossier « %1 » à côté de chaque image</translation>
     </message>
     <message>
         <source>Folder of the original</source>
@@ -5536,19 +5535,19 @@
         <translation>Plus…</translation>
     </message>
     <message numerus="yes">
-        <source>%n pictures are of a type that is not written.</source>
+        <source>%n pictures have a type that cannot be written.</source>
         <translation>
-            <numerusform>%n image est d’un type qui n’est pas écrit.</numerusform>
-            <numerusform>%n images sont d’un type qui n’est pas écrit.</numerusform>
+            <numerusform>%n image est d’un format qui ne peut pas être écrit.</numerusform>
+            <numerusform>%n images sont d’un format qui ne peut pas être écrit.</numerusform>
         </translation>
     </message>
     <message>
-        <source>Picture’s own</source>
+        <source>Same as the picture</source>
         <translation>celle de l’image</translation>
     </message>
     <message>
-        <source>Usual</source>
-        <translation>la qualité habituelle</translation>
+        <source>Standard</source>
+        <translation>Standard</translation>
     </message>
     <message>
         <source>Skip if up to date</source>
@@ -5558,10 +5557,10 @@
 <context>
     <name>own-results</name>
     <message numerus="yes">
-        <source>%n results of earlier runs were left out</source>
+        <source>%n results of earlier runs not added</source>
         <translation>
-            <numerusform>%n résultat de traitements antérieurs a été laissé de côté</numerusform>
-            <numerusform>%n résultats de traitements antérieurs ont été laissés de côté</numerusform>
+            <numerusform>%n résultat de traitements antérieurs non ajouté</numerusform>
+            <numerusform>%n résultats de traitements antérieurs non ajoutés</numerusform>
         </translation>
     </message>
 </context>
@@ -5620,30 +5619,30 @@
     <name>pane</name>
     <message>
         <source> at %1 dpi</source>
-        <translation> à %1 dpi</translation>
+        <translation> à %1 ppp</translation>
     </message>
 </context>
 <context>
     <name>plan</name>
     <message>
         <source>cancelled</source>
-        <translation>arrêté</translation>
+        <translation>interrompu</translation>
     </message>
     <message>
-        <source>another picture of this run gets this name</source>
-        <translation>une autre image de ce traitement prend ce nom</translation>
+        <source>another picture in this run has the same new name</source>
+        <translation>une autre image de ce traitement a le même nouveau nom</translation>
     </message>
     <message>
-        <source>a file of this name is there</source>
-        <translation>un fichier de ce nom existe déjà</translation>
+        <source>file already exists</source>
+        <translation>le fichier existe déjà</translation>
     </message>
     <message>
-        <source>the folder to save to has no name of its own</source>
-        <translation>le dossier de destination n’a pas de nom propre</translation>
+        <source>the destination folder has no name</source>
+        <translation>le dossier de destination n’a pas de nom</translation>
     </message>
     <message>
-        <source>the picture is no longer there</source>
-        <translation>l’image n’est plus là</translation>
+        <source>the picture no longer exists</source>
+        <translation>l’image n’existe plus</translation>
     </message>
     <message>
         <source>up to date</source>
@@ -5657,15 +5656,15 @@
         <translation>Les étiquettes de %1 n’ont pas pu être écrites</translation>
     </message>
     <message>
-        <source>Cannot trash %1</source>
+        <source>Cannot move %1 to the trash</source>
         <translation>Impossible de mettre %1 à la corbeille</translation>
     </message>
     <message>
-        <source>Cannot trash %1: there is nothing</source>
-        <translation>Impossible de mettre %1 à la corbeille&#x202f;: il n’y a rien</translation>
+        <source>Cannot move %1 to the trash: no such file</source>
+        <translation>Impossible de mettre %1 à la corbeille : ce fichier n’existe pas</translation>
     </message>
     <message>
-        <source>Cannot trash %1: %2</source>
+        <source>Cannot move %1 to the trash: %2</source>
         <translation>Impossible de mettre %1 à la corbeille&#x202f;: %2</translation>
     </message>
     <message>
@@ -5732,8 +5731,8 @@
         <translation>Il n’y a rien à dessiner</translation>
     </message>
     <message>
-        <source>No picture of %1 x %2 pixels can be made</source>
-        <translation>Impossible de créer une image de %1 x %2 pixels</translation>
+        <source>A picture of %1 × %2 pixels cannot be made</source>
+        <translation>Une image de %1 × %2 pixels est impossible</translation>
     </message>
     <message>
         <source>Reading the picture</source>
@@ -5748,11 +5747,11 @@
         <translation>Il n’y a pas d’image à redimensionner</translation>
     </message>
     <message>
-        <source>There is no picture to turn</source>
+        <source>There is no picture to rotate</source>
         <translation>Il n’y a pas d’image à pivoter</translation>
     </message>
     <message>
-        <source>A picture cannot be turned by that angle</source>
+        <source>A picture cannot be rotated by that angle</source>
         <translation>Une image ne peut pas être pivotée de cet angle</translation>
     </message>
     <message>
@@ -5768,15 +5767,15 @@
         <translation>Il n’y a pas d’image à écrire</translation>
     </message>
     <message>
-        <source>The page could not be made: %1</source>
+        <source>The page could not be created: %1</source>
         <translation>La page n’a pas pu être créée&#x202f;: %1</translation>
     </message>
     <message>
-        <source>The JPEG could not be made: %1</source>
+        <source>The JPEG could not be created: %1</source>
         <translation>Le JPEG n’a pas pu être créé&#x202f;: %1</translation>
     </message>
     <message>
-        <source>A WebP file holds at most %1 pixels on a side, not %2</source>
+        <source>A WebP file can have at most %1 pixels on a side, not %2</source>
         <translation>Un fichier WebP contient au plus %1 pixels par côté, et non %2</translation>
     </message>
     <message>
@@ -5819,8 +5818,8 @@
 <context>
     <name>preferences</name>
     <message>
-        <source>As the system</source>
-        <translation>Comme le système</translation>
+        <source>System</source>
+        <translation>Système</translation>
     </message>
     <message>
         <source>Light</source>
@@ -5831,8 +5830,8 @@
         <translation>Sombre</translation>
     </message>
     <message>
-        <source>Number the new file</source>
-        <translation>Numéroter le nouveau</translation>
+        <source>Keep both (add a number)</source>
+        <translation>Garder les deux (numéroter)</translation>
     </message>
     <message>
         <source>Replace</source>
@@ -5847,16 +5846,16 @@
         <translation>Demander</translation>
     </message>
     <message>
-        <source>the newest 1,000 entries</source>
-        <translation>les 1&#x202f;000 dernières entrées</translation>
+        <source>the last 1,000 files</source>
+        <translation>les 1 000 derniers fichiers</translation>
     </message>
     <message>
-        <source>the newest 10,000 entries</source>
-        <translation>les 10&#x202f;000 dernières entrées</translation>
+        <source>the last 10,000 files</source>
+        <translation>les 10 000 derniers fichiers</translation>
     </message>
     <message>
-        <source>the newest 100,000 entries</source>
-        <translation>les 100&#x202f;000 dernières entrées</translation>
+        <source>the last 100,000 files</source>
+        <translation>les 100 000 derniers fichiers</translation>
     </message>
     <message>
         <source>all %1 processors</source>
@@ -5867,16 +5866,16 @@
         <translation>%1 processeurs sur %2</translation>
     </message>
     <message>
-        <source>Into a folder beside the originals</source>
-        <translation>Dans un dossier à côté des originaux</translation>
+        <source>A folder next to the originals</source>
+        <translation>Un dossier à côté des originaux</translation>
     </message>
     <message>
-        <source>Into the folder of the originals</source>
-        <translation>Dans le dossier des originaux</translation>
+        <source>The folder of the originals</source>
+        <translation>Le dossier des originaux</translation>
     </message>
     <message>
-        <source>all that is free</source>
-        <translation>tout ce qui est libre</translation>
+        <source>all free memory</source>
+        <translation>toute la mémoire libre</translation>
     </message>
     <message>
         <source>%1 GB at most</source>
@@ -5938,8 +5937,8 @@
         <translation>Importer…</translation>
     </message>
     <message>
-        <source>Look Again</source>
-        <translation>Relire</translation>
+        <source>Try Again</source>
+        <translation>Réessayer</translation>
     </message>
     <message>
         <source>My preset</source>
@@ -5958,8 +5957,8 @@
         <translation>Supprimer le préréglage «&#x202f;%1&#x202f;»&#x202f;?</translation>
     </message>
     <message>
-        <source>The settings stay as they are now.</source>
-        <translation>Les réglages restent tels quels.</translation>
+        <source>Your current settings are kept.</source>
+        <translation>Vos réglages actuels sont gardés.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -6000,10 +5999,10 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n renamed, their names were taken</source>
+        <source>%n renamed because their names were in use</source>
         <translation>
-            <numerusform>%n renommé, son nom était pris</numerusform>
-            <numerusform>%n renommés, leurs noms étaient pris</numerusform>
+            <numerusform>%n renommé, car son nom était utilisé</numerusform>
+            <numerusform>%n renommés, car leurs noms étaient utilisés</numerusform>
         </translation>
     </message>
     <message>
@@ -6014,11 +6013,11 @@
 <context>
     <name>preset-store</name>
     <message>
-        <source>The presets database was empty and could not be used. It is called %1 now, and there is a new one.</source>
-        <translation>La base des préréglages était vide et inutilisable. Elle s’appelle maintenant %1, et il y en a une nouvelle.</translation>
+        <source>The presets database was empty. It was renamed to %1, and a new one was created.</source>
+        <translation>La base de données des préréglages était vide. Elle a été renommée en %1, et une nouvelle a été créée.</translation>
     </message>
     <message>
-        <source>Presets cannot be kept: their database cannot be made.</source>
+        <source>Presets cannot be saved: the database could not be created.</source>
         <translation>Les préréglages ne peuvent pas être gardés&#x202f;: leur base de données ne peut pas être créée.</translation>
     </message>
     <message>
@@ -6026,35 +6025,35 @@
         <translation>La base de données des préréglages ne peut pas être lue.</translation>
     </message>
     <message>
-        <source>The presets database is damaged. It is left as it is.</source>
-        <translation>La base de données des préréglages est endommagée. Elle est laissée telle quelle.</translation>
+        <source>The presets database is damaged. It was not changed.</source>
+        <translation>La base de données des préréglages est endommagée. Elle n’a pas été modifiée.</translation>
     </message>
     <message>
-        <source>The presets database has no place for presets. It is left as it is.</source>
-        <translation>La base de données des préréglages n’a pas de place pour des préréglages. Elle est laissée telle quelle.</translation>
+        <source>The presets database has no table for presets. It was not changed.</source>
+        <translation>La base de données des préréglages n’a pas de table de préréglages. Elle n’a pas été modifiée.</translation>
     </message>
     <message>
-        <source>The presets database is in use by another program, or damaged. It is left as it is.</source>
-        <translation>La base de données des préréglages est utilisée par un autre programme, ou endommagée. Elle est laissée telle quelle.</translation>
+        <source>The presets database is in use by another program or damaged. It was not changed.</source>
+        <translation>La base de données des préréglages est utilisée par un autre programme ou endommagée. Elle n’a pas été modifiée.</translation>
     </message>
     <message>
-        <source>The presets database is read-only; nothing was changed.</source>
-        <translation>La base de données des préréglages est en lecture seule&#x202f;; rien n’a été modifié.</translation>
+        <source>The presets database is read-only. It was not changed.</source>
+        <translation>La base de données des préréglages est en lecture seule. Elle n’a pas été modifiée.</translation>
     </message>
     <message>
-        <source>The presets database is in use by another program, or the disk is full; nothing was changed.</source>
-        <translation>La base de données des préréglages est utilisée par un autre programme, ou le disque est plein&#x202f;; rien n’a été modifié.</translation>
+        <source>The presets database is in use by another program, or the disk is full. It was not changed.</source>
+        <translation>La base de données des préréglages est utilisée par un autre programme, ou le disque est plein. Elle n’a pas été modifiée.</translation>
     </message>
 </context>
 <context>
     <name>presets</name>
     <message>
-        <source>This preset was not made by Quorlin. It is left as it is.</source>
-        <translation>Ce préréglage n’a pas été créé par Quorlin. Il est laissé tel quel.</translation>
+        <source>This preset was not made by Quorlin. It was not changed.</source>
+        <translation>Ce préréglage n’a pas été créé par Quorlin. Il n’a pas été modifié.</translation>
     </message>
     <message>
-        <source>This preset was made by a newer Quorlin. It is left as it is.</source>
-        <translation>Ce préréglage a été créé par une version plus récente de Quorlin. Il est laissé tel quel.</translation>
+        <source>This preset was made by a newer version of Quorlin. It was not changed.</source>
+        <translation>Ce préréglage a été créé par une version plus récente de Quorlin. Il n’a pas été modifié.</translation>
     </message>
     <message>
         <source>This preset is damaged and cannot be used.</source>
@@ -6069,11 +6068,11 @@
         <translation>Un nom ne peut pas contenir d’apostrophe droite (&apos;). L’apostrophe courbe (’) convient.</translation>
     </message>
     <message>
-        <source>A name cannot have a bar (|) in it.</source>
+        <source>A name cannot contain a vertical bar (|).</source>
         <translation>Un nom ne peut pas contenir de barre verticale (|).</translation>
     </message>
     <message>
-        <source>A name cannot have line breaks or control characters in it.</source>
+        <source>A name cannot contain line breaks or control characters.</source>
         <translation>Un nom ne peut contenir ni saut de ligne ni caractère de contrôle.</translation>
     </message>
     <message numerus="yes">
@@ -6084,15 +6083,15 @@
         </translation>
     </message>
     <message>
-        <source>There is a preset named %1 already.</source>
+        <source>A preset named %1 already exists.</source>
         <translation>Il y a déjà un préréglage nommé %1.</translation>
     </message>
     <message>
-        <source>This file holds no presets.</source>
+        <source>This file contains no presets.</source>
         <translation>Ce fichier ne contient pas de préréglages.</translation>
     </message>
     <message>
-        <source>This file was made by a newer Quorlin.</source>
+        <source>This file was made by a newer version of Quorlin.</source>
         <translation>Ce fichier a été créé par une version plus récente de Quorlin.</translation>
     </message>
     <message numerus="yes">
@@ -7521,15 +7520,15 @@
         <translation>Vider le menu</translation>
     </message>
     <message>
-        <source>%1 is no longer there</source>
+        <source>%1 no longer exists</source>
         <translation>%1 n’existe plus</translation>
     </message>
 </context>
 <context>
     <name>recipe</name>
     <message>
-        <source>%1 has no transparency: transparent parts get the colour %2</source>
-        <translation>%1 n’a pas de transparence&#x202f;: les parties transparentes prennent la couleur %2</translation>
+        <source>%1 has no transparency: transparent parts become %2</source>
+        <translation>%1 n’a pas de transparence : les parties transparentes deviennent %2</translation>
     </message>
     <message>
         <source>%1 has 8 bits for each channel, the picture more</source>
@@ -7544,8 +7543,8 @@
         <translation>%1 a 256 couleurs au plus</translation>
     </message>
     <message>
-        <source>Further pictures behind the first one are left out</source>
-        <translation>Les autres images derrière la première sont laissées de côté</translation>
+        <source>Only the first picture is kept</source>
+        <translation>Seule la première image est gardée</translation>
     </message>
     <message>
         <source>The gain map is left out</source>
@@ -7560,40 +7559,40 @@
         <translation>Le XMP au-delà des 64 premiers Ko est omis</translation>
     </message>
     <message>
-        <source>Signed content credentials are left out, since no changed file agrees with them</source>
-        <translation>Les certificats d’origine signés sont laissés de côté, car aucun fichier modifié ne leur correspond</translation>
+        <source>Signed content credentials are left out, since they do not match a changed file</source>
+        <translation>Les certificats d’origine signés sont laissés de côté, car ils ne correspondent pas à un fichier modifié</translation>
     </message>
     <message>
-        <source>Data behind the end of the picture is left out</source>
+        <source>Data after the end of the picture is left out</source>
         <translation>Les données derrière la fin de l’image sont laissées de côté</translation>
     </message>
     <message>
-        <source>%1 holds metadata as XMP alone, without maker notes</source>
+        <source>%1 holds metadata as XMP only, without maker notes</source>
         <translation>%1 contient les métadonnées en XMP seulement, sans notes du fabricant</translation>
     </message>
     <message>
-        <source>%1 holds no metadata</source>
-        <translation>%1 ne contient pas de métadonnées</translation>
+        <source>%1 cannot hold metadata</source>
+        <translation>%1 ne peut pas contenir de métadonnées</translation>
     </message>
     <message>
-        <source>%1 further pictures of the file are left out</source>
+        <source>More pictures in the file that are left out: %1</source>
         <translation>Autres images du fichier laissées de côté&#x202f;: %1</translation>
     </message>
     <message>
-        <source>Pictures of this type are read and not written; choose another type</source>
-        <translation>Les images de ce type sont lues et ne sont pas écrites&#x202f;; choisissez un autre type</translation>
+        <source>Pictures of this type can be read but not written; choose another type</source>
+        <translation>Les images de ce format peuvent être lues mais pas écrites ; choisissez un autre format</translation>
     </message>
     <message>
-        <source>No picture of %1 x %2 pixels can be made</source>
-        <translation>Une image de %1 x %2 pixels ne peut pas être faite</translation>
+        <source>A picture of %1 × %2 pixels cannot be made</source>
+        <translation>Une image de %1 × %2 pixels est impossible</translation>
     </message>
     <message>
         <source>Nothing of the picture is left</source>
         <translation>Il ne reste rien de l’image</translation>
     </message>
     <message>
-        <source>Data that the maker of the camera or a program keeps beside EXIF is left out</source>
-        <translation>Les données que le fabricant de l’appareil ou un programme garde à côté d’EXIF sont laissées de côté</translation>
+        <source>Data that the camera maker or a program keeps outside EXIF is left out</source>
+        <translation>Les données que le fabricant de l’appareil ou un programme garde hors d’EXIF sont laissées de côté</translation>
     </message>
     <message>
         <source>a number above %1, to %2</source>
@@ -7636,7 +7635,7 @@
         <translation>un objet</translation>
     </message>
     <message>
-        <source>it cannot stand beside %1</source>
+        <source>it cannot be used together with %1</source>
         <translation>incompatible avec %1</translation>
     </message>
     <message>
@@ -7644,56 +7643,56 @@
         <translation>il manque l’un de %1</translation>
     </message>
     <message>
-        <source>there is no such key here</source>
-        <translation>cette clé n’existe pas ici</translation>
+        <source>unknown key</source>
+        <translation>clé inconnue</translation>
     </message>
     <message>
-        <source>it has a meaning with fit fill or pad only</source>
-        <translation>n’a de sens qu’avec fit fill ou pad</translation>
+        <source>it applies only with fit fill or pad</source>
+        <translation>ne s’applique qu’avec fit fill ou pad</translation>
     </message>
     <message>
-        <source>it has a meaning with fit pad only</source>
-        <translation>n’a de sens qu’avec fit pad</translation>
+        <source>it applies only with fit pad</source>
+        <translation>ne s’applique qu’avec fit pad</translation>
     </message>
     <message>
-        <source>it has a meaning with a box only</source>
-        <translation>n’a de sens qu’avec box</translation>
+        <source>it applies only with box</source>
+        <translation>ne s’applique qu’avec box</translation>
     </message>
     <message>
-        <source>two numbers with a colon between them such as 3:2, not "%1"</source>
+        <source>two numbers separated by a colon such as 3:2, not "%1"</source>
         <translation>deux nombres séparés par un deux-points comme 3:2, pas « %1 »</translation>
     </message>
     <message>
-        <source>it is missing beside %1</source>
-        <translation>manque à côté de %1</translation>
+        <source>it is required with %1</source>
+        <translation>requis avec %1</translation>
     </message>
     <message>
-        <source>it has a meaning with a ratio only</source>
-        <translation>n’a de sens qu’avec ratio</translation>
+        <source>it applies only with ratio</source>
+        <translation>ne s’applique qu’avec ratio</translation>
     </message>
     <message>
         <source>it is missing</source>
         <translation>manque</translation>
     </message>
     <message>
-        <source>it has a meaning with a rectangle only</source>
-        <translation>n’a de sens qu’avec un rectangle</translation>
+        <source>it applies only with a rectangle</source>
+        <translation>ne s’applique qu’à un rectangle</translation>
     </message>
     <message>
         <source>there is no picture "%1"</source>
         <translation>il n’y a pas d’image « %1 »</translation>
     </message>
     <message>
-        <source>a text, not nothing</source>
-        <translation>un texte, pas rien</translation>
+        <source>a text that is not empty</source>
+        <translation>un texte non vide</translation>
     </message>
     <message>
         <source>there is no font "%1"</source>
         <translation>il n’y a pas de police « %1 »</translation>
     </message>
     <message>
-        <source>it has a meaning with a text only</source>
-        <translation>n’a de sens qu’avec un texte</translation>
+        <source>it applies only with a text</source>
+        <translation>ne s’applique qu’à un texte</translation>
     </message>
     <message>
         <source>sRGB, Display P3, Adobe RGB, gray or the path of an ICC file, not "%1"</source>
@@ -7704,32 +7703,32 @@
         <translation>Les pixels ne peuvent pas rester tels quels</translation>
     </message>
     <message>
-        <source>It cannot be made as small as %1 bytes</source>
-        <translation>Impossible de la réduire à %1 octets</translation>
+        <source>It does not fit into %1 bytes</source>
+        <translation>Elle ne tient pas dans %1 octets</translation>
     </message>
     <message>
         <source>this type has no quality</source>
         <translation>ce type n’a pas de qualité</translation>
     </message>
     <message>
-        <source>this type has no choice between lossless and not</source>
-        <translation>ce type ne laisse pas le choix entre avec et sans perte</translation>
+        <source>this type has no lossless option</source>
+        <translation>ce format n’a pas d’option sans perte</translation>
     </message>
     <message>
-        <source>a name, not nothing</source>
-        <translation>un nom, pas rien</translation>
+        <source>a name that is not empty</source>
+        <translation>un nom non vide</translation>
     </message>
     <message>
-        <source>a name without /; folders stand under folder</source>
-        <translation>un nom sans / ; les dossiers vont sous folder</translation>
+        <source>a name without /; use folder for folders</source>
+        <translation>un nom sans / ; utilisez folder pour les dossiers</translation>
     </message>
     <message>
         <source>the version of the recipe is missing</source>
         <translation>la version de la recette manque</translation>
     </message>
     <message>
-        <source>this recipe has version %1, and this program knows versions up to %2</source>
-        <translation>cette recette est de version %1, et ce programme connaît les versions jusqu’à %2</translation>
+        <source>this recipe has version %1, but this program supports versions up to %2 only</source>
+        <translation>cette recette est de version %1, mais ce programme ne gère que les versions jusqu’à %2</translation>
     </message>
     <message>
         <source>at least one output</source>
@@ -7744,68 +7743,64 @@
         <translation>ligne %1 : %2</translation>
     </message>
     <message>
-        <source>a recipe is a JSON object</source>
-        <translation>une recette est un objet JSON</translation>
+        <source>a recipe must be a JSON object</source>
+        <translation>une recette doit être un objet JSON</translation>
     </message>
     <message>
-        <source>a recipe is no larger than 4 MB</source>
+        <source>a recipe cannot be larger than 4 MB</source>
         <translation>une recette ne dépasse pas 4 Mo</translation>
     </message>
     <message>
-        <source>%1 cannot be written to</source>
-        <translation>Impossible d’écrire dans %1</translation>
+        <source>%1 is read-only</source>
+        <translation>%1 est en lecture seule</translation>
     </message>
     <message>
         <source>%1 cannot be written: %2</source>
         <translation>Impossible d’écrire %1 : %2</translation>
     </message>
     <message>
-        <source>its name is taken again and again</source>
-        <translation>son nom est sans cesse pris</translation>
+        <source>no free name found</source>
+        <translation>aucun nom libre n’a été trouvé</translation>
     </message>
     <message>
-        <source>there is no such file</source>
+        <source>no such file</source>
         <translation>ce fichier n’existe pas</translation>
     </message>
     <message>
-        <source>it is no ordinary file</source>
-        <translation>ce n’est pas un fichier ordinaire</translation>
+        <source>not an ordinary file</source>
+        <translation>pas un fichier ordinaire</translation>
     </message>
     <message>
-        <source>the name is taken</source>
-        <translation>le nom est pris</translation>
-    </message>
-    <message>
-        <source>it is up to date</source>
-        <translation>elle est à jour</translation>
+        <source>file already exists</source>
+        <translation>le fichier existe déjà</translation>
     </message>
     <message>
         <source>it cannot be read</source>
         <translation>illisible</translation>
     </message>
     <message>
-        <source>there is not enough memory to show it</source>
-        <translation>la mémoire ne suffit pas pour l’afficher</translation>
+        <source>not enough memory to show it</source>
+        <translation>mémoire insuffisante pour l’afficher</translation>
     </message>
     <message>
-        <source>nothing came of it</source>
-        <translation>rien n’en est sorti</translation>
+        <source>no result</source>
+        <translation>aucun résultat</translation>
     </message>
     <message>
-        <source>outputs: one, and no more</source>
-        <translation>outputs : une, et pas plus</translation>
+        <source>outputs: exactly one</source>
+        <translation>outputs : une seule</translation>
     </message>
     <message>
         <source>%1 cannot be started: %2</source>
         <translation>Impossible de lancer %1 : %2</translation>
     </message>
     <message>
-        <source>a worker ended while it started</source>
-        <translation>un processus s’est arrêté au démarrage</translation>
+        <source>a worker process ended while starting</source>
+        <translation>un processus de travail s’est arrêté au démarrage</translation>
     </message>
     <message>
-        <source>it takes longer than %1 seconds</source>
-        <translation>cela prend plus de %1 secondes</translation>
+        <source>it took longer than %1 seconds</source>
+        <translation>cela a pris plus de %1 secondes</translation>
     </message>
     <message>
         <source>it needs more than %1 MB of memory</source>
@@ -7816,12 +7811,16 @@
         <translation>son lecteur a planté</translation>
     </message>
     <message>
-        <source>the recipe cannot be carried out</source>
+        <source>the recipe cannot be run</source>
         <translation>la recette ne peut pas être exécutée</translation>
     </message>
     <message>
-        <source>%1 of %2 megapixels takes more than 1.5 GB of memory; at most %3 can be made of this picture, or choose another type</source>
-        <translation>Un %1 de %2 mégapixels prend plus de 1,5 Go de mémoire ; pour cette image, %3 au plus sont possibles, ou choisissez un autre type</translation>
+        <source>%1 with %2 megapixels needs more than 1.5 GB of memory; use at most %3, or choose another type</source>
+        <translation>Un %1 de %2 mégapixels demande plus de 1,5 Go de mémoire ; utilisez au plus %3, ou choisissez un autre format</translation>
+    </message>
+    <message>
+        <source>it is up to date</source>
+        <translation>elle est à jour</translation>
     </message>
 </context>
 <context>
@@ -7931,11 +7930,11 @@
         <translation>Saisissez un nom.</translation>
     </message>
     <message>
-        <source>A name has no slash and does not begin with a dot.</source>
-        <translation>Un nom n’a pas de barre oblique et ne commence pas par un point.</translation>
+        <source>A name cannot contain a slash or begin with a dot.</source>
+        <translation>Un nom ne peut ni contenir de barre oblique ni commencer par un point.</translation>
     </message>
     <message>
-        <source>There is a recipe “%1” already.</source>
+        <source>A recipe named “%1” already exists.</source>
         <translation>Il y a déjà une recette « %1 ».</translation>
     </message>
     <message>
@@ -7943,11 +7942,11 @@
         <translation>Lecture de %1 impossible.</translation>
     </message>
     <message>
-        <source>%1 is no recipe: %2</source>
+        <source>%1 is not a recipe: %2</source>
         <translation>%1 n’est pas une recette : %2</translation>
     </message>
     <message>
-        <source>%1 could not be put into the trash.</source>
+        <source>%1 could not be moved to the trash.</source>
         <translation>%1 n’a pas pu être mis à la corbeille.</translation>
     </message>
 </context>
@@ -7959,11 +7958,11 @@
     </message>
     <message>
         <source>%1, changed</source>
-        <translation>%1, modifié</translation>
+        <translation>%1, modifiée</translation>
     </message>
     <message>
         <source>changed</source>
-        <translation>modifié</translation>
+        <translation>modifiée</translation>
     </message>
     <message>
         <source>Opened from %1</source>
@@ -8014,12 +8013,12 @@
         <translation>Supprimer la recette</translation>
     </message>
     <message>
-        <source>Put the recipe “%1” into the trash?</source>
+        <source>Move the recipe “%1” to the trash?</source>
         <translation>Mettre la recette « %1 » à la corbeille ?</translation>
     </message>
     <message>
-        <source>What it does stays as it is shown now.</source>
-        <translation>Ce qu’elle fait reste tel qu’affiché.</translation>
+        <source>Your current settings are kept.</source>
+        <translation>Vos réglages actuels sont gardés.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -8088,8 +8087,8 @@
         <translation>prêt</translation>
     </message>
     <message>
-        <source>the recipe needs attention</source>
-        <translation>la recette demande attention</translation>
+        <source>check the recipe</source>
+        <translation>vérifier la recette</translation>
     </message>
     <message>
         <source>not a readable picture</source>
@@ -8099,10 +8098,10 @@
 <context>
     <name>recipe-run</name>
     <message numerus="yes">
-        <source>Simulation: %n files would be written</source>
+        <source>Dry run: %n files would be written</source>
         <translation>
-            <numerusform>Simulation : %n fichier serait écrit</numerusform>
-            <numerusform>Simulation : %n fichiers seraient écrits</numerusform>
+            <numerusform>Essai à blanc : %n fichier serait écrit</numerusform>
+            <numerusform>Essai à blanc : %n fichiers seraient écrits</numerusform>
         </translation>
     </message>
     <message>
@@ -8144,8 +8143,8 @@
 <context>
     <name>recipe-step</name>
     <message>
-        <source>Look at what this recipe reads and writes, and allow it first.</source>
-        <translation>Regardez d’abord ce que cette recette lit et écrit, puis autorisez-la.</translation>
+        <source>Check what this recipe reads and writes, and allow it first.</source>
+        <translation>Vérifiez d’abord ce que cette recette lit et écrit, puis autorisez-la.</translation>
     </message>
 </context>
 <context>
@@ -8155,7 +8154,7 @@
         <translation>Redimensionner</translation>
     </message>
     <message>
-        <source>By a side, a percentage, megapixels, or into a box</source>
+        <source>To a side, a percentage, megapixels or a box</source>
         <translation>Selon un côté, un pourcentage, des mégapixels ou un cadre</translation>
     </message>
     <message>
@@ -8167,8 +8166,8 @@
         <translation>Recadrer</translation>
     </message>
     <message>
-        <source>To a ratio, a size, or less at the edges</source>
-        <translation>Selon un rapport, une taille, ou moins sur les bords</translation>
+        <source>To a ratio or size, or trim the edges</source>
+        <translation>Selon un rapport ou des dimensions, ou rogner les bords</translation>
     </message>
     <message>
         <source>cut trim ratio</source>
@@ -8191,8 +8190,8 @@
         <translation>Miroir</translation>
     </message>
     <message>
-        <source>Left and right, or top and bottom</source>
-        <translation>Gauche et droite, ou haut et bas</translation>
+        <source>Horizontally or vertically</source>
+        <translation>Horizontalement ou verticalement</translation>
     </message>
     <message>
         <source>mirror</source>
@@ -8203,8 +8202,8 @@
         <translation>Arrondir les coins</translation>
     </message>
     <message>
-        <source>Rectangle, circle, ellipse, with a band</source>
-        <translation>Rectangle, cercle, ellipse, avec une bande</translation>
+        <source>Rectangle, circle or ellipse, with a border</source>
+        <translation>Rectangle, cercle ou ellipse, avec bordure</translation>
     </message>
     <message>
         <source>radius circle</source>
@@ -8215,8 +8214,8 @@
         <translation>Fond</translation>
     </message>
     <message>
-        <source>Under transparent parts</source>
-        <translation>Sous le transparent</translation>
+        <source>Fills transparent parts</source>
+        <translation>Remplit les parties transparentes</translation>
     </message>
     <message>
         <source>colour pattern transparent</source>
@@ -8227,7 +8226,7 @@
         <translation>Cadre</translation>
     </message>
     <message>
-        <source>Around the picture, on all sides</source>
+        <source>Around the picture on all sides</source>
         <translation>Autour de l’image, de tous les côtés</translation>
     </message>
     <message>
@@ -8251,8 +8250,8 @@
         <translation>Accentuer</translation>
     </message>
     <message>
-        <source>For viewing at the size at that point</source>
-        <translation>Pour l’affichage à la taille à ce stade</translation>
+        <source>For the size at that point</source>
+        <translation>Pour les dimensions à ce stade</translation>
     </message>
     <message>
         <source>crisp unsharp</source>
@@ -8280,27 +8279,27 @@
     </message>
     <message>
         <source>Longest side %1</source>
-        <translation>Plus grand côté %1</translation>
+        <translation>Grand côté %1</translation>
     </message>
     <message>
         <source>Shortest side %1</source>
-        <translation>Plus petit côté %1</translation>
+        <translation>Petit côté %1</translation>
     </message>
     <message>
         <source>Box %1</source>
         <translation>Cadre %1</translation>
     </message>
     <message>
-        <source>%1 % less</source>
-        <translation>%1 % de moins</translation>
+        <source>Trim %1%</source>
+        <translation>Rogner %1 %</translation>
     </message>
     <message>
-        <source>%1 px less</source>
-        <translation>%1 px de moins</translation>
+        <source>Trim %1 px</source>
+        <translation>Rogner %1 px</translation>
     </message>
     <message>
-        <source>where the eye is drawn</source>
-        <translation>là où va le regard</translation>
+        <source>at the focus of attention</source>
+        <translation>au centre d’intérêt</translation>
     </message>
     <message>
         <source>no file chosen</source>
@@ -8352,7 +8351,7 @@
     </message>
     <message>
         <source>at most %1 kB</source>
-        <translation>au plus %1 ko</translation>
+        <translation>au plus %1 Ko</translation>
     </message>
     <message>
         <source>Output %1: %2</source>
@@ -8362,8 +8361,8 @@
 <context>
     <name>recipes</name>
     <message>
-        <source>Simulate: %1</source>
-        <translation>Simuler&#x202f;: %1</translation>
+        <source>Dry Run: %1</source>
+        <translation>Essai à blanc : %1</translation>
     </message>
     <message numerus="yes">
         <source>Replace %n Originals</source>
@@ -8395,29 +8394,29 @@
 <context>
     <name>recovered</name>
     <message numerus="yes">
-        <source>%n items have their new names</source>
+        <source>%n files have their new names</source>
         <translation>
-            <numerusform>%n élément a son nouveau nom</numerusform>
-            <numerusform>%n éléments ont leur nouveau nom</numerusform>
+            <numerusform>%n fichier a son nouveau nom</numerusform>
+            <numerusform>%n fichiers ont leur nouveau nom</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n items were taken back</source>
+        <source>%n files restored</source>
         <translation>
-            <numerusform>%n élément a été remis en place</numerusform>
-            <numerusform>%n éléments ont été remis en place</numerusform>
+            <numerusform>%n fichier rétabli</numerusform>
+            <numerusform>%n fichiers rétablis</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>the turn of %n items had not come</source>
+        <source>%n files not started</source>
         <translation>
-            <numerusform>le tour de %n élément n’était pas venu</numerusform>
-            <numerusform>le tour de %n éléments n’était pas venu</numerusform>
+            <numerusform>%n fichier non commencé</numerusform>
+            <numerusform>%n fichiers non commencés</numerusform>
         </translation>
     </message>
     <message>
-        <source>%1 was interrupted and is ended now</source>
-        <translation>«&#x202f;%1&#x202f;» a été interrompu et est maintenant clos</translation>
+        <source>%1 was interrupted and has been cleaned up</source>
+        <translation>« %1 » a été interrompu et a été nettoyé</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -8459,17 +8458,10 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n folders have their old names again</source>
+        <source>%n names restored</source>
         <translation>
-            <numerusform>%n dossier a retrouvé son ancien nom</numerusform>
-            <numerusform>%n dossiers ont retrouvé leur ancien nom</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n files have their old names again</source>
-        <translation>
-            <numerusform>%n fichier a retrouvé son ancien nom</numerusform>
-            <numerusform>%n fichiers ont retrouvé leur ancien nom</numerusform>
+            <numerusform>%n nom rétabli</numerusform>
+            <numerusform>%n noms rétablis</numerusform>
         </translation>
     </message>
     <message>
@@ -8484,24 +8476,24 @@
         <translation>Texte</translation>
     </message>
     <message>
-        <source>Count by</source>
+        <source>Increment</source>
         <translation>Pas</translation>
     </message>
     <message>
-        <source>Begin anew</source>
-        <translation>Recommencer</translation>
+        <source>Restart counter</source>
+        <translation>Redémarrer le compteur</translation>
     </message>
     <message>
         <source>Never</source>
         <translation>Jamais</translation>
     </message>
     <message>
-        <source>In each folder</source>
-        <translation>Dans chaque dossier</translation>
+        <source>For each folder</source>
+        <translation>Pour chaque dossier</translation>
     </message>
     <message>
-        <source>On each date taken</source>
-        <translation>À chaque date de prise de vue</translation>
+        <source>For each date taken</source>
+        <translation>Pour chaque date de prise de vue</translation>
     </message>
     <message>
         <source>Case</source>
@@ -8552,10 +8544,6 @@
         <translation>Avant</translation>
     </message>
     <message>
-        <source>Behind</source>
-        <translation>Après</translation>
-    </message>
-    <message>
         <source>From</source>
         <translation>Depuis</translation>
     </message>
@@ -8572,16 +8560,16 @@
         <translation>À partir du</translation>
     </message>
     <message>
-        <source>Split at</source>
-        <translation>Couper à</translation>
+        <source>Separator</source>
+        <translation>Séparateur</translation>
     </message>
     <message>
         <source>Pieces</source>
         <translation>Morceaux</translation>
     </message>
     <message>
-        <source>Join by</source>
-        <translation>Réunir par</translation>
+        <source>Join with</source>
+        <translation>Réunir avec</translation>
     </message>
     <message>
         <source>Keep</source>
@@ -8608,7 +8596,7 @@
         <translation>unis à la lettre (NFC)</translation>
     </message>
     <message>
-        <source>apart (NFD)</source>
+        <source>as separate marks (NFD)</source>
         <translation>séparés (NFD)</translation>
     </message>
     <message>
@@ -8648,10 +8636,10 @@
         <translation>Nom et extension</translation>
     </message>
     <message numerus="yes">
-        <source>%n names are too short for this and stay as they are.</source>
+        <source>%n names are too short and stay unchanged.</source>
         <translation>
-            <numerusform>%n nom est trop court pour cela et reste tel quel.</numerusform>
-            <numerusform>%n noms sont trop courts pour cela et restent tels quels.</numerusform>
+            <numerusform>%n nom est trop court et reste inchangé.</numerusform>
+            <numerusform>%n noms sont trop courts et restent inchangés.</numerusform>
         </translation>
     </message>
 </context>
@@ -8678,18 +8666,18 @@
         <translation>Chercher une valeur</translation>
     </message>
     <message>
-        <source>A chain can have up to 30 steps.</source>
-        <translation>Une chaîne peut avoir jusqu’à 30 étapes.</translation>
+        <source>You can use up to 30 steps.</source>
+        <translation>Vous pouvez utiliser jusqu’à 30 étapes.</translation>
     </message>
     <message>
-        <source>A step needs attention: names are not made before it is right.</source>
-        <translation>Une étape est à corriger&#x202f;: d’ici là, pas de nouveaux noms.</translation>
+        <source>Fix the marked step to see the new names.</source>
+        <translation>Corrigez l’étape signalée pour voir les nouveaux noms.</translation>
     </message>
     <message numerus="yes">
-        <source>The counter runs past its width: the last number has %n digits.</source>
+        <source>The counter needs more digits: the last number has %n.</source>
         <translation>
-            <numerusform>Le compteur dépasse sa largeur : le dernier numéro a %n chiffre.</numerusform>
-            <numerusform>Le compteur dépasse sa largeur : le dernier numéro a %n chiffres.</numerusform>
+            <numerusform>Le compteur demande plus de chiffres : le dernier numéro en a %n.</numerusform>
+            <numerusform>Le compteur demande plus de chiffres : le dernier numéro en a %n.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -8719,12 +8707,12 @@
         <translation>Extensions en minuscules</translation>
     </message>
     <message>
-        <source>Date in front</source>
-        <translation>Date devant</translation>
+        <source>Date prefix</source>
+        <translation>Date en préfixe</translation>
     </message>
     <message>
-        <source>Number behind</source>
-        <translation>Numéro derrière</translation>
+        <source>Number suffix</source>
+        <translation>Numéro en suffixe</translation>
     </message>
 </context>
 <context>
@@ -8742,11 +8730,11 @@
         <translation>sans date de prise de vue</translation>
     </message>
     <message>
-        <source>no date of creation</source>
+        <source>no date created</source>
         <translation>sans date de création</translation>
     </message>
     <message>
-        <source>no date of change</source>
+        <source>no date changed</source>
         <translation>sans date de modification</translation>
     </message>
     <message>
@@ -8766,12 +8754,12 @@
         <translation>%1&#x202f;: «&#x202f;%2&#x202f;»</translation>
     </message>
     <message>
-        <source>a letter and its accent are parted</source>
-        <translation>une lettre et son accent sont séparés</translation>
+        <source>separates a letter from its accent</source>
+        <translation>sépare une lettre de son accent</translation>
     </message>
     <message>
-        <source>a character would be cut in two</source>
-        <translation>un caractère serait coupé en deux</translation>
+        <source>would split a character</source>
+        <translation>couperait un caractère en deux</translation>
     </message>
 </context>
 <context>
@@ -8810,7 +8798,7 @@
         <translation>Hauteur</translation>
     </message>
     <message>
-        <source>Longest</source>
+        <source>Longest side</source>
         <translation>Grand côté</translation>
     </message>
     <message>
@@ -8818,28 +8806,24 @@
         <translation>Cadre</translation>
     </message>
     <message>
-        <source>Fill the box and cut</source>
-        <translation>Remplir le cadre et rogner</translation>
+        <source>Fill (crops)</source>
+        <translation>Remplir (rogne)</translation>
     </message>
     <message>
-        <source>Stretch to the box</source>
-        <translation>Étirer au cadre</translation>
+        <source>Stretch</source>
+        <translation>Étirer</translation>
     </message>
     <message>
-        <source>Longest side</source>
-        <translation>Grand côté</translation>
+        <source>Percentage</source>
+        <translation>Pourcentage</translation>
     </message>
     <message>
-        <source>Per cent</source>
-        <translation>Pour cent</translation>
+        <source>Fit inside</source>
+        <translation>Ajuster</translation>
     </message>
     <message>
-        <source>Fit into the box</source>
-        <translation>Ajuster au cadre</translation>
-    </message>
-    <message>
-        <source>Pad to the box</source>
-        <translation>Compléter jusqu’au cadre</translation>
+        <source>Pad</source>
+        <translation>Compléter</translation>
     </message>
 </context>
 <context>
@@ -8904,11 +8888,11 @@
         <translation>hauteur %1</translation>
     </message>
     <message>
-        <source>longest %1</source>
+        <source>longest side %1</source>
         <translation>grand côté %1</translation>
     </message>
     <message>
-        <source>percent %1</source>
+        <source>%1 percent</source>
         <translation>à %1 %</translation>
     </message>
     <message>
@@ -8927,7 +8911,7 @@
 <context>
     <name>resolution-row</name>
     <message>
-        <source>Picture’s own</source>
+        <source>Same as the picture</source>
         <translation>celle de l’image</translation>
     </message>
     <message>
@@ -8942,34 +8926,34 @@
 <context>
     <name>risky-names</name>
     <message>
-        <source>other systems keep the name %1 for themselves</source>
+        <source>other systems reserve the name %1</source>
         <translation>d’autres systèmes se réservent le nom %1</translation>
     </message>
     <message>
-        <source>other systems do not take %1</source>
+        <source>other systems do not allow %1</source>
         <translation>d’autres systèmes n’acceptent pas %1</translation>
     </message>
     <message>
-        <source>it has a control character in it</source>
-        <translation>le nom contient un caractère de contrôle</translation>
+        <source>contains a control character</source>
+        <translation>contient un caractère de contrôle</translation>
     </message>
     <message>
-        <source>it begins with a blank</source>
-        <translation>le nom commence par un espace</translation>
+        <source>starts with a space</source>
+        <translation>commence par un espace</translation>
     </message>
     <message>
-        <source>other systems take no blank or dot at the end</source>
+        <source>other systems do not allow a trailing space or dot</source>
         <translation>d’autres systèmes n’acceptent ni espace ni point à la fin</translation>
     </message>
 </context>
 <context>
     <name>room</name>
     <message>
-        <source>The files need %1, but only %2 are free for %3.</source>
+        <source>The files need %1, but only %2 is free for %3.</source>
         <translation>Les fichiers demandent %1, mais il ne reste que %2 pour %3.</translation>
     </message>
     <message>
-        <source>%1 are free</source>
+        <source>%1 free</source>
         <translation>%1 libres</translation>
     </message>
     <message>
@@ -8977,7 +8961,7 @@
         <translation>%1 à écrire</translation>
     </message>
     <message>
-        <source>too little room (needs %1, %2 are free)</source>
+        <source>not enough space (needs %1, %2 free)</source>
         <translation>pas assez de place (il faut %1, %2 libres)</translation>
     </message>
 </context>
@@ -8987,16 +8971,16 @@
         <source>Round Corners</source>
         <translation>Arrondir les coins</translation>
     </message>
-    <message numerus="yes">
-        <source>Round %n Pictures</source>
-        <translation>
-            <numerusform>Arrondir %n image</numerusform>
-            <numerusform>Arrondir %n images</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Rounding corners</source>
         <translation>L’arrondissement des coins</translation>
+    </message>
+    <message numerus="yes">
+        <source>Round the Corners of %n Pictures</source>
+        <translation>
+            <numerusform>Arrondir les coins de %n image</numerusform>
+            <numerusform>Arrondir les coins de %n images</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -9056,20 +9040,20 @@
         <translation>sur %1</translation>
     </message>
     <message>
-        <source>band of %1 px</source>
-        <translation>bande de %1 px</translation>
+        <source>border of %1 px</source>
+        <translation>bordure de %1 px</translation>
     </message>
     <message>
         <source>Enter a radius from 0 to %1.</source>
         <translation>Saisissez un rayon de 0 à %1.</translation>
     </message>
     <message>
-        <source>Enter a width of the band from 0 to %1.</source>
-        <translation>Saisissez une largeur de bande de 0 à %1.</translation>
+        <source>Enter a border width from 0 to %1.</source>
+        <translation>Saisissez une largeur de bordure de 0 à %1.</translation>
     </message>
     <message>
-        <source>the band would cover all of it</source>
-        <translation>la bande couvrirait toute l’image</translation>
+        <source>the border would cover the whole picture</source>
+        <translation>la bordure couvrirait toute l’image</translation>
     </message>
     <message>
         <source>The circle is cut from the square in the middle.</source>
@@ -9145,8 +9129,8 @@
         <translation>Enregistré</translation>
     </message>
     <message>
-        <source>Choose a picture to save</source>
-        <translation>Choisissez une image à enregistrer</translation>
+        <source>Choose a picture to save.</source>
+        <translation>Choisissez une image à enregistrer.</translation>
     </message>
     <message>
         <source>Saved %1, %2</source>
@@ -9165,8 +9149,8 @@
         <translation>Fermer</translation>
     </message>
     <message>
-        <source>Wait until the picture is saved</source>
-        <translation>Attendez que l’image soit enregistrée</translation>
+        <source>Wait until the picture has been saved.</source>
+        <translation>Attendez que l’image soit enregistrée.</translation>
     </message>
     <message>
         <source>Saving %1…</source>
@@ -9180,7 +9164,7 @@
 <context>
     <name>script::ScriptEngine</name>
     <message>
-        <source>Cannot read %1: there is no such file</source>
+        <source>Cannot read %1: no such file</source>
         <translation>Lecture de %1 impossible&#x202f;: ce fichier n’existe pas</translation>
     </message>
     <message>
@@ -9191,7 +9175,7 @@
 <context>
     <name>settings-watch</name>
     <message>
-        <source>Settings cannot be written. What you change holds until you quit.</source>
+        <source>Settings cannot be saved. Your changes apply until you quit.</source>
         <translation>Les réglages ne peuvent pas être enregistrés. Vos changements valent jusqu’à la fermeture.</translation>
     </message>
 </context>
@@ -9367,7 +9351,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n links made</source>
+        <source>%n links created</source>
         <translation>
             <numerusform>%n lien créé</numerusform>
             <numerusform>%n liens créés</numerusform>
@@ -9382,10 +9366,10 @@
         <translation>Dossier</translation>
     </message>
     <message numerus="yes">
-        <source>%n files put back</source>
+        <source>%n files restored</source>
         <translation>
-            <numerusform>%n fichier remis en place</numerusform>
-            <numerusform>%n fichiers remis en place</numerusform>
+            <numerusform>%n fichier rétabli</numerusform>
+            <numerusform>%n fichiers rétablis</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -9414,7 +9398,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n folders made</source>
+        <source>%n folders created</source>
         <translation>
             <numerusform>%n dossier créé</numerusform>
             <numerusform>%n dossiers créés</numerusform>
@@ -9428,8 +9412,8 @@
 <context>
     <name>sort-pane</name>
     <message>
-        <source>Folder of their own</source>
-        <translation>Dossier à part</translation>
+        <source>Put in folder</source>
+        <translation>Mettre dans le dossier</translation>
     </message>
     <message>
         <source>Use date created</source>
@@ -9440,8 +9424,8 @@
         <translation>Date de modification</translation>
     </message>
     <message>
-        <source>Leave where they are</source>
-        <translation>Laisser sur place</translation>
+        <source>Do not move</source>
+        <translation>Ne pas déplacer</translation>
     </message>
     <message>
         <source>Move</source>
@@ -9456,8 +9440,8 @@
         <translation>Lier</translation>
     </message>
     <message>
-        <source>Number the file</source>
-        <translation>Numéroter le fichier</translation>
+        <source>Keep both (add a number)</source>
+        <translation>Garder les deux (numéroter)</translation>
     </message>
     <message>
         <source>Skip</source>
@@ -9468,11 +9452,11 @@
         <translation>Les originaux restent où ils sont.</translation>
     </message>
     <message>
-        <source>Links lead to the files where they are now.</source>
+        <source>Links point to the files where they are now.</source>
         <translation>Les liens mènent aux fichiers là où ils sont.</translation>
     </message>
     <message>
-        <source>Own pattern</source>
+        <source>Custom pattern</source>
         <translation>Modèle personnel</translation>
     </message>
     <message>
@@ -9496,8 +9480,8 @@
         <translation>%1 n’a pas de date et reste.</translation>
     </message>
     <message>
-        <source>%1 goes into %2</source>
-        <translation>%1 va dans %2</translation>
+        <source>%1 → %2</source>
+        <translation>%1 → %2</translation>
     </message>
 </context>
 <context>
@@ -9574,27 +9558,27 @@
         <translation>date de modification</translation>
     </message>
     <message>
-        <source>no date taken: stays</source>
-        <translation>sans date&#x202f;: reste</translation>
+        <source>no date taken: not moved</source>
+        <translation>sans date : non déplacé</translation>
     </message>
     <message>
-        <source>a file has the name of the folder: %1</source>
-        <translation>un fichier porte le nom du dossier&#x202f;: %1</translation>
+        <source>a file already has this folder name: %1</source>
+        <translation>un fichier porte déjà le nom du dossier : %1</translation>
     </message>
     <message>
-        <source>The file states no date on which it was taken.</source>
-        <translation>Le fichier n’indique pas de date de prise de vue.</translation>
+        <source>The file has no date taken.</source>
+        <translation>Le fichier n’a pas de date de prise de vue.</translation>
     </message>
     <message>
-        <source>It lies in such a folder already.</source>
+        <source>It is already in such a folder.</source>
         <translation>Il est déjà dans un tel dossier.</translation>
     </message>
 </context>
 <context>
     <name>sort-tree</name>
     <message>
-        <source>No file will go anywhere.</source>
-        <translation>Aucun fichier n’ira dans un dossier.</translation>
+        <source>No file will be moved.</source>
+        <translation>Aucun fichier ne sera déplacé.</translation>
     </message>
     <message>
         <source>%1 into %2</source>
@@ -9619,10 +9603,10 @@
         <translation>%1 (%2)</translation>
     </message>
     <message numerus="yes">
-        <source>%n folders will be made, counting parents</source>
+        <source>%n new folders, including parents</source>
         <translation>
-            <numerusform>%n dossier sera créé, dossiers parents compris</numerusform>
-            <numerusform>%n dossiers seront créés, dossiers parents compris</numerusform>
+            <numerusform>%n nouveau dossier, parents compris</numerusform>
+            <numerusform>%n nouveaux dossiers, parents compris</numerusform>
         </translation>
     </message>
 </context>
@@ -9685,8 +9669,8 @@
         <translation>Objectif</translation>
     </message>
     <message>
-        <source>Name up to a number</source>
-        <translation>Nom jusqu’à un chiffre</translation>
+        <source>Name up to the first digit</source>
+        <translation>Nom jusqu’au premier chiffre</translation>
     </message>
     <message>
         <source>First letter</source>
@@ -9705,24 +9689,24 @@
         <translation>Un dossier ne peut pas s’appeler «&#x202f;.&#x202f;» ou «&#x202f;..&#x202f;».</translation>
     </message>
     <message>
-        <source>A folder cannot have a name of blanks only.</source>
+        <source>A folder name cannot consist of spaces only.</source>
         <translation>Le nom d’un dossier ne peut pas être fait d’espaces seulement.</translation>
     </message>
     <message>
-        <source>The name of a folder is too long.</source>
+        <source>A folder name is too long.</source>
         <translation>Le nom d’un dossier est trop long.</translation>
     </message>
     <message>
-        <source>A pattern cannot hold control characters.</source>
+        <source>A pattern cannot contain control characters.</source>
         <translation>Un modèle ne peut pas contenir de caractères de contrôle.</translation>
     </message>
     <message>
-        <source>Enter a name for the folder of pictures without a date.</source>
+        <source>Enter a folder name for pictures without a date.</source>
         <translation>Saisissez un nom pour le dossier des images sans date.</translation>
     </message>
     <message>
-        <source>“%1” cannot be the name of a folder.</source>
-        <translation>«&#x202f;%1&#x202f;» ne peut pas être le nom d’un dossier.</translation>
+        <source>“%1” is not a valid folder name.</source>
+        <translation>« %1 » n’est pas un nom de dossier valide.</translation>
     </message>
     <message>
         <source>Undated</source>
@@ -9772,18 +9756,18 @@
         <translation>Annuler</translation>
     </message>
     <message>
-        <source>Continue</source>
-        <translation>Continuer</translation>
+        <source>Resume</source>
+        <translation>Reprendre</translation>
     </message>
     <message>
         <source>Pause</source>
         <translation>Pause</translation>
     </message>
     <message numerus="yes">
-        <source>Only what failed is shown: %n of the list</source>
+        <source>Only failed pictures are shown: %n</source>
         <translation>
-            <numerusform>Seuls les échecs sont affichés : %n de la liste</numerusform>
-            <numerusform>Seuls les échecs sont affichés : %n de la liste</numerusform>
+            <numerusform>Seules les images en échec sont affichées : %n</numerusform>
+            <numerusform>Seules les images en échec sont affichées : %n</numerusform>
         </translation>
     </message>
     <message>
@@ -9822,8 +9806,8 @@
         <translation>Remplacer un texte</translation>
     </message>
     <message>
-        <source>One text by another, wherever it occurs</source>
-        <translation>Un texte par un autre, partout où il figure</translation>
+        <source>Replaces a text everywhere in the name</source>
+        <translation>Remplace un texte partout dans le nom</translation>
     </message>
     <message>
         <source>search find substitute delete</source>
@@ -9834,8 +9818,8 @@
         <translation>Insérer un texte</translation>
     </message>
     <message>
-        <source>At a place counted from the start or the end</source>
-        <translation>À une place comptée depuis le début ou la fin</translation>
+        <source>At a position counted from the start or the end</source>
+        <translation>À une position comptée depuis le début ou la fin</translation>
     </message>
     <message>
         <source>add position</source>
@@ -9846,7 +9830,7 @@
         <translation>Ajouter avant et après</translation>
     </message>
     <message>
-        <source>Text in front of the name and behind it</source>
+        <source>Text before and after the name</source>
         <translation>Du texte devant le nom et derrière</translation>
     </message>
     <message>
@@ -9854,15 +9838,15 @@
         <translation>préfixe suffixe joindre concaténer</translation>
     </message>
     <message>
-        <source>Strip characters</source>
-        <translation>Ôter des caractères</translation>
+        <source>Remove characters</source>
+        <translation>Supprimer des caractères</translation>
     </message>
     <message>
-        <source>A number of them from the left or the right</source>
+        <source>A number of characters from the left or the right</source>
         <translation>Un certain nombre, à gauche ou à droite</translation>
     </message>
     <message>
-        <source>remove cut trim shorten</source>
+        <source>strip cut trim shorten</source>
         <translation>enlever supprimer couper raccourcir</translation>
     </message>
     <message>
@@ -9870,7 +9854,7 @@
         <translation>Garder un extrait</translation>
     </message>
     <message>
-        <source>Only the characters at certain places</source>
+        <source>Only the characters at certain positions</source>
         <translation>Seulement les caractères à certaines places</translation>
     </message>
     <message>
@@ -9890,23 +9874,23 @@
         <translation>morceaux réordonner échanger diviser joindre</translation>
     </message>
     <message>
-        <source>Remove signs</source>
-        <translation>Ôter les signes</translation>
+        <source>Keep letters and digits</source>
+        <translation>Garder lettres et chiffres</translation>
     </message>
     <message>
-        <source>Keep letters, or letters and digits</source>
-        <translation>Garder les lettres, ou les lettres et les chiffres</translation>
+        <source>Removes all other characters</source>
+        <translation>Supprime tous les autres caractères</translation>
     </message>
     <message>
-        <source>non-letters clean punctuation digits</source>
+        <source>remove signs non-letters clean punctuation digits</source>
         <translation>nettoyer ponctuation chiffres enlever supprimer</translation>
     </message>
     <message>
         <source>Remove spaces</source>
-        <translation>Ôter les espaces</translation>
+        <translation>Supprimer les espaces</translation>
     </message>
     <message>
-        <source>All blanks, also between words</source>
+        <source>All spaces, also between words</source>
         <translation>Tous les espaces, même entre les mots</translation>
     </message>
     <message>
@@ -9914,23 +9898,23 @@
         <translation>blancs espaces enlever supprimer</translation>
     </message>
     <message>
-        <source>Fold accents</source>
-        <translation>Ôter les accents</translation>
+        <source>Remove accents (é → e)</source>
+        <translation>Supprimer les accents (é → e)</translation>
     </message>
     <message>
         <source>é becomes e</source>
         <translation>é devient e</translation>
     </message>
     <message>
-        <source>ascii umlaut diacritics plain</source>
+        <source>fold ascii umlaut diacritics plain</source>
         <translation>ascii tréma diacritiques simple enlever supprimer</translation>
     </message>
     <message>
-        <source>One writing of accents</source>
-        <translation>Unifier les accents</translation>
+        <source>Normalise accents</source>
+        <translation>Normaliser les accents</translation>
     </message>
     <message>
-        <source>For names that came from another system</source>
+        <source>For names that come from another system</source>
         <translation>Pour les noms venus d’un autre système</translation>
     </message>
     <message>
@@ -9942,7 +9926,7 @@
         <translation>Certains noms seulement</translation>
     </message>
     <message>
-        <source>The steps below work on names that fit</source>
+        <source>The steps below apply only to matching names</source>
         <translation>Les étapes suivantes ne touchent que les noms qui conviennent</translation>
     </message>
     <message>
@@ -9954,8 +9938,8 @@
         <translation>Compteur</translation>
     </message>
     <message>
-        <source>001, 002, 003 behind the name</source>
-        <translation>001, 002, 003 derrière le nom</translation>
+        <source>001, 002, 003 after the name</source>
+        <translation>001, 002, 003 après le nom</translation>
     </message>
     <message>
         <source>number sequence</source>
@@ -9966,7 +9950,7 @@
         <translation>Date de prise de vue</translation>
     </message>
     <message>
-        <source>In front of the name</source>
+        <source>Before the name</source>
         <translation>Devant le nom</translation>
     </message>
     <message>
@@ -9986,8 +9970,8 @@
         <translation>Appareil photo</translation>
     </message>
     <message>
-        <source>Behind the name</source>
-        <translation>Derrière le nom</translation>
+        <source>After the name</source>
+        <translation>Après le nom</translation>
     </message>
     <message>
         <source>model lens</source>
@@ -10054,7 +10038,7 @@
         <translation>%1, à %2 du début</translation>
     </message>
     <message>
-        <source>%1 before, %2 behind</source>
+        <source>%1 before, %2 after</source>
         <translation>%1 avant, %2 après</translation>
     </message>
     <message>
@@ -10081,23 +10065,23 @@
         <translation>à %1, morceaux %3, réunis par %2</translation>
     </message>
     <message>
-        <source>only letters stay</source>
+        <source>only letters are kept</source>
         <translation>seules les lettres restent</translation>
     </message>
     <message>
-        <source>only letters and digits stay</source>
+        <source>only letters and digits are kept</source>
         <translation>seuls les lettres et les chiffres restent</translation>
     </message>
     <message>
-        <source>no blanks are left</source>
-        <translation>il ne reste aucun espace</translation>
+        <source>all spaces are removed</source>
+        <translation>tous les espaces sont supprimés</translation>
     </message>
     <message>
         <source>é becomes e, others %1</source>
         <translation>é devient e, autres %1</translation>
     </message>
     <message>
-        <source>accents apart (NFD)</source>
+        <source>accents as separate marks (NFD)</source>
         <translation>accents séparés (NFD)</translation>
     </message>
     <message>
@@ -10120,16 +10104,16 @@
 <context>
     <name>targets</name>
     <message>
-        <source>The first page is drawn at 72 pixels per inch.</source>
+        <source>The first page is rendered at 72 pixels per inch.</source>
         <translation>La première page est rendue à 72 pixels par pouce.</translation>
     </message>
     <message>
-        <source>Layers become one picture.</source>
+        <source>Layers are merged into one picture.</source>
         <translation>Les calques sont réunis en une image.</translation>
     </message>
     <message>
-        <source>Small files for showing. Fine detail is lost, the more the lower the quality; transparent parts get a colour and 16 bits become 8. Colour profile and metadata are kept.</source>
-        <translation>Petits fichiers à montrer. De fins détails se perdent, d’autant plus que la qualité est basse&#x202f;; les parties transparentes reçoivent une couleur et 16 bits deviennent 8. Profil de couleurs et métadonnées sont conservés.</translation>
+        <source>Small files for sharing. The lower the quality, the more detail is lost. Transparent parts get a colour and 16 bits become 8. Colour profile and metadata are kept.</source>
+        <translation>Petits fichiers à partager. Plus la qualité est basse, plus les détails se perdent. Les parties transparentes reçoivent une couleur et 16 bits deviennent 8. Profil de couleurs et métadonnées sont conservés.</translation>
     </message>
     <message>
         <source>Nothing is lost: pixels, transparency, 16 bits, colour profile and metadata are kept.</source>
@@ -10140,28 +10124,28 @@
         <translation>Rien ne se perd&#x202f;: pixels, transparence, 16 bits, CMJN, profil de couleurs et métadonnées sont conservés. Gros fichiers.</translation>
     </message>
     <message>
-        <source>One page of the picture’s own size. A JPEG goes in as it is; others without loss. Of the metadata what XMP has words for is kept.</source>
-        <translation>Une page de la taille de l’image. Un JPEG y entre tel quel, le reste sans perte. Des métadonnées, ce que XMP peut exprimer est conservé.</translation>
+        <source>One page of the size of the picture. A JPEG is included unchanged, other types without loss. Metadata is kept as far as XMP can hold it.</source>
+        <translation>Une page aux dimensions de l’image. Un JPEG est repris tel quel, les autres formats sans perte. Les métadonnées sont gardées dans la mesure où XMP peut les contenir.</translation>
     </message>
     <message>
-        <source>Loss that cannot be seen. Transparency, 16 bits and metadata are kept, and the colour profile where it fits in. Few programs show such files.</source>
-        <translation>Perte invisible. Transparence, 16 bits et métadonnées sont conservés, ainsi que le profil de couleurs quand il y entre. Peu de programmes montrent ces fichiers.</translation>
+        <source>Visually lossless. Transparency, 16 bits and metadata are kept, and most colour profiles. Few programs can open it.</source>
+        <translation>Sans perte visible. Transparence, 16 bits, métadonnées et la plupart des profils de couleurs sont conservés. Peu de programmes peuvent l’ouvrir.</translation>
     </message>
     <message>
-        <source>256 colours at most, and a pixel is either transparent or not; colours become sRGB. Of the metadata what XMP has words for is kept.</source>
-        <translation>256 couleurs au plus, et un pixel est transparent ou ne l’est pas&#x202f;; les couleurs passent en sRGB. Des métadonnées, ce que XMP peut exprimer est conservé.</translation>
+        <source>At most 256 colours. A pixel is either transparent or not. Colours become sRGB. Metadata is kept as far as XMP can hold it.</source>
+        <translation>256 couleurs au plus. Un pixel est transparent ou ne l’est pas. Les couleurs passent en sRGB. Les métadonnées sont gardées dans la mesure où XMP peut les contenir.</translation>
     </message>
     <message>
-        <source>Pixels and resolution only, in large files. Colours become sRGB, transparent parts get a colour, and 16 bits become 8.</source>
-        <translation>Seulement les pixels et la résolution, dans de gros fichiers. Les couleurs passent en sRGB, les parties transparentes reçoivent une couleur et 16 bits deviennent 8.</translation>
+        <source>Large files with pixels and resolution only. Colours become sRGB, transparent parts get a colour and 16 bits become 8.</source>
+        <translation>Gros fichiers avec pixels et résolution seulement. Les couleurs passent en sRGB, les parties transparentes reçoivent une couleur et 16 bits deviennent 8.</translation>
     </message>
     <message>
-        <source>It is %1 already; no pixel of it changes.</source>
-        <translation>C’est déjà du %1&#x202f;; aucun pixel n’en change.</translation>
+        <source>Already %1: no pixel changes.</source>
+        <translation>Déjà au format %1 : aucun pixel ne change.</translation>
     </message>
     <message>
-        <source>It is %1 already and is encoded again.</source>
-        <translation>C’est déjà du %1 et sera encodé de nouveau.</translation>
+        <source>Already %1: it will be encoded again.</source>
+        <translation>Déjà au format %1 : sera encodé de nouveau.</translation>
     </message>
     <message>
         <source>1 – smallest file</source>
@@ -10172,16 +10156,16 @@
         <translation>9 – la meilleure</translation>
     </message>
     <message>
-        <source>Small files for web pages. Fine detail is lost, the more the lower the quality, and 16 bits become 8. Transparency, colour profile and metadata are kept.</source>
-        <translation>Petits fichiers pour les pages web. De fins détails se perdent, d’autant plus que la qualité est basse, et 16 bits deviennent 8. Transparence, profil de couleurs et métadonnées sont conservés.</translation>
+        <source>Small files for web pages. The lower the quality, the more detail is lost. 16 bits become 8. Transparency, colour profile and metadata are kept.</source>
+        <translation>Petits fichiers pour les pages web. Plus la qualité est basse, plus les détails se perdent. 16 bits deviennent 8. Transparence, profil de couleurs et métadonnées sont conservés.</translation>
     </message>
     <message>
-        <source>Very small files for web pages, which take the longest to write. Fine detail is lost, the more the lower the quality, and 16 bits become 8. Transparency, colour profile and metadata are kept.</source>
-        <translation>Très petits fichiers pour les pages web, les plus longs à écrire. De fins détails se perdent, d’autant plus que la qualité est basse, et 16 bits deviennent 8. Transparence, profil de couleurs et métadonnées sont conservés.</translation>
+        <source>Very small files for web pages, which take the longest to write. The lower the quality, the more detail is lost. 16 bits become 8. Transparency, colour profile and metadata are kept.</source>
+        <translation>Très petits fichiers pour les pages web, les plus longs à écrire. Plus la qualité est basse, plus les détails se perdent. 16 bits deviennent 8. Transparence, profil de couleurs et métadonnées sont conservés.</translation>
     </message>
     <message>
-        <source>Small files for archives. Fine detail is lost, the more the lower the quality. Transparency, 16 bits, colour profile and metadata are kept. Few programs show such files.</source>
-        <translation>Petits fichiers pour les archives. De fins détails se perdent, d’autant plus que la qualité est basse. Transparence, 16 bits, profil de couleurs et métadonnées sont conservés. Peu de programmes montrent ces fichiers.</translation>
+        <source>Small files for archives. The lower the quality, the more detail is lost. Transparency, 16 bits, colour profile and metadata are kept. Few programs can open it.</source>
+        <translation>Petits fichiers pour les archives. Plus la qualité est basse, plus les détails se perdent. Transparence, 16 bits, profil de couleurs et métadonnées sont conservés. Peu de programmes peuvent l’ouvrir.</translation>
     </message>
 </context>
 <context>
@@ -10195,7 +10179,7 @@
         <translation>Extension</translation>
     </message>
     <message>
-        <source>Date taken, or else changed</source>
+        <source>Date taken, otherwise date changed</source>
         <translation>Date de prise de vue, sinon de modification</translation>
     </message>
     <message>
@@ -10247,7 +10231,7 @@
         <translation>Paysage</translation>
     </message>
     <message>
-        <source>Name of its folder</source>
+        <source>Name of the folder</source>
         <translation>Nom de son dossier</translation>
     </message>
     <message>
@@ -10255,36 +10239,36 @@
         <translation>Vacances</translation>
     </message>
     <message>
-        <source>“%1” is no form of a date: write it with yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss</source>
-        <translation>«&#x202f;%1&#x202f;» n’est pas une forme de date&#x202f;: écrivez-la avec yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss</translation>
+        <source>“%1” is not a valid date format. Use yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss</source>
+        <translation>« %1 » n’est pas un format de date valide. Utilisez yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss</translation>
     </message>
     <message>
-        <source>“%1” is no first number of a counter</source>
-        <translation>«&#x202f;%1&#x202f;» n’est pas un premier numéro de compteur</translation>
+        <source>“%1” is not a valid start number</source>
+        <translation>« %1 » n’est pas un numéro de départ valide</translation>
     </message>
     <message>
-        <source>“%1” takes no part of a name: write a number of letters, “word”, or “~” and words with commas between them</source>
-        <translation>«&#x202f;%1&#x202f;» ne prend aucune partie d’un nom&#x202f;: écrivez un nombre de lettres, «&#x202f;word&#x202f;», ou «&#x202f;~&#x202f;» et des mots séparés par des virgules</translation>
+        <source>“%1” does not select part of a name. Use a number of characters, “word”, or “~” and words separated by commas</source>
+        <translation>« %1 » ne sélectionne aucune partie d’un nom. Utilisez un nombre de caractères, « word », ou « ~ » et des mots séparés par des virgules</translation>
     </message>
     <message>
-        <source>“%1” is no form of a size: write “class” or “MB”</source>
-        <translation>«&#x202f;%1&#x202f;» n’est pas une forme de poids&#x202f;: écrivez «&#x202f;class&#x202f;» ou «&#x202f;MB&#x202f;»</translation>
+        <source>“%1” is not a valid size format. Use “class” or “MB”</source>
+        <translation>« %1 » n’est pas un format de poids valide. Utilisez « class » ou « MB »</translation>
     </message>
     <message>
-        <source>{%1} has no forms: leave out what stands behind its colon</source>
-        <translation>{%1} n’a pas de variantes&#x202f;: supprimez ce qui suit les deux-points</translation>
+        <source>{%1} takes no format. Remove the colon and what follows it</source>
+        <translation>{%1} n’accepte pas de format. Supprimez les deux-points et ce qui suit</translation>
     </message>
     <message>
-        <source>There is no token between the braces; a brace of its own is written {{</source>
-        <translation>Il n’y a pas de variable entre les accolades&#x202f;; une accolade seule s’écrit {{</translation>
+        <source>There is no token between the braces. To write a brace, type {{</source>
+        <translation>Il n’y a pas de variable entre les accolades. Pour une accolade, tapez {{</translation>
     </message>
     <message>
         <source>There is no token {%1}</source>
         <translation>La variable {%1} n’existe pas</translation>
     </message>
     <message>
-        <source>A brace is not closed; a brace of its own is written {{</source>
-        <translation>Une accolade n’est pas fermée&#x202f;; une accolade seule s’écrit {{</translation>
+        <source>A brace is not closed. To write a brace, type {{</source>
+        <translation>Une accolade n’est pas fermée. Pour une accolade, tapez {{</translation>
     </message>
     <message>
         <source>Jan Feb Mar Apr May Jun Jul Aug Sep Oct Nov Dec</source>
@@ -10423,42 +10407,60 @@
         <source>Rotate &amp; Flip</source>
         <translation>Rotation et miroir</translation>
     </message>
+    <message>
+        <source>Rotating</source>
+        <translation>Le pivotement</translation>
+    </message>
     <message numerus="yes">
-        <source>Turn %n Pictures</source>
+        <source>Rotate and Flip %n Pictures</source>
+        <translation>
+            <numerusform>Pivoter et retourner %n image</numerusform>
+            <numerusform>Pivoter et retourner %n images</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Flip %n Pictures</source>
+        <translation>
+            <numerusform>Retourner %n image</numerusform>
+            <numerusform>Retourner %n images</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Rotate %n Pictures</source>
         <translation>
             <numerusform>Pivoter %n image</numerusform>
             <numerusform>Pivoter %n images</numerusform>
         </translation>
     </message>
     <message>
-        <source>Rotating</source>
-        <translation>Le pivotement</translation>
+        <source>Nothing to do</source>
+        <translation>Rien à faire</translation>
     </message>
 </context>
 <context>
     <name>turn-pane</name>
     <message>
-        <source>not turned</source>
-        <translation>sans rotation</translation>
+        <source>No rotation</source>
+        <translation>Pas de rotation</translation>
     </message>
     <message>
-        <source>↺ to the left</source>
-        <translation>↺ vers la gauche</translation>
+        <source>↺ anticlockwise</source>
+        <translation>↺ sens antihoraire</translation>
     </message>
     <message>
-        <source>↻ to the right</source>
-        <translation>↻ vers la droite</translation>
+        <source>↻ clockwise</source>
+        <translation>↻ sens horaire</translation>
     </message>
 </context>
 <context>
     <name>turn-presets</name>
     <message>
-        <source>A quarter left</source>
-        <translation>Quart de tour à gauche</translation>
+        <source>90° anticlockwise</source>
+        <translation>90° sens antihoraire</translation>
     </message>
     <message>
-        <source>A quarter right</source>
-        <translation>Quart de tour à droite</translation>
+        <source>90° clockwise</source>
+        <translation>90° sens horaire</translation>
     </message>
     <message>
         <source>Upside down</source>
@@ -10472,11 +10474,11 @@
 <context>
     <name>turn-step</name>
     <message>
-        <source>Turned</source>
+        <source>Rotated</source>
         <translation>Pivotées</translation>
     </message>
     <message>
-        <source>turn %1°</source>
+        <source>rotate %1°</source>
         <translation>pivoter de %1°</translation>
     </message>
     <message>
@@ -10496,7 +10498,7 @@
         <translation>Choisissez un angle ou un miroir.</translation>
     </message>
     <message>
-        <source>Turned without loss.</source>
+        <source>Rotated without loss.</source>
         <translation>Rotation sans perte.</translation>
     </message>
     <message>
@@ -10504,8 +10506,8 @@
         <translation>La surface s’agrandit pour que les coins tiennent.</translation>
     </message>
     <message>
-        <source>The canvas grows so that the corners fit; what is beside the picture becomes white.</source>
-        <translation>La surface s’agrandit pour que les coins tiennent&#x202f;; ce qui est à côté de l’image devient blanc.</translation>
+        <source>The canvas grows so that the corners fit. The new corners become white.</source>
+        <translation>La surface s’agrandit pour que les coins tiennent. Les nouveaux coins deviennent blancs.</translation>
     </message>
 </context>
 <context>
@@ -10515,18 +10517,18 @@
         <translation>Annuler ce traitement</translation>
     </message>
     <message>
-        <source>This run wrote new files and moved none, so that there is nothing to take back: its results can be deleted.</source>
-        <translation>Ce traitement a écrit de nouveaux fichiers et n’en a déplacé aucun&#x202f;: il n’y a rien à remettre en place, et ses résultats peuvent être supprimés.</translation>
+        <source>This run wrote new files and moved none. To undo it, delete its results.</source>
+        <translation>Ce traitement a écrit de nouveaux fichiers et n’en a déplacé aucun. Pour l’annuler, supprimez ses résultats.</translation>
     </message>
     <message>
         <source>Redo</source>
         <translation>Rétablir</translation>
     </message>
     <message numerus="yes">
-        <source>%n files can be taken back.</source>
+        <source>%n files can be restored.</source>
         <translation>
-            <numerusform>%n fichier peut être remis en place.</numerusform>
-            <numerusform>%n fichiers peuvent être remis en place.</numerusform>
+            <numerusform>%n fichier peut être rétabli.</numerusform>
+            <numerusform>%n fichiers peuvent être rétablis.</numerusform>
         </translation>
     </message>
     <message>
@@ -10538,7 +10540,7 @@
         <translation>Aucun commentaire n’a été modifié.</translation>
     </message>
     <message>
-        <source>All its comments were reverted already.</source>
+        <source>All its comments have already been reverted.</source>
         <translation>Tous ses commentaires ont déjà été restaurés.</translation>
     </message>
     <message numerus="yes">
@@ -10549,7 +10551,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n were reverted before.</source>
+        <source>%n have already been reverted.</source>
         <translation>
             <numerusform>%n a déjà été restauré.</numerusform>
             <numerusform>%n ont déjà été restaurés.</numerusform>
@@ -10563,31 +10565,31 @@
 <context>
     <name>watching</name>
     <message>
-        <source>Pictures of a watched folder are written at once: turn Simulation off first.</source>
-        <translation>Les images d’un dossier surveillé sont écrites aussitôt : désactivez d’abord la simulation.</translation>
+        <source>Pictures in a watched folder are written at once: turn the dry run off first.</source>
+        <translation>Les images d’un dossier surveillé sont écrites aussitôt : désactivez d’abord l’essai à blanc.</translation>
     </message>
     <message>
-        <source>Nobody can be asked while a folder is watched: choose to number or to skip what is there already.</source>
-        <translation>Pendant la surveillance, personne ne peut répondre : choisissez de numéroter ou d’ignorer ce qui existe déjà.</translation>
+        <source>A watched folder cannot ask: choose to keep both or to skip existing files.</source>
+        <translation>Un dossier surveillé ne peut rien demander : choisissez de garder les deux ou d’ignorer les fichiers existants.</translation>
     </message>
     <message>
         <source>Watch a folder</source>
         <translation>Surveiller un dossier</translation>
     </message>
     <message>
-        <source>This folder is not there.</source>
+        <source>This folder does not exist.</source>
         <translation>Ce dossier n’existe pas.</translation>
     </message>
     <message>
-        <source>This folder is watched for the same by another window or program.</source>
-        <translation>Ce dossier est déjà surveillé pour la même tâche par une autre fenêtre ou un autre programme.</translation>
+        <source>Another window or program is already watching this folder for the same purpose.</source>
+        <translation>Une autre fenêtre ou un autre programme surveille déjà ce dossier dans le même but.</translation>
     </message>
     <message>
         <source>The folder cannot be watched: %1</source>
         <translation>Le dossier ne peut pas être surveillé : %1</translation>
     </message>
     <message>
-        <source>The folder “%1” is gone and is not watched any more.</source>
+        <source>The folder “%1” no longer exists and is no longer watched.</source>
         <translation>Le dossier « %1 » a disparu et n’est plus surveillé.</translation>
     </message>
     <message>
@@ -10695,7 +10697,7 @@
         <translation>Copyright, foncé</translation>
     </message>
     <message>
-        <source>Name of the file</source>
+        <source>File name</source>
         <translation>Nom du fichier</translation>
     </message>
     <message>
@@ -10730,8 +10732,8 @@
         <translation>Saisissez un texte.</translation>
     </message>
     <message>
-        <source>A watermark cannot count: leave out {counter}.</source>
-        <translation>Un filigrane ne peut pas compter&#x202f;: retirez {counter}.</translation>
+        <source>A watermark cannot contain {counter}.</source>
+        <translation>Un filigrane ne peut pas contenir {counter}.</translation>
     </message>
     <message>
         <source>There is no font “%1” on this computer. Choose another.</source>
@@ -10742,24 +10744,24 @@
         <translation>Choisissez une image.</translation>
     </message>
     <message>
-        <source>The picture “%1” is no longer there.</source>
-        <translation>L’image «&#x202f;%1&#x202f;» n’est plus là.</translation>
+        <source>The picture “%1” no longer exists.</source>
+        <translation>L’image « %1 » n’existe plus.</translation>
     </message>
     <message>
         <source>“%1” cannot be read as a picture.</source>
         <translation>«&#x202f;%1&#x202f;» ne peut pas être lu comme une image.</translation>
     </message>
     <message>
-        <source>Enter a size from 0.1 to 100 per cent.</source>
-        <translation>Saisissez une taille de 0,1 à 100 pour cent.</translation>
+        <source>Enter a size from 0.1% to 100%.</source>
+        <translation>Saisissez une taille de 0,1 % à 100 %.</translation>
     </message>
     <message>
-        <source>Enter a margin from 0 to 100 per cent.</source>
-        <translation>Saisissez une marge de 0 à 100 pour cent.</translation>
+        <source>Enter a margin from 0% to 100%.</source>
+        <translation>Saisissez une marge de 0 % à 100 %.</translation>
     </message>
     <message>
-        <source>Enter an opacity from 1 to 100 per cent.</source>
-        <translation>Saisissez une opacité de 1 à 100 pour cent.</translation>
+        <source>Enter an opacity from 1% to 100%.</source>
+        <translation>Saisissez une opacité de 1 % à 100 %.</translation>
     </message>
     <message>
         <source>Enter an angle from -180 to 180 degrees.</source>
@@ -10884,8 +10886,8 @@
         <translation>Cadre de recadrage</translation>
     </message>
     <message>
-        <source>%1 by %2 pixels, %3 from the left, %4 from the top</source>
-        <translation>%1 sur %2 pixels, %3 depuis la gauche, %4 depuis le haut</translation>
+        <source>%1 × %2 pixels, %3 from the left, %4 from the top</source>
+        <translation>%1 × %2 pixels, à %3 de la gauche, à %4 du haut</translation>
     </message>
 </context>
 <context>
@@ -10995,10 +10997,10 @@
     </message>
     <message>
         <source>Thumbnail of %1, left out of the run</source>
-        <translation>Miniature de %1, laissée de côté</translation>
+        <translation>Vignette de %1, laissée de côté</translation>
     </message>
     <message>
-        <source>%1 by the camera's own clock</source>
+        <source>%1 according to the camera clock</source>
         <translation>%1 selon l’horloge de l’appareil</translation>
     </message>
 </context>
@@ -11035,11 +11037,11 @@
         <translation>Copier</translation>
     </message>
     <message>
-        <source>Copy Place in Degrees</source>
+        <source>Copy Location in Degrees</source>
         <translation>Copier le lieu en degrés</translation>
     </message>
     <message>
-        <source>Copy Place in Minutes</source>
+        <source>Copy Location in Minutes</source>
         <translation>Copier le lieu en minutes</translation>
     </message>
 </context>
@@ -11083,7 +11085,7 @@
         <translation>Étiquettes, séparées par des virgules</translation>
     </message>
     <message>
-        <source>“%1” is there already. Replace it?</source>
+        <source>“%1” already exists. Replace it?</source>
         <translation>«&#x202f;%1&#x202f;» existe déjà. Le remplacer&#x202f;?</translation>
     </message>
 </context>
@@ -11104,8 +11106,8 @@
 <context>
     <name>window::StartUp</name>
     <message>
-        <source>Quorlin cannot start: a script of its windows failed.</source>
-        <translation>Quorlin ne peut pas démarrer&#x202f;: un script de ses fenêtres a échoué.</translation>
+        <source>Quorlin cannot start: a script of its interface failed.</source>
+        <translation>Quorlin ne peut pas démarrer : un script de son interface a échoué.</translation>
     </message>
 </context>
 <context>
@@ -11148,8 +11150,8 @@
 <context>
     <name>worker-job</name>
     <message>
-        <source>the picture is no longer there</source>
-        <translation>l’image n’est plus là</translation>
+        <source>the picture no longer exists</source>
+        <translation>l’image n’existe plus</translation>
     </message>
     <message>
         <source>the result is %1 instead of %2</source>
@@ -11159,8 +11161,8 @@
 <context>
     <name>write-plan</name>
     <message>
-        <source>name is taken: will ask</source>
-        <translation>nom déjà pris&#x202f;: question à venir</translation>
+        <source>file exists: will ask</source>
+        <translation>le fichier existe : question à venir</translation>
     </message>
     <message>
         <source>replaces original</source>
@@ -11182,16 +11184,16 @@
 <context>
     <name>write-run</name>
     <message>
-        <source>Name taken</source>
-        <translation>Nom déjà pris</translation>
+        <source>File exists</source>
+        <translation>Le fichier existe</translation>
     </message>
     <message>
-        <source>There is a file “%1” in the folder already.</source>
-        <translation>Il y a déjà un fichier «&#x202f;%1&#x202f;» dans le dossier.</translation>
+        <source>“%1” already exists in this folder.</source>
+        <translation>« %1 » existe déjà dans ce dossier.</translation>
     </message>
     <message>
-        <source>Number</source>
-        <translation>Numéroter</translation>
+        <source>Keep Both</source>
+        <translation>Garder les deux</translation>
     </message>
     <message>
         <source>Replace</source>
@@ -11203,7 +11205,7 @@
     </message>
     <message>
         <source>Cancel Run</source>
-        <translation>Tout arrêter</translation>
+        <translation>Interrompre le traitement</translation>
     </message>
     <message>
         <source>Do this for all</source>
@@ -11233,10 +11235,10 @@
         <translation>Arrêté. Rien n’a été écrit.</translation>
     </message>
     <message numerus="yes">
-        <source>Simulation: %n pictures would be written</source>
+        <source>Dry run: %n pictures would be written</source>
         <translation>
-            <numerusform>Simulation&#x202f;: %n image serait écrite</numerusform>
-            <numerusform>Simulation&#x202f;: %n images seraient écrites</numerusform>
+            <numerusform>Essai à blanc : %n image serait écrite</numerusform>
+            <numerusform>Essai à blanc : %n images seraient écrites</numerusform>
         </translation>
     </message>
     <message>
@@ -11256,8 +11258,8 @@
         <translation>en cours…</translation>
     </message>
     <message>
-        <source>cancelled before its turn</source>
-        <translation>arrêté avant son tour</translation>
+        <source>cancelled</source>
+        <translation>interrompu</translation>
     </message>
     <message numerus="yes">
         <source>%n pictures done</source>
@@ -11287,28 +11289,28 @@
         <translation>Arrêté&#x202f;:</translation>
     </message>
     <message>
-        <source>stopping after the pictures in progress</source>
+        <source>stopping after the current pictures</source>
         <translation>arrêt après les images en cours</translation>
     </message>
     <message>
-        <source>pausing after the pictures in progress</source>
+        <source>pausing after the current pictures</source>
         <translation>pause après les images en cours</translation>
     </message>
     <message>
-        <source>What is in them now goes to the trash (%1) and comes back with Undo.</source>
-        <translation>Leur contenu actuel va à la corbeille (%1) et revient avec Annuler.</translation>
+        <source>The replaced files (%1) go to the trash. Undo brings them back.</source>
+        <translation>Les fichiers remplacés (%1) vont à la corbeille. « Annuler » les ramène.</translation>
     </message>
     <message>
         <source>The disk is full</source>
         <translation>Le disque est plein</translation>
     </message>
     <message>
-        <source>There is no room left in %1.</source>
+        <source>There is no space left in %1.</source>
         <translation>Il n’y a plus de place dans %1.</translation>
     </message>
     <message>
-        <source>What is done stays. The run can go on when there is room, or in another folder.</source>
-        <translation>Ce qui est fait reste. Le traitement peut continuer quand il y a de la place, ou dans un autre dossier.</translation>
+        <source>Finished pictures are kept. Free some space and try again, or choose another folder.</source>
+        <translation>Les images terminées sont gardées. Libérez de la place et réessayez, ou choisissez un autre dossier.</translation>
     </message>
     <message>
         <source>Retry</source>
@@ -11330,8 +11332,8 @@
 <context>
     <name>writes</name>
     <message>
-        <source>Simulate: %1</source>
-        <translation>Simuler&#x202f;: %1</translation>
+        <source>Dry Run: %1</source>
+        <translation>Essai à blanc : %1</translation>
     </message>
     <message numerus="yes">
         <source>Replace %n Originals</source>
@@ -11352,8 +11354,8 @@
         </translation>
     </message>
     <message>
-        <source>Simulation: show, write nothing</source>
-        <translation>Simulation&#x202f;: montrer sans écrire</translation>
+        <source>Dry run: write nothing</source>
+        <translation>Essai à blanc : ne rien écrire</translation>
     </message>
 </context>
 <context>
@@ -11363,8 +11365,8 @@
         <translation>Choisissez un dossier de destination.</translation>
     </message>
     <message>
-        <source>“%1” is no name for a folder beside the originals.</source>
-        <translation>« %1 » n’est pas un nom pour un dossier à côté des originaux.</translation>
+        <source>“%1” is not a valid folder name.</source>
+        <translation>« %1 » n’est pas un nom de dossier valide.</translation>
     </message>
     <message>
         <source>%1 cannot be written, choose another file type</source>
@@ -11391,7 +11393,7 @@
         <translation>Saisissez un nom pour les résultats.</translation>
     </message>
     <message>
-        <source>A name cannot have “/” in it.</source>
+        <source>A name cannot contain “/”.</source>
         <translation>Un nom ne peut pas contenir «&#x202f;/&#x202f;».</translation>
     </message>
 </context>

@@ -28,16 +28,16 @@
         <translation>Sluiten</translation>
     </message>
     <message>
-        <source>What keeps those who read pictures from doing harm</source>
-        <translation>Wat voorkomt dat het lezen van foto’s schade doet</translation>
+        <source>How the processes that read pictures are confined</source>
+        <translation>Hoe de processen zijn afgeschermd die foto’s lezen</translation>
     </message>
     <message>
         <source>Copy Versions</source>
         <translation>Versies kopiëren</translation>
     </message>
     <message>
-        <source>Copy the versions, for a report of a fault</source>
-        <translation>De versies kopiëren, voor een foutmelding</translation>
+        <source>Copy the versions for a bug report</source>
+        <translation>De versies kopiëren voor een foutmelding</translation>
     </message>
 </context>
 <context>
@@ -51,19 +51,19 @@
         <translation>Fil&amp;teren…</translation>
     </message>
     <message>
-        <source>Add only some of the files, by type, size, date or name</source>
-        <translation>Alleen sommige bestanden toevoegen, op type, grootte, datum of naam</translation>
+        <source>Add only files of a certain type, size, date or name</source>
+        <translation>Alleen bestanden van een bepaald type, een bepaalde grootte, datum of naam toevoegen</translation>
     </message>
     <message>
         <source>T&amp;ypes</source>
         <translation>T&amp;ypen</translation>
     </message>
     <message>
-        <source>all, or for example: jpg, tif</source>
-        <translation>alle, of bijvoorbeeld: jpg, tif</translation>
+        <source>all, or such as jpg, tif</source>
+        <translation>alle, of bijvoorbeeld jpg, tif</translation>
     </message>
     <message>
-        <source>Types of files, by extension</source>
+        <source>File types, by extension</source>
         <translation>Bestandstypen, op extensie</translation>
     </message>
     <message>
@@ -71,8 +71,8 @@
         <translation>Naam be&amp;vat</translation>
     </message>
     <message>
-        <source>anything</source>
-        <translation>om het even wat</translation>
+        <source>any</source>
+        <translation>willekeurig</translation>
     </message>
     <message>
         <source>Part of the name</source>
@@ -103,8 +103,8 @@
         <translation>&amp;Datum van</translation>
     </message>
     <message>
-        <source>The date taken, or where a file states none, the day on which it was changed</source>
-        <translation>De opnamedatum, of waar een bestand die niet vermeldt, de dag van wijziging</translation>
+        <source>The date taken, or the date changed if the file has no date taken</source>
+        <translation>De opnamedatum, of de wijzigingsdatum als het bestand geen opnamedatum heeft</translation>
     </message>
     <message>
         <source>Date from</source>
@@ -149,19 +149,19 @@
         <translation>Patroon</translation>
     </message>
     <message>
-        <source>What lies under transparent parts</source>
-        <translation>Wat onder transparante delen ligt</translation>
+        <source>What fills transparent parts</source>
+        <translation>Wat transparante delen vult</translation>
     </message>
     <message>
-        <source>Colour under transparent parts</source>
-        <translation>Kleur onder transparante delen</translation>
+        <source>Colour for transparent parts</source>
+        <translation>Kleur voor transparante delen</translation>
     </message>
     <message>
-        <source>Pattern under transparent parts</source>
-        <translation>Patroon onder transparante delen</translation>
+        <source>Pattern for transparent parts</source>
+        <translation>Patroon voor transparante delen</translation>
     </message>
     <message>
-        <source>About patterns of your own</source>
+        <source>About your own patterns</source>
         <translation>Over eigen patronen</translation>
     </message>
     <message>
@@ -169,20 +169,16 @@
         <translation>Rand</translation>
     </message>
     <message>
-        <source>Band</source>
-        <translation>Binnenrand</translation>
+        <source>Border width</source>
+        <translation>Randbreedte</translation>
     </message>
     <message>
-        <source>Colour of the band</source>
-        <translation>Kleur van de binnenrand</translation>
+        <source>Border colour</source>
+        <translation>Randkleur</translation>
     </message>
     <message>
         <source> px</source>
         <translation> px</translation>
-    </message>
-    <message>
-        <source>Width of the band</source>
-        <translation>Breedte binnenrand</translation>
     </message>
     <message>
         <source>Result</source>
@@ -200,16 +196,16 @@
         <translation>Cameraklokken</translation>
     </message>
     <message>
-        <source>Where the clock of a camera was wrong, its dates are told later or earlier: in the order of the list, in new names and in folders. No file is changed.</source>
-        <translation>Liep de klok van een camera niet goed, dan worden de datums later of vroeger genoemd: in de volgorde van de lijst, in nieuwe namen en in mappen. Er wordt geen bestand gewijzigd.</translation>
+        <source>Correct the dates of a camera whose clock was wrong. This affects sorting, new names and folders. No file is changed.</source>
+        <translation>Corrigeer de datums van een camera waarvan de klok niet goed liep. Dit werkt door in de sortering, nieuwe namen en mappen. Er wordt geen bestand gewijzigd.</translation>
     </message>
     <message>
         <source>Ca&amp;mera</source>
         <translation>Ca&amp;mera</translation>
     </message>
     <message>
-        <source>Tell its &amp;dates</source>
-        <translation>De &amp;datums</translation>
+        <source>Move its &amp;dates</source>
+        <translation>De &amp;datums verschuiven</translation>
     </message>
     <message>
         <source>Later or earlier</source>
@@ -482,15 +478,15 @@
     <name>ConvertPane</name>
     <message>
         <source>Convert to</source>
-        <translation>Naar</translation>
+        <translation>Converteren naar</translation>
     </message>
     <message>
         <source>File type of the results</source>
         <translation>Bestandstype van de resultaten</translation>
     </message>
     <message>
-        <source>What the pictures become</source>
-        <translation>Wat de foto’s worden</translation>
+        <source>File type to convert to</source>
+        <translation>Bestandstype waarnaar wordt geconverteerd</translation>
     </message>
     <message>
         <source>Quality</source>
@@ -501,8 +497,8 @@
         <translation>JPEG-kwaliteit, 1 tot 9</translation>
     </message>
     <message>
-        <source>The higher, the finer and the larger</source>
-        <translation>Hoe hoger, hoe fijner en hoe groter</translation>
+        <source>Higher quality means larger files</source>
+        <translation>Hogere kwaliteit betekent grotere bestanden</translation>
     </message>
     <message>
         <source>Result</source>
@@ -528,8 +524,8 @@
         <translation>Pixels</translation>
     </message>
     <message>
-        <source>What the frame is given by</source>
-        <translation>Waarmee het kader wordt bepaald</translation>
+        <source>How the frame is set</source>
+        <translation>Hoe het kader wordt bepaald</translation>
     </message>
     <message>
         <source>Width, height</source>
@@ -552,20 +548,20 @@
         <translation>Hoogte van het kader</translation>
     </message>
     <message>
-        <source>Cut away</source>
-        <translation>Wegsnijden</translation>
+        <source>Trim</source>
+        <translation>Afsnijden</translation>
     </message>
     <message>
         <source> %</source>
         <translation> %</translation>
     </message>
     <message>
-        <source>Per cent to cut away from both sides</source>
-        <translation>Percentage dat aan beide kanten wordt weggesneden</translation>
+        <source>Percentage to trim from width and height</source>
+        <translation>Percentage dat van breedte en hoogte af gaat</translation>
     </message>
     <message>
-        <source>Pixels to cut away from both sides</source>
-        <translation>Pixels die aan beide kanten worden weggesneden</translation>
+        <source>Pixels to trim from width and height</source>
+        <translation>Pixels die van breedte en hoogte af gaan</translation>
     </message>
     <message>
         <source>Ratio</source>
@@ -625,11 +621,11 @@
     </message>
     <message>
         <source>Swap for portrait pictures</source>
-        <translation>Omkeren bij staande foto’s</translation>
+        <translation>Omwisselen bij staande foto’s</translation>
     </message>
     <message>
-        <source>The longer number goes with the longer side of each picture: 3:2 becomes 2:3 in pictures that stand</source>
-        <translation>Het grootste getal hoort bij de langste zijde van elke foto: 3:2 wordt 2:3 bij staande foto’s</translation>
+        <source>The larger number is used for the longer side: 3:2 becomes 2:3 in portrait pictures</source>
+        <translation>Het grootste getal geldt voor de langste zijde: 3:2 wordt 2:3 bij staande foto’s</translation>
     </message>
     <message>
         <source>First number of the ratio</source>
@@ -640,12 +636,12 @@
         <translation>Tweede getal van de verhouding</translation>
     </message>
     <message>
-        <source>Attention</source>
+        <source>Focus of attention</source>
         <translation>Blikvanger</translation>
     </message>
     <message>
-        <source>The frame lies where the eye is drawn to, found in each picture</source>
-        <translation>Het kader ligt waar de blik naartoe gaat; dat wordt in elke foto gezocht</translation>
+        <source>Finds in each picture the part that draws the eye, and places the frame there</source>
+        <translation>Zoekt in elke foto het deel dat de blik trekt en legt het kader daar</translation>
     </message>
     <message>
         <source>Resolution</source>
@@ -660,12 +656,12 @@
         <translation>Eenheid van de verschuivingen: pixels, millimeters, centimeters, inches, pica’s, punten</translation>
     </message>
     <message>
-        <source>Resolution of the lengths</source>
-        <translation>Resolutie van de lengtes</translation>
+        <source>Resolution used for lengths</source>
+        <translation>Resolutie voor lengtes</translation>
     </message>
     <message>
-        <source>The dots per inch that make pixels of these lengths; a chosen resolution is written into the file</source>
-        <translation>De punten per inch die van deze lengtes pixels maken; een gekozen resolutie wordt in het bestand geschreven</translation>
+        <source>Dots per inch used to turn lengths into pixels. A chosen resolution is also written into the file.</source>
+        <translation>Punten per inch waarmee lengtes in pixels worden omgerekend. Een gekozen resolutie komt ook in het bestand te staan.</translation>
     </message>
     <message>
         <source>Dots per inch</source>
@@ -679,8 +675,8 @@
         <translation>Sleep foto’s of mappen hierheen</translation>
     </message>
     <message>
-        <source>They are shown one after the other, and each goes with one key into one of your folders.</source>
-        <translation>Ze komen een voor een in beeld, en elke foto gaat met één toets naar een van uw mappen.</translation>
+        <source>Pictures appear one at a time; press a key to send each one to a folder.</source>
+        <translation>Foto’s verschijnen een voor een; met één toets gaat elke foto naar een map.</translation>
     </message>
     <message>
         <source>Add Pictures…</source>
@@ -695,8 +691,8 @@
         <translation>Map toevoegen…</translation>
     </message>
     <message>
-        <source>Add all pictures of a folder and the folders in it (Ctrl+Shift+O)</source>
-        <translation>Alle foto’s van een map en de mappen daarin toevoegen (Ctrl+Shift+O)</translation>
+        <source>Add all pictures in a folder and its subfolders (Ctrl+Shift+O)</source>
+        <translation>Alle foto’s in een map en de submappen toevoegen (Ctrl+Shift+O)</translation>
     </message>
     <message>
         <source>The picture to sort</source>
@@ -707,16 +703,16 @@
         <translation>← Terug</translation>
     </message>
     <message>
-        <source>The picture before (Left, Backspace)</source>
+        <source>Previous picture (Left, Backspace)</source>
         <translation>Vorige foto (Links, Backspace)</translation>
     </message>
     <message>
         <source>Skip →</source>
-        <translation>Verder →</translation>
+        <translation>Overslaan →</translation>
     </message>
     <message>
-        <source>On to the next picture (Right)</source>
-        <translation>Naar de volgende foto (Rechts)</translation>
+        <source>Next picture (Right)</source>
+        <translation>Volgende foto (Rechts)</translation>
     </message>
     <message>
         <source>Trash</source>
@@ -731,8 +727,8 @@
         <translation>Ongedaan maken</translation>
     </message>
     <message>
-        <source>Take back the last deed (Ctrl+Z)</source>
-        <translation>Laatste handeling ongedaan maken (Ctrl+Z)</translation>
+        <source>Undo (Ctrl+Z)</source>
+        <translation>Ongedaan maken (Ctrl+Z)</translation>
     </message>
     <message>
         <source>Back</source>
@@ -740,7 +736,7 @@
     </message>
     <message>
         <source>Skip</source>
-        <translation>Verder</translation>
+        <translation>Overslaan</translation>
     </message>
     <message>
         <source>Keys Move</source>
@@ -759,15 +755,15 @@
         <translation>Werkelijke pixels</translation>
     </message>
     <message>
-        <source>Show the picture’s own pixels, and all of it again (Ctrl+2)</source>
-        <translation>De eigen pixels van de foto tonen, en weer de hele foto (Ctrl+2)</translation>
+        <source>Switch between actual pixels and the whole picture (Ctrl+2)</source>
+        <translation>Wisselen tussen werkelijke pixels en de hele foto (Ctrl+2)</translation>
     </message>
 </context>
 <context>
     <name>HandPane</name>
     <message>
-        <source>Keys</source>
-        <translation>Toetsen</translation>
+        <source>When a key is pressed</source>
+        <translation>Bij een druk op een toets</translation>
     </message>
     <message>
         <source>Move</source>
@@ -794,15 +790,15 @@
         <translation>Toevoegen…</translation>
     </message>
     <message>
-        <source>Choose a folder; folders can be dropped on the list too</source>
-        <translation>Een map kiezen; u kunt mappen ook naar de lijst slepen</translation>
+        <source>Choose a folder, or drop folders on the list</source>
+        <translation>Een map kiezen, of mappen naar de lijst slepen</translation>
     </message>
     <message>
         <source>New…</source>
         <translation>Nieuw…</translation>
     </message>
     <message>
-        <source>Make a new folder</source>
+        <source>Create a new folder</source>
         <translation>Een nieuwe map maken</translation>
     </message>
     <message>
@@ -810,8 +806,8 @@
         <translation>⋯</translation>
     </message>
     <message>
-        <source>More deeds for the chosen folder</source>
-        <translation>Meer opties voor de map die is gekozen</translation>
+        <source>Folder Options</source>
+        <translation>Mapopties</translation>
     </message>
     <message>
         <source>Name of the new folder</source>
@@ -822,15 +818,15 @@
         <translation>Annuleren</translation>
     </message>
     <message>
-        <source>Make no folder (Esc)</source>
+        <source>Do not create a folder (Esc)</source>
         <translation>Geen map maken (Esc)</translation>
     </message>
     <message>
-        <source>Make Folder</source>
+        <source>Create Folder</source>
         <translation>Map maken</translation>
     </message>
     <message>
-        <source>Make the folder and give it a key (Return)</source>
+        <source>Create the folder and give it a key (Return)</source>
         <translation>De map maken en een toets geven (Enter)</translation>
     </message>
     <message>
@@ -838,8 +834,8 @@
         <translation>Mappen en hun toetsen</translation>
     </message>
     <message>
-        <source>Add the folders that you sort into. The first gets the key 1, and so on: up to 59 folders.</source>
-        <translation>Voeg de mappen toe waarin u sorteert. De eerste krijgt toets 1, enzovoort: tot 59 mappen.</translation>
+        <source>Add up to 59 folders to sort into. The first one gets key 1, and so on.</source>
+        <translation>Voeg tot 59 mappen toe om in te sorteren. De eerste krijgt toets 1, enzovoort.</translation>
     </message>
 </context>
 <context>
@@ -855,25 +851,6 @@
     <message>
         <source>Close</source>
         <translation>Sluiten</translation>
-    </message>
-</context>
-<context>
-    <name>Print</name>
-    <message>
-        <source>Print</source>
-        <translation>Afdrukken</translation>
-    </message>
-    <message>
-        <source>Pictures made ready for the print</source>
-        <translation>Foto’s gereedgemaakt voor het afdrukken</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Sluiten</translation>
-    </message>
-    <message>
-        <source>Print…</source>
-        <translation>Afdrukken…</translation>
     </message>
 </context>
 <context>
@@ -1018,12 +995,12 @@
         <translation>Quorlin is onverwacht gestopt</translation>
     </message>
     <message>
-        <source>A fault of its own ended Quorlin the last time. Your originals are not affected.</source>
-        <translation>Door een fout in het programma is Quorlin de vorige keer gestopt. Uw originelen zijn niet geraakt.</translation>
+        <source>An error in Quorlin ended the last session. Your originals are not affected.</source>
+        <translation>Door een fout in Quorlin is de vorige sessie gestopt. Uw originelen zijn niet geraakt.</translation>
     </message>
     <message>
-        <source>A report was kept on this computer and sent to nobody. It names the version, the action, the picture and the place of the fault.</source>
-        <translation>Er staat een rapport op deze computer; het is naar niemand gestuurd. Het noemt de versie, de actie, de foto en de plaats van de fout.</translation>
+        <source>A report was saved on this computer and not sent. It names the version, the action, the picture and the place of the error.</source>
+        <translation>Er is een rapport op deze computer bewaard en niet verstuurd. Het noemt de versie, de actie, de foto en de plaats van de fout.</translation>
     </message>
     <message>
         <source>Copy Report</source>
@@ -1052,8 +1029,8 @@
         <translation>Logboek doorzoeken</translation>
     </message>
     <message>
-        <source>Every word must occur somewhere in an entry (Ctrl+F)</source>
-        <translation>Elk woord moet ergens in een regel voorkomen (Ctrl+F)</translation>
+        <source>Shows entries that contain every word (Ctrl+F)</source>
+        <translation>Toont regels die elk woord bevatten (Ctrl+F)</translation>
     </message>
     <message>
         <source>Show entries with this status</source>
@@ -1068,7 +1045,7 @@
         <translation>Foto tonen</translation>
     </message>
     <message>
-        <source>Show the picture large, if it is still there (Enter)</source>
+        <source>Show the picture large, if it still exists (Enter)</source>
         <translation>De foto groot tonen, als die er nog is (Enter)</translation>
     </message>
     <message>
@@ -1076,24 +1053,24 @@
         <translation>In map tonen</translation>
     </message>
     <message>
-        <source>Open the folder of the file and choose the file there</source>
-        <translation>De map van het bestand openen en het bestand daar selecteren</translation>
+        <source>Open the folder and select the file in it</source>
+        <translation>De map openen en het bestand daarin selecteren</translation>
     </message>
     <message>
         <source>Export…</source>
         <translation>Exporteren…</translation>
     </message>
     <message>
-        <source>Save the entries that are shown as CSV, for spreadsheets</source>
-        <translation>De getoonde regels bewaren als CSV, voor rekenbladen</translation>
+        <source>Save the entries shown as a CSV file for spreadsheets</source>
+        <translation>De getoonde regels bewaren als CSV-bestand voor rekenbladen</translation>
     </message>
     <message>
         <source>More</source>
         <translation>Meer</translation>
     </message>
     <message>
-        <source>More deeds for the log</source>
-        <translation>Meer opties voor het logboek</translation>
+        <source>Log Options</source>
+        <translation>Logboekopties</translation>
     </message>
     <message>
         <source>Runs</source>
@@ -1108,8 +1085,8 @@
         <translation>Opmerking terugzetten</translation>
     </message>
     <message>
-        <source>Give the chosen pictures their old comments again</source>
-        <translation>De gekozen foto’s hun oude opmerking teruggeven</translation>
+        <source>Restore the old comments of the selected pictures</source>
+        <translation>De oude opmerkingen van de geselecteerde foto’s terugzetten</translation>
     </message>
     <message>
         <source>Undo This Run</source>
@@ -1128,8 +1105,8 @@
         <translation>Deze instellingen gebruiken</translation>
     </message>
     <message>
-        <source>Show the action of this run, with the settings that it had</source>
-        <translation>De actie van deze opdracht tonen, met de instellingen ervan</translation>
+        <source>Open the action of this run with its settings</source>
+        <translation>De actie van deze opdracht openen met de instellingen ervan</translation>
     </message>
 </context>
 <context>
@@ -1151,16 +1128,16 @@
         <translation>Map toevoegen…</translation>
     </message>
     <message>
-        <source>Add all pictures of a folder and the folders in it (Ctrl+Shift+O)</source>
-        <translation>Alle foto’s van een map en de mappen daarin toevoegen (Ctrl+Shift+O)</translation>
+        <source>Add all pictures in a folder and its subfolders (Ctrl+Shift+O)</source>
+        <translation>Alle foto’s in een map en de submappen toevoegen (Ctrl+Shift+O)</translation>
     </message>
     <message>
         <source>Clear</source>
         <translation>Leegmaken</translation>
     </message>
     <message>
-        <source>Take all pictures off the list; the files stay</source>
-        <translation>Alle foto’s uit de lijst halen; de bestanden blijven</translation>
+        <source>Clear the list (files are not deleted)</source>
+        <translation>De lijst leegmaken (bestanden worden niet gewist)</translation>
     </message>
     <message>
         <source>Fit</source>
@@ -1171,8 +1148,8 @@
         <translation>Vullend</translation>
     </message>
     <message>
-        <source>How the preview fits its place</source>
-        <translation>Hoe het voorbeeld zijn plaats vult</translation>
+        <source>How the preview fits the view</source>
+        <translation>Hoe het voorbeeld de weergave vult</translation>
     </message>
     <message>
         <source>Full Screen</source>
@@ -1191,24 +1168,24 @@
         <translation>Map kiezen…</translation>
     </message>
     <message>
-        <source>Not Now</source>
-        <translation>Niet nu</translation>
+        <source>No, Thanks</source>
+        <translation>Nee, bedankt</translation>
     </message>
     <message>
-        <source>It can be chosen in the preferences at any time (Ctrl+,)</source>
+        <source>You can choose it in the preferences at any time (Ctrl+,)</source>
         <translation>U kunt de map ook later kiezen in de voorkeuren (Ctrl+,)</translation>
     </message>
     <message>
         <source>Actions</source>
-        <translation>Bewerkingen</translation>
+        <translation>Acties</translation>
     </message>
     <message>
         <source>Drop pictures or folders here</source>
         <translation>Sleep foto’s of mappen hierheen</translation>
     </message>
     <message>
-        <source>Then choose at the left what to do with them. Your originals stay as they are unless you say otherwise.</source>
-        <translation>Kies daarna links wat ermee moet gebeuren. Uw originelen blijven ongewijzigd, tenzij u anders kiest.</translation>
+        <source>Then choose an action on the left. Your originals stay unchanged unless you ask for it.</source>
+        <translation>Kies daarna links een actie. Uw originelen blijven ongewijzigd, tenzij u erom vraagt.</translation>
     </message>
     <message>
         <source>Preview of the original and the result</source>
@@ -1219,12 +1196,12 @@
         <translation>Foto’s</translation>
     </message>
     <message>
-        <source>Simulation: show, move nothing</source>
-        <translation>Simulatie: tonen, niets verplaatsen</translation>
+        <source>Dry run: move nothing</source>
+        <translation>Proefrun: niets verplaatsen</translation>
     </message>
     <message>
-        <source>What simulation means</source>
-        <translation>Wat simulatie betekent</translation>
+        <source>About dry runs</source>
+        <translation>Over proefruns</translation>
     </message>
     <message>
         <source>Resize Pictures</source>
@@ -1363,8 +1340,8 @@
         <translation>&amp;Groot voorbeeld</translation>
     </message>
     <message>
-        <source>Like the &amp;System</source>
-        <translation>Zoals het &amp;systeem</translation>
+        <source>&amp;System</source>
+        <translation>&amp;Systeem</translation>
     </message>
     <message>
         <source>&amp;Light</source>
@@ -1415,8 +1392,8 @@
         <translation>&amp;Handleiding</translation>
     </message>
     <message>
-        <source>Look for a &amp;New Version</source>
-        <translation>&amp;Nieuwe versie zoeken</translation>
+        <source>Check for &amp;Updates</source>
+        <translation>Op &amp;updates controleren</translation>
     </message>
     <message>
         <source>&amp;About Quorlin</source>
@@ -1431,55 +1408,55 @@
         <translation>Alles tonen</translation>
     </message>
     <message>
-        <source>Show all rows of the list again</source>
-        <translation>Weer alle rijen van de lijst tonen</translation>
+        <source>Show all rows of the list</source>
+        <translation>Alle rijen van de lijst tonen</translation>
     </message>
     <message>
         <source>Show Them…</source>
         <translation>Tonen…</translation>
     </message>
     <message>
-        <source>Say which files of the list this action leaves out</source>
-        <translation>Zeggen welke bestanden van de lijst deze actie overslaat</translation>
+        <source>Show which files of the list this action cannot use</source>
+        <translation>Tonen welke bestanden in de lijst deze actie niet kan gebruiken</translation>
     </message>
     <message>
         <source>Convert Them</source>
         <translation>Converteren</translation>
     </message>
     <message>
-        <source>Go to Convert, which takes them</source>
-        <translation>Naar Converteren gaan, dat ze wel neemt</translation>
+        <source>Go to Convert, which can use them</source>
+        <translation>Naar Converteren gaan, dat ze wel kan gebruiken</translation>
     </message>
     <message>
         <source>Try Sample Pictures</source>
         <translation>Voorbeeldfoto’s proberen</translation>
     </message>
     <message>
-        <source>Puts five pictures into the folder “Quorlin Samples” among your pictures</source>
-        <translation>Zet vijf afbeeldingen in de map ‘Quorlin Samples’ bij uw afbeeldingen</translation>
+        <source>Copies five pictures to the folder “Quorlin Samples” in your pictures folder</source>
+        <translation>Kopieert vijf foto’s naar de map “Quorlin Samples” in uw map met afbeeldingen</translation>
     </message>
     <message>
         <source>&amp;Watch a Folder…</source>
-        <translation>Map in de gaten &amp;houden…</translation>
+        <translation>Map be&amp;waken…</translation>
     </message>
     <message>
-        <source>Pictures that arrive in a folder are worked on at once, with these settings</source>
-        <translation>Afbeeldingen die in een map aankomen worden meteen met deze instellingen bewerkt</translation>
+        <source>Process pictures as they arrive in a folder, with these settings</source>
+        <translation>Foto’s die in een map aankomen meteen met deze instellingen bewerken</translation>
     </message>
     <message>
         <source>Stop Watching</source>
-        <translation>Stoppen</translation>
+        <translation>Stoppen met bewaken</translation>
     </message>
     <message>
-        <source>Add Them</source>
+        <source>Add Anyway</source>
         <translation>Toch toevoegen</translation>
     </message>
     <message>
-        <source>Add what runs of this program wrote to the list all the same</source>
-        <translation>Zet wat verwerkingen van dit programma schreven toch op de lijst</translation>
+        <source>Add results of earlier runs to the list</source>
+        <translation>Resultaten van eerdere opdrachten aan de lijst toevoegen</translation>
     </message>
     <message>
-        <source>What happens when this run has ended</source>
+        <source>What to do when this run is finished</source>
         <translation>Wat er gebeurt als deze opdracht klaar is</translation>
     </message>
     <message>
@@ -1491,12 +1468,12 @@
         <translation>Laten</translation>
     </message>
     <message>
-        <source>Give the files that were done their old names and places again (Ctrl+Z)</source>
-        <translation>Geef de bestanden die klaar zijn hun oude namen en plaatsen terug (Ctrl+Z)</translation>
+        <source>Return the finished files to their old names and folders (Ctrl+Z)</source>
+        <translation>De verwerkte bestanden hun oude namen en mappen teruggeven (Ctrl+Z)</translation>
     </message>
     <message>
-        <source>What is done stays as it is, and this is not asked again</source>
-        <translation>Wat klaar is blijft zo, en dit wordt niet nog eens gevraagd</translation>
+        <source>Keep what is finished. You will not be asked again.</source>
+        <translation>Wat klaar is, blijft. U krijgt deze vraag niet nog eens.</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -1507,8 +1484,8 @@
         <translation>&amp;Aanvinken of uitvinken</translation>
     </message>
     <message>
-        <source>Rows without a tick are left out of the run</source>
-        <translation>Regels zonder vinkje blijven buiten de bewerking</translation>
+        <source>A run leaves out rows that are not ticked</source>
+        <translation>Een opdracht slaat rijen zonder vinkje over</translation>
     </message>
     <message>
         <source>Tick A&amp;ll</source>
@@ -1531,16 +1508,16 @@
         <translation>&amp;Laatste opdracht herhalen</translation>
     </message>
     <message>
-        <source>The pictures that were added since, with the settings of the last run</source>
-        <translation>De foto’s die sindsdien zijn toegevoegd, met de instellingen van de laatste opdracht</translation>
+        <source>Process the pictures added since the last run, with its settings</source>
+        <translation>De foto’s bewerken die sinds de laatste opdracht zijn toegevoegd, met de instellingen ervan</translation>
     </message>
     <message>
         <source>Camera &amp;Clocks…</source>
         <translation>Camera&amp;klokken…</translation>
     </message>
     <message>
-        <source>Set right the dates of a camera whose clock was wrong, in the list and in new names only</source>
-        <translation>De datums rechtzetten van een camera waarvan de klok niet goed liep, alleen in de lijst en in nieuwe namen</translation>
+        <source>Correct the dates of a camera whose clock was wrong, without changing any file</source>
+        <translation>De datums corrigeren van een camera waarvan de klok niet goed liep, zonder bestanden te wijzigen</translation>
     </message>
     <message>
         <source>Recent &amp;Destinations</source>
@@ -1555,16 +1532,16 @@
         <translation>Lijst &amp;exporteren…</translation>
     </message>
     <message>
-        <source>Write the list with all its columns into a CSV file for spreadsheets</source>
-        <translation>De lijst met alle kolommen in een CSV-bestand voor rekenbladen schrijven</translation>
+        <source>Save the list with all its columns as a CSV file for spreadsheets</source>
+        <translation>De lijst met alle kolommen bewaren als CSV-bestand voor rekenbladen</translation>
     </message>
     <message>
         <source>&amp;Copy Files</source>
         <translation>Bestanden &amp;kopiëren</translation>
     </message>
     <message>
-        <source>Copy the files of the chosen rows, or what was made of them (in the list: Ctrl+C)</source>
-        <translation>De bestanden van de gekozen regels kopiëren, of wat ervan gemaakt is (in de lijst: Ctrl+C)</translation>
+        <source>Copy the files of the selected rows, or their results (in the list: Ctrl+C)</source>
+        <translation>De bestanden van de geselecteerde rijen kopiëren, of hun resultaten (in de lijst: Ctrl+C)</translation>
     </message>
     <message>
         <source>Move &amp;Up</source>
@@ -1614,8 +1591,8 @@
         <translation>Zoeken in de handleiding</translation>
     </message>
     <message>
-        <source>Return shows the next place (Ctrl+F, F3)</source>
-        <translation>Enter toont de volgende plek (Ctrl+F, F3)</translation>
+        <source>Press Return for the next match (Ctrl+F, F3)</source>
+        <translation>Enter toont de volgende vindplaats (Ctrl+F, F3)</translation>
     </message>
     <message>
         <source>Pages of the manual</source>
@@ -1633,8 +1610,8 @@
         <translation>Sleep foto’s of mappen hierheen</translation>
     </message>
     <message>
-        <source>All properties of each are shown, and its comment can be read, written and reverted.</source>
-        <translation>Van elke foto ziet u alle eigenschappen; de opmerking kunt u lezen, schrijven en terugzetten.</translation>
+        <source>You see all properties of each picture, and can read, write and revert its comment.</source>
+        <translation>U ziet alle eigenschappen van elke foto en kunt de opmerking lezen, schrijven en terugzetten.</translation>
     </message>
     <message>
         <source>Add Pictures…</source>
@@ -1653,8 +1630,8 @@
         <translation>Kopiëren</translation>
     </message>
     <message>
-        <source>Copy the chosen value or branch (Ctrl+C in the tree), or the place where the picture was taken</source>
-        <translation>De gekozen waarde of tak kopiëren (Ctrl+C in de boom), of de plaats van opname</translation>
+        <source>Copy the selected value or branch (Ctrl+C in the tree), or the location of the picture</source>
+        <translation>De geselecteerde waarde of tak kopiëren (Ctrl+C in de boom), of de locatie van de foto</translation>
     </message>
     <message>
         <source>Properties of the picture</source>
@@ -1669,24 +1646,24 @@
         <translation>Gebruikersopmerking</translation>
     </message>
     <message>
-        <source>Whose comment is written</source>
-        <translation>Wiens opmerking wordt geschreven</translation>
+        <source>Which pictures get the comment</source>
+        <translation>Welke foto’s de opmerking krijgen</translation>
     </message>
     <message>
         <source>Insert Token…</source>
         <translation>Code invoegen…</translation>
     </message>
     <message>
-        <source>Insert what stands for something that each picture has</source>
-        <translation>Een code invoegen voor iets wat elke foto heeft</translation>
+        <source>Insert a placeholder that is filled in for each picture</source>
+        <translation>Een code invoegen die voor elke foto wordt ingevuld</translation>
     </message>
     <message>
-        <source>Edit Log</source>
-        <translation>Logboek van opmerkingen</translation>
+        <source>Metadata History</source>
+        <translation>Metadatageschiedenis</translation>
     </message>
     <message>
-        <source>Show what was written into comments, with old and new comments, and revert it</source>
-        <translation>Tonen wat in opmerkingen is geschreven, met de oude en de nieuwe, en het terugzetten</translation>
+        <source>Show old and new comments, and revert them</source>
+        <translation>Oude en nieuwe opmerkingen tonen, en ze terugzetten</translation>
     </message>
     <message>
         <source>Progress of the comments</source>
@@ -1705,24 +1682,24 @@
         <translation>Terugzetten</translation>
     </message>
     <message>
-        <source>Give the pictures of the last run their old comments again</source>
-        <translation>De foto’s van de laatste opdracht hun oude opmerking teruggeven</translation>
+        <source>Restore the old comments of the last run</source>
+        <translation>De oude opmerkingen van de laatste opdracht terugzetten</translation>
     </message>
     <message>
         <source>Choose Files…</source>
         <translation>Bestanden kiezen…</translation>
     </message>
     <message>
-        <source>Choose JPEG and TIFF files and write the comment into each</source>
-        <translation>JPEG- en TIFF-bestanden kiezen en de opmerking in elk ervan schrijven</translation>
+        <source>Choose JPEG and TIFF files and write the comment into all of them</source>
+        <translation>JPEG- en TIFF-bestanden kiezen en de opmerking in alle schrijven</translation>
     </message>
     <message>
         <source>Choose Folder…</source>
         <translation>Map kiezen…</translation>
     </message>
     <message>
-        <source>Choose a folder and write the comment into each JPEG and TIFF file in it and in its folders</source>
-        <translation>Een map kiezen en de opmerking in elk JPEG- en TIFF-bestand daarin en in de mappen eronder schrijven</translation>
+        <source>Choose a folder and write the comment into all its JPEG and TIFF files, subfolders included</source>
+        <translation>Een map kiezen en de opmerking in alle JPEG- en TIFF-bestanden schrijven, ook in submappen</translation>
     </message>
     <message>
         <source>Write into All…</source>
@@ -1733,8 +1710,8 @@
         <translation>Toepassen</translation>
     </message>
     <message>
-        <source>Write the comment into this picture. Ctrl+Return writes it and goes to the next one.</source>
-        <translation>De opmerking in deze foto schrijven. Ctrl+Enter schrijft haar en gaat naar de volgende.</translation>
+        <source>Write the comment into this picture. Press Ctrl+Return to also go to the next one.</source>
+        <translation>De opmerking in deze foto schrijven. Ctrl+Enter gaat daarna naar de volgende.</translation>
     </message>
     <message>
         <source>Write comment and go to the next picture</source>
@@ -1795,55 +1772,55 @@
         <translation>Over de map van de resultaten</translation>
     </message>
     <message>
-        <source>If name is taken</source>
-        <translation>Bij bestaande naam</translation>
+        <source>If the file exists</source>
+        <translation>Als het bestand bestaat</translation>
     </message>
     <message>
-        <source>If a file of that name is there</source>
-        <translation>Als er al een bestand met die naam is</translation>
+        <source>If a file with this name exists</source>
+        <translation>Als er een bestand met deze naam bestaat</translation>
     </message>
     <message>
-        <source>Simulation: show, write nothing</source>
-        <translation>Simulatie: tonen, niets schrijven</translation>
+        <source>Dry run: write nothing</source>
+        <translation>Proefrun: niets schrijven</translation>
     </message>
     <message>
-        <source>What simulation means</source>
-        <translation>Wat simulatie betekent</translation>
+        <source>About dry runs</source>
+        <translation>Over proefruns</translation>
     </message>
     <message>
         <source>Metadata</source>
         <translation>Metadata</translation>
     </message>
     <message>
-        <source>What results keep of the metadata</source>
-        <translation>Wat resultaten van de metagegevens behouden</translation>
+        <source>Metadata that results keep</source>
+        <translation>Metadata die de resultaten behouden</translation>
     </message>
     <message>
         <source>Remove location</source>
         <translation>Locatie verwijderen</translation>
     </message>
     <message>
-        <source>Leaves out where the picture was taken: coordinates and names of places</source>
-        <translation>Laat weg waar de foto is gemaakt: coördinaten en plaatsnamen</translation>
+        <source>Removes where the picture was taken: coordinates and place names</source>
+        <translation>Verwijdert waar de foto is gemaakt: coördinaten en plaatsnamen</translation>
     </message>
     <message>
         <source>Transparency</source>
         <translation>Transparantie</translation>
     </message>
     <message>
-        <source>Colour under transparent parts</source>
-        <translation>Kleur onder doorzichtige delen</translation>
+        <source>Colour for transparent parts</source>
+        <translation>Kleur voor transparante delen</translation>
     </message>
     <message>
-        <source>Colour under transparent parts, in file types that have none</source>
-        <translation>Kleur onder doorzichtige delen, in bestandstypen zonder transparantie</translation>
+        <source>Replaces transparency in file types that cannot hold it</source>
+        <translation>Vervangt transparantie in bestandstypen die dat niet kennen</translation>
     </message>
     <message>
         <source>Folder name</source>
         <translation>Mapnaam</translation>
     </message>
     <message>
-        <source>Name of the folder beside the originals</source>
+        <source>Name of the folder next to the originals</source>
         <translation>Naam van de map naast de originelen</translation>
     </message>
     <message>
@@ -1851,8 +1828,8 @@
         <translation>Submappen behouden</translation>
     </message>
     <message>
-        <source>Builds the folders again that lie below each added folder</source>
-        <translation>Maakt de mappen onder elke toegevoegde map opnieuw aan</translation>
+        <source>Recreates the subfolders of each added folder</source>
+        <translation>Maakt de submappen van elke toegevoegde map opnieuw</translation>
     </message>
     <message>
         <source>Name</source>
@@ -1863,28 +1840,28 @@
         <translation>Naam van de resultaten, zonder extensie</translation>
     </message>
     <message>
-        <source>Values such as {name}, {taken} and {counter:001} stand for what each picture has; {{ is a brace.</source>
-        <translation>Waarden als {name}, {taken} en {counter:001} staan voor wat elke foto heeft; {{ is een accolade.</translation>
+        <source>Tokens such as {name}, {taken} and {counter:001} are filled in for each picture. To write a brace, type {{.</source>
+        <translation>Codes zoals {name}, {taken} en {counter:001} worden voor elke foto ingevuld. Typ {{ voor een accolade.</translation>
     </message>
     <message>
-        <source>Insert a value of the picture into the name</source>
-        <translation>Waarde van de foto in de naam invoegen</translation>
+        <source>Insert a token into the name</source>
+        <translation>Een code in de naam invoegen</translation>
     </message>
     <message>
-        <source>Keep the file’s date</source>
+        <source>Keep the file date</source>
         <translation>Datum van het bestand behouden</translation>
     </message>
     <message>
-        <source>Results get the time of change of their pictures</source>
-        <translation>Resultaten krijgen de wijzigingstijd van hun foto’s</translation>
+        <source>Results get the modification time of their originals</source>
+        <translation>Resultaten krijgen de wijzigingstijd van hun originelen</translation>
     </message>
     <message>
         <source>More…</source>
         <translation>Meer…</translation>
     </message>
     <message>
-        <source>More or fewer settings of the results</source>
-        <translation>Meer of minder instellingen van de resultaten</translation>
+        <source>Show more or fewer settings</source>
+        <translation>Meer of minder instellingen tonen</translation>
     </message>
     <message>
         <source>Write all as JPEG</source>
@@ -1906,8 +1883,8 @@
         <translation>Nog geen gekozen</translation>
     </message>
     <message>
-        <source>Quorlin keeps your background patterns in a folder below this one. Whatever you put there can be chosen in Background &amp; Border.</source>
-        <translation>Quorlin bewaart uw achtergrondpatronen in een map onder deze. Wat u daar neerzet, kunt u kiezen in Achtergrond en rand.</translation>
+        <source>Put your own background patterns into its subfolder Patterns. They then appear in Background &amp; Border.</source>
+        <translation>Zet uw eigen achtergrondpatronen in de submap Patterns. Ze verschijnen dan in Achtergrond en rand.</translation>
     </message>
     <message>
         <source>Change…</source>
@@ -1918,88 +1895,84 @@
         <translation>Taal</translation>
     </message>
     <message>
-        <source>Takes effect when Quorlin starts again.</source>
-        <translation>Werkt zodra Quorlin opnieuw start.</translation>
+        <source>Takes effect after a restart.</source>
+        <translation>Werkt na opnieuw starten.</translation>
     </message>
     <message>
         <source>Appearance</source>
         <translation>Uiterlijk</translation>
     </message>
     <message>
-        <source>If name is taken</source>
-        <translation>Bij bestaande naam</translation>
+        <source>If the file exists</source>
+        <translation>Als het bestand bestaat</translation>
     </message>
     <message>
-        <source>What an action does at first where a name is taken</source>
-        <translation>Wat een bewerking eerst doet als een naam al bestaat</translation>
+        <source>What new actions do if the file exists</source>
+        <translation>Wat nieuwe acties doen als het bestand bestaat</translation>
     </message>
     <message>
-        <source>For actions that you use for the first time; each one keeps what you choose there.</source>
-        <translation>Voor bewerkingen die u voor het eerst gebruikt; elke onthoudt wat u daar kiest.</translation>
+        <source>Default for actions you have not used yet.</source>
+        <translation>Standaard voor acties die u nog niet hebt gebruikt.</translation>
     </message>
     <message>
-        <source>Log keeps</source>
-        <translation>Logboek bewaart</translation>
+        <source>Keep log entries for</source>
+        <translation>In het logboek bewaren</translation>
     </message>
     <message>
-        <source>How many entries the log keeps</source>
-        <translation>Hoeveel regels het logboek bewaart</translation>
+        <source>How many log entries to keep</source>
+        <translation>Hoeveel logboekregels bewaard blijven</translation>
     </message>
     <message>
-        <source>Look for a new version at every start</source>
-        <translation>Bij elke start een nieuwe versie zoeken</translation>
+        <source>Check for updates at startup</source>
+        <translation>Bij het starten op updates controleren</translation>
     </message>
     <message>
         <source>Done</source>
         <translation>Gereed</translation>
     </message>
     <message>
-        <source>Work with</source>
-        <translation>Werken met</translation>
+        <source>Processors</source>
+        <translation>Processors</translation>
     </message>
     <message>
-        <source>How many processors runs use</source>
-        <translation>Hoeveel processors een verwerking gebruikt</translation>
+        <source>How many processors runs may use</source>
+        <translation>Hoeveel processors opdrachten mogen gebruiken</translation>
     </message>
     <message>
-        <source>Light or dark, for all windows; it holds at once.</source>
-        <translation>Licht of donker, voor alle vensters; het geldt meteen.</translation>
+        <source>Applies to all windows at once.</source>
+        <translation>Geldt meteen voor alle vensters.</translation>
     </message>
     <message>
-        <source>Results go</source>
-        <translation>Resultaten</translation>
+        <source>Save results to</source>
+        <translation>Resultaten bewaren in</translation>
     </message>
     <message>
-        <source>Where results go at first</source>
-        <translation>Waar resultaten eerst heen gaan</translation>
+        <source>Where new actions save their results</source>
+        <translation>Waar nieuwe acties hun resultaten bewaren</translation>
     </message>
     <message>
-        <source>The same: a start for actions that you have not used yet.</source>
-        <translation>Net zo: een begin voor acties die u nog niet hebt gebruikt.</translation>
+        <source>Older entries are deleted for good.</source>
+        <translation>Oudere regels worden voorgoed verwijderd.</translation>
     </message>
     <message>
-        <source>When there are more, the oldest go for good.</source>
-        <translation>Worden het er meer, dan verdwijnen de oudste voorgoed.</translation>
-    </message>
-    <message>
-        <source>Fewer leave more for other programs; what is made is the same.</source>
-        <translation>Minder laat meer over voor andere programma’s; het resultaat is hetzelfde.</translation>
+        <source>Use fewer to keep other programs fast. The results are the same.</source>
+        <translation>Met minder blijven andere programma’s snel. De resultaten zijn gelijk.</translation>
     </message>
     <message>
         <source>Memory</source>
         <translation>Geheugen</translation>
     </message>
     <message>
-        <source>How much memory runs use</source>
-        <translation>Hoeveel geheugen opdrachten gebruiken</translation>
+        <source>How much memory runs may use</source>
+        <translation>Hoeveel geheugen opdrachten mogen gebruiken</translation>
     </message>
     <message>
-        <source>Where large pictures need more together, fewer of them are made at a time.</source>
-        <translation>Als grote foto’s samen meer nodig hebben, worden er minder tegelijk gemaakt.</translation>
+        <source>If large pictures need more, fewer are processed at a time.</source>
+        <translation>Als grote foto’s meer nodig hebben, worden er minder tegelijk bewerkt.</translation>
     </message>
     <message>
-        <source>Quorlin asks for its number only; nothing is downloaded or installed by itself.</source>
-        <translation>Quorlin vraagt alleen het nummer; niets wordt vanzelf gedownload of geïnstalleerd.</translation>
+        <source>Quorlin only asks for the version number. It downloads and installs nothing.</source>
+        <translation>Quorlin vraagt alleen het versienummer. Het downloadt en installeert niets.</translation>
     </message>
     <message>
         <source>Share thumbnails with other programs</source>
@@ -2042,6 +2015,25 @@
     </message>
 </context>
 <context>
+    <name>Print</name>
+    <message>
+        <source>Print</source>
+        <translation>Afdrukken</translation>
+    </message>
+    <message>
+        <source>Pictures made ready for the print</source>
+        <translation>Foto’s gereedgemaakt voor het afdrukken</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+    <message>
+        <source>Print…</source>
+        <translation>Afdrukken…</translation>
+    </message>
+</context>
+<context>
     <name>QAbstractFileIconProvider</name>
     <message>
         <source>Drive</source>
@@ -2071,8 +2063,8 @@
         <translation>&amp;Bewaren</translation>
     </message>
     <message>
-        <source>Files that can be chosen</source>
-        <translation>Bestanden die u kunt kiezen</translation>
+        <source>Supported files</source>
+        <translation>Ondersteunde bestanden</translation>
     </message>
 </context>
 <context>
@@ -2185,8 +2177,8 @@
 <context>
     <name>RecipeField</name>
     <message>
-        <source>Insert a value of the picture</source>
-        <translation>Een waarde van de foto invoegen</translation>
+        <source>Insert a token</source>
+        <translation>Code invoegen</translation>
     </message>
     <message>
         <source>Choose…</source>
@@ -2204,7 +2196,7 @@
         <translation>Recept</translation>
     </message>
     <message>
-        <source>Make, save, rename, delete, export or import recipes</source>
+        <source>Create, save, rename, delete, export or import recipes</source>
         <translation>Recepten maken, bewaren, hernoemen, verwijderen, exporteren of importeren</translation>
     </message>
     <message>
@@ -2220,20 +2212,20 @@
         <translation>Bewaren</translation>
     </message>
     <message>
-        <source>This recipe reaches beyond the pictures’ own folders</source>
-        <translation>Dit recept reikt buiten de mappen van de foto’s</translation>
+        <source>This recipe uses files outside the folders of the pictures</source>
+        <translation>Dit recept gebruikt bestanden buiten de mappen van de foto’s</translation>
     </message>
     <message>
         <source>Allow</source>
         <translation>Toestaan</translation>
     </message>
     <message>
-        <source>Nothing was read or written there so far</source>
-        <translation>Tot nu toe is daar niets gelezen of geschreven</translation>
+        <source>Nothing has been read or written there so far.</source>
+        <translation>Daar is tot nu toe niets gelezen of geschreven.</translation>
     </message>
     <message>
-        <source>No operations: the pictures stay as they are.</source>
-        <translation>Geen bewerkingen: de foto’s blijven zoals ze zijn.</translation>
+        <source>No operations yet: pictures stay unchanged.</source>
+        <translation>Nog geen bewerkingen: foto’s blijven ongewijzigd.</translation>
     </message>
     <message>
         <source>+ Add Operation…</source>
@@ -2260,8 +2252,8 @@
         <translation>Mappen in</translation>
     </message>
     <message>
-        <source>Where the folders of the outputs are</source>
-        <translation>Waar de mappen van de uitvoer staan</translation>
+        <source>Where the folders of the outputs are created</source>
+        <translation>Waar de mappen van de uitvoer worden gemaakt</translation>
     </message>
     <message>
         <source>Keep subfolders</source>
@@ -2323,16 +2315,16 @@
         <translation>+</translation>
     </message>
     <message>
-        <source>Insert a value of the file</source>
-        <translation>Een waarde van het bestand invoegen</translation>
+        <source>Insert a token</source>
+        <translation>Code invoegen</translation>
     </message>
     <message>
         <source>With</source>
         <translation>Door</translation>
     </message>
     <message>
-        <source>How</source>
-        <translation>Hoe</translation>
+        <source>Case</source>
+        <translation>Schrijfwijze</translation>
     </message>
     <message>
         <source>How many</source>
@@ -2354,11 +2346,11 @@
         <translation>Hernoemen</translation>
     </message>
     <message>
-        <source>What is renamed</source>
+        <source>What to rename</source>
         <translation>Wat wordt hernoemd</translation>
     </message>
     <message>
-        <source>No steps yet: names stay as they are. Add a step, or choose a preset.</source>
+        <source>No steps yet: names stay unchanged. Add a step or choose a preset.</source>
         <translation>Nog geen stappen: namen blijven ongewijzigd. Voeg een stap toe of kies een voorinstelling.</translation>
     </message>
     <message>
@@ -2378,16 +2370,16 @@
         <translation>Voorbeeld</translation>
     </message>
     <message>
-        <source>Take sidecar files (.xmp …) along</source>
-        <translation>Sidecarbestanden (.xmp …) meenemen</translation>
+        <source>Include sidecar files (.xmp …)</source>
+        <translation>Sidecarbestanden meenemen (.xmp …)</translation>
     </message>
     <message>
-        <source>Files of other programs that bear the name of a picture get its new name too</source>
-        <translation>Bestanden van andere programma’s met dezelfde naam als een foto krijgen ook de nieuwe naam</translation>
+        <source>Files with the name of a picture from other programs are renamed with it</source>
+        <translation>Bestanden van andere programma’s met de naam van een foto worden mee hernoemd</translation>
     </message>
     <message>
-        <source>Puts zeros before the numbers, so that names sort as they count</source>
-        <translation>Zet nullen voor de nummers, zodat namen in telvolgorde staan</translation>
+        <source>Adds leading zeros so that names sort in order</source>
+        <translation>Zet nullen vooraan zodat namen op volgorde staan</translation>
     </message>
 </context>
 <context>
@@ -2401,8 +2393,8 @@
         <translation>Hoogte</translation>
     </message>
     <message>
-        <source>Longest</source>
-        <translation>Langste</translation>
+        <source>Longest side</source>
+        <translation>Langste zijde</translation>
     </message>
     <message>
         <source>%</source>
@@ -2413,12 +2405,8 @@
         <translation>Vak</translation>
     </message>
     <message>
-        <source>What the size is given by</source>
-        <translation>Waarmee het formaat wordt bepaald</translation>
-    </message>
-    <message>
-        <source>Longest side</source>
-        <translation>Langste zijde</translation>
+        <source>How the new size is set</source>
+        <translation>Hoe de nieuwe afmetingen worden bepaald</translation>
     </message>
     <message>
         <source> px</source>
@@ -2426,7 +2414,7 @@
     </message>
     <message>
         <source>New size</source>
-        <translation>Nieuw formaat</translation>
+        <translation>Nieuwe afmetingen</translation>
     </message>
     <message>
         <source>Width of the box</source>
@@ -2442,15 +2430,15 @@
     </message>
     <message>
         <source>Unit of the size</source>
-        <translation>Eenheid van het formaat</translation>
+        <translation>Eenheid van de afmetingen</translation>
     </message>
     <message>
         <source>Unit of the size: pixels, millimetres, centimetres, inches, picas, points</source>
-        <translation>Eenheid van het formaat: pixels, millimeters, centimeters, inches, pica’s, punten</translation>
+        <translation>Eenheid van de afmetingen: pixels, millimeters, centimeters, inches, pica’s, punten</translation>
     </message>
     <message>
-        <source>Picture</source>
-        <translation>Foto</translation>
+        <source>Fit</source>
+        <translation>Passen</translation>
     </message>
     <message>
         <source>How the picture fits the box</source>
@@ -2473,20 +2461,20 @@
         <translation>Resolutie</translation>
     </message>
     <message>
-        <source>Resolution of the lengths</source>
-        <translation>Resolutie van de lengtes</translation>
+        <source>Resolution used for lengths</source>
+        <translation>Resolutie voor lengtes</translation>
     </message>
     <message>
-        <source>The dots per inch that make pixels of these lengths; a chosen resolution is written into the file</source>
-        <translation>De punten per inch die van deze lengtes pixels maken; een gekozen resolutie wordt in het bestand geschreven</translation>
+        <source>Dots per inch used to turn lengths into pixels. A chosen resolution is also written into the file.</source>
+        <translation>Punten per inch waarmee lengtes in pixels worden omgerekend. Een gekozen resolutie komt ook in het bestand te staan.</translation>
     </message>
     <message>
         <source>Dots per inch</source>
         <translation>Punten per inch</translation>
     </message>
     <message>
-        <source>Around it</source>
-        <translation>Eromheen</translation>
+        <source>Padding</source>
+        <translation>Opvulling</translation>
     </message>
     <message>
         <source>Colour around the picture</source>
@@ -2508,8 +2496,8 @@
         <translation>Ellips</translation>
     </message>
     <message>
-        <source>Shape that is cut out</source>
-        <translation>Vorm die wordt uitgesneden</translation>
+        <source>Shape to cut out</source>
+        <translation>Uit te snijden vorm</translation>
     </message>
     <message>
         <source>Radius</source>
@@ -2524,24 +2512,24 @@
         <translation>Straal van de hoeken</translation>
     </message>
     <message>
-        <source>Colour outside the shape</source>
-        <translation>Kleur buiten de vorm</translation>
+        <source>Fill colour</source>
+        <translation>Vulkleur</translation>
     </message>
     <message>
         <source>Colour</source>
         <translation>Kleur</translation>
     </message>
     <message>
-        <source>Band</source>
-        <translation>Binnenrand</translation>
+        <source>Border width</source>
+        <translation>Randbreedte</translation>
     </message>
     <message>
-        <source>Width of the coloured band inside the edge</source>
-        <translation>Breedte van de gekleurde binnenrand</translation>
+        <source>Width of the border inside the picture</source>
+        <translation>Breedte van de rand binnen de foto</translation>
     </message>
     <message>
-        <source>A band of the colour inside the edge; 0 is none</source>
-        <translation>Een rand in deze kleur binnen de fotorand; 0 is geen</translation>
+        <source>Border inside the picture; 0 means none</source>
+        <translation>Rand binnen de foto; 0 betekent geen</translation>
     </message>
     <message>
         <source>Result</source>
@@ -2575,35 +2563,35 @@
         <translation>Grootte</translation>
     </message>
     <message>
-        <source>Estimated size of the file</source>
-        <translation>Geschatte grootte van het bestand</translation>
+        <source>Estimated file size</source>
+        <translation>Geschatte bestandsgrootte</translation>
     </message>
     <message>
-        <source>Preview of the original and of what is saved</source>
-        <translation>Voorbeeld van het origineel en van wat wordt bewaard</translation>
+        <source>Preview of the original and the saved picture</source>
+        <translation>Voorbeeld van het origineel en de bewaarde foto</translation>
     </message>
 </context>
 <context>
     <name>SortPane</name>
     <message>
-        <source>Folders</source>
-        <translation>Mappen</translation>
+        <source>Level 1</source>
+        <translation>Niveau 1</translation>
     </message>
     <message>
         <source>First level of folders</source>
         <translation>Eerste niveau van mappen</translation>
     </message>
     <message>
-        <source>in them</source>
-        <translation>daarin</translation>
+        <source>Level 2</source>
+        <translation>Niveau 2</translation>
     </message>
     <message>
         <source>Second level of folders</source>
         <translation>Tweede niveau van mappen</translation>
     </message>
     <message>
-        <source>in those</source>
-        <translation>en daarin</translation>
+        <source>Level 3</source>
+        <translation>Niveau 3</translation>
     </message>
     <message>
         <source>Third level of folders</source>
@@ -2614,12 +2602,12 @@
         <translation>Patroon</translation>
     </message>
     <message>
-        <source>Pattern of folders</source>
-        <translation>Patroon van mappen</translation>
+        <source>Folder pattern</source>
+        <translation>Mappatroon</translation>
     </message>
     <message>
-        <source>Text and tokens in braces, with “/” between the levels of folders</source>
-        <translation>Tekst en codes tussen accolades, met “/” tussen de niveaus van mappen</translation>
+        <source>Text and tokens in braces, with “/” between folder levels</source>
+        <translation>Tekst en codes tussen accolades, met “/” tussen de mapniveaus</translation>
     </message>
     <message>
         <source>+</source>
@@ -2627,19 +2615,19 @@
     </message>
     <message>
         <source>Insert a token</source>
-        <translation>Een code invoegen</translation>
+        <translation>Code invoegen</translation>
     </message>
     <message>
-        <source>Without a date</source>
-        <translation>Zonder datum</translation>
+        <source>No date taken</source>
+        <translation>Geen opnamedatum</translation>
     </message>
     <message>
-        <source>What becomes of files without a date taken</source>
-        <translation>Wat er gebeurt met bestanden zonder opnamedatum</translation>
+        <source>What to do with files that have no date taken</source>
+        <translation>Wat er met bestanden zonder opnamedatum gebeurt</translation>
     </message>
     <message>
-        <source>Name of the folder for files without a date taken</source>
-        <translation>Naam van de map voor bestanden zonder opnamedatum</translation>
+        <source>Folder name for files without a date taken</source>
+        <translation>Mapnaam voor bestanden zonder opnamedatum</translation>
     </message>
     <message>
         <source>Files</source>
@@ -2650,31 +2638,31 @@
         <translation>Verplaatsen, kopiëren of linken</translation>
     </message>
     <message>
-        <source>Into</source>
-        <translation>Naar</translation>
+        <source>Destination</source>
+        <translation>Bestemming</translation>
     </message>
     <message>
-        <source>Where the folders are made</source>
+        <source>Where the folders are created</source>
         <translation>Waar de mappen worden gemaakt</translation>
     </message>
     <message>
-        <source>If name is taken</source>
-        <translation>Bij bestaande naam</translation>
+        <source>If the file exists</source>
+        <translation>Als het bestand bestaat</translation>
     </message>
 </context>
 <context>
     <name>SortTree</name>
     <message>
-        <source>Folders after the run</source>
-        <translation>Mappen na de opdracht</translation>
+        <source>Resulting folders</source>
+        <translation>Resulterende mappen</translation>
     </message>
     <message>
         <source>Show All</source>
         <translation>Alles tonen</translation>
     </message>
     <message>
-        <source>Show all files in the list again</source>
-        <translation>Alle bestanden weer in de lijst tonen</translation>
+        <source>Show all files in the list</source>
+        <translation>Alle bestanden in de lijst tonen</translation>
     </message>
 </context>
 <context>
@@ -2684,28 +2672,28 @@
         <translation>90°</translation>
     </message>
     <message>
-        <source>Turn 90 degrees to the left</source>
-        <translation>90 graden naar links draaien</translation>
+        <source>Rotate 90° anticlockwise</source>
+        <translation>90° linksom draaien</translation>
     </message>
     <message>
-        <source>90 degrees to the left</source>
-        <translation>90 graden naar links</translation>
+        <source>90° anticlockwise</source>
+        <translation>90° linksom</translation>
     </message>
     <message>
-        <source>Turn 90 degrees to the right</source>
-        <translation>90 graden naar rechts draaien</translation>
+        <source>Rotate 90° clockwise</source>
+        <translation>90° rechtsom draaien</translation>
     </message>
     <message>
-        <source>90 degrees to the right</source>
-        <translation>90 graden naar rechts</translation>
+        <source>90° clockwise</source>
+        <translation>90° rechtsom</translation>
     </message>
     <message>
         <source>180°</source>
         <translation>180°</translation>
     </message>
     <message>
-        <source>Turn 180 degrees</source>
-        <translation>180 graden draaien</translation>
+        <source>Rotate 180°</source>
+        <translation>180° draaien</translation>
     </message>
     <message>
         <source>Half a turn</source>
@@ -2716,56 +2704,56 @@
         <translation>Hoek</translation>
     </message>
     <message>
-        <source>Angle, counter-clockwise</source>
-        <translation>Hoek, tegen de klok in</translation>
+        <source>Angle, anticlockwise</source>
+        <translation>Hoek, linksom</translation>
     </message>
     <message>
         <source>°</source>
         <translation>°</translation>
     </message>
     <message>
-        <source>Angle in degrees, counter-clockwise</source>
-        <translation>Hoek in graden, tegen de klok in</translation>
+        <source>Angle in degrees, anticlockwise</source>
+        <translation>Hoek in graden, linksom</translation>
     </message>
     <message>
-        <source>to the left</source>
-        <translation>naar links</translation>
+        <source>anticlockwise</source>
+        <translation>linksom</translation>
     </message>
     <message>
         <source>Flip</source>
         <translation>Spiegelen</translation>
     </message>
     <message>
-        <source>Across</source>
-        <translation>Horiz.</translation>
+        <source>Horizontal</source>
+        <translation>Horizontaal</translation>
     </message>
     <message>
-        <source>Flip horizontally: left and right change places</source>
-        <translation>Horizontaal spiegelen: links en rechts wisselen van plaats</translation>
+        <source>Flip horizontally: swap left and right</source>
+        <translation>Horizontaal spiegelen: links en rechts wisselen</translation>
     </message>
     <message>
-        <source>Left and right change places</source>
-        <translation>Links en rechts wisselen van plaats</translation>
+        <source>Swap left and right</source>
+        <translation>Links en rechts wisselen</translation>
     </message>
     <message>
-        <source>Down</source>
-        <translation>Vert.</translation>
+        <source>Vertical</source>
+        <translation>Verticaal</translation>
     </message>
     <message>
-        <source>Flip vertically: top and bottom change places</source>
-        <translation>Verticaal spiegelen: boven en onder wisselen van plaats</translation>
+        <source>Flip vertically: swap top and bottom</source>
+        <translation>Verticaal spiegelen: boven en onder wisselen</translation>
     </message>
     <message>
-        <source>Top and bottom change places</source>
-        <translation>Boven en onder wisselen van plaats</translation>
+        <source>Swap top and bottom</source>
+        <translation>Boven en onder wisselen</translation>
     </message>
     <message>
         <source>Reset</source>
         <translation>Herstellen</translation>
     </message>
     <message>
-        <source>Back to no turn and no flip</source>
-        <translation>Terug naar niet gedraaid en niet gespiegeld</translation>
+        <source>Reset rotation and flip</source>
+        <translation>Draaiing en spiegeling herstellen</translation>
     </message>
     <message>
         <source>Result</source>
@@ -2791,23 +2779,23 @@
         <translation>Foto</translation>
     </message>
     <message>
-        <source>What lies over the picture</source>
-        <translation>Wat over de foto komt</translation>
+        <source>What the watermark consists of</source>
+        <translation>Waar het watermerk uit bestaat</translation>
     </message>
     <message>
         <source>Text of the watermark</source>
         <translation>Tekst van het watermerk</translation>
     </message>
     <message>
-        <source>Insert a value of the picture</source>
-        <translation>Een waarde van de foto invoegen</translation>
+        <source>Insert a token</source>
+        <translation>Code invoegen</translation>
     </message>
     <message>
-        <source>Picture that lies over the picture</source>
-        <translation>Afbeelding die over de foto komt</translation>
+        <source>Picture used as the watermark</source>
+        <translation>Afbeelding die als watermerk dient</translation>
     </message>
     <message>
-        <source>About watermarks of your own</source>
+        <source>About your own watermarks</source>
         <translation>Over eigen watermerken</translation>
     </message>
     <message>
@@ -2827,16 +2815,16 @@
         <translation> %</translation>
     </message>
     <message>
-        <source>Size of the text, in per cent of the height of the picture</source>
-        <translation>Grootte van de tekst, in procent van de hoogte van de foto</translation>
+        <source>Text size, in % of the picture height</source>
+        <translation>Tekstgrootte, in % van de hoogte van de foto</translation>
     </message>
     <message>
         <source>of the height</source>
         <translation>van de hoogte</translation>
     </message>
     <message>
-        <source>Width of the watermark, in per cent of the width of the picture</source>
-        <translation>Breedte van het watermerk, in procent van de breedte van de foto</translation>
+        <source>Watermark width, in % of the picture width</source>
+        <translation>Breedte van het watermerk, in % van de breedte van de foto</translation>
     </message>
     <message>
         <source>of the width</source>
@@ -2852,7 +2840,7 @@
     </message>
     <message>
         <source>Tiled</source>
-        <translation>Herhalen</translation>
+        <translation>Herhaald</translation>
     </message>
     <message>
         <source>Repeats the watermark over the whole picture</source>
@@ -2863,12 +2851,12 @@
         <translation>Marge</translation>
     </message>
     <message>
-        <source>Margin, in per cent of the shorter side</source>
-        <translation>Marge, in procent van de kortste zijde</translation>
+        <source>Margin, in % of the shorter side</source>
+        <translation>Marge, in % van de kortste zijde</translation>
     </message>
     <message>
-        <source>In per cent of the shorter side of the picture</source>
-        <translation>In procent van de kortste zijde van de foto</translation>
+        <source>In % of the shorter side of the picture</source>
+        <translation>In % van de kortste zijde van de foto</translation>
     </message>
     <message>
         <source>Angle</source>
@@ -2879,12 +2867,12 @@
         <translation>°</translation>
     </message>
     <message>
-        <source>Angle, counter-clockwise</source>
-        <translation>Hoek, tegen de klok in</translation>
+        <source>Angle, anticlockwise</source>
+        <translation>Hoek, linksom</translation>
     </message>
     <message>
-        <source>Counter-clockwise</source>
-        <translation>Tegen de klok in</translation>
+        <source>Anticlockwise</source>
+        <translation>Linksom</translation>
     </message>
     <message>
         <source>Opacity</source>
@@ -2906,8 +2894,8 @@
         <translation>Quorlin %1</translation>
     </message>
     <message>
-        <source>No worker that reads pictures is running.</source>
-        <translation>Er loopt geen hulpproces dat foto’s leest.</translation>
+        <source>No process that reads pictures is running.</source>
+        <translation>Er loopt nu geen proces dat foto’s leest.</translation>
     </message>
     <message>
         <source>no new privileges</source>
@@ -2922,16 +2910,16 @@
         <translation>filter voor systeemaanroepen (seccomp)</translation>
     </message>
     <message>
-        <source>Workers that make pictures are confined by: %1.</source>
-        <translation>Hulpprocessen die foto’s maken zijn afgeschermd door: %1.</translation>
+        <source>Processes that read pictures are confined by: %1.</source>
+        <translation>Processen die foto’s lezen zijn afgeschermd door: %1.</translation>
     </message>
     <message>
         <source>nothing</source>
         <translation>niets</translation>
     </message>
     <message>
-        <source>This system lacks: %1.</source>
-        <translation>Dit systeem mist: %1.</translation>
+        <source>Not available on this system: %1.</source>
+        <translation>Niet beschikbaar op dit systeem: %1.</translation>
     </message>
 </context>
 <context>
@@ -2973,16 +2961,23 @@
         <source>Background &amp; Border</source>
         <translation>Achtergrond en rand</translation>
     </message>
+    <message>
+        <source>Adding background and border</source>
+        <translation>Het toevoegen van achtergrond en rand</translation>
+    </message>
     <message numerus="yes">
-        <source>Frame %n Pictures</source>
+        <source>Add Background to %n Pictures</source>
         <translation>
-            <numerusform>%n foto inlijsten</numerusform>
-            <numerusform>%n foto’s inlijsten</numerusform>
+            <numerusform>Achtergrond aan %n foto toevoegen</numerusform>
+            <numerusform>Achtergrond aan %n foto’s toevoegen</numerusform>
         </translation>
     </message>
-    <message>
-        <source>Framing</source>
-        <translation>Het omlijsten</translation>
+    <message numerus="yes">
+        <source>Add Border to %n Pictures</source>
+        <translation>
+            <numerusform>Rand aan %n foto toevoegen</numerusform>
+            <numerusform>Rand aan %n foto’s toevoegen</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3020,12 +3015,12 @@
         <translation>Geen</translation>
     </message>
     <message>
-        <source>White, 10 pixels around</source>
-        <translation>Wit, 10 pixels rondom</translation>
+        <source>White, 10 pixels on all sides</source>
+        <translation>Wit, 10 pixels aan alle kanten</translation>
     </message>
     <message>
-        <source>Coloured band inside</source>
-        <translation>Gekleurde binnenrand</translation>
+        <source>Border inside the picture</source>
+        <translation>Rand binnen de foto</translation>
     </message>
     <message>
         <source>Choose…</source>
@@ -3043,12 +3038,12 @@
         <translation>Witte achtergrond</translation>
     </message>
     <message>
-        <source>White frame</source>
+        <source>White border</source>
         <translation>Witte rand</translation>
     </message>
     <message>
-        <source>Black band</source>
-        <translation>Zwarte binnenrand</translation>
+        <source>Black border</source>
+        <translation>Zwarte rand</translation>
     </message>
     <message>
         <source>Ivory mount</source>
@@ -3074,28 +3069,28 @@
         <translation>op patroon %1</translation>
     </message>
     <message>
-        <source>white frame</source>
+        <source>white border</source>
         <translation>witte rand</translation>
     </message>
     <message>
-        <source>band of %1 px in %2</source>
-        <translation>binnenrand van %1 px in %2</translation>
+        <source>border of %1 px in %2</source>
+        <translation>rand van %1 px in %2</translation>
     </message>
     <message>
         <source>Choose a pattern.</source>
         <translation>Kies een patroon.</translation>
     </message>
     <message>
-        <source>Enter a width of the band from 1 to %1.</source>
-        <translation>Geef een breedte van de binnenrand op van 1 tot %1.</translation>
+        <source>Enter a border width from 1 to %1.</source>
+        <translation>Geef een randbreedte op van 1 tot %1.</translation>
     </message>
     <message>
-        <source>the band would cover all of it</source>
-        <translation>de binnenrand zou alles bedekken</translation>
+        <source>the border would cover the whole picture</source>
+        <translation>de rand zou de hele foto bedekken</translation>
     </message>
     <message>
-        <source>A %1 picture has no transparent parts: it stays as it looks.</source>
-        <translation>Een %1-foto heeft geen transparante delen: het uiterlijk verandert niet.</translation>
+        <source>%1 pictures have no transparent parts, so a background would not be visible.</source>
+        <translation>%1-foto’s hebben geen transparante delen; een achtergrond zou dus niet te zien zijn.</translation>
     </message>
     <message>
         <source>“%1” cannot be read as a picture.</source>
@@ -3109,40 +3104,40 @@
         <translation>voorvertoning van %1</translation>
     </message>
     <message numerus="yes">
-        <source>%n further pictures left out</source>
+        <source>%n more pictures left out</source>
         <translation>
-            <numerusform>%n verdere foto weggelaten</numerusform>
-            <numerusform>%n verdere foto’s weggelaten</numerusform>
+            <numerusform>nog %n foto weggelaten</numerusform>
+            <numerusform>nog %n foto’s weggelaten</numerusform>
         </translation>
     </message>
     <message>
-        <source>cut off at the picture’s edge</source>
-        <translation>afgesneden aan de rand</translation>
+        <source>smaller than asked for: the frame extends past the edge of the picture</source>
+        <translation>kleiner dan gevraagd: het kader valt deels buiten de foto</translation>
     </message>
 </context>
 <context>
     <name>clocks</name>
     <message>
-        <source>No camera stated</source>
-        <translation>Geen camera vermeld</translation>
+        <source>Unknown camera</source>
+        <translation>Onbekende camera</translation>
     </message>
     <message>
         <source>%1 · %2</source>
         <translation>%1 · %2</translation>
     </message>
     <message>
-        <source>later by</source>
-        <translation>later met</translation>
+        <source>forward by</source>
+        <translation>vooruit met</translation>
     </message>
     <message>
-        <source>earlier by</source>
-        <translation>vroeger met</translation>
+        <source>back by</source>
+        <translation>terug met</translation>
     </message>
 </context>
 <context>
     <name>comment-job</name>
     <message>
-        <source>Write comment, keep the first page only</source>
+        <source>Write comment, keep only the first page</source>
         <translation>Opmerking schrijven, alleen de eerste pagina houden</translation>
     </message>
     <message numerus="yes">
@@ -3174,32 +3169,32 @@
 <context>
     <name>comment-questions</name>
     <message numerus="yes">
-        <source>%n further pages</source>
+        <source>%n more pages</source>
         <translation>
             <numerusform>nog %n pagina</numerusform>
             <numerusform>nog %n pagina’s</numerusform>
         </translation>
     </message>
     <message>
-        <source>This file has %1, which would be taken out and cannot be brought back: only its first page is kept.</source>
-        <translation>Dit bestand heeft %1. Die zouden verwijderd worden en zijn niet terug te halen: alleen de eerste pagina blijft over.</translation>
+        <source>This file has %1. Only the first page is kept; this cannot be undone.</source>
+        <translation>Dit bestand heeft %1. Alleen de eerste pagina blijft; dat is niet ongedaan te maken.</translation>
     </message>
     <message numerus="yes">
-        <source>%n files have several pages and are left out; their comments would cost them %1: %2.</source>
+        <source>%n files with several pages are left out, since writing would remove %1: %2.</source>
         <translation>
-            <numerusform>%n bestand heeft meer pagina’s en wordt overgeslagen; de opmerking zou het %1 kosten: %2.</numerusform>
-            <numerusform>%n bestanden hebben meer pagina’s en worden overgeslagen; de opmerking zou ze %1 kosten: %2.</numerusform>
+            <numerusform>%n bestand met meer pagina’s wordt overgeslagen, omdat schrijven %1 zou verwijderen: %2.</numerusform>
+            <numerusform>%n bestanden met meer pagina’s worden overgeslagen, omdat schrijven %1 zou verwijderen: %2.</numerusform>
         </translation>
     </message>
     <message>
-        <source>The originals themselves are changed: their comment, and nothing else in them.</source>
-        <translation>De originelen zelf worden gewijzigd: hun opmerking, en verder niets.</translation>
+        <source>This changes the metadata inside your originals. Their pictures are not touched.</source>
+        <translation>Dit wijzigt de metadata in uw originelen. De foto’s zelf blijven ongemoeid.</translation>
     </message>
     <message numerus="yes">
-        <source>%n files are of types that have no place for a comment, and stay as they are.</source>
+        <source>%n files have types that cannot hold a comment and stay unchanged.</source>
         <translation>
-            <numerusform>%n bestand is van een type zonder plaats voor een opmerking en blijft zoals het is.</numerusform>
-            <numerusform>%n bestanden zijn van een type zonder plaats voor een opmerking en blijven zoals ze zijn.</numerusform>
+            <numerusform>%n bestand heeft een type zonder opmerkingen en blijft ongewijzigd.</numerusform>
+            <numerusform>%n bestanden hebben typen zonder opmerkingen en blijven ongewijzigd.</numerusform>
         </translation>
     </message>
     <message>
@@ -3207,7 +3202,7 @@
         <translation>Opmerking schrijven</translation>
     </message>
     <message numerus="yes">
-        <source>Empty the comments of %n pictures?</source>
+        <source>Clear the comments of %n pictures?</source>
         <translation>
             <numerusform>De opmerking van deze foto leegmaken?</numerusform>
             <numerusform>De opmerking van %n foto’s leegmaken?</numerusform>
@@ -3233,7 +3228,7 @@
         <translation>Annuleren</translation>
     </message>
     <message>
-        <source>Write into these too, and keep only their first page</source>
+        <source>Write into these too, keeping only their first page</source>
         <translation>Ook in deze schrijven en alleen de eerste pagina houden</translation>
     </message>
     <message>
@@ -3241,52 +3236,52 @@
         <translation>Opmerking niet geschreven</translation>
     </message>
     <message>
-        <source>Write what was typed into %1?</source>
-        <translation>Het getypte in %1 schrijven?</translation>
+        <source>Write your changes to %1?</source>
+        <translation>Uw wijzigingen in %1 schrijven?</translation>
     </message>
     <message>
-        <source>It is not in the file yet.</source>
-        <translation>Het staat nog niet in het bestand.</translation>
+        <source>The comment has not been written yet.</source>
+        <translation>De opmerking is nog niet geschreven.</translation>
     </message>
     <message>
         <source>Discard</source>
         <translation>Weggooien</translation>
     </message>
     <message>
-        <source>Keep Typing</source>
-        <translation>Verder typen</translation>
+        <source>Keep Editing</source>
+        <translation>Verder bewerken</translation>
     </message>
 </context>
 <context>
     <name>comment-run</name>
     <message>
-        <source>The file does not say what was written into it.</source>
-        <translation>In het bestand staat niet wat erin is geschreven.</translation>
+        <source>The file does not contain what was written.</source>
+        <translation>Het bestand bevat niet wat is geschreven.</translation>
     </message>
     <message numerus="yes">
-        <source>%n further pages were taken out and do not come back.</source>
+        <source>%n more pages were removed. This cannot be undone.</source>
         <translation>
-            <numerusform>%n verdere pagina is verwijderd en komt niet terug.</numerusform>
-            <numerusform>%n verdere pagina’s zijn verwijderd en komen niet terug.</numerusform>
+            <numerusform>Nog %n pagina is verwijderd. Dat is niet ongedaan te maken.</numerusform>
+            <numerusform>Nog %n pagina’s zijn verwijderd. Dat is niet ongedaan te maken.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>It has %n further pages, which would be lost.</source>
+        <source>It has %n more pages, which would be lost.</source>
         <translation>
             <numerusform>Het heeft nog %n pagina, die verloren zou gaan.</numerusform>
             <numerusform>Het heeft nog %n pagina’s, die verloren zouden gaan.</numerusform>
         </translation>
     </message>
     <message>
-        <source>The file is not there any more.</source>
-        <translation>Het bestand is er niet meer.</translation>
+        <source>The file no longer exists.</source>
+        <translation>Het bestand bestaat niet meer.</translation>
     </message>
     <message>
-        <source>It has its old comment already.</source>
+        <source>It already has its old comment.</source>
         <translation>De foto heeft de oude opmerking al.</translation>
     </message>
     <message>
-        <source>The comment was changed since and stays: “%1”</source>
+        <source>The comment has been changed since and is kept: “%1”</source>
         <translation>De opmerking is sindsdien gewijzigd en blijft: “%1”</translation>
     </message>
     <message>
@@ -3305,8 +3300,8 @@
         <translation>“%1” is geschreven</translation>
     </message>
     <message>
-        <source>“%1” was emptied</source>
-        <translation>“%1” is leeggemaakt</translation>
+        <source>“%1” was cleared</source>
+        <translation>“%1” is gewist</translation>
     </message>
     <message>
         <source>“%1” became “%2”</source>
@@ -3454,16 +3449,20 @@
         <translation>Origineel</translation>
     </message>
     <message>
-        <source>%1 at %2, %3</source>
-        <translation>%1 op %2, %3</translation>
-    </message>
-    <message>
         <source>Ratio</source>
         <translation>Verhouding</translation>
     </message>
     <message>
         <source>Other</source>
         <translation>Andere</translation>
+    </message>
+    <message>
+        <source>%1 × %2 px at %3, %4</source>
+        <translation>%1 × %2 px op %3, %4</translation>
+    </message>
+    <message>
+        <source>%1 × %2 px</source>
+        <translation>%1 × %2 px</translation>
     </message>
 </context>
 <context>
@@ -3485,7 +3484,7 @@
         <translation>16:9, 1920 × 1080</translation>
     </message>
     <message>
-        <source>Trim 5 %</source>
+        <source>Trim 5%</source>
         <translation>Randen 5 % inkorten</translation>
     </message>
 </context>
@@ -3496,14 +3495,14 @@
         <translation>Bijgesneden</translation>
     </message>
     <message>
-        <source>%1 % away</source>
-        <translation>%1 % eraf</translation>
+        <source>trim %1%</source>
+        <translation>%1 % afsnijden</translation>
     </message>
     <message numerus="yes">
-        <source>%n pixels away</source>
+        <source>trim %n pixels</source>
         <translation>
-            <numerusform>%n pixel eraf</numerusform>
-            <numerusform>%n pixels eraf</numerusform>
+            <numerusform>%n pixel afsnijden</numerusform>
+            <numerusform>%n pixels afsnijden</numerusform>
         </translation>
     </message>
     <message>
@@ -3515,8 +3514,8 @@
         <translation>positie %1</translation>
     </message>
     <message>
-        <source>Enter a whole number from 0 to 99 per cent.</source>
-        <translation>Geef een geheel getal op van 0 tot 99 procent.</translation>
+        <source>Enter a whole number from 0 to 99.</source>
+        <translation>Geef een geheel getal op van 0 tot 99.</translation>
     </message>
     <message>
         <source>Enter a whole number from 0 to %1.</source>
@@ -3543,7 +3542,7 @@
         <translation>niet omgekeerd</translation>
     </message>
     <message>
-        <source>where the eye is drawn to</source>
+        <source>at the focus of attention</source>
         <translation>bij de blikvanger</translation>
     </message>
     <message>
@@ -3554,8 +3553,8 @@
 <context>
     <name>field-kinds</name>
     <message>
-        <source>The part that draws the eye</source>
-        <translation>Het deel dat de aandacht trekt</translation>
+        <source>Focus of attention</source>
+        <translation>Blikvanger</translation>
     </message>
     <message>
         <source>Position</source>
@@ -3569,11 +3568,11 @@
         <translation>Kan %1 niet lezen: het is geen UTF-8-tekst</translation>
     </message>
     <message>
-        <source>%1 stays as it is: %2</source>
-        <translation>%1 blijft zoals het is: %2</translation>
+        <source>%1 stays unchanged: %2</source>
+        <translation>%1 blijft ongewijzigd: %2</translation>
     </message>
     <message>
-        <source>A part of %1 could not be removed and is still there</source>
+        <source>A part of %1 could not be removed</source>
         <translation>Een deel van %1 kon niet worden verwijderd en is er nog</translation>
     </message>
     <message>
@@ -3581,19 +3580,19 @@
         <translation>%1; een kopie staat in %2</translation>
     </message>
     <message>
-        <source>%1 is gone; what was copied of it is at %2</source>
-        <translation>%1 is weg; wat ervan is gekopieerd, staat in %2</translation>
+        <source>%1 no longer exists; its partial copy is at %2</source>
+        <translation>%1 bestaat niet meer; een gedeeltelijke kopie staat in %2</translation>
     </message>
     <message>
-        <source>%1 could not be put away</source>
-        <translation>%1 kon niet worden opgeruimd</translation>
+        <source>%1 could not be moved aside</source>
+        <translation>%1 kon niet opzij worden gezet</translation>
     </message>
     <message>
         <source>%1 is also at %2</source>
         <translation>%1 staat ook in %2</translation>
     </message>
     <message>
-        <source>%1 had only its temporary name left and is now called %2</source>
+        <source>%1 was left with a temporary name and is now called %2</source>
         <translation>%1 had alleen nog zijn tijdelijke naam en heet nu %2</translation>
     </message>
     <message>
@@ -3601,31 +3600,31 @@
         <translation>Het logboek van deze opdracht is beschadigd: %1</translation>
     </message>
     <message>
-        <source>The name %1 was taken in the meantime; the item is now called %2</source>
-        <translation>De naam %1 bestaat intussen al; het onderdeel heet nu %2</translation>
+        <source>The name %1 is now in use; the item is called %2</source>
+        <translation>De naam %1 is nu in gebruik; het onderdeel heet %2</translation>
     </message>
     <message>
         <source>The run was interrupted</source>
         <translation>De opdracht is onderbroken</translation>
     </message>
     <message>
-        <source>Nothing is known of this run any more</source>
-        <translation>Van deze opdracht is niets meer bekend</translation>
+        <source>There is no record of this run</source>
+        <translation>Er is niets vastgelegd over deze opdracht</translation>
     </message>
     <message>
-        <source>This run has not ended yet</source>
-        <translation>Deze opdracht is nog niet afgelopen</translation>
+        <source>This run is still in progress</source>
+        <translation>Deze opdracht is nog bezig</translation>
     </message>
     <message>
         <source>Nothing was done in this run</source>
         <translation>In deze opdracht is niets gedaan</translation>
     </message>
     <message>
-        <source>This run was taken back already</source>
+        <source>This run has already been undone</source>
         <translation>Deze opdracht is al ongedaan gemaakt</translation>
     </message>
     <message>
-        <source>Nothing of this run can be taken back any more</source>
+        <source>Nothing in this run can be undone any more</source>
         <translation>Van deze opdracht kan niets meer ongedaan gemaakt worden</translation>
     </message>
     <message>
@@ -3641,20 +3640,20 @@
         <translation>De naam %1 is te lang voor deze schijf</translation>
     </message>
     <message>
-        <source>%1 is not there any more</source>
-        <translation>%1 is er niet meer</translation>
+        <source>%1 no longer exists</source>
+        <translation>%1 bestaat niet meer</translation>
     </message>
     <message>
-        <source>The name %1 is taken</source>
-        <translation>De naam %1 bestaat al</translation>
+        <source>The name %1 is already in use</source>
+        <translation>De naam %1 is al in gebruik</translation>
     </message>
     <message>
-        <source>The folder %1 cannot go into itself</source>
-        <translation>De map %1 kan niet in zichzelf</translation>
+        <source>The folder %1 cannot be moved into itself</source>
+        <translation>De map %1 kan niet naar zichzelf worden verplaatst</translation>
     </message>
     <message>
-        <source>%1 or its folder may not be changed</source>
-        <translation>%1 of de map ervan mag niet gewijzigd worden</translation>
+        <source>You are not allowed to change %1 or its folder</source>
+        <translation>U mag %1 of de map ervan niet wijzigen</translation>
     </message>
     <message>
         <source>%1, which it belongs to, keeps its name</source>
@@ -3665,16 +3664,16 @@
         <translation>%1 is intussen gewijzigd of vervangen</translation>
     </message>
     <message>
-        <source>There is no room left on the disk for %1</source>
+        <source>There is no space left on the disk for %1</source>
         <translation>Er is op de schijf geen ruimte meer voor %1</translation>
     </message>
     <message>
-        <source>%1 is the original itself by now, no copy of it</source>
+        <source>%1 is now the original itself, not a copy of it</source>
         <translation>%1 is intussen het origineel zelf en geen kopie ervan</translation>
     </message>
     <message>
-        <source>%1 could not get its new name, and others wait for its old one</source>
-        <translation>%1 kon de nieuwe naam niet krijgen, en andere wachten op de oude</translation>
+        <source>%1 could not be renamed, and other files need its old name</source>
+        <translation>%1 kon niet worden hernoemd, en andere bestanden hebben de oude naam nodig</translation>
     </message>
 </context>
 <context>
@@ -3684,7 +3683,7 @@
         <translation>%1 kan niet worden geschreven: %2</translation>
     </message>
     <message>
-        <source>The folder %1 cannot be made</source>
+        <source>The folder %1 cannot be created</source>
         <translation>De map %1 kan niet worden gemaakt</translation>
     </message>
 </context>
@@ -3729,15 +3728,15 @@
         <translation>%1, %2</translation>
     </message>
     <message>
-        <source>file of %1</source>
+        <source>file dated %1</source>
         <translation>bestand %1</translation>
     </message>
     <message>
-        <source>Take back the last deed (Ctrl+Z)</source>
-        <translation>Laatste handeling ongedaan maken (Ctrl+Z)</translation>
+        <source>Undo (Ctrl+Z)</source>
+        <translation>Ongedaan maken (Ctrl+Z)</translation>
     </message>
     <message>
-        <source>Take back: %1 (Ctrl+Z)</source>
+        <source>Undo: %1 (Ctrl+Z)</source>
         <translation>Ongedaan maken: %1 (Ctrl+Z)</translation>
     </message>
     <message>
@@ -3754,7 +3753,7 @@
     </message>
     <message>
         <source>%1: %2. The picture stays where it is.</source>
-        <translation>%1: %2. De foto blijft op de huidige plaats.</translation>
+        <translation>%1: %2. De foto blijft waar die is.</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -3791,20 +3790,20 @@
         <translation>Linken</translation>
     </message>
     <message>
-        <source>The picture leaves its folder. (Alt+1)</source>
-        <translation>De foto verdwijnt uit de huidige map. (Alt+1)</translation>
+        <source>Moves the picture to the folder. (Alt+1)</source>
+        <translation>Verplaatst de foto naar de map. (Alt+1)</translation>
     </message>
     <message>
-        <source>The picture stays, and a copy goes into the folder. (Alt+2)</source>
-        <translation>De foto blijft, en een kopie gaat naar de map. (Alt+2)</translation>
+        <source>Copies the picture to the folder. (Alt+2)</source>
+        <translation>Kopieert de foto naar de map. (Alt+2)</translation>
     </message>
     <message>
-        <source>The picture stays, and the folder gets a link to it. (Alt+3)</source>
-        <translation>De foto blijft, en in de map komt een link ernaar. (Alt+3)</translation>
+        <source>Puts a link to the picture into the folder. (Alt+3)</source>
+        <translation>Zet in de map een link naar de foto. (Alt+3)</translation>
     </message>
     <message>
-        <source>Change Label</source>
-        <translation>Label wijzigen</translation>
+        <source>Rename Label</source>
+        <translation>Label hernoemen</translation>
     </message>
     <message>
         <source>Show Folder</source>
@@ -3831,15 +3830,15 @@
         <translation>Alle mappen verwijderen</translation>
     </message>
     <message numerus="yes">
-        <source>Take all %n folders off the list?</source>
+        <source>Remove all %n folders from the list?</source>
         <translation>
             <numerusform>De map uit de lijst halen?</numerusform>
             <numerusform>Alle %n mappen uit de lijst halen?</numerusform>
         </translation>
     </message>
     <message>
-        <source>The folders themselves stay as they are, and so do presets.</source>
-        <translation>De mappen zelf blijven ongewijzigd, en voorinstellingen ook.</translation>
+        <source>The folders and your presets are not changed.</source>
+        <translation>De mappen en uw voorinstellingen blijven ongewijzigd.</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -3854,26 +3853,26 @@
         <translation>Map kiezen om in te sorteren</translation>
     </message>
     <message numerus="yes">
-        <source>%n folders are in the list already.</source>
+        <source>%n folders are already in the list.</source>
         <translation>
             <numerusform>%n map staat al in de lijst.</numerusform>
             <numerusform>%n mappen staan al in de lijst.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>There are keys for %n folders only.</source>
+        <source>Only %n folders can have a key.</source>
         <translation>
-            <numerusform>Er is maar voor %n map een toets.</numerusform>
-            <numerusform>Er zijn maar toetsen voor %n mappen.</numerusform>
+            <numerusform>Maar %n map kan een toets hebben.</numerusform>
+            <numerusform>Maar %n mappen kunnen een toets hebben.</numerusform>
         </translation>
     </message>
     <message>
-        <source>A folder cannot be called that.</source>
-        <translation>Zo kan een map niet heten.</translation>
+        <source>This is not a valid folder name.</source>
+        <translation>Dit is geen geldige mapnaam.</translation>
     </message>
     <message>
-        <source>There is something of this name already.</source>
-        <translation>Er is al iets met deze naam.</translation>
+        <source>This name is already in use.</source>
+        <translation>Deze naam is al in gebruik.</translation>
     </message>
     <message>
         <source>In %1</source>
@@ -3883,7 +3882,7 @@
 <context>
     <name>hand-slots</name>
     <message>
-        <source>not there</source>
+        <source>not found</source>
         <translation>niet gevonden</translation>
     </message>
     <message>
@@ -3891,8 +3890,8 @@
         <translation>geen map</translation>
     </message>
     <message>
-        <source>cannot be written</source>
-        <translation>niet beschrijfbaar</translation>
+        <source>read-only</source>
+        <translation>alleen-lezen</translation>
     </message>
 </context>
 <context>
@@ -3930,15 +3929,15 @@
         <translation>Naar de prullenbak</translation>
     </message>
     <message>
-        <source>This picture is in the trash. Undo brings it back.</source>
+        <source>This picture is in the trash. Use Undo to restore it.</source>
         <translation>Deze foto ligt in de prullenbak. Met Ongedaan maken komt de foto terug.</translation>
     </message>
     <message>
-        <source>This picture is in %1 already.</source>
+        <source>This picture is already in %1.</source>
         <translation>Deze foto staat al in %1.</translation>
     </message>
     <message>
-        <source>This picture is in the trash already.</source>
+        <source>This picture is already in the trash.</source>
         <translation>Deze foto ligt al in de prullenbak.</translation>
     </message>
     <message>
@@ -3976,20 +3975,20 @@
         <translation>De handleiding is niet geïnstalleerd.</translation>
     </message>
     <message>
-        <source>Looking for a new version…</source>
-        <translation>Er wordt naar een nieuwe versie gezocht…</translation>
+        <source>Checking for updates…</source>
+        <translation>Er wordt op updates gecontroleerd…</translation>
     </message>
     <message>
-        <source>This is the newest version.</source>
-        <translation>Dit is de nieuwste versie.</translation>
+        <source>Quorlin is up to date.</source>
+        <translation>Quorlin is up-to-date.</translation>
     </message>
     <message>
-        <source>Nobody answers where new versions are announced.</source>
-        <translation>Er komt geen antwoord van de plaats waar nieuwe versies worden aangekondigd.</translation>
+        <source>Could not reach the update server.</source>
+        <translation>De updateserver is niet bereikbaar.</translation>
     </message>
     <message>
-        <source>This installation does not know where new versions are announced.</source>
-        <translation>Deze installatie weet niet waar nieuwe versies worden aangekondigd.</translation>
+        <source>No update server is set in this installation.</source>
+        <translation>In deze installatie is geen updateserver ingesteld.</translation>
     </message>
 </context>
 <context>
@@ -4049,10 +4048,10 @@
         <translation>Een eerdere opdracht ongedaan maken</translation>
     </message>
     <message numerus="yes">
-        <source>%1 of %n files was done before Quorlin was started this time. Undo it?</source>
+        <source>%1 of %n files belongs to an earlier session. Undo it?</source>
         <translation>
-            <numerusform>‘%1’ van %n bestand is van voor deze start van Quorlin. Ongedaan maken?</numerusform>
-            <numerusform>‘%1’ van %n bestanden is van voor deze start van Quorlin. Ongedaan maken?</numerusform>
+            <numerusform>“%1” van %n bestand is van een eerdere sessie. Ongedaan maken?</numerusform>
+            <numerusform>“%1” van %n bestanden is van een eerdere sessie. Ongedaan maken?</numerusform>
         </translation>
     </message>
     <message>
@@ -4108,17 +4107,17 @@
         <translation>%1 toegevoegd</translation>
     </message>
     <message numerus="yes">
-        <source>%n were in the list already</source>
+        <source>%n already in the list</source>
         <translation>
-            <numerusform>%n stond al in de lijst</numerusform>
-            <numerusform>%n stonden al in de lijst</numerusform>
+            <numerusform>%n al in de lijst</numerusform>
+            <numerusform>%n al in de lijst</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n files go along</source>
+        <source>%n sidecar files</source>
         <translation>
-            <numerusform>%n bestand gaat mee</numerusform>
-            <numerusform>%n bestanden gaan mee</numerusform>
+            <numerusform>%n sidecarbestand</numerusform>
+            <numerusform>%n sidecarbestanden</numerusform>
         </translation>
     </message>
     <message>
@@ -4142,8 +4141,8 @@
         <translation>Er staan geen bestanden op het klembord</translation>
     </message>
     <message>
-        <source>Left out here</source>
-        <translation>Hier overgeslagen</translation>
+        <source>Not shown</source>
+        <translation>Niet getoond</translation>
     </message>
     <message numerus="yes">
         <source>and %n more</source>
@@ -4157,11 +4156,11 @@
         <translation>Sluiten</translation>
     </message>
     <message>
-        <source>The sample pictures could not be copied into your folder of pictures</source>
-        <translation>De voorbeelden konden niet naar uw map met afbeeldingen worden gekopieerd</translation>
+        <source>The sample pictures could not be copied to your pictures folder</source>
+        <translation>De voorbeeldfoto’s konden niet naar uw map met afbeeldingen worden gekopieerd</translation>
     </message>
     <message>
-        <source>Recipe opened. Nothing was run.</source>
+        <source>Recipe opened. Nothing has been run.</source>
         <translation>Recept geopend. Er is niets uitgevoerd.</translation>
     </message>
     <message numerus="yes">
@@ -4172,10 +4171,10 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>Looking at %n files…</source>
+        <source>Reading %n files…</source>
         <translation>
-            <numerusform>%n bestand wordt bekeken…</numerusform>
-            <numerusform>%n bestanden worden bekeken…</numerusform>
+            <numerusform>%n bestand wordt gelezen…</numerusform>
+            <numerusform>%n bestanden worden gelezen…</numerusform>
         </translation>
     </message>
 </context>
@@ -4186,8 +4185,8 @@
         <translation>Nog geen foto’s</translation>
     </message>
     <message>
-        <source>No pictures there</source>
-        <translation>Daar zijn geen foto’s</translation>
+        <source>No pictures found</source>
+        <translation>Geen foto’s gevonden</translation>
     </message>
     <message>
         <source>Add Pictures…</source>
@@ -4198,25 +4197,25 @@
         <translation>Sleep foto’s of mappen hierheen</translation>
     </message>
     <message>
-        <source>Then choose at the left what to do with them. Your originals stay as they are unless you say otherwise.</source>
-        <translation>Kies daarna links wat ermee moet gebeuren. Uw originelen blijven ongewijzigd, tenzij u anders kiest.</translation>
+        <source>Then choose an action on the left. Your originals stay unchanged unless you ask for it.</source>
+        <translation>Kies daarna links een actie. Uw originelen blijven ongewijzigd, tenzij u erom vraagt.</translation>
     </message>
     <message>
-        <source>“%1” is not a picture that can be taken</source>
-        <translation>“%1” is geen bruikbare foto</translation>
+        <source>“%1” was not added: it is not a supported picture.</source>
+        <translation>“%1” is niet toegevoegd: het is geen ondersteunde foto.</translation>
     </message>
     <message numerus="yes">
-        <source>%n files are not pictures that can be taken</source>
+        <source>%n files were not added: they are not supported pictures.</source>
         <translation>
-            <numerusform>%n bestand is geen bruikbare foto</numerusform>
-            <numerusform>%n bestanden zijn geen bruikbare foto’s</numerusform>
+            <numerusform>%n bestand is niet toegevoegd: het is geen ondersteunde foto.</numerusform>
+            <numerusform>%n bestanden zijn niet toegevoegd: het zijn geen ondersteunde foto’s.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n other files of the list are not pictures that can be taken</source>
+        <source>%n files are not shown because %1 cannot use them.</source>
         <translation>
-            <numerusform>%n ander bestand in de lijst is geen bruikbare foto</numerusform>
-            <numerusform>%n andere bestanden in de lijst zijn geen bruikbare foto’s</numerusform>
+            <numerusform>%n bestand wordt niet getoond, omdat “%1” het niet kan gebruiken.</numerusform>
+            <numerusform>%n bestanden worden niet getoond, omdat “%1” ze niet kan gebruiken.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -4231,8 +4230,8 @@
         <translation>Nog geen bestanden</translation>
     </message>
     <message>
-        <source>No files there</source>
-        <translation>Daar zijn geen bestanden</translation>
+        <source>No files found</source>
+        <translation>Geen bestanden gevonden</translation>
     </message>
     <message>
         <source>Add Files…</source>
@@ -4243,25 +4242,25 @@
         <translation>Sleep bestanden of mappen hierheen</translation>
     </message>
     <message>
-        <source>Then say on the right what is to become of them. You see everything before it happens, and can undo it afterwards.</source>
-        <translation>Kies daarna rechts wat ermee moet gebeuren. U ziet alles voordat het gebeurt en kunt het achteraf ongedaan maken.</translation>
+        <source>Then set up the action on the right. You see every result before it is written.</source>
+        <translation>Stel daarna rechts de actie in. U ziet elk resultaat voordat het wordt geschreven.</translation>
     </message>
     <message>
-        <source>“%1” cannot be taken</source>
-        <translation>“%1” is niet bruikbaar</translation>
+        <source>“%1” was not added: it is not a file.</source>
+        <translation>“%1” is niet toegevoegd: het is geen bestand.</translation>
     </message>
     <message numerus="yes">
-        <source>%n files cannot be taken</source>
+        <source>%n items were not added: they are not files.</source>
         <translation>
-            <numerusform>%n bestand is niet bruikbaar</numerusform>
-            <numerusform>%n bestanden zijn niet bruikbaar</numerusform>
+            <numerusform>%n onderdeel is niet toegevoegd: het is geen bestand.</numerusform>
+            <numerusform>%n onderdelen zijn niet toegevoegd: het zijn geen bestanden.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n folders of the list are left out</source>
+        <source>%n folders are not shown because %1 cannot use them.</source>
         <translation>
-            <numerusform>%n map in de lijst telt niet mee</numerusform>
-            <numerusform>%n mappen in de lijst tellen niet mee</numerusform>
+            <numerusform>%n map wordt niet getoond, omdat “%1” die niet kan gebruiken.</numerusform>
+            <numerusform>%n mappen worden niet getoond, omdat “%1” ze niet kan gebruiken.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -4276,8 +4275,8 @@
         <translation>Nog geen mappen</translation>
     </message>
     <message>
-        <source>No folders there</source>
-        <translation>Daar zijn geen mappen</translation>
+        <source>No folders found</source>
+        <translation>Geen mappen gevonden</translation>
     </message>
     <message>
         <source>Add Folder…</source>
@@ -4288,25 +4287,25 @@
         <translation>Sleep mappen hierheen</translation>
     </message>
     <message>
-        <source>The folders themselves are worked on; what is in them stays in them.</source>
-        <translation>De mappen zelf worden bewerkt; wat erin staat, blijft erin.</translation>
+        <source>The folders themselves are renamed. What is in them does not change.</source>
+        <translation>De mappen zelf worden hernoemd. De inhoud verandert niet.</translation>
     </message>
     <message>
-        <source>“%1” is not a folder</source>
-        <translation>“%1” is geen map</translation>
+        <source>“%1” was not added: it is not a folder.</source>
+        <translation>“%1” is niet toegevoegd: het is geen map.</translation>
     </message>
     <message numerus="yes">
-        <source>%n files are not folders</source>
+        <source>%n files were not added: they are not folders.</source>
         <translation>
-            <numerusform>%n bestand is geen map</numerusform>
-            <numerusform>%n bestanden zijn geen mappen</numerusform>
+            <numerusform>%n bestand is niet toegevoegd: het is geen map.</numerusform>
+            <numerusform>%n bestanden zijn niet toegevoegd: het zijn geen mappen.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n files of the list are left out</source>
+        <source>%n files are not shown because folders are being renamed.</source>
         <translation>
-            <numerusform>%n bestand in de lijst telt niet mee</numerusform>
-            <numerusform>%n bestanden in de lijst tellen niet mee</numerusform>
+            <numerusform>%n bestand wordt niet getoond, omdat er mappen worden hernoemd.</numerusform>
+            <numerusform>%n bestanden worden niet getoond, omdat er mappen worden hernoemd.</numerusform>
         </translation>
     </message>
 </context>
@@ -4319,15 +4318,15 @@
     <message numerus="yes">
         <source>%1 was interrupted: %2 of %3 pictures are done.</source>
         <translation>
-            <numerusform>%1 is onderbroken: %2 van %3 afbeeldingen is klaar.</numerusform>
-            <numerusform>%1 is onderbroken: %2 van %3 afbeeldingen zijn klaar.</numerusform>
+            <numerusform>%1 is onderbroken: %2 van %3 foto’s is klaar.</numerusform>
+            <numerusform>%1 is onderbroken: %2 van %3 foto’s zijn klaar.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Undoing “%1” was interrupted: %2 of %3 files are done.</source>
         <translation>
-            <numerusform>Het ongedaan maken van ‘%1’ is onderbroken: %2 van %3 bestanden is klaar.</numerusform>
-            <numerusform>Het ongedaan maken van ‘%1’ is onderbroken: %2 van %3 bestanden zijn klaar.</numerusform>
+            <numerusform>Het ongedaan maken van “%1” is onderbroken: %2 van %3 bestanden is klaar.</numerusform>
+            <numerusform>Het ongedaan maken van “%1” is onderbroken: %2 van %3 bestanden zijn klaar.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -4352,22 +4351,22 @@
 <context>
     <name>job</name>
     <message>
-        <source>the folder cannot be written</source>
-        <translation>de map is niet beschrijfbaar</translation>
+        <source>the folder is read-only</source>
+        <translation>de map is alleen-lezen</translation>
     </message>
     <message>
-        <source>a file of this name is there</source>
-        <translation>er is al een bestand met deze naam</translation>
+        <source>file already exists</source>
+        <translation>bestand bestaat al</translation>
     </message>
     <message>
-        <source>no free name was found</source>
+        <source>no free name found</source>
         <translation>geen vrije naam gevonden</translation>
     </message>
 </context>
 <context>
     <name>list-estimate</name>
     <message>
-        <source>about %1 in all</source>
+        <source>about %1 in total</source>
         <translation>ongeveer %1 in totaal</translation>
     </message>
 </context>
@@ -4418,8 +4417,8 @@
         <translation>Datum</translation>
     </message>
     <message>
-        <source>Deed</source>
-        <translation>Handeling</translation>
+        <source>Action</source>
+        <translation>Actie</translation>
     </message>
     <message>
         <source>File</source>
@@ -4462,16 +4461,16 @@
         <translation>%1 (opdracht van %2)</translation>
     </message>
     <message>
-        <source>Any deed</source>
-        <translation>Elke handeling</translation>
+        <source>All actions</source>
+        <translation>Alle acties</translation>
     </message>
     <message>
         <source>Comments only</source>
         <translation>Alleen opmerkingen</translation>
     </message>
     <message>
-        <source>Any status</source>
-        <translation>Elke status</translation>
+        <source>All statuses</source>
+        <translation>Alle statussen</translation>
     </message>
     <message>
         <source>A run is being undone. Stop it first, or wait.</source>
@@ -4510,10 +4509,10 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n comments chosen</source>
+        <source>%n comments selected</source>
         <translation>
-            <numerusform>%n opmerking gekozen</numerusform>
-            <numerusform>%n opmerkingen gekozen</numerusform>
+            <numerusform>%n opmerking geselecteerd</numerusform>
+            <numerusform>%n opmerkingen geselecteerd</numerusform>
         </translation>
     </message>
     <message>
@@ -4521,10 +4520,10 @@
         <translation>Geen regel voldoet.</translation>
     </message>
     <message numerus="yes">
-        <source>Nothing was done yet. Every run writes what became of each picture here; the newest %Ln entries are kept.</source>
+        <source>No entries yet. Each run is recorded here, and the last %Ln entries are kept.</source>
         <translation>
-            <numerusform>Er is nog niets gedaan. Elke opdracht noteert hier wat er met elke foto is gebeurd; de nieuwste regel blijft bewaard.</numerusform>
-            <numerusform>Er is nog niets gedaan. Elke opdracht noteert hier wat er met elke foto is gebeurd; de nieuwste %Ln regels blijven bewaard.</numerusform>
+            <numerusform>Nog geen regels. Elke opdracht wordt hier vastgelegd; de laatste regel blijft bewaard.</numerusform>
+            <numerusform>Nog geen regels. Elke opdracht wordt hier vastgelegd; de laatste %Ln regels blijven bewaard.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -4558,8 +4557,8 @@
         </translation>
     </message>
     <message>
-        <source>Your files stay as they are. Runs can then no longer be undone from here.</source>
-        <translation>Uw bestanden blijven ongewijzigd. Opdrachten kunnen daarna niet meer vanaf hier ongedaan worden gemaakt.</translation>
+        <source>Your files are not changed. Runs can then no longer be undone from here.</source>
+        <translation>Uw bestanden blijven ongewijzigd. Opdrachten kunnen daarna hier niet meer ongedaan worden gemaakt.</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -4582,10 +4581,10 @@
         <translation>Ongedaan maken: %1 van %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n files taken back</source>
+        <source>%n files restored</source>
         <translation>
-            <numerusform>%n bestand teruggezet</numerusform>
-            <numerusform>%n bestanden teruggezet</numerusform>
+            <numerusform>%n bestand hersteld</numerusform>
+            <numerusform>%n bestanden hersteld</numerusform>
         </translation>
     </message>
     <message>
@@ -4593,8 +4592,8 @@
         <translation>Gestopt:</translation>
     </message>
     <message>
-        <source>A run is under way. What became of each picture stands here when it has ended.</source>
-        <translation>Er loopt een opdracht. Wat er van elke foto is geworden, staat hier als die klaar is.</translation>
+        <source>A run is in progress. Its entries appear here when it is finished.</source>
+        <translation>Er loopt een opdracht. De regels verschijnen hier als die klaar is.</translation>
     </message>
     <message>
         <source>These settings cannot be used now.</source>
@@ -4627,7 +4626,7 @@
         <translation>Vullend</translation>
     </message>
     <message>
-        <source>A run is under way</source>
+        <source>A run is in progress</source>
         <translation>Er loopt een opdracht</translation>
     </message>
     <message>
@@ -4635,8 +4634,8 @@
         <translation>De opdracht stoppen en het venster sluiten?</translation>
     </message>
     <message>
-        <source>What is finished stays; nothing half written is left.</source>
-        <translation>Wat klaar is, blijft; er blijft niets half geschreven achter.</translation>
+        <source>Finished pictures are kept. No half-written file is left behind.</source>
+        <translation>Foto’s die klaar zijn, blijven bewaard. Er blijft geen half geschreven bestand achter.</translation>
     </message>
     <message>
         <source>Stop and Close</source>
@@ -4651,22 +4650,22 @@
         <translation>%1%</translation>
     </message>
     <message>
-        <source>No file manager opens the folder. It is %1</source>
-        <translation>Geen bestandsbeheerder opent de map. Het is %1</translation>
+        <source>No file manager could open the folder. It is %1</source>
+        <translation>Geen bestandsbeheerder kon de map openen. Het is %1</translation>
     </message>
     <message numerus="yes">
-        <source>Opened: %1, which holds the %n folders</source>
+        <source>Opened %1, which contains the %n folders</source>
         <translation>
-            <numerusform>Geopend: %1, waarin de %n map staat</numerusform>
-            <numerusform>Geopend: %1, waarin de %n mappen staan</numerusform>
+            <numerusform>%1 geopend, waarin de map staat</numerusform>
+            <numerusform>%1 geopend, waarin de %n mappen staan</numerusform>
         </translation>
     </message>
 </context>
 <context>
     <name>manual</name>
     <message>
-        <source>No page says “%1”.</source>
-        <translation>Op geen pagina staat “%1”.</translation>
+        <source>“%1” was not found in the manual.</source>
+        <translation>“%1” is niet gevonden in de handleiding.</translation>
     </message>
 </context>
 <context>
@@ -4757,7 +4756,7 @@
         <translation>Waarden zoeken</translation>
     </message>
     <message>
-        <source>Comments are being written. Cancel it first, or wait.</source>
+        <source>Comments are being written. Cancel this first, or wait.</source>
         <translation>Er worden opmerkingen geschreven. Annuleer dat eerst, of wacht.</translation>
     </message>
     <message>
@@ -4769,12 +4768,12 @@
         <translation>Waarde of tak kopiëren</translation>
     </message>
     <message>
-        <source>Copy Place in Degrees, 48.85840, 2.29450</source>
-        <translation>Plaats kopiëren in graden, 48.85840, 2.29450</translation>
+        <source>Copy Location in Degrees, 48.85840, 2.29450</source>
+        <translation>Locatie kopiëren in graden, 48.85840, 2.29450</translation>
     </message>
     <message>
-        <source>Copy Place in Minutes, 48° 51′ 30″ N</source>
-        <translation>Plaats kopiëren in minuten, 48° 51′ 30″ N</translation>
+        <source>Copy Location in Minutes, 48° 51′ 30″ N</source>
+        <translation>Locatie kopiëren in minuten, 48° 51′ 30″ N</translation>
     </message>
     <message numerus="yes">
         <source>%n lines copied</source>
@@ -4784,20 +4783,20 @@
         </translation>
     </message>
     <message>
-        <source>Choose a property to copy first.</source>
-        <translation>Kies eerst een eigenschap om te kopiëren.</translation>
+        <source>Select a property to copy first.</source>
+        <translation>Selecteer eerst een eigenschap om te kopiëren.</translation>
     </message>
     <message>
         <source>Copied: %1</source>
         <translation>Gekopieerd: %1</translation>
     </message>
     <message>
-        <source>Files of this type have no place for a comment.</source>
-        <translation>Bestanden van dit type hebben geen plaats voor een opmerking.</translation>
+        <source>Files of this type cannot hold a comment.</source>
+        <translation>Bestanden van dit type kunnen geen opmerking bevatten.</translation>
     </message>
     <message>
-        <source>Tokens such as {name}, {date} and {counter} stand for what each picture has; {{ is a brace.</source>
-        <translation>Codes zoals {name}, {date} en {counter} staan voor wat elke foto heeft; {{ is een accolade.</translation>
+        <source>Tokens such as {name}, {date} and {counter} are filled in for each picture. To write a brace, type {{.</source>
+        <translation>Codes zoals {name}, {date} en {counter} worden voor elke foto ingevuld. Typ {{ voor een accolade.</translation>
     </message>
     <message>
         <source>For example %1: “%2”</source>
@@ -4855,12 +4854,12 @@
 <context>
     <name>move-run</name>
     <message>
-        <source>Too little room</source>
+        <source>Not enough space</source>
         <translation>Te weinig ruimte</translation>
     </message>
     <message>
-        <source>Files that find no room stay where they are.</source>
-        <translation>Bestanden waarvoor geen ruimte is, blijven op hun plaats.</translation>
+        <source>Files that do not fit stay where they are.</source>
+        <translation>Bestanden die niet passen, blijven waar ze zijn.</translation>
     </message>
     <message>
         <source>Start Anyway</source>
@@ -4883,8 +4882,8 @@
         <translation>Geannuleerd. Er is niets verplaatst.</translation>
     </message>
     <message>
-        <source>Simulation: %1</source>
-        <translation>Simulatie: %1</translation>
+        <source>Dry run: %1</source>
+        <translation>Proefrun: %1</translation>
     </message>
     <message>
         <source>%1 left out</source>
@@ -4899,8 +4898,8 @@
         <translation>gedaan</translation>
     </message>
     <message>
-        <source>cancelled before its turn</source>
-        <translation>geannuleerd vóór de beurt</translation>
+        <source>cancelled</source>
+        <translation>geannuleerd</translation>
     </message>
     <message>
         <source>Cancelled:</source>
@@ -4933,127 +4932,127 @@
 <context>
     <name>move-words</name>
     <message>
-        <source>name is empty</source>
-        <translation>naam is leeg</translation>
+        <source>the name is empty</source>
+        <translation>de naam is leeg</translation>
     </message>
     <message>
-        <source>a name cannot have “/” in it or be “.” or “..”</source>
+        <source>a name cannot contain “/” or be “.” or “..”</source>
         <translation>een naam mag geen “/” bevatten en niet “.” of “..” zijn</translation>
     </message>
     <message>
-        <source>name is too long</source>
-        <translation>naam is te lang</translation>
+        <source>the name is too long</source>
+        <translation>de naam is te lang</translation>
     </message>
     <message>
-        <source>the file is not there any more</source>
-        <translation>het bestand is er niet meer</translation>
+        <source>the file no longer exists</source>
+        <translation>het bestand bestaat niet meer</translation>
     </message>
     <message>
-        <source>%1 would get this name too</source>
-        <translation>%1 krijgt ook deze naam</translation>
+        <source>same new name as %1</source>
+        <translation>zelfde nieuwe naam als %1</translation>
     </message>
     <message>
-        <source>name is taken by %1, which is not in this list or stays</source>
-        <translation>naam is bezet door %1, dat niet in deze lijst staat of blijft</translation>
+        <source>name in use by %1, which keeps its name</source>
+        <translation>naam in gebruik door %1, dat de naam houdt</translation>
     </message>
     <message>
-        <source>name is taken by a file not in this list</source>
-        <translation>naam is bezet door een bestand buiten deze lijst</translation>
+        <source>name in use by a file that is not in this list</source>
+        <translation>naam in gebruik door een bestand buiten deze lijst</translation>
     </message>
     <message>
         <source>differs only by case or accents from %1</source>
         <translation>verschilt alleen in hoofdletters of accenten van %1</translation>
     </message>
     <message>
-        <source>a folder cannot go into itself</source>
-        <translation>een map kan niet in zichzelf</translation>
+        <source>a folder cannot be moved into itself</source>
+        <translation>een map kan niet naar zichzelf worden verplaatst</translation>
     </message>
     <message>
-        <source>the folder cannot be written</source>
-        <translation>de map is niet beschrijfbaar</translation>
+        <source>the folder is read-only</source>
+        <translation>de map is alleen-lezen</translation>
     </message>
     <message>
-        <source>the file that it goes with stays</source>
-        <translation>het bestand waar het bij hoort, blijft</translation>
+        <source>the picture of this sidecar file stays</source>
+        <translation>de foto bij dit sidecarbestand blijft</translation>
     </message>
     <message>
-        <source>a file that goes along cannot: %1 is in its place</source>
-        <translation>een bestand dat meegaat, kan niet mee: %1 staat op zijn plaats</translation>
+        <source>a sidecar file cannot be moved: %1 is in its place</source>
+        <translation>een sidecarbestand kan niet mee: %1 staat op die plaats</translation>
     </message>
     <message>
-        <source>a file that goes along cannot</source>
-        <translation>een bestand dat meegaat, kan niet mee</translation>
+        <source>a sidecar file cannot be moved</source>
+        <translation>een sidecarbestand kan niet mee</translation>
     </message>
     <message>
-        <source>cannot be done</source>
+        <source>not possible</source>
         <translation>niet mogelijk</translation>
     </message>
     <message>
-        <source>changes places with %1: done in two steps</source>
-        <translation>wisselt van plaats met %1: gaat in twee stappen</translation>
+        <source>swaps names with %1</source>
+        <translation>wisselt van naam met %1</translation>
     </message>
     <message>
         <source>ready, with its %1</source>
-        <translation>in orde, met %1</translation>
+        <translation>gereed, met %1</translation>
     </message>
     <message>
-        <source>ready, numbered because the name is taken</source>
-        <translation>in orde, genummerd omdat de naam al bestaat</translation>
+        <source>ready, numbered because the file exists</source>
+        <translation>gereed, genummerd omdat het bestand bestaat</translation>
     </message>
     <message>
-        <source>ready, onto another disk</source>
-        <translation>in orde, naar een andere schijf</translation>
+        <source>ready, to another disk</source>
+        <translation>gereed, naar een andere schijf</translation>
     </message>
     <message>
         <source>ready, only the case changes</source>
-        <translation>in orde, alleen hoofdletters wijzigen</translation>
+        <translation>gereed, alleen hoofdletters wijzigen</translation>
     </message>
     <message>
         <source>ready</source>
-        <translation>in orde</translation>
+        <translation>gereed</translation>
     </message>
     <message>
-        <source>Goes with its %1.</source>
-        <translation>Neemt %1 mee.</translation>
+        <source>Includes its %1.</source>
+        <translation>Met %1.</translation>
     </message>
     <message>
         <source>ready, but %1</source>
-        <translation>in orde, maar %1</translation>
+        <translation>gereed, maar %1</translation>
     </message>
     <message>
         <source>stays: %1 gets this name</source>
         <translation>blijft: %1 krijgt deze naam</translation>
     </message>
     <message>
-        <source>stays: a file of this name is there</source>
-        <translation>blijft: er is al een bestand met deze naam</translation>
+        <source>stays: file already exists</source>
+        <translation>blijft: bestand bestaat al</translation>
     </message>
     <message>
-        <source>In the way: %1</source>
-        <translation>In de weg: %1</translation>
+        <source>Existing file: %1</source>
+        <translation>Bestaand bestand: %1</translation>
     </message>
     <message>
-        <source>goes along with %1</source>
-        <translation>gaat mee met %1</translation>
+        <source>sidecar file of %1</source>
+        <translation>sidecarbestand van %1</translation>
     </message>
     <message>
-        <source>stays as it is</source>
-        <translation>blijft ongewijzigd</translation>
+        <source>unchanged</source>
+        <translation>ongewijzigd</translation>
     </message>
 </context>
 <context>
     <name>moves</name>
     <message>
-        <source>Simulate: %1</source>
-        <translation>Simuleren: %1</translation>
+        <source>Dry Run: %1</source>
+        <translation>Proefrun: %1</translation>
     </message>
     <message>
-        <source>Working out names: %1 of %2…</source>
-        <translation>Namen bepalen: %1 van %2…</translation>
+        <source>Planning: %1 of %2…</source>
+        <translation>Bezig met plannen: %1 van %2…</translation>
     </message>
     <message>
         <source>%1 ready</source>
-        <translation>%1 in orde</translation>
+        <translation>%1 gereed</translation>
     </message>
     <message numerus="yes">
         <source>%n need attention</source>
@@ -5063,17 +5062,17 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n stay as they are</source>
+        <source>%n unchanged</source>
         <translation>
-            <numerusform>%n blijft ongewijzigd</numerusform>
-            <numerusform>%n blijven ongewijzigd</numerusform>
+            <numerusform>%n ongewijzigd</numerusform>
+            <numerusform>%n ongewijzigd</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n go along</source>
+        <source>%n sidecar files</source>
         <translation>
-            <numerusform>%n gaat mee</numerusform>
-            <numerusform>%n gaan mee</numerusform>
+            <numerusform>%n sidecarbestand</numerusform>
+            <numerusform>%n sidecarbestanden</numerusform>
         </translation>
     </message>
     <message>
@@ -5085,8 +5084,8 @@
         <translation>Nu</translation>
     </message>
     <message>
-        <source>Simulation: show, move nothing</source>
-        <translation>Simulatie: tonen, niets verplaatsen</translation>
+        <source>Dry run: move nothing</source>
+        <translation>Proefrun: niets verplaatsen</translation>
     </message>
 </context>
 <context>
@@ -5096,8 +5095,8 @@
         <translation>Geef een tekst op.</translation>
     </message>
     <message>
-        <source>Write numbers of pieces with commas between them, such as 2,1; -1 is the last.</source>
-        <translation>Geef nummers van delen op met komma’s ertussen, zoals 2,1; -1 is het laatste.</translation>
+        <source>Enter piece numbers separated by commas, such as 2,1. Use -1 for the last piece.</source>
+        <translation>Geef deelnummers op met komma’s ertussen, zoals 2,1. Gebruik -1 voor het laatste deel.</translation>
     </message>
 </context>
 <context>
@@ -5130,8 +5129,8 @@
         <translation>Eenheid</translation>
     </message>
     <message>
-        <source>At a resolution of its own</source>
-        <translation>Met eigen resolutie</translation>
+        <source>At a chosen resolution</source>
+        <translation>Met een gekozen resolutie</translation>
     </message>
     <message>
         <source>Resolution</source>
@@ -5154,24 +5153,24 @@
         <translation>Hoogte</translation>
     </message>
     <message>
-        <source>How</source>
-        <translation>Hoe</translation>
+        <source>Mode</source>
+        <translation>Modus</translation>
     </message>
     <message>
         <source>Fit inside</source>
         <translation>Passend maken</translation>
     </message>
     <message>
-        <source>Fill and cut</source>
-        <translation>Vullen en bijsnijden</translation>
+        <source>Fill (crops)</source>
+        <translation>Vullen (snijdt bij)</translation>
     </message>
     <message>
         <source>Stretch</source>
         <translation>Uitrekken</translation>
     </message>
     <message>
-        <source>Fit and fill the rest</source>
-        <translation>Passend maken en opvullen</translation>
+        <source>Fit and pad</source>
+        <translation>Passend maken en aanvullen</translation>
     </message>
     <message>
         <source>Longest side</source>
@@ -5182,8 +5181,8 @@
         <translation>Kortste zijde</translation>
     </message>
     <message>
-        <source>Per cent</source>
-        <translation>Procent</translation>
+        <source>Percentage</source>
+        <translation>Percentage</translation>
     </message>
     <message>
         <source>Megapixels</source>
@@ -5195,7 +5194,7 @@
     </message>
     <message>
         <source>Size</source>
-        <translation>Grootte</translation>
+        <translation>Afmetingen</translation>
     </message>
     <message>
         <source>By</source>
@@ -5214,12 +5213,12 @@
         <translation>Verhouding</translation>
     </message>
     <message>
-        <source>Longer number along the longer side</source>
-        <translation>Grootste getal langs de langste zijde</translation>
+        <source>Larger number for the longer side</source>
+        <translation>Grootste getal voor de langste zijde</translation>
     </message>
     <message>
-        <source>Cut away</source>
-        <translation>Wegsnijden</translation>
+        <source>Trim</source>
+        <translation>Afsnijden</translation>
     </message>
     <message>
         <source>Width and height</source>
@@ -5230,15 +5229,15 @@
         <translation>Pixels</translation>
     </message>
     <message>
-        <source>To the right</source>
-        <translation>Naar rechts</translation>
+        <source>Offset to the right</source>
+        <translation>Verschuiving naar rechts</translation>
     </message>
     <message>
-        <source>Down</source>
-        <translation>Vert.</translation>
+        <source>Offset downward</source>
+        <translation>Verschuiving omlaag</translation>
     </message>
     <message>
-        <source>Moved from there</source>
+        <source>Offset from there</source>
         <translation>Van daar verschoven</translation>
     </message>
     <message>
@@ -5254,12 +5253,12 @@
         <translation>Straal</translation>
     </message>
     <message>
-        <source>Width of the band</source>
-        <translation>Breedte binnenrand</translation>
+        <source>Border width</source>
+        <translation>Randbreedte</translation>
     </message>
     <message>
-        <source>Colour of the band</source>
-        <translation>Kleur van de binnenrand</translation>
+        <source>Border colour</source>
+        <translation>Randkleur</translation>
     </message>
     <message>
         <source>Shape</source>
@@ -5278,16 +5277,16 @@
         <translation>Ellips</translation>
     </message>
     <message>
-        <source>Colour outside</source>
-        <translation>Kleur erbuiten</translation>
+        <source>Fill colour</source>
+        <translation>Vulkleur</translation>
     </message>
     <message>
-        <source>Band along the edge</source>
-        <translation>Band langs de rand</translation>
+        <source>Border inside the picture</source>
+        <translation>Rand binnen de foto</translation>
     </message>
     <message>
-        <source>Under it</source>
-        <translation>Eronder</translation>
+        <source>Under the picture</source>
+        <translation>Onder de foto</translation>
     </message>
     <message>
         <source>A colour</source>
@@ -5385,7 +5384,7 @@
         <translation>Bestandstype</translation>
     </message>
     <message>
-        <source>Lossless, where the type can be</source>
+        <source>Lossless if the type allows it</source>
         <translation>Verliesvrij, waar het type dat kan</translation>
     </message>
     <message>
@@ -5401,7 +5400,7 @@
         <translation>Kwaliteit</translation>
     </message>
     <message>
-        <source>Limit the size of the file</source>
+        <source>Limit the file size</source>
         <translation>Bestandsgrootte begrenzen</translation>
     </message>
     <message>
@@ -5429,12 +5428,12 @@
         <translation>Locatie verwijderen</translation>
     </message>
     <message>
-        <source>If it exists</source>
-        <translation>Als het bestaat</translation>
+        <source>If the file exists</source>
+        <translation>Als het bestand bestaat</translation>
     </message>
     <message>
-        <source>Number the new file</source>
-        <translation>Nummer toevoegen</translation>
+        <source>Keep both (add a number)</source>
+        <translation>Beide behouden (met nummer)</translation>
     </message>
     <message>
         <source>Replace</source>
@@ -5442,11 +5441,7 @@
     </message>
     <message>
         <source>Skip</source>
-        <translation>Verder</translation>
-    </message>
-    <message>
-        <source>Skip if up to date</source>
-        <translation>Overslaan indien actueel</translation>
+        <translation>Overslaan</translation>
     </message>
     <message>
         <source>Name</source>
@@ -5469,19 +5464,23 @@
         <translation>Resolutie</translation>
     </message>
     <message>
-        <source>Under transparent parts</source>
-        <translation>Onder doorzichtige delen</translation>
+        <source>Transparency</source>
+        <translation>Transparantie</translation>
     </message>
     <message>
-        <source>Keep the date of the file</source>
-        <translation>Datum van het bestand bewaren</translation>
+        <source>Keep the file date</source>
+        <translation>Datum van het bestand behouden</translation>
+    </message>
+    <message>
+        <source>Skip if up to date</source>
+        <translation>Overslaan indien actueel</translation>
     </message>
 </context>
 <context>
     <name>output-pane</name>
     <message>
-        <source>Number the new file</source>
-        <translation>Nummer toevoegen</translation>
+        <source>Keep both (add a number)</source>
+        <translation>Beide behouden (met nummer)</translation>
     </message>
     <message>
         <source>Replace</source>
@@ -5500,8 +5499,8 @@
         <translation>Type van het origineel</translation>
     </message>
     <message>
-        <source>Folder “%1” beside it</source>
-        <translation>Submap “%1”</translation>
+        <source>“%1” folder next to each picture</source>
+        <translation>Map “%1” naast elke foto</translation>
     </message>
     <message>
         <source>Folder of the original</source>
@@ -5536,19 +5535,19 @@
         <translation>Meer…</translation>
     </message>
     <message numerus="yes">
-        <source>%n pictures are of a type that is not written.</source>
+        <source>%n pictures have a type that cannot be written.</source>
         <translation>
-            <numerusform>%n foto heeft een type dat niet wordt geschreven.</numerusform>
-            <numerusform>%n foto’s hebben een type dat niet wordt geschreven.</numerusform>
+            <numerusform>%n foto heeft een type dat niet kan worden geschreven.</numerusform>
+            <numerusform>%n foto’s hebben een type dat niet kan worden geschreven.</numerusform>
         </translation>
     </message>
     <message>
-        <source>Picture’s own</source>
-        <translation>die van de foto</translation>
+        <source>Same as the picture</source>
+        <translation>zoals de foto</translation>
     </message>
     <message>
-        <source>Usual</source>
-        <translation>de gebruikelijke</translation>
+        <source>Standard</source>
+        <translation>Standaard</translation>
     </message>
     <message>
         <source>Skip if up to date</source>
@@ -5558,10 +5557,10 @@
 <context>
     <name>own-results</name>
     <message numerus="yes">
-        <source>%n results of earlier runs were left out</source>
+        <source>%n results of earlier runs not added</source>
         <translation>
-            <numerusform>%n resultaat van eerdere verwerkingen is weggelaten</numerusform>
-            <numerusform>%n resultaten van eerdere verwerkingen zijn weggelaten</numerusform>
+            <numerusform>%n resultaat van eerdere opdrachten niet toegevoegd</numerusform>
+            <numerusform>%n resultaten van eerdere opdrachten niet toegevoegd</numerusform>
         </translation>
     </message>
 </context>
@@ -5630,20 +5629,20 @@
         <translation>geannuleerd</translation>
     </message>
     <message>
-        <source>another picture of this run gets this name</source>
-        <translation>een andere foto van deze opdracht krijgt deze naam</translation>
+        <source>another picture in this run has the same new name</source>
+        <translation>een andere foto in deze opdracht heeft dezelfde nieuwe naam</translation>
     </message>
     <message>
-        <source>a file of this name is there</source>
-        <translation>er is al een bestand met deze naam</translation>
+        <source>file already exists</source>
+        <translation>bestand bestaat al</translation>
     </message>
     <message>
-        <source>the folder to save to has no name of its own</source>
-        <translation>de doelmap heeft geen eigen naam</translation>
+        <source>the destination folder has no name</source>
+        <translation>de doelmap heeft geen naam</translation>
     </message>
     <message>
-        <source>the picture is no longer there</source>
-        <translation>de foto is er niet meer</translation>
+        <source>the picture no longer exists</source>
+        <translation>de foto bestaat niet meer</translation>
     </message>
     <message>
         <source>up to date</source>
@@ -5657,16 +5656,16 @@
         <translation>De tags van %1 konden niet worden geschreven</translation>
     </message>
     <message>
-        <source>Cannot trash %1</source>
-        <translation>%1 kan niet naar de prullenbak</translation>
+        <source>Cannot move %1 to the trash</source>
+        <translation>Kan %1 niet naar de prullenbak verplaatsen</translation>
     </message>
     <message>
-        <source>Cannot trash %1: there is nothing</source>
-        <translation>%1 kan niet naar de prullenbak: er is niets</translation>
+        <source>Cannot move %1 to the trash: no such file</source>
+        <translation>Kan %1 niet naar de prullenbak verplaatsen: dat bestand bestaat niet</translation>
     </message>
     <message>
-        <source>Cannot trash %1: %2</source>
-        <translation>%1 kan niet naar de prullenbak: %2</translation>
+        <source>Cannot move %1 to the trash: %2</source>
+        <translation>Kan %1 niet naar de prullenbak verplaatsen: %2</translation>
     </message>
     <message>
         <source>Cannot read %1: %2</source>
@@ -5732,8 +5731,8 @@
         <translation>Er is niets om te tekenen</translation>
     </message>
     <message>
-        <source>No picture of %1 x %2 pixels can be made</source>
-        <translation>Een foto van %1 x %2 pixels kan niet worden gemaakt</translation>
+        <source>A picture of %1 × %2 pixels cannot be made</source>
+        <translation>Een foto van %1 × %2 pixels is niet mogelijk</translation>
     </message>
     <message>
         <source>Reading the picture</source>
@@ -5748,11 +5747,11 @@
         <translation>Er is geen foto om te schalen</translation>
     </message>
     <message>
-        <source>There is no picture to turn</source>
+        <source>There is no picture to rotate</source>
         <translation>Er is geen foto om te draaien</translation>
     </message>
     <message>
-        <source>A picture cannot be turned by that angle</source>
+        <source>A picture cannot be rotated by that angle</source>
         <translation>Een foto kan niet over die hoek worden gedraaid</translation>
     </message>
     <message>
@@ -5768,15 +5767,15 @@
         <translation>Er is geen foto om te schrijven</translation>
     </message>
     <message>
-        <source>The page could not be made: %1</source>
+        <source>The page could not be created: %1</source>
         <translation>De pagina kon niet worden gemaakt: %1</translation>
     </message>
     <message>
-        <source>The JPEG could not be made: %1</source>
+        <source>The JPEG could not be created: %1</source>
         <translation>De JPEG kon niet worden gemaakt: %1</translation>
     </message>
     <message>
-        <source>A WebP file holds at most %1 pixels on a side, not %2</source>
+        <source>A WebP file can have at most %1 pixels on a side, not %2</source>
         <translation>Een WebP-bestand bevat hoogstens %1 pixels per zijde, niet %2</translation>
     </message>
     <message>
@@ -5819,8 +5818,8 @@
 <context>
     <name>preferences</name>
     <message>
-        <source>As the system</source>
-        <translation>Zoals het systeem</translation>
+        <source>System</source>
+        <translation>Systeem</translation>
     </message>
     <message>
         <source>Light</source>
@@ -5831,8 +5830,8 @@
         <translation>Donker</translation>
     </message>
     <message>
-        <source>Number the new file</source>
-        <translation>Nummer toevoegen</translation>
+        <source>Keep both (add a number)</source>
+        <translation>Beide behouden (met nummer)</translation>
     </message>
     <message>
         <source>Replace</source>
@@ -5847,16 +5846,16 @@
         <translation>Vragen</translation>
     </message>
     <message>
-        <source>the newest 1,000 entries</source>
-        <translation>de nieuwste 1.000 regels</translation>
+        <source>the last 1,000 files</source>
+        <translation>de laatste 1.000 bestanden</translation>
     </message>
     <message>
-        <source>the newest 10,000 entries</source>
-        <translation>de nieuwste 10.000 regels</translation>
+        <source>the last 10,000 files</source>
+        <translation>de laatste 10.000 bestanden</translation>
     </message>
     <message>
-        <source>the newest 100,000 entries</source>
-        <translation>de nieuwste 100.000 regels</translation>
+        <source>the last 100,000 files</source>
+        <translation>de laatste 100.000 bestanden</translation>
     </message>
     <message>
         <source>all %1 processors</source>
@@ -5867,16 +5866,16 @@
         <translation>%1 van %2 processors</translation>
     </message>
     <message>
-        <source>Into a folder beside the originals</source>
-        <translation>In een map naast de originelen</translation>
+        <source>A folder next to the originals</source>
+        <translation>Een map naast de originelen</translation>
     </message>
     <message>
-        <source>Into the folder of the originals</source>
-        <translation>In de map van de originelen</translation>
+        <source>The folder of the originals</source>
+        <translation>De map van de originelen</translation>
     </message>
     <message>
-        <source>all that is free</source>
-        <translation>alles wat vrij is</translation>
+        <source>all free memory</source>
+        <translation>al het vrije geheugen</translation>
     </message>
     <message>
         <source>%1 GB at most</source>
@@ -5938,7 +5937,7 @@
         <translation>Importeren…</translation>
     </message>
     <message>
-        <source>Look Again</source>
+        <source>Try Again</source>
         <translation>Opnieuw proberen</translation>
     </message>
     <message>
@@ -5958,8 +5957,8 @@
         <translation>De voorinstelling “%1” verwijderen?</translation>
     </message>
     <message>
-        <source>The settings stay as they are now.</source>
-        <translation>De instellingen blijven zoals ze nu zijn.</translation>
+        <source>Your current settings are kept.</source>
+        <translation>Uw huidige instellingen blijven behouden.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -6000,25 +5999,25 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n renamed, their names were taken</source>
+        <source>%n renamed because their names were in use</source>
         <translation>
-            <numerusform>%n hernoemd, de naam bestond al</numerusform>
-            <numerusform>%n hernoemd, hun namen bestonden al</numerusform>
+            <numerusform>%n hernoemd, omdat de naam in gebruik was</numerusform>
+            <numerusform>%n hernoemd, omdat de namen in gebruik waren</numerusform>
         </translation>
     </message>
     <message>
         <source>none for this action</source>
-        <translation>geen voor deze bewerking</translation>
+        <translation>geen voor deze actie</translation>
     </message>
 </context>
 <context>
     <name>preset-store</name>
     <message>
-        <source>The presets database was empty and could not be used. It is called %1 now, and there is a new one.</source>
-        <translation>De database met voorinstellingen was leeg en onbruikbaar. Ze heet nu %1, en er is een nieuwe.</translation>
+        <source>The presets database was empty. It was renamed to %1, and a new one was created.</source>
+        <translation>De database met voorinstellingen was leeg. Ze is hernoemd tot %1, en er is een nieuwe gemaakt.</translation>
     </message>
     <message>
-        <source>Presets cannot be kept: their database cannot be made.</source>
+        <source>Presets cannot be saved: the database could not be created.</source>
         <translation>Voorinstellingen kunnen niet worden bewaard: hun database kan niet worden gemaakt.</translation>
     </message>
     <message>
@@ -6026,35 +6025,35 @@
         <translation>De database met voorinstellingen kan niet worden gelezen.</translation>
     </message>
     <message>
-        <source>The presets database is damaged. It is left as it is.</source>
-        <translation>De database met voorinstellingen is beschadigd. Ze blijft ongewijzigd.</translation>
+        <source>The presets database is damaged. It was not changed.</source>
+        <translation>De database met voorinstellingen is beschadigd. Ze is niet gewijzigd.</translation>
     </message>
     <message>
-        <source>The presets database has no place for presets. It is left as it is.</source>
-        <translation>De database met voorinstellingen heeft geen plaats voor voorinstellingen. Ze blijft ongewijzigd.</translation>
+        <source>The presets database has no table for presets. It was not changed.</source>
+        <translation>De database met voorinstellingen heeft geen tabel voor voorinstellingen. Ze is niet gewijzigd.</translation>
     </message>
     <message>
-        <source>The presets database is in use by another program, or damaged. It is left as it is.</source>
-        <translation>De database met voorinstellingen is in gebruik door een ander programma, of beschadigd. Ze blijft ongewijzigd.</translation>
+        <source>The presets database is in use by another program or damaged. It was not changed.</source>
+        <translation>De database met voorinstellingen is in gebruik door een ander programma of beschadigd. Ze is niet gewijzigd.</translation>
     </message>
     <message>
-        <source>The presets database is read-only; nothing was changed.</source>
-        <translation>De database met voorinstellingen is alleen-lezen; er is niets gewijzigd.</translation>
+        <source>The presets database is read-only. It was not changed.</source>
+        <translation>De database met voorinstellingen is alleen-lezen. Ze is niet gewijzigd.</translation>
     </message>
     <message>
-        <source>The presets database is in use by another program, or the disk is full; nothing was changed.</source>
-        <translation>De database met voorinstellingen is in gebruik door een ander programma, of de schijf is vol; er is niets gewijzigd.</translation>
+        <source>The presets database is in use by another program, or the disk is full. It was not changed.</source>
+        <translation>De database met voorinstellingen is in gebruik door een ander programma, of de schijf is vol. Ze is niet gewijzigd.</translation>
     </message>
 </context>
 <context>
     <name>presets</name>
     <message>
-        <source>This preset was not made by Quorlin. It is left as it is.</source>
-        <translation>Deze voorinstelling is niet met Quorlin gemaakt. Ze blijft ongewijzigd.</translation>
+        <source>This preset was not made by Quorlin. It was not changed.</source>
+        <translation>Deze voorinstelling is niet met Quorlin gemaakt. Ze is niet gewijzigd.</translation>
     </message>
     <message>
-        <source>This preset was made by a newer Quorlin. It is left as it is.</source>
-        <translation>Deze voorinstelling is gemaakt met een nieuwere Quorlin. Ze blijft ongewijzigd.</translation>
+        <source>This preset was made by a newer version of Quorlin. It was not changed.</source>
+        <translation>Deze voorinstelling is gemaakt met een nieuwere versie van Quorlin. Ze is niet gewijzigd.</translation>
     </message>
     <message>
         <source>This preset is damaged and cannot be used.</source>
@@ -6069,11 +6068,11 @@
         <translation>Een naam mag geen rechte apostrof (&apos;) bevatten. Een gebogen (’) mag wel.</translation>
     </message>
     <message>
-        <source>A name cannot have a bar (|) in it.</source>
+        <source>A name cannot contain a vertical bar (|).</source>
         <translation>Een naam mag geen verticale streep (|) bevatten.</translation>
     </message>
     <message>
-        <source>A name cannot have line breaks or control characters in it.</source>
+        <source>A name cannot contain line breaks or control characters.</source>
         <translation>Een naam mag geen regeleinden of stuurtekens bevatten.</translation>
     </message>
     <message numerus="yes">
@@ -6084,16 +6083,16 @@
         </translation>
     </message>
     <message>
-        <source>There is a preset named %1 already.</source>
+        <source>A preset named %1 already exists.</source>
         <translation>Er is al een voorinstelling met de naam %1.</translation>
     </message>
     <message>
-        <source>This file holds no presets.</source>
+        <source>This file contains no presets.</source>
         <translation>Dit bestand bevat geen voorinstellingen.</translation>
     </message>
     <message>
-        <source>This file was made by a newer Quorlin.</source>
-        <translation>Dit bestand is gemaakt met een nieuwere Quorlin.</translation>
+        <source>This file was made by a newer version of Quorlin.</source>
+        <translation>Dit bestand is gemaakt met een nieuwere versie van Quorlin.</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %n presets in this file cannot be used.</source>
@@ -7521,15 +7520,15 @@
         <translation>Menu wissen</translation>
     </message>
     <message>
-        <source>%1 is no longer there</source>
-        <translation>%1 is er niet meer</translation>
+        <source>%1 no longer exists</source>
+        <translation>%1 bestaat niet meer</translation>
     </message>
 </context>
 <context>
     <name>recipe</name>
     <message>
-        <source>%1 has no transparency: transparent parts get the colour %2</source>
-        <translation>%1 kent geen transparantie: transparante delen krijgen de kleur %2</translation>
+        <source>%1 has no transparency: transparent parts become %2</source>
+        <translation>%1 kent geen transparantie: transparante delen worden %2</translation>
     </message>
     <message>
         <source>%1 has 8 bits for each channel, the picture more</source>
@@ -7544,8 +7543,8 @@
         <translation>%1 heeft hoogstens 256 kleuren</translation>
     </message>
     <message>
-        <source>Further pictures behind the first one are left out</source>
-        <translation>Verdere foto’s achter de eerste worden weggelaten</translation>
+        <source>Only the first picture is kept</source>
+        <translation>Alleen de eerste foto blijft behouden</translation>
     </message>
     <message>
         <source>The gain map is left out</source>
@@ -7560,40 +7559,40 @@
         <translation>XMP voorbij de eerste 64 kB vervalt</translation>
     </message>
     <message>
-        <source>Signed content credentials are left out, since no changed file agrees with them</source>
-        <translation>Ondertekende herkomstgegevens worden weggelaten, want bij geen gewijzigd bestand kloppen ze nog</translation>
+        <source>Signed content credentials are left out, since they do not match a changed file</source>
+        <translation>Ondertekende herkomstgegevens vervallen, omdat ze niet bij een gewijzigd bestand passen</translation>
     </message>
     <message>
-        <source>Data behind the end of the picture is left out</source>
-        <translation>Gegevens achter het einde van de foto worden weggelaten</translation>
+        <source>Data after the end of the picture is left out</source>
+        <translation>Gegevens na het einde van de foto vervallen</translation>
     </message>
     <message>
-        <source>%1 holds metadata as XMP alone, without maker notes</source>
-        <translation>%1 bevat metagegevens alleen als XMP, zonder notities van de fabrikant</translation>
+        <source>%1 holds metadata as XMP only, without maker notes</source>
+        <translation>%1 bevat metadata alleen als XMP, zonder notities van de fabrikant</translation>
     </message>
     <message>
-        <source>%1 holds no metadata</source>
-        <translation>%1 bevat geen metagegevens</translation>
+        <source>%1 cannot hold metadata</source>
+        <translation>%1 kan geen metadata bevatten</translation>
     </message>
     <message>
-        <source>%1 further pictures of the file are left out</source>
+        <source>More pictures in the file that are left out: %1</source>
         <translation>Verdere foto’s van het bestand die worden weggelaten: %1</translation>
     </message>
     <message>
-        <source>Pictures of this type are read and not written; choose another type</source>
-        <translation>Foto’s van dit type worden gelezen en niet geschreven; kies een ander type</translation>
+        <source>Pictures of this type can be read but not written; choose another type</source>
+        <translation>Foto’s van dit type kunnen worden gelezen maar niet geschreven; kies een ander type</translation>
     </message>
     <message>
-        <source>No picture of %1 x %2 pixels can be made</source>
-        <translation>Een foto van %1 x %2 pixels kan niet worden gemaakt</translation>
+        <source>A picture of %1 × %2 pixels cannot be made</source>
+        <translation>Een foto van %1 × %2 pixels is niet mogelijk</translation>
     </message>
     <message>
         <source>Nothing of the picture is left</source>
         <translation>Er blijft niets van de foto over</translation>
     </message>
     <message>
-        <source>Data that the maker of the camera or a program keeps beside EXIF is left out</source>
-        <translation>Gegevens die de camerafabrikant of een programma naast EXIF bewaart, worden weggelaten</translation>
+        <source>Data that the camera maker or a program keeps outside EXIF is left out</source>
+        <translation>Gegevens die de camerafabrikant of een programma buiten EXIF bewaart, vervallen</translation>
     </message>
     <message>
         <source>a number above %1, to %2</source>
@@ -7636,64 +7635,64 @@
         <translation>een object</translation>
     </message>
     <message>
-        <source>it cannot stand beside %1</source>
-        <translation>het kan niet naast %1 staan</translation>
+        <source>it cannot be used together with %1</source>
+        <translation>het kan niet samen met %1 worden gebruikt</translation>
     </message>
     <message>
         <source>one of %1 is missing</source>
         <translation>een van %1 ontbreekt</translation>
     </message>
     <message>
-        <source>there is no such key here</source>
-        <translation>zo’n sleutel is er hier niet</translation>
+        <source>unknown key</source>
+        <translation>onbekende sleutel</translation>
     </message>
     <message>
-        <source>it has a meaning with fit fill or pad only</source>
-        <translation>het heeft alleen betekenis met fit fill of pad</translation>
+        <source>it applies only with fit fill or pad</source>
+        <translation>het geldt alleen met fit fill of pad</translation>
     </message>
     <message>
-        <source>it has a meaning with fit pad only</source>
-        <translation>het heeft alleen betekenis met fit pad</translation>
+        <source>it applies only with fit pad</source>
+        <translation>het geldt alleen met fit pad</translation>
     </message>
     <message>
-        <source>it has a meaning with a box only</source>
-        <translation>het heeft alleen betekenis met box</translation>
+        <source>it applies only with box</source>
+        <translation>het geldt alleen met box</translation>
     </message>
     <message>
-        <source>two numbers with a colon between them such as 3:2, not "%1"</source>
+        <source>two numbers separated by a colon such as 3:2, not "%1"</source>
         <translation>twee getallen met een dubbele punt ertussen zoals 3:2, niet “%1”</translation>
     </message>
     <message>
-        <source>it is missing beside %1</source>
-        <translation>het ontbreekt naast %1</translation>
+        <source>it is required with %1</source>
+        <translation>het is verplicht bij %1</translation>
     </message>
     <message>
-        <source>it has a meaning with a ratio only</source>
-        <translation>het heeft alleen betekenis met ratio</translation>
+        <source>it applies only with ratio</source>
+        <translation>het geldt alleen met ratio</translation>
     </message>
     <message>
         <source>it is missing</source>
         <translation>het ontbreekt</translation>
     </message>
     <message>
-        <source>it has a meaning with a rectangle only</source>
-        <translation>het heeft alleen betekenis met een rechthoek</translation>
+        <source>it applies only with a rectangle</source>
+        <translation>het geldt alleen met een rechthoek</translation>
     </message>
     <message>
         <source>there is no picture "%1"</source>
-        <translation>er is geen foto “%1”</translation>
+        <translation>er is geen afbeelding “%1”</translation>
     </message>
     <message>
-        <source>a text, not nothing</source>
-        <translation>een tekst, niet niets</translation>
+        <source>a text that is not empty</source>
+        <translation>een tekst die niet leeg is</translation>
     </message>
     <message>
         <source>there is no font "%1"</source>
         <translation>er is geen lettertype “%1”</translation>
     </message>
     <message>
-        <source>it has a meaning with a text only</source>
-        <translation>het heeft alleen betekenis met een tekst</translation>
+        <source>it applies only with a text</source>
+        <translation>het geldt alleen met een tekst</translation>
     </message>
     <message>
         <source>sRGB, Display P3, Adobe RGB, gray or the path of an ICC file, not "%1"</source>
@@ -7704,32 +7703,32 @@
         <translation>De pixels kunnen niet blijven zoals ze zijn</translation>
     </message>
     <message>
-        <source>It cannot be made as small as %1 bytes</source>
-        <translation>Zo klein als %1 bytes kan het niet</translation>
+        <source>It does not fit into %1 bytes</source>
+        <translation>Het past niet in %1 bytes</translation>
     </message>
     <message>
         <source>this type has no quality</source>
         <translation>dit type heeft geen kwaliteit</translation>
     </message>
     <message>
-        <source>this type has no choice between lossless and not</source>
-        <translation>dit type laat geen keuze tussen verliesvrij en niet</translation>
+        <source>this type has no lossless option</source>
+        <translation>dit type heeft geen keuze voor verliesvrij</translation>
     </message>
     <message>
-        <source>a name, not nothing</source>
-        <translation>een naam, niet niets</translation>
+        <source>a name that is not empty</source>
+        <translation>een naam die niet leeg is</translation>
     </message>
     <message>
-        <source>a name without /; folders stand under folder</source>
-        <translation>een naam zonder /; mappen staan onder folder</translation>
+        <source>a name without /; use folder for folders</source>
+        <translation>een naam zonder /; gebruik folder voor mappen</translation>
     </message>
     <message>
         <source>the version of the recipe is missing</source>
         <translation>de versie van het recept ontbreekt</translation>
     </message>
     <message>
-        <source>this recipe has version %1, and this program knows versions up to %2</source>
-        <translation>dit recept heeft versie %1, en dit programma kent versies tot %2</translation>
+        <source>this recipe has version %1, but this program supports versions up to %2 only</source>
+        <translation>dit recept heeft versie %1, maar dit programma ondersteunt alleen versies tot %2</translation>
     </message>
     <message>
         <source>at least one output</source>
@@ -7744,68 +7743,64 @@
         <translation>regel %1: %2</translation>
     </message>
     <message>
-        <source>a recipe is a JSON object</source>
-        <translation>een recept is een JSON-object</translation>
+        <source>a recipe must be a JSON object</source>
+        <translation>een recept moet een JSON-object zijn</translation>
     </message>
     <message>
-        <source>a recipe is no larger than 4 MB</source>
-        <translation>een recept is niet groter dan 4 MB</translation>
+        <source>a recipe cannot be larger than 4 MB</source>
+        <translation>een recept kan niet groter zijn dan 4 MB</translation>
     </message>
     <message>
-        <source>%1 cannot be written to</source>
-        <translation>In %1 kan niet worden geschreven</translation>
+        <source>%1 is read-only</source>
+        <translation>%1 is alleen-lezen</translation>
     </message>
     <message>
         <source>%1 cannot be written: %2</source>
         <translation>%1 kan niet worden geschreven: %2</translation>
     </message>
     <message>
-        <source>its name is taken again and again</source>
-        <translation>de naam is steeds weer bezet</translation>
+        <source>no free name found</source>
+        <translation>geen vrije naam gevonden</translation>
     </message>
     <message>
-        <source>there is no such file</source>
-        <translation>zo’n bestand is er niet</translation>
+        <source>no such file</source>
+        <translation>dat bestand bestaat niet</translation>
     </message>
     <message>
-        <source>it is no ordinary file</source>
-        <translation>het is geen gewoon bestand</translation>
+        <source>not an ordinary file</source>
+        <translation>geen gewoon bestand</translation>
     </message>
     <message>
-        <source>the name is taken</source>
-        <translation>de naam is bezet</translation>
-    </message>
-    <message>
-        <source>it is up to date</source>
-        <translation>het is actueel</translation>
+        <source>file already exists</source>
+        <translation>bestand bestaat al</translation>
     </message>
     <message>
         <source>it cannot be read</source>
         <translation>het kan niet worden gelezen</translation>
     </message>
     <message>
-        <source>there is not enough memory to show it</source>
-        <translation>er is niet genoeg geheugen om het te tonen</translation>
+        <source>not enough memory to show it</source>
+        <translation>niet genoeg geheugen om het te tonen</translation>
     </message>
     <message>
-        <source>nothing came of it</source>
-        <translation>er is niets van gekomen</translation>
+        <source>no result</source>
+        <translation>geen resultaat</translation>
     </message>
     <message>
-        <source>outputs: one, and no more</source>
-        <translation>outputs: één, en niet meer</translation>
+        <source>outputs: exactly one</source>
+        <translation>outputs: precies één</translation>
     </message>
     <message>
         <source>%1 cannot be started: %2</source>
         <translation>%1 kan niet worden gestart: %2</translation>
     </message>
     <message>
-        <source>a worker ended while it started</source>
-        <translation>een hulpproces stopte bij het starten</translation>
+        <source>a worker process ended while starting</source>
+        <translation>een werkproces stopte bij het starten</translation>
     </message>
     <message>
-        <source>it takes longer than %1 seconds</source>
-        <translation>het duurt langer dan %1 seconden</translation>
+        <source>it took longer than %1 seconds</source>
+        <translation>het duurde langer dan %1 seconden</translation>
     </message>
     <message>
         <source>it needs more than %1 MB of memory</source>
@@ -7816,12 +7811,16 @@
         <translation>het leesprogramma is vastgelopen</translation>
     </message>
     <message>
-        <source>the recipe cannot be carried out</source>
+        <source>the recipe cannot be run</source>
         <translation>het recept kan niet worden uitgevoerd</translation>
     </message>
     <message>
-        <source>%1 of %2 megapixels takes more than 1.5 GB of memory; at most %3 can be made of this picture, or choose another type</source>
-        <translation>%1 met %2 megapixels vraagt meer dan 1,5 GB geheugen; van deze foto zijn er hoogstens %3 mogelijk, of kies een ander type</translation>
+        <source>%1 with %2 megapixels needs more than 1.5 GB of memory; use at most %3, or choose another type</source>
+        <translation>%1 met %2 megapixels heeft meer dan 1,5 GB geheugen nodig; gebruik hoogstens %3 of kies een ander type</translation>
+    </message>
+    <message>
+        <source>it is up to date</source>
+        <translation>het is actueel</translation>
     </message>
 </context>
 <context>
@@ -7931,11 +7930,11 @@
         <translation>Geef een naam op.</translation>
     </message>
     <message>
-        <source>A name has no slash and does not begin with a dot.</source>
-        <translation>Een naam heeft geen schuine streep en begint niet met een punt.</translation>
+        <source>A name cannot contain a slash or begin with a dot.</source>
+        <translation>Een naam mag geen schuine streep bevatten en niet met een punt beginnen.</translation>
     </message>
     <message>
-        <source>There is a recipe “%1” already.</source>
+        <source>A recipe named “%1” already exists.</source>
         <translation>Er is al een recept “%1”.</translation>
     </message>
     <message>
@@ -7943,12 +7942,12 @@
         <translation>%1 kan niet worden gelezen.</translation>
     </message>
     <message>
-        <source>%1 is no recipe: %2</source>
+        <source>%1 is not a recipe: %2</source>
         <translation>%1 is geen recept: %2</translation>
     </message>
     <message>
-        <source>%1 could not be put into the trash.</source>
-        <translation>%1 kon niet naar de prullenmand.</translation>
+        <source>%1 could not be moved to the trash.</source>
+        <translation>%1 kon niet naar de prullenbak worden verplaatst.</translation>
     </message>
 </context>
 <context>
@@ -8014,12 +8013,12 @@
         <translation>Recept verwijderen</translation>
     </message>
     <message>
-        <source>Put the recipe “%1” into the trash?</source>
-        <translation>Het recept “%1” naar de prullenmand?</translation>
+        <source>Move the recipe “%1” to the trash?</source>
+        <translation>Het recept “%1” naar de prullenbak verplaatsen?</translation>
     </message>
     <message>
-        <source>What it does stays as it is shown now.</source>
-        <translation>Wat het doet blijft zoals het nu getoond wordt.</translation>
+        <source>Your current settings are kept.</source>
+        <translation>Uw huidige instellingen blijven behouden.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -8085,11 +8084,11 @@
     </message>
     <message>
         <source>ready</source>
-        <translation>in orde</translation>
+        <translation>gereed</translation>
     </message>
     <message>
-        <source>the recipe needs attention</source>
-        <translation>het recept vraagt aandacht</translation>
+        <source>check the recipe</source>
+        <translation>controleer het recept</translation>
     </message>
     <message>
         <source>not a readable picture</source>
@@ -8099,10 +8098,10 @@
 <context>
     <name>recipe-run</name>
     <message numerus="yes">
-        <source>Simulation: %n files would be written</source>
+        <source>Dry run: %n files would be written</source>
         <translation>
-            <numerusform>Simulatie: %n bestand zou worden geschreven</numerusform>
-            <numerusform>Simulatie: %n bestanden zouden worden geschreven</numerusform>
+            <numerusform>Proefrun: %n bestand zou worden geschreven</numerusform>
+            <numerusform>Proefrun: %n bestanden zouden worden geschreven</numerusform>
         </translation>
     </message>
     <message>
@@ -8144,8 +8143,8 @@
 <context>
     <name>recipe-step</name>
     <message>
-        <source>Look at what this recipe reads and writes, and allow it first.</source>
-        <translation>Bekijk eerst wat dit recept leest en schrijft, en sta het toe.</translation>
+        <source>Check what this recipe reads and writes, and allow it first.</source>
+        <translation>Controleer eerst wat dit recept leest en schrijft, en sta het toe.</translation>
     </message>
 </context>
 <context>
@@ -8155,8 +8154,8 @@
         <translation>Schalen</translation>
     </message>
     <message>
-        <source>By a side, a percentage, megapixels, or into a box</source>
-        <translation>Op zijde, procent, megapixels of in een kader</translation>
+        <source>To a side, a percentage, megapixels or a box</source>
+        <translation>Naar zijde, percentage, megapixels of een vak</translation>
     </message>
     <message>
         <source>scale small large pixels size</source>
@@ -8167,8 +8166,8 @@
         <translation>Bijsnijden</translation>
     </message>
     <message>
-        <source>To a ratio, a size, or less at the edges</source>
-        <translation>Naar een verhouding, een formaat of minder aan de randen</translation>
+        <source>To a ratio or size, or trim the edges</source>
+        <translation>Naar verhouding of afmetingen, of randen afsnijden</translation>
     </message>
     <message>
         <source>cut trim ratio</source>
@@ -8191,8 +8190,8 @@
         <translation>Spiegelen</translation>
     </message>
     <message>
-        <source>Left and right, or top and bottom</source>
-        <translation>Links en rechts, of boven en onder</translation>
+        <source>Horizontally or vertically</source>
+        <translation>Horizontaal of verticaal</translation>
     </message>
     <message>
         <source>mirror</source>
@@ -8203,8 +8202,8 @@
         <translation>Hoeken afronden</translation>
     </message>
     <message>
-        <source>Rectangle, circle, ellipse, with a band</source>
-        <translation>Rechthoek, cirkel, ellips, met band</translation>
+        <source>Rectangle, circle or ellipse, with a border</source>
+        <translation>Rechthoek, cirkel of ellips, met rand</translation>
     </message>
     <message>
         <source>radius circle</source>
@@ -8215,8 +8214,8 @@
         <translation>Achtergrond</translation>
     </message>
     <message>
-        <source>Under transparent parts</source>
-        <translation>Onder doorzichtige delen</translation>
+        <source>Fills transparent parts</source>
+        <translation>Vult transparante delen</translation>
     </message>
     <message>
         <source>colour pattern transparent</source>
@@ -8227,7 +8226,7 @@
         <translation>Kader</translation>
     </message>
     <message>
-        <source>Around the picture, on all sides</source>
+        <source>Around the picture on all sides</source>
         <translation>Rond de foto, aan alle kanten</translation>
     </message>
     <message>
@@ -8251,8 +8250,8 @@
         <translation>Verscherpen</translation>
     </message>
     <message>
-        <source>For viewing at the size at that point</source>
-        <translation>Voor bekijken op het formaat op dat punt</translation>
+        <source>For the size at that point</source>
+        <translation>Voor de afmetingen op dat punt</translation>
     </message>
     <message>
         <source>crisp unsharp</source>
@@ -8288,19 +8287,19 @@
     </message>
     <message>
         <source>Box %1</source>
-        <translation>Kader %1</translation>
+        <translation>Vak %1</translation>
     </message>
     <message>
-        <source>%1 % less</source>
-        <translation>%1 % minder</translation>
+        <source>Trim %1%</source>
+        <translation>%1 % afsnijden</translation>
     </message>
     <message>
-        <source>%1 px less</source>
-        <translation>%1 px minder</translation>
+        <source>Trim %1 px</source>
+        <translation>%1 px afsnijden</translation>
     </message>
     <message>
-        <source>where the eye is drawn</source>
-        <translation>waar de aandacht gaat</translation>
+        <source>at the focus of attention</source>
+        <translation>bij de blikvanger</translation>
     </message>
     <message>
         <source>no file chosen</source>
@@ -8362,8 +8361,8 @@
 <context>
     <name>recipes</name>
     <message>
-        <source>Simulate: %1</source>
-        <translation>Simuleren: %1</translation>
+        <source>Dry Run: %1</source>
+        <translation>Proefrun: %1</translation>
     </message>
     <message numerus="yes">
         <source>Replace %n Originals</source>
@@ -8395,29 +8394,29 @@
 <context>
     <name>recovered</name>
     <message numerus="yes">
-        <source>%n items have their new names</source>
+        <source>%n files have their new names</source>
         <translation>
-            <numerusform>%n onderdeel heeft zijn nieuwe naam</numerusform>
-            <numerusform>%n onderdelen hebben hun nieuwe naam</numerusform>
+            <numerusform>%n bestand heeft de nieuwe naam</numerusform>
+            <numerusform>%n bestanden hebben hun nieuwe naam</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n items were taken back</source>
+        <source>%n files restored</source>
         <translation>
-            <numerusform>%n onderdeel is teruggezet</numerusform>
-            <numerusform>%n onderdelen zijn teruggezet</numerusform>
+            <numerusform>%n bestand hersteld</numerusform>
+            <numerusform>%n bestanden hersteld</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>the turn of %n items had not come</source>
+        <source>%n files not started</source>
         <translation>
-            <numerusform>%n onderdeel was nog niet aan de beurt</numerusform>
-            <numerusform>%n onderdelen waren nog niet aan de beurt</numerusform>
+            <numerusform>%n bestand niet begonnen</numerusform>
+            <numerusform>%n bestanden niet begonnen</numerusform>
         </translation>
     </message>
     <message>
-        <source>%1 was interrupted and is ended now</source>
-        <translation>%1 werd onderbroken en is nu afgesloten</translation>
+        <source>%1 was interrupted and has been cleaned up</source>
+        <translation>“%1” is onderbroken en opgeruimd</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -8459,17 +8458,10 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n folders have their old names again</source>
+        <source>%n names restored</source>
         <translation>
-            <numerusform>%n map heeft weer de oude naam</numerusform>
-            <numerusform>%n mappen hebben weer hun oude naam</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%n files have their old names again</source>
-        <translation>
-            <numerusform>%n bestand heeft weer de oude naam</numerusform>
-            <numerusform>%n bestanden hebben weer hun oude naam</numerusform>
+            <numerusform>%n naam hersteld</numerusform>
+            <numerusform>%n namen hersteld</numerusform>
         </translation>
     </message>
     <message>
@@ -8484,24 +8476,24 @@
         <translation>Tekst</translation>
     </message>
     <message>
-        <source>Count by</source>
+        <source>Increment</source>
         <translation>Stapgrootte</translation>
     </message>
     <message>
-        <source>Begin anew</source>
-        <translation>Opnieuw tellen</translation>
+        <source>Restart counter</source>
+        <translation>Teller opnieuw starten</translation>
     </message>
     <message>
         <source>Never</source>
         <translation>Nooit</translation>
     </message>
     <message>
-        <source>In each folder</source>
-        <translation>In elke map</translation>
+        <source>For each folder</source>
+        <translation>Voor elke map</translation>
     </message>
     <message>
-        <source>On each date taken</source>
-        <translation>Bij elke opnamedatum</translation>
+        <source>For each date taken</source>
+        <translation>Voor elke opnamedatum</translation>
     </message>
     <message>
         <source>Case</source>
@@ -8533,7 +8525,7 @@
     </message>
     <message>
         <source>After</source>
-        <translation>Na</translation>
+        <translation>Erachter</translation>
     </message>
     <message>
         <source>Characters</source>
@@ -8552,10 +8544,6 @@
         <translation>Ervoor</translation>
     </message>
     <message>
-        <source>Behind</source>
-        <translation>Erachter</translation>
-    </message>
-    <message>
         <source>From</source>
         <translation>Van</translation>
     </message>
@@ -8572,15 +8560,15 @@
         <translation>Vanaf teken</translation>
     </message>
     <message>
-        <source>Split at</source>
-        <translation>Splitsen bij</translation>
+        <source>Separator</source>
+        <translation>Scheidingsteken</translation>
     </message>
     <message>
         <source>Pieces</source>
         <translation>Delen</translation>
     </message>
     <message>
-        <source>Join by</source>
+        <source>Join with</source>
         <translation>Verbinden met</translation>
     </message>
     <message>
@@ -8608,8 +8596,8 @@
         <translation>als één letter (NFC)</translation>
     </message>
     <message>
-        <source>apart (NFD)</source>
-        <translation>los (NFD)</translation>
+        <source>as separate marks (NFD)</source>
+        <translation>als apart teken (NFD)</translation>
     </message>
     <message>
         <source>Names that</source>
@@ -8648,10 +8636,10 @@
         <translation>Naam en extensie</translation>
     </message>
     <message numerus="yes">
-        <source>%n names are too short for this and stay as they are.</source>
+        <source>%n names are too short and stay unchanged.</source>
         <translation>
-            <numerusform>%n naam is hiervoor te kort en blijft ongewijzigd.</numerusform>
-            <numerusform>%n namen zijn hiervoor te kort en blijven ongewijzigd.</numerusform>
+            <numerusform>%n naam is te kort en blijft ongewijzigd.</numerusform>
+            <numerusform>%n namen zijn te kort en blijven ongewijzigd.</numerusform>
         </translation>
     </message>
 </context>
@@ -8678,18 +8666,18 @@
         <translation>Waarden zoeken</translation>
     </message>
     <message>
-        <source>A chain can have up to 30 steps.</source>
-        <translation>Een reeks kan hoogstens 30 stappen hebben.</translation>
+        <source>You can use up to 30 steps.</source>
+        <translation>U kunt tot 30 stappen gebruiken.</translation>
     </message>
     <message>
-        <source>A step needs attention: names are not made before it is right.</source>
-        <translation>Een stap vraagt aandacht: zolang die niet klopt, worden er geen namen gemaakt.</translation>
+        <source>Fix the marked step to see the new names.</source>
+        <translation>Verbeter de gemarkeerde stap om de nieuwe namen te zien.</translation>
     </message>
     <message numerus="yes">
-        <source>The counter runs past its width: the last number has %n digits.</source>
+        <source>The counter needs more digits: the last number has %n.</source>
         <translation>
-            <numerusform>De teller loopt voorbij zijn breedte: het laatste nummer heeft %n cijfer.</numerusform>
-            <numerusform>De teller loopt voorbij zijn breedte: het laatste nummer heeft %n cijfers.</numerusform>
+            <numerusform>De teller heeft meer cijfers nodig: het laatste nummer heeft er %n.</numerusform>
+            <numerusform>De teller heeft meer cijfers nodig: het laatste nummer heeft er %n.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -8719,12 +8707,12 @@
         <translation>Extensies in kleine letters</translation>
     </message>
     <message>
-        <source>Date in front</source>
-        <translation>Datum vooraan</translation>
+        <source>Date prefix</source>
+        <translation>Datum als voorvoegsel</translation>
     </message>
     <message>
-        <source>Number behind</source>
-        <translation>Nummer achteraan</translation>
+        <source>Number suffix</source>
+        <translation>Nummer als achtervoegsel</translation>
     </message>
 </context>
 <context>
@@ -8742,11 +8730,11 @@
         <translation>geen opnamedatum</translation>
     </message>
     <message>
-        <source>no date of creation</source>
+        <source>no date created</source>
         <translation>geen aanmaakdatum</translation>
     </message>
     <message>
-        <source>no date of change</source>
+        <source>no date changed</source>
         <translation>geen wijzigingsdatum</translation>
     </message>
     <message>
@@ -8766,12 +8754,12 @@
         <translation>%1: “%2”</translation>
     </message>
     <message>
-        <source>a letter and its accent are parted</source>
-        <translation>een letter en het accent raken gescheiden</translation>
+        <source>separates a letter from its accent</source>
+        <translation>scheidt een letter van het accent</translation>
     </message>
     <message>
-        <source>a character would be cut in two</source>
-        <translation>een teken zou worden doorgesneden</translation>
+        <source>would split a character</source>
+        <translation>zou een teken splitsen</translation>
     </message>
 </context>
 <context>
@@ -8810,36 +8798,32 @@
         <translation>Hoogte</translation>
     </message>
     <message>
-        <source>Longest</source>
-        <translation>Langste</translation>
+        <source>Longest side</source>
+        <translation>Langste zijde</translation>
     </message>
     <message>
         <source>Box</source>
         <translation>Vak</translation>
     </message>
     <message>
-        <source>Fill the box and cut</source>
-        <translation>Vak vullen en bijsnijden</translation>
+        <source>Fill (crops)</source>
+        <translation>Vullen (snijdt bij)</translation>
     </message>
     <message>
-        <source>Stretch to the box</source>
-        <translation>Oprekken tot het vak</translation>
+        <source>Stretch</source>
+        <translation>Uitrekken</translation>
     </message>
     <message>
-        <source>Longest side</source>
-        <translation>Langste zijde</translation>
+        <source>Percentage</source>
+        <translation>Percentage</translation>
     </message>
     <message>
-        <source>Per cent</source>
-        <translation>Procent</translation>
+        <source>Fit inside</source>
+        <translation>Passend maken</translation>
     </message>
     <message>
-        <source>Fit into the box</source>
-        <translation>In het vak passen</translation>
-    </message>
-    <message>
-        <source>Pad to the box</source>
-        <translation>Aanvullen tot het vak</translation>
+        <source>Pad</source>
+        <translation>Aanvullen</translation>
     </message>
 </context>
 <context>
@@ -8904,12 +8888,12 @@
         <translation>hoogte %1</translation>
     </message>
     <message>
-        <source>longest %1</source>
+        <source>longest side %1</source>
         <translation>langste zijde %1</translation>
     </message>
     <message>
-        <source>percent %1</source>
-        <translation>procent %1</translation>
+        <source>%1 percent</source>
+        <translation>%1 procent</translation>
     </message>
     <message>
         <source>box %1</source>
@@ -8927,8 +8911,8 @@
 <context>
     <name>resolution-row</name>
     <message>
-        <source>Picture’s own</source>
-        <translation>die van de foto</translation>
+        <source>Same as the picture</source>
+        <translation>zoals de foto</translation>
     </message>
     <message>
         <source>300 dpi</source>
@@ -8942,34 +8926,34 @@
 <context>
     <name>risky-names</name>
     <message>
-        <source>other systems keep the name %1 for themselves</source>
+        <source>other systems reserve the name %1</source>
         <translation>andere systemen houden de naam %1 voor zichzelf</translation>
     </message>
     <message>
-        <source>other systems do not take %1</source>
+        <source>other systems do not allow %1</source>
         <translation>andere systemen staan %1 niet toe</translation>
     </message>
     <message>
-        <source>it has a control character in it</source>
-        <translation>de naam bevat een stuurteken</translation>
+        <source>contains a control character</source>
+        <translation>bevat een stuurteken</translation>
     </message>
     <message>
-        <source>it begins with a blank</source>
-        <translation>de naam begint met een spatie</translation>
+        <source>starts with a space</source>
+        <translation>begint met een spatie</translation>
     </message>
     <message>
-        <source>other systems take no blank or dot at the end</source>
+        <source>other systems do not allow a trailing space or dot</source>
         <translation>andere systemen staan geen spatie of punt aan het einde toe</translation>
     </message>
 </context>
 <context>
     <name>room</name>
     <message>
-        <source>The files need %1, but only %2 are free for %3.</source>
+        <source>The files need %1, but only %2 is free for %3.</source>
         <translation>De bestanden vragen %1, maar voor %3 is maar %2 vrij.</translation>
     </message>
     <message>
-        <source>%1 are free</source>
+        <source>%1 free</source>
         <translation>%1 vrij</translation>
     </message>
     <message>
@@ -8977,7 +8961,7 @@
         <translation>%1 te schrijven</translation>
     </message>
     <message>
-        <source>too little room (needs %1, %2 are free)</source>
+        <source>not enough space (needs %1, %2 free)</source>
         <translation>te weinig ruimte (nodig %1, vrij %2)</translation>
     </message>
 </context>
@@ -8987,16 +8971,16 @@
         <source>Round Corners</source>
         <translation>Hoeken afronden</translation>
     </message>
+    <message>
+        <source>Rounding corners</source>
+        <translation>Het afronden van hoeken</translation>
+    </message>
     <message numerus="yes">
-        <source>Round %n Pictures</source>
+        <source>Round the Corners of %n Pictures</source>
         <translation>
             <numerusform>Hoeken van %n foto afronden</numerusform>
             <numerusform>Hoeken van %n foto’s afronden</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Rounding corners</source>
-        <translation>Het afronden van hoeken</translation>
     </message>
 </context>
 <context>
@@ -9056,20 +9040,20 @@
         <translation>op %1</translation>
     </message>
     <message>
-        <source>band of %1 px</source>
-        <translation>binnenrand van %1 px</translation>
+        <source>border of %1 px</source>
+        <translation>rand van %1 px</translation>
     </message>
     <message>
         <source>Enter a radius from 0 to %1.</source>
         <translation>Geef een straal op van 0 tot %1.</translation>
     </message>
     <message>
-        <source>Enter a width of the band from 0 to %1.</source>
-        <translation>Geef een breedte van de binnenrand op van 0 tot %1.</translation>
+        <source>Enter a border width from 0 to %1.</source>
+        <translation>Geef een randbreedte op van 0 tot %1.</translation>
     </message>
     <message>
-        <source>the band would cover all of it</source>
-        <translation>de binnenrand zou alles bedekken</translation>
+        <source>the border would cover the whole picture</source>
+        <translation>de rand zou de hele foto bedekken</translation>
     </message>
     <message>
         <source>The circle is cut from the square in the middle.</source>
@@ -9145,8 +9129,8 @@
         <translation>Bewaard</translation>
     </message>
     <message>
-        <source>Choose a picture to save</source>
-        <translation>Kies een foto om te bewaren</translation>
+        <source>Choose a picture to save.</source>
+        <translation>Kies een foto om te bewaren.</translation>
     </message>
     <message>
         <source>Saved %1, %2</source>
@@ -9165,8 +9149,8 @@
         <translation>Sluiten</translation>
     </message>
     <message>
-        <source>Wait until the picture is saved</source>
-        <translation>Wacht tot de foto bewaard is</translation>
+        <source>Wait until the picture has been saved.</source>
+        <translation>Wacht tot de foto bewaard is.</translation>
     </message>
     <message>
         <source>Saving %1…</source>
@@ -9180,8 +9164,8 @@
 <context>
     <name>script::ScriptEngine</name>
     <message>
-        <source>Cannot read %1: there is no such file</source>
-        <translation>Kan %1 niet lezen: dat bestand is er niet</translation>
+        <source>Cannot read %1: no such file</source>
+        <translation>Kan %1 niet lezen: dat bestand bestaat niet</translation>
     </message>
     <message>
         <source>This is not a function of a script</source>
@@ -9191,8 +9175,8 @@
 <context>
     <name>settings-watch</name>
     <message>
-        <source>Settings cannot be written. What you change holds until you quit.</source>
-        <translation>De instellingen kunnen niet worden bewaard. Wijzigingen gelden tot u stopt.</translation>
+        <source>Settings cannot be saved. Your changes apply until you quit.</source>
+        <translation>De instellingen kunnen niet worden bewaard. Wijzigingen gelden tot u Quorlin afsluit.</translation>
     </message>
 </context>
 <context>
@@ -9367,7 +9351,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n links made</source>
+        <source>%n links created</source>
         <translation>
             <numerusform>%n link gemaakt</numerusform>
             <numerusform>%n links gemaakt</numerusform>
@@ -9382,10 +9366,10 @@
         <translation>Map</translation>
     </message>
     <message numerus="yes">
-        <source>%n files put back</source>
+        <source>%n files restored</source>
         <translation>
-            <numerusform>%n bestand teruggezet</numerusform>
-            <numerusform>%n bestanden teruggezet</numerusform>
+            <numerusform>%n bestand hersteld</numerusform>
+            <numerusform>%n bestanden hersteld</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -9398,8 +9382,8 @@
     <message numerus="yes">
         <source>%n files linked</source>
         <translation>
-            <numerusform>%n bestand gekoppeld</numerusform>
-            <numerusform>%n bestanden gekoppeld</numerusform>
+            <numerusform>%n bestand gelinkt</numerusform>
+            <numerusform>%n bestanden gelinkt</numerusform>
         </translation>
     </message>
     <message>
@@ -9414,7 +9398,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n folders made</source>
+        <source>%n folders created</source>
         <translation>
             <numerusform>%n map gemaakt</numerusform>
             <numerusform>%n mappen gemaakt</numerusform>
@@ -9428,8 +9412,8 @@
 <context>
     <name>sort-pane</name>
     <message>
-        <source>Folder of their own</source>
-        <translation>Eigen map</translation>
+        <source>Put in folder</source>
+        <translation>In map zetten</translation>
     </message>
     <message>
         <source>Use date created</source>
@@ -9440,8 +9424,8 @@
         <translation>Wijzigingsdatum gebruiken</translation>
     </message>
     <message>
-        <source>Leave where they are</source>
-        <translation>Laten staan</translation>
+        <source>Do not move</source>
+        <translation>Niet verplaatsen</translation>
     </message>
     <message>
         <source>Move</source>
@@ -9456,8 +9440,8 @@
         <translation>Linken</translation>
     </message>
     <message>
-        <source>Number the file</source>
-        <translation>Nummer toevoegen</translation>
+        <source>Keep both (add a number)</source>
+        <translation>Beide behouden (met nummer)</translation>
     </message>
     <message>
         <source>Skip</source>
@@ -9468,11 +9452,11 @@
         <translation>De originelen blijven waar ze zijn.</translation>
     </message>
     <message>
-        <source>Links lead to the files where they are now.</source>
+        <source>Links point to the files where they are now.</source>
         <translation>Een link verwijst naar de plaats waar het bestand nu staat.</translation>
     </message>
     <message>
-        <source>Own pattern</source>
+        <source>Custom pattern</source>
         <translation>Eigen patroon</translation>
     </message>
     <message>
@@ -9496,8 +9480,8 @@
         <translation>%1 heeft geen datum en blijft.</translation>
     </message>
     <message>
-        <source>%1 goes into %2</source>
-        <translation>%1 gaat naar %2</translation>
+        <source>%1 → %2</source>
+        <translation>%1 → %2</translation>
     </message>
 </context>
 <context>
@@ -9574,27 +9558,27 @@
         <translation>op wijzigingsdatum</translation>
     </message>
     <message>
-        <source>no date taken: stays</source>
-        <translation>geen opnamedatum: blijft</translation>
+        <source>no date taken: not moved</source>
+        <translation>geen opnamedatum: niet verplaatst</translation>
     </message>
     <message>
-        <source>a file has the name of the folder: %1</source>
-        <translation>een bestand heeft de naam van de map: %1</translation>
+        <source>a file already has this folder name: %1</source>
+        <translation>een bestand heeft al de naam van de map: %1</translation>
     </message>
     <message>
-        <source>The file states no date on which it was taken.</source>
-        <translation>Het bestand vermeldt geen opnamedatum.</translation>
+        <source>The file has no date taken.</source>
+        <translation>Het bestand heeft geen opnamedatum.</translation>
     </message>
     <message>
-        <source>It lies in such a folder already.</source>
-        <translation>Staat al in zo’n map.</translation>
+        <source>It is already in such a folder.</source>
+        <translation>Het staat al in zo’n map.</translation>
     </message>
 </context>
 <context>
     <name>sort-tree</name>
     <message>
-        <source>No file will go anywhere.</source>
-        <translation>Er gaat geen bestand naar een map.</translation>
+        <source>No file will be moved.</source>
+        <translation>Er wordt geen bestand verplaatst.</translation>
     </message>
     <message>
         <source>%1 into %2</source>
@@ -9619,10 +9603,10 @@
         <translation>%1 (%2)</translation>
     </message>
     <message numerus="yes">
-        <source>%n folders will be made, counting parents</source>
+        <source>%n new folders, including parents</source>
         <translation>
-            <numerusform>%n map wordt gemaakt, bovenliggende meegeteld</numerusform>
-            <numerusform>%n mappen worden gemaakt, bovenliggende meegeteld</numerusform>
+            <numerusform>%n nieuwe map, bovenliggende meegeteld</numerusform>
+            <numerusform>%n nieuwe mappen, bovenliggende meegeteld</numerusform>
         </translation>
     </message>
 </context>
@@ -9685,8 +9669,8 @@
         <translation>Lens</translation>
     </message>
     <message>
-        <source>Name up to a number</source>
-        <translation>Naam tot een cijfer</translation>
+        <source>Name up to the first digit</source>
+        <translation>Naam tot het eerste cijfer</translation>
     </message>
     <message>
         <source>First letter</source>
@@ -9705,24 +9689,24 @@
         <translation>Een map kan niet “.” of “..” heten.</translation>
     </message>
     <message>
-        <source>A folder cannot have a name of blanks only.</source>
+        <source>A folder name cannot consist of spaces only.</source>
         <translation>De naam van een map kan niet alleen uit spaties bestaan.</translation>
     </message>
     <message>
-        <source>The name of a folder is too long.</source>
+        <source>A folder name is too long.</source>
         <translation>De naam van een map is te lang.</translation>
     </message>
     <message>
-        <source>A pattern cannot hold control characters.</source>
+        <source>A pattern cannot contain control characters.</source>
         <translation>Een patroon mag geen stuurtekens bevatten.</translation>
     </message>
     <message>
-        <source>Enter a name for the folder of pictures without a date.</source>
+        <source>Enter a folder name for pictures without a date.</source>
         <translation>Geef een naam op voor de map met foto’s zonder datum.</translation>
     </message>
     <message>
-        <source>“%1” cannot be the name of a folder.</source>
-        <translation>“%1” kan geen naam van een map zijn.</translation>
+        <source>“%1” is not a valid folder name.</source>
+        <translation>“%1” is geen geldige mapnaam.</translation>
     </message>
     <message>
         <source>Undated</source>
@@ -9772,18 +9756,18 @@
         <translation>Ongedaan maken</translation>
     </message>
     <message>
-        <source>Continue</source>
-        <translation>Doorgaan</translation>
+        <source>Resume</source>
+        <translation>Hervatten</translation>
     </message>
     <message>
         <source>Pause</source>
         <translation>Pauzeren</translation>
     </message>
     <message numerus="yes">
-        <source>Only what failed is shown: %n of the list</source>
+        <source>Only failed pictures are shown: %n</source>
         <translation>
-            <numerusform>Alleen wat mislukte wordt getoond: %n van de lijst</numerusform>
-            <numerusform>Alleen wat mislukte wordt getoond: %n van de lijst</numerusform>
+            <numerusform>Alleen mislukte foto’s worden getoond: %n</numerusform>
+            <numerusform>Alleen mislukte foto’s worden getoond: %n</numerusform>
         </translation>
     </message>
     <message>
@@ -9822,8 +9806,8 @@
         <translation>Tekst vervangen</translation>
     </message>
     <message>
-        <source>One text by another, wherever it occurs</source>
-        <translation>De ene tekst door de andere, overal waar hij staat</translation>
+        <source>Replaces a text everywhere in the name</source>
+        <translation>Vervangt een tekst overal in de naam</translation>
     </message>
     <message>
         <source>search find substitute delete</source>
@@ -9834,7 +9818,7 @@
         <translation>Tekst invoegen</translation>
     </message>
     <message>
-        <source>At a place counted from the start or the end</source>
+        <source>At a position counted from the start or the end</source>
         <translation>Op een plaats geteld vanaf het begin of het einde</translation>
     </message>
     <message>
@@ -9846,7 +9830,7 @@
         <translation>Ervoor en erachter toevoegen</translation>
     </message>
     <message>
-        <source>Text in front of the name and behind it</source>
+        <source>Text before and after the name</source>
         <translation>Tekst voor en achter de naam</translation>
     </message>
     <message>
@@ -9854,15 +9838,15 @@
         <translation>voorvoegsel achtervoegsel aanvullen plakken</translation>
     </message>
     <message>
-        <source>Strip characters</source>
-        <translation>Tekens weghalen</translation>
+        <source>Remove characters</source>
+        <translation>Tekens verwijderen</translation>
     </message>
     <message>
-        <source>A number of them from the left or the right</source>
+        <source>A number of characters from the left or the right</source>
         <translation>Een aantal tekens van links of van rechts</translation>
     </message>
     <message>
-        <source>remove cut trim shorten</source>
+        <source>strip cut trim shorten</source>
         <translation>verwijderen afknippen inkorten</translation>
     </message>
     <message>
@@ -9870,7 +9854,7 @@
         <translation>Deel behouden</translation>
     </message>
     <message>
-        <source>Only the characters at certain places</source>
+        <source>Only the characters at certain positions</source>
         <translation>Alleen de tekens op bepaalde plaatsen</translation>
     </message>
     <message>
@@ -9890,15 +9874,15 @@
         <translation>delen omwisselen volgorde</translation>
     </message>
     <message>
-        <source>Remove signs</source>
-        <translation>Leestekens verwijderen</translation>
+        <source>Keep letters and digits</source>
+        <translation>Letters en cijfers behouden</translation>
     </message>
     <message>
-        <source>Keep letters, or letters and digits</source>
-        <translation>Letters behouden, of letters en cijfers</translation>
+        <source>Removes all other characters</source>
+        <translation>Verwijdert alle andere tekens</translation>
     </message>
     <message>
-        <source>non-letters clean punctuation digits</source>
+        <source>remove signs non-letters clean punctuation digits</source>
         <translation>tekens opschonen interpunctie cijfers</translation>
     </message>
     <message>
@@ -9906,7 +9890,7 @@
         <translation>Spaties verwijderen</translation>
     </message>
     <message>
-        <source>All blanks, also between words</source>
+        <source>All spaces, also between words</source>
         <translation>Alle spaties, ook tussen woorden</translation>
     </message>
     <message>
@@ -9914,23 +9898,23 @@
         <translation>witruimte blanco</translation>
     </message>
     <message>
-        <source>Fold accents</source>
-        <translation>Accenten weghalen</translation>
+        <source>Remove accents (é → e)</source>
+        <translation>Accenten verwijderen (é → e)</translation>
     </message>
     <message>
         <source>é becomes e</source>
         <translation>é wordt e</translation>
     </message>
     <message>
-        <source>ascii umlaut diacritics plain</source>
+        <source>fold ascii umlaut diacritics plain</source>
         <translation>ascii umlaut trema diakritisch gewoon</translation>
     </message>
     <message>
-        <source>One writing of accents</source>
-        <translation>Accenten gelijk schrijven</translation>
+        <source>Normalise accents</source>
+        <translation>Accenten normaliseren</translation>
     </message>
     <message>
-        <source>For names that came from another system</source>
+        <source>For names that come from another system</source>
         <translation>Voor namen die van een ander systeem komen</translation>
     </message>
     <message>
@@ -9942,7 +9926,7 @@
         <translation>Alleen sommige namen</translation>
     </message>
     <message>
-        <source>The steps below work on names that fit</source>
+        <source>The steps below apply only to matching names</source>
         <translation>De stappen hieronder gelden voor namen die voldoen</translation>
     </message>
     <message>
@@ -9954,8 +9938,8 @@
         <translation>Teller</translation>
     </message>
     <message>
-        <source>001, 002, 003 behind the name</source>
-        <translation>001, 002, 003 achter de naam</translation>
+        <source>001, 002, 003 after the name</source>
+        <translation>001, 002, 003 na de naam</translation>
     </message>
     <message>
         <source>number sequence</source>
@@ -9966,7 +9950,7 @@
         <translation>Opnamedatum</translation>
     </message>
     <message>
-        <source>In front of the name</source>
+        <source>Before the name</source>
         <translation>Voor de naam</translation>
     </message>
     <message>
@@ -9986,8 +9970,8 @@
         <translation>Camera</translation>
     </message>
     <message>
-        <source>Behind the name</source>
-        <translation>Achter de naam</translation>
+        <source>After the name</source>
+        <translation>Na de naam</translation>
     </message>
     <message>
         <source>model lens</source>
@@ -10054,7 +10038,7 @@
         <translation>%1, %2 vanaf het begin</translation>
     </message>
     <message>
-        <source>%1 before, %2 behind</source>
+        <source>%1 before, %2 after</source>
         <translation>%1 ervoor, %2 erachter</translation>
     </message>
     <message>
@@ -10081,24 +10065,24 @@
         <translation>bij %1, delen %3, verbonden met %2</translation>
     </message>
     <message>
-        <source>only letters stay</source>
+        <source>only letters are kept</source>
         <translation>alleen letters blijven</translation>
     </message>
     <message>
-        <source>only letters and digits stay</source>
+        <source>only letters and digits are kept</source>
         <translation>alleen letters en cijfers blijven</translation>
     </message>
     <message>
-        <source>no blanks are left</source>
-        <translation>er blijven geen spaties over</translation>
+        <source>all spaces are removed</source>
+        <translation>alle spaties worden verwijderd</translation>
     </message>
     <message>
         <source>é becomes e, others %1</source>
         <translation>é wordt e, overige %1</translation>
     </message>
     <message>
-        <source>accents apart (NFD)</source>
-        <translation>accenten los (NFD)</translation>
+        <source>accents as separate marks (NFD)</source>
+        <translation>accenten als aparte tekens (NFD)</translation>
     </message>
     <message>
         <source>accents and letters as one (NFC)</source>
@@ -10120,48 +10104,48 @@
 <context>
     <name>targets</name>
     <message>
-        <source>The first page is drawn at 72 pixels per inch.</source>
-        <translation>De eerste pagina wordt getekend met 72 pixels per inch.</translation>
+        <source>The first page is rendered at 72 pixels per inch.</source>
+        <translation>De eerste pagina wordt weergegeven met 72 pixels per inch.</translation>
     </message>
     <message>
-        <source>Layers become one picture.</source>
-        <translation>Lagen worden één foto.</translation>
+        <source>Layers are merged into one picture.</source>
+        <translation>Lagen worden samengevoegd tot één foto.</translation>
     </message>
     <message>
-        <source>Small files for showing. Fine detail is lost, the more the lower the quality; transparent parts get a colour and 16 bits become 8. Colour profile and metadata are kept.</source>
-        <translation>Kleine bestanden om te tonen. Fijne details gaan verloren, hoe lager de kwaliteit, hoe meer; doorzichtige delen krijgen een kleur en 16 bits worden 8. Kleurprofiel en metadata blijven behouden.</translation>
+        <source>Small files for sharing. The lower the quality, the more detail is lost. Transparent parts get a colour and 16 bits become 8. Colour profile and metadata are kept.</source>
+        <translation>Kleine bestanden om te delen. Hoe lager de kwaliteit, hoe meer detail verloren gaat. Transparante delen krijgen een kleur en 16 bits worden 8. Kleurprofiel en metadata blijven behouden.</translation>
     </message>
     <message>
         <source>Nothing is lost: pixels, transparency, 16 bits, colour profile and metadata are kept.</source>
-        <translation>Er gaat niets verloren: pixels, doorzichtigheid, 16 bits, kleurprofiel en metadata blijven behouden.</translation>
+        <translation>Er gaat niets verloren: pixels, transparantie, 16 bits, kleurprofiel en metadata blijven behouden.</translation>
     </message>
     <message>
         <source>Nothing is lost: pixels, transparency, 16 bits, CMYK, colour profile and metadata are kept. Large files.</source>
-        <translation>Er gaat niets verloren: pixels, doorzichtigheid, 16 bits, CMYK, kleurprofiel en metadata blijven behouden. Grote bestanden.</translation>
+        <translation>Er gaat niets verloren: pixels, transparantie, 16 bits, CMYK, kleurprofiel en metadata blijven behouden. Grote bestanden.</translation>
     </message>
     <message>
-        <source>One page of the picture’s own size. A JPEG goes in as it is; others without loss. Of the metadata what XMP has words for is kept.</source>
-        <translation>Eén pagina zo groot als het beeld. Een JPEG gaat er ongewijzigd in, andere zonder verlies. Van de metadata blijft waar XMP woorden voor heeft.</translation>
+        <source>One page of the size of the picture. A JPEG is included unchanged, other types without loss. Metadata is kept as far as XMP can hold it.</source>
+        <translation>Eén pagina zo groot als de foto. Een JPEG wordt ongewijzigd overgenomen, andere typen zonder verlies. Metadata blijft behouden voor zover XMP die kan bevatten.</translation>
     </message>
     <message>
-        <source>Loss that cannot be seen. Transparency, 16 bits and metadata are kept, and the colour profile where it fits in. Few programs show such files.</source>
-        <translation>Verlies dat niet te zien is. Doorzichtigheid, 16 bits en metadata blijven behouden, en het kleurprofiel waar het erin past. Weinig programma’s tonen zulke bestanden.</translation>
+        <source>Visually lossless. Transparency, 16 bits and metadata are kept, and most colour profiles. Few programs can open it.</source>
+        <translation>Zonder zichtbaar verlies. Transparantie, 16 bits, metadata en de meeste kleurprofielen blijven behouden. Weinig programma’s kunnen het openen.</translation>
     </message>
     <message>
-        <source>256 colours at most, and a pixel is either transparent or not; colours become sRGB. Of the metadata what XMP has words for is kept.</source>
-        <translation>Hoogstens 256 kleuren, en een pixel is doorzichtig of niet; kleuren worden sRGB. Van de metadata blijft waar XMP woorden voor heeft.</translation>
+        <source>At most 256 colours. A pixel is either transparent or not. Colours become sRGB. Metadata is kept as far as XMP can hold it.</source>
+        <translation>Hoogstens 256 kleuren. Een pixel is transparant of niet. Kleuren worden sRGB. Metadata blijft behouden voor zover XMP die kan bevatten.</translation>
     </message>
     <message>
-        <source>Pixels and resolution only, in large files. Colours become sRGB, transparent parts get a colour, and 16 bits become 8.</source>
-        <translation>Alleen pixels en resolutie, in grote bestanden. Kleuren worden sRGB, doorzichtige delen krijgen een kleur en 16 bits worden 8.</translation>
+        <source>Large files with pixels and resolution only. Colours become sRGB, transparent parts get a colour and 16 bits become 8.</source>
+        <translation>Grote bestanden met alleen pixels en resolutie. Kleuren worden sRGB, transparante delen krijgen een kleur en 16 bits worden 8.</translation>
     </message>
     <message>
-        <source>It is %1 already; no pixel of it changes.</source>
-        <translation>Het is al %1; geen pixel ervan verandert.</translation>
+        <source>Already %1: no pixel changes.</source>
+        <translation>Al %1: er verandert geen pixel.</translation>
     </message>
     <message>
-        <source>It is %1 already and is encoded again.</source>
-        <translation>Het is al %1 en wordt opnieuw gecodeerd.</translation>
+        <source>Already %1: it will be encoded again.</source>
+        <translation>Al %1: wordt opnieuw gecodeerd.</translation>
     </message>
     <message>
         <source>1 – smallest file</source>
@@ -10172,16 +10156,16 @@
         <translation>9 – beste</translation>
     </message>
     <message>
-        <source>Small files for web pages. Fine detail is lost, the more the lower the quality, and 16 bits become 8. Transparency, colour profile and metadata are kept.</source>
-        <translation>Kleine bestanden voor webpagina’s. Fijne details gaan verloren, hoe lager de kwaliteit, hoe meer, en 16 bits worden 8. Doorzichtigheid, kleurprofiel en metadata blijven behouden.</translation>
+        <source>Small files for web pages. The lower the quality, the more detail is lost. 16 bits become 8. Transparency, colour profile and metadata are kept.</source>
+        <translation>Kleine bestanden voor webpagina’s. Hoe lager de kwaliteit, hoe meer detail verloren gaat. 16 bits worden 8. Transparantie, kleurprofiel en metadata blijven behouden.</translation>
     </message>
     <message>
-        <source>Very small files for web pages, which take the longest to write. Fine detail is lost, the more the lower the quality, and 16 bits become 8. Transparency, colour profile and metadata are kept.</source>
-        <translation>Heel kleine bestanden voor webpagina’s, die het langst duren om te schrijven. Fijne details gaan verloren, hoe lager de kwaliteit, hoe meer, en 16 bits worden 8. Doorzichtigheid, kleurprofiel en metadata blijven behouden.</translation>
+        <source>Very small files for web pages, which take the longest to write. The lower the quality, the more detail is lost. 16 bits become 8. Transparency, colour profile and metadata are kept.</source>
+        <translation>Zeer kleine bestanden voor webpagina’s, die het langst duren om te schrijven. Hoe lager de kwaliteit, hoe meer detail verloren gaat. 16 bits worden 8. Transparantie, kleurprofiel en metadata blijven behouden.</translation>
     </message>
     <message>
-        <source>Small files for archives. Fine detail is lost, the more the lower the quality. Transparency, 16 bits, colour profile and metadata are kept. Few programs show such files.</source>
-        <translation>Kleine bestanden voor archieven. Fijne details gaan verloren, hoe lager de kwaliteit, hoe meer. Doorzichtigheid, 16 bits, kleurprofiel en metadata blijven behouden. Weinig programma’s tonen zulke bestanden.</translation>
+        <source>Small files for archives. The lower the quality, the more detail is lost. Transparency, 16 bits, colour profile and metadata are kept. Few programs can open it.</source>
+        <translation>Kleine bestanden voor archieven. Hoe lager de kwaliteit, hoe meer detail verloren gaat. Transparantie, 16 bits, kleurprofiel en metadata blijven behouden. Weinig programma’s kunnen het openen.</translation>
     </message>
 </context>
 <context>
@@ -10195,8 +10179,8 @@
         <translation>Extensie</translation>
     </message>
     <message>
-        <source>Date taken, or else changed</source>
-        <translation>Opnamedatum, anders gewijzigd</translation>
+        <source>Date taken, otherwise date changed</source>
+        <translation>Opnamedatum, anders wijzigingsdatum</translation>
     </message>
     <message>
         <source>Date taken</source>
@@ -10247,7 +10231,7 @@
         <translation>Liggend</translation>
     </message>
     <message>
-        <source>Name of its folder</source>
+        <source>Name of the folder</source>
         <translation>Naam van de map</translation>
     </message>
     <message>
@@ -10255,36 +10239,36 @@
         <translation>Vakantie</translation>
     </message>
     <message>
-        <source>“%1” is no form of a date: write it with yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss</source>
-        <translation>“%1” is geen datumnotatie: gebruik yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss</translation>
+        <source>“%1” is not a valid date format. Use yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss</source>
+        <translation>“%1” is geen geldige datumnotatie. Gebruik yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss</translation>
     </message>
     <message>
-        <source>“%1” is no first number of a counter</source>
-        <translation>“%1” is geen beginwaarde van een teller</translation>
+        <source>“%1” is not a valid start number</source>
+        <translation>“%1” is geen geldig startnummer</translation>
     </message>
     <message>
-        <source>“%1” takes no part of a name: write a number of letters, “word”, or “~” and words with commas between them</source>
-        <translation>“%1” geeft geen deel van een naam aan: schrijf een aantal letters, “word”, of “~” en woorden met komma’s ertussen</translation>
+        <source>“%1” does not select part of a name. Use a number of characters, “word”, or “~” and words separated by commas</source>
+        <translation>“%1” selecteert geen deel van een naam. Gebruik een aantal tekens, “word”, of “~” en woorden met komma’s ertussen</translation>
     </message>
     <message>
-        <source>“%1” is no form of a size: write “class” or “MB”</source>
-        <translation>“%1” is geen notatie voor een grootte: schrijf “class” of “MB”</translation>
+        <source>“%1” is not a valid size format. Use “class” or “MB”</source>
+        <translation>“%1” is geen geldige notatie voor grootte. Gebruik “class” of “MB”</translation>
     </message>
     <message>
-        <source>{%1} has no forms: leave out what stands behind its colon</source>
-        <translation>{%1} kent geen notaties: laat weg wat achter de dubbele punt staat</translation>
+        <source>{%1} takes no format. Remove the colon and what follows it</source>
+        <translation>{%1} heeft geen notatie. Verwijder de dubbele punt en wat erna komt</translation>
     </message>
     <message>
-        <source>There is no token between the braces; a brace of its own is written {{</source>
-        <translation>Er staat geen code tussen de accolades; een gewone accolade schrijft u als {{</translation>
+        <source>There is no token between the braces. To write a brace, type {{</source>
+        <translation>Er staat geen code tussen de accolades. Typ {{ voor een accolade</translation>
     </message>
     <message>
         <source>There is no token {%1}</source>
         <translation>Er is geen code {%1}</translation>
     </message>
     <message>
-        <source>A brace is not closed; a brace of its own is written {{</source>
-        <translation>Een accolade is niet gesloten; een gewone accolade schrijft u als {{</translation>
+        <source>A brace is not closed. To write a brace, type {{</source>
+        <translation>Een accolade is niet gesloten. Typ {{ voor een accolade</translation>
     </message>
     <message>
         <source>Jan Feb Mar Apr May Jun Jul Aug Sep Oct Nov Dec</source>
@@ -10423,42 +10407,60 @@
         <source>Rotate &amp; Flip</source>
         <translation>Draaien en spiegelen</translation>
     </message>
+    <message>
+        <source>Rotating</source>
+        <translation>Het draaien</translation>
+    </message>
     <message numerus="yes">
-        <source>Turn %n Pictures</source>
+        <source>Rotate and Flip %n Pictures</source>
+        <translation>
+            <numerusform>%n foto draaien en spiegelen</numerusform>
+            <numerusform>%n foto’s draaien en spiegelen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Flip %n Pictures</source>
+        <translation>
+            <numerusform>%n foto spiegelen</numerusform>
+            <numerusform>%n foto’s spiegelen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Rotate %n Pictures</source>
         <translation>
             <numerusform>%n foto draaien</numerusform>
             <numerusform>%n foto’s draaien</numerusform>
         </translation>
     </message>
     <message>
-        <source>Rotating</source>
-        <translation>Het draaien</translation>
+        <source>Nothing to do</source>
+        <translation>Niets te doen</translation>
     </message>
 </context>
 <context>
     <name>turn-pane</name>
     <message>
-        <source>not turned</source>
-        <translation>niet gedraaid</translation>
+        <source>No rotation</source>
+        <translation>Geen draaiing</translation>
     </message>
     <message>
-        <source>↺ to the left</source>
-        <translation>↺ naar links</translation>
+        <source>↺ anticlockwise</source>
+        <translation>↺ linksom</translation>
     </message>
     <message>
-        <source>↻ to the right</source>
-        <translation>↻ naar rechts</translation>
+        <source>↻ clockwise</source>
+        <translation>↻ rechtsom</translation>
     </message>
 </context>
 <context>
     <name>turn-presets</name>
     <message>
-        <source>A quarter left</source>
-        <translation>Kwartslag linksom</translation>
+        <source>90° anticlockwise</source>
+        <translation>90° linksom</translation>
     </message>
     <message>
-        <source>A quarter right</source>
-        <translation>Kwartslag rechtsom</translation>
+        <source>90° clockwise</source>
+        <translation>90° rechtsom</translation>
     </message>
     <message>
         <source>Upside down</source>
@@ -10472,11 +10474,11 @@
 <context>
     <name>turn-step</name>
     <message>
-        <source>Turned</source>
+        <source>Rotated</source>
         <translation>Gedraaid</translation>
     </message>
     <message>
-        <source>turn %1°</source>
+        <source>rotate %1°</source>
         <translation>%1° draaien</translation>
     </message>
     <message>
@@ -10496,7 +10498,7 @@
         <translation>Kies een hoek of een spiegeling.</translation>
     </message>
     <message>
-        <source>Turned without loss.</source>
+        <source>Rotated without loss.</source>
         <translation>Zonder verlies gedraaid.</translation>
     </message>
     <message>
@@ -10504,8 +10506,8 @@
         <translation>Het canvas groeit zodat de hoeken passen.</translation>
     </message>
     <message>
-        <source>The canvas grows so that the corners fit; what is beside the picture becomes white.</source>
-        <translation>Het canvas groeit zodat de hoeken passen; wat naast de foto ligt wordt wit.</translation>
+        <source>The canvas grows so that the corners fit. The new corners become white.</source>
+        <translation>Het canvas groeit zodat de hoeken passen. De nieuwe hoeken worden wit.</translation>
     </message>
 </context>
 <context>
@@ -10515,18 +10517,18 @@
         <translation>Ongedaan maken</translation>
     </message>
     <message>
-        <source>This run wrote new files and moved none, so that there is nothing to take back: its results can be deleted.</source>
-        <translation>Deze opdracht schreef nieuwe bestanden en verplaatste er geen, dus er valt niets terug te zetten: de resultaten kunt u verwijderen.</translation>
+        <source>This run wrote new files and moved none. To undo it, delete its results.</source>
+        <translation>Deze opdracht schreef nieuwe bestanden en verplaatste er geen. Verwijder de resultaten om die ongedaan te maken.</translation>
     </message>
     <message>
         <source>Redo</source>
         <translation>Opnieuw uitvoeren</translation>
     </message>
     <message numerus="yes">
-        <source>%n files can be taken back.</source>
+        <source>%n files can be restored.</source>
         <translation>
-            <numerusform>%n bestand kan worden teruggezet.</numerusform>
-            <numerusform>%n bestanden kunnen worden teruggezet.</numerusform>
+            <numerusform>%n bestand kan worden hersteld.</numerusform>
+            <numerusform>%n bestanden kunnen worden hersteld.</numerusform>
         </translation>
     </message>
     <message>
@@ -10538,7 +10540,7 @@
         <translation>Er is geen opmerking gewijzigd.</translation>
     </message>
     <message>
-        <source>All its comments were reverted already.</source>
+        <source>All its comments have already been reverted.</source>
         <translation>Alle opmerkingen zijn al teruggezet.</translation>
     </message>
     <message numerus="yes">
@@ -10549,7 +10551,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n were reverted before.</source>
+        <source>%n have already been reverted.</source>
         <translation>
             <numerusform>%n is eerder teruggezet.</numerusform>
             <numerusform>%n zijn eerder teruggezet.</numerusform>
@@ -10563,36 +10565,36 @@
 <context>
     <name>watching</name>
     <message>
-        <source>Pictures of a watched folder are written at once: turn Simulation off first.</source>
-        <translation>Afbeeldingen uit een bewaakte map worden meteen geschreven: zet eerst de simulatie uit.</translation>
+        <source>Pictures in a watched folder are written at once: turn the dry run off first.</source>
+        <translation>Foto’s in een bewaakte map worden meteen geschreven: zet eerst de proefrun uit.</translation>
     </message>
     <message>
-        <source>Nobody can be asked while a folder is watched: choose to number or to skip what is there already.</source>
-        <translation>Tijdens het bewaken kan niemand worden gevraagd: kies nummeren of overslaan voor wat er al is.</translation>
+        <source>A watched folder cannot ask: choose to keep both or to skip existing files.</source>
+        <translation>Een bewaakte map kan niets vragen: kies beide behouden of overslaan voor bestaande bestanden.</translation>
     </message>
     <message>
         <source>Watch a folder</source>
-        <translation>Een map in de gaten houden</translation>
+        <translation>Een map bewaken</translation>
     </message>
     <message>
-        <source>This folder is not there.</source>
+        <source>This folder does not exist.</source>
         <translation>Deze map bestaat niet.</translation>
     </message>
     <message>
-        <source>This folder is watched for the same by another window or program.</source>
-        <translation>Deze map wordt al door een ander venster of programma voor hetzelfde bewaakt.</translation>
+        <source>Another window or program is already watching this folder for the same purpose.</source>
+        <translation>Een ander venster of programma bewaakt deze map al voor hetzelfde doel.</translation>
     </message>
     <message>
         <source>The folder cannot be watched: %1</source>
         <translation>De map kan niet worden bewaakt: %1</translation>
     </message>
     <message>
-        <source>The folder “%1” is gone and is not watched any more.</source>
-        <translation>De map ‘%1’ is verdwenen en wordt niet meer bewaakt.</translation>
+        <source>The folder “%1” no longer exists and is no longer watched.</source>
+        <translation>De map “%1” bestaat niet meer en wordt niet langer bewaakt.</translation>
     </message>
     <message>
         <source>Watching “%1”</source>
-        <translation>‘%1’ wordt bewaakt</translation>
+        <translation>“%1” wordt bewaakt</translation>
     </message>
     <message>
         <source>%1 done</source>
@@ -10695,8 +10697,8 @@
         <translation>Copyright, donker</translation>
     </message>
     <message>
-        <source>Name of the file</source>
-        <translation>Naam van het bestand</translation>
+        <source>File name</source>
+        <translation>Bestandsnaam</translation>
     </message>
     <message>
         <source>Tiled draft</source>
@@ -10730,8 +10732,8 @@
         <translation>Geef een tekst op.</translation>
     </message>
     <message>
-        <source>A watermark cannot count: leave out {counter}.</source>
-        <translation>Een watermerk kan niet tellen: laat {counter} weg.</translation>
+        <source>A watermark cannot contain {counter}.</source>
+        <translation>Een watermerk kan {counter} niet bevatten.</translation>
     </message>
     <message>
         <source>There is no font “%1” on this computer. Choose another.</source>
@@ -10742,24 +10744,24 @@
         <translation>Kies een afbeelding.</translation>
     </message>
     <message>
-        <source>The picture “%1” is no longer there.</source>
-        <translation>De afbeelding “%1” is er niet meer.</translation>
+        <source>The picture “%1” no longer exists.</source>
+        <translation>De afbeelding “%1” bestaat niet meer.</translation>
     </message>
     <message>
         <source>“%1” cannot be read as a picture.</source>
         <translation>“%1” kan niet als afbeelding worden gelezen.</translation>
     </message>
     <message>
-        <source>Enter a size from 0.1 to 100 per cent.</source>
-        <translation>Geef een grootte op van 0,1 tot 100 procent.</translation>
+        <source>Enter a size from 0.1% to 100%.</source>
+        <translation>Geef een grootte op van 0,1% tot 100%.</translation>
     </message>
     <message>
-        <source>Enter a margin from 0 to 100 per cent.</source>
-        <translation>Geef een marge op van 0 tot 100 procent.</translation>
+        <source>Enter a margin from 0% to 100%.</source>
+        <translation>Geef een marge op van 0% tot 100%.</translation>
     </message>
     <message>
-        <source>Enter an opacity from 1 to 100 per cent.</source>
-        <translation>Geef een dekking op van 1 tot 100 procent.</translation>
+        <source>Enter an opacity from 1% to 100%.</source>
+        <translation>Geef een dekking op van 1% tot 100%.</translation>
     </message>
     <message>
         <source>Enter an angle from -180 to 180 degrees.</source>
@@ -10884,8 +10886,8 @@
         <translation>Bijsnijdkader</translation>
     </message>
     <message>
-        <source>%1 by %2 pixels, %3 from the left, %4 from the top</source>
-        <translation>%1 bij %2 pixels, %3 van links, %4 van boven</translation>
+        <source>%1 × %2 pixels, %3 from the left, %4 from the top</source>
+        <translation>%1 × %2 pixels, %3 van links, %4 van boven</translation>
     </message>
 </context>
 <context>
@@ -10975,7 +10977,7 @@
     </message>
     <message>
         <source>New size</source>
-        <translation>Nieuwe px</translation>
+        <translation>Nieuwe afmetingen</translation>
     </message>
     <message>
         <source>Status</source>
@@ -10995,10 +10997,10 @@
     </message>
     <message>
         <source>Thumbnail of %1, left out of the run</source>
-        <translation>Miniatuur van %1, buiten de bewerking gelaten</translation>
+        <translation>Miniatuur van %1, niet in de opdracht</translation>
     </message>
     <message>
-        <source>%1 by the camera's own clock</source>
+        <source>%1 according to the camera clock</source>
         <translation>%1 volgens de klok van de camera</translation>
     </message>
 </context>
@@ -11035,12 +11037,12 @@
         <translation>Kopiëren</translation>
     </message>
     <message>
-        <source>Copy Place in Degrees</source>
-        <translation>Plaats kopiëren in graden</translation>
+        <source>Copy Location in Degrees</source>
+        <translation>Locatie kopiëren in graden</translation>
     </message>
     <message>
-        <source>Copy Place in Minutes</source>
-        <translation>Plaats kopiëren in minuten</translation>
+        <source>Copy Location in Minutes</source>
+        <translation>Locatie kopiëren in minuten</translation>
     </message>
 </context>
 <context>
@@ -11083,7 +11085,7 @@
         <translation>Tags, gescheiden door komma’s</translation>
     </message>
     <message>
-        <source>“%1” is there already. Replace it?</source>
+        <source>“%1” already exists. Replace it?</source>
         <translation>“%1” bestaat al. Vervangen?</translation>
     </message>
 </context>
@@ -11104,8 +11106,8 @@
 <context>
     <name>window::StartUp</name>
     <message>
-        <source>Quorlin cannot start: a script of its windows failed.</source>
-        <translation>Quorlin kan niet starten: een script van de vensters is mislukt.</translation>
+        <source>Quorlin cannot start: a script of its interface failed.</source>
+        <translation>Quorlin kan niet starten: een script van de interface is mislukt.</translation>
     </message>
 </context>
 <context>
@@ -11148,8 +11150,8 @@
 <context>
     <name>worker-job</name>
     <message>
-        <source>the picture is no longer there</source>
-        <translation>de foto is er niet meer</translation>
+        <source>the picture no longer exists</source>
+        <translation>de foto bestaat niet meer</translation>
     </message>
     <message>
         <source>the result is %1 instead of %2</source>
@@ -11159,8 +11161,8 @@
 <context>
     <name>write-plan</name>
     <message>
-        <source>name is taken: will ask</source>
-        <translation>naam bestaat al: wordt gevraagd</translation>
+        <source>file exists: will ask</source>
+        <translation>bestand bestaat: wordt gevraagd</translation>
     </message>
     <message>
         <source>replaces original</source>
@@ -11176,22 +11178,22 @@
     </message>
     <message>
         <source>ready</source>
-        <translation>in orde</translation>
+        <translation>gereed</translation>
     </message>
 </context>
 <context>
     <name>write-run</name>
     <message>
-        <source>Name taken</source>
-        <translation>Naam bestaat al</translation>
+        <source>File exists</source>
+        <translation>Bestand bestaat</translation>
     </message>
     <message>
-        <source>There is a file “%1” in the folder already.</source>
-        <translation>Er staat al een bestand “%1” in de map.</translation>
+        <source>“%1” already exists in this folder.</source>
+        <translation>“%1” bestaat al in deze map.</translation>
     </message>
     <message>
-        <source>Number</source>
-        <translation>Nummeren</translation>
+        <source>Keep Both</source>
+        <translation>Beide behouden</translation>
     </message>
     <message>
         <source>Replace</source>
@@ -11233,10 +11235,10 @@
         <translation>Geannuleerd. Er is niets geschreven.</translation>
     </message>
     <message numerus="yes">
-        <source>Simulation: %n pictures would be written</source>
+        <source>Dry run: %n pictures would be written</source>
         <translation>
-            <numerusform>Simulatie: %n foto zou worden geschreven</numerusform>
-            <numerusform>Simulatie: %n foto’s zouden worden geschreven</numerusform>
+            <numerusform>Proefrun: %n foto zou worden geschreven</numerusform>
+            <numerusform>Proefrun: %n foto’s zouden worden geschreven</numerusform>
         </translation>
     </message>
     <message>
@@ -11256,8 +11258,8 @@
         <translation>bezig…</translation>
     </message>
     <message>
-        <source>cancelled before its turn</source>
-        <translation>geannuleerd vóór de beurt</translation>
+        <source>cancelled</source>
+        <translation>geannuleerd</translation>
     </message>
     <message numerus="yes">
         <source>%n pictures done</source>
@@ -11287,28 +11289,28 @@
         <translation>Geannuleerd:</translation>
     </message>
     <message>
-        <source>stopping after the pictures in progress</source>
-        <translation>stopt na de foto’s die bezig zijn</translation>
+        <source>stopping after the current pictures</source>
+        <translation>stopt na de huidige foto’s</translation>
     </message>
     <message>
-        <source>pausing after the pictures in progress</source>
-        <translation>pauzeert na de foto’s die bezig zijn</translation>
+        <source>pausing after the current pictures</source>
+        <translation>pauzeert na de huidige foto’s</translation>
     </message>
     <message>
-        <source>What is in them now goes to the trash (%1) and comes back with Undo.</source>
-        <translation>Wat er nu in staat gaat naar de prullenbak (%1) en komt terug met Ongedaan maken.</translation>
+        <source>The replaced files (%1) go to the trash. Undo brings them back.</source>
+        <translation>De vervangen bestanden (%1) gaan naar de prullenbak. Met Ongedaan maken komen ze terug.</translation>
     </message>
     <message>
         <source>The disk is full</source>
         <translation>De schijf is vol</translation>
     </message>
     <message>
-        <source>There is no room left in %1.</source>
+        <source>There is no space left in %1.</source>
         <translation>Er is geen ruimte meer in %1.</translation>
     </message>
     <message>
-        <source>What is done stays. The run can go on when there is room, or in another folder.</source>
-        <translation>Wat klaar is blijft. De verwerking kan verder als er ruimte is, of in een andere map.</translation>
+        <source>Finished pictures are kept. Free some space and try again, or choose another folder.</source>
+        <translation>Foto’s die klaar zijn, blijven bewaard. Maak ruimte vrij en probeer opnieuw, of kies een andere map.</translation>
     </message>
     <message>
         <source>Retry</source>
@@ -11330,8 +11332,8 @@
 <context>
     <name>writes</name>
     <message>
-        <source>Simulate: %1</source>
-        <translation>Simuleren: %1</translation>
+        <source>Dry Run: %1</source>
+        <translation>Proefrun: %1</translation>
     </message>
     <message numerus="yes">
         <source>Replace %n Originals</source>
@@ -11352,8 +11354,8 @@
         </translation>
     </message>
     <message>
-        <source>Simulation: show, write nothing</source>
-        <translation>Simulatie: tonen, niets schrijven</translation>
+        <source>Dry run: write nothing</source>
+        <translation>Proefrun: niets schrijven</translation>
     </message>
 </context>
 <context>
@@ -11363,8 +11365,8 @@
         <translation>Kies een map om in te bewaren.</translation>
     </message>
     <message>
-        <source>“%1” is no name for a folder beside the originals.</source>
-        <translation>“%1” is geen naam voor een map naast de originelen.</translation>
+        <source>“%1” is not a valid folder name.</source>
+        <translation>“%1” is geen geldige mapnaam.</translation>
     </message>
     <message>
         <source>%1 cannot be written, choose another file type</source>
@@ -11391,7 +11393,7 @@
         <translation>Voer een naam voor de resultaten in.</translation>
     </message>
     <message>
-        <source>A name cannot have “/” in it.</source>
+        <source>A name cannot contain “/”.</source>
         <translation>Een naam mag geen “/” bevatten.</translation>
     </message>
 </context>

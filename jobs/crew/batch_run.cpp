@@ -351,7 +351,7 @@ void BatchRun::finish(int number)
         m_files.erase(files);
         for (ReportLine &line : work.lines)
             if (line.status == LineStatus::Planned)
-                fail(line, image::sentence(QT_TRANSLATE_NOOP("recipe", "nothing came of it")));
+                fail(line, image::sentence(QT_TRANSLATE_NOOP("recipe", "no result")));
     }
     m_summary.inputs += work.wanted.isEmpty() ? 0 : 1;
     for (const int index : std::as_const(work.wanted)) {

@@ -135,7 +135,7 @@ QString reasonFor(WorkerEnd end, const platform::WorkerLimits &limits)
     constexpr qint64 megabyte = 1 << 20;
     switch (end) {
     case WorkerEnd::TookTooLong:
-        return image::sentence(QT_TRANSLATE_NOOP("recipe", "it takes longer than %1 seconds")).arg(limits.seconds);
+        return image::sentence(QT_TRANSLATE_NOOP("recipe", "it took longer than %1 seconds")).arg(limits.seconds);
     case WorkerEnd::TookTooMuch:
         return image::sentence(QT_TRANSLATE_NOOP("recipe", "it needs more than %1 MB of memory"))
             .arg(limits.residentBytes / megabyte);

@@ -57,7 +57,7 @@ Errand::Turn PlanErrand::take(Message &message)
         return Turn::Nonsense;
     const bool isWhole = planned->plans.size() == m_recipe->recipe().outputs.size();
     if (planned->problem.isEmpty() && !isWhole)
-        answer(problemOnly(image::sentence(QT_TRANSLATE_NOOP("recipe", "the recipe cannot be carried out"))));
+        answer(problemOnly(image::sentence(QT_TRANSLATE_NOOP("recipe", "the recipe cannot be run"))));
     else
         answer(*planned);
     return Turn::Over;

@@ -42,7 +42,7 @@ Result<std::shared_ptr<const SharedRecipe>> SharedRecipe::from(const QByteArray 
     auto shared = whole(json, QStringLiteral("/"));
     if (shared && (*shared)->recipe().outputs.size() != 1)
         return platform::failure(platform::ErrorCode::InvalidValue,
-                                 image::sentence(QT_TRANSLATE_NOOP("recipe", "outputs: one, and no more")));
+                                 image::sentence(QT_TRANSLATE_NOOP("recipe", "outputs: exactly one")));
     return shared;
 }
 
@@ -197,7 +197,7 @@ Errand::Turn RecipeErrand::finish()
     if (m_writeError != 0)
         result.reason = unwritten(m_task.target, m_writeError).value().message;
     else if (!m_isMade && result.reason.isEmpty())
-        result.reason = image::sentence(QT_TRANSLATE_NOOP("recipe", "nothing came of it"));
+        result.reason = image::sentence(QT_TRANSLATE_NOOP("recipe", "no result"));
     if (result.reason.isEmpty()) {
         result.outcome = RecipeResult::Outcome::Ok;
         m_isBegun = false; // whoever asked for it has it now

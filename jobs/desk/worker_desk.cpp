@@ -380,7 +380,7 @@ void WorkerDesk::takeEnd(Id id, WorkerEnd end)
     Worker worker = std::move(found->second);
     m_workers.erase(found);
     if (!worker.isReady)
-        missed(image::sentence(QT_TRANSLATE_NOOP("recipe", "a worker ended while it started")));
+        missed(image::sentence(QT_TRANSLATE_NOOP("recipe", "a worker process ended while starting")));
     if (worker.asked)
         giveUpOrTryAgain(std::move(*worker.asked), end);
     if (m_missing == 0)

@@ -91,7 +91,7 @@ Form turnForm()
 {
     return {R"({"angle": 0, "flipHorizontal": false, "flipVertical": false,
               "output": {"fileType": "original file type", "quality": "10", "ownQuality": true, "ifTaken": "number",
-                         "destination": {"kind": "beside", "name": "Turned", "path": ""}}})",
+                         "destination": {"kind": "beside", "name": "Rotated", "path": ""}}})",
             "",
             {{11, "angle", Kind::Number}, {22, "flipHorizontal", Kind::Flag}, {23, "flipVertical", Kind::Flag}}};
 }

@@ -64,7 +64,7 @@ ReadAnswer shown(const QImage &image, QSize full)
     ReadAnswer answer = answerWith({{key("width"), full.width()}, {key("height"), full.height()}});
     answer.image = platform::sharedImage(image);
     if (!answer.image)
-        return failed(image::sentence(QT_TRANSLATE_NOOP("recipe", "there is not enough memory to show it")));
+        return failed(image::sentence(QT_TRANSLATE_NOOP("recipe", "not enough memory to show it")));
     answer.message.pixels = answer.image->size;
     answer.message.hasAlpha = answer.image->hasAlpha;
     return answer;

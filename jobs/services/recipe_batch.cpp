@@ -246,8 +246,7 @@ QVariantList RecipeBatch::outcomes(int index, const QString &problem)
         ReportLine &line = work.lines[output];
         // Whatever was not heard of has not become anything.
         if (line.status == LineStatus::Planned)
-            fail(line,
-                 problem.isEmpty() ? image::sentence(QT_TRANSLATE_NOOP("recipe", "nothing came of it")) : problem);
+            fail(line, problem.isEmpty() ? image::sentence(QT_TRANSLATE_NOOP("recipe", "no result")) : problem);
         outputs.append(outcomeOf(line));
     }
     if (waiting.isEmpty())

@@ -88,8 +88,8 @@ QVariantMap outcome(const char *word, const QString &reason)
 
 Result<image::MadeOutput> madeOf(const Task &task, const QString &path)
 {
-    Result<image::MadeOutput> result = platform::failure(
-        platform::ErrorCode::Unreadable, image::sentence(QT_TRANSLATE_NOOP("recipe", "nothing came of it")));
+    Result<image::MadeOutput> result =
+        platform::failure(platform::ErrorCode::Unreadable, image::sentence(QT_TRANSLATE_NOOP("recipe", "no result")));
     const text::TokenFacts facts = needsFacts(task.recipe) ? factsOfPicture(path, 0) : factsOfFile(path, 0, false);
     const image::FillText fill = [&facts](const QString &pattern, QSize size) {
         return watermarkFrom(pattern, facts, size);
@@ -107,7 +107,7 @@ Result<Recipe> recipeFrom(const QVariantMap &object, const image::RecipeFiles &f
     return image::readRecipe(json, files).and_then([](const Recipe &recipe) -> Result<Recipe> {
         if (recipe.outputs.size() != 1)
             return platform::failure(platform::ErrorCode::InvalidValue,
-                                     image::sentence(QT_TRANSLATE_NOOP("recipe", "outputs: one, and no more")));
+                                     image::sentence(QT_TRANSLATE_NOOP("recipe", "outputs: exactly one")));
         return recipe;
     });
 }

@@ -300,10 +300,11 @@ Result<TrashedItem> moveToTrash(const QString &path)
 {
     const QString name = lastPathComponent(path);
     if (name == QStringLiteral("/") || name == QStringLiteral(".") || name == QStringLiteral(".."))
-        return failure(ErrorCode::InvalidValue, QCoreApplication::translate("platform", "Cannot trash %1").arg(path));
+        return failure(ErrorCode::InvalidValue,
+                       QCoreApplication::translate("platform", "Cannot move %1 to the trash").arg(path));
     if (!isTaken(path))
         return failure(ErrorCode::NotFound,
-                       QCoreApplication::translate("platform", "Cannot trash %1: there is nothing").arg(path));
+                       QCoreApplication::translate("platform", "Cannot move %1 to the trash: no such file").arg(path));
     const QString place = withoutLinks(path);
     const Item item = {place, place};
     Put put = putInto(homeTrash(), item, Reach::OneFileSystem);
@@ -313,8 +314,9 @@ Result<TrashedItem> moveToTrash(const QString &path)
     if (put.error == std::errc::cross_device_link)
         put = putInto(homeTrash(), item, Reach::AnyFileSystem);
     if (put.error)
-        return failure(ErrorCode::WriteFailed, QCoreApplication::translate("platform", "Cannot trash %1: %2")
-                                                   .arg(path, QString::fromLocal8Bit(put.error.message().c_str())));
+        return failure(ErrorCode::WriteFailed,
+                       QCoreApplication::translate("platform", "Cannot move %1 to the trash: %2")
+                           .arg(path, QString::fromLocal8Bit(put.error.message().c_str())));
     return TrashedItem{put.path};
 }
 

@@ -129,7 +129,7 @@ Result<Bitmap> drawnLines(QSize canvas, const DashedLines &lines)
         return failure(ErrorCode::InvalidValue, QCoreApplication::translate("platform", "There is nothing to draw"));
     if (!fitsMemoryBudget(canvas.width(), canvas.height(), rgba, 1))
         return failure(ErrorCode::TooLarge,
-                       QCoreApplication::translate("platform", "No picture of %1 x %2 pixels can be made")
+                       QCoreApplication::translate("platform", "A picture of %1 × %2 pixels cannot be made")
                            .arg(canvas.width())
                            .arg(canvas.height()));
     try {

@@ -24,7 +24,7 @@ qint64 memoryBudgetBytes()
 tl::unexpected<Error> impossible(QSize size)
 {
     return failure(ErrorCode::TooLarge,
-                   QCoreApplication::translate("platform", "No picture of %1 x %2 pixels can be made")
+                   QCoreApplication::translate("platform", "A picture of %1 × %2 pixels cannot be made")
                        .arg(size.width())
                        .arg(size.height()));
 }

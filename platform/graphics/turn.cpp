@@ -15,7 +15,7 @@ using vips::VImage;
 
 tl::unexpected<Error> noPicture()
 {
-    return failure(ErrorCode::InvalidValue, QCoreApplication::translate("platform", "There is no picture to turn"));
+    return failure(ErrorCode::InvalidValue, QCoreApplication::translate("platform", "There is no picture to rotate"));
 }
 
 VImage turnedExactly(const VImage &image, ExactTurn turn)
@@ -111,13 +111,13 @@ Result<Bitmap> turned(const Bitmap &bitmap, const FreeTurn &turn)
         return noPicture();
     if (!std::isfinite(turn.degrees) || !std::isfinite(turn.centre.x()) || !std::isfinite(turn.centre.y()))
         return failure(ErrorCode::InvalidValue,
-                       QCoreApplication::translate("platform", "A picture cannot be turned by that angle"));
+                       QCoreApplication::translate("platform", "A picture cannot be rotated by that angle"));
     VImage image = bitmap.pixels().image;
     if (otherBands(image) > 0)
         image = inForm(image); // where they belong is not known outside of the picture
     if (!fitsMemoryBudget(turn.canvas.width(), turn.canvas.height(), image.bands() + 1, bytesPerComponent(image)))
         return failure(ErrorCode::TooLarge,
-                       QCoreApplication::translate("platform", "No picture of %1 x %2 pixels can be made")
+                       QCoreApplication::translate("platform", "A picture of %1 × %2 pixels cannot be made")
                            .arg(turn.canvas.width())
                            .arg(turn.canvas.height()));
     try {

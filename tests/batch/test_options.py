@@ -66,7 +66,7 @@ class Asking(BatchTest):
         full = open("/dev/full", "wb")
         self.addCleanup(full.close)
         self.run_batch("--help", status=1, stdout=full)
-        self.assertIn("cannot be written", self.said)
+        self.assertIn("read-only", self.said)
 
 
 class BadRequests(BatchTest):

@@ -49,7 +49,7 @@ class Supplied(BatchTest):
         """A sentence about the picture or about its size, not about the program."""
         print(f"{name}: {os.path.relpath(line['input'], PICTURES)}[{line['index']}]: {line['reason']}")
         self.assertIsNone(line["output"])
-        self.assertRegex(line["reason"], r"^(Cannot read |It cannot be made as small as )")
+        self.assertRegex(line["reason"], r"^(Cannot read |It does not fit into )")
 
 
 if __name__ == "__main__":

@@ -211,7 +211,7 @@ private Q_SLOTS:
         m_driver->show("resize");
         m_driver->drop({m_folder});
         QCOMPARE(m_driver->text("statusText"),
-                 QStringLiteral("1 picture added · “b.pdf” is not a picture that can be taken"));
+                 QStringLiteral("1 picture added · “b.pdf” was not added: it is not a supported picture."));
         QCOMPARE(m_driver->pictures().count(), 1);
         m_driver->show("convert");
         QCOMPARE(m_driver->pictures().count(), 2);

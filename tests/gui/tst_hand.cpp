@@ -139,7 +139,7 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(path("Lake/a.jpg")));
         QCOMPARE(m_driver->text("handName"), QStringLiteral("a.jpg"));
         const QString said = m_driver->text("statusText");
-        QVERIFY2(said.startsWith(QStringLiteral("Lake: too little room (needs ")), qPrintable(said));
+        QVERIFY2(said.startsWith(QStringLiteral("Lake: not enough space (needs ")), qPrintable(said));
         QTest::keyClick(&m_driver->window(), Qt::Key_1, Qt::AltModifier); // moving on one disk needs none
         key(Qt::Key_1);
         files::setDiskSpaceSource({});
@@ -252,9 +252,9 @@ private Q_SLOTS:
         m_driver->show("resize");
         m_driver->show("hand");
         QCOMPARE(slot(0).problem, QString());
-        QCOMPARE(slot(1).problem, QStringLiteral("not there"));
+        QCOMPARE(slot(1).problem, QStringLiteral("not found"));
         const bool isRoot = QFileInfo(path("Locked")).isWritable();
-        QCOMPARE(slot(2).problem, isRoot ? QString() : QStringLiteral("cannot be written"));
+        QCOMPARE(slot(2).problem, isRoot ? QString() : QStringLiteral("read-only"));
         key(Qt::Key_2);
         QCOMPARE(m_driver->text("handName"), QStringLiteral("a.jpg"));
         QVERIFY(QFile::exists(path("In/a.jpg")));
@@ -411,11 +411,11 @@ private Q_SLOTS:
         auto *log = m_driver->control<window::LogTable>("logTable");
         QVERIFY(m_driver->waitFor([log] { return log->totalCount() == 3; }));
         runs->setCurrentIndex(runs->model()->index(1, 0));
-        QCOMPARE(m_driver->text("logRunNote"), QStringLiteral("3 files can be taken back."));
+        QCOMPARE(m_driver->text("logRunNote"), QStringLiteral("3 files can be restored."));
         m_driver->click("logUndo");
         QVERIFY(m_driver->waitFor([log] { return log->totalCount() == 6; }));
         QCOMPARE(everything(), before);
-        QVERIFY(m_driver->text("statusText").contains(QStringLiteral("3 files taken back")));
+        QVERIFY(m_driver->text("statusText").contains(QStringLiteral("3 files restored")));
         QVERIFY(!m_driver->control<QPushButton>("logUndo")->isEnabled());
         QVERIFY(!m_driver->text("logRunNote").isEmpty());
     }

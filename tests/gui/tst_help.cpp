@@ -86,9 +86,9 @@ private Q_SLOTS:
         QTest::addColumn<QString>("action");
         QTest::addColumn<QString>("title");
         QTest::newRow("infoSimulation") << "resize"
-                                        << "Simulation";
+                                        << "Dry run";
         QTest::newRow("infoMoveSimulation") << "rename"
-                                            << "Simulation";
+                                            << "Dry run";
         QTest::newRow("infoFolder") << "crop"
                                     << "Choosing a folder";
         QTest::newRow("infoPresets") << "turn"

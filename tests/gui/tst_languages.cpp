@@ -67,7 +67,8 @@ private Q_SLOTS:
         const QFontMetrics metrics{QFont()};
         double english = 0;
         double made = 0;
-        for (const char *text : {"Resize", "Number the new file", "&Save Report…", "Drop pictures or folders here"}) {
+        for (const char *text :
+             {"Resize", "Keep both (add a number)", "&Save Report…", "Drop pictures or folders here"}) {
             english += metrics.horizontalAdvance(QString::fromUtf8(text));
             made += metrics.horizontalAdvance(pseudo::text(QString::fromUtf8(text)));
         }

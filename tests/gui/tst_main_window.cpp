@@ -115,7 +115,7 @@ private Q_SLOTS:
             file(name, "no picture");
         m_driver->drop({m_pictures});
         QCOMPARE(m_driver->pictures().count(), 1);
-        QVERIFY2(m_driver->text("statusText").contains(QLatin1String("3 files are not pictures")),
+        QVERIFY2(m_driver->text("statusText").contains(QLatin1String("3 files were not added")),
                  qPrintable(m_driver->text("statusText")));
     }
 
@@ -273,14 +273,14 @@ private Q_SLOTS:
         m_driver->click("startButton");
         QVERIFY(m_driver->waitFor([this] { return namesIn(m_results).size() >= 2; }));
         m_driver->trigger("cancelAction");
-        QVERIFY(m_driver->text("statusDetail").startsWith(QStringLiteral("stopping after the pictures in progress")));
+        QVERIFY(m_driver->text("statusDetail").startsWith(QStringLiteral("stopping after the current pictures")));
         const QString summary = m_driver->waitForSummary();
         QVERIFY2(summary.startsWith(QStringLiteral("Cancelled:")), qPrintable(summary));
         const QStringList names = namesIn(m_results);
         QVERIFY(names.size() >= 2 && names.size() < 30);
         for (const QString &name : names)
             QCOMPARE(sizeOf(result(qPrintable(name))), QSize(1600, 1200));
-        QCOMPARE(m_driver->cell(29, PictureModel::Status), QStringLiteral("Skipped: cancelled before its turn"));
+        QCOMPARE(m_driver->cell(29, PictureModel::Status), QStringLiteral("Skipped: cancelled"));
     }
 
     void pauseHoldsTheRun()

@@ -433,7 +433,7 @@ void TestMetadataPage::revertsARunAndDoesItAgain()
     QVERIFY(m_driver->waitFor([this] { return log()->totalCount() == 4; }));
     QCOMPARE(commentOf(path("a.jpg")), QStringLiteral("the first"));
     QCOMPARE(commentOf(path("b.jpg")), QString());
-    QCOMPARE(m_driver->text("logRunNote"), QStringLiteral("All its comments were reverted already."));
+    QCOMPARE(m_driver->text("logRunNote"), QStringLiteral("All its comments have already been reverted."));
     QVERIFY(!button("logUndo")->isEnabled());
     runs()->setCurrentIndex(runs()->model()->index(1, 0));
     QVERIFY2(m_driver->text("logRunTitle").startsWith(QStringLiteral("Undo of Metadata (run of ")),
@@ -467,16 +467,17 @@ void TestMetadataPage::saysWhyACommentIsNotReverted()
     QVERIFY(!QFile::exists(path("b.jpg")));
     runs()->setCurrentIndex(runs()->model()->index(1, 0));
     const QString status = cells(window::LogModel::Status);
-    QVERIFY2(status.contains(QStringLiteral("Skipped: The comment was changed since and stays: “somebody else's”")),
-             qPrintable(status));
-    QVERIFY2(status.contains(QStringLiteral("Failed: The file is not there any more.")), qPrintable(status));
+    QVERIFY2(
+        status.contains(QStringLiteral("Skipped: The comment has been changed since and is kept: “somebody else's”")),
+        qPrintable(status));
+    QVERIFY2(status.contains(QStringLiteral("Failed: The file no longer exists.")), qPrintable(status));
     // And once more: the one that has its old comment is left alone.
     runs()->chooseAll();
     m_driver->control<QLineEdit>("logSearch")->setText(QStringLiteral("e.jpg new"));
     log()->selectRow(log()->model()->rowCount() - 1);
     m_driver->click("logRevert");
     QVERIFY(m_driver->waitFor([this] { return log()->totalCount() == 7; }));
-    QVERIFY2(note().contains(QStringLiteral("It has its old comment already.")), qPrintable(note()));
+    QVERIFY2(note().contains(QStringLiteral("It already has its old comment.")), qPrintable(note()));
 }
 
 void TestMetadataPage::leavesFilesWithSeveralPagesOutUnlessAskedFor()
@@ -503,11 +504,11 @@ void TestMetadataPage::leavesFilesWithSeveralPagesOutUnlessAskedFor()
         return m_driver->waitFor([this] { return isIdle(); });
     };
     QVERIFY(writeIntoBoth(false));
-    QVERIFY2(detail.contains(QStringLiteral("2 further pages: pages.tif (2)")), qPrintable(detail));
+    QVERIFY2(detail.contains(QStringLiteral("2 more pages: pages.tif (2)")), qPrintable(detail));
     QVERIFY(!isChecked);
     QCOMPARE(pictures::bytesOf(path("pages.tif")), pages);
     QCOMPARE(commentOf(path("a.jpg")), QStringLiteral("new"));
-    QVERIFY2(note().contains(QStringLiteral("It has 2 further pages")), qPrintable(note()));
+    QVERIFY2(note().contains(QStringLiteral("It has 2 more pages")), qPrintable(note()));
     QVERIFY(writeIntoBoth(true));
     QCOMPARE(commentOf(path("pages.tif")), QStringLiteral("new"));
     QCOMPARE(mMeta().hGetExifUc(path("pages.tif")), QStringLiteral("new"));
@@ -515,7 +516,7 @@ void TestMetadataPage::leavesFilesWithSeveralPagesOutUnlessAskedFor()
     QCOMPARE(log()->totalCount(), 4);
     // What cannot be brought back as a whole is a run beside the others.
     QCOMPARE(logText().count("keep the first page only"), 1);
-    QVERIFY(logText().contains("2 further pages were taken out and do not come back."));
+    QVERIFY(logText().contains("2 more pages were removed. This cannot be undone."));
 }
 
 void TestMetadataPage::saysThatAFileCannotBeWritten()

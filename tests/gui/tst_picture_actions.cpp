@@ -376,11 +376,12 @@ private Q_SLOTS:
         QCOMPARE(m_driver->pictures().count(), 1);
         QVERIFY(m_driver->waitFor(
             [this] { return m_driver->cell(0, PictureModel::NewSize) == QStringLiteral("300×400"); }));
-        QCOMPARE(m_driver->control<QAbstractButton>("startButton")->text(), QStringLiteral("Turn 1 Picture"));
+        QCOMPARE(m_driver->control<QAbstractButton>("startButton")->text(), QStringLiteral("Rotate 1 Picture"));
         m_driver->show("round");
         QVERIFY(m_driver->waitFor(
             [this] { return m_driver->cell(0, PictureModel::NewSize) == QStringLiteral("400×300"); }));
-        QCOMPARE(m_driver->control<QAbstractButton>("startButton")->text(), QStringLiteral("Round 1 Picture"));
+        QCOMPARE(m_driver->control<QAbstractButton>("startButton")->text(),
+                 QStringLiteral("Round the Corners of 1 Picture"));
     }
 
     void theSidebarIsLockedWhileARunIsUnderWay()

@@ -230,7 +230,7 @@ private Q_SLOTS:
         const QStringList before = names();
         act("Import…");
         QCOMPARE(names(), before);
-        QCOMPARE(m_driver->text("presetProblem"), QStringLiteral("This file holds no presets."));
+        QCOMPARE(m_driver->text("presetProblem"), QStringLiteral("This file contains no presets."));
     }
 
     void aPresetOfANewerFormIsShownAndLeftAlone()
@@ -278,7 +278,7 @@ private Q_SLOTS:
         QCOMPARE(file.readAll(), QByteArray("No database at all.\n"));
         file.close();
         QVERIFY(file.remove());
-        act("Look Again");
+        act("Try Again");
         QVERIFY(!problem->isVisible());
         QVERIFY(entry("Save As…")->isEnabled());
     }

@@ -78,7 +78,7 @@ private Q_SLOTS:
     {
         files({"IMG_1.JPG", "IMG_1.xmp", "IMG_2.JPG"});
         m_driver->drop({path("IMG_1.JPG"), path("IMG_2.JPG")});
-        m_driver->choose("preset", QStringLiteral("=Number behind"));
+        m_driver->choose("preset", QStringLiteral("=Number suffix"));
         QVERIFY(waitForOperation("Rename 2 Files"));
         m_driver->click("startButton");
         QVERIFY(!m_driver->waitForSummary().isEmpty());
@@ -86,7 +86,7 @@ private Q_SLOTS:
         QCOMPARE(namesIn(m_folder), renamed);
         m_driver->click("undoButton");
         QVERIFY(waitForNamesOnDisk({"IMG_1.JPG", "IMG_1.xmp", "IMG_2.JPG"}));
-        QVERIFY(m_driver->waitForSummary().contains(QLatin1String("old names again, 0 problems")));
+        QVERIFY(m_driver->waitForSummary().contains(QLatin1String("names restored, 0 problems")));
         QCOMPARE(m_driver->cell(0, PictureModel::Name), QStringLiteral("IMG_1.JPG"));
         QCOMPARE(m_driver->control<QAbstractButton>("undoButton")->text(), QStringLiteral("Redo"));
         m_driver->click("undoButton");
@@ -137,7 +137,7 @@ private Q_SLOTS:
         m_driver->drop({m_folder});
         m_driver->choose("preset", QStringLiteral("=Lower-case extensions"));
         m_driver->control<QCheckBox>("moveSimulation")->setChecked(true);
-        QVERIFY(waitForOperation("Simulate: Rename 1 File"));
+        QVERIFY(waitForOperation("Dry Run: Rename 1 File"));
         m_driver->click("startButton");
         QVERIFY(m_driver->waitForSummary().contains(QLatin1String("nothing was moved")));
         QCOMPARE(namesIn(m_folder), texts({"A.JPG"}));
@@ -182,7 +182,7 @@ private Q_SLOTS:
         replaceBy("d", "c");
         replaceBy("#", "d");
         QVERIFY(waitForNames({"d.jpg", "c.jpg"}));
-        QVERIFY(waitForStatus(0, "changes places with d.jpg: done in two steps"));
+        QVERIFY(waitForStatus(0, "swaps names with d.jpg"));
         m_driver->click("startButton");
         QVERIFY(m_driver->waitForSummary().startsWith(QStringLiteral("2 files renamed")));
         QCOMPARE(contentOf("d.jpg"), QByteArray("c.jpg"));
@@ -196,9 +196,9 @@ private Q_SLOTS:
         files({"a.jpg", "b.jpg", "x.jpg"});
         m_driver->drop({path("a.jpg"), path("b.jpg")});
         replaceBy("a", "x");
-        QVERIFY(waitForStatus(0, "name is taken by a file not in this list"));
-        QVERIFY(waitForStatus(1, "stays as it is"));
-        QCOMPARE(m_driver->text("startNote"), QStringLiteral("0 ready · 1 needs attention · 1 stays as it is"));
+        QVERIFY(waitForStatus(0, "name in use by a file that is not in this list"));
+        QVERIFY(waitForStatus(1, "unchanged"));
+        QCOMPARE(m_driver->text("startNote"), QStringLiteral("0 ready · 1 needs attention · 1 unchanged"));
         QVERIFY(!m_driver->control<QAbstractButton>("startButton")->isEnabled());
         addStep("Add before");
         m_driver->control<QLineEdit>("secondText")->setText(QStringLiteral("-"));
@@ -212,7 +212,7 @@ private Q_SLOTS:
         addStep("Strip");
         m_driver->control<QSpinBox>("firstNumber")->setValue(1);
         m_driver->choose("firstChoice", QStringLiteral("fRight"));
-        QVERIFY(waitForStatus(1, "a1.jpg would get this name too"));
+        QVERIFY(waitForStatus(1, "same new name as a1.jpg"));
         m_driver->click("startButton");
         QVERIFY(m_driver->waitForSummary().contains(QLatin1String("1 left out")));
         QCOMPARE(namesIn(m_folder), texts({"a.jpg", "a2.jpg"}));
@@ -292,7 +292,7 @@ private Q_SLOTS:
         m_driver->control<QSpinBox>("firstNumber")->setValue(5);
         QVERIFY(waitForNames({"abc.jpg", "fgh.jpg"}));
         QVERIFY(m_driver->waitFor([this] {
-            return m_driver->text("cardProblem") == QStringLiteral("1 name is too short for this and stays as it is.");
+            return m_driver->text("cardProblem") == QStringLiteral("1 name is too short and stays unchanged.");
         }));
     }
 

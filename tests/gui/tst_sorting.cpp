@@ -50,11 +50,11 @@ private Q_SLOTS:
                                          QStringLiteral("2025-12-31 1 new"), QStringLiteral("2026 2"),
                                          QStringLiteral("2026-08-14 2 new"), QStringLiteral("Undated 1 new")}));
         QCOMPARE(m_driver->text("sortTreeSummary"),
-                 QStringLiteral("4 files into 3 folders (4 folders will be made, counting parents)"));
+                 QStringLiteral("4 files into 3 folders (4 new folders, including parents)"));
         QCOMPARE(m_driver->cell(0, PictureModel::NewName), QStringLiteral("2026/2026-08-14"));
         QCOMPARE(m_driver->cell(3, PictureModel::Status), QStringLiteral("no date taken"));
         QCOMPARE(button("startButton")->text(), QStringLiteral("Sort 4 Files into Folders"));
-        QCOMPARE(m_driver->text("startNote"), QStringLiteral("4 ready · 1 goes along · can be undone"));
+        QCOMPARE(m_driver->text("startNote"), QStringLiteral("4 ready · 1 sidecar file · can be undone"));
         QCOMPARE(filesBelow(m_pictures).size(), 5);
     }
 
@@ -64,7 +64,7 @@ private Q_SLOTS:
         const QStringList before = filesBelow(m_pictures);
         const QByteArray bytes = pictures::bytesOf(at("a.jpg"));
         m_driver->drop({m_pictures});
-        run(QStringLiteral("4 files moved into 3 folders · 5 folders made, 0 problems"));
+        run(QStringLiteral("4 files moved into 3 folders · 5 folders created, 0 problems"));
         QVERIFY(button("openFolderButton")->isVisible());
         QCOMPARE(m_driver->text("sortTreeSummary"), QString());
         QCOMPARE(filesBelow(m_pictures),
@@ -74,7 +74,7 @@ private Q_SLOTS:
         QCOMPARE(pictures::bytesOf(at("2026/2026-08-14/a.jpg")), bytes);
         QVERIFY(!folders().join(QLatin1Char(',')).contains(QLatin1String("new")));
         m_driver->click("undoButton");
-        QVERIFY(m_driver->waitForSummary().startsWith(QLatin1String("5 files put back"))); // the sidecar too
+        QVERIFY(m_driver->waitForSummary().startsWith(QLatin1String("5 files restored"))); // the sidecar too
         QCOMPARE(filesBelow(m_pictures), before);
         QCOMPARE(pictures::bytesOf(at("a.jpg")), bytes);
     }
@@ -83,22 +83,22 @@ private Q_SLOTS:
     {
         threeDays();
         m_driver->drop({m_pictures});
-        QCOMPARE(m_driver->text("statusText"), QStringLiteral("4 pictures added · 1 file goes along"));
+        QCOMPARE(m_driver->text("statusText"), QStringLiteral("4 pictures added · 1 sidecar file"));
         m_driver->click("clearButton");
         writeFile("lone.xmp", "<x/>");
         m_driver->drop({m_pictures});
-        QCOMPARE(
-            m_driver->text("statusText"),
-            QStringLiteral("4 pictures added · 1 file goes along · “lone.xmp” is not a picture that can be taken"));
+        QCOMPARE(m_driver->text("statusText"),
+                 QStringLiteral(
+                     "4 pictures added · 1 sidecar file · “lone.xmp” was not added: it is not a supported picture."));
         m_driver->click("clearButton");
         m_driver->drop({at("b.jpg"), at("a.xmp")}); // without its picture
         QCOMPARE(m_driver->text("statusText"),
-                 QStringLiteral("1 picture added · “a.xmp” is not a picture that can be taken"));
+                 QStringLiteral("1 picture added · “a.xmp” was not added: it is not a supported picture."));
         m_driver->show("resize");
         m_driver->click("clearButton");
         m_driver->drop({m_pictures});
         QCOMPARE(m_driver->text("statusText"),
-                 QStringLiteral("4 pictures added · 2 files are not pictures that can be taken"));
+                 QStringLiteral("4 pictures added · 2 files were not added: they are not supported pictures."));
     }
 
     void doesNotCallSidecarsOfTheListHidden()
@@ -121,7 +121,7 @@ private Q_SLOTS:
         run(QStringLiteral("4 files moved"));
         m_driver->click("dismissButton");
         QVERIFY(m_driver->waitFor(
-            [this] { return m_driver->text("sortTreeSummary") == QLatin1String("No file will go anywhere."); }));
+            [this] { return m_driver->text("sortTreeSummary") == QLatin1String("No file will be moved."); }));
         QVERIFY(!button("startButton")->isEnabled());
     }
 
@@ -190,7 +190,7 @@ private Q_SLOTS:
         QCOMPARE(pattern->text(), QStringLiteral("{camera}"));
         QVERIFY(!m_driver->control<QComboBox>("sortUndated")->isVisible());
         write("Photos/{orientation}");
-        QCOMPARE(m_driver->control<QComboBox>("sortLevel1")->currentText(), QStringLiteral("Own pattern"));
+        QCOMPARE(m_driver->control<QComboBox>("sortLevel1")->currentText(), QStringLiteral("Custom pattern"));
         QVERIFY(!m_driver->control<QComboBox>("sortLevel2")->isVisible());
         write("{size:class}");
         QCOMPARE(m_driver->control<QComboBox>("sortLevel1")->currentData().toString(), QStringLiteral("{size:class}"));
@@ -247,9 +247,9 @@ private Q_SLOTS:
         QVERIFY(waitForTree(6));
         m_driver->choose("sortUndated", QStringLiteral("leave"));
         QVERIFY(waitForTree(5));
-        QCOMPARE(m_driver->cell(3, PictureModel::Status), QStringLiteral("no date taken: stays"));
+        QCOMPARE(m_driver->cell(3, PictureModel::Status), QStringLiteral("no date taken: not moved"));
         QVERIFY(!m_driver->control<QLineEdit>("sortUndatedName")->isVisible());
-        QVERIFY(m_driver->text("startNote").contains(QLatin1String("1 stays as it is")));
+        QVERIFY(m_driver->text("startNote").contains(QLatin1String("1 unchanged")));
         m_driver->choose("sortUndated", QStringLiteral("changed"));
         QVERIFY(m_driver->waitFor([this] {
             return m_driver->cell(3, PictureModel::NewName) ==
@@ -264,7 +264,7 @@ private Q_SLOTS:
         m_driver->drop({m_pictures});
         m_driver->click("moveSimulation");
         QVERIFY(waitForTree(6));
-        run(QStringLiteral("Simulation: Sort 4 Files into Folders"));
+        run(QStringLiteral("Dry run: Sort 4 Files into Folders"));
         QCOMPARE(filesBelow(m_pictures), before);
     }
 
@@ -346,7 +346,7 @@ private Q_SLOTS:
         QCOMPARE(filesBelow(m_pictures).size(), count);
         QVERIFY(!QFile::exists(at("399.jpg")) || !QFile::exists(at("2026/2026-08-14/399.jpg")));
         m_driver->click("undoButton");
-        QVERIFY(m_driver->waitForSummary().contains(QLatin1String("put back")));
+        QVERIFY(m_driver->waitForSummary().contains(QLatin1String("restored")));
         for (int i = 0; i < count; ++i)
             QVERIFY(QFile::exists(at(QStringLiteral("%1.jpg").arg(i).toUtf8().constData())));
     }

@@ -58,7 +58,7 @@ void TestTypedComments::asksWhatBecomesOfATypedComment()
         QTest::qWait(200);
     };
     comment()->setPlainText(QStringLiteral("typed"));
-    stepAndAnswer("Keep Typing");
+    stepAndAnswer("Keep Editing");
     QVERIFY(nameIs("a.jpg"));
     QCOMPARE(comment()->toPlainText(), QStringLiteral("typed"));
     QCOMPARE(m_driver->pictures().currentPlace(), 1);
@@ -80,11 +80,11 @@ void TestTypedComments::asksBeforeThePageIsLeft()
 {
     addPictures();
     comment()->setPlainText(QStringLiteral("typed"));
-    m_driver->answerNextQuestion(QStringLiteral("Keep Typing"));
+    m_driver->answerNextQuestion(QStringLiteral("Keep Editing"));
     m_driver->show("resize");
     QVERIFY(comment()->isVisible());
     QCOMPARE(comment()->toPlainText(), QStringLiteral("typed"));
-    m_driver->answerNextQuestion(QStringLiteral("Keep Typing"));
+    m_driver->answerNextQuestion(QStringLiteral("Keep Editing"));
     m_driver->window().close();
     QVERIFY(m_driver->window().isVisible());
     m_driver->answerNextQuestion(QStringLiteral("Write"));

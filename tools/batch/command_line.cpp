@@ -29,7 +29,7 @@ QString takeNumber(int &target, const QString &value, int least, int most)
 QString takeText(QString &target, const QString &value)
 {
     target = value;
-    return value.isEmpty() ? QStringLiteral("a name, not nothing") : QString();
+    return value.isEmpty() ? QStringLiteral("a name that is not empty") : QString();
 }
 
 QString takeShard(CommandLine &line, const QString &value)

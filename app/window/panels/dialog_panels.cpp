@@ -28,7 +28,7 @@ QString panelFilter(const QStringList &types)
         patterns.append(QStringLiteral("*.") + type.toUpper());
     }
     patterns.removeDuplicates();
-    return QFileDialog::tr("Files that can be chosen") + QStringLiteral(" (%1)").arg(patterns.join(QLatin1Char(' ')));
+    return QFileDialog::tr("Supported files") + QStringLiteral(" (%1)").arg(patterns.join(QLatin1Char(' ')));
 }
 
 namespace {

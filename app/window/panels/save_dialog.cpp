@@ -197,7 +197,7 @@ QStringList SaveDialog::tags() const
 bool SaveDialog::mayReplace(const QString &path)
 {
     return QMessageBox::warning(this, windowTitle(),
-                                tr("“%1” is there already. Replace it?").arg(platform::lastPathComponent(path)),
+                                tr("“%1” already exists. Replace it?").arg(platform::lastPathComponent(path)),
                                 QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
 }
 

@@ -92,7 +92,7 @@ QRectF CropFrameEditor::shownFrame() const
 
 void CropFrameEditor::describe()
 {
-    setAccessibleDescription(tr("%1 by %2 pixels, %3 from the left, %4 from the top")
+    setAccessibleDescription(tr("%1 × %2 pixels, %3 from the left, %4 from the top")
                                  .arg(m_frame.width())
                                  .arg(m_frame.height())
                                  .arg(m_frame.x())

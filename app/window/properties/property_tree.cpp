@@ -60,8 +60,8 @@ void PropertyTree::addMenu()
 {
     setContextMenuPolicy(Qt::ActionsContextMenu);
     addAction(tr("Copy"), this, [this] { copyChosen(); });
-    for (const auto &[text, form] : {std::pair(tr("Copy Place in Degrees"), QStringLiteral("degrees")),
-                                     std::pair(tr("Copy Place in Minutes"), QStringLiteral("minutes"))})
+    for (const auto &[text, form] : {std::pair(tr("Copy Location in Degrees"), QStringLiteral("degrees")),
+                                     std::pair(tr("Copy Location in Minutes"), QStringLiteral("minutes"))})
         addAction(text, this, [this, form = form] { copyPlace(form); })->setObjectName(form);
 }
 

@@ -9,9 +9,10 @@ import * as step from "./background-step.js";
 export const background = onPictures({
     name: "background",
     title: () => qsTr("Background & Border"),
-    doing: () => qsTr("Framing"),
+    doing: () => qsTr("Adding background and border"),
     step: step,
     pane: BackgroundPane,
     presets: presets,
-    startText: (number) => qsTr("Frame %n Pictures", "", number),
+    startText: (number, settings) => (settings.frame === "none" ? qsTr("Add Background to %n Pictures", "", number)
+                                                                : qsTr("Add Border to %n Pictures", "", number)),
 });

@@ -41,8 +41,8 @@ export class BackgroundPane extends Pane {
 
     join() {
         this.form.control("under").segments = [qsTr("Colour"), qsTr("Pattern")];
-        this.form.setItems("frame", [qsTr("None"), qsTr("White, 10 pixels around"), qsTr("Coloured band inside")],
-                           background.FRAMES);
+        const frames = [qsTr("None"), qsTr("White, 10 pixels on all sides"), qsTr("Border inside the picture")];
+        this.form.setItems("frame", frames, background.FRAMES);
         this.chosen = [];
         this.segments("under", "under", background.GROUNDS);
         this.color("underColor", "color");

@@ -10,8 +10,8 @@ export const presets = {
     }),
     starting: (patterns) => [
         [qsTr("White background"), { under: "color", color: "#ffffff" }],
-        [qsTr("White frame"), { frame: "white" }],
-        [qsTr("Black band"), { frame: "band", bandColor: "#000000", bandWidth: 40 }],
+        [qsTr("White border"), { frame: "white" }],
+        [qsTr("Black border"), { frame: "band", bandColor: "#000000", bandWidth: 40 }],
         [qsTr("Ivory mount"), { frame: "band", bandColor: "#f4f0e6", bandWidth: 160 }],
         [qsTr("On paper"), { under: "pattern", pattern: patterns + "/paper.png" }],
     ],

@@ -27,8 +27,8 @@ export const offer = { types: WRITTEN.map((type) => type.id), quality: true, byR
 export function describe(settings) {
     const under = settings.under === "color"
         ? fill(qsTr("on %1"), settings.color) : fill(qsTr("on pattern %1"), settings.pattern);
-    const frames = { none: [], white: [qsTr("white frame")],
-                     band: [fill(qsTr("band of %1 px in %2"), settings.bandWidth, settings.bandColor)] };
+    const frames = { none: [], white: [qsTr("white border")],
+                     band: [fill(qsTr("border of %1 px in %2"), settings.bandWidth, settings.bandColor)] };
     return [under].concat(frames[settings.frame]).join(", ");
 }
 
@@ -45,7 +45,7 @@ export function validate(settings) {
     const messages = settings.under === "pattern" ? patternMessages(settings.pattern) : [];
     if (settings.frame === "band"
         && !(Number.isInteger(settings.bandWidth) && settings.bandWidth >= 1 && settings.bandWidth <= MOST_BAND)) {
-        messages.push(qsTr("Enter a width of the band from 1 to %1.").replace("%1", String(MOST_BAND)));
+        messages.push(qsTr("Enter a border width from 1 to %1.").replace("%1", String(MOST_BAND)));
     }
     return messages.concat(outputMessages(settings.output));
 }
@@ -67,13 +67,14 @@ export function plan(photo, settings, services) {
         return refusal;
     }
     if (settings.frame === "band" && 2 * settings.bandWidth >= Math.min(photo.width, photo.height)) {
-        return { status: "Failed", reason: qsTr("the band would cover all of it") };
+        return { status: "Failed", reason: qsTr("the border would cover the whole picture") };
     }
     const planned = planBy(photo, settings, services,
                            () => services.recipes.planOutput(photo.path, recipe(settings)),
                            ownName(photo.path, settings.output.fileType));
     if (planned.status === "ready" && settings.frame === "none" && !mayBeTransparent(photo)) {
-        const note = fill(qsTr("A %1 picture has no transparent parts: it stays as it looks."), photo.type);
+        const note = fill(qsTr("%1 pictures have no transparent parts, so a background would not be visible."),
+                          photo.type);
         planned.notes = [note].concat(planned.notes);
     }
     return planned;

@@ -25,16 +25,16 @@ export function qualityText(code) {
 /** What a file of this target holds of a picture, in sentences. */
 export function targetText(keyword) {
     return {
-        jpeg: () => qsTr("Small files for showing. Fine detail is lost, the more the lower the quality; transparent parts get a colour and 16 bits become 8. Colour profile and metadata are kept."),
+        jpeg: () => qsTr("Small files for sharing. The lower the quality, the more detail is lost. Transparent parts get a colour and 16 bits become 8. Colour profile and metadata are kept."),
         png: () => qsTr("Nothing is lost: pixels, transparency, 16 bits, colour profile and metadata are kept."),
         tiff: () => qsTr("Nothing is lost: pixels, transparency, 16 bits, CMYK, colour profile and metadata are kept. Large files."),
-        webp: () => qsTr("Small files for web pages. Fine detail is lost, the more the lower the quality, and 16 bits become 8. Transparency, colour profile and metadata are kept."),
-        avif: () => qsTr("Very small files for web pages, which take the longest to write. Fine detail is lost, the more the lower the quality, and 16 bits become 8. Transparency, colour profile and metadata are kept."),
-        jxl: () => qsTr("Small files for archives. Fine detail is lost, the more the lower the quality. Transparency, 16 bits, colour profile and metadata are kept. Few programs show such files."),
-        pdf: () => qsTr("One page of the picture’s own size. A JPEG goes in as it is; others without loss. Of the metadata what XMP has words for is kept."),
-        jp2: () => qsTr("Loss that cannot be seen. Transparency, 16 bits and metadata are kept, and the colour profile where it fits in. Few programs show such files."),
-        gif: () => qsTr("256 colours at most, and a pixel is either transparent or not; colours become sRGB. Of the metadata what XMP has words for is kept."),
-        bmp: () => qsTr("Pixels and resolution only, in large files. Colours become sRGB, transparent parts get a colour, and 16 bits become 8."),
+        webp: () => qsTr("Small files for web pages. The lower the quality, the more detail is lost. 16 bits become 8. Transparency, colour profile and metadata are kept."),
+        avif: () => qsTr("Very small files for web pages, which take the longest to write. The lower the quality, the more detail is lost. 16 bits become 8. Transparency, colour profile and metadata are kept."),
+        jxl: () => qsTr("Small files for archives. The lower the quality, the more detail is lost. Transparency, 16 bits, colour profile and metadata are kept. Few programs can open it."),
+        pdf: () => qsTr("One page of the size of the picture. A JPEG is included unchanged, other types without loss. Metadata is kept as far as XMP can hold it."),
+        jp2: () => qsTr("Visually lossless. Transparency, 16 bits and metadata are kept, and most colour profiles. Few programs can open it."),
+        gif: () => qsTr("At most 256 colours. A pixel is either transparent or not. Colours become sRGB. Metadata is kept as far as XMP can hold it."),
+        bmp: () => qsTr("Large files with pixels and resolution only. Colours become sRGB, transparent parts get a colour and 16 bits become 8."),
     }[keyword]();
 }
 
@@ -43,13 +43,13 @@ export function sourceNotes(photo, target, lossless) {
     const extension = splitPath(photo.path).extension.toLowerCase();
     const notes = [];
     if (extension === "pdf") {
-        notes.push(qsTr("The first page is drawn at 72 pixels per inch."));
+        notes.push(qsTr("The first page is rendered at 72 pixels per inch."));
     } else if (extension === "psd") {
-        notes.push(qsTr("Layers become one picture."));
+        notes.push(qsTr("Layers are merged into one picture."));
     }
     if (typeOfExtension(extension) === target.id) {
-        notes.push(fill(lossless ? qsTr("It is %1 already; no pixel of it changes.")
-            : qsTr("It is %1 already and is encoded again."), target.word));
+        notes.push(fill(lossless ? qsTr("Already %1: no pixel changes.")
+            : qsTr("Already %1: it will be encoded again."), target.word));
     }
     return notes;
 }

@@ -2,7 +2,7 @@
 
 import { guard } from "../../lib/guard.js";
 import { converted, PIXEL, unitSign } from "../../lib/measure.js";
-import { fill, pixels } from "../../lib/wording.js";
+import { fill } from "../../lib/wording.js";
 import * as crop from "./crop-step.js";
 import { Pane } from "../shared/pane.js";
 import { ResolutionRow } from "../shared/resolution-row.js";
@@ -210,8 +210,9 @@ export class CropPane extends Pane {
 
     resultText(photo, planned) {
         const part = planned.cut.part;
-        const size = pixels(planned);
-        const words = planned.cut.isPlaced ? fill(qsTr("%1 at %2, %3"), size, part.x, part.y) : size;
+        const words = planned.cut.isPlaced
+            ? fill(qsTr("%1 × %2 px at %3, %4"), planned.width, planned.height, part.x, part.y)
+            : fill(qsTr("%1 × %2 px"), planned.width, planned.height);
         return words + this.dpiText();
     }
 }

@@ -23,6 +23,6 @@ export const presets = {
         [qsTr("3:2, 1800 × 1200"), size(1800, 1200, "3:2")],
         [qsTr("4:3, 1600 × 1200"), size(1600, 1200, "4:3")],
         [qsTr("16:9, 1920 × 1080"), size(1920, 1080, "16:9")],
-        [qsTr("Trim 5 %"), { mode: "percent", percent: 5 }],
+        [qsTr("Trim 5%"), { mode: "percent", percent: 5 }],
     ],
 };

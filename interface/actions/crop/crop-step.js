@@ -47,7 +47,7 @@ function ratioWords(settings) {
 
 function placeWords(settings) {
     if (settings.position === ATTENTION) {
-        return [qsTr("where the eye is drawn to")];
+        return [qsTr("at the focus of attention")];
     }
     const moved = settings.offsetX || settings.offsetY
         ? [fill(qsTr("moved %1, %2 %3"), settings.offsetX, settings.offsetY, settings.unit)] : [];
@@ -58,8 +58,8 @@ function placeWords(settings) {
 export function describe(settings) {
     const unit = settings.unit === PIXEL ? settings.unit : settings.unit + dpiWords(settings.dpi);
     const size = { ratio: ratioWords(settings), size: settings.width + "×" + settings.height + " " + unit,
-                   percent: fill(qsTr("%1 % away"), settings.percent),
-                   pixels: qsTr("%n pixels away", "", settings.pixels) }[settings.mode];
+                   percent: fill(qsTr("trim %1%"), settings.percent),
+                   pixels: qsTr("trim %n pixels", "", settings.pixels) }[settings.mode];
     return [size].concat(placeWords(settings)).join(", ");
 }
 
@@ -79,7 +79,7 @@ function sizeMessages(settings) {
         return ratioMessages(settings);
     }
     if (settings.mode === "percent") {
-        return isWhole(settings.percent, 0, 99) ? [] : [qsTr("Enter a whole number from 0 to 99 per cent.")];
+        return isWhole(settings.percent, 0, 99) ? [] : [qsTr("Enter a whole number from 0 to 99.")];
     }
     if (settings.mode === "pixels") {
         return isWhole(settings.pixels, 0, MOST)

@@ -146,7 +146,7 @@ export class HandPage {
         if (facts === null) {
             return "";
         }
-        return facts.taken ? files.dateText(facts.taken) : fill(qsTr("file of %1"), files.dateText(facts.changed));
+        return facts.taken ? files.dateText(facts.taken) : fill(qsTr("file dated %1"), files.dateText(facts.changed));
     }
 
     showButtons(photo) {
@@ -159,8 +159,8 @@ export class HandPage {
             control(name).enabled = states[name];
             control(name + "Button").enabled = states[name];
         });
-        control("handUndoButton").toolTip = last === null ? qsTr("Take back the last deed (Ctrl+Z)")
-            : fill(qsTr("Take back: %1 (Ctrl+Z)"), actWords(last.kind, last.label));
+        control("handUndoButton").toolTip = last === null ? qsTr("Undo (Ctrl+Z)")
+            : fill(qsTr("Undo: %1 (Ctrl+Z)"), actWords(last.kind, last.label));
         this.form.control("handBackspace").enabled = states.handBack;
     }
 

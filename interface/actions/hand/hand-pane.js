@@ -35,9 +35,9 @@ export class HandPane extends Pane {
     join() {
         const control = (name) => this.form.control(name);
         control("handMode").segments = [qsTr("Move"), qsTr("Copy"), qsTr("Link")];
-        control("handMode").tips = [qsTr("The picture leaves its folder. (Alt+1)"),
-                                    qsTr("The picture stays, and a copy goes into the folder. (Alt+2)"),
-                                    qsTr("The picture stays, and the folder gets a link to it. (Alt+3)")];
+        control("handMode").tips = [qsTr("Moves the picture to the folder. (Alt+1)"),
+                                    qsTr("Copies the picture to the folder. (Alt+2)"),
+                                    qsTr("Puts a link to the picture into the folder. (Alt+3)")];
         this.segments("handMode", "mode", MODES);
         control("handAdd").clicked.connect(guard("hand.add", () => this.addFolder()));
         control("handNew").clicked.connect(guard("hand.new", () => this.askName(true)));
@@ -63,7 +63,7 @@ export class HandPane extends Pane {
     }
 
     menuTexts() {
-        return [qsTr("Change Label"), qsTr("Show Folder"), "-", qsTr("Move Up"), qsTr("Move Down"), "-",
+        return [qsTr("Rename Label"), qsTr("Show Folder"), "-", qsTr("Move Up"), qsTr("Move Down"), "-",
                 qsTr("Remove from List"), qsTr("Remove All…")];
     }
 
@@ -91,8 +91,8 @@ export class HandPane extends Pane {
     mayClear() {
         const answer = shell.ask({
             title: qsTr("Remove all folders"),
-            text: qsTr("Take all %n folders off the list?", "", this.settings.slots.length),
-            detail: qsTr("The folders themselves stay as they are, and so do presets."),
+            text: qsTr("Remove all %n folders from the list?", "", this.settings.slots.length),
+            detail: qsTr("The folders and your presets are not changed."),
             buttons: [qsTr("Remove"), qsTr("Keep")], initial: 1, escape: 1, check: "",
         });
         return answer.button === 0;
@@ -118,9 +118,9 @@ export class HandPane extends Pane {
         this.change(result.slots);
         this.list.reveal(result.slots.length - 1);
         const parts = result.known > 0
-            ? [qsTr("%n folders are in the list already.", "", result.known)] : [];
+            ? [qsTr("%n folders are already in the list.", "", result.known)] : [];
         if (result.full > 0) {
-            parts.push(qsTr("There are keys for %n folders only.", "", MOST_SLOTS));
+            parts.push(qsTr("Only %n folders can have a key.", "", MOST_SLOTS));
         }
         if (parts.length > 0) {
             this.sayBeside(parts.join(" "));
@@ -145,10 +145,10 @@ export class HandPane extends Pane {
 
     nameProblem(name) {
         if (name.indexOf("/") >= 0 || name === "." || name === "..") {
-            return qsTr("A folder cannot be called that.");
+            return qsTr("This is not a valid folder name.");
         }
         return files.info(joinPath(this.parentFolder(), name)).exists
-            ? qsTr("There is something of this name already.") : "";
+            ? qsTr("This name is already in use.") : "";
     }
 
     showNew() {

@@ -21,12 +21,12 @@ export function labelOf(slot) {
 export function slotProblem(path, files) {
     const info = files.info(path);
     if (!info.exists) {
-        return qsTr("not there");
+        return qsTr("not found");
     }
     if (!info.isFolder) {
         return qsTr("not a folder");
     }
-    return info.writable ? "" : qsTr("cannot be written");
+    return info.writable ? "" : qsTr("read-only");
 }
 
 // Folders are the same ones whether or not they are written with a slash at their end.

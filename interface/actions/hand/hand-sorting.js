@@ -101,10 +101,10 @@ export class HandSorting {
     put(photo, kind, slot) {
         const from = this.placeOf(photo);
         if (from === "") {
-            return failed(qsTr("This picture is in the trash. Undo brings it back."));
+            return failed(qsTr("This picture is in the trash. Use Undo to restore it."));
         }
         if (kind === "move" && splitPath(from).folder === slot.path) {
-            return { status: "Same", message: fill(qsTr("This picture is in %1 already."), slot.label), act: null };
+            return { status: "Same", message: fill(qsTr("This picture is already in %1."), slot.label), act: null };
         }
         return this.act(photo, kind, from, slot);
     }
@@ -112,7 +112,7 @@ export class HandSorting {
     trash(photo) {
         const from = this.placeOf(photo);
         return from === ""
-            ? failed(qsTr("This picture is in the trash already."))
+            ? failed(qsTr("This picture is already in the trash."))
             : this.act(photo, TRASH, from, { path: "", label: "" });
     }
 

@@ -55,14 +55,14 @@ export class LogPage {
         this.table = this.form.control("logTable");
         /** @type {import("quorlin/shell").RunList} */
         this.runs = this.form.control("logRuns");
-        this.table.setTexts([qsTr("Date"), qsTr("Deed"), qsTr("File"), qsTr("Status"), qsTr("Result"), qsTr("Folder"),
+        this.table.setTexts([qsTr("Date"), qsTr("Action"), qsTr("File"), qsTr("Status"), qsTr("Result"), qsTr("Folder"),
                              qsTr("Old comment"), qsTr("New comment")],
                             shownStates());
         this.table.columns = recall(defaults, COLUMNS, { columns: "" }).columns;
         this.runs.follow(this.table, { all: qsTr("All runs"), undo: qsTr("Undo of %1"), redo: qsTr("Redo of %1"),
                                        of: qsTr("%1 (run of %2)") });
-        this.form.setItems("logKind", [qsTr("Any deed"), qsTr("Comments only")], ["", COMMENTS]);
-        this.form.setItems("logStatus", [qsTr("Any status")].concat(STATES.map((state) => statusText(state, ""))),
+        this.form.setItems("logKind", [qsTr("All actions"), qsTr("Comments only")], ["", COMMENTS]);
+        this.form.setItems("logStatus", [qsTr("All statuses")].concat(STATES.map((state) => statusText(state, ""))),
                            [""].concat(STATES));
         this.form.setSplit("logSplitter", [230, 800]);
         this.connect();
@@ -182,7 +182,7 @@ export class LogPage {
         control("logRuns").enabled = !busy;
         if (this.words === null && !busy && edits > 0) {
             const edit = this.table.chosen();
-            control("logRunTitle").text = qsTr("%n comments chosen", "", edits);
+            control("logRunTitle").text = qsTr("%n comments selected", "", edits);
             control("logRunNote").text = edits === 1 && edit.after !== edit.before ? editWords(edit.before, edit.after) : "";
         }
     }
@@ -195,10 +195,10 @@ export class LogPage {
     // Why the table is empty.
     emptyText(total) {
         if (total === 0 && this.runIsBusy) {
-            return qsTr("A run is under way. What became of each picture stands here when it has ended.");
+            return qsTr("A run is in progress. Its entries appear here when it is finished.");
         }
         return total > 0 ? qsTr("No entry matches.")
-            : qsTr("Nothing was done yet. Every run writes what became of each picture here; the newest %Ln entries are kept.", "",
+            : qsTr("No entries yet. Each run is recorded here, and the last %Ln entries are kept.", "",
                    rowLimit());
     }
 
@@ -272,7 +272,7 @@ export class LogPage {
     clear() {
         const answer = shell.ask({
             title: qsTr("Clear log"), text: qsTr("Remove all %Ln entries from the log?", "", this.table.totalCount),
-            detail: qsTr("Your files stay as they are. Runs can then no longer be undone from here."),
+            detail: qsTr("Your files are not changed. Runs can then no longer be undone from here."),
             buttons: [qsTr("Clear"), qsTr("Keep")], initial: 1, escape: 1, check: "",
         });
         if (answer.button === 0) {
@@ -360,7 +360,7 @@ export class LogPage {
     undoKept(how, problem) {
         const undo = this.undo;
         this.undo = null;
-        const done = qsTr("%n files taken back", "", undo.done);
+        const done = qsTr("%n files restored", "", undo.done);
         const parts = [done]
             .concat(undo.problems > 0 ? [problemsText(undo.problems)] : [], problem ? [problem] : []);
         this.window.sayBeside((how === "cancelled" ? qsTr("Stopped:") + " " : "") + parts.join(" · "));

@@ -16,11 +16,11 @@ function mayHold(path) {
 }
 
 function pagesText(lost, isOne) {
-    const pages = qsTr("%n further pages", "", lost.pages);
+    const pages = qsTr("%n more pages", "", lost.pages);
     if (isOne) {
-        return fill(qsTr("This file has %1, which would be taken out and cannot be brought back: only its first page is kept."), pages);
+        return fill(qsTr("This file has %1. Only the first page is kept; this cannot be undone."), pages);
     }
-    const words = qsTr("%n files have several pages and are left out; their comments would cost them %1: %2.", "",
+    const words = qsTr("%n files with several pages are left out, since writing would remove %1: %2.", "",
                        lost.files);
     return fill(words, pages, lost.words);
 }
@@ -29,10 +29,10 @@ function pagesText(lost, isOne) {
 function warnings(paths, lost) {
     const without = paths.filter((path) => !mayHold(path)).length;
     return [
-        qsTr("The originals themselves are changed: their comment, and nothing else in them."),
+        qsTr("This changes the metadata inside your originals. Their pictures are not touched."),
         lost.files === 0 ? "" : pagesText(lost, paths.length === 1),
         without === 0 ? ""
-            : qsTr("%n files are of types that have no place for a comment, and stay as they are.", "", without),
+            : qsTr("%n files have types that cannot hold a comment and stay unchanged.", "", without),
     ].filter((each) => each !== "");
 }
 
@@ -46,11 +46,11 @@ export function mayWrite(paths, comment, lost) {
     const answer = shell.ask({
         title: qsTr("Write comment"),
         text: comment === ""
-            ? qsTr("Empty the comments of %n pictures?", "", paths.length)
+            ? qsTr("Clear the comments of %n pictures?", "", paths.length)
             : qsTr("Write the comment into %n pictures?", "", paths.length),
         detail: warnings(paths, lost).join(" "), initial: 1, escape: 1,
         buttons: [isOne ? qsTr("Write and Remove Pages") : qsTr("Write"), qsTr("Cancel")],
-        check: lost.files > 0 && !isOne ? qsTr("Write into these too, and keep only their first page") : "",
+        check: lost.files > 0 && !isOne ? qsTr("Write into these too, keeping only their first page") : "",
     });
     return { goesOn: answer.button === 0, pagesMayGo: isOne || answer.checked };
 }
@@ -59,9 +59,9 @@ export function mayWrite(paths, comment, lost) {
 export function askAboutTyped(path, canStay) {
     const answer = shell.ask({
         title: qsTr("Comment not written"),
-        text: fill(qsTr("Write what was typed into %1?"), splitPath(path).name),
-        detail: qsTr("It is not in the file yet."), check: "", initial: 0, escape: canStay ? 2 : 1,
-        buttons: [qsTr("Write"), qsTr("Discard")].concat(canStay ? [qsTr("Keep Typing")] : []),
+        text: fill(qsTr("Write your changes to %1?"), splitPath(path).name),
+        detail: qsTr("The comment has not been written yet."), check: "", initial: 0, escape: canStay ? 2 : 1,
+        buttons: [qsTr("Write"), qsTr("Discard")].concat(canStay ? [qsTr("Keep Editing")] : []),
     });
     return ["write", "discard", "stay"][answer.button];
 }

@@ -102,7 +102,7 @@ export class MetadataPage {
 
     mayLeave() {
         if (this.job.running) {
-            this.window.sayBeside(qsTr("Comments are being written. Cancel it first, or wait."));
+            this.window.sayBeside(qsTr("Comments are being written. Cancel this first, or wait."));
         }
         this.keepText();
         return !this.job.running && this.settle();
@@ -203,8 +203,8 @@ export class MetadataPage {
     }
 
     showCopyMenu() {
-        const texts = [qsTr("Copy Value or Branch"), "-", qsTr("Copy Place in Degrees, 48.85840, 2.29450"),
-                       qsTr("Copy Place in Minutes, 48° 51′ 30″ N")];
+        const texts = [qsTr("Copy Value or Branch"), "-", qsTr("Copy Location in Degrees, 48.85840, 2.29450"),
+                       qsTr("Copy Location in Minutes, 48° 51′ 30″ N")];
         const place = this.tree.hasPlace;
         this.form.setMenu("metaCopy", texts, ["", null, place ? "degrees" : null, place ? "minutes" : null],
                           guard("metadata.copy", (form) => (form === "" ? this.copy() : this.copyPlace(form))));
@@ -241,7 +241,7 @@ export class MetadataPage {
         const lines = this.tree.copyChosen();
         this.window.sayBeside(lines > 0
                          ? qsTr("%n lines copied", "", lines)
-                         : qsTr("Choose a property to copy first."));
+                         : qsTr("Select a property to copy first."));
     }
 
     copyPlace(form) {
@@ -280,10 +280,10 @@ export class MetadataPage {
     // What stands under the field while nothing runs.
     note(problem) {
         if (this.scope === ONE) {
-            return this.holds ? "" : qsTr("Files of this type have no place for a comment.");
+            return this.holds ? "" : qsTr("Files of this type cannot hold a comment.");
         }
         if (problem !== "" || this.text() === "") {
-            return problem || qsTr("Tokens such as {name}, {date} and {counter} stand for what each picture has; {{ is a brace.");
+            return problem || qsTr("Tokens such as {name}, {date} and {counter} are filled in for each picture. To write a brace, type {{.");
         }
         const example = commentExample(this.text(), this.path, files);
         return fill(qsTr("For example %1: “%2”"), example.name, example.comment.replace(/\s+/g, " "));

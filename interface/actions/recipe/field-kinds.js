@@ -76,7 +76,7 @@ export function position(label, access) {
 export function positionOrAttention(object) {
     const place = keyed(object, "position", "center");
     const isDrawn = place.get() === ATTENTION;
-    const drawn = check(qsTr("The part that draws the eye"),
+    const drawn = check(qsTr("Focus of attention"),
                         { get: () => isDrawn, set: (on) => place.set(on ? ATTENTION : "center") });
     return isDrawn ? [drawn] : [drawn, position(qsTr("Position"), place)];
 }

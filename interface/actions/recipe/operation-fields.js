@@ -59,7 +59,7 @@ function unitFields(operation) {
     return unit.get() === PIXEL
                ? fields
                : fields.concat(optional(
-                     qsTr("At a resolution of its own"), operation, "dpi", 300,
+                     qsTr("At a chosen resolution"), operation, "dpi", 300,
                      () => [number(qsTr("Resolution"), keyed(operation, "dpi", undefined), [1, MOST_DPI], 0, "dpi")]));
 }
 
@@ -85,14 +85,14 @@ function boxFields(operation) {
     };
     return [lengthOf(operation, qsTr("Width"), pairAt(operation, "box", 0)),
             lengthOf(operation, qsTr("Height"), pairAt(operation, "box", 1)),
-            choice(qsTr("How"), chosen, [["inside", qsTr("Fit inside")], ["fill", qsTr("Fill and cut")],
-                                         ["stretch", qsTr("Stretch")], ["pad", qsTr("Fit and fill the rest")]])]
+            choice(qsTr("Mode"), chosen, [["inside", qsTr("Fit inside")], ["fill", qsTr("Fill (crops)")],
+                                         ["stretch", qsTr("Stretch")], ["pad", qsTr("Fit and pad")]])]
         .concat((own[fit.get()] || own.inside)());
 }
 
 function resizeFields(operation) {
     const words = [["width", qsTr("Width")], ["height", qsTr("Height")], ["longest", qsTr("Longest side")],
-                   ["shortest", qsTr("Shortest side")], ["percent", qsTr("Per cent")],
+                   ["shortest", qsTr("Shortest side")], ["percent", qsTr("Percentage")],
                    ["megapixels", qsTr("Megapixels")], ["box", qsTr("Box")]];
     const by = oneOf(operation, RESIZE_BY, FIRST_SIZE);
     const key = by.get();
@@ -129,22 +129,22 @@ function cropFields(operation) {
     };
     const own = {
         ratio: () => [text(qsTr("Ratio"), keyed(operation, "ratio", undefined), false),
-                      check(qsTr("Longer number along the longer side"), keyed(operation, "turn", true))],
+                      check(qsTr("Larger number for the longer side"), keyed(operation, "turn", true))],
         width: () => [lengthOf(operation, qsTr("Width"), keyed(operation, "width", undefined)),
                       lengthOf(operation, qsTr("Height"), keyed(operation, "height", undefined))]
                          .concat(unitFields(operation)),
-        percent: () => [number(qsTr("Cut away"), keyed(operation, "percent", undefined), [0, 99], 2, "%")],
-        trim: () => [number(qsTr("Cut away"), keyed(operation, "trim", undefined), [0, MOST_PIXELS], 0, "px")],
+        percent: () => [number(qsTr("Trim"), keyed(operation, "percent", undefined), [0, 99], 2, "%")],
+        trim: () => [number(qsTr("Trim"), keyed(operation, "trim", undefined), [0, MOST_PIXELS], 0, "px")],
     };
-    const words = [["ratio", qsTr("Ratio")], ["width", qsTr("Width and height")], ["percent", qsTr("Per cent")],
+    const words = [["ratio", qsTr("Ratio")], ["width", qsTr("Width and height")], ["percent", qsTr("Percentage")],
                    ["trim", qsTr("Pixels")]];
-    const offset =
-        () => [number(qsTr("To the right"), pairAt(operation, "offset", 0), [-MOST_PIXELS, MOST_PIXELS], 0, "px"),
-               number(qsTr("Down"), pairAt(operation, "offset", 1), [-MOST_PIXELS, MOST_PIXELS], 0, "px")];
+    const both = [-MOST_PIXELS, MOST_PIXELS];
+    const offset = () => [number(qsTr("Offset to the right"), pairAt(operation, "offset", 0), both, 0, "px"),
+                          number(qsTr("Offset downward"), pairAt(operation, "offset", 1), both, 0, "px")];
     return [choice(qsTr("By"), { get: by.get, set: choose }, words)].concat(
         own[key](), positionOrAttention(operation),
         operation.position === ATTENTION ? []
-                                         : optional(qsTr("Moved from there"), operation, "offset", [0, 0], offset));
+                                         : optional(qsTr("Offset from there"), operation, "offset", [0, 0], offset));
 }
 
 function turnFields(operation) {
@@ -164,14 +164,14 @@ function roundFields(operation) {
     };
     const radius = shape.get() === "rectangle"
         ? [lengthOf(operation, qsTr("Radius"), keyed(operation, "radius", undefined), true)] : [];
-    const band = () => [lengthOf(operation, qsTr("Width of the band"), bandKey(operation, "width")),
-                        color(qsTr("Colour of the band"), bandKey(operation, "color"))];
+    const band = () => [lengthOf(operation, qsTr("Border width"), bandKey(operation, "width")),
+                        color(qsTr("Border colour"), bandKey(operation, "color"))];
     return [choice(qsTr("Shape"), { get: shape.get, set: choose },
                    [["rectangle", qsTr("Rectangle")], ["circle", qsTr("Circle")], ["ellipse", qsTr("Ellipse")]])]
         .concat(radius,
-                optional(qsTr("Colour outside"), operation, "color", WHITE,
+                optional(qsTr("Fill colour"), operation, "color", WHITE,
                          () => [color(qsTr("Colour"), keyed(operation, "color", undefined))]),
-                optional(qsTr("Band along the edge"), operation, "band", { width: 4, color: WHITE }, band),
+                optional(qsTr("Border inside the picture"), operation, "band", { width: 4, color: WHITE }, band),
                 unitFields(operation));
 }
 
@@ -185,7 +185,7 @@ function bandKey(operation, key) {
 
 function backgroundFields(operation) {
     const under = oneOf(operation, ["color", "pattern"], { color: WHITE, pattern: "" });
-    return [choice(qsTr("Under it"), under, [["color", qsTr("A colour")], ["pattern", qsTr("A pattern")]]),
+    return [choice(qsTr("Under the picture"), under, [["color", qsTr("A colour")], ["pattern", qsTr("A pattern")]]),
             under.get() === "color" ? color(qsTr("Colour"), keyed(operation, "color", undefined))
                                     : file(qsTr("Pattern"), keyed(operation, "pattern", undefined), PICTURE_INPUT)];
 }

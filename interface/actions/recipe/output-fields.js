@@ -42,7 +42,7 @@ function qualityFields(output) {
         }
     };
     const fields = WITH_LOSSLESS.indexOf(type) >= 0
-                       ? [check(type === "original" ? qsTr("Lossless, where the type can be") : qsTr("Lossless"),
+                       ? [check(type === "original" ? qsTr("Lossless if the type allows it") : qsTr("Lossless"),
                                 { get: lossless.get, set: choose })]
                        : [];
     if (WITH_QUALITY.indexOf(type) < 0 || lossless.get()) {
@@ -56,7 +56,7 @@ function qualityFields(output) {
 function sizeFields(output) {
     const limit = { get: () => output.maxBytes / KILOBYTE,
                     set: (value) => { output.maxBytes = Math.max(1, Math.round(value * KILOBYTE)); } };
-    return optional(qsTr("Limit the size of the file"), output, "maxBytes", KILOBYTE * KILOBYTE,
+    return optional(qsTr("Limit the file size"), output, "maxBytes", KILOBYTE * KILOBYTE,
                     () => [number(qsTr("At most"), limit, [1, MOST_KILOBYTES], 0, "kB")]);
 }
 
@@ -78,8 +78,8 @@ function metadataFields(output) {
 }
 
 function takenField(output) {
-    return choice(qsTr("If it exists"), keyed(output, "ifTaken", "number"),
-                  [["number", qsTr("Number the new file")], ["replace", qsTr("Replace")], ["skip", qsTr("Skip")],
+    return choice(qsTr("If the file exists"), keyed(output, "ifTaken", "number"),
+                  [["number", qsTr("Keep both (add a number)")], ["replace", qsTr("Replace")], ["skip", qsTr("Skip")],
                    ["current", qsTr("Skip if up to date")]]);
 }
 
@@ -96,10 +96,10 @@ export function outputFields(output) {
         profileFields(output, "profile", qsTr("Keep")), metadataFields(output),
         optional(qsTr("Set the resolution"), output, "dpi", 300,
                  () => [number(qsTr("Resolution"), keyed(output, "dpi", undefined), [1, 10000], 0, "dpi")]),
-        WITHOUT_TRANSPARENCY.indexOf(type) < 0 ? [] : [color(qsTr("Under transparent parts"),
+        WITHOUT_TRANSPARENCY.indexOf(type) < 0 ? [] : [color(qsTr("Transparency"),
                                                              keyed(output, "matte", "#ffffff"))],
         [
-            check(qsTr("Keep the date of the file"),
+            check(qsTr("Keep the file date"),
                   { get: () => dates.get() === "keep", set: (on) => dates.set(on ? "keep" : "now") }),
             takenField(output)
         ]);

@@ -51,10 +51,11 @@ export function nameProblem(name, kept) {
         return qsTr("Enter a name.");
     }
     if (name.indexOf("/") >= 0 || name.startsWith(".")) {
-        return qsTr("A name has no slash and does not begin with a dot.");
+        return qsTr("A name cannot contain a slash or begin with a dot.");
     }
     const others = allRecipes().filter((recipe) => recipe.path !== kept).map((recipe) => recipe.name);
-    return new FolderNames({ names: others }).isFree(name) ? "" : fill(qsTr("There is a recipe “%1” already."), name);
+    return new FolderNames({ names: others }).isFree(name)
+        ? "" : fill(qsTr("A recipe named “%1” already exists."), name);
 }
 
 /** The name itself, or with a number where it is taken. */
@@ -71,7 +72,7 @@ export function readRecipe(path) {
     }
     if (parsed(text) === null) {
         const reason = recipes.problemOf(text, splitPath(path).folder, false);
-        return { text: "", problem: fill(qsTr("%1 is no recipe: %2"), splitPath(path).name, reason) };
+        return { text: "", problem: fill(qsTr("%1 is not a recipe: %2"), splitPath(path).name, reason) };
     }
     return { text: text, problem: "" };
 }
@@ -86,5 +87,5 @@ export function writeRecipe(path, recipe, from) {
 /** Into the user's trash. Answers the problem. */
 export function trashRecipe(path) {
     return cNSFileHandling.hTrashFile(path) === "OK"
-        ? "" : fill(qsTr("%1 could not be put into the trash."), splitPath(path).name);
+        ? "" : fill(qsTr("%1 could not be moved to the trash."), splitPath(path).name);
 }

@@ -226,8 +226,8 @@ export class RecipeHead {
     remove() {
         const name = this.name();
         const answer = shell.ask({
-            title: qsTr("Delete recipe"), text: fill(qsTr("Put the recipe “%1” into the trash?"), name),
-            detail: qsTr("What it does stays as it is shown now."),
+            title: qsTr("Delete recipe"), text: fill(qsTr("Move the recipe “%1” to the trash?"), name),
+            detail: qsTr("Your current settings are kept."),
             buttons: [qsTr("Delete"), qsTr("Keep")], initial: 1, escape: 1, check: "",
         });
         if (answer.button === 0) {

@@ -31,7 +31,7 @@ export function validate(settings) {
         return [unread];
     }
     if (!isAllowed(settings)) {
-        return [qsTr("Look at what this recipe reads and writes, and allow it first.")];
+        return [qsTr("Check what this recipe reads and writes, and allow it first.")];
     }
     const problem = recipes.problemOf(settings.text, settings.folder, true);
     return problem === "" ? [] : [problem];

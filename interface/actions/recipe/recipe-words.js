@@ -13,12 +13,12 @@ export function operationWords() {
     return {
         resize: {
             title: qsTr("Resize"),
-            explanation: qsTr("By a side, a percentage, megapixels, or into a box"),
+            explanation: qsTr("To a side, a percentage, megapixels or a box"),
             words: qsTr("scale small large pixels size")
         },
         crop: {
             title: qsTr("Crop"),
-            explanation: qsTr("To a ratio, a size, or less at the edges"),
+            explanation: qsTr("To a ratio or size, or trim the edges"),
             words: qsTr("cut trim ratio")
         },
         turn: {
@@ -26,19 +26,19 @@ export function operationWords() {
             explanation: qsTr("By any angle, clockwise"),
             words: qsTr("turn angle straighten")
         },
-        flip: { title: qsTr("Flip"), explanation: qsTr("Left and right, or top and bottom"), words: qsTr("mirror") },
+        flip: { title: qsTr("Flip"), explanation: qsTr("Horizontally or vertically"), words: qsTr("mirror") },
         round: {
             title: qsTr("Round corners"),
-            explanation: qsTr("Rectangle, circle, ellipse, with a band"),
+            explanation: qsTr("Rectangle, circle or ellipse, with a border"),
             words: qsTr("radius circle")
         },
         background: {
             title: qsTr("Background"),
-            explanation: qsTr("Under transparent parts"),
+            explanation: qsTr("Fills transparent parts"),
             words: qsTr("colour pattern transparent")
         },
         frame:
-            { title: qsTr("Frame"), explanation: qsTr("Around the picture, on all sides"), words: qsTr("border edge") },
+            { title: qsTr("Frame"), explanation: qsTr("Around the picture on all sides"), words: qsTr("border edge") },
         watermark: {
             title: qsTr("Watermark"),
             explanation: qsTr("A text or a picture over the picture"),
@@ -46,7 +46,7 @@ export function operationWords() {
         },
         sharpen: {
             title: qsTr("Sharpen"),
-            explanation: qsTr("For viewing at the size at that point"),
+            explanation: qsTr("For the size at that point"),
             words: qsTr("crisp unsharp")
         },
         profile: {
@@ -95,10 +95,10 @@ function cropText(operation) {
     return {
         ratio: () => String(operation.ratio),
         width: () => operation.width + " × " + operation.height + " " + unitOf(operation),
-        percent: () => fill(qsTr("%1 % less"), operation.percent),
-        trim: () => fill(qsTr("%1 px less"), operation.trim)
+        percent: () => fill(qsTr("Trim %1%"), operation.percent),
+        trim: () => fill(qsTr("Trim %1 px"), operation.trim)
     }[key]() +
-           (operation.position === ATTENTION ? " · " + qsTr("where the eye is drawn") : "");
+           (operation.position === ATTENTION ? " · " + qsTr("at the focus of attention") : "");
 }
 
 function fileText(path) {

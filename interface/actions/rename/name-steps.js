@@ -166,7 +166,7 @@ export function stepProblems(step) {
         return step.pattern === "" ? [qsTr("Enter a text.")] : tokens.problems(step.pattern);
     }
     if (step.kind === "split" && !/^\s*(-?[1-9][0-9]*\s*(,\s*-?[1-9][0-9]*\s*)*)?$/.test(step.pieces)) {
-        return [qsTr("Write numbers of pieces with commas between them, such as 2,1; -1 is the last.")];
+        return [qsTr("Enter piece numbers separated by commas, such as 2,1. Use -1 for the last piece.")];
     }
     return [];
 }

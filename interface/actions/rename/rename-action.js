@@ -24,6 +24,6 @@ export const rename = {
                                                            : qsTr("Rename %n Files", "", number)),
     done: (number, settings) => (areFolders(settings) ? qsTr("%n folders renamed", "", number)
                                                       : qsTr("%n files renamed", "", number)),
-    undone: (number, settings) => (areFolders(settings) ? qsTr("%n folders have their old names again", "", number)
-                                                        : qsTr("%n files have their old names again", "", number)),
+    undone: (number, settings) => (areFolders(settings) ? qsTr("%n names restored", "", number)
+                                                        : qsTr("%n names restored", "", number)),
 };

@@ -12,9 +12,9 @@ function fieldsOf(step) {
     const counter = step.kind === "text" && tokens.parts(step.pattern).some((part) => part.token === "counter");
     const tables = {
         text: () => [text("pattern", qsTr("Text"))].concat(counter ? [
-            ["firstNumber", "counterStep", qsTr("Count by")],
-            ["firstChoice", "counterScope", qsTr("Begin anew"),
-             [["run", qsTr("Never")], ["folder", qsTr("In each folder")], ["date", qsTr("On each date taken")]]],
+            ["firstNumber", "counterStep", qsTr("Increment")],
+            ["firstChoice", "counterScope", qsTr("Restart counter"),
+             [["run", qsTr("Never")], ["folder", qsTr("For each folder")], ["date", qsTr("For each date taken")]]],
         ] : []),
         "case": () =>
             [["firstChoice", "mode", qsTr("Case"),
@@ -23,20 +23,20 @@ function fieldsOf(step) {
         insert: () => [text("text", qsTr("Insert")), ["firstNumber", "position", qsTr("After")],
                        ["firstChoice", "from", qsTr("Characters"),
                         [["start", qsTr("from the start")], ["end", qsTr("from the end")]]]],
-        around: () => [text("before", qsTr("Before")), ["secondText", "after", qsTr("Behind")]],
+        around: () => [text("before", qsTr("Before")), ["secondText", "after", qsTr("After")]],
         strip: () =>
             [["firstNumber", "count", qsTr("Characters")],
              ["firstChoice", "side", qsTr("From"), [["fLeft", qsTr("the left")], ["fRight", qsTr("the right")]]]],
         section: () => [["firstNumber", "start", qsTr("From the")], ["secondNumber", "length", qsTr("Characters")]],
         split: () =>
-            [text("separator", qsTr("Split at")), ["secondText", "pieces", qsTr("Pieces")],
-             ["thirdText", "joiner", qsTr("Join by")]],
+            [text("separator", qsTr("Separator")), ["secondText", "pieces", qsTr("Pieces")],
+             ["thirdText", "joiner", qsTr("Join with")]],
         letters: () =>
             [["firstChoice", "keep", qsTr("Keep"), [["NA", qsTr("letters and digits")], ["OL", qsTr("letters only")]]]],
         spaces: () => [],
         fold: () => [text("other", qsTr("Others"))],
         utf8: () => [["firstChoice", "form", qsTr("Accents"),
-                      [["NFC", qsTr("as one letter (NFC)")], ["NFD", qsTr("apart (NFD)")]]]],
+                      [["NFC", qsTr("as one letter (NFC)")], ["NFD", qsTr("as separate marks (NFD)")]]]],
         only: () => [["firstChoice", "where", qsTr("Names that"),
                       [["contains", qsTr("contain")], ["begins", qsTr("begin with")], ["ends", qsTr("end with")]]],
                      text("text", qsTr("Text"))],
@@ -181,7 +181,7 @@ export class RenameCard {
     explain(before, after, short) {
         const problems = stepProblems(this.step);
         const tooShort = this.step.on && short > 0
-            ? [qsTr("%n names are too short for this and stay as they are.", "", short)] : [];
+            ? [qsTr("%n names are too short and stay unchanged.", "", short)] : [];
         this.say("cardExample", this.step.on && problems.length === 0 && after !== undefined && after !== before ? before + " → " + after : "");
         this.say("cardProblem", problems.concat(tooShort).join("\n"));
     }

@@ -64,7 +64,7 @@ export class RenamePane extends Pane {
         const most = this.narrow.reduce((digits, each) => Math.max(digits, each.digits), 0);
         this.form.control("widthBar").visible = most > 0;
         this.form.control("widthNote").text = most > 0
-            ? qsTr("The counter runs past its width: the last number has %n digits.", "", most) : "";
+            ? qsTr("The counter needs more digits: the last number has %n.", "", most) : "";
         this.form.control("widenCounter").text = qsTr("Use %n Digits", "", Math.max(most, OFFERED_DIGITS));
     }
 
@@ -131,7 +131,7 @@ export class RenamePane extends Pane {
         this.form.control("steps").visible = steps.length > 0;
         this.form.control("addStep").enabled = steps.length < rename.MOST_STEPS;
         this.form.control("renameNote").text = steps.length < rename.MOST_STEPS
-            ? "" : qsTr("A chain can have up to 30 steps.");
+            ? "" : qsTr("You can use up to 30 steps.");
         this.form.control("renameNote").visible = steps.length >= rename.MOST_STEPS;
         this.form.arrangeTabs();
     }
@@ -224,7 +224,7 @@ export class RenamePane extends Pane {
         this.photo = photo;
         const messages = rename.validate(this.settings);
         this.say("renameProblem",
-                 messages.length > 0 ? qsTr("A step needs attention: names are not made before it is right.") : "");
+                 messages.length > 0 ? qsTr("Fix the marked step to see the new names.") : "");
         this.explain();
         return null;
     }

@@ -18,7 +18,7 @@ export const presets = {
          chain([["fold", { other: "-" }], ["case", { part: "both" }], ["replace", { search: " ", replacement: "-" }],
                                            ["replace", { search: "_", replacement: "-" }]])],
         [qsTr("Lower-case extensions"), chain([["case", { part: "extension" }]])],
-        [qsTr("Date in front"), chain([["text", { pattern: "{taken:yyyy-MM-dd} {name}" }]])],
-        [qsTr("Number behind"), chain([["text", { pattern: "{name} {counter:001}" }]])],
+        [qsTr("Date prefix"), chain([["text", { pattern: "{taken:yyyy-MM-dd} {name}" }]])],
+        [qsTr("Number suffix"), chain([["text", { pattern: "{name} {counter:001}" }]])],
     ],
 };

@@ -42,8 +42,8 @@ export function validate(settings) {
 }
 
 function missingWords(token) {
-    const dates = { taken: qsTr("no date taken"), created: qsTr("no date of creation"),
-                    changed: qsTr("no date of change") };
+    const dates = { taken: qsTr("no date taken"), created: qsTr("no date created"),
+                    changed: qsTr("no date changed") };
     return dates[token] || fill(qsTr("no value for “%1”"), tokens.words(token));
 }
 
@@ -70,7 +70,7 @@ function cautionOf(made) {
 function notesOf(made, oldName) {
     const notes = [];
     if (made.cut === "mark") {
-        notes.push(qsTr("a letter and its accent are parted"));
+        notes.push(qsTr("separates a letter from its accent"));
     }
     const risk = made.name === oldName ? "" : riskOf(made.name);
     return risk === "" ? notes : notes.concat([risk]);
@@ -87,7 +87,7 @@ function companion(folder, other, old, made) {
 function wish(path, made, companions) {
     const old = splitPath(path);
     if (hasHalf(made.name)) {
-        return row({ status: "Failed", reason: qsTr("a character would be cut in two"), shown: "–" });
+        return row({ status: "Failed", reason: qsTr("would split a character"), shown: "–" });
     }
     return row({ to: joinPath(old.folder, made.name), shown: made.name === "" ? "–" : made.name,
                  caution: cautionOf(made), notes: notesOf(made, old.name),

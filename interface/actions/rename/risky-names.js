@@ -11,14 +11,14 @@ const RISKY = /[\\:*?"<>|\x00-\x1f\x7f]|^ |[ .]$/;
 export function riskOf(name) {
     const found = RISKY.exec(name);
     if (found === null) {
-        return DEVICES.test(name) ? fill(qsTr("other systems keep the name %1 for themselves"), name) : "";
+        return DEVICES.test(name) ? fill(qsTr("other systems reserve the name %1"), name) : "";
     }
     if (SIGNS.indexOf(found[0]) >= 0) {
-        return fill(qsTr("other systems do not take %1"), found[0]);
+        return fill(qsTr("other systems do not allow %1"), found[0]);
     }
     if (found[0] !== " " && found[0] !== ".") {
-        return qsTr("it has a control character in it");
+        return qsTr("contains a control character");
     }
     return found.index === 0 && name.length > 1
-        ? qsTr("it begins with a blank") : qsTr("other systems take no blank or dot at the end");
+        ? qsTr("starts with a space") : qsTr("other systems do not allow a trailing space or dot");
 }

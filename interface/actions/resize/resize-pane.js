@@ -14,9 +14,9 @@ export class ResizePane extends Pane {
     }
 
     join() {
-        this.form.control("mode").segments = [qsTr("Width"), qsTr("Height"), qsTr("Longest"), "%", qsTr("Box")];
-        const fits = [qsTr("Fit into the box"), qsTr("Fill the box and cut"), qsTr("Stretch to the box"),
-                      qsTr("Pad to the box")];
+        this.form.control("mode").segments = [qsTr("Width"), qsTr("Height"), qsTr("Longest side"), "%", qsTr("Box")];
+        const fits = [qsTr("Fit inside"), qsTr("Fill (crops)"), qsTr("Stretch"),
+                      qsTr("Pad")];
         this.form.setItems("boxFit", fits, resize.BOX_FITS);
         this.form.control("value").maximum = resize.MOST_PIXELS;
         this.segments("mode", "mode", resize.MODES);
@@ -42,7 +42,7 @@ export class ResizePane extends Pane {
     showState() {
         const mode = this.settings.mode;
         const labels = { width: qsTr("Width"), height: qsTr("Height"), longest: qsTr("Longest side"),
-                         percent: qsTr("Per cent"), box: qsTr("Box") };
+                         percent: qsTr("Percentage"), box: qsTr("Box") };
         this.visible(["value"], mode !== "box");
         this.visible(["boxWidth", "boxTimes", "boxHeight", "fitLabel", "boxFit"], mode === "box");
         this.visible(["padLabel", "padHost"], mode === "box" && this.settings.boxFit === "pad");

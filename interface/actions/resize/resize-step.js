@@ -37,8 +37,8 @@ export function describe(settings) {
     const unit = isInPixels ? "" : " " + settings.unit + dpiWords(settings.dpi);
     const size = settings.mode === "box"
         ? settings.boxWidth + "×" + settings.boxHeight : String(settings[settings.mode]);
-    const words = { width: qsTr("width %1"), height: qsTr("height %1"), longest: qsTr("longest %1"),
-                    percent: qsTr("percent %1"), box: qsTr("box %1") };
+    const words = { width: qsTr("width %1"), height: qsTr("height %1"), longest: qsTr("longest side %1"),
+                    percent: qsTr("%1 percent"), box: qsTr("box %1") };
     return fill(words[settings.mode], size + unit);
 }
 

@@ -13,5 +13,5 @@ export const round = onPictures({
     step: step,
     pane: RoundPane,
     presets: presets,
-    startText: (number) => qsTr("Round %n Pictures", "", number),
+    startText: (number) => qsTr("Round the Corners of %n Pictures", "", number),
 });

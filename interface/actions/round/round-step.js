@@ -26,7 +26,7 @@ export function describe(settings) {
     const shapes = { rectangle: fill(qsTr("corners of %1 px"), settings.radius), circle: qsTr("circle"),
                      ellipse: qsTr("ellipse") };
     const background = settings.background ? [fill(qsTr("on %1"), settings.color)] : [];
-    const band = settings.background && settings.band > 0 ? [fill(qsTr("band of %1 px"), settings.band)] : [];
+    const band = settings.background && settings.band > 0 ? [fill(qsTr("border of %1 px"), settings.band)] : [];
     return [shapes[settings.shape]].concat(background, band).join(", ");
 }
 
@@ -41,7 +41,7 @@ export function validate(settings) {
         messages.push(qsTr("Enter a radius from 0 to %1.").replace("%1", String(MOST_RADIUS)));
     }
     if (settings.background && !isWhole(settings.band, MOST_BAND)) {
-        messages.push(qsTr("Enter a width of the band from 0 to %1.").replace("%1", String(MOST_BAND)));
+        messages.push(qsTr("Enter a border width from 0 to %1.").replace("%1", String(MOST_BAND)));
     }
     return messages.concat(outputMessages(settings.output));
 }
@@ -63,7 +63,7 @@ export function plan(photo, settings, services) {
         return refusal;
     }
     if (settings.background && 2 * settings.band >= Math.min(photo.width, photo.height)) {
-        return { status: "Failed", reason: qsTr("the band would cover all of it") };
+        return { status: "Failed", reason: qsTr("the border would cover the whole picture") };
     }
     const planned = planBy(photo, settings, services,
                            () => services.recipes.planOutput(photo.path, recipe(settings)),

@@ -55,8 +55,9 @@ function isCutOff(cut) {
 // What of the file the result is made from, where that is not all of it, and whether it is what was asked for.
 function remarksOn(photo, told) {
     const preview = photo.type === RAW ? [fill(qsTr("preview of %1"), pixels(photo))] : [];
-    return preview.concat(told.leftOut > 0 ? [qsTr("%n further pictures left out", "", told.leftOut)] : [],
-                          isCutOff(told.cut) ? [qsTr("cut off at the picture’s edge")] : []);
+    const smaller = qsTr("smaller than asked for: the frame extends past the edge of the picture");
+    return preview.concat(told.leftOut > 0 ? [qsTr("%n more pictures left out", "", told.leftOut)] : [],
+                          isCutOff(told.cut) ? [smaller] : []);
 }
 
 /**

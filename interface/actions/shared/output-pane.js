@@ -125,7 +125,7 @@ export class OutputPane {
 
     // A chosen type starts with its usual quality: pictures of other types have no quality that it could take over.
     showQuality(type) {
-        const own = type === null ? qsTr("Picture’s own") : qsTr("Usual");
+        const own = type === null ? qsTr("Same as the picture") : qsTr("Standard");
         this.form.setItems("quality", [own].concat(QUALITIES), [OWN].concat(QUALITIES));
         this.form.chooseValue("quality", this.output.ownQuality ? OWN : this.output.quality);
         const hasQuality = type === null || type.hasQuality;
@@ -146,7 +146,7 @@ export class OutputPane {
 
     showDestinations() {
         const chosen = this.output.destination;
-        const texts = [fill(qsTr("Folder “%1” beside it"), chosen.name), qsTr("Folder of the original")];
+        const texts = [fill(qsTr("“%1” folder next to each picture"), chosen.name), qsTr("Folder of the original")];
         const values = ["beside", "source"];
         for (const folder of this.recent) {
             texts.push(shortPath(folder, files.home));
@@ -212,7 +212,7 @@ export class OutputPane {
     showOffer() {
         const isOffered = this.unwritable > 0 && this.output !== null && this.output.fileType === ORIGINAL;
         this.form.control("typeNote").text = isOffered
-            ? qsTr("%n pictures are of a type that is not written.", "", this.unwritable) : "";
+            ? qsTr("%n pictures have a type that cannot be written.", "", this.unwritable) : "";
         this.form.control("typeOfferHost").visible = isOffered;
     }
 

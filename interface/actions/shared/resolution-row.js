@@ -12,7 +12,7 @@ export class ResolutionRow {
         this.pane = pane;
         this.isTyped = false;
         const form = pane.form;
-        form.setItems("resolution", [qsTr("Picture’s own"), qsTr("300 dpi"), qsTr("Other")], CHOICES);
+        form.setItems("resolution", [qsTr("Same as the picture"), qsTr("300 dpi"), qsTr("Other")], CHOICES);
         form.control("resolution").activated.connect(guard("resolution", () => this.choose(form.value("resolution"))));
         pane.number("dpi", "dpi");
     }

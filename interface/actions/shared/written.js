@@ -12,7 +12,7 @@ function nameMessages(pattern) {
         return [qsTr("Enter a name for the results.")];
     }
     const isInOneFolder = tokens.parts(pattern).every((part) => part.text === undefined || part.text.indexOf("/") < 0);
-    return tokens.problems(pattern).concat(isInOneFolder ? [] : [qsTr("A name cannot have “/” in it.")]);
+    return tokens.problems(pattern).concat(isInOneFolder ? [] : [qsTr("A name cannot contain “/”.")]);
 }
 
 function folderMessages(destination) {
@@ -21,7 +21,7 @@ function folderMessages(destination) {
     }
     return destination.kind === "folder"
         ? [qsTr("Choose a folder to save to.")]
-        : [fill(qsTr("“%1” is no name for a folder beside the originals."), destination.name)];
+        : [fill(qsTr("“%1” is not a valid folder name."), destination.name)];
 }
 
 /** Messages on output settings that no run can start with. */

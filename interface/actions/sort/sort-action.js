@@ -25,12 +25,12 @@ function done(number, settings, folders) {
             link: () => qsTr("%n files linked", "", number),
         }[settings.kind]();
         const words = fill(qsTr("%1 into %2"), files, qsTr("%n folders", "", folders.used.length));
-        return folders.made === 0 ? words : words + " · " + qsTr("%n folders made", "", folders.made);
+        return folders.made === 0 ? words : words + " · " + qsTr("%n folders created", "", folders.made);
     }
     return {
         move: () => qsTr("%n files sorted", "", number),
         copy: () => qsTr("%n files copied", "", number),
-        link: () => qsTr("%n links made", "", number),
+        link: () => qsTr("%n links created", "", number),
     }[settings === null ? "move" : settings.kind]();
 }
 
@@ -50,5 +50,5 @@ export const sort = {
     startText: startText,
     fillsFolders: true,
     done: done,
-    undone: (number) => qsTr("%n files put back", "", number),
+    undone: (number) => qsTr("%n files restored", "", number),
 };

@@ -56,14 +56,14 @@ export class SortPane extends Pane {
         this.form.setMenu("sortToken", entries.map((entry) => entry.text), entries.map((entry) => entry.value),
                           guard("sortToken", (token) => this.insert(token)));
         this.form.setItems("sortUndated",
-                           [qsTr("Folder of their own"), qsTr("Use date created"), qsTr("Use date changed"),
-                                           qsTr("Leave where they are")], UNDATED);
+                           [qsTr("Put in folder"), qsTr("Use date created"), qsTr("Use date changed"),
+                                           qsTr("Do not move")], UNDATED);
         this.choice("sortUndated", "undated");
         const name = this.form.control("sortUndatedName");
         name.textEdited.connect(guard("sortUndatedName", () => this.set("undatedName", name.text)));
         this.form.control("sortKind").segments = [qsTr("Move"), qsTr("Copy"), qsTr("Link")];
         this.segments("sortKind", "kind", sort.KINDS);
-        this.form.setItems("sortTaken", [qsTr("Number the file"), qsTr("Skip")], ["number", "skip"]);
+        this.form.setItems("sortTaken", [qsTr("Keep both (add a number)"), qsTr("Skip")], ["number", "skip"]);
         this.choice("sortTaken", "ifTaken");
         this.form.control("sortDestination").activated.connect(guard("sortDestination",
                                                                      () => this.destinationChosen()));
@@ -84,7 +84,7 @@ export class SortPane extends Pane {
         this.visible(["sortUndatedLabel", "sortUndated"], isDated);
         this.visible(["sortUndatedName"], isDated && this.settings.undated === "folder");
         this.say("sortKindNote", { move: "", copy: qsTr("The originals stay where they are."),
-                                   link: qsTr("Links lead to the files where they are now.") }[this.settings.kind]);
+                                   link: qsTr("Links point to the files where they are now.") }[this.settings.kind]);
         this.showExample();
     }
 
@@ -98,7 +98,7 @@ export class SortPane extends Pane {
             values.push("-");
             group.forEach((choice) => { texts.push(choice.text); values.push(choice.value); });
         });
-        const first = chosen === null || chosen[0] === "" ? [[qsTr("Own pattern")], [OWN]] : [[], []];
+        const first = chosen === null || chosen[0] === "" ? [[qsTr("Custom pattern")], [OWN]] : [[], []];
         this.form.setItems("sortLevel1", first[0].concat(texts.slice(first[0].length > 0 ? 0 : 1)),
                            first[1].concat(values.slice(first[0].length > 0 ? 0 : 1)));
         LEVELS.slice(1)
@@ -209,7 +209,7 @@ export class SortPane extends Pane {
         const sorted = foldersFor(prepared(this.settings.pattern), this.photo.path,
                                   this.services.facts.of(this.photo.path), this.settings, 0);
         this.say("sortExample", sorted.stays ? fill(qsTr("%1 has no date and stays."), this.photo.name)
-                                             : fill(qsTr("%1 goes into %2"), this.photo.name,
+                                             : fill(qsTr("%1 → %2"), this.photo.name,
                                                     sorted.folders.join("/")));
     }
 

@@ -47,7 +47,7 @@ export function baseOf(path, destination) {
 // Short, for it stands in a column; which folder that is stands in the one before.
 function undatedText(settings) {
     return { folder: qsTr("no date taken"), created: qsTr("by date created"), changed: qsTr("by date changed"),
-             leave: qsTr("no date taken: stays") }[settings.undated];
+             leave: qsTr("no date taken: not moved") }[settings.undated];
 }
 
 function sizeOf(path, facts, services) {
@@ -57,7 +57,7 @@ function sizeOf(path, facts, services) {
 // The wish of one file that is to go into a folder of the book.
 function wish(path, node, sorted, settings, context) {
     if (node.inTheWay !== "") {
-        return row({ status: "Skipped", reason: fill(qsTr("a file has the name of the folder: %1"), node.inTheWay) });
+        return row({ status: "Skipped", reason: fill(qsTr("a file already has this folder name: %1"), node.inTheWay) });
     }
     const file = splitPath(path);
     const along = context.sidecars.of(path)
@@ -65,7 +65,7 @@ function wish(path, node, sorted, settings, context) {
     return row({ to: joinPath(node.path, file.name), kind: settings.kind, number: settings.ifTaken === "number",
                  skips: settings.ifTaken === "skip", along: along, shown: sorted.folders.join("/"),
                  caution: sorted.isUndated ? undatedText(settings) : "",
-                 notes: sorted.isUndated ? [qsTr("The file states no date on which it was taken.")] : [] });
+                 notes: sorted.isUndated ? [qsTr("The file has no date taken.")] : [] });
 }
 
 function rowFor(path, index, settings, context) {
@@ -79,7 +79,7 @@ function rowFor(path, index, settings, context) {
     const folder = splitPath(path).folder;
     if (settings.destination.kind === "beside" && endsWithFolders(folder, sorted.folders)) {
         return row({ to: path, kind: settings.kind, shown: sorted.folders.join("/"),
-                     notes: [qsTr("It lies in such a folder already.")] });
+                     notes: [qsTr("It is already in such a folder.")] });
     }
     const node = context.book.place(base, sorted.folders);
     const made = wish(path, node, sorted, settings, context);

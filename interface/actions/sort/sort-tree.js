@@ -15,12 +15,12 @@ const AT_ONCE = 200;
 /** "240 files into 12 folders (22 folders will be made, counting parents)". */
 export function summaryText(ready, folders, fresh) {
     if (ready === 0) {
-        return qsTr("No file will go anywhere.");
+        return qsTr("No file will be moved.");
     }
     const words = fill(qsTr("%1 into %2"), qsTr("%n files", "", ready),
                        qsTr("%n folders", "", folders));
     return fresh === 0
-        ? words : fill(qsTr("%1 (%2)"), words, qsTr("%n folders will be made, counting parents", "", fresh));
+        ? words : fill(qsTr("%1 (%2)"), words, qsTr("%n new folders, including parents", "", fresh));
 }
 
 export class SortTree {

@@ -25,7 +25,7 @@ export function levelChoices() {
         [level("{type}", qsTr("File type")), level("{size:class}", qsTr("File size")),
          level("{orientation}", qsTr("Orientation")),
          level("{camera}", qsTr("Camera")), level("{lens}", qsTr("Lens"))],
-        [level("{name:word}", qsTr("Name up to a number")), level("{name:1}", qsTr("First letter")),
+        [level("{name:word}", qsTr("Name up to the first digit")), level("{name:1}", qsTr("First letter")),
          level("{name:3}", qsTr("First 3 letters"))],
     ];
 }
@@ -67,13 +67,13 @@ export function patternProblems(pattern) {
         found.push(qsTr("A folder cannot be called “.” or “..”."));
     }
     if (texts.some((text) => text === "")) {
-        found.push(qsTr("A folder cannot have a name of blanks only."));
+        found.push(qsTr("A folder name cannot consist of spaces only."));
     }
     if (texts.some((text) => text !== null && utf8Length(text) > 255)) {
-        found.push(qsTr("The name of a folder is too long."));
+        found.push(qsTr("A folder name is too long."));
     }
     if (/[\u0000-\u001f\u007f]/.test(pattern)) {
-        found.push(qsTr("A pattern cannot hold control characters."));
+        found.push(qsTr("A pattern cannot contain control characters."));
     }
     return found;
 }
@@ -81,10 +81,10 @@ export function patternProblems(pattern) {
 /** What is wrong with a name for one folder, as sentences. */
 export function folderNameProblems(name) {
     if (name.trim() === "") {
-        return [qsTr("Enter a name for the folder of pictures without a date.")];
+        return [qsTr("Enter a folder name for pictures without a date.")];
     }
     return tokens.folderName(name) === name.trim()
-        ? [] : [qsTr("“%1” cannot be the name of a folder.").replace("%1", name)];
+        ? [] : [qsTr("“%1” is not a valid folder name.").replace("%1", name)];
 }
 
 /** What stands for missing values, in words that name folders: {standIns: by the names of tokens, standIn: for all others}. */

@@ -6,6 +6,18 @@ import { TurnPane } from "./turn-pane.js";
 import { presets } from "./turn-presets.js";
 import * as step from "./turn-step.js";
 
+// What is done to them, in words.
+function startText(number, settings) {
+    const flips = settings.flipHorizontal || settings.flipVertical;
+    if (settings.angle !== 0 && flips) {
+        return qsTr("Rotate and Flip %n Pictures", "", number);
+    }
+    if (flips) {
+        return qsTr("Flip %n Pictures", "", number);
+    }
+    return settings.angle !== 0 ? qsTr("Rotate %n Pictures", "", number) : qsTr("Nothing to do");
+}
+
 export const turn = onPictures({
     name: "turn",
     title: () => qsTr("Rotate & Flip"),
@@ -13,5 +25,5 @@ export const turn = onPictures({
     step: step,
     pane: TurnPane,
     presets: presets,
-    startText: (number) => qsTr("Turn %n Pictures", "", number),
+    startText: startText,
 });

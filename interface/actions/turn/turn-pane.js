@@ -11,9 +11,9 @@ const QUARTERS = { turnLeft: 90, turnRight: -90, turnHalf: 180 };
 // Which way an angle turns, counter-clockwise being positive.
 function senseText(angle) {
     if (angle === 0) {
-        return qsTr("not turned");
+        return qsTr("No rotation");
     }
-    return angle > 0 ? qsTr("↺ to the left") : qsTr("↻ to the right");
+    return angle > 0 ? qsTr("↺ anticlockwise") : qsTr("↻ clockwise");
 }
 
 export class TurnPane extends Pane {

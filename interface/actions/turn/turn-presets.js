@@ -7,8 +7,8 @@ export const presets = {
         StrField11: ["angle", "number"], StrField22: ["flipHorizontal", "flag"], StrField23: ["flipVertical", "flag"],
     }),
     starting: () => [
-        [qsTr("A quarter left"), { angle: 90 }],
-        [qsTr("A quarter right"), { angle: -90 }],
+        [qsTr("90° anticlockwise"), { angle: 90 }],
+        [qsTr("90° clockwise"), { angle: -90 }],
         [qsTr("Upside down"), { angle: 180 }],
         [qsTr("Mirrored"), { angle: 0, flipHorizontal: true }],
     ],

@@ -13,7 +13,7 @@ const RIGHT_ANGLE = 90;
 /** What a new pane shows. The angle is in degrees, counter-clockwise, in tenths. */
 export const defaults = {
     angle: 0, flipHorizontal: false, flipVertical: false,
-    output: usualOutput(ORIGINAL, "", qsTr("Turned")),
+    output: usualOutput(ORIGINAL, "", qsTr("Rotated")),
 };
 
 /** What the output block offers; see the Resize step. */
@@ -21,7 +21,7 @@ export const offer = { types: WRITTEN.map((type) => type.id), quality: true, byR
 
 /** The settings in a few words, for the log. */
 export function describe(settings) {
-    const parts = settings.angle !== 0 ? [fill(qsTr("turn %1°"), settings.angle)] : [];
+    const parts = settings.angle !== 0 ? [fill(qsTr("rotate %1°"), settings.angle)] : [];
     return parts
         .concat(settings.flipHorizontal ? [qsTr("flip horizontally")] : [],
                 settings.flipVertical ? [qsTr("flip vertically")] : []).join(", ");
@@ -51,10 +51,10 @@ export function recipeFor(_photo, settings) {
 function notesFor(settings, planned) {
     const type = madeType(planned.type);
     if (settings.angle % RIGHT_ANGLE === 0) {
-        return planned.lossless ? [qsTr("Turned without loss.")] : [];
+        return planned.lossless ? [qsTr("Rotated without loss.")] : [];
     }
     return [type.alpha ? qsTr("The canvas grows so that the corners fit.")
-                       : qsTr("The canvas grows so that the corners fit; what is beside the picture becomes white.")];
+                       : qsTr("The canvas grows so that the corners fit. The new corners become white.")];
 }
 
 /** What a run would write for one picture, or a final status with its reason. */

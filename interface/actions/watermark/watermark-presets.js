@@ -13,7 +13,7 @@ export const presets = {
     starting: () => [
         [qsTr("Copyright, bottom right"), {}],
         [qsTr("Copyright, dark"), { color: "#000000", opacity: 60 }],
-        [qsTr("Name of the file"), { text: "{name}", position: 6, size: 2.5 }],
+        [qsTr("File name"), { text: "{name}", position: 6, size: 2.5 }],
         [qsTr("Tiled draft"), { text: qsTr("DRAFT"), position: 4, size: 6, margin: 6, angle: 30, opacity: 30,
                                 tile: true }],
     ],

@@ -44,7 +44,7 @@ function textMessages(settings) {
     const messages = tokens.problems(settings.text);
     // A run may be taken up again with some of its pictures, whose numbers would be others.
     if (tokens.parts(settings.text).some((part) => part.token === "counter")) {
-        messages.push(qsTr("A watermark cannot count: leave out {counter}."));
+        messages.push(qsTr("A watermark cannot contain {counter}."));
     }
     if (settings.font !== "" && recipes.fonts().indexOf(settings.font) < 0) {
         messages.push(fill(qsTr("There is no font “%1” on this computer. Choose another."), settings.font));
@@ -58,7 +58,7 @@ function pictureMessages(settings) {
     }
     const name = splitPath(settings.picture).name;
     if (!files.info(settings.picture).exists) {
-        return [fill(qsTr("The picture “%1” is no longer there."), name)];
+        return [fill(qsTr("The picture “%1” no longer exists."), name)];
     }
     return files.storedSize(settings.picture) === null
         ? [fill(qsTr("“%1” cannot be read as a picture."), name)] : [];
@@ -74,9 +74,9 @@ export function validate(settings) {
     const messages = isText ? textMessages(settings) : pictureMessages(settings);
     return messages
         .concat(rangeMessage(isText ? settings.size : settings.pictureSize, 0.1,
-                             qsTr("Enter a size from 0.1 to 100 per cent.")),
-                rangeMessage(settings.margin, 0, qsTr("Enter a margin from 0 to 100 per cent.")),
-                rangeMessage(settings.opacity, 1, qsTr("Enter an opacity from 1 to 100 per cent.")),
+                             qsTr("Enter a size from 0.1% to 100%.")),
+                rangeMessage(settings.margin, 0, qsTr("Enter a margin from 0% to 100%.")),
+                rangeMessage(settings.opacity, 1, qsTr("Enter an opacity from 1% to 100%.")),
                 Math.abs(settings.angle) <= MOST_DEGREES ? [] : [qsTr("Enter an angle from -180 to 180 degrees.")],
                 outputMessages(settings.output));
 }

@@ -44,7 +44,7 @@ export class Workshop {
         this.files.sweep(folder);
         const staging = this.files.makeStaging(folder);
         if (staging === null) {
-            return { problem: qsTr("the folder cannot be written") };
+            return { problem: qsTr("the folder is read-only") };
         }
         this.stagings.set(folder, staging);
         return { staging: staging };
@@ -104,11 +104,11 @@ export function placeResult(from, item, rule, services) {
             return failed(answer.message);
         }
         if (rule === "skip") {
-            return { status: "Skipped", reason: qsTr("a file of this name is there") };
+            return { status: "Skipped", reason: qsTr("file already exists") };
         }
         name = FolderNames.numbered(item.name, number);
     }
-    return failed(qsTr("no free name was found"));
+    return failed(qsTr("no free name found"));
 }
 
 function makeOne(item, step, settings, services, workshop) {

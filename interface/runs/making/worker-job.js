@@ -12,7 +12,7 @@ function sizeWords(size) {
 }
 
 function reasonOf(made) {
-    return made.cause === "vanished" ? qsTr("the picture is no longer there") : made.reason;
+    return made.cause === "vanished" ? qsTr("the picture no longer exists") : made.reason;
 }
 
 class WorkerJob {

@@ -115,7 +115,7 @@ export class RecipePlan extends LivePlan {
     refused() {
         this.ids.filter((id) => !this.isFinal(id)).forEach((id) => {
             this.window.pictures.setPlan(id, "–", "–");
-            this.window.pictures.setStatus(id, "waiting", qsTr("the recipe needs attention"), "");
+            this.window.pictures.setStatus(id, "waiting", qsTr("check the recipe"), "");
         });
     }
 

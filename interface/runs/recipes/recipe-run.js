@@ -92,7 +92,7 @@ export class RecipeRun extends WriteRun {
     endSimulation() {
         const number = this.window.planned.files;
         this.finish(
-            [qsTr("Simulation: %n files would be written", "", number), qsTr("nothing was written")].join(" · "));
+            [qsTr("Dry run: %n files would be written", "", number), qsTr("nothing was written")].join(" · "));
     }
 
     work() {

@@ -13,11 +13,11 @@ function startText(window) {
         return window.action.title();
     }
     if (window.settings.simulation) {
-        return fill(qsTr("Simulate: %1"), window.action.startText(number));
+        return fill(qsTr("Dry Run: %1"), window.action.startText(number, window.settings));
     }
     return planned.originals > 0
-        ? window.action.startText(number) + ", " + qsTr("Replace %n Originals", "", planned.originals)
-        : window.action.startText(number);
+        ? window.action.startText(number, window.settings) + ", " + qsTr("Replace %n Originals", "", planned.originals)
+        : window.action.startText(number, window.settings);
 }
 
 function startNote(window) {

@@ -14,14 +14,14 @@ function row(library) {
 // Pictures come from anywhere, and what reads them may have faults.
 function guardText(active) {
     if (active.callRules === undefined) {
-        return qsTr("No worker that reads pictures is running.");
+        return qsTr("No process that reads pictures is running.");
     }
     const missing = [[active.noNewPrivileges, qsTr("no new privileges")],
                      [active.fileRules, qsTr("file access rules (Landlock)")],
                      [active.callRules, qsTr("system call filter (seccomp)")]];
     const words = (isOn) => missing.filter((each) => each[0] === isOn).map((each) => each[1]).join(", ");
-    return [fill(qsTr("Workers that make pictures are confined by: %1."), words(true) || qsTr("nothing"))]
-        .concat(words(false) === "" ? [] : [fill(qsTr("This system lacks: %1."), words(false))]).join(" ");
+    return [fill(qsTr("Processes that read pictures are confined by: %1."), words(true) || qsTr("nothing"))]
+        .concat(words(false) === "" ? [] : [fill(qsTr("Not available on this system: %1."), words(false))]).join(" ");
 }
 
 export class About {

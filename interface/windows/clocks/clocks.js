@@ -19,7 +19,7 @@ function shiftText(seconds) {
 }
 
 function cameraText(each) {
-    const name = each.camera === "" ? qsTr("No camera stated") : each.camera;
+    const name = each.camera === "" ? qsTr("Unknown camera") : each.camera;
     const parts = [fill(qsTr("%1 · %2"), name, pictures(each.count))].concat(each.shift === 0 ? []
         : [shiftText(each.shift)]);
     return parts.join(" · ");
@@ -33,7 +33,7 @@ export class Clocks {
         this.cameras = [];
         this.chosen = "";
         const control = (name) => this.form.control(name);
-        this.form.setItems("clockDirection", [qsTr("later by"), qsTr("earlier by")], [1, -1]);
+        this.form.setItems("clockDirection", [qsTr("forward by"), qsTr("back by")], [1, -1]);
         control("clockCamera").activated.connect(guard("clock.camera",
                                                        () => this.choose(this.form.value("clockCamera"))));
         control("clockDirection").activated.connect(guard("clock.direction", () => this.take()));

@@ -12,8 +12,8 @@ export function tellCrash() {
     program.forgetCrash();
     const answer = shell.ask({
         title: qsTr("Quorlin ended unexpectedly"),
-        text: qsTr("A fault of its own ended Quorlin the last time. Your originals are not affected."),
-        detail: qsTr("A report was kept on this computer and sent to nobody. It names the version, the action, the picture and the place of the fault."),
+        text: qsTr("An error in Quorlin ended the last session. Your originals are not affected."),
+        detail: qsTr("A report was saved on this computer and not sent. It names the version, the action, the picture and the place of the error."),
         buttons: [qsTr("Copy Report"), qsTr("Close")], initial: 1, escape: 1, check: "",
     });
     if (answer.button === 0) {

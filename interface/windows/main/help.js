@@ -67,7 +67,7 @@ export class Help {
     check(asked) {
         this.asked = this.asked || asked;
         if (asked) {
-            this.window.say(qsTr("Looking for a new version…"));
+            this.window.say(qsTr("Checking for updates…"));
         }
         program.lookForUpdate(guard("update", (fields, problem) => {
             this.found = outcome(fields, problem);
@@ -87,12 +87,12 @@ export class Help {
         if (found.kind === "newer") {
             this.part("version", () => new NewVersion(this.sheets)).open(found.version, found.notes);
         } else if (asked) {
-            this.window.say(found.kind === "current" ? qsTr("This is the newest version.") : this.unanswered());
+            this.window.say(found.kind === "current" ? qsTr("Quorlin is up to date.") : this.unanswered());
         }
     }
 
     unanswered() {
-        return program.hasUpdateHost ? qsTr("Nobody answers where new versions are announced.")
-                                     : qsTr("This installation does not know where new versions are announced.");
+        return program.hasUpdateHost ? qsTr("Could not reach the update server.")
+                                     : qsTr("No update server is set in this installation.");
     }
 }

@@ -30,10 +30,10 @@ function addedText(found, added, words) {
         parts.push(fill(qsTr("%1 added"), words.count(added)));
     }
     if (found.paths.length > added) {
-        parts.push(qsTr("%n were in the list already", "", found.paths.length - added));
+        parts.push(qsTr("%n already in the list", "", found.paths.length - added));
     }
     if (found.along > 0) {
-        parts.push(qsTr("%n files go along", "", found.along));
+        parts.push(qsTr("%n sidecar files", "", found.along));
     }
     if (found.leftOut > 0) {
         parts.push(words.leftOut(found));
@@ -102,7 +102,7 @@ export class Input {
         const names = paths.filter((path) => going.indexOf(path) < 0).map((path) => splitPath(path).name);
         const more = names.length - MOST_NAMED;
         const rest = more > 0 ? [qsTr("and %n more", "", more)] : [];
-        shell.ask({ title: qsTr("Left out here"), text: this.words().hidden(names.length),
+        shell.ask({ title: qsTr("Not shown"), text: this.words().hidden(names.length, this.window.action.title()),
                     detail: names.slice(0, MOST_NAMED).concat(rest).join("\n"),
                     buttons: [qsTr("Close")], initial: 0, escape: 0, check: "" });
     }
@@ -127,7 +127,7 @@ export class Input {
         control("emptyTitle").text = words.title();
         control("emptyText").text = words.text();
         const hidden = this.hiddenCount();
-        control("hiddenNote").text = hidden > 0 ? words.hidden(hidden) : "";
+        control("hiddenNote").text = hidden > 0 ? words.hidden(hidden, this.window.action.title()) : "";
         control("hiddenBar").visible = hidden > 0;
         control("hiddenConvert").visible = this.convertible;
     }
@@ -191,7 +191,7 @@ export class Input {
         if (others.length > 0 || named.length + presets.length === 0) {
             this.addPictureFiles(others);
         } else if (problem === "" && named.length > 0) {
-            this.window.say(qsTr("Recipe opened. Nothing was run."));
+            this.window.say(qsTr("Recipe opened. Nothing has been run."));
         }
     }
 
@@ -259,7 +259,7 @@ export class Input {
     addSome(folder, rule) {
         const found = this.collected([folder]);
         const work = filtered(found, folder, rule, { files: files, facts: this.window.services.facts });
-        this.window.say(qsTr("Looking at %n files…", "", found.listed.length));
+        this.window.say(qsTr("Reading %n files…", "", found.listed.length));
         this.filtering = shell.job();
         this.filtering.start(work, () => undefined, guard("filter", (how, some) => {
             if (how === "done" && this.window.mayAdd()) {
@@ -272,7 +272,7 @@ export class Input {
     addSamples() {
         const folder = program.copySamples();
         if (folder === "") {
-            this.window.say(qsTr("The sample pictures could not be copied into your folder of pictures"));
+            this.window.say(qsTr("The sample pictures could not be copied to your pictures folder"));
         } else {
             this.addPaths([folder]);
         }

@@ -70,7 +70,7 @@ export class ListEstimate {
         this.waiting -= 1;
         const sum = this.waiting > 0 ? -1 : estimated(this.samples);
         if (sum >= 0) {
-            this.text = fill(qsTr("about %1 in all"), files.byteText(sum));
+            this.text = fill(qsTr("about %1 in total"), files.byteText(sum));
             this.shown();
         }
     }

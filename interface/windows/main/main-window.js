@@ -398,8 +398,9 @@ export class MainWindow {
             this.livePlan.stop();
             return this.pageHost.mayLeave();
         }
-        const answer = shell.ask({ title: qsTr("A run is under way"), text: qsTr("Stop the run and close the window?"),
-            detail: qsTr("What is finished stays; nothing half written is left."),
+        const answer = shell.ask({
+            title: qsTr("A run is in progress"), text: qsTr("Stop the run and close the window?"),
+            detail: qsTr("Finished pictures are kept. No half-written file is left behind."),
             buttons: [qsTr("Stop and Close"), qsTr("Keep Running")], initial: 1, escape: 1, check: "" });
         if (answer.button === 0) {
             this.run.abandon();
@@ -449,9 +450,9 @@ export class MainWindow {
         const shown = folders.length > MOST_OPENED ? [commonFolder(folders)] : folders;
         const refused = shown.filter((folder) => !shell.openFolder(folder));
         if (refused.length > 0) {
-            this.sayBeside(fill(qsTr("No file manager opens the folder. It is %1"), refused.join(", ")));
+            this.sayBeside(fill(qsTr("No file manager could open the folder. It is %1"), refused.join(", ")));
         } else if (shown.length < folders.length) {
-            this.sayBeside(fill(qsTr("Opened: %1, which holds the %n folders", "", folders.length), shown[0]));
+            this.sayBeside(fill(qsTr("Opened %1, which contains the %n folders", "", folders.length), shown[0]));
         }
     }
 

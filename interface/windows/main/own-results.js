@@ -37,7 +37,7 @@ export class OwnResults {
 
     show() {
         const count = this.found.paths.length;
-        const text = count === 0 ? "" : qsTr("%n results of earlier runs were left out", "", count);
+        const text = count === 0 ? "" : qsTr("%n results of earlier runs not added", "", count);
         for (const name of ["own", "emptyOwn"]) {
             this.form.control(name + "Bar").visible = count > 0;
             this.form.control(name + "Note").text = text;

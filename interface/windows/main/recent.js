@@ -69,7 +69,7 @@ export class Recent {
         } else if (files.info(path).exists) {
             this.choose(path);
         } else {
-            this.window.say(fill(qsTr("%1 is no longer there"), shortPath(path, files.home)));
+            this.window.say(fill(qsTr("%1 no longer exists"), shortPath(path, files.home)));
             this.set(this.present());
         }
     }

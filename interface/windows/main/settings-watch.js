@@ -5,7 +5,7 @@ import { guard } from "../../lib/guard.js";
 
 /** note(text) is called when a change cannot be written, also if that was so already. */
 export function watchSettings(note) {
-    const tell = () => note(qsTr("Settings cannot be written. What you change holds until you quit."));
+    const tell = () => note(qsTr("Settings cannot be saved. Your changes apply until you quit."));
     shell.settingsNotKept.connect(guard("settings", tell));
     if (!shell.keepsSettings) {
         tell();

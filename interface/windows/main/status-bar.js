@@ -37,7 +37,7 @@ function showFilter(window) {
     const on = window.pictures.problemsOnly;
     window.form.control("filterBar").visible = on;
     window.form.control("filterNote").text = on
-        ? qsTr("Only what failed is shown: %n of the list", "", window.run.problems) : "";
+        ? qsTr("Only failed pictures are shown: %n", "", window.run.problems) : "";
 }
 
 export function showStatusBar(window) {
@@ -56,7 +56,7 @@ export function showStatusBar(window) {
     });
     Object.keys(visible).forEach((name) => { control(name).visible = visible[name]; });
     control("undoButton").text = offer === null ? qsTr("Undo") : offer.text;
-    control("pauseButton").text = run.paused ? qsTr("Continue") : qsTr("Pause");
+    control("pauseButton").text = run.paused ? qsTr("Resume") : qsTr("Pause");
     control("pauseAction").text = control("pauseButton").text;
     control("pauseAction").enabled = visible.pauseButton;
     control("cancelAction").enabled = window.escape.look();

@@ -18,12 +18,12 @@ function obstacle(action, settings) {
     }
     const output = settings.output; // recipes say themselves where results go
     if (output === undefined ? settings.simulation : output.simulation) {
-        return qsTr("Pictures of a watched folder are written at once: turn Simulation off first.");
+        return qsTr("Pictures in a watched folder are written at once: turn the dry run off first.");
     }
     const asks = output !== undefined &&
         (output.ifTaken === "ask" || (output.ifTaken === "replace" && output.destination.kind === "source"));
     return asks
-        ? qsTr("Nobody can be asked while a folder is watched: choose to number or to skip what is there already.") : "";
+        ? qsTr("A watched folder cannot ask: choose to keep both or to skip existing files.") : "";
 }
 
 export class Watching {
@@ -69,8 +69,8 @@ export class Watching {
     start(folder) {
         const window = this.window;
         const answer = watch.start(folder, window.action.name + " " + JSON.stringify(window.settings));
-        const texts = { missing: qsTr("This folder is not there."),
-                        taken: qsTr("This folder is watched for the same by another window or program."),
+        const texts = { missing: qsTr("This folder does not exist."),
+                        taken: qsTr("Another window or program is already watching this folder for the same purpose."),
                         system: fill(qsTr("The folder cannot be watched: %1"), answer.detail) };
         if (answer.code !== "") {
             window.say(texts[answer.code]);
@@ -87,7 +87,7 @@ export class Watching {
     }
 
     folderGone() {
-        this.window.say(fill(qsTr("The folder “%1” is gone and is not watched any more."), this.name));
+        this.window.say(fill(qsTr("The folder “%1” no longer exists and is no longer watched."), this.name));
         this.window.showAll();
     }
 

@@ -59,6 +59,6 @@ export class Manual {
     findNext() {
         const text = this.search.text;
         const found = text === "" || this.view.findNext(text);
-        this.note(found ? "" : fill(qsTr("No page says “%1”."), text));
+        this.note(found ? "" : fill(qsTr("“%1” was not found in the manual."), text));
     }
 }

@@ -26,7 +26,7 @@ function processorWords(number) {
 }
 
 function memoryWords(megabytes) {
-    return megabytes === 0 ? qsTr("all that is free") : fill(qsTr("%1 GB at most"), megabytes / 1024);
+    return megabytes === 0 ? qsTr("all free memory") : fill(qsTr("%1 GB at most"), megabytes / 1024);
 }
 
 export class Preferences {
@@ -54,18 +54,18 @@ export class Preferences {
     }
 
     fillMenus() {
-        this.form.setItems("wishLanguage", [qsTr("As the system")].concat(LANGUAGES.map((each) => each[1])),
+        this.form.setItems("wishLanguage", [qsTr("System")].concat(LANGUAGES.map((each) => each[1])),
                            ["system"].concat(LANGUAGES.map((each) => each[0])));
-        this.form.setItems("wishAppearance", [qsTr("As the system"), qsTr("Light"), qsTr("Dark")],
+        this.form.setItems("wishAppearance", [qsTr("System"), qsTr("Light"), qsTr("Dark")],
                            ["system", "light", "dark"]);
         this.form.setItems("wishTaken",
-                           [qsTr("Number the new file"), qsTr("Replace"), qsTr("Skip"), qsTr("Skip if up to date"),
+                           [qsTr("Keep both (add a number)"), qsTr("Replace"), qsTr("Skip"), qsTr("Skip if up to date"),
                             qsTr("Ask")], TAKEN);
         this.form.setItems("wishLogRows",
-                           [qsTr("the newest 1,000 entries"), qsTr("the newest 10,000 entries"),
-                            qsTr("the newest 100,000 entries")], LOG_ROWS);
+                           [qsTr("the last 1,000 files"), qsTr("the last 10,000 files"),
+                            qsTr("the last 100,000 files")], LOG_ROWS);
         this.form.setItems("wishDestination",
-                           [qsTr("Into a folder beside the originals"), qsTr("Into the folder of the originals")],
+                           [qsTr("A folder next to the originals"), qsTr("The folder of the originals")],
                            DESTINATIONS);
         this.form.setItems("wishMemory", MEMORY.map(memoryWords), MEMORY);
         const numbers = Array(recipes.processors()).fill(0).map((_zero, i) => i + 1);

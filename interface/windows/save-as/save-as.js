@@ -74,7 +74,8 @@ export class SaveAs {
         const id = this.window.pictures.currentId;
         this.photo = id > 0 ? this.window.pictures.photo(id) : null;
         if (this.photo === null || !this.photo.width || this.isBusy()) {
-            this.window.say(this.isBusy() ? qsTr("Wait until the picture is saved") : qsTr("Choose a picture to save"));
+            this.window.say(this.isBusy() ? qsTr("Wait until the picture has been saved.")
+                                          : qsTr("Choose a picture to save."));
             return;
         }
         this.view.showPicture(this.photo.path);

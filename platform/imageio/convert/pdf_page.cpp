@@ -146,7 +146,7 @@ Result<QByteArray> pdfPageOf(const Bitmap &bitmap)
     } catch (const vips::VError &error) {
         return failure(
             ErrorCode::WriteFailed,
-            QCoreApplication::translate("platform", "The page could not be made: %1").arg(takeVipsError(error)));
+            QCoreApplication::translate("platform", "The page could not be created: %1").arg(takeVipsError(error)));
     }
 }
 
@@ -178,7 +178,7 @@ Result<QByteArray> pdfPageOf(const ImageSource &source, std::optional<double> dp
     } catch (const vips::VError &error) {
         return failure(
             ErrorCode::WriteFailed,
-            QCoreApplication::translate("platform", "The page could not be made: %1").arg(takeVipsError(error)));
+            QCoreApplication::translate("platform", "The page could not be created: %1").arg(takeVipsError(error)));
     }
 }
 

@@ -31,7 +31,7 @@ Result<void> fits(const Bitmap &bitmap, FileFormat format)
     if (format != FileFormat::Webp || longest <= longestWebpSide)
         return {};
     return failure(ErrorCode::TooLarge,
-                   QCoreApplication::translate("platform", "A WebP file holds at most %1 pixels on a side, not %2")
+                   QCoreApplication::translate("platform", "A WebP file can have at most %1 pixels on a side, not %2")
                        .arg(longestWebpSide)
                        .arg(longest));
 }

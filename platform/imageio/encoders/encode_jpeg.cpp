@@ -178,7 +178,7 @@ void writePlanes(jpeg_compress_struct &info, JpegPlanes &planes, std::vector<std
 
 tl::unexpected<Error> notMade(const JpegErrorManager &errors)
 {
-    return failure(ErrorCode::WriteFailed, QCoreApplication::translate("platform", "The JPEG could not be made: %1")
+    return failure(ErrorCode::WriteFailed, QCoreApplication::translate("platform", "The JPEG could not be created: %1")
                                                .arg(QString::fromLatin1(errors.message)));
 }
 

@@ -148,9 +148,9 @@ Result<std::shared_ptr<const File>> opened(PictureBytes bytes)
     const std::unique_ptr<QIODevice> device = file->bytes.device();
     if (!device) {
         const bool exists = ::access(encodedPath(file->bytes.path).constData(), F_OK) == 0;
-        return failure(ErrorCode::NotFound,
-                       text("Cannot read %1: %2")
-                           .arg(file->name(), exists ? text("no permission") : text("there is no such file")));
+        return failure(
+            ErrorCode::NotFound,
+            text("Cannot read %1: %2").arg(file->name(), exists ? text("no permission") : text("no such file")));
     }
     const QByteArray head = device->read(contentHeadBytes);
     if (const QString problem = readProblemOf(*device); !problem.isEmpty())
@@ -381,7 +381,7 @@ Result<Bitmap> ImageSource::decodeFor(QSize size, Scaling scaling, Forms forms) 
     const QSize wanted = turned(size, m_file->orientation);
     if (wanted.width() < 1 || wanted.height() < 1)
         return failure(ErrorCode::InvalidValue,
-                       text("No picture of %1 x %2 pixels can be made").arg(size.width()).arg(size.height()));
+                       text("A picture of %1 × %2 pixels cannot be made").arg(size.width()).arg(size.height()));
     try {
         initVips();
         const LoadOptions load = loadOptionsFor(*m_file, wanted);
@@ -391,7 +391,7 @@ Result<Bitmap> ImageSource::decodeFor(QSize size, Scaling scaling, Forms forms) 
             image = withWholeEdges(image, m_file->storedSize, shrink);
         if (!fitsMemoryBudget(wanted.width(), wanted.height(), image.bands(), bytesPerComponent(image)))
             return failure(ErrorCode::TooLarge,
-                           text("No picture of %1 x %2 pixels can be made").arg(size.width()).arg(size.height()));
+                           text("A picture of %1 × %2 pixels cannot be made").arg(size.width()).arg(size.height()));
         const QSize decoded(image.width(), image.height());
         const QSize made = scaling == Scaling::Exact ? wanted : decoded;
         if (const auto left = memoryIsLeftToDecode(*m_file, image, {made, m_file->orientation > 1}); !left)

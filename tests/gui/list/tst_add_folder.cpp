@@ -96,7 +96,7 @@ void TestAddFolder::allOfAFolderIsAdded()
     });
     QCOMPARE(m_driver->pictures().count(), 4);
     QCOMPARE(m_driver->text("statusText"),
-             QStringLiteral("4 pictures added · 2 files are not pictures that can be taken"));
+             QStringLiteral("4 pictures added · 2 files were not added: they are not supported pictures."));
 }
 
 void TestAddFolder::foldersInsideAreLeftOut()

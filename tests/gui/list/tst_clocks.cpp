@@ -97,7 +97,7 @@ void TestClocks::datesAndCamerasAreColumns()
 
 void TestClocks::countersFollowTheOrderOfDates()
 {
-    m_driver->choose("preset", QStringLiteral("=Number behind"));
+    m_driver->choose("preset", QStringLiteral("=Number suffix"));
     sortByDate(); // before all dates are read
     QVERIFY(waitForOrder(
         {QStringLiteral("b1.jpg"), QStringLiteral("a2.jpg"), QStringLiteral("a1.jpg"), QStringLiteral("b2.jpg")}));
@@ -109,7 +109,7 @@ void TestClocks::countersFollowTheOrderOfDates()
 
 void TestClocks::aShiftedClockChangesOrderAndPlan()
 {
-    m_driver->choose("preset", QStringLiteral("=Number behind"));
+    m_driver->choose("preset", QStringLiteral("=Number suffix"));
     sortByDate();
     QVERIFY(m_driver->waitFor([this] { return newName(0) == QLatin1String("b1 001.jpg"); }));
     QVERIFY(m_driver->pictures().isSettled());

@@ -103,7 +103,7 @@ void TestListNotes::saysThatOnlyWhatFailedIsShown()
     QCOMPARE(button("startButton")->text(), QStringLiteral("Resize 2 Pictures"));
     QCOMPARE(m_driver->pictures().currentPlace(), 1);
     m_driver->click("showFailedButton");
-    QCOMPARE(m_driver->text("filterNote"), QStringLiteral("Only what failed is shown: 1 of the list"));
+    QCOMPARE(m_driver->text("filterNote"), QStringLiteral("Only failed pictures are shown: 1"));
     QVERIFY(part("filterBar")->isVisible());
     QCOMPARE(m_driver->pictures().model()->rowCount(), 1);
     QCOMPARE(m_driver->pictures().currentPlace(), 1);
@@ -176,7 +176,7 @@ void TestListNotes::saysWhereAFolderIsThatNobodyOpens()
     run();
     m_driver->click("openFolderButton");
     QCOMPARE(m_driver->text("statusDetail"),
-             QStringLiteral("No file manager opens the folder. It is %1").arg(path(QStringLiteral("Resized"))));
+             QStringLiteral("No file manager could open the folder. It is %1").arg(path(QStringLiteral("Resized"))));
 }
 
 void TestListNotes::whoBeginsIsOfferedSamples()

@@ -105,7 +105,7 @@ void TestListTools::rowsAreMovedByHand()
     const QStringList moved = {QStringLiteral("b.jpg"), QStringLiteral("c.jpg"), QStringLiteral("a.jpg")};
     m_driver->show("rename");
     pictures(names);
-    m_driver->choose("preset", QStringLiteral("=Number behind"));
+    m_driver->choose("preset", QStringLiteral("=Number suffix"));
     m_driver->pictures().selectRow(0);
     m_driver->trigger("moveUpAction"); // it is the first
     QCOMPARE(shownNames(), names);
@@ -168,7 +168,7 @@ void TestListTools::aCounterThatIsTooNarrowIsWidened()
     for (int i = 0; i < 12; ++i)
         names.append(QStringLiteral("p%1.jpg").arg(i));
     pictures(names);
-    m_driver->choose("preset", QStringLiteral("=Number behind")); // {counter:001}
+    m_driver->choose("preset", QStringLiteral("=Number suffix")); // {counter:001}
     QVERIFY(m_driver->waitFor(
         [this] { return m_driver->cell(11, PictureModel::NewName).endsWith(QLatin1String("012.jpg")); }));
     auto *bar = m_driver->control<QWidget>("widthBar");
@@ -177,8 +177,7 @@ void TestListTools::aCounterThatIsTooNarrowIsWidened()
     auto *pattern = m_driver->control<QLineEdit>("firstText");
     pattern->setText(QStringLiteral("{name} {counter:95}"));
     QVERIFY(m_driver->waitFor([&] { return bar->isVisible(); }));
-    QCOMPARE(m_driver->text("widthNote"),
-             QStringLiteral("The counter runs past its width: the last number has 3 digits."));
+    QCOMPARE(m_driver->text("widthNote"), QStringLiteral("The counter needs more digits: the last number has 3."));
     QCOMPARE(m_driver->control<QAbstractButton>("widenCounter")->text(), QStringLiteral("Use 5 Digits"));
     m_driver->click("widenCounter");
     QVERIFY(m_driver->waitFor(

@@ -67,7 +67,7 @@ void TestTicks::countersPassOverIt()
 {
     m_driver->show("rename");
     pictures({QStringLiteral("a.png"), QStringLiteral("b.png"), QStringLiteral("c.png")});
-    m_driver->choose("preset", QStringLiteral("=Number behind"));
+    m_driver->choose("preset", QStringLiteral("=Number suffix"));
     const auto third = [this](const char *name) {
         return m_driver->waitFor([&] { return m_driver->cell(2, PictureModel::NewName) == QLatin1String(name); });
     };

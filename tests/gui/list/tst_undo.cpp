@@ -133,7 +133,7 @@ void TestUndo::aRunIsUndoneFromAnotherAction()
     QCOMPARE(entry("undoAction"), QStringLiteral("Undo Rename of 3 Files"));
     m_driver->trigger("undoAction");
     QVERIFY(m_driver->waitFor([this] { return onDisk() == m_old; }));
-    QVERIFY(m_driver->waitForSummary().contains(QStringLiteral("3 files have their old names again")));
+    QVERIFY(m_driver->waitForSummary().contains(QStringLiteral("3 names restored")));
 }
 
 void TestUndo::aRunOfAnEarlierStartIsUndoneAfterAQuestion()
@@ -209,7 +209,7 @@ void TestUndo::theLogSaysThatARunIsUnderWay()
     auto *pause = m_driver->control<QAbstractButton>("pauseButton");
     QVERIFY(m_driver->waitFor([pause] { return pause->isVisible(); }));
     m_driver->show("log");
-    QVERIFY(m_driver->text("logEmpty").startsWith(QStringLiteral("A run is under way.")));
+    QVERIFY(m_driver->text("logEmpty").startsWith(QStringLiteral("A run is in progress.")));
     m_driver->trigger("cancelAction");
     auto *table = m_driver->control<QAbstractItemView>("logTable");
     QVERIFY(m_driver->waitFor([table] { return table->isVisible() && table->model()->rowCount() > 0; }));

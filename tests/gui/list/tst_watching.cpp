@@ -106,7 +106,7 @@ void TestWatching::whatNobodyCanBeAskedIsRefused()
     m_driver->control<QAbstractButton>("simulation")->setChecked(true);
     m_driver->trigger("watchAction");
     QVERIFY(!part("watchBar")->isVisible());
-    QVERIFY(m_driver->text("statusText").contains(QLatin1String("turn Simulation off")));
+    QVERIFY(m_driver->text("statusText").contains(QLatin1String("turn the dry run off")));
 }
 
 void TestWatching::saysThatTheFolderIsGone()

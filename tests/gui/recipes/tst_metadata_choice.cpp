@@ -104,7 +104,7 @@ private Q_SLOTS:
                               << "ready";
         QTest::newRow("BMP") << "public.bmp"
                              << "a.bmp"
-                             << "BMP holds no metadata";
+                             << "BMP cannot hold metadata";
     }
 
     void goesIntoOtherTypes()

@@ -206,7 +206,7 @@ private Q_SLOTS:
         const QString folder = m_driver->folder() + QStringLiteral("/.local/share/quorlin/Recipes");
         menu("Save As…");
         m_driver->control<QLineEdit>("recipeName")->setText(QStringLiteral("Web gallery"));
-        QCOMPARE(m_driver->text("recipeNameProblem"), QStringLiteral("There is a recipe “Web gallery” already."));
+        QCOMPARE(m_driver->text("recipeNameProblem"), QStringLiteral("A recipe named “Web gallery” already exists."));
         QVERIFY(!m_driver->control<QAbstractButton>("recipeOk")->isEnabled());
         m_driver->control<QLineEdit>("recipeName")->setText(QStringLiteral("Mine"));
         m_driver->click("recipeOk");
@@ -244,7 +244,7 @@ private Q_SLOTS:
         write("broken.quorlin", "{\"quorlin\": 1, ");
         m_driver->answerPanels({at("broken.quorlin")});
         menu("Import…");
-        QVERIFY2(m_driver->text("recipeProblem").startsWith(QStringLiteral("broken.quorlin is no recipe: ")),
+        QVERIFY2(m_driver->text("recipeProblem").startsWith(QStringLiteral("broken.quorlin is not a recipe: ")),
                  qPrintable(m_driver->text("recipeProblem")));
         QCOMPARE(chosen(), QStringLiteral("out"));
     }
@@ -284,7 +284,7 @@ private Q_SLOTS:
                  QStringLiteral("It reads:\n%1\n\nIt writes to:\n%2\n../Up").arg(logo, elsewhere));
         QVERIFY(!m_driver->control<QAbstractButton>("startButton")->isEnabled());
         QVERIFY(!QFile::exists(elsewhere));
-        QTRY_COMPARE(m_driver->cell(0, PictureModel::Status), QStringLiteral("the recipe needs attention"));
+        QTRY_COMPARE(m_driver->cell(0, PictureModel::Status), QStringLiteral("check the recipe"));
         QCOMPARE(m_driver->cell(0, PictureModel::NewName), QStringLiteral("–"));
         m_driver->click("reachAllow");
         QVERIFY(!m_driver->control<QWidget>("reachBar")->isVisible());
@@ -344,12 +344,12 @@ private Q_SLOTS:
         add("resize");
         field<QDoubleSpinBox>("Length")->setValue(100);
         m_driver->control<QCheckBox>("moveSimulation")->click();
-        run(QStringLiteral("Simulation: 1 file would be written"));
+        run(QStringLiteral("Dry run: 1 file would be written"));
         QVERIFY(!QFile::exists(at("Results")));
         m_driver->control<QCheckBox>("moveSimulation")->click();
         card<QAbstractButton>("Output 1: Original file type", "cardTitle")->click();
         field<QLineEdit>("Folder")->setText(QString());
-        choose("If it exists", QStringLiteral("replace"));
+        choose("If the file exists", QStringLiteral("replace"));
         auto *start = m_driver->control<QAbstractButton>("startButton");
         QTRY_COMPARE(start->text(), QStringLiteral("Run Recipe on 1 Picture, Replace 1 Original"));
         m_driver->answerNextQuestion(QStringLiteral("Cancel"));

@@ -130,7 +130,7 @@ private Q_SLOTS:
         QCOMPARE(problem(), QStringLiteral("Enter a text."));
         QVERIFY(!start->isEnabled());
         type("{counter}");
-        QCOMPARE(problem(), QStringLiteral("A watermark cannot count: leave out {counter}."));
+        QCOMPARE(problem(), QStringLiteral("A watermark cannot contain {counter}."));
         type("Jane");
         QCOMPARE(problem(), QString());
         QVERIFY(start->isEnabled());
@@ -168,7 +168,7 @@ private Q_SLOTS:
         m_driver->choose("markPicture", folder + QStringLiteral("/logo.png"));
         QVERIFY(QFile::remove(folder + QStringLiteral("/logo.png")));
         m_driver->control<QDoubleSpinBox>("markOpacity")->setValue(90);
-        QCOMPARE(m_driver->text("problemText"), QStringLiteral("The picture “logo.png” is no longer there."));
+        QCOMPARE(m_driver->text("problemText"), QStringLiteral("The picture “logo.png” no longer exists."));
         platform::removeUserDefault(QStringLiteral("WatermarksDestination"));
     }
 

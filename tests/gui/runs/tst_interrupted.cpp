@@ -58,7 +58,7 @@ private Q_SLOTS:
         QCOMPARE(names(), newNames());
         QCOMPARE(list(), newNames());
         m_driver->trigger("undoAction");
-        QVERIFY(m_driver->waitForSummary().startsWith(QLatin1String("3 files have their old names again")));
+        QVERIFY(m_driver->waitForSummary().startsWith(QLatin1String("3 names restored")));
         m_driver->trigger("undoAction"); // what was done before the end too, and nobody is asked
         QVERIFY(m_driver->waitFor([this] { return names() == oldNames(); }));
         m_driver->startAgain();
@@ -82,7 +82,7 @@ private Q_SLOTS:
             m_driver->trigger("undoAction");
         else
             m_driver->click("interruptedUndo");
-        QVERIFY(m_driver->waitForSummary().startsWith(QLatin1String("2 files have their old names again")));
+        QVERIFY(m_driver->waitForSummary().startsWith(QLatin1String("2 names restored")));
         QVERIFY(!isAsked());
         QCOMPARE(names(), oldNames());
         QCOMPARE(list(), oldNames());
@@ -124,7 +124,7 @@ private Q_SLOTS:
                  QStringLiteral("Undoing “Rename” was interrupted: 1 of 4 files is done."));
         m_driver->click("interruptedGo");
         QVERIFY(m_driver->waitFor([this] { return names() == oldNames(); }));
-        QVERIFY(m_driver->waitForSummary().startsWith(QLatin1String("3 files have their old names again")));
+        QVERIFY(m_driver->waitForSummary().startsWith(QLatin1String("3 names restored")));
     }
 
 private:

@@ -200,7 +200,7 @@ void WorkerRuns::saysThatAPictureIsGone()
     QVERIFY(QFile::remove(m_pictures + QStringLiteral("/p02.jpg")));
     const QString summary = m_driver->waitForSummary();
     QVERIFY2(summary.startsWith(QStringLiteral("2 pictures done · 1 failed")), qPrintable(summary));
-    QCOMPARE(m_driver->cell(2, PictureModel::Status), QStringLiteral("Failed: the picture is no longer there"));
+    QCOMPARE(m_driver->cell(2, PictureModel::Status), QStringLiteral("Failed: the picture no longer exists"));
 }
 
 /** Said once more, Cancel does not wait for what is in progress. */
@@ -212,7 +212,7 @@ void WorkerRuns::leavesNothingWhereItIsGivenUp()
     m_driver->click("startButton");
     QVERIFY(m_driver->waitFor([this] { return !results().isEmpty(); })); // the folder for unfinished files
     m_driver->trigger("cancelAction");
-    QVERIFY(m_driver->text("statusDetail").startsWith(QStringLiteral("stopping after the pictures in progress")));
+    QVERIFY(m_driver->text("statusDetail").startsWith(QStringLiteral("stopping after the current pictures")));
     m_driver->trigger("cancelAction");
     QVERIFY(m_driver->waitForSummary().startsWith(QStringLiteral("Cancelled:")));
     QVERIFY(!QFileInfo::exists(resultFolder()));
@@ -267,7 +267,7 @@ void WorkerRuns::leavesItsOwnResultsOut()
     const auto rows = [this] { return m_driver->pictures().model()->rowCount(); };
     m_driver->drop({m_pictures});
     QCOMPARE(rows(), 3);
-    QCOMPARE(m_driver->text("ownNote"), QStringLiteral("3 results of earlier runs were left out"));
+    QCOMPARE(m_driver->text("ownNote"), QStringLiteral("3 results of earlier runs not added"));
     m_driver->click("ownAdd");
     QCOMPARE(rows(), 6);
     QVERIFY(!m_driver->control<QWidget>("ownBar")->isVisible());

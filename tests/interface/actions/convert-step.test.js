@@ -114,7 +114,7 @@ test("saysWhatAPictureLosesAndWhatItIs", () => {
     equal(notes("a.heic", "jpeg"), "");
     equal(notes("a.heic", "gif", { losses: ["256 colours"] }), "256 colours");
     equal(convert.plan(source("a.nef", "RAW"), settings("jpeg"), planning("jpeg", { leftOut: 2 })).remarks,
-          ["preview of 400×300", "2 further pictures left out"]);
+          ["preview of 400×300", "2 more pictures left out"]);
 });
 
 test("showsWhatItMakes", () => {

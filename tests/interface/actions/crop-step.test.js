@@ -44,7 +44,7 @@ test("aFrameThatReachesOutsideIsCutAndItsRowSaysSo", () => {
     const settings = settingsOf(crop, { mode: "size", width: 5000, height: 100, position: 4 });
     const planned = crop.plan(picture, settings, recipeServices({ cut: cutTo(4000) }));
     equal([planned.status, planned.cut.part.width, planned.remarks],
-          ["ready", 4000, ["cut off at the picture’s edge"]]);
+          ["ready", 4000, ["smaller than asked for: the frame extends past the edge of the picture"]]);
     equal(crop.plan(picture, settings, recipeServices({ cut: cutTo(5000) })).remarks, []);
 });
 
@@ -94,7 +94,7 @@ test("saysInTheLogWhatWasCut", () => {
     isTrue(crop.describe(settingsOf(crop, { mode: "size", width: 10, height: 5, unit: "cm" })).startsWith("10×5 cm"));
     const typed = { mode: "ratio", ratio: "custom", ratioWidth: 8.5, ratioHeight: 11, position: crop.ATTENTION };
     equal(crop.describe(settingsOf(crop, typed)),
-          "ratio 8.5:11, where the eye is drawn to");
+          "ratio 8.5:11, at the focus of attention");
 });
 
 finish();

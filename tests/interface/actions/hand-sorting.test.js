@@ -202,7 +202,7 @@ test("saysWhatIsWrongWithAFolder", () => {
     const info = files.info.bind(files);
     files.info = (path) => Object.assign(info(path), { writable: path !== "/s/sealed" });
     equal(["/s/Lake", "/none", "/s/file", "/s/sealed"].map((path) => slotProblem(path, files)),
-          ["", "not there", "not a folder", "cannot be written"]);
+          ["", "not found", "not a folder", "read-only"]);
 });
 
 finish();

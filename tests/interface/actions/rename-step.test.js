@@ -61,7 +61,7 @@ test("aSidecarOfTheListGoesWithItsPicture", () => {
     const made = planned(["/p/A.xmp", "/p/A.JPG", "/p/C.xmp"], [newStep("text", { pattern: "x{counter}" })], {}, own);
     equal(made.names, ["x1.xmp", "x1.JPG", "x2.xmp"]);
     equal(made.states.map((state) => state.state), ["along", "ready", "ready"]);
-    equal(made.texts[0], "goes along with A.JPG");
+    equal(made.texts[0], "sidecar file of A.JPG");
 });
 
 test("aPictureStaysWhereItsSidecarMust", () => {
@@ -73,9 +73,9 @@ test("aPictureStaysWhereItsSidecarMust", () => {
 
 // [code, words]
 const REFUSED = [
-    ["taken", "name is taken by a file not in this list"], ["long", "name is too long"],
-    ["gone", "the file is not there any more"],
-    ["locked", "the folder cannot be written"], ["case", "differs only by case or accents from "],
+    ["taken", "name in use by a file that is not in this list"], ["long", "the name is too long"],
+    ["gone", "the file no longer exists"],
+    ["locked", "the folder is read-only"], ["case", "differs only by case or accents from "],
 ];
 
 for (const entry of REFUSED) {
@@ -100,12 +100,12 @@ test("dropsThePlanThatIsMadeNoMore", () => {
 test("saysThatAPlaceIsChanged", () => {
     const row = { along: [], caution: "", notes: [], goesWith: -1 };
     equal(stateOf(row, { status: "ready", code: "aside", other: "/p/d.jpg", to: "/p/d.jpg" }, "").text,
-          "changes places with d.jpg: done in two steps");
+          "swaps names with d.jpg");
 });
 
 test("saysThatANameIsEmpty", () => {
     const made = planned(["/p/abc.jpg"], [newStep("strip", { count: 3 })]);
-    equal([made.names, made.texts], [["–"], ["name is empty"]]);
+    equal([made.names, made.texts], [["–"], ["the name is empty"]]);
 });
 
 test("saysThatNoDateIsThere", () => {
@@ -126,13 +126,13 @@ test("readsNoFactsThatItDoesNotNeed", () => {
 test("neverMakesHalfACharacter", () => {
     const made = planned(["/p/\ud83d\ude00a.jpg"], [newStep("strip", { count: 1 })]);
     equal([made.states[0].state, made.texts[0], readyOf(made.plan)],
-          ["attention", "a character would be cut in two", []]);
+          ["attention", "would split a character", []]);
 });
 
 test("warnsAndStillRenames", () => {
     const made = planned(["/p/a.jpg"], [newStep("around", { after: ":" })]);
     equal([made.states[0].state, made.states[0].kind, made.texts[0]],
-          ["ready", "caution", "ready, but other systems do not take :"]);
+          ["ready", "caution", "ready, but other systems do not allow :"]);
 });
 
 test("foldersKeepTheirDots", () => {

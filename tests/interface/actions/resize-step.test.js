@@ -84,7 +84,7 @@ test("saysWhatIsNotAllOfTheFile", () => {
                                                    recipeServices(told)).remarks;
     equal(remarks({}, {}), []);
     equal(remarks({ type: "RAW" }, {}), ["preview of 400×300"]);
-    equal(remarks({ type: "GIF" }, { leftOut: 2 }), ["2 further pictures left out"]);
+    equal(remarks({ type: "GIF" }, { leftOut: 2 }), ["2 more pictures left out"]);
 });
 
 test("makesTheFileThatItPlanned", () => {

@@ -67,9 +67,9 @@ for (const row of UNDATED) {
 
 test("leavesUndatedFilesWithTheReason", () => {
     const rows = rowsOf({ "/in/a.jpg": "", "/in/b.jpg": DAY }, { undated: "leave" });
-    equal([rows[0].to, rows[0].status, rows[0].reason], ["", "Skipped", "no date taken: stays"]);
+    equal([rows[0].to, rows[0].status, rows[0].reason], ["", "Skipped", "no date taken: not moved"]);
     const state = stateOf(rows[0], null, "");
-    equal([state.state, state.kind, state.text], ["same", "caution", "no date taken: stays"]);
+    equal([state.state, state.kind, state.text], ["same", "caution", "no date taken: not moved"]);
     equal(rows[1].to, "/in/2026/2026-08-14/b.jpg");
 });
 
@@ -89,7 +89,7 @@ test("staysWhereNamesAreTakenIfThatIsTheRule", () => {
     const item = { status: "refused", code: "taken", other: "/in/2026/2026-08-14/a.jpg",
                    to: "/in/2026/2026-08-14/a.jpg" };
     const skipping = stateOf(rowsOf(dates, { ifTaken: "skip" })[0], item, "");
-    equal([skipping.state, skipping.kind, skipping.text], ["same", "caution", "stays: a file of this name is there"]);
+    equal([skipping.state, skipping.kind, skipping.text], ["same", "caution", "stays: file already exists"]);
     equal(stateOf(rowsOf(dates, { ifTaken: "skip" })[0], Object.assign({}, item, { code: "locked" }), "").state,
           "attention");
     equal(stateOf(rowsOf(dates, { ifTaken: "number" })[0], item, "").state, "attention");
@@ -97,7 +97,8 @@ test("staysWhereNamesAreTakenIfThatIsTheRule", () => {
 
 test("tellsAFileThatHasTheNameOfAFolder", () => {
     const rows = rowsOf({ "/in/a.jpg": DAY }, {}, { "/in/2026": 5 });
-    equal([rows[0].to, rows[0].status, rows[0].reason], ["", "Skipped", "a file has the name of the folder: /in/2026"]);
+    equal([rows[0].to, rows[0].status, rows[0].reason],
+          ["", "Skipped", "a file already has this folder name: /in/2026"]);
 });
 
 test("joinsFoldersThatDifferInCaseOnly", () => {

@@ -52,9 +52,9 @@ test("asksOnceAboutAPictureWhileTextIsTyped", () => {
 });
 
 test("asksAgainWhereThereWasAProblem", () => {
-    const services = recipeServices({ problem: "operations[0].text: a text, not nothing" });
+    const services = recipeServices({ problem: "operations[0].text: a text that is not empty" });
     equal(watermark.plan(lake, settings({}), services),
-          { status: "Failed", reason: "operations[0].text: a text, not nothing" });
+          { status: "Failed", reason: "operations[0].text: a text that is not empty" });
     watermark.plan(lake, settings({}), services);
     equal(services.asked.length, 2);
 });
@@ -104,7 +104,7 @@ const MISTAKES = [
     [{ opacity: 0 }, "opacity from 1 to 100"],
     [{ angle: 181 }, "angle from -180 to 180"],
     [{ mark: "picture" }, "Choose a picture."],
-    [{ mark: "picture", picture: "/no/such.png" }, "“such.png” is no longer there"],
+    [{ mark: "picture", picture: "/no/such.png" }, "“such.png” no longer exists"],
     [{ mark: "picture", picture: "/etc/hostname" }, "“hostname” cannot be read as a picture"],
 ];
 

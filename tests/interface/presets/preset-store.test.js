@@ -281,7 +281,7 @@ test("bringsRowsInUnderFreeNames", () => {
 
 test("saysWhyPresetsCannotBeRead", () => {
     const cases = [
-        [{ sealed: true }, /cannot be made/],
+        [{ sealed: true }, /could not be created/],
         [{ exists: true, unreadable: true }, /in use by another program, or damaged/],
         [{ exists: true, unreadable: true, text: "Dear diary" }, /damaged/],
         [{ exists: true, unreadable: true, text: null }, /cannot be read/],
@@ -342,9 +342,9 @@ test("writesStartingPresetsOnce", () => {
     store.list("background");
     writeStartingPresets("background", "/p", store, defaults);
     const written = file.rows.length;
-    store.remove("background", "Black band");
+    store.remove("background", "Black border");
     writeStartingPresets("background", "/p", store, defaults);
-    equal([written - file.rows.length, store.list("background").some((preset) => preset.name === "Black band")],
+    equal([written - file.rows.length, store.list("background").some((preset) => preset.name === "Black border")],
           [1, false]);
 });
 
@@ -356,7 +356,7 @@ test("writesStartingPresetsLaterWhereTheyCannotBeWrittenNow", () => {
     file.sealed = false;
     store.save("resize", "Mirrored", changed("resize", {}));
     writeStartingPresets("turn", "/p", store, defaults);
-    equal(store.list("turn").map((preset) => preset.name), ["A quarter left", "A quarter right", "Upside down"]);
+    equal(store.list("turn").map((preset) => preset.name), ["90° anticlockwise", "90° clockwise", "Upside down"]);
 });
 
 finish();

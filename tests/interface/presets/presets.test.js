@@ -298,7 +298,7 @@ test("takesFromAFileOnlyWhatARowCanBe", () => {
     equal(read.rows, [good]);
     equal(read.problem, "9 of 10 presets in this file cannot be used.");
     for (const text of ["", "x", "null", "[]", "{}", "{\"format\": \"Quorlin presets\"}", "{\"presets\": []}"]) {
-        equal(rowsOfFile(text), { rows: [], problem: "This file holds no presets." }, text);
+        equal(rowsOfFile(text), { rows: [], problem: "This file contains no presets." }, text);
     }
     isTrue(/newer/.test(rowsOfFile(JSON.stringify({ format: "Quorlin presets", version: 2, presets: [] })).problem));
 });

@@ -65,14 +65,14 @@ test("leavesFilesWithSeveralPagesOutUnlessAskedFor", () => {
     const comments = service({ "/p/pages.tif": "old", "/p/a.jpg": "old" });
     const left = drain(writing(comments, ["/p/pages.tif", "/p/a.jpg"], () => "new", false)).values;
     equal(left.map((each) => [each.status, each.pages]), [["Skipped", undefined], ["OK", undefined]]);
-    isTrue(left[0].reason.indexOf("2 further pages") >= 0, left[0].reason);
+    isTrue(left[0].reason.indexOf("2 more pages") >= 0, left[0].reason);
     equal(comments.texts["/p/pages.tif"], "old");
     const back = drain(reverting(comments,
                                  [{ path: "/p/pages.tif", before: "older", after: "old", run: "r1" }])).values[0];
     equal([back.status, comments.texts["/p/pages.tif"]], ["Skipped", "old"]);
     const done = drain(writing(comments, ["/p/pages.tif"], () => "new", true)).values[0];
     equal([done.status, done.pages, comments.texts["/p/pages.tif"]], ["OK", 2, "new"]);
-    isTrue(done.reason.indexOf("2 further pages were taken out") >= 0, done.reason);
+    isTrue(done.reason.indexOf("2 more pages were removed") >= 0, done.reason);
 });
 
 test("countsThePagesAtStake", () => {
@@ -169,7 +169,7 @@ test("logsTheOldAndTheNewComment", () => {
 
 test("saysWhatAnEditWas", () => {
     equal([editWords("a", "b"), editWords("", "b"), editWords("a", "")],
-          ["“a” became “b”", "“b” was written", "“a” was emptied"]);
+          ["“a” became “b”", "“b” was written", "“a” was cleared"]);
 });
 
 test("valuesThatLookLikePlacesStayAsTheyAre", () => {

@@ -7,12 +7,12 @@ function run(counts) {
 }
 
 const ROWS = [
-    [{}, "Rename was interrupted and is ended now."],
-    [{ done: 1 }, "Rename was interrupted and is ended now: 1 item has its new name."],
-    [{ done: 10, finished: 2 }, "Rename was interrupted and is ended now: 12 items have their new names."],
-    [{ takenBack: 1 }, "Rename was interrupted and is ended now: 1 item was taken back."],
+    [{}, "Rename was interrupted and has been cleaned up."],
+    [{ done: 1 }, "Rename was interrupted and has been cleaned up: 1 file has its new name."],
+    [{ done: 10, finished: 2 }, "Rename was interrupted and has been cleaned up: 12 files have their new names."],
+    [{ takenBack: 1 }, "Rename was interrupted and has been cleaned up: 1 file restored."],
     [{ finished: 1, takenBack: 2, left: 30 },
-     "Rename was interrupted and is ended now: 1 item has its new name, 2 items were taken back, the turn of 30 items had not come."],
+     "Rename was interrupted and has been cleaned up: 1 file has its new name, 2 files restored, 30 files not started."],
 ];
 
 for (const row of ROWS) {
@@ -23,7 +23,7 @@ test("saysNothingWhereNothingWasInterrupted", () => equal(recoveredWords([]), nu
 
 test("listsWhatCouldNotBePutRight", () => {
     equal(recoveredWords([run({ problems: ["a is gone"] }), run({ done: 1, problems: ["b too"] })]),
-          { text: "Rename was interrupted and is ended now. Rename was interrupted and is ended now: 1 item has its new name.",
+          { text: "Rename was interrupted and has been cleaned up. Rename was interrupted and has been cleaned up: 1 file has its new name.",
             detail: "a is gone\nb too" });
 });
 

@@ -58,7 +58,7 @@ for (const row of SINGLE) {
         files.byteText = words;
         const free = row[1] === "/c" ? 50 : 100;
         equal(roomProblem(row[0], row[1], row[2], files),
-              row[3] ? "" : "too little room (needs 101 B, " + free + " B are free)");
+              row[3] ? "" : "not enough space (needs 101 B, " + free + " B free)");
     });
 }
 

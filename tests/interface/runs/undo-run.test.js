@@ -31,7 +31,7 @@ const UNDONE = { id: "r1", process: "Rename", action: undoAction(false) };
 const REVERTS = [
     [3, 0, true, "3 comments can be reverted."], [1, 0, true, "1 comment can be reverted."],
     [3, 1, true, "2 comments can be reverted. 1 was reverted before."],
-    [2, 2, false, "All its comments were reverted already."],
+    [2, 2, false, "All its comments have already been reverted."],
     [0, 0, false, "No comment was changed."],
 ];
 for (const row of REVERTS) {
@@ -43,7 +43,7 @@ for (const row of REVERTS) {
 
 test("saysWhatCanBeUndone", () => {
     const words = undoWords(engine(), "r2");
-    equal([words.can, words.button, words.isRedo, words.note], [true, "Redo", true, "2 files can be taken back."]);
+    equal([words.can, words.button, words.isRedo, words.note], [true, "Redo", true, "2 files can be restored."]);
 });
 
 test("saysWhyNot", () => {

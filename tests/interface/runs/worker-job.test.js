@@ -137,7 +137,7 @@ test("oneFailureIsOnePicture", () => {
     world.work.make(4, { width: 21 });
     world.go();
     equal([0, 1, 2, 3, 4, 5].map((i) => world.results[i].reason),
-          ["its reader crashed", "a mistake of ours", "x", "the picture is no longer there",
+          ["its reader crashed", "a mistake of ours", "x", "the picture no longer exists",
            "the result is 21×15 instead of 20×15", "the folder is sealed"]);
     equal([world.isOver, world.files.entries], [true, {}]);
 });

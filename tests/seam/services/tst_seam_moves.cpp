@@ -168,7 +168,7 @@ void TestSeamMoves::saysWhyNothingCanBeDone()
                  "const { run } = moves.begin({ title: 'Rename', items: [move('missing.jpg', 'x.jpg'), move('a.jpg', "
                  "'b.jpg')] });"
                  "report(moves.next(run).message); report(moves.next(run).message); moves.end(run);")),
-             QStringLiteral("\"missing.jpg is not there any more\"\n\"The name b.jpg is taken\""));
+             QStringLiteral("\"missing.jpg no longer exists\"\n\"The name b.jpg is already in use\""));
 }
 
 void TestSeamMoves::takesBackTheLastItem()
@@ -204,8 +204,8 @@ void TestSeamMoves::undoesARunAndTheUndoing()
                               "drive(moves.undo(back.run).run); report(moves.runs().map(x => x.state));"
                               "report(/^\\d{4}-\\d\\d-\\d\\dT/.test(moves.runs()[0].date));")),
         QStringLiteral("{\"can\":true,\"count\":2,\"reason\":\"\"}\n[[\"moveD/a.jpg\",\"moveD/b.jpg\"],[],\"\"]\n"
-                       "{\"can\":false,\"count\":0,\"reason\":\"This run was taken back already\"}\n"
-                       "\"This run was taken back already\"\n"
+                       "{\"can\":false,\"count\":0,\"reason\":\"This run has already been undone\"}\n"
+                       "\"This run has already been undone\"\n"
                        "[[\"Rename\",2,2,\"done\",true],[\"Rename\",2,2,\"undone\",false]]\n"
                        "[\"done\",\"undone\",\"done\"]\ntrue"));
     QCOMPARE(read("a.jpg"), QByteArray("b.jpg"));
@@ -224,7 +224,7 @@ void TestSeamMoves::saysWhatCannotBeUndone()
     QVERIFY(QFile::remove(m_run->pathOf(QStringLiteral("z.jpg"))));
     QCOMPARE(answer(QStringLiteral("const x = moves.undo(moves.runs()[0].id); report(x.problem);"
                                    "report(x.problems.map(p => [p.path, p.code]).sort());")),
-             QStringLiteral("\"Nothing of this run can be taken back any more\"\n"
+             QStringLiteral("\"Nothing in this run can be undone any more\"\n"
                             "[[\"D/b.jpg\",\"taken\"],[\"D/x.jpg\",\"changed\"],[\"D/z.jpg\",\"gone\"]]"));
     QCOMPARE(read("b.jpg"), QByteArray("another one"));
 }

@@ -206,7 +206,7 @@ void TestSeamRecipes::saysWhyNothingCameOfIt_data()
               "Failed: operations[0].font: there is no font \"No Such Font\""},
              {"'FOLDER/a.png', R([{ do: 'watermark', picture: '/no/such.png' }], {})",
               "Failed: operations[0].picture: there is no picture"},
-             {"'FOLDER/a.png', { quorlin: 1, outputs: [{}, {}] }", "Failed: outputs: one, and no more"},
+             {"'FOLDER/a.png', { quorlin: 1, outputs: [{}, {}] }", "Failed: outputs: exactly one"},
              {"'FOLDER/a.png', R([{ do: 'crop', width: 9, height: 9, offset: [500, 0] }], {})", "Failed: "},
              {"'FOLDER/none.png', R([], {})", "Failed: "},
              {"'FOLDER/missing.png', R([], {})", "Failed: "},

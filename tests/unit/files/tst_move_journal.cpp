@@ -36,8 +36,8 @@ QByteArray head(const QByteArray &id, const QByteArray &undoes, int count = 1)
 
 QByteArray itemText(int index, const QByteArray &from, const QByteArray &to)
 {
-    return "{\"item\":" + QByteArray::number(index) + ",\"deed\":\"move\",\"from\":\"" + from + "\",\"to\":\"" + to +
-           "\"}\n";
+    return "{\"item\":" + QByteArray::number(index) + ",\"operation\":\"move\",\"from\":\"" + from + "\",\"to\":\"" +
+           to + "\"}\n";
 }
 
 } // namespace
@@ -150,15 +150,16 @@ void TestMoveJournal::endsRunsWithNumbersThatCannotBe_data()
     QTest::newRow("a step far away") << item + "{\"steps\":[2000000000,-2147483648,1e300,null,\"x\",0.5]}\n";
     QTest::newRow("steps of none but one") << item + "{\"steps\":[0,-5,-1,0]}\n{\"done\":0,\"path\":\"\"}\n";
     QTest::newRow("an item far away") << QByteArray(
-        "{\"item\":1999999999,\"deed\":\"move\",\"from\":\"/d/a\",\"to\":\"/d/b\"}\n");
+        "{\"item\":1999999999,\"operation\":\"move\",\"from\":\"/d/a\",\"to\":\"/d/b\"}\n");
     QTest::newRow("an item before the first")
-        << QByteArray("{\"item\":-3,\"deed\":\"move\",\"from\":\"/d/a\",\"to\":\"/d/b\"}\n");
+        << QByteArray("{\"item\":-3,\"operation\":\"move\",\"from\":\"/d/a\",\"to\":\"/d/b\"}\n");
     QTest::newRow("a leader of none") << QByteArray(
-        "{\"item\":0,\"deed\":\"move\",\"from\":\"/d/a\",\"to\":\"/d/b\",\"leader\":99}\n"
+        "{\"item\":0,\"operation\":\"move\",\"from\":\"/d/a\",\"to\":\"/d/b\",\"leader\":99}\n"
         "{\"steps\":[-1,0]}\n");
     QTest::newRow("an unknown operation")
-        << QByteArray("{\"item\":0,\"deed\":\"eat\",\"from\":\"/d/a\",\"to\":\"/d/b\"}\n{\"done\":0}\n");
-    QTest::newRow("no places") << QByteArray("{\"item\":0,\"deed\":\"move\"}\n{\"steps\":[-1,0]}\n{\"failed\":0}\n");
+        << QByteArray("{\"item\":0,\"operation\":\"eat\",\"from\":\"/d/a\",\"to\":\"/d/b\"}\n{\"done\":0}\n");
+    QTest::newRow("no places") << QByteArray(
+        "{\"item\":0,\"operation\":\"move\"}\n{\"steps\":[-1,0]}\n{\"failed\":0}\n");
     QTest::newRow("news of none") << item + "{\"steps\":[0]}\n{\"done\":4}\n{\"takenBack\":-1}\n{\"copied\":9}\n";
 }
 

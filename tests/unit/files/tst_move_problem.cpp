@@ -52,7 +52,7 @@ void TestMoveProblem::saysWhatIsWrongWithAName_data()
     QTest::addColumn<QString>("text");
     const std::pair<MoveProblem, const char *> rows[] = {
         {MoveProblem::Taken, "The name a.jpg is taken"},
-        {MoveProblem::Gone, "a.jpg is not there any more"},
+        {MoveProblem::Gone, "a.jpg no longer exists"},
         {MoveProblem::TooLong, "The name a.jpg is too long for this disk"},
         {MoveProblem::Leader, "a.jpg, which it belongs to, keeps its name"},
         {MoveProblem::Damaged, "a.jpg could not be copied correctly"},
@@ -74,11 +74,11 @@ void TestMoveProblem::saysWhyARunCannotBeTakenBack_data()
     QTest::addColumn<QString>("text");
     const std::pair<MoveProblem, const char *> rows[] = {
         {MoveProblem::None, ""},
-        {MoveProblem::UnknownRun, "Nothing is known of this run any more"},
-        {MoveProblem::OpenRun, "This run has not ended yet"},
+        {MoveProblem::UnknownRun, "There is no record of this run"},
+        {MoveProblem::OpenRun, "This run is still in progress"},
         {MoveProblem::EmptyRun, "Nothing was done in this run"},
-        {MoveProblem::TakenBack, "This run was taken back already"},
-        {MoveProblem::Stuck, "Nothing of this run can be taken back any more"},
+        {MoveProblem::TakenBack, "This run has already been undone"},
+        {MoveProblem::Stuck, "Nothing in this run can be undone any more"},
     };
     for (const auto &[problem, text] : rows)
         QTest::addRow("%s.", qPrintable(wordOf(problem))) << problem << QString::fromLatin1(text);

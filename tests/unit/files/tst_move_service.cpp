@@ -143,7 +143,7 @@ void TestMoveService::saysWhyAnItemFailed()
     const QVariant first = m_service->next(id);
     QCOMPARE(field(first, "index"), text("0"));
     QCOMPARE(field(first, "status") + field(first, "code"), text("Failedgone"));
-    QCOMPARE(field(first, "message"), text("missing is not there any more"));
+    QCOMPARE(field(first, "message"), text("missing no longer exists"));
     QCOMPARE(drive(id), QStringList({text("Failedtaken"), text("Skippedsame")}));
 }
 
@@ -192,7 +192,7 @@ void TestMoveService::undoesARun()
     QStringList undone = each(m_service->runs(), "undoes");
     undone.sort(); // both may have begun in one millisecond
     QCOMPARE(undone, QStringList({text(""), id}));
-    QCOMPARE(field(m_service->undo(id), "problem"), text("This run was taken back already"));
+    QCOMPARE(field(m_service->undo(id), "problem"), text("This run has already been undone"));
 }
 
 void TestMoveService::saysWhyARunCannotBeUndone()
@@ -203,7 +203,7 @@ void TestMoveService::saysWhyARunCannotBeUndone()
     m_disk->drop(text("/d/x"));
     const QVariantMap back = m_service->undo(id);
     QVERIFY(!back.contains(text("run")) && !back.contains(text("items")));
-    QCOMPARE(field(back, "problem"), text("Nothing of this run can be taken back any more"));
+    QCOMPARE(field(back, "problem"), text("Nothing in this run can be undone any more"));
     QCOMPARE(each(back.value(text("problems")).toList(), "code"), QStringList{text("gone")});
 }
 

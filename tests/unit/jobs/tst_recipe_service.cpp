@@ -81,7 +81,7 @@ void TestRecipeService::refusesMoreThanOneOutput()
 {
     QVariantMap two = m_half;
     two.insert(key("outputs"), QVariantList{QVariantMap(), QVariantMap()});
-    QCOMPARE(m_service.planOutput(at("a.png"), two).value(key("problem")).toString(), key("outputs: one, and no more"));
+    QCOMPARE(m_service.planOutput(at("a.png"), two).value(key("problem")).toString(), key("outputs: exactly one"));
     QCOMPARE(m_service.make(at("a.png"), two, at("b.jpg")).value(key("outcome")).toString(), key("Failed"));
     QVERIFY(!QFile::exists(at("b.jpg")));
 }

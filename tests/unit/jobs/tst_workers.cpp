@@ -199,7 +199,7 @@ void TestWorkers::givesUpOnePicture_data()
     QTest::addColumn<QString>("reason");
     QTest::newRow("crash") << QStringLiteral("its reader crashed");
     QTest::newRow("nonsense") << QStringLiteral("its reader crashed");
-    QTest::newRow("hang") << QStringLiteral("it takes longer than 1 seconds");
+    QTest::newRow("hang") << QStringLiteral("it took longer than 1 seconds");
     QTest::newRow("memory") << QStringLiteral("it needs more than 300 MB of memory");
 }
 
@@ -310,7 +310,7 @@ void TestWorkers::survivesSignals()
         for (const ReportLine &line : lines) {
             failed += line.status != LineStatus::Ok;
             QVERIFY2(line.status == LineStatus::Ok || line.reason == QLatin1String("its reader crashed") ||
-                         line.reason == QLatin1String("it takes longer than 2 seconds"),
+                         line.reason == QLatin1String("it took longer than 2 seconds"),
                      qPrintable(line.reason));
         }
         // Being stopped costs the picture at once, every other end only the second time.
