@@ -3,7 +3,8 @@
 
 extract  collects the texts of scripts, forms and C++ into FILE.ts.
 check    holds the translations, interface/texts/quorlin_*.ts, against the texts, and the tables of services against each
-         other: nothing is missing, unfinished or unused, and the places for values are the same in every language.
+         other: nothing is missing, unfinished or unused, and the places for values are the same in every language. Words that are
+         not used, and sentences that are too long, are found by phrases.py.
 update   adds the texts that a translation lacks, unfinished, and takes away those that nobody uses.
 
 Needs lupdate of Qt, which cannot read modules: it gets copies of the scripts with "import" and "export" blanked.
@@ -16,6 +17,8 @@ import sys
 import tempfile
 import xml.etree.ElementTree as ElementTree
 from pathlib import Path
+
+import phrases
 
 LANGUAGES = ("en", "nl", "de", "fr")
 ROOMS = ("app", "views", "image", "jobs", "files", "meta", "presets", "text", "platform")
@@ -177,10 +180,23 @@ def check_translation(path, base):
     return problems
 
 
+def check_words(root, texts):
+    """Whether texts say what they say in words that we use."""
+    problems = phrases.faults_of_sources({key: text for key, (text, _, _) in texts.items()})
+    for language in LANGUAGES:
+        path = translation(root, language)
+        if language != "en" and path.exists():
+            made = {key: forms for key, (_, forms, _) in messages(path).items() if forms is not None}
+            problems += phrases.faults_of_translations(language, made)
+        problems += [f"{language}/Localizable.json: says “{phrase}”: {key}" for key, text in (table(root, language, "Localizable") or {}).items()
+                     if isinstance(text, str) for phrase in phrases.found_in(text, language)]
+    return problems + phrases.check_pages(root)
+
+
 def check(root):
     texts, complaints = extracted(root)
     problems, names = check_tables(root)
-    problems += check_keys(root) + check_sentences(root) + [f"lupdate: {line}" for line in complaints]
+    problems += check_keys(root) + check_sentences(root) + check_words(root, texts) + [f"lupdate: {line}" for line in complaints]
     counts = {key: message for key, message in texts.items() if message[2]}
     for language in LANGUAGES:
         problems += check_translation(translation(root, language), counts if language == "en" else texts)

@@ -7037,8 +7037,8 @@
         <translation>Bewertung</translation>
     </message>
     <message>
-        <source>Rating percent</source>
-        <translation>Bewertung in Prozent</translation>
+        <source>Rating in %</source>
+        <translation>Bewertung in %</translation>
     </message>
     <message>
         <source>Recommended exposure index</source>
@@ -8155,7 +8155,7 @@
     </message>
     <message>
         <source>To a side, a percentage, megapixels or a box</source>
-        <translation>Auf eine Seite, Prozent, Megapixel oder einen Rahmen</translation>
+        <translation>Auf Seitenlänge, Prozentsatz, Megapixel oder einen Rahmen</translation>
     </message>
     <message>
         <source>scale small large pixels size</source>
@@ -8892,8 +8892,8 @@
         <translation>längste Seite %1</translation>
     </message>
     <message>
-        <source>%1 percent</source>
-        <translation>%1 Prozent</translation>
+        <source>%1%</source>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>box %1</source>

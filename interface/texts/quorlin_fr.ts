@@ -7037,8 +7037,8 @@
         <translation>Note</translation>
     </message>
     <message>
-        <source>Rating percent</source>
-        <translation>Note en pour cent</translation>
+        <source>Rating in %</source>
+        <translation>Note en %</translation>
     </message>
     <message>
         <source>Recommended exposure index</source>
@@ -8892,7 +8892,7 @@
         <translation>grand côté %1</translation>
     </message>
     <message>
-        <source>%1 percent</source>
+        <source>%1%</source>
         <translation>à %1 %</translation>
     </message>
     <message>

@@ -7037,8 +7037,8 @@
         <translation>Waardering</translation>
     </message>
     <message>
-        <source>Rating percent</source>
-        <translation>Waardering in procent</translation>
+        <source>Rating in %</source>
+        <translation>Beoordeling in %</translation>
     </message>
     <message>
         <source>Recommended exposure index</source>
@@ -8892,8 +8892,8 @@
         <translation>langste zijde %1</translation>
     </message>
     <message>
-        <source>%1 percent</source>
-        <translation>%1 procent</translation>
+        <source>%1%</source>
+        <translation>%1%</translation>
     </message>
     <message>
         <source>box %1</source>

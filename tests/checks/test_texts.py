@@ -153,6 +153,48 @@ class Texts(unittest.TestCase):
         self.assertEqual(self.translated("nl"), {**{key: None for key in WHOLE}, "some-pane: %n files": None, "Window: Title": ["Titel"]})
         self.assertEqual(self.translated("en"), {"some-pane: %n files": ["%n a", "%n b"]})
 
+    def say(self, text, translation="x"):
+        """Puts a text into the form, and its translation into each language."""
+        self.write("interface/window.ui", FORM.replace("Title", text))
+        for language in ("de", "fr", "nl"):
+            rest = {key: made for key, made in WHOLE.items() if key != "Window: Title"}
+            self.translate(language, {**rest, f"Window: {text}": translation, "some-pane: %n files": ["%n a", "%n b"]})
+
+    def test_finds_phrases_that_are_not_used(self):
+        for text in ("Take back the last deed", "It goes along", "Cancelled before its turn", "Written anew", "Standing pictures",
+                     "50 per cent", "Choose a folder please", "This can't be", "It’s done", "Done!", "About 5 %", "Wait..."):
+            self.say(text)
+            self.assert_finds("Window: " + text)
+        for text in ("Date taken", "Sort by Hand", "It becomes 5%", "The picture’s own size", "Rename the indeed"):
+            self.say(text)
+            self.assertEqual(self.check()[0], 0, self.check()[1])
+
+    def test_finds_phrases_of_each_language(self):
+        for translation, language in (("Bitte warten", "de"), ("Das Bild geht mit", "de"), ("Veuillez patienter", "fr"),
+                                      ("5 pour cent", "fr"), ("Foto gaat mee", "nl"), ("In de prullenmand", "nl")):
+            self.say("Wait", translation)
+            self.assert_finds(f"quorlin_{language}.ts: says ")
+        self.table("nl", "Localizable", {"isSave": "%1, alstublieft"})
+        self.assert_finds("nl/Localizable.json: says “alstublieft”: isSave")
+
+    def test_finds_long_sentences(self):
+        self.say("Word " * 24)
+        self.assert_finds("has a sentence of ")
+        self.say(("Word " * 12).strip() + ". " + ("Word " * 12).strip())
+        self.assertEqual(self.check()[0], 0)
+
+    def test_reads_pages_and_texts_between_quotes(self):
+        self.write("docs/manual/crop.md", "# Crop\n\nThe file is written anew. `anew` is not said.\n")
+        self.assert_finds("docs/manual/crop.md: says “anew”")
+        self.write("docs/manual/crop.md", "# Crop\n\n`anew` is not said.\n")
+        self.write("packaging/a.desktop", "[Desktop Entry]\nName=A\nComment=Do one deed\nComment[nl]=Een daad, alstublieft\n")
+        self.assert_finds("packaging/a.desktop: says “deed”", "packaging/a.desktop: says “alstublieft”")
+        (self.root / "packaging/a.desktop").unlink()
+        self.write("app/c.cpp", '// a deed\nconst char *text = "one deed more";\n')
+        self.assert_finds("app/c.cpp: says “deed”: one deed more")
+        self.write("app/c.cpp", '// a deed\nconst char *text = "deed";\n')
+        self.assertEqual(self.check()[0], 0, self.check()[1])
+
     def test_fails_on_an_empty_tree(self):
         shutil.rmtree(self.root / "interface")
         (self.root / "interface").mkdir()

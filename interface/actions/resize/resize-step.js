@@ -38,7 +38,7 @@ export function describe(settings) {
     const size = settings.mode === "box"
         ? settings.boxWidth + "×" + settings.boxHeight : String(settings[settings.mode]);
     const words = { width: qsTr("width %1"), height: qsTr("height %1"), longest: qsTr("longest side %1"),
-                    percent: qsTr("%1 percent"), box: qsTr("box %1") };
+                    percent: qsTr("%1%"), box: qsTr("box %1") };
     return fill(words[settings.mode], size + unit);
 }
 

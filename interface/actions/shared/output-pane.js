@@ -61,7 +61,7 @@ export class OutputPane {
 
     // Nobody knows whether one file of many pictures is up to date.
     showTaken(offer) {
-        const texts = [qsTr("Number the new file"), qsTr("Replace"), qsTr("Skip"), qsTr("Skip if up to date"),
+        const texts = [qsTr("Keep both (add a number)"), qsTr("Replace"), qsTr("Skip"), qsTr("Skip if up to date"),
                        qsTr("Ask")];
         const isOffered = (word) => offer.oneFile !== true || word !== "current";
         this.form.setItems("ifTaken", texts.filter((_text, i) => isOffered(TAKEN[i])), TAKEN.filter(isOffered));
