@@ -50,7 +50,7 @@ export function roomText(disks, byteText) {
     const sum = disks.reduce((bytes, each) => bytes + each.bytes, 0);
     if (tight.length > 0) {
         return { note: "",
-                 problem: fill(qsTr("The files need %1, but only %2 is free for %3."), byteText(tight[0].bytes),
+                 problem: fill(qsTr("The files need %1, but %3 has only %2 free."), byteText(tight[0].bytes),
                                          byteText(tight[0].free), tight[0].folder) };
     }
     if (sum === 0) {

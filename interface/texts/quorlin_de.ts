@@ -8949,8 +8949,8 @@
 <context>
     <name>room</name>
     <message>
-        <source>The files need %1, but only %2 is free for %3.</source>
-        <translation>Die Dateien brauchen %1, aber für %3 sind nur %2 frei.</translation>
+        <source>The files need %1, but %3 has only %2 free.</source>
+        <translation>Die Dateien brauchen %1, aber %3 hat nur %2 frei.</translation>
     </message>
     <message>
         <source>%1 free</source>

@@ -8949,8 +8949,8 @@
 <context>
     <name>room</name>
     <message>
-        <source>The files need %1, but only %2 is free for %3.</source>
-        <translation>Les fichiers demandent %1, mais il ne reste que %2 pour %3.</translation>
+        <source>The files need %1, but %3 has only %2 free.</source>
+        <translation>Les fichiers demandent %1, mais il ne reste que %2 dans %3.</translation>
     </message>
     <message>
         <source>%1 free</source>

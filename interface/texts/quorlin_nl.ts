@@ -8949,8 +8949,8 @@
 <context>
     <name>room</name>
     <message>
-        <source>The files need %1, but only %2 is free for %3.</source>
-        <translation>De bestanden vragen %1, maar voor %3 is maar %2 vrij.</translation>
+        <source>The files need %1, but %3 has only %2 free.</source>
+        <translation>De bestanden hebben %1 nodig, maar %3 heeft maar %2 vrij.</translation>
     </message>
     <message>
         <source>%1 free</source>

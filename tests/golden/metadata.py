@@ -39,7 +39,7 @@ OF_BLOCKS = {"XMPToolkit", "CodedCharacterSet", "ApplicationRecordVersion", "Env
 LEFT_OUT = CHANGED | OF_RAW_FILES | OF_BLOCKS
 # The raw data of the camera are not read, but the picture inside, whose EXIF says less.
 NOT_COMPARED = {"Panasonic.rw2"}
-MAKERS_DATA = "beside EXIF is left out"
+MAKERS_DATA = "outside EXIF is left out"
 
 
 def tags(folder):

@@ -161,11 +161,10 @@ private Q_SLOTS:
         QVERIFY(QFile::copy(picturePath("own/formats/drawing.pdf"), m_folder + QStringLiteral("/a.pdf")));
         m_driver->drop({m_folder});
         QVERIFY(m_driver->waitFor([this] {
-            return m_driver->cell(0, window::PictureModel::Status) ==
-                   QStringLiteral("ready, 1 further picture left out");
+            return m_driver->cell(0, window::PictureModel::Status) == QStringLiteral("ready, 1 more picture left out");
         }));
         run(QStringLiteral("1 picture done"));
-        QCOMPARE(m_driver->cell(0, window::PictureModel::Status), QStringLiteral("OK, 1 further picture left out"));
+        QCOMPARE(m_driver->cell(0, window::PictureModel::Status), QStringLiteral("OK, 1 more picture left out"));
     }
 
     /** The window itself opens none of them. */
@@ -235,7 +234,7 @@ private Q_SLOTS:
     {
         save("a.png");
         m_driver->drop({m_folder});
-        QVERIFY(m_driver->text("targetNote").contains(QStringLiteral("transparent parts get a colour")));
+        QVERIFY(m_driver->text("targetNote").contains(QStringLiteral("Transparent parts get a colour")));
         QVERIFY(m_driver->control<QComboBox>("convertQuality")->isVisible());
         m_driver->choose("target", QStringLiteral("bmp"));
         QVERIFY(!m_driver->control<QComboBox>("convertQuality")->isVisible());

@@ -219,7 +219,7 @@ private Q_SLOTS:
         QCOMPARE(m_driver->text("handDone"), QStringLiteral("In the trash"));
         QCOMPARE(m_driver->control<window::ComparePreview>("handView")->problem(), QStringLiteral("In the trash"));
         key(Qt::Key_1);
-        QVERIFY(m_driver->text("statusText").contains(QStringLiteral("Undo brings it back")));
+        QVERIFY(m_driver->text("statusText").contains(QStringLiteral("Use Undo to restore it")));
         m_driver->show("resize");
         QCOMPARE(m_driver->pictures().count(), 3);
     }
@@ -258,7 +258,7 @@ private Q_SLOTS:
         key(Qt::Key_2);
         QCOMPARE(m_driver->text("handName"), QStringLiteral("a.jpg"));
         QVERIFY(QFile::exists(path("In/a.jpg")));
-        QVERIFY(m_driver->text("statusText").startsWith(QStringLiteral("Gone: not there")));
+        QVERIFY(m_driver->text("statusText").startsWith(QStringLiteral("Gone: not found")));
         QVERIFY(!QFile::exists(path("Gone")));
         QFile::setPermissions(path("Locked"), QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
     }

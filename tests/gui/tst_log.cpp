@@ -72,7 +72,7 @@ private Q_SLOTS:
         QVERIFY(runs()->choose(QStringLiteral("2")));
         QCOMPARE(names(), QStringLiteral("c.jpg"));
         QCOMPARE(m_driver->text("logRunTitle"), QStringLiteral("Crop · 1 entry · 1 problem"));
-        QVERIFY(m_driver->text("logRunNote").contains(QStringLiteral("Nothing is known of this run")));
+        QVERIFY(m_driver->text("logRunNote").contains(QStringLiteral("There is no record of this run")));
         QVERIFY(!m_driver->control<QPushButton>("logUndo")->isEnabled());
         QTest::keyClick(runs(), Qt::Key_Down);
         QCOMPARE(names(), QStringLiteral("b.jpg a.jpg"));

@@ -105,7 +105,7 @@ private Q_SLOTS:
         QCOMPARE(m_driver->pictures().count(), 1);
         m_driver->trigger("addPicturesAction");
         QCOMPARE(m_driver->pictures().count(), 1);
-        QVERIFY(m_driver->text("statusText").contains(QLatin1String("in the list already")));
+        QVERIFY(m_driver->text("statusText").contains(QLatin1String("already in the list")));
     }
 
     void saysWhatWasLeftOut()
@@ -293,7 +293,8 @@ private Q_SLOTS:
         m_driver->click("pauseButton");
         // What is in progress is finished first, and that is said at once.
         const auto isHeld = [this] { return m_driver->text("statusDetail").startsWith(QStringLiteral("paused")); };
-        QVERIFY(isHeld() || m_driver->text("statusDetail").startsWith(QStringLiteral("pausing after the pictures in")));
+        QVERIFY(isHeld() ||
+                m_driver->text("statusDetail").startsWith(QStringLiteral("pausing after the current pictures")));
         QVERIFY(m_driver->waitFor(isHeld));
         const qsizetype held = namesIn(m_results).size();
         QTest::qWait(300);

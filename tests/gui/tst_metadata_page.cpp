@@ -256,7 +256,7 @@ void TestMetadataPage::saysBeforehandWhatHasNoPlaceForAComment()
     for (int i = 0; i < 3; ++i)
         m_driver->trigger("nextAction");
     QCOMPARE(m_driver->text("metaName"), QStringLiteral("d.bmp"));
-    QVERIFY(m_driver->text("metaNote").contains(QStringLiteral("no place for a comment")));
+    QVERIFY(m_driver->text("metaNote").contains(QStringLiteral("cannot hold a comment")));
     QVERIFY(comment()->isReadOnly() && !button("metaApply")->isEnabled());
     many();
     QVERIFY(!comment()->isReadOnly());
@@ -268,8 +268,7 @@ void TestMetadataPage::saysBeforehandWhatHasNoPlaceForAComment()
     });
     m_driver->click("metaApplyAll");
     QVERIFY(m_driver->waitFor([&] { return !detail.isEmpty() && isIdle(); }));
-    QVERIFY2(detail.contains(QStringLiteral("1 file is of a type that has no place for a comment")),
-             qPrintable(detail));
+    QVERIFY2(detail.contains(QStringLiteral("1 file has a type that cannot hold a comment")), qPrintable(detail));
 }
 
 void TestMetadataPage::showsPicturesOfCamerasAndPhones_data()
@@ -304,7 +303,7 @@ void TestMetadataPage::showsPicturesOfCamerasAndPhones()
     QCOMPARE(m_driver->text("metaName"), QFileInfo(picture).fileName());
     QVERIFY(tree()->words({QStringLiteral("Pixel width")}).endsWith(QStringLiteral(" pixels")));
     QCOMPARE(comment()->isReadOnly(), !holds);
-    QCOMPARE(m_driver->text("metaNote").contains(QStringLiteral("no place for a comment")), !holds);
+    QCOMPARE(m_driver->text("metaNote").contains(QStringLiteral("cannot hold a comment")), !holds);
     if (!holds)
         return;
     comment()->setPlainText(QStringLiteral("written"));
@@ -405,7 +404,7 @@ void TestMetadataPage::revertsOneRowAfterARestart()
     QCOMPARE(cells(window::LogModel::After), QStringLiteral("new %2 b $&|new %2 a $&"));
     QVERIFY(!log()->isColumnHidden(window::LogModel::Before) && log()->isColumnHidden(window::LogModel::Result));
     log()->selectRow(1);
-    QCOMPARE(m_driver->text("logRunTitle"), QStringLiteral("1 comment chosen"));
+    QCOMPARE(m_driver->text("logRunTitle"), QStringLiteral("1 comment selected"));
     QCOMPARE(m_driver->text("logRunNote"), QStringLiteral("“the first” became “new %2 a $&”"));
     m_driver->click("logRevert");
     QVERIFY(m_driver->waitFor([this] { return log()->totalCount() == 3; }));
@@ -418,7 +417,7 @@ void TestMetadataPage::revertsOneRowAfterARestart()
     QCOMPARE(newest.data().toString(), QStringLiteral("Undo of Metadata"));
     QVERIFY(runs()->model()->index(2, 0).data().toString() == QLatin1String("Metadata"));
     runs()->setCurrentIndex(runs()->model()->index(2, 0));
-    QCOMPARE(m_driver->text("logRunNote"), QStringLiteral("1 comment can be reverted. 1 was reverted before."));
+    QCOMPARE(m_driver->text("logRunNote"), QStringLiteral("1 comment can be reverted. 1 has already been reverted."));
 }
 
 void TestMetadataPage::revertsARunAndDoesItAgain()
@@ -515,7 +514,7 @@ void TestMetadataPage::leavesFilesWithSeveralPagesOutUnlessAskedFor()
     showEdits();
     QCOMPARE(log()->totalCount(), 4);
     // What cannot be brought back as a whole is a run beside the others.
-    QCOMPARE(logText().count("keep the first page only"), 1);
+    QCOMPARE(logText().count("keep only the first page"), 1);
     QVERIFY(logText().contains("2 more pages were removed. This cannot be undone."));
 }
 

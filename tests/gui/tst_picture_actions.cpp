@@ -142,7 +142,7 @@ private Q_SLOTS:
         m_driver->click("turnRight");
         m_driver->click("flipHorizontal");
         run(QStringLiteral("1 picture done"));
-        const platform::Picture after = platform::Picture::fromFile(m_pictures + QStringLiteral("/Turned/") + name);
+        const platform::Picture after = platform::Picture::fromFile(m_pictures + QStringLiteral("/Rotated/") + name);
         const int w = before.bitmap().width();
         const int h = before.bitmap().height();
         QCOMPARE(QSize(after.bitmap().width(), after.bitmap().height()), QSize(h, w));

@@ -252,7 +252,7 @@ private Q_SLOTS:
         QVERIFY(row > 0);
         m_driver->choose("preset", m_driver->control<QComboBox>("preset")->itemData(row).toString());
         QCOMPARE(state(), before);
-        QVERIFY(m_driver->text("presetNote").contains(QLatin1String("newer Quorlin")));
+        QVERIFY(m_driver->text("presetNote").contains(QLatin1String("newer version of Quorlin")));
         for (const char *text : {"Save", "Rename…", "Delete…"})
             QVERIFY2(!entry(text)->isEnabled(), text);
         QVERIFY(file.remove());

@@ -134,7 +134,7 @@ def check_schema():
             for key, kind in part["properties"].items():
                 for value in kind.get("enum", [None]):
                     said = refusal(dict(PLAIN, operations=[{"do": name, key: value if value is not None else {}}]))
-                    assert "no such key" not in said, (name, key, said)
+                    assert "unknown key" not in said, (name, key, said)
                     if value is not None and key not in ("position", "fit"):
                         assert f".{key}: " not in said, (name, key, value, said)
             said = refusal(dict(PLAIN, operations=[{"do": name, "melted": 1}]))
@@ -142,7 +142,7 @@ def check_schema():
         for key, kind in schema["definitions"]["output"]["properties"].items():
             for value in kind.get("enum", [None]):
                 said = refusal(dict(PLAIN, outputs=[{key: value if value is not None else {}}]))
-                assert "no such key" not in said and (value is None or "outputs[0]" not in said), (key, value, said)
+                assert "unknown key" not in said and (value is None or "outputs[0]" not in said), (key, value, said)
 
 
 def main():

@@ -189,7 +189,7 @@ constexpr std::array<Label, 306> labels = {{
     {"ProgramVersion", QT_TRANSLATE_NOOP("properties", "Program version")},
     {"Province/State", QT_TRANSLATE_NOOP("properties", "Province or state")},
     {"Rating", QT_TRANSLATE_NOOP("properties", "Rating")},
-    {"RatingPercent", QT_TRANSLATE_NOOP("properties", "Rating percent")},
+    {"RatingPercent", QT_TRANSLATE_NOOP("properties", "Rating in %")},
     {"RecommendedExposureIndex", QT_TRANSLATE_NOOP("properties", "Recommended exposure index")},
     {"ReferenceBlackWhite", QT_TRANSLATE_NOOP("properties", "Reference black and white")},
     {"ReferenceDate", QT_TRANSLATE_NOOP("properties", "Reference date")},

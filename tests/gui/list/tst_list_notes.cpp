@@ -166,7 +166,7 @@ void TestListNotes::manyFoldersOpenInTheOneThatHoldsThem()
     run();
     m_driver->click("openFolderButton");
     QCOMPARE(opener.opened, QStringList(path(QStringLiteral("day"))));
-    QVERIFY(m_driver->text("statusDetail").contains(QLatin1String("which holds the 6 folders")));
+    QVERIFY(m_driver->text("statusDetail").contains(QLatin1String("which contains the 6 folders")));
 }
 
 void TestListNotes::saysWhereAFolderIsThatNobodyOpens()

@@ -202,7 +202,7 @@ void TestListTools::allResultsAreEstimated()
     QCOMPARE(m_driver->pictures().count(), 100);
     QVERIFY(
         m_driver->waitFor([this] { return m_driver->text("startNote").startsWith(QLatin1String("about ")); }, 60000));
-    static const QRegularExpression form(QStringLiteral("^about ([0-9.]+) (KB|MB) in all$"));
+    static const QRegularExpression form(QStringLiteral("^about ([0-9.]+) (KB|MB) in total$"));
     const auto match = form.match(m_driver->text("startNote"));
     QVERIFY2(match.hasMatch(), qPrintable(m_driver->text("startNote")));
     const double estimate = match.captured(1).toDouble() * (match.captured(2) == QLatin1String("MB") ? 1e6 : 1e3);

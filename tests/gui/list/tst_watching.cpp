@@ -101,7 +101,7 @@ void TestWatching::whatNobodyCanBeAskedIsRefused()
     m_driver->choose("ifTaken", QStringLiteral("ask"));
     m_driver->trigger("watchAction");
     QVERIFY(!part("watchBar")->isVisible());
-    QVERIFY(m_driver->text("statusText").startsWith(QLatin1String("Nobody can be asked")));
+    QVERIFY(m_driver->text("statusText").startsWith(QLatin1String("A watched folder cannot ask")));
     m_driver->choose("ifTaken", QStringLiteral("number"));
     m_driver->control<QAbstractButton>("simulation")->setChecked(true);
     m_driver->trigger("watchAction");
@@ -114,7 +114,7 @@ void TestWatching::saysThatTheFolderIsGone()
     watch();
     QVERIFY(QDir(m_driver->inputFolder()).removeRecursively());
     QVERIFY(m_driver->waitFor([this] { return !part("watchBar")->isVisible(); }));
-    QVERIFY(m_driver->text("statusText").contains(QLatin1String("is gone and is not watched any more")));
+    QVERIFY(m_driver->text("statusText").contains(QLatin1String("no longer exists and is no longer watched")));
 }
 
 void TestWatching::recipesAreCarriedOutToo()

@@ -137,7 +137,7 @@ private Q_SLOTS:
         m_driver->choose("ratio", QStringLiteral("1:1"));
         QSignalSpy shown(m_driver->control<window::ComparePreview>("preview"), &window::ComparePreview::resultShown);
         m_driver->control<QCheckBox>("attention")->click();
-        QCOMPARE(m_driver->text("resultText"), QStringLiteral("300×300"));
+        QCOMPARE(m_driver->text("resultText"), QStringLiteral("300 × 300 px"));
         QCOMPARE(m_driver->control<window::PositionPad>("position")->selectedSegment(), -1);
         const auto *frame = m_driver->control<window::CropFrameEditor>("cropFrame");
         QVERIFY(m_driver->waitFor([frame] { return frame->frame() == QRect(100, 0, 300, 300); }));

@@ -37,7 +37,7 @@ private Q_SLOTS:
         QTest::newRow("resize") << "resize"
                                 << "Resized";
         QTest::newRow("turn") << "turn"
-                              << "Turned";
+                              << "Rotated";
         QTest::newRow("round") << "round"
                                << "Rounded";
         QTest::newRow("background") << "background"
@@ -100,7 +100,7 @@ private Q_SLOTS:
         driver->drop({driver->inputFolder()});
         auto *offer = driver->control<QPushButton>("typeOffer");
         QVERIFY(driver->waitFor([&] { return offer->isVisible(); }));
-        QCOMPARE(driver->text("typeNote"), QStringLiteral("1 picture is of a type that is not written."));
+        QCOMPARE(driver->text("typeNote"), QStringLiteral("1 picture has a type that cannot be written."));
         driver->click("typeOffer");
         QVERIFY(!offer->isVisible());
         run(*driver, QStringLiteral("2 pictures done"));

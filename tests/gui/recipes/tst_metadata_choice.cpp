@@ -17,7 +17,7 @@ namespace {
 
 /** The actions that let a person choose what results keep of the metadata, and the folder that their results go to at first. */
 const QList<std::pair<const char *, const char *>> actions = {
-    {"resize", "Resized"},    {"crop", "Cropped"},          {"turn", "Turned"},      {"round", "Rounded"},
+    {"resize", "Resized"},    {"crop", "Cropped"},          {"turn", "Rotated"},     {"round", "Rounded"},
     {"background", "Framed"}, {"watermark", "Watermarked"}, {"convert", "Converted"}};
 
 /** What of camera, author and place a file states, in letters. */

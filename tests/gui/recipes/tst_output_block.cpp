@@ -89,7 +89,7 @@ private Q_SLOTS:
         run(QStringLiteral("1 picture done"));
         QVERIFY(QFileInfo::exists(m_pictures + QStringLiteral("/For {Jane}/a.png")));
         name->setText(QStringLiteral("a/b"));
-        QVERIFY(m_driver->text("problemText").contains(QLatin1String("no name for a folder")));
+        QVERIFY(m_driver->text("problemText").contains(QLatin1String("not a valid folder name")));
     }
 
     void namesResultsByAPattern()

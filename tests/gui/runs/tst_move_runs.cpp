@@ -57,7 +57,7 @@ private Q_SLOTS:
         QCOMPARE(names(), paused);
         QVERIFY2(m_driver->text("statusDetail").startsWith(QLatin1String("paused")),
                  qPrintable(m_driver->text("statusDetail")));
-        QCOMPARE(m_driver->control<QAbstractButton>("pauseButton")->text(), QStringLiteral("Continue"));
+        QCOMPARE(m_driver->control<QAbstractButton>("pauseButton")->text(), QStringLiteral("Resume"));
         m_driver->click("pauseButton");
         const QString said = m_driver->waitForSummary();
         QVERIFY2(said.startsWith(QStringLiteral("%1 files renamed, 0 problems").arg(many)), qPrintable(said));
@@ -83,7 +83,7 @@ private Q_SLOTS:
         QCOMPARE(names().size(), many);
         QVERIFY(m_driver->cell(many - 1, PictureModel::Status).contains(QLatin1String("cancelled")));
         m_driver->click("undoButton");
-        QVERIFY(m_driver->waitForSummary().contains(QLatin1String("old name")));
+        QVERIFY(m_driver->waitForSummary().contains(QLatin1String("restored")));
         QCOMPARE(names(), before);
     }
 
@@ -109,7 +109,7 @@ private Q_SLOTS:
         QVERIFY(!m_driver->control<QAbstractButton>("retryButton")->isVisible());
         QCOMPARE(m_driver->cell(0, PictureModel::Status), QStringLiteral("done")); // as the first run left it
         m_driver->click("undoButton");
-        QVERIFY(m_driver->waitForSummary().startsWith(QLatin1String("1 file has its old name again")));
+        QVERIFY(m_driver->waitForSummary().startsWith(QLatin1String("1 name restored")));
         QVERIFY(QFile::exists(last));
     }
 
@@ -158,7 +158,7 @@ private Q_SLOTS:
         m_driver->click("startButton");
         QCOMPARE(m_driver->waitForSummary(), QStringLiteral("Cancelled. Nothing was moved."));
         QVERIFY2(text.startsWith(QLatin1String("The files need ")), qPrintable(text));
-        QVERIFY2(text.contains(QLatin1String("but only 999 bytes are free for ")), qPrintable(text));
+        QVERIFY2(text.contains(QLatin1String("has only 999 bytes free")), qPrintable(text));
         QVERIFY(QDir(at("../sorted")).isEmpty());
         WindowDriver::answerNextQuestion(QStringLiteral("Start Anyway"));
         m_driver->click("startButton");
@@ -267,7 +267,7 @@ private:
         QTest::keyClick(kind, Qt::Key_Right);
         QVERIFY(m_driver->waitFor([this] {
             return m_driver->control<QAbstractButton>("startButton")->isEnabled() &&
-                   m_driver->text("sortTreeProblem").contains(QLatin1String("only 999 bytes are free"));
+                   m_driver->text("sortTreeProblem").contains(QLatin1String("has only 999 bytes free"));
         }));
     }
 

@@ -92,10 +92,10 @@ test("refusesOtherTypesAndQualities", () => {
 // What the table of types and the plans of recipes say too.
 test("saysOfEachTargetWhatItCannotHold", () => {
     const says = (keyword, words) => words.forEach((word) => isTrue(targetText(keyword).indexOf(word) >= 0));
-    says("jpeg", ["transparent parts get a colour", "16 bits become 8", "metadata are kept"]);
+    says("jpeg", ["Transparent parts get a colour", "16 bits become 8", "metadata are kept"]);
     says("bmp", ["Colours become sRGB", "transparent parts get a colour", "16 bits become 8"]);
-    says("gif", ["256 colours", "colours become sRGB", "transparent or not", "XMP"]);
-    says("jp2", ["metadata are kept", "profile where it fits"]);
+    says("gif", ["256 colours", "Colours become sRGB", "transparent or not", "XMP"]);
+    says("jp2", ["metadata are kept", "most colour profiles"]);
     says("pdf", ["XMP"]);
     says("webp", ["16 bits become 8", "Transparency, colour profile and metadata are kept"]);
     says("avif", ["16 bits become 8", "Transparency, colour profile and metadata are kept"]);
@@ -109,8 +109,8 @@ test("saysWhatAPictureLosesAndWhatItIs", () => {
         convert.plan(source(name), settings(target), planning(target, plan)).notes.join(" ");
     isTrue(/first page/.test(notes("a.pdf", "png")));
     isTrue(/Layers/.test(notes("a.psd", "png")));
-    isTrue(/JPEG already and is encoded again/.test(notes("a.jpeg", "jpeg")));
-    isTrue(/PNG already; no pixel/.test(notes("a.png", "png", { lossless: true })));
+    isTrue(/Already JPEG: it will be encoded again/.test(notes("a.jpeg", "jpeg")));
+    isTrue(/Already PNG: no pixel/.test(notes("a.png", "png", { lossless: true })));
     equal(notes("a.heic", "jpeg"), "");
     equal(notes("a.heic", "gif", { losses: ["256 colours"] }), "256 colours");
     equal(convert.plan(source("a.nef", "RAW"), settings("jpeg"), planning("jpeg", { leftOut: 2 })).remarks,

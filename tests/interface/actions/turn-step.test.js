@@ -26,7 +26,7 @@ test("saysWithoutLossWhereThatIsSo", () => {
     const said = (changes, isLossless) => turn.plan(source("a.jpg", 400, 300), settingsOf(turn, changes),
                                                     recipeServices({ lossless: isLossless })).notes;
     equal([said({ angle: 90 }, true), said({ angle: 90 }, false)], [["Rotated without loss."], []]);
-    isTrue(said({ angle: 12 }, false)[0].endsWith("what is beside the picture becomes white."));
+    isTrue(said({ angle: 12 }, false)[0].endsWith("The new corners become white."));
 });
 
 test("keepsTheNameWhereTheTypeStays", () => {

@@ -28,7 +28,7 @@ const CASES = [
     ["resize", "Print", box("pad", { boxWidth: 2, boxHeight: 1.5, unit: "cm", dpi: 300 })],
     ["resize", "Own resolution", { mode: "width", width: 5, unit: "mm", dpi: 0 }],
     ["resize", "Named", { longest: 30 }, { namePattern: "{name}-{counter:01} {taken:MMM} {width}" }],
-    ["turn", "Turned", { angle: 90 }, { namePattern: "{name} {height}" }],
+    ["turn", "Rotated", { angle: 90 }, { namePattern: "{name} {height}" }],
     ["convert", "To JPEG", { target: "jpeg", quality: "5" }, { matte: "#204080" }],
     ["convert", "To PDF", { target: "pdf" }],
     ["convert", "To TIFF", { target: "tiff" }, { metadata: "copyright", removeLocation: true }],

@@ -282,11 +282,11 @@ test("bringsRowsInUnderFreeNames", () => {
 test("saysWhyPresetsCannotBeRead", () => {
     const cases = [
         [{ sealed: true }, /could not be created/],
-        [{ exists: true, unreadable: true }, /in use by another program, or damaged/],
+        [{ exists: true, unreadable: true }, /in use by another program or damaged/],
         [{ exists: true, unreadable: true, text: "Dear diary" }, /damaged/],
         [{ exists: true, unreadable: true, text: null }, /cannot be read/],
-        [{ exists: true, withoutTable: true }, /no place for presets/],
-        [{ exists: true, withoutTable: true, text: "" }, /no place for presets/],
+        [{ exists: true, withoutTable: true }, /no table for presets/],
+        [{ exists: true, withoutTable: true, text: "" }, /no table for presets/],
     ];
     for (const [state, words] of cases) {
         const { store } = make(state);
@@ -300,7 +300,7 @@ test("saysWhyAPresetCannotBeWrittenAndKeepsTheOldOne", () => {
     store.list("resize");
     store.save("resize", "Web", changed("resize", { longest: 1 }));
     file.sealed = true;
-    for (const [writable, words] of [[false, /read-only; nothing was changed/],
+    for (const [writable, words] of [[false, /read-only. It was not changed/],
                                      [true, /in use by another program, or the disk is full/]]) {
         file.writable = writable;
         const problems = [store.save("resize", "Web", changed("resize", { longest: 2 })), store.remove("resize", "Web"),

@@ -86,7 +86,7 @@ test("countsThePagesAtStake", () => {
 });
 
 const UNABLE = [["/p/locked.gif", "write-protected"], ["/p/text.jpg", "not a picture"],
-                ["/p/lying.jpg", "does not say"]];
+                ["/p/lying.jpg", "does not contain what was written"]];
 for (const row of UNABLE) {
     test("says why " + row[0] + " did not take it", () => {
         const texts = {};
@@ -132,8 +132,8 @@ test("writesAllAndRevertsThemFromTheLastOn", () => {
 const REVERTS = [
     ["as it was written", "/p/a.jpg", "new", "OK", ""],
     ["changed since", "/p/a.jpg", "somebody else's", "Skipped", "“somebody else's”"],
-    ["reverted before", "/p/a.jpg", "one", "Skipped", "old comment already"],
-    ["gone", "/p/a.jpg", undefined, "Failed", "not there any more"],
+    ["reverted before", "/p/a.jpg", "one", "Skipped", "already has its old comment"],
+    ["gone", "/p/a.jpg", undefined, "Failed", "no longer exists"],
     ["locked", "/p/locked.jpg", "new", "Failed", "write-protected"],
 ];
 for (const row of REVERTS) {

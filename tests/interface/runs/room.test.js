@@ -25,11 +25,11 @@ function needs(rows) {
 const words = (bytes) => bytes + " B";
 
 const ROWS = [
-    [[["/a", 60, "copy", ""], ["/b", 50, "copy", ""]], "The files need 110 B, but only 100 B are free for /a."],
+    [[["/a", 60, "copy", ""], ["/b", 50, "copy", ""]], "The files need 110 B, but /a has only 100 B free."],
     [[["/a", 60, "copy", ""], ["/c", 50, "copy", ""]], ""],
-    [[["/a", 60, "copy", ""], ["/c", 51, "copy", "numbered"]], "The files need 51 B, but only 50 B are free for /c."],
+    [[["/a", 60, "copy", ""], ["/c", 51, "copy", "numbered"]], "The files need 51 B, but /c has only 50 B free."],
     [[["/a", 900, "move", ""], ["/a", 900, "link", ""]], ""],
-    [[["/c", 900, "move", "disk"]], "The files need 900 B, but only 50 B are free for /c."],
+    [[["/c", 900, "move", "disk"]], "The files need 900 B, but /c has only 50 B free."],
     [[["/unknown", 900, "copy", ""]], ""],
     [[], ""],
 ];
@@ -40,7 +40,7 @@ for (const row of ROWS) {
 }
 
 test("tellsWhatIsFreeWhereThereIsRoom", () => {
-    equal(roomText(needs([["/a", 60, "copy", ""]]), words).note, "60 B to be written; 100 B are free");
+    equal(roomText(needs([["/a", 60, "copy", ""]]), words).note, "60 B to be written; 100 B free");
     equal(roomText(needs([["/a", 60, "copy", ""], ["/c", 6, "copy", ""]]), words).note, "66 B to be written");
 });
 

@@ -30,7 +30,7 @@ const UNDONE = { id: "r1", process: "Rename", action: undoAction(false) };
 // Comments that a run changed, how many of them were reverted since, and what is said of it.
 const REVERTS = [
     [3, 0, true, "3 comments can be reverted."], [1, 0, true, "1 comment can be reverted."],
-    [3, 1, true, "2 comments can be reverted. 1 was reverted before."],
+    [3, 1, true, "2 comments can be reverted. 1 has already been reverted."],
     [2, 2, false, "All its comments have already been reverted."],
     [0, 0, false, "No comment was changed."],
 ];

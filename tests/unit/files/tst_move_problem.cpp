@@ -51,7 +51,7 @@ void TestMoveProblem::saysWhatIsWrongWithAName_data()
     QTest::addColumn<MoveProblem>("problem");
     QTest::addColumn<QString>("text");
     const std::pair<MoveProblem, const char *> rows[] = {
-        {MoveProblem::Taken, "The name a.jpg is taken"},
+        {MoveProblem::Taken, "The name a.jpg is already in use"},
         {MoveProblem::Gone, "a.jpg no longer exists"},
         {MoveProblem::TooLong, "The name a.jpg is too long for this disk"},
         {MoveProblem::Leader, "a.jpg, which it belongs to, keeps its name"},

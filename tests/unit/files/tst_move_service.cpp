@@ -170,7 +170,7 @@ void TestMoveService::refusesWhatThePlanRefuses()
     const QString id = field(m_service->open(text("Sort")), "run");
     const QVariantMap answer = m_service->add(id, item("/d/a", "/d/b"));
     QCOMPARE(field(answer, "status") + field(answer, "code"), text("Failedtaken"));
-    QCOMPARE(field(answer, "message"), text("The name b is taken"));
+    QCOMPARE(field(answer, "message"), text("The name b is already in use"));
     QCOMPARE(field(answer, "path"), text("/d/a"));
     QVERIFY(m_service->takeBack(id).isNull());
 }
