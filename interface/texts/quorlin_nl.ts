@@ -5804,15 +5804,15 @@
     </message>
     <message>
         <source>this type of file cannot hold metadata of its own</source>
-        <translation>in bestanden van dit type worden geen metagegevens geschreven</translation>
+        <translation>in bestanden van dit type worden geen metadata geschreven</translation>
     </message>
     <message>
         <source>its metadata is damaged</source>
-        <translation>de metagegevens zijn beschadigd</translation>
+        <translation>de metadata zijn beschadigd</translation>
     </message>
     <message>
         <source>there is no room for so much metadata</source>
-        <translation>er is geen ruimte voor zo veel metagegevens</translation>
+        <translation>er is geen ruimte voor zo veel metadata</translation>
     </message>
 </context>
 <context>

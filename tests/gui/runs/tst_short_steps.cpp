@@ -214,7 +214,7 @@ private:
         MeasuredApplication::longest().clear();
         m_driver->control<QAction>("undoAction")->trigger();
         const QString said = m_driver->waitForSummary();
-        QVERIFY2(said.startsWith(QStringLiteral("%1 files have their old names again").arg(count)), qPrintable(said));
+        QVERIFY2(said.startsWith(QStringLiteral("%1 names restored").arg(count)), qPrintable(said));
     }
 
     void beginRenaming(int count)

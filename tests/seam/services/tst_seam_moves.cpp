@@ -131,7 +131,7 @@ void TestSeamMoves::undoesTheSameInSlices()
                  "const other = moves.beginUndo(undo.run); while (!moves.prepare(other, 0)) {}"
                  "moves.dropOrder(other); report(moves.runs().length);")),
              QStringLiteral("[2,0]\n[[\"move\",\"x.jpg\"]]\n\"\"\ntrue\n"
-                            "\"This run was taken back already\"\n[]\n2"));
+                            "\"This run has already been undone\"\n[]\n2"));
     QCOMPARE(read("a.jpg"), QByteArray("a.jpg"));
 }
 
