@@ -48,7 +48,7 @@
     </message>
     <message>
         <source>Fil&amp;ter…</source>
-        <translation>Fil&amp;ter …</translation>
+        <translation>Fil&amp;ter …</translation>
     </message>
     <message>
         <source>Add only files of a certain type, size, date or name</source>
@@ -459,7 +459,7 @@
     </message>
     <message>
         <source>More…</source>
-        <translation>Mehr …</translation>
+        <translation>Mehr …</translation>
     </message>
     <message>
         <source>More or fewer settings of the pages</source>
@@ -680,7 +680,7 @@
     </message>
     <message>
         <source>Add Pictures…</source>
-        <translation>Bilder hinzufügen…</translation>
+        <translation>Bilder hinzufügen …</translation>
     </message>
     <message>
         <source>Add pictures (Ctrl+O)</source>
@@ -688,7 +688,7 @@
     </message>
     <message>
         <source>Add Folder…</source>
-        <translation>Ordner hinzufügen…</translation>
+        <translation>Ordner hinzufügen …</translation>
     </message>
     <message>
         <source>Add all pictures in a folder and its subfolders (Ctrl+Shift+O)</source>
@@ -787,7 +787,7 @@
     </message>
     <message>
         <source>Add…</source>
-        <translation>Hinzufügen …</translation>
+        <translation>Hinzufügen …</translation>
     </message>
     <message>
         <source>Choose a folder, or drop folders on the list</source>
@@ -795,7 +795,7 @@
     </message>
     <message>
         <source>New…</source>
-        <translation>Neu…</translation>
+        <translation>Neu …</translation>
     </message>
     <message>
         <source>Create a new folder</source>
@@ -875,7 +875,7 @@
     <name>contact-pane</name>
     <message>
         <source>Other…</source>
-        <translation>Anderes …</translation>
+        <translation>Anderes …</translation>
     </message>
     <message>
         <source>Portrait</source>
@@ -919,7 +919,7 @@
     </message>
     <message>
         <source>Choose…</source>
-        <translation>Wählen …</translation>
+        <translation>Wählen …</translation>
     </message>
     <message>
         <source>Standard</source>
@@ -931,7 +931,7 @@
     </message>
     <message>
         <source>More…</source>
-        <translation>Mehr …</translation>
+        <translation>Mehr …</translation>
     </message>
     <message>
         <source>Pages %1–%2 of %3</source>
@@ -1058,7 +1058,7 @@
     </message>
     <message>
         <source>Export…</source>
-        <translation>Exportieren…</translation>
+        <translation>Exportieren …</translation>
     </message>
     <message>
         <source>Save the entries shown as a CSV file for spreadsheets</source>
@@ -1117,7 +1117,7 @@
     </message>
     <message>
         <source>Add Pictures…</source>
-        <translation>Bilder hinzufügen…</translation>
+        <translation>Bilder hinzufügen …</translation>
     </message>
     <message>
         <source>Add pictures (Ctrl+O)</source>
@@ -1125,7 +1125,7 @@
     </message>
     <message>
         <source>Add Folder…</source>
-        <translation>Ordner hinzufügen…</translation>
+        <translation>Ordner hinzufügen …</translation>
     </message>
     <message>
         <source>Add all pictures in a folder and its subfolders (Ctrl+Shift+O)</source>
@@ -1165,7 +1165,7 @@
     </message>
     <message>
         <source>Choose Folder…</source>
-        <translation>Ordner wählen…</translation>
+        <translation>Ordner wählen …</translation>
     </message>
     <message>
         <source>No, Thanks</source>
@@ -1245,7 +1245,7 @@
     </message>
     <message>
         <source>Save Report…</source>
-        <translation>Bericht speichern…</translation>
+        <translation>Bericht speichern …</translation>
     </message>
     <message>
         <source>Dismiss</source>
@@ -1281,19 +1281,19 @@
     </message>
     <message>
         <source>&amp;Add Pictures…</source>
-        <translation>Bilder &amp;hinzufügen…</translation>
+        <translation>Bilder &amp;hinzufügen …</translation>
     </message>
     <message>
         <source>Add &amp;Folder…</source>
-        <translation>&amp;Ordner hinzufügen…</translation>
+        <translation>&amp;Ordner hinzufügen …</translation>
     </message>
     <message>
         <source>Save Picture &amp;As…</source>
-        <translation>Bild speichern &amp;unter…</translation>
+        <translation>Bild speichern &amp;unter …</translation>
     </message>
     <message>
         <source>&amp;Save Report…</source>
-        <translation>Be&amp;richt speichern…</translation>
+        <translation>Be&amp;richt speichern …</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
@@ -1317,7 +1317,7 @@
     </message>
     <message>
         <source>Preferences…</source>
-        <translation>Einstellungen…</translation>
+        <translation>Einstellungen …</translation>
     </message>
     <message>
         <source>&amp;Fit Preview</source>
@@ -1369,7 +1369,7 @@
     </message>
     <message>
         <source>Re&amp;name…</source>
-        <translation>&amp;Umbenennen…</translation>
+        <translation>&amp;Umbenennen …</translation>
     </message>
     <message>
         <source>Show &amp;Failed Only</source>
@@ -1381,11 +1381,11 @@
     </message>
     <message>
         <source>Page Set&amp;up…</source>
-        <translation>&amp;Seite einrichten…</translation>
+        <translation>&amp;Seite einrichten …</translation>
     </message>
     <message>
         <source>&amp;Print…</source>
-        <translation>&amp;Drucken…</translation>
+        <translation>&amp;Drucken …</translation>
     </message>
     <message>
         <source>&amp;Manual</source>
@@ -1413,7 +1413,7 @@
     </message>
     <message>
         <source>Show Them…</source>
-        <translation>Anzeigen …</translation>
+        <translation>Anzeigen …</translation>
     </message>
     <message>
         <source>Show which files of the list this action cannot use</source>
@@ -1437,7 +1437,7 @@
     </message>
     <message>
         <source>&amp;Watch a Folder…</source>
-        <translation>Ordner über&amp;wachen…</translation>
+        <translation>Ordner über&amp;wachen …</translation>
     </message>
     <message>
         <source>Process pictures as they arrive in a folder, with these settings</source>
@@ -1513,7 +1513,7 @@
     </message>
     <message>
         <source>Camera &amp;Clocks…</source>
-        <translation>Kamera&amp;uhren …</translation>
+        <translation>Kamera&amp;uhren …</translation>
     </message>
     <message>
         <source>Correct the dates of a camera whose clock was wrong, without changing any file</source>
@@ -1529,7 +1529,7 @@
     </message>
     <message>
         <source>&amp;Export List…</source>
-        <translation>Liste &amp;exportieren …</translation>
+        <translation>Liste &amp;exportieren …</translation>
     </message>
     <message>
         <source>Save the list with all its columns as a CSV file for spreadsheets</source>
@@ -1615,11 +1615,11 @@
     </message>
     <message>
         <source>Add Pictures…</source>
-        <translation>Bilder hinzufügen…</translation>
+        <translation>Bilder hinzufügen …</translation>
     </message>
     <message>
         <source>Add Folder…</source>
-        <translation>Ordner hinzufügen…</translation>
+        <translation>Ordner hinzufügen …</translation>
     </message>
     <message>
         <source>Search properties</source>
@@ -1651,7 +1651,7 @@
     </message>
     <message>
         <source>Insert Token…</source>
-        <translation>Platzhalter einfügen…</translation>
+        <translation>Platzhalter einfügen …</translation>
     </message>
     <message>
         <source>Insert a placeholder that is filled in for each picture</source>
@@ -1687,7 +1687,7 @@
     </message>
     <message>
         <source>Choose Files…</source>
-        <translation>Dateien wählen…</translation>
+        <translation>Dateien wählen …</translation>
     </message>
     <message>
         <source>Choose JPEG and TIFF files and write the comment into all of them</source>
@@ -1695,7 +1695,7 @@
     </message>
     <message>
         <source>Choose Folder…</source>
-        <translation>Ordner wählen…</translation>
+        <translation>Ordner wählen …</translation>
     </message>
     <message>
         <source>Choose a folder and write the comment into all its JPEG and TIFF files, subfolders included</source>
@@ -1703,7 +1703,7 @@
     </message>
     <message>
         <source>Write into All…</source>
-        <translation>In alle schreiben…</translation>
+        <translation>In alle schreiben …</translation>
     </message>
     <message>
         <source>Apply</source>
@@ -1857,7 +1857,7 @@
     </message>
     <message>
         <source>More…</source>
-        <translation>Mehr …</translation>
+        <translation>Mehr …</translation>
     </message>
     <message>
         <source>Show more or fewer settings</source>
@@ -1888,7 +1888,7 @@
     </message>
     <message>
         <source>Change…</source>
-        <translation>Ändern…</translation>
+        <translation>Ändern …</translation>
     </message>
     <message>
         <source>Language</source>
@@ -2030,7 +2030,7 @@
     </message>
     <message>
         <source>Print…</source>
-        <translation>Drucken …</translation>
+        <translation>Drucken …</translation>
     </message>
 </context>
 <context>
@@ -2167,7 +2167,7 @@
     </message>
     <message>
         <source>+ Add Operation for This Output…</source>
-        <translation>+ Bearbeitung für diese Ausgabe …</translation>
+        <translation>+ Bearbeitung für diese Ausgabe …</translation>
     </message>
     <message>
         <source>The picture after this operation</source>
@@ -2182,7 +2182,7 @@
     </message>
     <message>
         <source>Choose…</source>
-        <translation>Wählen…</translation>
+        <translation>Wählen …</translation>
     </message>
 </context>
 <context>
@@ -2229,7 +2229,7 @@
     </message>
     <message>
         <source>+ Add Operation…</source>
-        <translation>+ Bearbeitung hinzufügen…</translation>
+        <translation>+ Bearbeitung hinzufügen …</translation>
     </message>
     <message>
         <source>Add an operation (Ctrl+Shift+A)</source>
@@ -2355,7 +2355,7 @@
     </message>
     <message>
         <source>+ Add Step…</source>
-        <translation>+ Schritt…</translation>
+        <translation>+ Schritt …</translation>
     </message>
     <message>
         <source>Add a step (Ctrl+Shift+A)</source>
@@ -2371,7 +2371,7 @@
     </message>
     <message>
         <source>Include sidecar files (.xmp …)</source>
-        <translation>Begleitdateien einschließen (.xmp …)</translation>
+        <translation>Begleitdateien einschließen (.xmp …)</translation>
     </message>
     <message>
         <source>Files with the name of a picture from other programs are renamed with it</source>
@@ -2926,7 +2926,7 @@
     <name>action-page</name>
     <message>
         <source>Add to a Recipe…</source>
-        <translation>Zu einem Rezept hinzufügen…</translation>
+        <translation>Zu einem Rezept hinzufügen …</translation>
     </message>
     <message>
         <source>Added. The recipe is not saved yet.</source>
@@ -3024,7 +3024,7 @@
     </message>
     <message>
         <source>Choose…</source>
-        <translation>Wählen…</translation>
+        <translation>Wählen …</translation>
     </message>
     <message>
         <source>Choose a pattern</source>
@@ -3485,7 +3485,7 @@
     </message>
     <message>
         <source>Trim 5%</source>
-        <translation>5 % beschneiden</translation>
+        <translation>5 % beschneiden</translation>
     </message>
 </context>
 <context>
@@ -3496,7 +3496,7 @@
     </message>
     <message>
         <source>trim %1%</source>
-        <translation>%1 % beschneiden</translation>
+        <translation>%1 % beschneiden</translation>
     </message>
     <message numerus="yes">
         <source>trim %n pixels</source>
@@ -3823,7 +3823,7 @@
     </message>
     <message>
         <source>Remove All…</source>
-        <translation>Alle entfernen…</translation>
+        <translation>Alle entfernen …</translation>
     </message>
     <message>
         <source>Remove all folders</source>
@@ -3976,7 +3976,7 @@
     </message>
     <message>
         <source>Checking for updates…</source>
-        <translation>Es wird nach Aktualisierungen gesucht …</translation>
+        <translation>Es wird nach Aktualisierungen gesucht …</translation>
     </message>
     <message>
         <source>Quorlin is up to date.</source>
@@ -4173,8 +4173,8 @@
     <message numerus="yes">
         <source>Reading %n files…</source>
         <translation>
-            <numerusform>%n Datei wird gelesen …</numerusform>
-            <numerusform>%n Dateien werden gelesen …</numerusform>
+            <numerusform>%n Datei wird gelesen …</numerusform>
+            <numerusform>%n Dateien werden gelesen …</numerusform>
         </translation>
     </message>
 </context>
@@ -4190,7 +4190,7 @@
     </message>
     <message>
         <source>Add Pictures…</source>
-        <translation>Bilder hinzufügen…</translation>
+        <translation>Bilder hinzufügen …</translation>
     </message>
     <message>
         <source>Drop pictures or folders here</source>
@@ -4235,7 +4235,7 @@
     </message>
     <message>
         <source>Add Files…</source>
-        <translation>Dateien hinzufügen…</translation>
+        <translation>Dateien hinzufügen …</translation>
     </message>
     <message>
         <source>Drop files or folders here</source>
@@ -4280,7 +4280,7 @@
     </message>
     <message>
         <source>Add Folder…</source>
-        <translation>Ordner hinzufügen…</translation>
+        <translation>Ordner hinzufügen …</translation>
     </message>
     <message>
         <source>Drop folders here</source>
@@ -4389,7 +4389,7 @@
     </message>
     <message>
         <source>Exporting the list…</source>
-        <translation>Liste wird exportiert …</translation>
+        <translation>Liste wird exportiert …</translation>
     </message>
     <message>
         <source>The list was exported to %1</source>
@@ -4499,7 +4499,7 @@
     </message>
     <message>
         <source>Clear Log…</source>
-        <translation>Protokoll leeren…</translation>
+        <translation>Protokoll leeren …</translation>
     </message>
     <message numerus="yes">
         <source>Revert %n Comments</source>
@@ -4823,8 +4823,8 @@
     <message numerus="yes">
         <source>Write into All %n…</source>
         <translation>
-            <numerusform>In %n schreiben…</numerusform>
-            <numerusform>In alle %n schreiben…</numerusform>
+            <numerusform>In %n schreiben …</numerusform>
+            <numerusform>In alle %n schreiben …</numerusform>
         </translation>
     </message>
     <message>
@@ -5048,7 +5048,7 @@
     </message>
     <message>
         <source>Planning: %1 of %2…</source>
-        <translation>Wird geplant: %1 von %2 …</translation>
+        <translation>Wird geplant: %1 von %2 …</translation>
     </message>
     <message>
         <source>%1 ready</source>
@@ -5508,7 +5508,7 @@
     </message>
     <message>
         <source>Choose Folder…</source>
-        <translation>Ordner wählen…</translation>
+        <translation>Ordner wählen …</translation>
     </message>
     <message>
         <source>Save results to</source>
@@ -5532,7 +5532,7 @@
     </message>
     <message>
         <source>More…</source>
-        <translation>Mehr …</translation>
+        <translation>Mehr …</translation>
     </message>
     <message numerus="yes">
         <source>%n pictures have a type that cannot be written.</source>
@@ -5918,23 +5918,23 @@
     </message>
     <message>
         <source>Save As…</source>
-        <translation>Speichern unter…</translation>
+        <translation>Speichern unter …</translation>
     </message>
     <message>
         <source>Rename…</source>
-        <translation>Umbenennen…</translation>
+        <translation>Umbenennen …</translation>
     </message>
     <message>
         <source>Delete…</source>
-        <translation>Löschen…</translation>
+        <translation>Löschen …</translation>
     </message>
     <message>
         <source>Export…</source>
-        <translation>Exportieren…</translation>
+        <translation>Exportieren …</translation>
     </message>
     <message>
         <source>Import…</source>
-        <translation>Importieren…</translation>
+        <translation>Importieren …</translation>
     </message>
     <message>
         <source>Try Again</source>
@@ -7849,7 +7849,7 @@
     </message>
     <message>
         <source>Choose Folder…</source>
-        <translation>Ordner wählen…</translation>
+        <translation>Ordner wählen …</translation>
     </message>
     <message>
         <source>Save results to</source>
@@ -7978,23 +7978,23 @@
     </message>
     <message>
         <source>Save As…</source>
-        <translation>Speichern unter…</translation>
+        <translation>Speichern unter …</translation>
     </message>
     <message>
         <source>Rename…</source>
-        <translation>Umbenennen…</translation>
+        <translation>Umbenennen …</translation>
     </message>
     <message>
         <source>Delete…</source>
-        <translation>Löschen…</translation>
+        <translation>Löschen …</translation>
     </message>
     <message>
         <source>Export…</source>
-        <translation>Exportieren…</translation>
+        <translation>Exportieren …</translation>
     </message>
     <message>
         <source>Import…</source>
-        <translation>Importieren…</translation>
+        <translation>Importieren …</translation>
     </message>
     <message>
         <source>Results</source>
@@ -8291,7 +8291,7 @@
     </message>
     <message>
         <source>Trim %1%</source>
-        <translation>%1 % beschneiden</translation>
+        <translation>%1 % beschneiden</translation>
     </message>
     <message>
         <source>Trim %1 px</source>
@@ -8893,7 +8893,7 @@
     </message>
     <message>
         <source>%1%</source>
-        <translation>%1 %</translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>box %1</source>
@@ -9064,7 +9064,7 @@
     <name>run-base</name>
     <message>
         <source>Planning…</source>
-        <translation>Wird geplant…</translation>
+        <translation>Wird geplant …</translation>
     </message>
     <message>
         <source>%1 left</source>
@@ -9154,7 +9154,7 @@
     </message>
     <message>
         <source>Saving %1…</source>
-        <translation>%1 wird gespeichert…</translation>
+        <translation>%1 wird gespeichert …</translation>
     </message>
     <message>
         <source>Save Picture As</source>
@@ -9469,7 +9469,7 @@
     </message>
     <message>
         <source>Choose Folder…</source>
-        <translation>Ordner wählen…</translation>
+        <translation>Ordner wählen …</translation>
     </message>
     <message>
         <source>Sort into</source>
@@ -10679,7 +10679,7 @@
     </message>
     <message>
         <source>Choose…</source>
-        <translation>Wählen…</translation>
+        <translation>Wählen …</translation>
     </message>
     <message>
         <source>Choose a picture</source>
@@ -10753,15 +10753,15 @@
     </message>
     <message>
         <source>Enter a size from 0.1% to 100%.</source>
-        <translation>Geben Sie eine Größe von 0,1 % bis 100 % ein.</translation>
+        <translation>Geben Sie eine Größe von 0,1 % bis 100 % ein.</translation>
     </message>
     <message>
         <source>Enter a margin from 0% to 100%.</source>
-        <translation>Geben Sie einen Abstand von 0 % bis 100 % ein.</translation>
+        <translation>Geben Sie einen Abstand von 0 % bis 100 % ein.</translation>
     </message>
     <message>
         <source>Enter an opacity from 1% to 100%.</source>
-        <translation>Geben Sie eine Deckkraft von 1 % bis 100 % ein.</translation>
+        <translation>Geben Sie eine Deckkraft von 1 % bis 100 % ein.</translation>
     </message>
     <message>
         <source>Enter an angle from -180 to 180 degrees.</source>
@@ -10876,7 +10876,7 @@
     </message>
     <message>
         <source>%1%</source>
-        <translation>%1 %</translation>
+        <translation>%1 %</translation>
     </message>
 </context>
 <context>
@@ -11255,7 +11255,7 @@
     </message>
     <message>
         <source>working…</source>
-        <translation>in Arbeit…</translation>
+        <translation>in Arbeit …</translation>
     </message>
     <message>
         <source>cancelled</source>
@@ -11318,7 +11318,7 @@
     </message>
     <message>
         <source>Choose Folder…</source>
-        <translation>Ordner wählen…</translation>
+        <translation>Ordner wählen …</translation>
     </message>
     <message>
         <source>Save the rest to</source>

@@ -577,7 +577,7 @@
     </message>
     <message>
         <source>Unit of size and offsets: pixels, millimetres, centimetres, inches, picas, points</source>
-        <translation>Unité des dimensions et des décalages : pixels, millimètres, centimètres, pouces, picas, points</translation>
+        <translation>Unité des dimensions et des décalages : pixels, millimètres, centimètres, pouces, picas, points</translation>
     </message>
     <message>
         <source>Position</source>
@@ -625,7 +625,7 @@
     </message>
     <message>
         <source>The larger number is used for the longer side: 3:2 becomes 2:3 in portrait pictures</source>
-        <translation>Le plus grand nombre s’applique au grand côté : 3:2 devient 2:3 pour les portraits</translation>
+        <translation>Le plus grand nombre s’applique au grand côté : 3:2 devient 2:3 pour les portraits</translation>
     </message>
     <message>
         <source>First number of the ratio</source>
@@ -653,7 +653,7 @@
     </message>
     <message>
         <source>Unit of the offsets: pixels, millimetres, centimetres, inches, picas, points</source>
-        <translation>Unité des décalages : pixels, millimètres, centimètres, pouces, picas, points</translation>
+        <translation>Unité des décalages : pixels, millimètres, centimètres, pouces, picas, points</translation>
     </message>
     <message>
         <source>Resolution used for lengths</source>
@@ -676,7 +676,7 @@
     </message>
     <message>
         <source>Pictures appear one at a time; press a key to send each one to a folder.</source>
-        <translation>Les images s’affichent une à une ; une touche envoie chacune dans un dossier.</translation>
+        <translation>Les images s’affichent une à une ; une touche envoie chacune dans un dossier.</translation>
     </message>
     <message>
         <source>Add Pictures…</source>
@@ -1197,7 +1197,7 @@
     </message>
     <message>
         <source>Dry run: move nothing</source>
-        <translation>Essai à blanc : ne rien déplacer</translation>
+        <translation>Essai à blanc : ne rien déplacer</translation>
     </message>
     <message>
         <source>About dry runs</source>
@@ -1425,7 +1425,7 @@
     </message>
     <message>
         <source>Go to Convert, which can use them</source>
-        <translation>Passer à « Convertir », qui peut les utiliser</translation>
+        <translation>Passer à « Convertir », qui peut les utiliser</translation>
     </message>
     <message>
         <source>Try Sample Pictures</source>
@@ -1433,7 +1433,7 @@
     </message>
     <message>
         <source>Copies five pictures to the folder “Quorlin Samples” in your pictures folder</source>
-        <translation>Copie cinq images dans le dossier « Quorlin Samples » de votre dossier d’images</translation>
+        <translation>Copie cinq images dans le dossier « Quorlin Samples » de votre dossier d’images</translation>
     </message>
     <message>
         <source>&amp;Watch a Folder…</source>
@@ -1541,7 +1541,7 @@
     </message>
     <message>
         <source>Copy the files of the selected rows, or their results (in the list: Ctrl+C)</source>
-        <translation>Copier les fichiers des lignes sélectionnées ou leurs résultats (dans la liste : Ctrl+C)</translation>
+        <translation>Copier les fichiers des lignes sélectionnées ou leurs résultats (dans la liste : Ctrl+C)</translation>
     </message>
     <message>
         <source>Move &amp;Up</source>
@@ -1781,7 +1781,7 @@
     </message>
     <message>
         <source>Dry run: write nothing</source>
-        <translation>Essai à blanc : ne rien écrire</translation>
+        <translation>Essai à blanc : ne rien écrire</translation>
     </message>
     <message>
         <source>About dry runs</source>
@@ -1801,7 +1801,7 @@
     </message>
     <message>
         <source>Removes where the picture was taken: coordinates and place names</source>
-        <translation>Retire le lieu de prise de vue : coordonnées et noms de lieux</translation>
+        <translation>Retire le lieu de prise de vue : coordonnées et noms de lieux</translation>
     </message>
     <message>
         <source>Transparency</source>
@@ -2225,7 +2225,7 @@
     </message>
     <message>
         <source>No operations yet: pictures stay unchanged.</source>
-        <translation>Pas encore d’opération : les images restent inchangées.</translation>
+        <translation>Pas encore d’opération : les images restent inchangées.</translation>
     </message>
     <message>
         <source>+ Add Operation…</source>
@@ -2351,7 +2351,7 @@
     </message>
     <message>
         <source>No steps yet: names stay unchanged. Add a step or choose a preset.</source>
-        <translation>Pas encore d’étape : les noms restent inchangés. Ajoutez une étape ou choisissez un préréglage.</translation>
+        <translation>Pas encore d’étape : les noms restent inchangés. Ajoutez une étape ou choisissez un préréglage.</translation>
     </message>
     <message>
         <source>+ Add Step…</source>
@@ -2434,7 +2434,7 @@
     </message>
     <message>
         <source>Unit of the size: pixels, millimetres, centimetres, inches, picas, points</source>
-        <translation>Unité des dimensions : pixels, millimètres, centimètres, pouces, picas, points</translation>
+        <translation>Unité des dimensions : pixels, millimètres, centimètres, pouces, picas, points</translation>
     </message>
     <message>
         <source>Fit</source>
@@ -2529,7 +2529,7 @@
     </message>
     <message>
         <source>Border inside the picture; 0 means none</source>
-        <translation>Bordure à l’intérieur de l’image ; 0 : aucune</translation>
+        <translation>Bordure à l’intérieur de l’image ; 0 : aucune</translation>
     </message>
     <message>
         <source>Result</source>
@@ -2607,7 +2607,7 @@
     </message>
     <message>
         <source>Text and tokens in braces, with “/” between folder levels</source>
-        <translation>Texte et variables entre accolades, avec « / » entre les niveaux de dossiers</translation>
+        <translation>Texte et variables entre accolades, avec « / » entre les niveaux de dossiers</translation>
     </message>
     <message>
         <source>+</source>
@@ -2729,7 +2729,7 @@
     </message>
     <message>
         <source>Flip horizontally: swap left and right</source>
-        <translation>Miroir horizontal : échanger gauche et droite</translation>
+        <translation>Miroir horizontal : échanger gauche et droite</translation>
     </message>
     <message>
         <source>Swap left and right</source>
@@ -2741,7 +2741,7 @@
     </message>
     <message>
         <source>Flip vertically: swap top and bottom</source>
-        <translation>Miroir vertical : échanger haut et bas</translation>
+        <translation>Miroir vertical : échanger haut et bas</translation>
     </message>
     <message>
         <source>Swap top and bottom</source>
@@ -2911,7 +2911,7 @@
     </message>
     <message>
         <source>Processes that read pictures are confined by: %1.</source>
-        <translation>Les processus qui lisent les images sont confinés par : %1.</translation>
+        <translation>Les processus qui lisent les images sont confinés par : %1.</translation>
     </message>
     <message>
         <source>nothing</source>
@@ -2919,7 +2919,7 @@
     </message>
     <message>
         <source>Not available on this system: %1.</source>
-        <translation>Non disponible sur ce système : %1.</translation>
+        <translation>Non disponible sur ce système : %1.</translation>
     </message>
 </context>
 <context>
@@ -3090,7 +3090,7 @@
     </message>
     <message>
         <source>%1 pictures have no transparent parts, so a background would not be visible.</source>
-        <translation>Les images %1 n’ont pas de parties transparentes ; un fond ne serait donc pas visible.</translation>
+        <translation>Les images %1 n’ont pas de parties transparentes ; un fond ne serait donc pas visible.</translation>
     </message>
     <message>
         <source>“%1” cannot be read as a picture.</source>
@@ -3112,7 +3112,7 @@
     </message>
     <message>
         <source>smaller than asked for: the frame extends past the edge of the picture</source>
-        <translation>plus petit que demandé : le cadre dépasse le bord de l’image</translation>
+        <translation>plus petit que demandé : le cadre dépasse le bord de l’image</translation>
     </message>
 </context>
 <context>
@@ -3177,13 +3177,13 @@
     </message>
     <message>
         <source>This file has %1. Only the first page is kept; this cannot be undone.</source>
-        <translation>Ce fichier a %1. Seule la première page est gardée ; cela ne peut pas être annulé.</translation>
+        <translation>Ce fichier a %1. Seule la première page est gardée ; cela ne peut pas être annulé.</translation>
     </message>
     <message numerus="yes">
         <source>%n files with several pages are left out, since writing would remove %1: %2.</source>
         <translation>
-            <numerusform>%n fichier à plusieurs pages est laissé de côté, car l’écriture retirerait %1 : %2.</numerusform>
-            <numerusform>%n fichiers à plusieurs pages sont laissés de côté, car l’écriture retirerait %1 : %2.</numerusform>
+            <numerusform>%n fichier à plusieurs pages est laissé de côté, car l’écriture retirerait %1 : %2.</numerusform>
+            <numerusform>%n fichiers à plusieurs pages sont laissés de côté, car l’écriture retirerait %1 : %2.</numerusform>
         </translation>
     </message>
     <message>
@@ -3237,7 +3237,7 @@
     </message>
     <message>
         <source>Write your changes to %1?</source>
-        <translation>Écrire vos modifications dans %1 ?</translation>
+        <translation>Écrire vos modifications dans %1 ?</translation>
     </message>
     <message>
         <source>The comment has not been written yet.</source>
@@ -3301,7 +3301,7 @@
     </message>
     <message>
         <source>“%1” was cleared</source>
-        <translation>« %1 » a été effacé</translation>
+        <translation>« %1 » a été effacé</translation>
     </message>
     <message>
         <source>“%1” became “%2”</source>
@@ -3485,7 +3485,7 @@
     </message>
     <message>
         <source>Trim 5%</source>
-        <translation>Rogner 5 %</translation>
+        <translation>Rogner 5 %</translation>
     </message>
 </context>
 <context>
@@ -3496,7 +3496,7 @@
     </message>
     <message>
         <source>trim %1%</source>
-        <translation>rogner %1 %</translation>
+        <translation>rogner %1 %</translation>
     </message>
     <message numerus="yes">
         <source>trim %n pixels</source>
@@ -3569,7 +3569,7 @@
     </message>
     <message>
         <source>%1 stays unchanged: %2</source>
-        <translation>%1 reste inchangé : %2</translation>
+        <translation>%1 reste inchangé : %2</translation>
     </message>
     <message>
         <source>A part of %1 could not be removed</source>
@@ -3577,11 +3577,11 @@
     </message>
     <message>
         <source>%1; a copy is at %2</source>
-        <translation>%1 ; une copie se trouve dans %2</translation>
+        <translation>%1 ; une copie se trouve dans %2</translation>
     </message>
     <message>
         <source>%1 no longer exists; its partial copy is at %2</source>
-        <translation>%1 n’existe plus ; une copie partielle se trouve dans %2</translation>
+        <translation>%1 n’existe plus ; une copie partielle se trouve dans %2</translation>
     </message>
     <message>
         <source>%1 could not be moved aside</source>
@@ -3597,11 +3597,11 @@
     </message>
     <message>
         <source>The journal of this run is damaged: %1</source>
-        <translation>Le journal de ce traitement est endommagé : %1</translation>
+        <translation>Le journal de ce traitement est endommagé : %1</translation>
     </message>
     <message>
         <source>The name %1 is now in use; the item is called %2</source>
-        <translation>Le nom %1 est maintenant utilisé ; l’élément s’appelle %2</translation>
+        <translation>Le nom %1 est maintenant utilisé ; l’élément s’appelle %2</translation>
     </message>
     <message>
         <source>The run was interrupted</source>
@@ -4032,15 +4032,15 @@
     <message numerus="yes">
         <source>Undo %1 of %n Files</source>
         <translation>
-            <numerusform>Annuler « %1 » de %n fichier</numerusform>
-            <numerusform>Annuler « %1 » de %n fichiers</numerusform>
+            <numerusform>Annuler « %1 » de %n fichier</numerusform>
+            <numerusform>Annuler « %1 » de %n fichiers</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Redo %1 of %n Files</source>
         <translation>
-            <numerusform>Rétablir « %1 » de %n fichier</numerusform>
-            <numerusform>Rétablir « %1 » de %n fichiers</numerusform>
+            <numerusform>Rétablir « %1 » de %n fichier</numerusform>
+            <numerusform>Rétablir « %1 » de %n fichiers</numerusform>
         </translation>
     </message>
     <message>
@@ -4050,8 +4050,8 @@
     <message numerus="yes">
         <source>%1 of %n files belongs to an earlier session. Undo it?</source>
         <translation>
-            <numerusform>« %1 » de %n fichier date d’une session précédente. L’annuler ?</numerusform>
-            <numerusform>« %1 » de %n fichiers date d’une session précédente. L’annuler ?</numerusform>
+            <numerusform>« %1 » de %n fichier date d’une session précédente. L’annuler ?</numerusform>
+            <numerusform>« %1 » de %n fichiers date d’une session précédente. L’annuler ?</numerusform>
         </translation>
     </message>
     <message>
@@ -4202,20 +4202,20 @@
     </message>
     <message>
         <source>“%1” was not added: it is not a supported picture.</source>
-        <translation>« %1 » n’a pas été ajouté : ce n’est pas une image prise en charge.</translation>
+        <translation>« %1 » n’a pas été ajouté : ce n’est pas une image prise en charge.</translation>
     </message>
     <message numerus="yes">
         <source>%n files were not added: they are not supported pictures.</source>
         <translation>
-            <numerusform>%n fichier n’a pas été ajouté : ce n’est pas une image prise en charge.</numerusform>
-            <numerusform>%n fichiers n’ont pas été ajoutés : ce ne sont pas des images prises en charge.</numerusform>
+            <numerusform>%n fichier n’a pas été ajouté : ce n’est pas une image prise en charge.</numerusform>
+            <numerusform>%n fichiers n’ont pas été ajoutés : ce ne sont pas des images prises en charge.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n files are not shown because %1 cannot use them.</source>
         <translation>
-            <numerusform>%n fichier n’est pas affiché, car « %1 » ne peut pas l’utiliser.</numerusform>
-            <numerusform>%n fichiers ne sont pas affichés, car « %1 » ne peut pas les utiliser.</numerusform>
+            <numerusform>%n fichier n’est pas affiché, car « %1 » ne peut pas l’utiliser.</numerusform>
+            <numerusform>%n fichiers ne sont pas affichés, car « %1 » ne peut pas les utiliser.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -4247,20 +4247,20 @@
     </message>
     <message>
         <source>“%1” was not added: it is not a file.</source>
-        <translation>« %1 » n’a pas été ajouté : ce n’est pas un fichier.</translation>
+        <translation>« %1 » n’a pas été ajouté : ce n’est pas un fichier.</translation>
     </message>
     <message numerus="yes">
         <source>%n items were not added: they are not files.</source>
         <translation>
-            <numerusform>%n élément n’a pas été ajouté : ce n’est pas un fichier.</numerusform>
-            <numerusform>%n éléments n’ont pas été ajoutés : ce ne sont pas des fichiers.</numerusform>
+            <numerusform>%n élément n’a pas été ajouté : ce n’est pas un fichier.</numerusform>
+            <numerusform>%n éléments n’ont pas été ajoutés : ce ne sont pas des fichiers.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n folders are not shown because %1 cannot use them.</source>
         <translation>
-            <numerusform>%n dossier n’est pas affiché, car « %1 » ne peut pas l’utiliser.</numerusform>
-            <numerusform>%n dossiers ne sont pas affichés, car « %1 » ne peut pas les utiliser.</numerusform>
+            <numerusform>%n dossier n’est pas affiché, car « %1 » ne peut pas l’utiliser.</numerusform>
+            <numerusform>%n dossiers ne sont pas affichés, car « %1 » ne peut pas les utiliser.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -4292,13 +4292,13 @@
     </message>
     <message>
         <source>“%1” was not added: it is not a folder.</source>
-        <translation>« %1 » n’a pas été ajouté : ce n’est pas un dossier.</translation>
+        <translation>« %1 » n’a pas été ajouté : ce n’est pas un dossier.</translation>
     </message>
     <message numerus="yes">
         <source>%n files were not added: they are not folders.</source>
         <translation>
-            <numerusform>%n fichier n’a pas été ajouté : ce n’est pas un dossier.</numerusform>
-            <numerusform>%n fichiers n’ont pas été ajoutés : ce ne sont pas des dossiers.</numerusform>
+            <numerusform>%n fichier n’a pas été ajouté : ce n’est pas un dossier.</numerusform>
+            <numerusform>%n fichiers n’ont pas été ajoutés : ce ne sont pas des dossiers.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -4318,29 +4318,29 @@
     <message numerus="yes">
         <source>%1 was interrupted: %2 of %3 pictures are done.</source>
         <translation>
-            <numerusform>%1 a été interrompu : %2 image sur %3 est faite.</numerusform>
-            <numerusform>%1 a été interrompu : %2 images sur %3 sont faites.</numerusform>
+            <numerusform>%1 a été interrompu : %2 image sur %3 est faite.</numerusform>
+            <numerusform>%1 a été interrompu : %2 images sur %3 sont faites.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Undoing “%1” was interrupted: %2 of %3 files are done.</source>
         <translation>
-            <numerusform>L’annulation de « %1 » a été interrompue : %2 fichier sur %3 est fait.</numerusform>
-            <numerusform>L’annulation de « %1 » a été interrompue : %2 fichiers sur %3 sont faits.</numerusform>
+            <numerusform>L’annulation de « %1 » a été interrompue : %2 fichier sur %3 est fait.</numerusform>
+            <numerusform>L’annulation de « %1 » a été interrompue : %2 fichiers sur %3 sont faits.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 was interrupted: %2 of %3 files have their new names.</source>
         <translation>
-            <numerusform>%1 a été interrompu : %2 fichier sur %3 a son nouveau nom.</numerusform>
-            <numerusform>%1 a été interrompu : %2 fichiers sur %3 ont leur nouveau nom.</numerusform>
+            <numerusform>%1 a été interrompu : %2 fichier sur %3 a son nouveau nom.</numerusform>
+            <numerusform>%1 a été interrompu : %2 fichiers sur %3 ont leur nouveau nom.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 was interrupted: %2 of %3 files are done.</source>
         <translation>
-            <numerusform>%1 a été interrompu : %2 fichier sur %3 est fait.</numerusform>
-            <numerusform>%1 a été interrompu : %2 fichiers sur %3 sont faits.</numerusform>
+            <numerusform>%1 a été interrompu : %2 fichier sur %3 est fait.</numerusform>
+            <numerusform>%1 a été interrompu : %2 fichiers sur %3 sont faits.</numerusform>
         </translation>
     </message>
     <message>
@@ -4522,8 +4522,8 @@
     <message numerus="yes">
         <source>No entries yet. Each run is recorded here, and the last %Ln entries are kept.</source>
         <translation>
-            <numerusform>Pas encore d’entrée. Chaque traitement est consigné ici ; la dernière entrée est gardée.</numerusform>
-            <numerusform>Pas encore d’entrée. Chaque traitement est consigné ici ; les %Ln dernières entrées sont gardées.</numerusform>
+            <numerusform>Pas encore d’entrée. Chaque traitement est consigné ici ; la dernière entrée est gardée.</numerusform>
+            <numerusform>Pas encore d’entrée. Chaque traitement est consigné ici ; les %Ln dernières entrées sont gardées.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -4656,8 +4656,8 @@
     <message numerus="yes">
         <source>Opened %1, which contains the %n folders</source>
         <translation>
-            <numerusform>%1 est ouvert ; il contient le dossier</numerusform>
-            <numerusform>%1 est ouvert ; il contient les %n dossiers</numerusform>
+            <numerusform>%1 est ouvert ; il contient le dossier</numerusform>
+            <numerusform>%1 est ouvert ; il contient les %n dossiers</numerusform>
         </translation>
     </message>
 </context>
@@ -4665,7 +4665,7 @@
     <name>manual</name>
     <message>
         <source>“%1” was not found in the manual.</source>
-        <translation>« %1 » est introuvable dans le manuel.</translation>
+        <translation>« %1 » est introuvable dans le manuel.</translation>
     </message>
 </context>
 <context>
@@ -4707,7 +4707,7 @@
     <name>meta</name>
     <message>
         <source>"%1" cannot be the value of the field %2</source>
-        <translation>« %1 » ne peut pas être la valeur du champ %2</translation>
+        <translation>« %1 » ne peut pas être la valeur du champ %2</translation>
     </message>
     <message>
         <source>there is no field %1</source>
@@ -4723,7 +4723,7 @@
     </message>
     <message>
         <source>"%1" is no time zone</source>
-        <translation>« %1 » n’est pas un fuseau horaire</translation>
+        <translation>« %1 » n’est pas un fuseau horaire</translation>
     </message>
     <message>
         <source>there is no group %1</source>
@@ -4883,7 +4883,7 @@
     </message>
     <message>
         <source>Dry run: %1</source>
-        <translation>Essai à blanc : %1</translation>
+        <translation>Essai à blanc : %1</translation>
     </message>
     <message>
         <source>%1 left out</source>
@@ -4977,7 +4977,7 @@
     </message>
     <message>
         <source>a sidecar file cannot be moved: %1 is in its place</source>
-        <translation>un fichier annexe ne peut pas être déplacé : %1 occupe sa place</translation>
+        <translation>un fichier annexe ne peut pas être déplacé : %1 occupe sa place</translation>
     </message>
     <message>
         <source>a sidecar file cannot be moved</source>
@@ -5025,11 +5025,11 @@
     </message>
     <message>
         <source>stays: file already exists</source>
-        <translation>reste : le fichier existe déjà</translation>
+        <translation>reste : le fichier existe déjà</translation>
     </message>
     <message>
         <source>Existing file: %1</source>
-        <translation>Fichier existant : %1</translation>
+        <translation>Fichier existant : %1</translation>
     </message>
     <message>
         <source>sidecar file of %1</source>
@@ -5044,11 +5044,11 @@
     <name>moves</name>
     <message>
         <source>Dry Run: %1</source>
-        <translation>Essai à blanc : %1</translation>
+        <translation>Essai à blanc : %1</translation>
     </message>
     <message>
         <source>Planning: %1 of %2…</source>
-        <translation>Préparation : %1 sur %2…</translation>
+        <translation>Préparation : %1 sur %2…</translation>
     </message>
     <message>
         <source>%1 ready</source>
@@ -5085,7 +5085,7 @@
     </message>
     <message>
         <source>Dry run: move nothing</source>
-        <translation>Essai à blanc : ne rien déplacer</translation>
+        <translation>Essai à blanc : ne rien déplacer</translation>
     </message>
 </context>
 <context>
@@ -5500,7 +5500,7 @@
     </message>
     <message>
         <source>“%1” folder next to each picture</source>
-        <translation>Dossier « %1 » à côté de chaque image</translation>
+        <translation>Dossier « %1 » à côté de chaque image</translation>
     </message>
     <message>
         <source>Folder of the original</source>
@@ -5568,7 +5568,7 @@
     <name>pages</name>
     <message>
         <source>“%1” is nothing that pages know.</source>
-        <translation>« %1 » est inconnu pour les pages.</translation>
+        <translation>« %1 » est inconnu pour les pages.</translation>
     </message>
     <message>
         <source>Enter a width and a height of the paper from 20 to 2000 mm.</source>
@@ -5600,7 +5600,7 @@
     </message>
     <message>
         <source>No room is left for pictures: take fewer rows or columns, smaller margins or gaps.</source>
-        <translation>Il ne reste pas de place pour les images : prenez moins de lignes ou de colonnes, des marges ou des espaces plus petits.</translation>
+        <translation>Il ne reste pas de place pour les images : prenez moins de lignes ou de colonnes, des marges ou des espaces plus petits.</translation>
     </message>
     <message>
         <source>The pages could not be put together.</source>
@@ -5608,7 +5608,7 @@
     </message>
     <message>
         <source>The PDF cannot be written: %1</source>
-        <translation>Le PDF ne peut pas être écrit : %1</translation>
+        <translation>Le PDF ne peut pas être écrit : %1</translation>
     </message>
     <message>
         <source>It could not be made ready for the page.</source>
@@ -5661,7 +5661,7 @@
     </message>
     <message>
         <source>Cannot move %1 to the trash: no such file</source>
-        <translation>Impossible de mettre %1 à la corbeille : ce fichier n’existe pas</translation>
+        <translation>Impossible de mettre %1 à la corbeille : ce fichier n’existe pas</translation>
     </message>
     <message>
         <source>Cannot move %1 to the trash: %2</source>
@@ -6126,7 +6126,7 @@
     </message>
     <message>
         <source>%1: the result. Hold F to see the original.</source>
-        <translation>%1 : le résultat. Maintenez F pour voir l’original.</translation>
+        <translation>%1 : le résultat. Maintenez F pour voir l’original.</translation>
     </message>
 </context>
 <context>
@@ -6148,7 +6148,7 @@
     </message>
     <message>
         <source>Printing: %1</source>
-        <translation>Impression : %1</translation>
+        <translation>Impression : %1</translation>
     </message>
     <message numerus="yes">
         <source>%n pages</source>
@@ -6159,7 +6159,7 @@
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1 : %2</translation>
     </message>
     <message>
         <source>The file could not be written.</source>
@@ -7528,7 +7528,7 @@
     <name>recipe</name>
     <message>
         <source>%1 has no transparency: transparent parts become %2</source>
-        <translation>%1 n’a pas de transparence : les parties transparentes deviennent %2</translation>
+        <translation>%1 n’a pas de transparence : les parties transparentes deviennent %2</translation>
     </message>
     <message>
         <source>%1 has 8 bits for each channel, the picture more</source>
@@ -7580,7 +7580,7 @@
     </message>
     <message>
         <source>Pictures of this type can be read but not written; choose another type</source>
-        <translation>Les images de ce format peuvent être lues mais pas écrites ; choisissez un autre format</translation>
+        <translation>Les images de ce format peuvent être lues mais pas écrites ; choisissez un autre format</translation>
     </message>
     <message>
         <source>A picture of %1 × %2 pixels cannot be made</source>
@@ -7660,7 +7660,7 @@
     </message>
     <message>
         <source>two numbers separated by a colon such as 3:2, not "%1"</source>
-        <translation>deux nombres séparés par un deux-points comme 3:2, pas « %1 »</translation>
+        <translation>deux nombres séparés par un deux-points comme 3:2, pas « %1 »</translation>
     </message>
     <message>
         <source>it is required with %1</source>
@@ -7680,7 +7680,7 @@
     </message>
     <message>
         <source>there is no picture "%1"</source>
-        <translation>il n’y a pas d’image « %1 »</translation>
+        <translation>il n’y a pas d’image « %1 »</translation>
     </message>
     <message>
         <source>a text that is not empty</source>
@@ -7688,7 +7688,7 @@
     </message>
     <message>
         <source>there is no font "%1"</source>
-        <translation>il n’y a pas de police « %1 »</translation>
+        <translation>il n’y a pas de police « %1 »</translation>
     </message>
     <message>
         <source>it applies only with a text</source>
@@ -7696,7 +7696,7 @@
     </message>
     <message>
         <source>sRGB, Display P3, Adobe RGB, gray or the path of an ICC file, not "%1"</source>
-        <translation>sRGB, Display P3, Adobe RGB, gray ou le chemin d’un fichier ICC, pas « %1 »</translation>
+        <translation>sRGB, Display P3, Adobe RGB, gray ou le chemin d’un fichier ICC, pas « %1 »</translation>
     </message>
     <message>
         <source>The pixels cannot stay as they are</source>
@@ -7720,7 +7720,7 @@
     </message>
     <message>
         <source>a name without /; use folder for folders</source>
-        <translation>un nom sans / ; utilisez folder pour les dossiers</translation>
+        <translation>un nom sans / ; utilisez folder pour les dossiers</translation>
     </message>
     <message>
         <source>the version of the recipe is missing</source>
@@ -7740,7 +7740,7 @@
     </message>
     <message>
         <source>line %1: %2</source>
-        <translation>ligne %1 : %2</translation>
+        <translation>ligne %1 : %2</translation>
     </message>
     <message>
         <source>a recipe must be a JSON object</source>
@@ -7756,7 +7756,7 @@
     </message>
     <message>
         <source>%1 cannot be written: %2</source>
-        <translation>Impossible d’écrire %1 : %2</translation>
+        <translation>Impossible d’écrire %1 : %2</translation>
     </message>
     <message>
         <source>no free name found</source>
@@ -7788,11 +7788,11 @@
     </message>
     <message>
         <source>outputs: exactly one</source>
-        <translation>outputs : une seule</translation>
+        <translation>outputs : une seule</translation>
     </message>
     <message>
         <source>%1 cannot be started: %2</source>
-        <translation>Impossible de lancer %1 : %2</translation>
+        <translation>Impossible de lancer %1 : %2</translation>
     </message>
     <message>
         <source>a worker process ended while starting</source>
@@ -7816,7 +7816,7 @@
     </message>
     <message>
         <source>%1 with %2 megapixels needs more than 1.5 GB of memory; use at most %3, or choose another type</source>
-        <translation>Un %1 de %2 mégapixels demande plus de 1,5 Go de mémoire ; utilisez au plus %3, ou choisissez un autre format</translation>
+        <translation>Un %1 de %2 mégapixels demande plus de 1,5 Go de mémoire ; utilisez au plus %3, ou choisissez un autre format</translation>
     </message>
     <message>
         <source>it is up to date</source>
@@ -7935,7 +7935,7 @@
     </message>
     <message>
         <source>A recipe named “%1” already exists.</source>
-        <translation>Il y a déjà une recette « %1 ».</translation>
+        <translation>Il y a déjà une recette « %1 ».</translation>
     </message>
     <message>
         <source>%1 cannot be read.</source>
@@ -7943,7 +7943,7 @@
     </message>
     <message>
         <source>%1 is not a recipe: %2</source>
-        <translation>%1 n’est pas une recette : %2</translation>
+        <translation>%1 n’est pas une recette : %2</translation>
     </message>
     <message>
         <source>%1 could not be moved to the trash.</source>
@@ -8014,7 +8014,7 @@
     </message>
     <message>
         <source>Move the recipe “%1” to the trash?</source>
-        <translation>Mettre la recette « %1 » à la corbeille ?</translation>
+        <translation>Mettre la recette « %1 » à la corbeille ?</translation>
     </message>
     <message>
         <source>Your current settings are kept.</source>
@@ -8057,18 +8057,18 @@
     </message>
     <message>
         <source>It reads:</source>
-        <translation>Elle lit :</translation>
+        <translation>Elle lit :</translation>
     </message>
     <message>
         <source>It writes to:</source>
-        <translation>Elle écrit dans :</translation>
+        <translation>Elle écrit dans :</translation>
     </message>
 </context>
 <context>
     <name>recipe-plan</name>
     <message>
         <source>%1 of %2 files: %3</source>
-        <translation>%1 fichiers sur %2 : %3</translation>
+        <translation>%1 fichiers sur %2 : %3</translation>
     </message>
     <message>
         <source>replaces original</source>
@@ -8100,8 +8100,8 @@
     <message numerus="yes">
         <source>Dry run: %n files would be written</source>
         <translation>
-            <numerusform>Essai à blanc : %n fichier serait écrit</numerusform>
-            <numerusform>Essai à blanc : %n fichiers seraient écrits</numerusform>
+            <numerusform>Essai à blanc : %n fichier serait écrit</numerusform>
+            <numerusform>Essai à blanc : %n fichiers seraient écrits</numerusform>
         </translation>
     </message>
     <message>
@@ -8110,7 +8110,7 @@
     </message>
     <message>
         <source>%1 of %2 files: %3</source>
-        <translation>%1 fichiers sur %2 : %3</translation>
+        <translation>%1 fichiers sur %2 : %3</translation>
     </message>
     <message numerus="yes">
         <source>%n files made</source>
@@ -8291,7 +8291,7 @@
     </message>
     <message>
         <source>Trim %1%</source>
-        <translation>Rogner %1 %</translation>
+        <translation>Rogner %1 %</translation>
     </message>
     <message>
         <source>Trim %1 px</source>
@@ -8355,14 +8355,14 @@
     </message>
     <message>
         <source>Output %1: %2</source>
-        <translation>Sortie %1 : %2</translation>
+        <translation>Sortie %1 : %2</translation>
     </message>
 </context>
 <context>
     <name>recipes</name>
     <message>
         <source>Dry Run: %1</source>
-        <translation>Essai à blanc : %1</translation>
+        <translation>Essai à blanc : %1</translation>
     </message>
     <message numerus="yes">
         <source>Replace %n Originals</source>
@@ -8416,7 +8416,7 @@
     </message>
     <message>
         <source>%1 was interrupted and has been cleaned up</source>
-        <translation>« %1 » a été interrompu et a été nettoyé</translation>
+        <translation>« %1 » a été interrompu et a été nettoyé</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -8676,8 +8676,8 @@
     <message numerus="yes">
         <source>The counter needs more digits: the last number has %n.</source>
         <translation>
-            <numerusform>Le compteur demande plus de chiffres : le dernier numéro en a %n.</numerusform>
-            <numerusform>Le compteur demande plus de chiffres : le dernier numéro en a %n.</numerusform>
+            <numerusform>Le compteur demande plus de chiffres : le dernier numéro en a %n.</numerusform>
+            <numerusform>Le compteur demande plus de chiffres : le dernier numéro en a %n.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -8893,7 +8893,7 @@
     </message>
     <message>
         <source>%1%</source>
-        <translation>à %1 %</translation>
+        <translation>à %1 %</translation>
     </message>
     <message>
         <source>box %1</source>
@@ -9099,23 +9099,23 @@
     <name>run-signs</name>
     <message>
         <source>When done: nothing</source>
-        <translation>À la fin : rien</translation>
+        <translation>À la fin : rien</translation>
     </message>
     <message>
         <source>When done: open folder</source>
-        <translation>À la fin : ouvrir le dossier</translation>
+        <translation>À la fin : ouvrir le dossier</translation>
     </message>
     <message>
         <source>When done: close</source>
-        <translation>À la fin : fermer</translation>
+        <translation>À la fin : fermer</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1 : %2</translation>
     </message>
     <message>
         <source>%1: started</source>
-        <translation>%1 : commencé</translation>
+        <translation>%1 : commencé</translation>
     </message>
 </context>
 <context>
@@ -9198,7 +9198,7 @@
     </message>
     <message>
         <source>Simulation: %1 would be written</source>
-        <translation>Simulation : %1 serait écrit</translation>
+        <translation>Simulation : %1 serait écrit</translation>
     </message>
     <message numerus="yes">
         <source>%n pages</source>
@@ -9229,7 +9229,7 @@
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1 : %2</translation>
     </message>
     <message>
         <source>%1 failed</source>
@@ -9244,7 +9244,7 @@
     <name>sheets</name>
     <message>
         <source>Simulate: %1</source>
-        <translation>Simuler : %1</translation>
+        <translation>Simuler : %1</translation>
     </message>
     <message>
         <source>%1 is replaced.</source>
@@ -9256,7 +9256,7 @@
     </message>
     <message>
         <source>Simulation: show, write nothing</source>
-        <translation>Simulation : montrer, ne rien écrire</translation>
+        <translation>Simulation : montrer, ne rien écrire</translation>
     </message>
 </context>
 <context>
@@ -9299,11 +9299,11 @@
     </message>
     <message>
         <source>the page was not made: %1</source>
-        <translation>la page n’a pas été créée : %1</translation>
+        <translation>la page n’a pas été créée : %1</translation>
     </message>
     <message>
         <source>The page was not made: %1</source>
-        <translation>La page n’a pas été créée : %1</translation>
+        <translation>La page n’a pas été créée : %1</translation>
     </message>
 </context>
 <context>
@@ -9559,11 +9559,11 @@
     </message>
     <message>
         <source>no date taken: not moved</source>
-        <translation>sans date : non déplacé</translation>
+        <translation>sans date : non déplacé</translation>
     </message>
     <message>
         <source>a file already has this folder name: %1</source>
-        <translation>un fichier porte déjà le nom du dossier : %1</translation>
+        <translation>un fichier porte déjà le nom du dossier : %1</translation>
     </message>
     <message>
         <source>The file has no date taken.</source>
@@ -9706,7 +9706,7 @@
     </message>
     <message>
         <source>“%1” is not a valid folder name.</source>
-        <translation>« %1 » n’est pas un nom de dossier valide.</translation>
+        <translation>« %1 » n’est pas un nom de dossier valide.</translation>
     </message>
     <message>
         <source>Undated</source>
@@ -9766,8 +9766,8 @@
     <message numerus="yes">
         <source>Only failed pictures are shown: %n</source>
         <translation>
-            <numerusform>Seules les images en échec sont affichées : %n</numerusform>
-            <numerusform>Seules les images en échec sont affichées : %n</numerusform>
+            <numerusform>Seules les images en échec sont affichées : %n</numerusform>
+            <numerusform>Seules les images en échec sont affichées : %n</numerusform>
         </translation>
     </message>
     <message>
@@ -10141,11 +10141,11 @@
     </message>
     <message>
         <source>Already %1: no pixel changes.</source>
-        <translation>Déjà au format %1 : aucun pixel ne change.</translation>
+        <translation>Déjà au format %1 : aucun pixel ne change.</translation>
     </message>
     <message>
         <source>Already %1: it will be encoded again.</source>
-        <translation>Déjà au format %1 : sera encodé de nouveau.</translation>
+        <translation>Déjà au format %1 : sera encodé de nouveau.</translation>
     </message>
     <message>
         <source>1 – smallest file</source>
@@ -10240,19 +10240,19 @@
     </message>
     <message>
         <source>“%1” is not a valid date format. Use yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss</source>
-        <translation>« %1 » n’est pas un format de date valide. Utilisez yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss</translation>
+        <translation>« %1 » n’est pas un format de date valide. Utilisez yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss</translation>
     </message>
     <message>
         <source>“%1” is not a valid start number</source>
-        <translation>« %1 » n’est pas un numéro de départ valide</translation>
+        <translation>« %1 » n’est pas un numéro de départ valide</translation>
     </message>
     <message>
         <source>“%1” does not select part of a name. Use a number of characters, “word”, or “~” and words separated by commas</source>
-        <translation>« %1 » ne sélectionne aucune partie d’un nom. Utilisez un nombre de caractères, « word », ou « ~ » et des mots séparés par des virgules</translation>
+        <translation>« %1 » ne sélectionne aucune partie d’un nom. Utilisez un nombre de caractères, « word », ou « ~ » et des mots séparés par des virgules</translation>
     </message>
     <message>
         <source>“%1” is not a valid size format. Use “class” or “MB”</source>
-        <translation>« %1 » n’est pas un format de poids valide. Utilisez « class » ou « MB »</translation>
+        <translation>« %1 » n’est pas un format de poids valide. Utilisez « class » ou « MB »</translation>
     </message>
     <message>
         <source>{%1} takes no format. Remove the colon and what follows it</source>
@@ -10391,7 +10391,7 @@
     </message>
     <message>
         <source>line %1: %2</source>
-        <translation>ligne %1 : %2</translation>
+        <translation>ligne %1 : %2</translation>
     </message>
 </context>
 <context>
@@ -10566,11 +10566,11 @@
     <name>watching</name>
     <message>
         <source>Pictures in a watched folder are written at once: turn the dry run off first.</source>
-        <translation>Les images d’un dossier surveillé sont écrites aussitôt : désactivez d’abord l’essai à blanc.</translation>
+        <translation>Les images d’un dossier surveillé sont écrites aussitôt : désactivez d’abord l’essai à blanc.</translation>
     </message>
     <message>
         <source>A watched folder cannot ask: choose to keep both or to skip existing files.</source>
-        <translation>Un dossier surveillé ne peut rien demander : choisissez de garder les deux ou d’ignorer les fichiers existants.</translation>
+        <translation>Un dossier surveillé ne peut rien demander : choisissez de garder les deux ou d’ignorer les fichiers existants.</translation>
     </message>
     <message>
         <source>Watch a folder</source>
@@ -10586,15 +10586,15 @@
     </message>
     <message>
         <source>The folder cannot be watched: %1</source>
-        <translation>Le dossier ne peut pas être surveillé : %1</translation>
+        <translation>Le dossier ne peut pas être surveillé : %1</translation>
     </message>
     <message>
         <source>The folder “%1” no longer exists and is no longer watched.</source>
-        <translation>Le dossier « %1 » a disparu et n’est plus surveillé.</translation>
+        <translation>Le dossier « %1 » a disparu et n’est plus surveillé.</translation>
     </message>
     <message>
         <source>Watching “%1”</source>
-        <translation>Surveillance de « %1 »</translation>
+        <translation>Surveillance de « %1 »</translation>
     </message>
     <message>
         <source>%1 done</source>
@@ -10745,7 +10745,7 @@
     </message>
     <message>
         <source>The picture “%1” no longer exists.</source>
-        <translation>L’image « %1 » n’existe plus.</translation>
+        <translation>L’image « %1 » n’existe plus.</translation>
     </message>
     <message>
         <source>“%1” cannot be read as a picture.</source>
@@ -10753,15 +10753,15 @@
     </message>
     <message>
         <source>Enter a size from 0.1% to 100%.</source>
-        <translation>Saisissez une taille de 0,1 % à 100 %.</translation>
+        <translation>Saisissez une taille de 0,1 % à 100 %.</translation>
     </message>
     <message>
         <source>Enter a margin from 0% to 100%.</source>
-        <translation>Saisissez une marge de 0 % à 100 %.</translation>
+        <translation>Saisissez une marge de 0 % à 100 %.</translation>
     </message>
     <message>
         <source>Enter an opacity from 1% to 100%.</source>
-        <translation>Saisissez une opacité de 1 % à 100 %.</translation>
+        <translation>Saisissez une opacité de 1 % à 100 %.</translation>
     </message>
     <message>
         <source>Enter an angle from -180 to 180 degrees.</source>
@@ -10776,11 +10776,11 @@
     </message>
     <message>
         <source>%1 is no page that Quorlin made; it is left as it is.</source>
-        <translation>%1 n’est pas une page créée par Quorlin ; elle reste telle quelle.</translation>
+        <translation>%1 n’est pas une page créée par Quorlin ; elle reste telle quelle.</translation>
     </message>
     <message>
         <source>%1 was changed by somebody else since; it is left as it is.</source>
-        <translation>%1 a été modifié depuis par quelqu’un d’autre ; il reste tel quel.</translation>
+        <translation>%1 a été modifié depuis par quelqu’un d’autre ; il reste tel quel.</translation>
     </message>
     <message>
         <source>The page could not be written.</source>
@@ -10876,7 +10876,7 @@
     </message>
     <message>
         <source>%1%</source>
-        <translation>%1 %</translation>
+        <translation>%1 %</translation>
     </message>
 </context>
 <context>
@@ -11019,7 +11019,7 @@
     </message>
     <message>
         <source>The print system did not take the pages: %1</source>
-        <translation>Le système d’impression n’a pas accepté les pages : %1</translation>
+        <translation>Le système d’impression n’a pas accepté les pages : %1</translation>
     </message>
 </context>
 <context>
@@ -11107,7 +11107,7 @@
     <name>window::StartUp</name>
     <message>
         <source>Quorlin cannot start: a script of its interface failed.</source>
-        <translation>Quorlin ne peut pas démarrer : un script de son interface a échoué.</translation>
+        <translation>Quorlin ne peut pas démarrer : un script de son interface a échoué.</translation>
     </message>
 </context>
 <context>
@@ -11162,7 +11162,7 @@
     <name>write-plan</name>
     <message>
         <source>file exists: will ask</source>
-        <translation>le fichier existe : question à venir</translation>
+        <translation>le fichier existe : question à venir</translation>
     </message>
     <message>
         <source>replaces original</source>
@@ -11189,7 +11189,7 @@
     </message>
     <message>
         <source>“%1” already exists in this folder.</source>
-        <translation>« %1 » existe déjà dans ce dossier.</translation>
+        <translation>« %1 » existe déjà dans ce dossier.</translation>
     </message>
     <message>
         <source>Keep Both</source>
@@ -11237,8 +11237,8 @@
     <message numerus="yes">
         <source>Dry run: %n pictures would be written</source>
         <translation>
-            <numerusform>Essai à blanc : %n image serait écrite</numerusform>
-            <numerusform>Essai à blanc : %n images seraient écrites</numerusform>
+            <numerusform>Essai à blanc : %n image serait écrite</numerusform>
+            <numerusform>Essai à blanc : %n images seraient écrites</numerusform>
         </translation>
     </message>
     <message>
@@ -11298,7 +11298,7 @@
     </message>
     <message>
         <source>The replaced files (%1) go to the trash. Undo brings them back.</source>
-        <translation>Les fichiers remplacés (%1) vont à la corbeille. « Annuler » les ramène.</translation>
+        <translation>Les fichiers remplacés (%1) vont à la corbeille. « Annuler » les ramène.</translation>
     </message>
     <message>
         <source>The disk is full</source>
@@ -11333,7 +11333,7 @@
     <name>writes</name>
     <message>
         <source>Dry Run: %1</source>
-        <translation>Essai à blanc : %1</translation>
+        <translation>Essai à blanc : %1</translation>
     </message>
     <message numerus="yes">
         <source>Replace %n Originals</source>
@@ -11355,7 +11355,7 @@
     </message>
     <message>
         <source>Dry run: write nothing</source>
-        <translation>Essai à blanc : ne rien écrire</translation>
+        <translation>Essai à blanc : ne rien écrire</translation>
     </message>
 </context>
 <context>
@@ -11366,7 +11366,7 @@
     </message>
     <message>
         <source>“%1” is not a valid folder name.</source>
-        <translation>« %1 » n’est pas un nom de dossier valide.</translation>
+        <translation>« %1 » n’est pas un nom de dossier valide.</translation>
     </message>
     <message>
         <source>%1 cannot be written, choose another file type</source>

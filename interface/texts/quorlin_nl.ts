@@ -3485,7 +3485,7 @@
     </message>
     <message>
         <source>Trim 5%</source>
-        <translation>Randen 5 % inkorten</translation>
+        <translation>Randen 5% inkorten</translation>
     </message>
 </context>
 <context>
@@ -3496,7 +3496,7 @@
     </message>
     <message>
         <source>trim %1%</source>
-        <translation>%1 % afsnijden</translation>
+        <translation>%1% afsnijden</translation>
     </message>
     <message numerus="yes">
         <source>trim %n pixels</source>
@@ -4707,7 +4707,7 @@
     <name>meta</name>
     <message>
         <source>"%1" cannot be the value of the field %2</source>
-        <translation>‘%1’ kan niet de waarde van het veld %2 zijn</translation>
+        <translation>“%1” kan niet de waarde van het veld %2 zijn</translation>
     </message>
     <message>
         <source>there is no field %1</source>
@@ -4723,7 +4723,7 @@
     </message>
     <message>
         <source>"%1" is no time zone</source>
-        <translation>‘%1’ is geen tijdzone</translation>
+        <translation>“%1” is geen tijdzone</translation>
     </message>
     <message>
         <source>there is no group %1</source>
@@ -8291,7 +8291,7 @@
     </message>
     <message>
         <source>Trim %1%</source>
-        <translation>%1 % afsnijden</translation>
+        <translation>%1% afsnijden</translation>
     </message>
     <message>
         <source>Trim %1 px</source>
