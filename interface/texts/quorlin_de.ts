@@ -9197,8 +9197,8 @@
         <translation>Vor der ersten Seite abgebrochen. Es wurde nichts geschrieben.</translation>
     </message>
     <message>
-        <source>Simulation: %1 would be written</source>
-        <translation>Simulation: %1 würde geschrieben</translation>
+        <source>Dry run: %1 would be written</source>
+        <translation>Probelauf: %1 würde geschrieben</translation>
     </message>
     <message numerus="yes">
         <source>%n pages</source>
@@ -9243,8 +9243,8 @@
 <context>
     <name>sheets</name>
     <message>
-        <source>Simulate: %1</source>
-        <translation>Simulieren: %1</translation>
+        <source>Dry Run: %1</source>
+        <translation>Probelauf: %1</translation>
     </message>
     <message>
         <source>%1 is replaced.</source>
@@ -9255,8 +9255,8 @@
         <translation>Als %1</translation>
     </message>
     <message>
-        <source>Simulation: show, write nothing</source>
-        <translation>Simulation: zeigen, nichts schreiben</translation>
+        <source>Dry run: write nothing</source>
+        <translation>Probelauf: nichts schreiben</translation>
     </message>
 </context>
 <context>

@@ -9197,8 +9197,8 @@
         <translation>Annulé avant la première page. Rien n’a été écrit.</translation>
     </message>
     <message>
-        <source>Simulation: %1 would be written</source>
-        <translation>Simulation : %1 serait écrit</translation>
+        <source>Dry run: %1 would be written</source>
+        <translation>Essai à blanc : %1 serait écrit</translation>
     </message>
     <message numerus="yes">
         <source>%n pages</source>
@@ -9243,8 +9243,8 @@
 <context>
     <name>sheets</name>
     <message>
-        <source>Simulate: %1</source>
-        <translation>Simuler : %1</translation>
+        <source>Dry Run: %1</source>
+        <translation>Essai à blanc : %1</translation>
     </message>
     <message>
         <source>%1 is replaced.</source>
@@ -9255,8 +9255,8 @@
         <translation>Sous le nom %1</translation>
     </message>
     <message>
-        <source>Simulation: show, write nothing</source>
-        <translation>Simulation : montrer, ne rien écrire</translation>
+        <source>Dry run: write nothing</source>
+        <translation>Essai à blanc : ne rien écrire</translation>
     </message>
 </context>
 <context>

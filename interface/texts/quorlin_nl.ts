@@ -9197,8 +9197,8 @@
         <translation>Geannuleerd vóór de eerste pagina. Er is niets geschreven.</translation>
     </message>
     <message>
-        <source>Simulation: %1 would be written</source>
-        <translation>Simulatie: %1 zou worden geschreven</translation>
+        <source>Dry run: %1 would be written</source>
+        <translation>Proefrun: %1 zou worden geschreven</translation>
     </message>
     <message numerus="yes">
         <source>%n pages</source>
@@ -9243,8 +9243,8 @@
 <context>
     <name>sheets</name>
     <message>
-        <source>Simulate: %1</source>
-        <translation>Simuleren: %1</translation>
+        <source>Dry Run: %1</source>
+        <translation>Proefrun: %1</translation>
     </message>
     <message>
         <source>%1 is replaced.</source>
@@ -9255,8 +9255,8 @@
         <translation>Als %1</translation>
     </message>
     <message>
-        <source>Simulation: show, write nothing</source>
-        <translation>Simulatie: tonen, niets schrijven</translation>
+        <source>Dry run: write nothing</source>
+        <translation>Proefrun: niets schrijven</translation>
     </message>
 </context>
 <context>

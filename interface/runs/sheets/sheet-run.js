@@ -63,7 +63,7 @@ export class SheetRun extends BaseRun {
         if (plan.item.status !== "ready") {
             this.finish(statusText(plan.item.status, plan.item.reason));
         } else if (this.settings.output.simulation) {
-            this.finish([fill(qsTr("Simulation: %1 would be written"), plan.item.name),
+            this.finish([fill(qsTr("Dry run: %1 would be written"), plan.item.name),
                          qsTr("%n pages", "", plan.pages), qsTr("nothing was written")].join(" · "));
         } else {
             this.carryOut();

@@ -10,7 +10,7 @@ function startText(window) {
         return window.action.title();
     }
     const text = window.action.startText(pages);
-    return window.settings.output.simulation ? fill(qsTr("Simulate: %1"), text) : text;
+    return window.settings.output.simulation ? fill(qsTr("Dry Run: %1"), text) : text;
 }
 
 function startNote(window) {
@@ -35,6 +35,6 @@ export const SHEETS = {
     startText: startText,
     startNote: startNote,
     isReady: (window) => window.pictures.tickedCount > 0 && window.pictures.settled,
-    simulationText: () => qsTr("Simulation: show, write nothing"),
+    simulationText: () => qsTr("Dry run: write nothing"),
     replaces: () => false,
 };

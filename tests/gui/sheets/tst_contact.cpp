@@ -191,9 +191,9 @@ void Contact::simulates()
     addSome(3);
     m_driver->control<QCheckBox>("simulation")->click();
     QVERIFY(m_driver->waitFor([&] {
-        return m_driver->control<QAbstractButton>("startButton")->text() == QStringLiteral("Simulate: Make 1 Page");
+        return m_driver->control<QAbstractButton>("startButton")->text() == QStringLiteral("Dry Run: Make 1 Page");
     }));
-    QCOMPARE(run(), QStringLiteral("Simulation: Contact sheet.pdf would be written · 1 page · nothing was written"));
+    QCOMPARE(run(), QStringLiteral("Dry run: Contact sheet.pdf would be written · 1 page · nothing was written"));
     QCOMPARE(filesBeside(), QStringList());
 }
 
