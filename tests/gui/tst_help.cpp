@@ -212,7 +212,7 @@ private Q_SLOTS:
         clock.start();
         m_driver->trigger("updateAction");
         QVERIFY2(clock.elapsed() < 900, qPrintable(QString::number(clock.elapsed())));
-        m_driver->waitFor([&] { return m_driver->text("statusText").contains(QStringLiteral("Nobody")); });
+        m_driver->waitFor([&] { return m_driver->text("statusText").contains(QStringLiteral("Could not")); });
         QVERIFY2(m_driver->text("statusText").contains(QStringLiteral("Could not reach")),
                  qPrintable(m_driver->text("statusText")));
         QVERIFY(!QApplication::activeModalWidget());
