@@ -138,9 +138,10 @@ QString refusalFor(const OutputPlan &plan, const RecipeOutput &output, const Sta
     const double megapixels = double(plan.size.width()) * plan.size.height() / million;
     if (need <= most)
         return {};
-    return sentence(QT_TRANSLATE_NOOP(
-                        "recipe",
-                        "%1 with %2 megapixels needs more than 1.5 GB of memory; use at most %3, or choose another type"))
+    return sentence(
+               QT_TRANSLATE_NOOP(
+                   "recipe",
+                   "%1 with %2 megapixels needs more than 1.5 GB of memory; use at most %3, or choose another type"))
         .arg(writtenType(plan.type).word, QString::number(megapixels, 'f', 0),
              QString::number(std::floor(megapixels * double(most) / double(need)), 'f', 0));
 }
