@@ -1639,6 +1639,10 @@ declare module "quorlin/shell" {
         chooseNewFile(title: text, folder: text, name: text, extension: text): string | null;
         /** False where there is no file manager. */
         openFolder(folder: text): boolean;
+        /** With the program that the desktop has for its kind; false where there is none. */
+        openFile(path: text): boolean;
+        /** Gone when the program ends; empty where none can be made. */
+        temporaryFolder(): string;
         /** Shows a file in its folder. */
         showInFolder(path: text): null;
         /** Files that were copied, or lines of text that are paths. */
@@ -2096,6 +2100,21 @@ declare module "quorlin/shell" {
         drawAnew(): null;
     }
 
+    /** A sketch of a web page in its style and colours, by daylight and in the dark. */
+    export interface PageSketch extends Widget {
+        /** "grid", "rows" or "story"; any other word is passed over. */
+        style: string;
+        /** "#rrggbb" */
+        lightPaper: string;
+        darkPaper: string;
+        accent: string;
+        title: string;
+        fromRight: boolean;
+        captions: boolean;
+        /** Width by height of the first pictures; usual ones where there are none. */
+        setRatios(ratios: list): null;
+    }
+
     /** A list of pages to choose one from. */
     export interface PageList extends Widget {
         /** None where there is none of that name. */
@@ -2320,7 +2339,7 @@ declare module "quorlin/shell" {
     type AnyControl = Widget & Action & Button & Label & LineEdit & TextEdit & ComboBox & SpinBox & NumberBox & DateBox &
         ProgressBar & Stack & AngleDial & CardHandle & ChipLabel & ColorWell & ComparePreview & DropTarget &
         FolderTree & LogTable & ManualView & PageList & PagesView & PictureTable & PositionPad & PropertyTree & RunList &
-        SearchMenu & SegmentedControl & SideBar & SlotList & StepPicture;
+        SearchMenu & SegmentedControl & SideBar & SlotList & StepPicture & PageSketch;
 }
 
 /** What windows ask about the program itself, and printing. */

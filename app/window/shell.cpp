@@ -242,6 +242,18 @@ bool Shell::openFolder(const QString &folder)
     return QDesktopServices::openUrl(QUrl::fromLocalFile(folder));
 }
 
+bool Shell::openFile(const QString &path)
+{
+    return QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+}
+
+QString Shell::temporaryFolder()
+{
+    if (!m_temporary)
+        m_temporary = std::make_unique<QTemporaryDir>();
+    return m_temporary->isValid() ? m_temporary->path() : QStringLiteral("");
+}
+
 void Shell::showInFolder(const QString &path)
 {
     window::showInFolder(path);

@@ -16,6 +16,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QStringList>
+#include <QTemporaryDir>
 #include <QVariant>
 #include <QWidget>
 
@@ -101,6 +102,10 @@ public:
                                        const QString &extension);
     /** Shows a folder in the file manager; false where there is none. */
     Q_INVOKABLE bool openFolder(const QString &folder);
+    /** Opens a file with the program that the desktop has for its kind; false where there is none. */
+    Q_INVOKABLE bool openFile(const QString &path);
+    /** A folder for what is of no use once the program has ended, and gone then; empty where none can be made. */
+    Q_INVOKABLE QString temporaryFolder();
     /** Shows a file in its folder; see window::showInFolder(). */
     Q_INVOKABLE void showInFolder(const QString &path);
     /** Local paths on the clipboard: files that were copied, or lines of text that are paths. */
@@ -134,6 +139,7 @@ private:
     Form *m_mainForm = nullptr;
     ZtFFullScreen m_fullScreen;
     std::unique_ptr<MainFrame> m_mainFrame;
+    std::unique_ptr<QTemporaryDir> m_temporary;
 };
 
 } // namespace window

@@ -36,6 +36,7 @@ import { round } from "./round/round-action.js";
 import { sort } from "./sort/sort-action.js";
 import { turn } from "./turn/turn-action.js";
 import { watermark } from "./watermark/watermark-action.js";
+import { web } from "./web/web-action.js";
 
 export const GROUPS = [
     {
@@ -57,6 +58,7 @@ export const GROUPS = [
             rename,
             sort,
             hand,
+            web,
             contact,
         ],
     },

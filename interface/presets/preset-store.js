@@ -233,7 +233,7 @@ export class PresetStore {
             throw new Error("A preset has " + FIELDS + " values");
         }
         try {
-            this.makeDb().insertSortingPresetToDB01(row);
+            this.insertInto(this.makeDb(), row);
         } catch (error) {
             if (error.name !== "InternalInconsistency") {
                 throw error;
@@ -241,6 +241,17 @@ export class PresetStore {
             return this.writeProblem();
         }
         return "";
+    }
+
+    // Each kind has its own operation, which all do the same.
+    insertInto(db, row) {
+        const isPage = Object.keys(this.kinds).some((name) => this.kinds[name].form.isPage === true
+                                                              && this.kinds[name].form.process === row[1]);
+        if (isPage) {
+            db.insertHTMLPresetToDB01(row);
+        } else {
+            db.insertSortingPresetToDB01(row);
+        }
     }
 
     // The number of the newest row with that name in the process of the action, if it is a ready preset; else "".

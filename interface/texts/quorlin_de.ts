@@ -854,6 +854,221 @@
     </message>
 </context>
 <context>
+    <name>WebPane</name>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Title of the page</source>
+        <translation>Titel der Seite</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Text above the pictures</source>
+        <translation>Text über den Bildern</translation>
+    </message>
+    <message>
+        <source>Style</source>
+        <translation>Stil</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>Raster</translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation>Reihen</translation>
+    </message>
+    <message>
+        <source>Story</source>
+        <translation>Erzählung</translation>
+    </message>
+    <message>
+        <source>How the pictures lie</source>
+        <translation>Wie die Bilder liegen</translation>
+    </message>
+    <message>
+        <source>Sketch of the page</source>
+        <translation>Skizze der Seite</translation>
+    </message>
+    <message>
+        <source>Captions</source>
+        <translation>Bildtexte</translation>
+    </message>
+    <message>
+        <source>Pattern of all captions</source>
+        <translation>Muster aller Bildtexte</translation>
+    </message>
+    <message>
+        <source>Insert a value</source>
+        <translation>Wert einfügen</translation>
+    </message>
+    <message>
+        <source>This picture</source>
+        <translation>Dieses Bild</translation>
+    </message>
+    <message>
+        <source>Caption of the current picture</source>
+        <translation>Text des aktuellen Bildes</translation>
+    </message>
+    <message>
+        <source>As above</source>
+        <translation>Wie oben</translation>
+    </message>
+    <message>
+        <source>Forget what was typed for this picture</source>
+        <translation>Vergessen, was für dieses Bild getippt wurde</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Farben</translation>
+    </message>
+    <message>
+        <source>Paper by daylight</source>
+        <translation>Papier bei Tag</translation>
+    </message>
+    <message>
+        <source>Paper in the dark</source>
+        <translation>Papier bei Nacht</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Colour of links</source>
+        <translation>Farbe der Links</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>Language of the page</source>
+        <translation>Sprache der Seite</translation>
+    </message>
+    <message>
+        <source>Direction of writing</source>
+        <translation>Schreibrichtung</translation>
+    </message>
+    <message>
+        <source>Longest side</source>
+        <translation>Längste Seite</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>Klein</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Mittel</translation>
+    </message>
+    <message>
+        <source>Large</source>
+        <translation>Groß</translation>
+    </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
+    <message>
+        <source>Three sizes</source>
+        <translation>Drei Größen</translation>
+    </message>
+    <message>
+        <source>Without it there are a small and a large file of each picture</source>
+        <translation>Ohne dies gibt es von jedem Bild eine kleine und eine große Datei</translation>
+    </message>
+    <message>
+        <source>File type</source>
+        <translation>Dateityp</translation>
+    </message>
+    <message>
+        <source>File type of the pictures</source>
+        <translation>Dateityp der Bilder</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualität</translation>
+    </message>
+    <message>
+        <source>Sharpen a little</source>
+        <translation>Etwas schärfen</translation>
+    </message>
+    <message>
+        <source>Metadata</source>
+        <translation>Metadaten</translation>
+    </message>
+    <message>
+        <source>Metadata of the pictures</source>
+        <translation>Metadaten der Bilder</translation>
+    </message>
+    <message>
+        <source>Tell where pictures were taken</source>
+        <translation>Sagen, wo Bilder entstanden</translation>
+    </message>
+    <message>
+        <source>Places stay in the metadata, and captions may name them</source>
+        <translation>Orte bleiben in den Metadaten, und Bildtexte dürfen sie nennen</translation>
+    </message>
+    <message>
+        <source>Offer the pictures for download</source>
+        <translation>Bilder zum Herunterladen anbieten</translation>
+    </message>
+    <message>
+        <source>Save in</source>
+        <translation>Sichern in</translation>
+    </message>
+    <message>
+        <source>Folder that the page is made in</source>
+        <translation>Ordner, in dem die Seite entsteht</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Name of the folder of the page</source>
+        <translation>Name des Ordners der Seite</translation>
+    </message>
+    <message>
+        <source>If it exists</source>
+        <translation>Wenn vorhanden</translation>
+    </message>
+    <message>
+        <source>What happens if the folder exists</source>
+        <translation>Was geschieht, wenn der Ordner vorhanden ist</translation>
+    </message>
+    <message>
+        <source>Template</source>
+        <translation>Vorlage</translation>
+    </message>
+    <message>
+        <source>Template of the page</source>
+        <translation>Vorlage der Seite</translation>
+    </message>
+    <message>
+        <source>Open Preview</source>
+        <translation>Vorschau öffnen</translation>
+    </message>
+    <message>
+        <source>Shows the page with its first 12 pictures in the browser</source>
+        <translation>Zeigt die Seite mit ihren ersten 12 Bildern im Browser</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>–</source>
+        <translation>–</translation>
+    </message>
+</context>
+<context>
     <name>contact-action</name>
     <message>
         <source>Contact Sheet</source>
@@ -10769,6 +10984,24 @@
     </message>
 </context>
 <context>
+    <name>web-action</name>
+    <message>
+        <source>Web Page</source>
+        <translation>Webseite</translation>
+    </message>
+    <message>
+        <source>Making a web page</source>
+        <translation>Webseite wird erstellt</translation>
+    </message>
+    <message numerus="yes">
+        <source>Make Page of %n Pictures</source>
+        <translation>
+            <numerusform>Seite mit %n Bild erstellen</numerusform>
+            <numerusform>Seite mit %n Bildern erstellen</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>web-folder</name>
     <message>
         <source>The folder %1 cannot be written.</source>
@@ -10808,6 +11041,135 @@
     <message>
         <source>Template, %1</source>
         <translation>Vorlage, %1</translation>
+    </message>
+</context>
+<context>
+    <name>web-pane</name>
+    <message>
+        <source>Grid</source>
+        <translation>Raster</translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation>Reihen</translation>
+    </message>
+    <message>
+        <source>Story</source>
+        <translation>Erzählung</translation>
+    </message>
+    <message>
+        <source>That of Quorlin</source>
+        <translation>Die von Quorlin</translation>
+    </message>
+    <message>
+        <source>By language</source>
+        <translation>Nach Sprache</translation>
+    </message>
+    <message>
+        <source>Left to right</source>
+        <translation>Von links nach rechts</translation>
+    </message>
+    <message>
+        <source>Right to left</source>
+        <translation>Von rechts nach links</translation>
+    </message>
+    <message>
+        <source>Keep copyright only</source>
+        <translation>Nur Copyright behalten</translation>
+    </message>
+    <message>
+        <source>Keep all</source>
+        <translation>Alle behalten</translation>
+    </message>
+    <message>
+        <source>Remove all</source>
+        <translation>Alle entfernen</translation>
+    </message>
+    <message>
+        <source>Number the new folder</source>
+        <translation>Neuen Ordner nummerieren</translation>
+    </message>
+    <message>
+        <source>Update the page in it</source>
+        <translation>Seite darin aktualisieren</translation>
+    </message>
+    <message>
+        <source>Folder of the first picture</source>
+        <translation>Ordner des ersten Bildes</translation>
+    </message>
+    <message>
+        <source>Choose Folder…</source>
+        <translation>Ordner wählen…</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Choose File…</source>
+        <translation>Datei wählen…</translation>
+    </message>
+    <message>
+        <source>Save a Copy…</source>
+        <translation>Kopie sichern…</translation>
+    </message>
+    <message>
+        <source>Save the page in</source>
+        <translation>Seite sichern in</translation>
+    </message>
+    <message>
+        <source>Choose a template</source>
+        <translation>Vorlage wählen</translation>
+    </message>
+    <message>
+        <source>Save a copy of the template</source>
+        <translation>Kopie der Vorlage sichern</translation>
+    </message>
+    <message>
+        <source>Template saved as %1</source>
+        <translation>Vorlage gesichert als %1</translation>
+    </message>
+    <message>
+        <source>Add pictures first.</source>
+        <translation>Fügen Sie zuerst Bilder hinzu.</translation>
+    </message>
+    <message>
+        <source>Mend the settings first.</source>
+        <translation>Berichtigen Sie zuerst die Einstellungen.</translation>
+    </message>
+</context>
+<context>
+    <name>web-presets</name>
+    <message>
+        <source>Rows with captions</source>
+        <translation>Reihen mit Bildtexten</translation>
+    </message>
+    <message>
+        <source>Grid of squares</source>
+        <translation>Raster aus Quadraten</translation>
+    </message>
+    <message>
+        <source>Story on warm paper</source>
+        <translation>Erzählung auf warmem Papier</translation>
+    </message>
+    <message>
+        <source>For clients, with download</source>
+        <translation>Für Kunden, mit Herunterladen</translation>
+    </message>
+</context>
+<context>
+    <name>web-preview</name>
+    <message>
+        <source>Making the preview…</source>
+        <translation>Vorschau wird erstellt…</translation>
+    </message>
+    <message>
+        <source>no picture could be made</source>
+        <translation>es konnte kein Bild erzeugt werden</translation>
+    </message>
+    <message>
+        <source>No browser opens the page.</source>
+        <translation>Kein Browser öffnet die Seite.</translation>
     </message>
 </context>
 <context>

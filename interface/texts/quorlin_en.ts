@@ -1012,6 +1012,16 @@
     </message>
 </context>
 <context>
+    <name>web-action</name>
+    <message numerus="yes">
+        <source>Make Page of %n Pictures</source>
+        <translation>
+            <numerusform>Make Page of %n Picture</numerusform>
+            <numerusform>Make Page of %n Pictures</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>window::FolderTree</name>
     <message numerus="yes">
         <source>%Ln files</source>

@@ -854,6 +854,221 @@
     </message>
 </context>
 <context>
+    <name>WebPane</name>
+    <message>
+        <source>Title</source>
+        <translation>Titre</translation>
+    </message>
+    <message>
+        <source>Title of the page</source>
+        <translation>Titre de la page</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Text above the pictures</source>
+        <translation>Texte au-dessus des images</translation>
+    </message>
+    <message>
+        <source>Style</source>
+        <translation>Style</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>Grille</translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation>Rangées</translation>
+    </message>
+    <message>
+        <source>Story</source>
+        <translation>Récit</translation>
+    </message>
+    <message>
+        <source>How the pictures lie</source>
+        <translation>Disposition des images</translation>
+    </message>
+    <message>
+        <source>Sketch of the page</source>
+        <translation>Esquisse de la page</translation>
+    </message>
+    <message>
+        <source>Captions</source>
+        <translation>Légendes</translation>
+    </message>
+    <message>
+        <source>Pattern of all captions</source>
+        <translation>Modèle de toutes les légendes</translation>
+    </message>
+    <message>
+        <source>Insert a value</source>
+        <translation>Insérer une valeur</translation>
+    </message>
+    <message>
+        <source>This picture</source>
+        <translation>Cette image</translation>
+    </message>
+    <message>
+        <source>Caption of the current picture</source>
+        <translation>Légende de l’image actuelle</translation>
+    </message>
+    <message>
+        <source>As above</source>
+        <translation>Comme ci-dessus</translation>
+    </message>
+    <message>
+        <source>Forget what was typed for this picture</source>
+        <translation>Oublier ce qui a été saisi pour cette image</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Couleurs</translation>
+    </message>
+    <message>
+        <source>Paper by daylight</source>
+        <translation>Fond clair</translation>
+    </message>
+    <message>
+        <source>Paper in the dark</source>
+        <translation>Fond sombre</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Liens</translation>
+    </message>
+    <message>
+        <source>Colour of links</source>
+        <translation>Couleur des liens</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <source>Language of the page</source>
+        <translation>Langue de la page</translation>
+    </message>
+    <message>
+        <source>Direction of writing</source>
+        <translation>Sens d’écriture</translation>
+    </message>
+    <message>
+        <source>Longest side</source>
+        <translation>Plus grand côté</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>Petit</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Moyen</translation>
+    </message>
+    <message>
+        <source>Large</source>
+        <translation>Grand</translation>
+    </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
+    <message>
+        <source>Three sizes</source>
+        <translation>Trois tailles</translation>
+    </message>
+    <message>
+        <source>Without it there are a small and a large file of each picture</source>
+        <translation>Sans cela, chaque image a un petit et un grand fichier</translation>
+    </message>
+    <message>
+        <source>File type</source>
+        <translation>Type de fichier</translation>
+    </message>
+    <message>
+        <source>File type of the pictures</source>
+        <translation>Type de fichier des images</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualité</translation>
+    </message>
+    <message>
+        <source>Sharpen a little</source>
+        <translation>Accentuer un peu</translation>
+    </message>
+    <message>
+        <source>Metadata</source>
+        <translation>Métadonnées</translation>
+    </message>
+    <message>
+        <source>Metadata of the pictures</source>
+        <translation>Métadonnées des images</translation>
+    </message>
+    <message>
+        <source>Tell where pictures were taken</source>
+        <translation>Indiquer où les images ont été prises</translation>
+    </message>
+    <message>
+        <source>Places stay in the metadata, and captions may name them</source>
+        <translation>Les lieux restent dans les métadonnées et les légendes peuvent les citer</translation>
+    </message>
+    <message>
+        <source>Offer the pictures for download</source>
+        <translation>Proposer les images au téléchargement</translation>
+    </message>
+    <message>
+        <source>Save in</source>
+        <translation>Enregistrer dans</translation>
+    </message>
+    <message>
+        <source>Folder that the page is made in</source>
+        <translation>Dossier où la page est créée</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Dossier</translation>
+    </message>
+    <message>
+        <source>Name of the folder of the page</source>
+        <translation>Nom du dossier de la page</translation>
+    </message>
+    <message>
+        <source>If it exists</source>
+        <translation>S’il existe</translation>
+    </message>
+    <message>
+        <source>What happens if the folder exists</source>
+        <translation>Ce qui se passe si le dossier existe</translation>
+    </message>
+    <message>
+        <source>Template</source>
+        <translation>Modèle</translation>
+    </message>
+    <message>
+        <source>Template of the page</source>
+        <translation>Modèle de la page</translation>
+    </message>
+    <message>
+        <source>Open Preview</source>
+        <translation>Ouvrir l’aperçu</translation>
+    </message>
+    <message>
+        <source>Shows the page with its first 12 pictures in the browser</source>
+        <translation>Affiche la page avec ses 12 premières images dans le navigateur</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Résultat</translation>
+    </message>
+    <message>
+        <source>–</source>
+        <translation>–</translation>
+    </message>
+</context>
+<context>
     <name>contact-action</name>
     <message>
         <source>Contact Sheet</source>
@@ -10769,6 +10984,24 @@
     </message>
 </context>
 <context>
+    <name>web-action</name>
+    <message>
+        <source>Web Page</source>
+        <translation>Page web</translation>
+    </message>
+    <message>
+        <source>Making a web page</source>
+        <translation>Création d’une page web</translation>
+    </message>
+    <message numerus="yes">
+        <source>Make Page of %n Pictures</source>
+        <translation>
+            <numerusform>Créer une page de %n image</numerusform>
+            <numerusform>Créer une page de %n images</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>web-folder</name>
     <message>
         <source>The folder %1 cannot be written.</source>
@@ -10808,6 +11041,135 @@
     <message>
         <source>Template, %1</source>
         <translation>Modèle, %1</translation>
+    </message>
+</context>
+<context>
+    <name>web-pane</name>
+    <message>
+        <source>Grid</source>
+        <translation>Grille</translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation>Rangées</translation>
+    </message>
+    <message>
+        <source>Story</source>
+        <translation>Récit</translation>
+    </message>
+    <message>
+        <source>That of Quorlin</source>
+        <translation>Celle de Quorlin</translation>
+    </message>
+    <message>
+        <source>By language</source>
+        <translation>Selon la langue</translation>
+    </message>
+    <message>
+        <source>Left to right</source>
+        <translation>De gauche à droite</translation>
+    </message>
+    <message>
+        <source>Right to left</source>
+        <translation>De droite à gauche</translation>
+    </message>
+    <message>
+        <source>Keep copyright only</source>
+        <translation>Garder le copyright seul</translation>
+    </message>
+    <message>
+        <source>Keep all</source>
+        <translation>Tout garder</translation>
+    </message>
+    <message>
+        <source>Remove all</source>
+        <translation>Tout supprimer</translation>
+    </message>
+    <message>
+        <source>Number the new folder</source>
+        <translation>Numéroter le nouveau dossier</translation>
+    </message>
+    <message>
+        <source>Update the page in it</source>
+        <translation>Mettre à jour la page qu’il contient</translation>
+    </message>
+    <message>
+        <source>Folder of the first picture</source>
+        <translation>Dossier de la première image</translation>
+    </message>
+    <message>
+        <source>Choose Folder…</source>
+        <translation>Choisir un dossier…</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Choose File…</source>
+        <translation>Choisir un fichier…</translation>
+    </message>
+    <message>
+        <source>Save a Copy…</source>
+        <translation>Enregistrer une copie…</translation>
+    </message>
+    <message>
+        <source>Save the page in</source>
+        <translation>Enregistrer la page dans</translation>
+    </message>
+    <message>
+        <source>Choose a template</source>
+        <translation>Choisir un modèle</translation>
+    </message>
+    <message>
+        <source>Save a copy of the template</source>
+        <translation>Enregistrer une copie du modèle</translation>
+    </message>
+    <message>
+        <source>Template saved as %1</source>
+        <translation>Modèle enregistré sous %1</translation>
+    </message>
+    <message>
+        <source>Add pictures first.</source>
+        <translation>Ajoutez d’abord des images.</translation>
+    </message>
+    <message>
+        <source>Mend the settings first.</source>
+        <translation>Corrigez d’abord les réglages.</translation>
+    </message>
+</context>
+<context>
+    <name>web-presets</name>
+    <message>
+        <source>Rows with captions</source>
+        <translation>Rangées avec légendes</translation>
+    </message>
+    <message>
+        <source>Grid of squares</source>
+        <translation>Grille de carrés</translation>
+    </message>
+    <message>
+        <source>Story on warm paper</source>
+        <translation>Récit sur fond chaud</translation>
+    </message>
+    <message>
+        <source>For clients, with download</source>
+        <translation>Pour les clients, avec téléchargement</translation>
+    </message>
+</context>
+<context>
+    <name>web-preview</name>
+    <message>
+        <source>Making the preview…</source>
+        <translation>Création de l’aperçu…</translation>
+    </message>
+    <message>
+        <source>no picture could be made</source>
+        <translation>aucune image n’a pu être créée</translation>
+    </message>
+    <message>
+        <source>No browser opens the page.</source>
+        <translation>Aucun navigateur n’ouvre la page.</translation>
     </message>
 </context>
 <context>

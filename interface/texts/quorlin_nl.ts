@@ -854,6 +854,221 @@
     </message>
 </context>
 <context>
+    <name>WebPane</name>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Title of the page</source>
+        <translation>Titel van de pagina</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Tekst</translation>
+    </message>
+    <message>
+        <source>Text above the pictures</source>
+        <translation>Tekst boven de foto’s</translation>
+    </message>
+    <message>
+        <source>Style</source>
+        <translation>Stijl</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>Raster</translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation>Rijen</translation>
+    </message>
+    <message>
+        <source>Story</source>
+        <translation>Verhaal</translation>
+    </message>
+    <message>
+        <source>How the pictures lie</source>
+        <translation>Hoe de foto’s liggen</translation>
+    </message>
+    <message>
+        <source>Sketch of the page</source>
+        <translation>Schets van de pagina</translation>
+    </message>
+    <message>
+        <source>Captions</source>
+        <translation>Bijschriften</translation>
+    </message>
+    <message>
+        <source>Pattern of all captions</source>
+        <translation>Patroon van alle bijschriften</translation>
+    </message>
+    <message>
+        <source>Insert a value</source>
+        <translation>Waarde invoegen</translation>
+    </message>
+    <message>
+        <source>This picture</source>
+        <translation>Deze foto</translation>
+    </message>
+    <message>
+        <source>Caption of the current picture</source>
+        <translation>Bijschrift van de huidige foto</translation>
+    </message>
+    <message>
+        <source>As above</source>
+        <translation>Zoals hierboven</translation>
+    </message>
+    <message>
+        <source>Forget what was typed for this picture</source>
+        <translation>Vergeten wat voor deze foto is getypt</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Kleuren</translation>
+    </message>
+    <message>
+        <source>Paper by daylight</source>
+        <translation>Papier bij daglicht</translation>
+    </message>
+    <message>
+        <source>Paper in the dark</source>
+        <translation>Papier in het donker</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Colour of links</source>
+        <translation>Kleur van links</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Taal</translation>
+    </message>
+    <message>
+        <source>Language of the page</source>
+        <translation>Taal van de pagina</translation>
+    </message>
+    <message>
+        <source>Direction of writing</source>
+        <translation>Schrijfrichting</translation>
+    </message>
+    <message>
+        <source>Longest side</source>
+        <translation>Langste zijde</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>Klein</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Middel</translation>
+    </message>
+    <message>
+        <source>Large</source>
+        <translation>Groot</translation>
+    </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
+    <message>
+        <source>Three sizes</source>
+        <translation>Drie formaten</translation>
+    </message>
+    <message>
+        <source>Without it there are a small and a large file of each picture</source>
+        <translation>Zonder dit is er van elke foto een klein en een groot bestand</translation>
+    </message>
+    <message>
+        <source>File type</source>
+        <translation>Bestandstype</translation>
+    </message>
+    <message>
+        <source>File type of the pictures</source>
+        <translation>Bestandstype van de foto’s</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Kwaliteit</translation>
+    </message>
+    <message>
+        <source>Sharpen a little</source>
+        <translation>Een beetje verscherpen</translation>
+    </message>
+    <message>
+        <source>Metadata</source>
+        <translation>Metadata</translation>
+    </message>
+    <message>
+        <source>Metadata of the pictures</source>
+        <translation>Metadata van de foto’s</translation>
+    </message>
+    <message>
+        <source>Tell where pictures were taken</source>
+        <translation>Vertellen waar foto’s zijn gemaakt</translation>
+    </message>
+    <message>
+        <source>Places stay in the metadata, and captions may name them</source>
+        <translation>Plaatsen blijven in de metadata en bijschriften mogen ze noemen</translation>
+    </message>
+    <message>
+        <source>Offer the pictures for download</source>
+        <translation>Foto’s aanbieden om te downloaden</translation>
+    </message>
+    <message>
+        <source>Save in</source>
+        <translation>Bewaren in</translation>
+    </message>
+    <message>
+        <source>Folder that the page is made in</source>
+        <translation>Map waarin de pagina wordt gemaakt</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Map</translation>
+    </message>
+    <message>
+        <source>Name of the folder of the page</source>
+        <translation>Naam van de map van de pagina</translation>
+    </message>
+    <message>
+        <source>If it exists</source>
+        <translation>Als die bestaat</translation>
+    </message>
+    <message>
+        <source>What happens if the folder exists</source>
+        <translation>Wat gebeurt als de map bestaat</translation>
+    </message>
+    <message>
+        <source>Template</source>
+        <translation>Sjabloon</translation>
+    </message>
+    <message>
+        <source>Template of the page</source>
+        <translation>Sjabloon van de pagina</translation>
+    </message>
+    <message>
+        <source>Open Preview</source>
+        <translation>Voorvertoning openen</translation>
+    </message>
+    <message>
+        <source>Shows the page with its first 12 pictures in the browser</source>
+        <translation>Toont de pagina met de eerste 12 foto’s in de browser</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Resultaat</translation>
+    </message>
+    <message>
+        <source>–</source>
+        <translation>–</translation>
+    </message>
+</context>
+<context>
     <name>contact-action</name>
     <message>
         <source>Contact Sheet</source>
@@ -10769,6 +10984,24 @@
     </message>
 </context>
 <context>
+    <name>web-action</name>
+    <message>
+        <source>Web Page</source>
+        <translation>Webpagina</translation>
+    </message>
+    <message>
+        <source>Making a web page</source>
+        <translation>Webpagina maken</translation>
+    </message>
+    <message numerus="yes">
+        <source>Make Page of %n Pictures</source>
+        <translation>
+            <numerusform>Pagina van %n foto maken</numerusform>
+            <numerusform>Pagina van %n foto’s maken</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>web-folder</name>
     <message>
         <source>The folder %1 cannot be written.</source>
@@ -10808,6 +11041,135 @@
     <message>
         <source>Template, %1</source>
         <translation>Sjabloon, %1</translation>
+    </message>
+</context>
+<context>
+    <name>web-pane</name>
+    <message>
+        <source>Grid</source>
+        <translation>Raster</translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation>Rijen</translation>
+    </message>
+    <message>
+        <source>Story</source>
+        <translation>Verhaal</translation>
+    </message>
+    <message>
+        <source>That of Quorlin</source>
+        <translation>Die van Quorlin</translation>
+    </message>
+    <message>
+        <source>By language</source>
+        <translation>Volgens taal</translation>
+    </message>
+    <message>
+        <source>Left to right</source>
+        <translation>Van links naar rechts</translation>
+    </message>
+    <message>
+        <source>Right to left</source>
+        <translation>Van rechts naar links</translation>
+    </message>
+    <message>
+        <source>Keep copyright only</source>
+        <translation>Alleen copyright behouden</translation>
+    </message>
+    <message>
+        <source>Keep all</source>
+        <translation>Alles behouden</translation>
+    </message>
+    <message>
+        <source>Remove all</source>
+        <translation>Alles verwijderen</translation>
+    </message>
+    <message>
+        <source>Number the new folder</source>
+        <translation>De nieuwe map nummeren</translation>
+    </message>
+    <message>
+        <source>Update the page in it</source>
+        <translation>De pagina erin bijwerken</translation>
+    </message>
+    <message>
+        <source>Folder of the first picture</source>
+        <translation>Map van de eerste foto</translation>
+    </message>
+    <message>
+        <source>Choose Folder…</source>
+        <translation>Map kiezen…</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standaard</translation>
+    </message>
+    <message>
+        <source>Choose File…</source>
+        <translation>Bestand kiezen…</translation>
+    </message>
+    <message>
+        <source>Save a Copy…</source>
+        <translation>Kopie bewaren…</translation>
+    </message>
+    <message>
+        <source>Save the page in</source>
+        <translation>Pagina bewaren in</translation>
+    </message>
+    <message>
+        <source>Choose a template</source>
+        <translation>Sjabloon kiezen</translation>
+    </message>
+    <message>
+        <source>Save a copy of the template</source>
+        <translation>Kopie van het sjabloon bewaren</translation>
+    </message>
+    <message>
+        <source>Template saved as %1</source>
+        <translation>Sjabloon bewaard als %1</translation>
+    </message>
+    <message>
+        <source>Add pictures first.</source>
+        <translation>Voeg eerst foto’s toe.</translation>
+    </message>
+    <message>
+        <source>Mend the settings first.</source>
+        <translation>Verbeter eerst de instellingen.</translation>
+    </message>
+</context>
+<context>
+    <name>web-presets</name>
+    <message>
+        <source>Rows with captions</source>
+        <translation>Rijen met bijschriften</translation>
+    </message>
+    <message>
+        <source>Grid of squares</source>
+        <translation>Raster van vierkanten</translation>
+    </message>
+    <message>
+        <source>Story on warm paper</source>
+        <translation>Verhaal op warm papier</translation>
+    </message>
+    <message>
+        <source>For clients, with download</source>
+        <translation>Voor klanten, met download</translation>
+    </message>
+</context>
+<context>
+    <name>web-preview</name>
+    <message>
+        <source>Making the preview…</source>
+        <translation>Voorvertoning maken…</translation>
+    </message>
+    <message>
+        <source>no picture could be made</source>
+        <translation>er kon geen foto worden gemaakt</translation>
+    </message>
+    <message>
+        <source>No browser opens the page.</source>
+        <translation>Geen browser opent de pagina.</translation>
     </message>
 </context>
 <context>

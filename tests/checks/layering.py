@@ -111,8 +111,9 @@ SUB_ROOMS = {
         "window/preview": "printing seam reading preview window/look",
         "window/properties": "models reading",
         "window/slots": "models window/look",
+        "window/web": "",
         "window/forms": "seam window/look window/controls window/folders window/log window/manual window/pictures window/preview "
-                        "window/properties window/slots",
+                        "window/properties window/slots window/web",
         "window": "*",
         "": "*",
     },

@@ -46,7 +46,7 @@ void prepare(WindowDriver &driver, const QString &action)
 
 void showActions(WindowDriver &driver, const PicturePath &path)
 {
-    for (const char *action : {"crop", "turn", "round", "background", "watermark", "convert"}) {
+    for (const char *action : {"crop", "turn", "round", "background", "watermark", "convert", "web"}) {
         driver.show(action);
         prepare(driver, QString::fromLatin1(action));
         const QString name = path(action);

@@ -23,6 +23,7 @@
 #include "app/window/preview/step_picture.h"
 #include "app/window/properties/property_tree.h"
 #include "app/window/slots/slot_list.h"
+#include "app/window/web/page_sketch.h"
 
 #include <QAction>
 #include <QLabel>
@@ -105,6 +106,7 @@ std::vector<ServiceEntry> ownClasses(const ServiceEntry &widget, const ServiceEn
         own<ManualView>(widget),
         own<PageList>(widget),
         own<PagesView>(widget),
+        own<PageSketch>(widget),
         own<PictureTable>(widget),
         own<PositionPad>(widget),
         own<PropertyTree>(widget),

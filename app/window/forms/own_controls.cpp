@@ -24,6 +24,7 @@
 #include "app/window/preview/step_picture.h"
 #include "app/window/properties/property_tree.h"
 #include "app/window/slots/slot_list.h"
+#include "app/window/web/page_sketch.h"
 
 #include <QHash>
 
@@ -54,6 +55,7 @@ const QHash<QString, Maker> &makers()
         {QStringLiteral("ManualView"), made<ManualView>},
         {QStringLiteral("PageList"), made<PageList>},
         {QStringLiteral("PagesView"), made<PagesView>},
+        {QStringLiteral("PageSketch"), made<PageSketch>},
         {QStringLiteral("PictureTable"), made<PictureTable>},
         {QStringLiteral("PositionPad"), made<PositionPad>},
         {QStringLiteral("PropertyTree"), made<PropertyTree>},

@@ -3,10 +3,13 @@
 import { tokens } from "quorlin/tokens";
 import { guard } from "../../lib/guard.js";
 
-/** Fills a menu with the tokens that isOffered takes; insert is called with "{taken:yyyy}", once one is chosen. */
-export function fillTokens(menu, isOffered, insert) {
+/**
+ * Fills a menu with the tokens that isOffered takes; insert is called with "{taken:yyyy}", once one is chosen. `more` come before them, as
+ * tokens.offered() has them; it may be missing.
+ */
+export function fillTokens(menu, isOffered, insert, more) {
     const offered = [];
-    tokens.offered().filter(isOffered).forEach((token) => token.forms.forEach((each) => {
+    (more || []).concat(tokens.offered().filter(isOffered)).forEach((token) => token.forms.forEach((each) => {
         offered.push({ title: token.words + (each === "" ? "" : "  " + each),
                        text: "{" + token.name + (each === "" ? "" : ":" + each) + "}", example: token.example });
     }));
@@ -22,10 +25,11 @@ export function fillTokens(menu, isOffered, insert) {
  * @param names      of its controls: {menu, button}
  * @param isOffered  says of each token whether it can stand there
  * @param insert     is called with "{taken:yyyy}", once one is chosen
+ * @param more       see fillTokens()
  */
-export function joinTokens(form, names, isOffered, insert) {
+export function joinTokens(form, names, isOffered, insert, more) {
     const button = form.control(names.button);
-    fillTokens(form.control(names.menu), isOffered, insert);
+    fillTokens(form.control(names.menu), isOffered, insert, more);
     button.clicked.connect(guard(names.button, () => form.control(names.menu).popUp(button)));
 }
 

@@ -12,6 +12,7 @@ import { keep, recall } from "../../lib/store.js";
 import { interruptedMoves, interruptedPictures, interruptedText, restText } from "../../runs/interrupted.js";
 import { doneResults } from "../../runs/making/run-record.js";
 import { recoveredWords } from "../../runs/recovered.js";
+import { removeUnfinished } from "../../runs/site/unfinished.js";
 
 // Runs that moved files have been ended by then: whoever does not answer is asked again.
 const ASKED = "InterruptedRuns";
@@ -31,6 +32,7 @@ export class InterruptedBar {
 
     /** Once, at start: ends what was in the middle, brings the lists back and asks. */
     look() {
+        removeUnfinished(defaults, files);
         const recovered = moves.recover();
         const written = interruptedPictures(runRecords, files);
         const ids = recall(defaults, ASKED, { ids: [] }).ids.concat(recovered.map((run) => run.id));

@@ -10,7 +10,7 @@ import tempfile
 from pathlib import Path
 
 BATCH, SCRIPT_RUNNER, SCRIPT, PICTURE = sys.argv[1:]
-WITHOUT_PICTURES = ("Rename", "Sort into Folders", "Sorting", "Contact Sheet")
+WITHOUT_PICTURES = ("Rename", "Sort into Folders", "Sorting", "Contact Sheet", "Web Page")
 
 
 def run(command, home, check=True):
