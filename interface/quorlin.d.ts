@@ -1148,7 +1148,7 @@ declare module "quorlin/pages" {
      * How pictures are laid on pages. Lengths of the page are millimetres, sizes of texts points; what is missing is as usual. A text may
      * have tokens; header and footer also {page}, {pages} and {pictures}.
      */
-    export interface PageSettings {
+    interface PageSettings {
         /** A word of PageWork.papers, or "custom" with paperWidth and paperHeight; A4 where it is missing. */
         paper?: string;
         paperWidth?: number;
@@ -1193,8 +1193,6 @@ declare module "quorlin/pages" {
     /** Makes a PDF of pictures on pages, by workers; what came of it is taken as it comes. */
     export class PageWork {
         constructor(fields?: fieldsOf<PageWork>);
-        /** There is something to take. */
-        readonly arrived: Signal<() => any>;
         settings: dictionary;
         /** Of the pictures, absolute, in their order. */
         paths: texts;
@@ -1207,6 +1205,8 @@ declare module "quorlin/pages" {
         readonly pageHeight: number;
         /** What paper can be called: upright, in millimetres. */
         readonly papers: { word: string; width: number; height: number }[];
+        /** There is something to take. */
+        readonly arrived: Signal<() => any>;
         /**
          * Begins to make the new file at target; once. order: {from, to, copies, collated, backwards}; pages count from 1, all of them
          * are made where from is missing.
