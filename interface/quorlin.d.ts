@@ -1201,8 +1201,8 @@ declare module "quorlin/pages" {
         /** Of all pictures; 0 where the settings are wrong. */
         readonly pages: whole;
         /** Of a page as it is held, in points. */
-        readonly pageWidth: number;
-        readonly pageHeight: number;
+        readonly pageWidth: double;
+        readonly pageHeight: double;
         /** What paper can be called: upright, in millimetres. */
         readonly papers: { word: string; width: number; height: number }[];
         /** There is something to take. */
@@ -2371,7 +2371,7 @@ declare module "quorlin/program" {
          * Shows the print panel for pages of this size in points. file is the path of a PDF that is wanted in place of a print; printer is
          * for sendToPrinter(), order for PageWork.
          */
-        choosePrinter(pages: whole, width: number, height: number):
+        choosePrinter(pages: whole, width: double, height: double):
             { accepted: boolean; file?: string; printer?: string[]; order?: dictionary };
         /** Hands a PDF over to the print system; taken says what went wrong, or "". The file may go then. */
         sendToPrinter(path: text, printer: texts, taken: Function | null): null;
