@@ -1021,7 +1021,7 @@
     </message>
     <message>
         <source>Save in</source>
-        <translation>Sichern in</translation>
+        <translation>Speichern in</translation>
     </message>
     <message>
         <source>Folder that the page is made in</source>
@@ -11111,11 +11111,11 @@
     </message>
     <message>
         <source>Save a Copy…</source>
-        <translation>Kopie sichern…</translation>
+        <translation>Kopie speichern…</translation>
     </message>
     <message>
         <source>Save the page in</source>
-        <translation>Seite sichern in</translation>
+        <translation>Seite speichern in</translation>
     </message>
     <message>
         <source>Choose a template</source>
@@ -11123,11 +11123,11 @@
     </message>
     <message>
         <source>Save a copy of the template</source>
-        <translation>Kopie der Vorlage sichern</translation>
+        <translation>Kopie der Vorlage speichern</translation>
     </message>
     <message>
         <source>Template saved as %1</source>
-        <translation>Vorlage gesichert als %1</translation>
+        <translation>Vorlage gespeichert als %1</translation>
     </message>
     <message>
         <source>Add pictures first.</source>
