@@ -968,6 +968,13 @@ declare module "quorlin/files" {
         byteText(bytes: double): string;
         /** "2026-08-14T10:20:30" in the reader's own form; empty for what is none. */
         dateText(date: text): string;
+        /** What a picture says in each field; sidecar is where that stands, or would stand, for files that are not changed themselves. */
+        readFields(path: text): FieldsRead;
+        /** Changes fields of a picture, or of its sidecar; see docs/manual for their names. */
+        writeFields(path: text, work: FieldsToWrite): { problem: string; changed: boolean; file: string };
+        /** The names of all fields, in the order in which they are shown. */
+        fieldNames(): string[];
+        privateDataNames(): string[];
         /** The new path of a presets database that could hold no preset; empty where it is left. */
         setAsideUnusableDatabase(path: text): string;
     };
@@ -985,6 +992,33 @@ declare module "quorlin/files" {
         write(path: text, comment: text): null;
         /** {comment, pagesLost, problem} or {problem}; without any keys before it has come. */
         take(): { comment?: string; pagesLost?: whole; problem?: string };
+        /** Gives up what was asked; the object is of no use any more. */
+        close(): null;
+    }
+
+    /** What EXIF, IPTC and XMP say of a field, which of them counts, and whether two of them do not say the same. */
+    export interface FieldRead { value: string[]; exif: string[]; iptc: string[]; xmp: string[]; disputed: boolean }
+    export interface FieldsRead { fields?: { [name: string]: FieldRead }; inPlace?: boolean; sidecar: string; problem: string }
+    /** What becomes of a field: exactly one of set, clear, add and remove, or shift (seconds) and zone ("+01:00"). */
+    export interface FieldToWrite { set?: string[]; clear?: boolean; add?: string[]; remove?: string[]; shift?: number; zone?: string }
+    export interface FieldsToWrite { fields?: { [name: string]: FieldToWrite }; remove?: string[] }
+
+    /**
+     * Fields of metadata that workers read and write, one file at a time: the next thing is asked after the answer was taken.
+     */
+    export class FieldWork {
+        constructor(fields?: fieldsOf<FieldWork>);
+        /** There is something to take. */
+        readonly arrived: Signal<() => any>;
+        /** Asks what the fields of a file are. */
+        look(path: text): null;
+        /** Changes fields; what is done to a file is done once it can be taken. */
+        write(path: text, work: FieldsToWrite): null;
+        /** Makes the old file again with what the answer to write() had as undo; fails where it was changed since. */
+        revert(path: text, undo: text): null;
+        /** The answer; without any keys before it has come. */
+        take(): { problem?: string; fields?: { [name: string]: FieldRead }; inPlace?: boolean; sidecar?: string; changed?: boolean;
+                  file?: string; undo?: string; before?: { [name: string]: FieldRead }; after?: { [name: string]: FieldRead } };
         /** Gives up what was asked; the object is of no use any more. */
         close(): null;
     }

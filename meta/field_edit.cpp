@@ -188,10 +188,12 @@ Result<MetadataChange> changeFor(const MetadataWork &work, const StatedMetadata 
     return change;
 }
 
-/** Whether all three say what was set, so that no program finds another value. */
+/** Whether all three say what was set, so that no program finds another value; a sidecar is XMP alone. */
 bool says(const StatedMetadata &stated, const Field &field, const QStringList &texts)
 {
     const FieldValues values = fieldValues(field, stated);
+    if (!stated.isInPlace())
+        return values.xmp == texts;
     return !values.isDisputed && values.value == texts;
 }
 

@@ -96,6 +96,10 @@ FieldValues fieldValues(const Field &field, const StatedMetadata &stated)
 {
     FieldValues values = field.kind == FieldKind::Date ? dateValues(field, stated) : textValues(field, stated);
     values.value = believed(values, stated.isIptcNewer());
+    if (stated.hasSidecar() && !values.xmp.isEmpty()) { // what was said last, beside a file that cannot say it itself
+        values.value = values.xmp;
+        return values;
+    }
     const bool iptcDiffers =
         !isSame(field, values.iptc, cut(values.xmp, field)) && !isSame(field, values.iptc, values.xmp);
     values.isDisputed = !isSame(field, values.exif, values.xmp) || iptcDiffers ||

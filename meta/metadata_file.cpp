@@ -107,8 +107,8 @@ Result<WrittenFields> writeFields(const QString &path, const MetadataWork &work)
         return tl::unexpected<platform::Error>(inPlace.error());
     if (!*inPlace)
         return writeSidecar(*picture, sidecarOf(path), work);
-    return platform::editMetadata(path, editFor(work)).map([&](bool isChanged) {
-        return WrittenFields{isChanged, path};
+    return platform::editMetadata(path, editFor(work)).map([&](const platform::EditedMetadata &edited) {
+        return WrittenFields{edited.isChanged, path};
     });
 }
 

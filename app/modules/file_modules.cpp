@@ -8,6 +8,7 @@
 #include "files/services/move_service.h"
 #include "image/services/picture_service.h"
 #include "jobs/services/comment_work.h"
+#include "jobs/services/field_work.h"
 #include "jobs/services/page_service.h"
 #include "jobs/services/recipe_batch.h"
 #include "jobs/services/recipe_service.h"
@@ -44,6 +45,7 @@ std::vector<ServiceEntry> fileServices()
     return {oneObject<ProgramFiles>("quorlin/files", "files"),
             madeWithFields<FolderNames>("quorlin/files"),
             madeWithSignals<jobs::CommentWork>("quorlin/files"),
+            madeWithSignals<jobs::FieldWork>("quorlin/files"),
             oneObject<files::MoveService>("quorlin/moves", "moves"),
             oneObject<image::PictureService>("quorlin/pictures", "pictures"),
             oneObject<text::TokenService>("quorlin/tokens", "tokens"),

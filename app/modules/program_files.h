@@ -14,6 +14,14 @@ public:
 
     /** The new path of a presets database that could hold no preset; empty where it is left. See the function of that name. */
     Q_INVOKABLE QString setAsideUnusableDatabase(const QString &path) const;
+
+    /** The fields of a picture's metadata: {fields, inPlace, sidecar, problem}, see jobs::fieldsAnswer(). */
+    Q_INVOKABLE virtual QVariantMap readFields(const QString &path) const;
+    /** Changes them: {problem, changed, file}, see meta::workFrom(). */
+    Q_INVOKABLE virtual QVariantMap writeFields(const QString &path, const QVariantMap &work) const;
+    /** The names of all fields, and of the groups of private data. */
+    Q_INVOKABLE QStringList fieldNames() const;
+    Q_INVOKABLE QStringList privateDataNames() const;
 };
 
 } // namespace script

@@ -8,6 +8,7 @@
 #include "jobs/desk/plan_errand.h"
 #include "jobs/names.h"
 #include "jobs/reading/comment_errand.h"
+#include "jobs/reading/field_errand.h"
 
 namespace window {
 
@@ -83,6 +84,17 @@ int ReadingFiles::pagesLostToComment(const QString &path) const
 bool ReadingFiles::holdsComment(const QString &path) const
 {
     return read(Reading::Comment, path).value("holds").toBool();
+}
+
+QVariantMap ReadingFiles::readFields(const QString &path) const
+{
+    const ReadResult result = read(Reading::Fields, path, jobs::askingFields(path));
+    return jobs::fieldsAnswer(path, result.problem, result.values);
+}
+
+QVariantMap ReadingFiles::writeFields(const QString &path, const QVariantMap &work) const
+{
+    return jobs::writeFieldsNow(path, work);
 }
 
 double ReadingPictures::resolution(const QString &path) const

@@ -27,6 +27,8 @@ public:
     QVariantMap readComment(const QString &path) const override;
     int pagesLostToComment(const QString &path) const override;
     bool holdsComment(const QString &path) const override;
+    QVariantMap readFields(const QString &path) const override;
+    QVariantMap writeFields(const QString &path, const QVariantMap &work) const override;
 };
 
 class ReadingPictures : public image::PictureService

@@ -4579,6 +4579,17 @@
     </message>
 </context>
 <context>
+    <name>jobs</name>
+    <message>
+        <source>%1 was changed since.</source>
+        <translation>%1 is sindsdien gewijzigd.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written.</source>
+        <translation>%1 kan niet worden geschreven.</translation>
+    </message>
+</context>
+<context>
     <name>list-estimate</name>
     <message>
         <source>about %1 in total</source>

@@ -6,6 +6,7 @@
 #include "image/recipe/sentence.h"
 #include "image/types/output_types.h"
 #include "jobs/names.h"
+#include "jobs/reading/field_copies.h"
 #include "jobs/reading/preview_edits.h"
 #include "jobs/services/recipe_service.h"
 #include "platform/file/lent_file.h"
@@ -436,6 +437,10 @@ ReadAnswer PictureReader::answer(const ReadMessage &read, std::vector<platform::
         return commentOf(request.file());
     case Reading::CommentedCopy:
         return commentedCopy(request.file(), request.other(1), request.other(2), request.value("comment").toString());
+    case Reading::Fields:
+        return {fieldsOf(request.file(), read.values), {}};
+    case Reading::FieldsCopy:
+        return {fieldsCopy(request.file(), request.other(1), request.other(2), read.values), {}};
     case Reading::Profile:
         return withSource(profileOf);
     case Reading::Plan:

@@ -55,6 +55,13 @@ enum class Reading {
      * same to be read. Answer: whether anything {changes}; where nothing does nothing is written.
      */
     CommentedCopy,
+    /** {fields, inPlace}: see meta::readFields(), with the {packet} of a sidecar. */
+    Fields,
+    /**
+     * An edited copy of the picture with {work} done to its metadata, or the {packet} of its sidecar that was changed so. Files that come
+     * along: as above. Answer: {changes, undo, before, after}, and the new {packet} where the picture itself is not changed.
+     */
+    FieldsCopy,
 };
 
 /** Files come along, in the order of the paths; the picture is the first. */

@@ -13,6 +13,7 @@
 #include "platform/imageio/xmp/xmp_bounds.h"
 
 #include <QCoreApplication>
+#include <QCryptographicHash>
 
 #include <cstring>
 
@@ -25,6 +26,7 @@ struct StatedMetadata::Blocks
 {
     StatedBlocks stated;
     bool isInPlace = false;
+    bool hasSidecar = false;
 };
 
 namespace {
@@ -78,8 +80,21 @@ Result<StatedBlocks> decodedBlocks(const std::function<Result<ImageSource>()> &o
 struct Edit
 {
     QList<Splice> splices; ///< none where nothing changes
+    QList<Splice> undo;
     ImageSource before;
 };
+
+/** What makes the bytes again of those that the splices have changed. */
+QList<Splice> reversed(const QByteArray &bytes, const QList<Splice> &splices)
+{
+    QList<Splice> undo;
+    qint64 moved = 0;
+    for (const Splice &each : splices) {
+        undo.append({each.at + moved, each.inserted.size(), bytes.mid(each.at, each.removed)});
+        moved += each.inserted.size() - each.removed;
+    }
+    return undo;
+}
 
 bool changeNothing(const QByteArray &bytes, const QList<Splice> &splices)
 {
@@ -88,7 +103,8 @@ bool changeNothing(const QByteArray &bytes, const QList<Splice> &splices)
     });
 }
 
-Result<QList<Splice>> splicesFor(NamedFile &file, const MetadataEdit &edit)
+/** @param undo  is told what reverts them */
+Result<QList<Splice>> splicesFor(NamedFile &file, const MetadataEdit &edit, QList<Splice> &undo)
 {
     const Content content = contentIn(file);
     if (content == Content::Unknown)
@@ -96,13 +112,14 @@ Result<QList<Splice>> splicesFor(NamedFile &file, const MetadataEdit &edit)
     return mapped(file, [&](const QByteArray &bytes) -> Result<QList<Splice>> {
         if (!changesInPlace(content, bytes))
             return failure(ErrorCode::Unsupported, text("this type of file cannot hold metadata of its own"));
-        const StatedMetadata::Blocks blocks{statedBlocks(content, bytes), true};
+        const StatedMetadata::Blocks blocks{statedBlocks(content, bytes), true, false};
         const auto change = edit.change(StatedMetadata(blocks));
         if (!change)
             return tl::unexpected<Error>(change.error());
         if (change->isEmpty())
             return QList<Splice>();
         return metadataSplices(content, bytes, *change).map([&](const QList<Splice> &splices) {
+            undo = reversed(bytes, splices);
             return changeNothing(bytes, splices) ? QList<Splice>() : splices;
         });
     });
@@ -110,10 +127,13 @@ Result<QList<Splice>> splicesFor(NamedFile &file, const MetadataEdit &edit)
 
 Result<Edit> editFor(NamedFile &file, const std::function<Result<ImageSource>()> &open, const MetadataEdit &edit)
 {
-    const auto splices = splicesFor(file, edit);
+    QList<Splice> undo;
+    const auto splices = splicesFor(file, edit, undo);
     if (!splices)
         return unwritten(file.fileName(), splices.error().code, splices.error().message);
-    return open().map([&](const ImageSource &picture) { return Edit{*splices, picture}; }); // unreadable is unwritable
+    return open().map([&](const ImageSource &picture) {
+        return Edit{*splices, undo, picture};
+    }); // unreadable is unwritable
 }
 
 /** Whether the edited file is the same picture as before, and says what it was meant to say. */
@@ -171,6 +191,11 @@ bool StatedMetadata::isInPlace() const
     return m_blocks.isInPlace;
 }
 
+bool StatedMetadata::hasSidecar() const
+{
+    return m_blocks.hasSidecar;
+}
+
 Result<void> readMetadata(const std::shared_ptr<const LentFile> &picture, const QByteArray &sidecar,
                           const std::function<void(const StatedMetadata &)> &take)
 {
@@ -179,7 +204,7 @@ Result<void> readMetadata(const std::shared_ptr<const LentFile> &picture, const 
         return failure(ErrorCode::Unreadable, file.errorString());
     const Content content = contentIn(file);
     return mapped(file, [&](const QByteArray &bytes) -> Result<void> {
-        StatedMetadata::Blocks blocks{{}, changesInPlace(content, bytes)};
+        StatedMetadata::Blocks blocks{{}, changesInPlace(content, bytes), !sidecar.isEmpty()};
         if (blocks.isInPlace || content == Content::Tiff) {
             blocks.stated = statedBlocks(content, bytes);
         } else {
@@ -197,7 +222,7 @@ Result<void> readMetadata(const std::shared_ptr<const LentFile> &picture, const 
     });
 }
 
-Result<bool> editMetadata(const QString &path, const MetadataEdit &edit)
+Result<EditedMetadata> editMetadata(const QString &path, const MetadataEdit &edit)
 {
     NamedFile file(path);
     if (const auto opened = openToRead(file, QIODevice::Unbuffered); !opened)
@@ -207,7 +232,7 @@ Result<bool> editMetadata(const QString &path, const MetadataEdit &edit)
     if (!made)
         return tl::unexpected<Error>(made.error());
     if (made->splices.isEmpty())
-        return false;
+        return EditedMetadata();
     if (::faccessat(AT_FDCWD, encodedPath(path).constData(), W_OK, AT_EACCESS) != 0) // whoever protected it meant it
         return unwritten(path, ErrorCode::WriteFailed, text("the file is write-protected"));
     const auto written = spliceFile(file, made->splices, [&](const QString &editedPath) -> Result<void> {
@@ -216,11 +241,11 @@ Result<bool> editMetadata(const QString &path, const MetadataEdit &edit)
             return tl::unexpected<Error>(edited.error());
         return checkEdited(*made, ImageSource::open(editedPath), *edited, path, edit.isDone);
     });
-    return written.map([] { return true; });
+    return written.map([&] { return EditedMetadata{true, made->undo}; });
 }
 
-Result<bool> editMetadata(const std::shared_ptr<const LentFile> &picture, int copy,
-                          const std::shared_ptr<const LentFile> &copyToRead, const MetadataEdit &edit)
+Result<EditedMetadata> editMetadata(const std::shared_ptr<const LentFile> &picture, int copy,
+                                    const std::shared_ptr<const LentFile> &copyToRead, const MetadataEdit &edit)
 {
     const QString &path = picture->name();
     NamedFile file(path);
@@ -231,12 +256,34 @@ Result<bool> editMetadata(const std::shared_ptr<const LentFile> &picture, int co
     if (!made)
         return tl::unexpected<Error>(made.error());
     if (made->splices.isEmpty())
-        return false;
+        return EditedMetadata();
     if (const int problem = copySpliced(picture->descriptor(), made->splices, copy); problem != 0)
         return unwritten(path, ErrorCode::WriteFailed, QString::fromLocal8Bit(std::strerror(problem)));
-    return checkEdited(*made, ImageSource::fromLent(copyToRead), copyToRead, path, edit.isDone).map([] {
-        return true;
+    return checkEdited(*made, ImageSource::fromLent(copyToRead), copyToRead, path, edit.isDone).map([&] {
+        return EditedMetadata{true, made->undo};
     });
+}
+
+QByteArray digestOf(const LentFile &lent)
+{
+    NamedFile file(lent.name());
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    const bool isRead = openLent(file, lent) && hash.addData(&file) && file.readProblem().isEmpty();
+    return isRead ? hash.result() : QByteArray();
+}
+
+Result<void> revertMetadata(const std::shared_ptr<const LentFile> &picture, int copy,
+                            const std::shared_ptr<const LentFile> &copyToRead, const QList<Splice> &undo,
+                            const QByteArray &digest)
+{
+    const QString &path = picture->name();
+    if (digest.isEmpty() || digestOf(*picture) != digest)
+        return unwritten(path, ErrorCode::InvalidValue, text("it was changed since"));
+    if (const int problem = copySpliced(picture->descriptor(), undo, copy); problem != 0)
+        return unwritten(path, ErrorCode::WriteFailed, QString::fromLocal8Bit(std::strerror(problem)));
+    if (const auto edited = ImageSource::fromLent(copyToRead); !edited)
+        return unwritten(path, ErrorCode::Unreadable, text("the picture could not be read afterwards"));
+    return {};
 }
 
 Result<QByteArray> editedSidecar(const std::shared_ptr<const LentFile> &picture, const QByteArray &sidecar,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/file/atomic_file.h"
 #include "platform/foundation/result.h"
 #include "platform/imageio/edits/metadata_change.h"
 
@@ -28,6 +29,8 @@ public:
     bool isIptcNewer() const;
     /** Whether its metadata is changed in the file itself; a sidecar has that of all others. */
     bool isInPlace() const;
+    /** Whether what XMP says is that of a sidecar. */
+    bool hasSidecar() const;
 
 private:
     const Blocks &m_blocks;
@@ -42,6 +45,13 @@ struct MetadataEdit
     std::function<bool(const StatedMetadata &)> isDone;
 };
 
+/** What an edit has done to a file. */
+struct EditedMetadata
+{
+    bool isChanged = false;
+    QList<Splice> undo = {}; ///< what makes the old file of the new one
+};
+
 /** Fails with NotFound, NotAPicture, Unreadable. @param sidecar  its packet, which counts in place of the picture's own; may be empty */
 Result<void> readMetadata(const std::shared_ptr<const LentFile> &picture, const QByteArray &sidecar,
                           const std::function<void(const StatedMetadata &)> &take);
@@ -54,14 +64,23 @@ Result<void> readMetadata(const std::shared_ptr<const LentFile> &picture, const 
  *
  * Fails with NotFound or NotAPicture; with Unsupported for other kinds of files; with Unreadable where the file or its metadata is
  * damaged; with TooLarge where there is no room; with what @p edit says; with WriteFailed. The file is then as it was.
- *
- * @return whether anything changed
  */
-Result<bool> editMetadata(const QString &path, const MetadataEdit &edit);
+Result<EditedMetadata> editMetadata(const QString &path, const MetadataEdit &edit);
 
 /** The same for a picture that another process has open, see writeUserComment(). */
-Result<bool> editMetadata(const std::shared_ptr<const LentFile> &picture, int copy,
-                          const std::shared_ptr<const LentFile> &copyToRead, const MetadataEdit &edit);
+Result<EditedMetadata> editMetadata(const std::shared_ptr<const LentFile> &picture, int copy,
+                                    const std::shared_ptr<const LentFile> &copyToRead, const MetadataEdit &edit);
+
+/** What a whole file is known by: SHA-256 of its bytes; empty where they cannot be read. */
+QByteArray digestOf(const LentFile &file);
+
+/**
+ * Makes the old file of one that editMetadata() has changed, in a copy. Fails with InvalidValue where @p digest is not that of the
+ * picture, since it was changed again, and as editMetadata() does.
+ */
+Result<void> revertMetadata(const std::shared_ptr<const LentFile> &picture, int copy,
+                            const std::shared_ptr<const LentFile> &copyToRead, const QList<Splice> &undo,
+                            const QByteArray &digest);
 
 /**
  * The packet of the sidecar of a picture whose own metadata is not changed. Fails with Unreadable where @p sidecar is damaged, and as

@@ -118,6 +118,7 @@ private Q_SLOTS:
     void keepsAlternativesOfOtherLanguages();
     void writesASidecarForOtherTypes();
     void keepsWhatASidecarSays();
+    void believesASidecarBeforeTheFile();
     void takesOutWhatIsPrivate();
     void refusesNonsense();
     void readsDates_data();
@@ -339,6 +340,17 @@ void TestMetadataFields::keepsWhatASidecarSays()
     const auto damaged = meta::writeRating(folder.path("a.gif"), 3);
     QVERIFY(!damaged && damaged.error().code == ErrorCode::Unreadable);
     QCOMPARE(folder.read("a.xmp"), QByteArray("<x:xmpmeta this is no XML"));
+}
+
+void TestMetadataFields::believesASidecarBeforeTheFile()
+{
+    const ScratchFolder folder;
+    QVERIFY(folder.write("a.heic", pictures::bytesOf(picturePath("own/metadata/every-group.heic"))));
+    QVERIFY(meta::writeFields(folder.path("a.heic"), setting("copyright", QStringLiteral("Somebody else"))));
+    QCOMPARE(valueOf(folder.path("a.heic"), "copyright"), QStringList{QStringLiteral("Somebody else")});
+    const auto written = meta::writeFields(folder.path("a.heic"), workOf(settingAll()));
+    QVERIFY2(written, written ? "" : qPrintable(written.error().message));
+    QCOMPARE(complaint(folder.path("a.heic"), settingAll()), QString());
 }
 
 void TestMetadataFields::takesOutWhatIsPrivate()

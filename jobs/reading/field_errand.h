@@ -1,0 +1,62 @@
+#pragma once
+
+#include "jobs/desk/errand.h"
+#include "platform/file/replacement_file.h"
+
+#include <QVariantMap>
+
+#include <functional>
+#include <memory>
+
+namespace jobs {
+
+/**
+ * The metadata of one picture, changed by a worker: it makes an edited copy, or the packet of a sidecar, and looks whether that is right;
+ * here it takes its place. See meta::writeFields().
+ */
+class FieldErrand : public Errand
+{
+public:
+    /**
+     * {problem, changed, file, undo, before, after}: problem is a sentence where nothing was done; file is what was written, the picture or
+     * its sidecar; undo is a text to revert it with; before and after are the fields, see meta::fieldMap().
+     */
+    using Take = std::function<void(const QVariantMap &answer)>;
+
+    /**
+     * @param work  see meta::workFrom(); {revert: undo} makes the old file again, which fails where it was changed since
+     * @param take  is called once, unless the errand is dropped before; then the file is as it was
+     */
+    FieldErrand(const QString &path, const QVariantMap &work, Take take);
+
+    std::vector<platform::Message> begin(Hand &hand) override;
+    Turn take(platform::Message &message) override;
+    void fail(const QString &reason) override;
+    int seconds() const override { return 120; }
+
+private:
+    QString place(const QVariantMap &said);
+    QString placeSidecar(const QByteArray &packet);
+    bool revertSidecar(const QString &undo);
+    void answer(QVariantMap answer);
+
+    QString m_path;
+    QVariantMap m_work;
+    Take m_take;
+    QString m_sidecar;
+    QByteArray m_packet; ///< of the sidecar as it was; empty where there was none
+    QString m_written;
+    QString m_undo;
+    std::unique_ptr<platform::EditedFile> m_file;
+};
+
+/** The same, waited for. */
+QVariantMap writeFieldsNow(const QString &path, const QVariantMap &work);
+
+/** The values of a message that asks for the fields of a picture: {packet} of its sidecar. */
+QVariantMap askingFields(const QString &path);
+
+/** What a worker says of the fields with what only this side knows: {fields, inPlace, sidecar, problem}. */
+QVariantMap fieldsAnswer(const QString &path, const QString &problem, const QVariantMap &values);
+
+} // namespace jobs

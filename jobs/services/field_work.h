@@ -1,0 +1,48 @@
+#pragma once
+
+#include "jobs/desk/worker_desk.h"
+
+#include <QObject>
+#include <QVariantMap>
+
+#include <memory>
+#include <optional>
+
+namespace jobs {
+
+/**
+ * Fields of metadata that a script has read and written by workers, one file at a time: it asks, and takes the answer when that has
+ * come. The next thing is asked after it was taken.
+ */
+class FieldWork : public QObject
+{
+    Q_OBJECT
+
+public:
+    Q_INVOKABLE explicit FieldWork(QObject *parent = nullptr);
+    ~FieldWork() override;
+
+    /** Asks what the fields of a file are: {fields, inPlace, sidecar, problem}, see fieldsAnswer(). */
+    Q_INVOKABLE void look(const QString &path);
+    /** Changes them, see FieldErrand. What is done to a file is done once it can be taken. */
+    Q_INVOKABLE void write(const QString &path, const QVariantMap &work);
+    /** Makes the old file again with what write() gave to undo it; fails where it was changed since. */
+    Q_INVOKABLE void revert(const QString &path, const QString &undo);
+    /** The answer; without any keys before it has come. */
+    Q_INVOKABLE QVariantMap take();
+    /** Gives up what was asked; a file that was to be written is as it was, or as it was to be. The object is of no use any more. */
+    Q_INVOKABLE void close();
+
+Q_SIGNALS:
+    /** There is something to take(). Not from within look(), write() and revert(). */
+    void arrived();
+
+private:
+    void ask(const std::shared_ptr<Errand> &errand);
+    void keep(const QVariantMap &answer);
+
+    WorkerDesk::Number m_asked = 0;
+    std::optional<QVariantMap> m_answer;
+};
+
+} // namespace jobs
