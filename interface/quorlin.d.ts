@@ -968,15 +968,15 @@ declare module "quorlin/files" {
         byteText(bytes: double): string;
         /** "2026-08-14T10:20:30" in the reader's own form; empty for what is none. */
         dateText(date: text): string;
+        /** The new path of a presets database that could hold no preset; empty where it is left. */
+        setAsideUnusableDatabase(path: text): string;
         /** What a picture says in each field; sidecar is where that stands, or would stand, for files that are not changed themselves. */
-        readFields(path: text): FieldsRead;
+        readFields(path: text): { fields?: any; inPlace?: boolean; sidecar: string; problem: string };
         /** Changes fields of a picture, or of its sidecar; see docs/manual for their names. */
-        writeFields(path: text, work: FieldsToWrite): { problem: string; changed: boolean; file: string };
+        writeFields(path: text, work: dictionary): { problem: string; changed: boolean; file: string };
         /** The names of all fields, in the order in which they are shown. */
         fieldNames(): string[];
         privateDataNames(): string[];
-        /** The new path of a presets database that could hold no preset; empty where it is left. */
-        setAsideUnusableDatabase(path: text): string;
     };
 
     /**
@@ -996,13 +996,6 @@ declare module "quorlin/files" {
         close(): null;
     }
 
-    /** What EXIF, IPTC and XMP say of a field, which of them counts, and whether two of them do not say the same. */
-    export interface FieldRead { value: string[]; exif: string[]; iptc: string[]; xmp: string[]; disputed: boolean }
-    export interface FieldsRead { fields?: { [name: string]: FieldRead }; inPlace?: boolean; sidecar: string; problem: string }
-    /** What becomes of a field: exactly one of set, clear, add and remove, or shift (seconds) and zone ("+01:00"). */
-    export interface FieldToWrite { set?: string[]; clear?: boolean; add?: string[]; remove?: string[]; shift?: number; zone?: string }
-    export interface FieldsToWrite { fields?: { [name: string]: FieldToWrite }; remove?: string[] }
-
     /**
      * Fields of metadata that workers read and write, one file at a time: the next thing is asked after the answer was taken.
      */
@@ -1010,15 +1003,15 @@ declare module "quorlin/files" {
         constructor(fields?: fieldsOf<FieldWork>);
         /** There is something to take. */
         readonly arrived: Signal<() => any>;
-        /** Asks what the fields of a file are. */
+        /** Asks what the fields of a file are: {name: {value, exif, iptc, xmp, disputed}}. */
         look(path: text): null;
         /** Changes fields; what is done to a file is done once it can be taken. */
-        write(path: text, work: FieldsToWrite): null;
+        write(path: text, work: dictionary): null;
         /** Makes the old file again with what the answer to write() had as undo; fails where it was changed since. */
         revert(path: text, undo: text): null;
         /** The answer; without any keys before it has come. */
-        take(): { problem?: string; fields?: { [name: string]: FieldRead }; inPlace?: boolean; sidecar?: string; changed?: boolean;
-                  file?: string; undo?: string; before?: { [name: string]: FieldRead }; after?: { [name: string]: FieldRead } };
+        take(): { problem?: string; fields?: any; inPlace?: boolean; sidecar?: string; changed?: boolean; file?: string; undo?: string;
+                  before?: any; after?: any };
         /** Gives up what was asked; the object is of no use any more. */
         close(): null;
     }
