@@ -136,7 +136,7 @@ class Workshop:
             if not originals:
                 sys.exit(f"bench: there are no photographs in {CORPUS}")
             for i in range(count):
-                (place / f"p{i:03}.jpg").symlink_to(originals[i % len(originals)].resolve())
+                shutil.copy(originals[i % len(originals)], place / f"p{i:03}.jpg")
         return place
 
     def run(self, command, count, watches=False):
