@@ -1,6 +1,6 @@
 #include "platform/graphics/free_turn.h"
 
-#include "platform/graphics/cubic.h"
+#include "platform/planes/cubic_pairs.h"
 
 #include <algorithm>
 #include <array>
@@ -37,8 +37,9 @@ class Position
 {
 public:
     explicit Position(double pixels) : m_value(qint64(std::floor(pixels * one))) {}
-    void step(Position by) { m_value += by.m_value; }
+    void step(Position by, int times = 1) { m_value += by.m_value * times; }
     int pixel() const { return int(m_value >> bits); }
+    qint64 value() const { return m_value; }
     size_t stepInPixel() const { return size_t(m_value >> (bits - stepBits)) & ((1 << stepBits) - 1); }
 
 private:
@@ -172,7 +173,18 @@ private:
         const Position down(m_job.placement.step().y());
         Position x(start.x());
         Position y(start.y());
+        bool arePairsMade = m_job.addsAlpha;
         for (int column = columns.first; column < columns.end; ++column, out += m_outBands) {
+            if (!arePairsMade && isInside(x, y)) {
+                const int made = mixedPairs({x, y}, {across, down}, columns.end - column, out);
+                arePairsMade = true;
+                column += made;
+                out += ptrdiff_t(made) * m_outBands;
+                x.step(across, made);
+                y.step(down, made);
+                if (column == columns.end)
+                    return;
+            }
             m_mixer.mix(windowAt(x.pixel(), y.pixel()), m_weights[x.stepInPixel()], m_weights[y.stepInPixel()], out);
             if (m_job.addsAlpha)
                 out[m_bands] = toComponent<Component>(m_job.opaque);
@@ -190,6 +202,41 @@ private:
             for (int band = firstFaded; band < m_outBands; ++band)
                 out[band] = toComponent<Component>(float(out[band]) * part);
         }
+    }
+
+    /** Whether the window lies in the picture with all that may be read behind it. */
+    bool isInside(Position x, Position y) const
+    {
+        const int left = x.pixel() - 1;
+        const int top = y.pixel() - 1;
+        return left >= 0 && top >= 0 && (left + taps) * m_bands + Mixer::readsBeyond <= m_width * m_bands &&
+               top + taps <= m_height;
+    }
+
+    struct Places
+    {
+        Position x;
+        Position y;
+    };
+
+    /** Makes pixels two at a time from one on whose window is inside, and answers how many; there may be none. */
+    int mixedPairs(Places from, Places step, int count, Component *out) const
+    {
+        if constexpr (std::is_same_v<Mixer, RgbMixer>) {
+            const auto isInsideAt = [&](int index) {
+                Places place = from;
+                place.x.step(step.x, index);
+                place.y.step(step.y, index);
+                return isInside(place.x, place.y);
+            };
+            while (count > 1 && !isInsideAt(count - 1)) // on a line all between two that are inside are
+                --count;
+            if (canMixPairs())
+                return mixPairs({m_pixels, ptrdiff_t(m_width) * m_bands, m_weights.data(), stepBits, from.x.value(),
+                                 from.y.value(), step.x.value(), step.y.value()},
+                                count, out);
+        }
+        return 0;
     }
 
     SourceWindow<Component> windowAt(int x, int y)
