@@ -98,7 +98,7 @@ std::optional<QByteArray> made(const ImageSource &source, const platform::JpegRe
     return platform::resizedJpeg(source, resize, options);
 }
 
-platform::JpegResize wholeAt(QSize size, int finer = 1)
+platform::JpegResize wholeAt(QSize size, double finer = 1)
 {
     return {size, QRect(QPoint(0, 0), size), finer};
 }
@@ -166,10 +166,10 @@ void ResizedJpeg::isAsGoodAsTheLongWay()
     const auto source = ImageSource::fromData(jpegOf(Bitmap::fromImage(photograph(size, 1)), sourceQuality));
     QVERIFY(source);
     int largest = 0;
-    for (const int finer : {1, 3})
+    for (const double finer : {1.0, 3.0})
         for (const QSize wanted : {QSize(802, 600), QSize(402, 301), QSize(401, 300), QSize(300, 225), QSize(201, 150)})
             compare(*source, wholeAt(wanted, finer), quality, largest);
-    compare(*source, {QSize(400, 300), QRect(51, 20, 299, 260)}, quality, largest);
+    compare(*source, {QSize(400, 300), QRect(51, 20, 299, 260), 1}, quality, largest);
     qInfo("at most %d levels from the long way", largest);
 }
 
