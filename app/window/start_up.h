@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/window/long_wait_note.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -46,6 +48,7 @@ private:
 
     QString m_problem;
     std::unique_ptr<app::Translations> m_translations;
+    LongWaitNote m_longWait;
     std::unique_ptr<Theme> m_theme;
     std::unique_ptr<Shell> m_shell;
     std::unique_ptr<script::ScriptEngine> m_scripts;

@@ -854,6 +854,21 @@
     </message>
 </context>
 <context>
+    <name>LongWait</name>
+    <message>
+        <source>Still reading</source>
+        <translation>Wird noch gelesen</translation>
+    </message>
+    <message>
+        <source>A picture takes long to read.</source>
+        <translation>Ein Bild braucht lange zum Lesen.</translation>
+    </message>
+    <message>
+        <source>Do Not Wait</source>
+        <translation>Nicht warten</translation>
+    </message>
+</context>
+<context>
     <name>WebPane</name>
     <message>
         <source>Title</source>
@@ -8047,6 +8062,14 @@
     <message>
         <source>it is up to date</source>
         <translation>sie ist aktuell</translation>
+    </message>
+    <message>
+        <source>reading it was given up</source>
+        <translation>das Lesen wurde aufgegeben</translation>
+    </message>
+    <message>
+        <source>writing it was given up</source>
+        <translation>das Schreiben wurde aufgegeben</translation>
     </message>
 </context>
 <context>

@@ -854,6 +854,21 @@
     </message>
 </context>
 <context>
+    <name>LongWait</name>
+    <message>
+        <source>Still reading</source>
+        <translation>Lecture en cours</translation>
+    </message>
+    <message>
+        <source>A picture takes long to read.</source>
+        <translation>Une image est longue à lire.</translation>
+    </message>
+    <message>
+        <source>Do Not Wait</source>
+        <translation>Ne pas attendre</translation>
+    </message>
+</context>
+<context>
     <name>WebPane</name>
     <message>
         <source>Title</source>
@@ -8047,6 +8062,14 @@
     <message>
         <source>it is up to date</source>
         <translation>elle est à jour</translation>
+    </message>
+    <message>
+        <source>reading it was given up</source>
+        <translation>la lecture a été abandonnée</translation>
+    </message>
+    <message>
+        <source>writing it was given up</source>
+        <translation>l’écriture a été abandonnée</translation>
     </message>
 </context>
 <context>

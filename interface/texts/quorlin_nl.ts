@@ -854,6 +854,21 @@
     </message>
 </context>
 <context>
+    <name>LongWait</name>
+    <message>
+        <source>Still reading</source>
+        <translation>Nog aan het lezen</translation>
+    </message>
+    <message>
+        <source>A picture takes long to read.</source>
+        <translation>Het lezen van een foto duurt lang.</translation>
+    </message>
+    <message>
+        <source>Do Not Wait</source>
+        <translation>Niet wachten</translation>
+    </message>
+</context>
+<context>
     <name>WebPane</name>
     <message>
         <source>Title</source>
@@ -8047,6 +8062,14 @@
     <message>
         <source>it is up to date</source>
         <translation>het is actueel</translation>
+    </message>
+    <message>
+        <source>reading it was given up</source>
+        <translation>het lezen is opgegeven</translation>
+    </message>
+    <message>
+        <source>writing it was given up</source>
+        <translation>het schrijven is opgegeven</translation>
     </message>
 </context>
 <context>

@@ -78,9 +78,10 @@ PlannedMessage planNow(const std::shared_ptr<const SharedRecipe> &recipe, const 
 {
     PlannedMessage answer;
     WorkerDesk &desk = WorkerDesk::forWaiting();
-    desk.finish(desk.add(
-        std::make_shared<PlanErrand>(recipe, picture, [&answer](const PlannedMessage &planned) { answer = planned; }),
-        Urgency::Now));
+    const auto errand =
+        std::make_shared<PlanErrand>(recipe, picture, [&answer](const PlannedMessage &planned) { answer = planned; });
+    if (!desk.finish(desk.add(errand, Urgency::Now)))
+        return problemOnly(image::sentence(QT_TRANSLATE_NOOP("recipe", "reading it was given up")));
     return answer;
 }
 

@@ -7,6 +7,7 @@
 #include "platform/foundation/processors.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QPointer>
 #include <QThread>
 
@@ -45,6 +46,12 @@ WorkerDesk::Options usualOptions()
     usual.program = saidProgram().isEmpty() ? workerProgram() : saidProgram();
     usual.texts = saidTexts();
     return usual;
+}
+
+LongWait *&longWait()
+{
+    static LongWait *wait = nullptr;
+    return wait;
 }
 
 QPointer<WorkerDesk> &deskOfProcess()
@@ -184,17 +191,47 @@ bool WorkerDesk::isOpen(Number number) const
                        [&](const auto &each) { return each.second.asked && isIt(*each.second.asked); });
 }
 
-void WorkerDesk::finish(Number number)
+void WorkerDesk::useLongWait(LongWait *wait)
+{
+    longWait() = wait;
+}
+
+void WorkerDesk::waitFor(int milliseconds)
+{
+    if (m_workers.empty())
+        QThread::msleep(milliseconds); // before one is started again
+    else
+        m_pool.waitFor(m_workers.begin()->first, milliseconds);
+    giveWork();
+}
+
+bool WorkerDesk::finish(Number number)
 {
     constexpr int lookMs = 100;
+    constexpr int longMs = 800;
+    QElapsedTimer since;
+    since.start();
     giveWork();
     while (isOpen(number)) {
-        if (m_workers.empty())
-            QThread::msleep(lookMs); // before one is started again
-        else
-            m_pool.waitFor(m_workers.begin()->first, lookMs);
-        giveWork();
+        if (longWait() && since.elapsed() >= longMs)
+            return finishWith(*longWait(), number);
+        waitFor(lookMs);
     }
+    return true;
+}
+
+bool WorkerDesk::finishWith(LongWait &wait, Number number)
+{
+    constexpr int lookMs = 20;
+    bool isWanted = true;
+    wait.begin();
+    for (; isWanted && isOpen(number); isWanted = wait.goOn())
+        waitFor(lookMs);
+    wait.end();
+    const bool isOver = !isOpen(number);
+    if (!isOver)
+        drop(number);
+    return isOver;
 }
 
 void WorkerDesk::warmUp()

@@ -21,6 +21,21 @@ enum class Urgency {
     Later, ///< what may be wanted some time
 };
 
+/** What a process does while it waits for an errand for long, so that its windows answer; see WorkerDesk::finish(). */
+class LongWait
+{
+public:
+    LongWait() = default;
+    LongWait(const LongWait &) = delete;
+    LongWait &operator=(const LongWait &) = delete;
+    virtual ~LongWait() = default;
+    /** begin() and end() may be nested, where something else has to be waited for out of goOn(). */
+    virtual void begin() = 0;
+    /** Called again and again; false where nobody wants to wait any longer. */
+    virtual bool goOn() = 0;
+    virtual void end() = 0;
+};
+
 /**
  * The workers of a process with windows, and what they are asked to do.
  *
@@ -73,10 +88,13 @@ public:
     bool takeBack(Number number);
 
     /**
-     * Waits until an errand is over. Nothing but what workers of this desk say is heard meanwhile, so it has to be a desk where nothing else
-     * is asked for.
+     * Waits until an errand is over. For most of a second nothing but what workers of this desk say is heard meanwhile, so it has to be a desk
+     * where nothing else is asked for; after that useLongWait() says what is done besides. False where that gave the errand up, which
+     * is dropped then and answers nothing.
      */
-    void finish(Number number);
+    bool finish(Number number);
+    /** It must live until another one is used, or null, which waits however long it takes. */
+    static void useLongWait(LongWait *wait);
 
     /** How many pictures may be worked on at a time: 1 to most(). */
     void setSize(int workers);
@@ -128,6 +146,8 @@ private:
     void missed(const QString &problem);
     void take(Id worker, platform::Message &message);
     bool isOpen(Number number) const;
+    void waitFor(int milliseconds);
+    bool finishWith(LongWait &wait, Number number);
     void takeEnd(Id worker, platform::WorkerEnd end);
     void giveUpOrTryAgain(Asked asked, platform::WorkerEnd end);
     void end(Id worker);

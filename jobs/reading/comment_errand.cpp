@@ -1,5 +1,6 @@
 #include "jobs/reading/comment_errand.h"
 
+#include "image/recipe/sentence.h"
 #include "jobs/desk/worker_desk.h"
 #include "jobs/reading/reading_messages.h"
 
@@ -54,9 +55,10 @@ QString writeCommentNow(const QString &path, const QString &comment)
 {
     QString answer;
     WorkerDesk &desk = WorkerDesk::forWaiting();
-    desk.finish(desk.add(
-        std::make_shared<CommentErrand>(path, comment, [&answer](const QString &problem) { answer = problem; }),
-        Urgency::Now));
+    const auto errand =
+        std::make_shared<CommentErrand>(path, comment, [&answer](const QString &problem) { answer = problem; });
+    if (!desk.finish(desk.add(errand, Urgency::Now)))
+        return image::sentence(QT_TRANSLATE_NOOP("recipe", "writing it was given up"));
     return answer;
 }
 

@@ -117,7 +117,10 @@ ReadResult readNow(const ReadRequest &request, WorkerDesk &desk)
         soon.seconds = patience;
     ReadResult result;
     const auto errand = std::make_shared<ReadErrand>(soon, [&result](const ReadResult &said) { result = said; });
-    desk.finish(desk.add(errand, Urgency::Now));
+    if (!desk.finish(desk.add(errand, Urgency::Now))) {
+        result.problem = image::sentence(QT_TRANSLATE_NOOP("recipe", "reading it was given up"));
+        result.isReaderGone = true;
+    }
     errand->abandon();
     return result;
 }
