@@ -1473,6 +1473,8 @@ declare module "quorlin/records" {
         begin(folder: text): string;
         /** Adds lines; isKept: they are on the disk when this returns. False where they could not be written. */
         add(path: text, lines: text, isKept: boolean): boolean;
+        /** It ends when this program ends in order, and is left where that crashes. */
+        endWithProgram(path: text): null;
         /** Ends one: nothing of it is left. */
         end(path: text): null;
         /** Those that were begun and not ended by processes that are gone; they are held by this one from now on. */

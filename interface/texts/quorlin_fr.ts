@@ -4605,6 +4605,13 @@
     </message>
 </context>
 <context>
+    <name>kept-list</name>
+    <message>
+        <source>The list of the last time is back.</source>
+        <translation>La liste de la dernière fois est revenue.</translation>
+    </message>
+</context>
+<context>
     <name>list-estimate</name>
     <message>
         <source>about %1 in total</source>

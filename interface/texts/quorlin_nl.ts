@@ -4605,6 +4605,13 @@
     </message>
 </context>
 <context>
+    <name>kept-list</name>
+    <message>
+        <source>The list of the last time is back.</source>
+        <translation>De lijst van de vorige keer is terug.</translation>
+    </message>
+</context>
+<context>
     <name>list-estimate</name>
     <message>
         <source>about %1 in total</source>

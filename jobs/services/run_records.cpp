@@ -6,6 +6,7 @@
 #include <QDir>
 
 #include <cerrno>
+#include <utility>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -35,6 +36,18 @@ bool writeAll(int file, const QByteArray &bytes)
 }
 
 } // namespace
+
+RunRecords::~RunRecords()
+{
+    for (const QString &path : std::as_const(m_passing))
+        end(path);
+}
+
+void RunRecords::endWithProgram(const QString &path)
+{
+    if (m_held.count(path) != 0)
+        m_passing.append(path);
+}
 
 QString RunRecords::begin(const QString &folder)
 {

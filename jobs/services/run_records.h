@@ -20,11 +20,14 @@ class RunRecords : public QObject
 
 public:
     using QObject::QObject;
+    ~RunRecords() override;
 
     /** Begins one in @p folder, which is made; the path of its file, or empty where that cannot be done. */
     Q_INVOKABLE QString begin(const QString &folder);
     /** Adds lines to one that was begun; @p isKept: they are on the disk when this returns. False where they could not be written. */
     Q_INVOKABLE bool add(const QString &path, const QString &lines, bool isKept);
+    /** It is ended when this process ends in order, and left where that crashes. */
+    Q_INVOKABLE void endWithProgram(const QString &path);
     /** Ends one: nothing of it is left. */
     Q_INVOKABLE void end(const QString &path);
     /** The paths of those in @p folder that nobody holds; from now on they are held here, so that no other window asks about them. */
@@ -32,6 +35,7 @@ public:
 
 private:
     std::map<QString, platform::Descriptor> m_held;
+    QStringList m_passing; ///< those that end with the process
 };
 
 } // namespace jobs

@@ -8,6 +8,7 @@ import { guard } from "../../lib/guard.js";
 import { commonFolder } from "../../lib/names.js";
 import { keep, recall } from "../../lib/store.js";
 import { fill } from "../../lib/wording.js";
+import { KeptList } from "../../runs/making/kept-list.js";
 import { makeServices } from "../../services.js";
 import { SaveAs } from "../save-as/save-as.js";
 import { ActionPage, fillSideBar, lockSideBar } from "./action-page.js";
@@ -85,6 +86,7 @@ export class MainWindow {
         this.repeating = new Repeating(this);
         this.watching = new Watching(this);
         this.interrupted = new InterruptedBar(this);
+        this.keptList = new KeptList(this);
         this.tools = new ListTools(this);
         this.estimate = new ListEstimate(this, () => this.showStart());
         this.shownPage = this.action.page === undefined ? null : this.action;
@@ -258,6 +260,7 @@ export class MainWindow {
     }
 
     listChanged() {
+        this.keptList.listChanged();
         if (this.pictures.count > 0 && (this.shownPage === null || !this.shownPage.usesList)) {
             this.form.control("sideBar").currentAction = this.action.name;
         }

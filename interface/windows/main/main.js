@@ -30,6 +30,7 @@ export function openMainWindow() {
     const say = (text) => window.sayBeside(text);
     watchSettings(say);
     window.interrupted.look();
+    window.keptList.look();
     tellCrash();
     if (shell.arguments.length > 0) {
         window.input.addPaths(shell.arguments);

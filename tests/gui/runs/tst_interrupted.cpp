@@ -47,6 +47,34 @@ private Q_SLOTS:
         QCOMPARE(list().size(), 4);
     }
 
+    void bringsTheListBackWithoutARun()
+    {
+        m_driver->drop({m_driver->inputFolder()});
+        QDir lists;
+        QVERIFY(m_driver->waitFor([&] {
+            lists = QDir(listsFolder());
+            return !lists.isEmpty();
+        }));
+        const QString kept = lists.filePath(lists.entryList(QDir::Files).constFirst());
+        QByteArray lines;
+        QVERIFY(m_driver->waitFor([&] {
+            QFile file(kept);
+            lines = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+            return lines.contains("whole");
+        }));
+        m_driver->startAgain(); // an end in order
+        QVERIFY(list().isEmpty());
+        QVERIFY(!QFile::exists(kept));
+        QVERIFY(QFile::remove(at("b.jpg")));
+        QFile left(kept); // a crash would have left it
+        QVERIFY(left.open(QIODevice::WriteOnly) && left.write(lines) == lines.size());
+        left.close();
+        m_driver->startAgain();
+        QCOMPARE(list(), (QStringList{QStringLiteral("a.jpg"), QStringLiteral("c.jpg"), QStringLiteral("d.jpg")}));
+        m_driver->startAgain();
+        QVERIFY(list().isEmpty());
+    }
+
     void renamesTheRest()
     {
         interrupt(1);
@@ -130,6 +158,7 @@ private Q_SLOTS:
 private:
     QString at(const char *name) const { return m_driver->inputFolder() + u'/' + QLatin1String(name); }
     QString journals() const { return m_driver->folder() + QStringLiteral("/.local/share/quorlin/moves"); }
+    QString listsFolder() const { return m_driver->folder() + QStringLiteral("/.local/share/quorlin/lists"); }
     bool isAsked() const { return m_driver->control<QWidget>("interruptedBar")->isVisible(); }
 
     static QStringList oldNames()
