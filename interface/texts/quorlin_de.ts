@@ -1175,6 +1175,18 @@
         <source>No pages</source>
         <translation>Keine Seiten</translation>
     </message>
+    <message>
+        <source>Letter</source>
+        <translation>US Letter</translation>
+    </message>
+    <message>
+        <source>Legal</source>
+        <translation>US Legal</translation>
+    </message>
+    <message>
+        <source>Tabloid</source>
+        <translation>US Tabloid</translation>
+    </message>
 </context>
 <context>
     <name>contact-presets</name>

@@ -43,6 +43,7 @@ const QHash<QString, QAccessible::Role> &roles()
         {QStringLiteral("window::SegmentedControl"), QAccessible::Grouping},
         {QStringLiteral("window::PositionPad"), QAccessible::Grouping},
         {QStringLiteral("window::ComparePreview"), QAccessible::Graphic},
+        {QStringLiteral("window::PagesView"), QAccessible::Graphic},
         {QStringLiteral("window::CropFrameEditor"), QAccessible::Graphic},
         {QStringLiteral("window::CardHandle"), QAccessible::Graphic}};
     return all;

@@ -24,7 +24,10 @@ function controlOf(name) {
 
 // "A4" is the same everywhere; papers of photographs are known by their sizes.
 function paperText(word) {
-    const texts = { "10x15": "10 × 15 cm", "13x18": "13 × 18 cm", "20x30": "20 × 30 cm", custom: qsTr("Other…") };
+    const texts = {
+        "10x15": "10 × 15 cm", "13x18": "13 × 18 cm", "20x30": "20 × 30 cm", Letter: qsTr("Letter"),
+        Legal: qsTr("Legal"), Tabloid: qsTr("Tabloid"), custom: qsTr("Other…"),
+    };
     return texts[word] || word;
 }
 
