@@ -134,12 +134,12 @@ public:
     Q_INVOKABLE QString hFlipVerticalPicture(const QString &path, const QString &prefix);
 
     /**
-     * A copy turned counter-clockwise onto a canvas that just holds it, written as hFlipHorizontalPicture() does.
+     * A copy turned anticlockwise onto a canvas that just holds it, written as hFlipHorizontalPicture() does.
      * @p angle is in degrees, a number or a text that begins with one; kept in degrees.
      */
     Q_INVOKABLE QString hRotatePicture(const QString &path, const QString &prefix, const QVariant &angle);
 
-    /** A picture turned counter-clockwise by @p angle, kept in wmAngle, transparent around it; null without one. */
+    /** A picture turned anticlockwise by @p angle, kept in wmAngle, transparent around it; null without one. */
     Q_INVOKABLE platform::Picture hRotatePictureBase(const platform::Picture &picture, const QVariant &angle);
 
     /**

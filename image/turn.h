@@ -9,7 +9,7 @@ namespace image {
 QSizeF turnedBox(QSizeF size, double degrees);
 
 /**
- * A bitmap turned counter-clockwise by @p degrees onto a canvas that just holds it: the box, less fractions of a pixel.
+ * A bitmap turned anticlockwise by @p degrees onto a canvas that just holds it: the box, less fractions of a pixel.
  *
  * Multiples of 90 are exact. Around the picture the canvas is empty: transparent where the bitmap has alpha, otherwise
  * all components are 0. Depth, colours, profile and resolution stay; see platform::turned(). Fails with InvalidValue
@@ -24,7 +24,7 @@ platform::ExactTurn exactFlip(Qt::Orientation axis);
 platform::Result<platform::Bitmap> flipped(const platform::Bitmap &bitmap, Qt::Orientation axis);
 
 /**
- * A picture turned counter-clockwise by @p degrees, transparent around it. Its size in points is the box, and its
+ * A picture turned anticlockwise by @p degrees, transparent around it. Its size in points is the box, and its
  * pixels are as dense as they were. Fails as turned() does.
  */
 platform::Result<platform::Picture> turned(const platform::Picture &picture, double degrees);

@@ -8,7 +8,7 @@
 
 namespace image {
 
-/** A flip, or a turn counter-clockwise. */
+/** A flip, or a turn anticlockwise. */
 struct Turning
 {
     std::optional<platform::ExactTurn> exact; ///< set where no pixel has to be computed

@@ -209,9 +209,9 @@ declare module "quorlin" {
         hFlipHorizontalPicture(path: text, prefix: text): text;
         /** The same, top and bottom swapped. */
         hFlipVerticalPicture(path: text, prefix: text): text;
-        /** A copy turned counter-clockwise by degrees, as stored; the angle is a number or a text that begins with one. */
+        /** A copy turned anticlockwise by degrees, as stored; the angle is a number or a text that begins with one. */
         hRotatePicture(path: text, prefix: text, angle: anything): text;
-        /** A picture turned counter-clockwise, transparent around it; null without a picture. */
+        /** A picture turned anticlockwise, transparent around it; null without a picture. */
         hRotatePictureBase(picture: Picture | null, angle: anything): Picture | null;
         /** The part that the crop sheet means. Width and height are read in the tab "W x H". */
         cropImage(path: text, width: whole, height: whole, prefix: text, type: anything, qualityCode: text): text;
@@ -876,6 +876,8 @@ declare module "quorlin/files" {
         changed: string;
         camera: string;
         lens: string;
+        /** 1 to 5 stars, or 0 for none; in the window alone. */
+        rating?: whole;
         bytes: double;
         /** The same in words, "2.4 MB", English in every language, for names. */
         size: string;
@@ -1903,7 +1905,7 @@ declare module "quorlin/shell" {
         currentIndex: whole;
     }
 
-    /** A dial for an angle in degrees, -180 to 180 in tenths; counter-clockwise is positive, 0 points up. Any angle is brought into it. */
+    /** A dial for an angle in degrees, -180 to 180 in tenths; anticlockwise is positive, 0 points up. Any angle is brought into it. */
     export interface AngleDial extends Widget {
         value: double;
         readonly valueChanged: Signal<(degrees: double) => any>;
@@ -2173,6 +2175,10 @@ declare module "quorlin/shell" {
         /** From 1; 0 where there is none. */
         readonly currentPlace: whole;
         problemsOnly: boolean;
+        /** Only pictures with so many stars or more are shown, and no action works on the others; 0 for all. */
+        leastRating: whole;
+        /** The keys 0 to 5 rate the chosen pictures. */
+        keysRate: boolean;
         /** Runs work on these. */
         readonly tickedCount: whole;
         /** While a job runs nothing is read in the background for rows that are not visible. */
@@ -2188,6 +2194,8 @@ declare module "quorlin/shell" {
         readonly countChanged: Signal<(count: whole) => any>;
         readonly orderChanged: Signal<() => any>;
         readonly ticksChanged: Signal<() => any>;
+        readonly ratingsChanged: Signal<() => any>;
+        readonly leastRatingChanged: Signal<(stars: whole) => any>;
         readonly clocksChanged: Signal<() => any>;
         readonly currentPictureChanged: Signal<(id: whole) => any>;
         readonly largePreviewRequested: Signal<() => any>;
@@ -2198,7 +2206,7 @@ declare module "quorlin/shell" {
         /** How many rows the action does not take. */
         hiddenCount(): whole;
         hiddenPaths(): texts;
-        /** "thumbnail", "name", "folder", "taken", "camera", "pixels", "size", "type", "newName", "newSize", "status"; headings by the same names. */
+        /** "thumbnail", "name", "folder", "taken", "camera", "rating", "pixels", "size", "type", "newName", "newSize", "status"; headings by the same names. */
         setColumns(columns: texts, headings: dictionary, stressed: boolean): null;
         /** How many were not in the list yet. The roots are the folders that were added. */
         addPaths(paths: texts, roots: texts): whole;
@@ -2225,6 +2233,8 @@ declare module "quorlin/shell" {
         untickedIds(): list;
         /** Of the chosen rows. */
         toggleTicks(): null;
+        /** The chosen pictures: 1 to 5 stars, or 0 for none. */
+        rate(stars: whole): null;
         tickAll(): null;
         showColumnMenu(): null;
         /** [{camera, count, shift}], shift in seconds; those with most pictures first. */

@@ -3,6 +3,7 @@
 #include "image/services/format_words.h"
 #include "jobs/camera_clocks.h"
 #include "jobs/path_hash.h"
+#include "jobs/records/picture_ratings.h"
 #include "platform/disk/disk_file_system.h"
 #include "platform/disk/folders.h"
 #include "platform/disk/item_facts.h"
@@ -114,6 +115,7 @@ text::TokenFacts factsOfFile(const QString &path, int index, bool isNeeded)
     const auto item = platform::itemFacts(info.isSymLink() && info.exists() ? info.canonicalFilePath() : path);
     if (!item)
         return facts;
+    facts.rating = PictureRatings::ofProcess().of(path);
     facts.created = dateText(item->created);
     facts.changed = dateText(item->modified);
     facts.bytes = item->sizeInBytes;

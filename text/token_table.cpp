@@ -31,6 +31,7 @@ constexpr std::array table = {
     TokenRow{Token::Type, "type", TokenForms::None, facts, QT_TRANSLATE_NOOP("text", "File type"), "JPEG"},
     TokenRow{Token::Orientation, "orientation", TokenForms::None, facts,
              QT_TRANSLATE_NOOP("text", "Landscape, portrait or square"), QT_TRANSLATE_NOOP("text", "Landscape")},
+    TokenRow{Token::Rating, "rating", TokenForms::None, facts, QT_TRANSLATE_NOOP("text", "Rating, 1 to 5"), "3"},
     TokenRow{Token::Folder, "folder", TokenForms::None, path, QT_TRANSLATE_NOOP("text", "Name of the folder"),
              QT_TRANSLATE_NOOP("text", "Holiday")},
 };

@@ -24,6 +24,7 @@ enum class Token {
     Size,
     Type,
     Orientation,
+    Rating,
     Folder,
 };
 

@@ -181,6 +181,8 @@ QString valueOf(Token token, const QString &form, const TokenFacts &facts, Token
         return facts.type;
     case Token::Orientation:
         return orientationText(facts.pixels, language);
+    case Token::Rating:
+        return facts.rating > 0 ? QString::number(facts.rating) : QString();
     case Token::Folder:
         return folderName(facts.path);
     }

@@ -25,6 +25,8 @@ struct TokenFacts
     qint64 bytes = -1;
     /** Upright. */
     QSize pixels;
+    /** 1 to 5; 0 for none. */
+    int rating = 0;
     /** How much a counter has gone on from its first number: how many files came before this one. */
     qint64 index = 0;
 };

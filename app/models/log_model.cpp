@@ -3,6 +3,7 @@
 #include "app/window/look/theme.h"
 
 #include "platform/file/regular_file.h"
+#include "platform/foundation/human_texts.h"
 #include "platform/foundation/natural_order.h"
 
 #include <QDateTime>
@@ -19,9 +20,14 @@ namespace {
 constexpr int sliceMs = 8;
 constexpr int headBytes = 256;
 
-QString dateText(qint64 time, QLocale::FormatType form)
+QString dateText(qint64 time)
 {
-    return time == 0 ? QString() : QLocale().toString(QDateTime::fromMSecsSinceEpoch(time), form);
+    return time == 0 ? QString() : platform::localDateText(QDateTime::fromMSecsSinceEpoch(time));
+}
+
+QString longDateText(qint64 time)
+{
+    return time == 0 ? QString() : QLocale().toString(QDateTime::fromMSecsSinceEpoch(time), QLocale::LongFormat);
 }
 
 /** Sorts places by a key that is worked out once for each. */
@@ -330,7 +336,7 @@ QString LogModel::cell(const LogEntry &entry, int column) const
     const TextPool &texts = m_entries.texts();
     switch (column) {
     case Date:
-        return dateText(entry.time, QLocale::ShortFormat);
+        return dateText(entry.time);
     case Action:
         return entry.action == 0 ? texts.text(entry.process)
                                  : texts.text(entry.process) + QStringLiteral(", ") + texts.text(entry.action);
@@ -351,7 +357,7 @@ QString LogModel::cell(const LogEntry &entry, int column) const
 QString LogModel::toolTip(const LogEntry &entry, int column) const
 {
     if (column == Date)
-        return dateText(entry.time, QLocale::LongFormat);
+        return longDateText(entry.time);
     if (column == File)
         return m_entries.inputPath(entry);
     if (column == Before || column == After)

@@ -2,12 +2,12 @@
 
 #include "image/services/format_words.h"
 #include "jobs/camera_clocks.h"
+#include "jobs/records/picture_ratings.h"
 
 #include "platform/foundation/human_texts.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QLocale>
 #include <QSet>
 
 #include <algorithm>
@@ -35,15 +35,6 @@ QString folderText(const PictureRow &row)
     return folder.mid(top.lastIndexOf(u'/') + 1);
 }
 
-/** In the reader's own form, with all four digits of the year. */
-QString dateText(const QDateTime &date)
-{
-    QString form = QLocale().dateFormat(QLocale::ShortFormat);
-    if (!form.contains(QLatin1String("yyyy")))
-        form.replace(QLatin1String("yy"), QLatin1String("yyyy"));
-    return QLocale().toString(date.date(), form) + u' ' + QLocale().toString(date.time(), QLocale::ShortFormat);
-}
-
 QString cellText(const PictureRow &row, int column)
 {
     const QString none = QStringLiteral("–");
@@ -53,9 +44,11 @@ QString cellText(const PictureRow &row, int column)
     case PictureModel::Folder:
         return folderText(row);
     case PictureModel::Taken:
-        return row.taken.isValid() ? dateText(row.taken) : QString();
+        return platform::localDateText(row.taken);
     case PictureModel::Camera:
         return row.camera;
+    case PictureModel::Rating:
+        return QString(row.rating, QChar(u'★'));
     case PictureModel::Pixels:
         return row.pixels.isEmpty() ? (row.headerRead ? none : QString()) : image::pixelText(row.pixels);
     case PictureModel::Bytes:
@@ -80,7 +73,7 @@ QString PictureModel::thumbnailWords(const PictureRow &row)
                         : tr("Thumbnail of %1, left out of the run").arg(row.name);
 }
 
-bool InputRule::takes(const PictureRow &row) const
+bool InputRule::takesKindOf(const PictureRow &row) const
 {
     if (row.isFolder || folders)
         return row.isFolder && folders;
@@ -107,12 +100,14 @@ QVariant PictureModel::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
         return cellText(row, index.column());
     case Qt::AccessibleTextRole:
+        if (index.column() == Rating)
+            return row.rating == 0 ? QString() : tr("%n stars", nullptr, row.rating);
         return index.column() == Thumbnail ? thumbnailWords(row) : cellText(row, index.column());
     case Qt::ToolTipRole:
         if (index.column() == Pixels && !row.problem.isEmpty())
             return row.problem;
         if (index.column() == Taken && row.taken != row.stated)
-            return tr("%1 according to the camera clock").arg(dateText(row.stated));
+            return tr("%1 according to the camera clock").arg(platform::localDateText(row.stated));
         if (index.column() == Status)
             return row.detail.isEmpty() ? row.status : row.detail;
         return index.column() == NewName ? row.newName : QDir::toNativeSeparators(row.path);
@@ -175,6 +170,8 @@ QVariant PictureModel::headerData(int section, Qt::Orientation orientation, int 
         return tr("Date taken");
     case Camera:
         return tr("Camera");
+    case Rating:
+        return tr("Rating");
     case Pixels:
         return tr("Pixels");
     case Bytes:
@@ -206,6 +203,7 @@ int PictureModel::add(const QStringList &paths, const QStringList &roots)
         row.isFolder = QFileInfo(path).isDir();
         row.type = row.isFolder ? tr("Folder") : image::typeWord(image::typeOfName(row.name));
         row.bytes = image::fileBytes(path);
+        row.rating = jobs::PictureRatings::ofProcess().of(path);
         m_idOfPath.insert(path, row.id);
         fresh.push_back(std::move(row));
     }
@@ -340,6 +338,14 @@ void PictureModel::setTicked(int index, bool on)
     changed(index, Thumbnail, Status);
 }
 
+void PictureModel::setRating(int index, int stars)
+{
+    PictureRow &row = m_rows[size_t(index)];
+    row.rating = stars;
+    jobs::PictureRatings::ofProcess().set(row.path, stars);
+    changed(index, Rating, Rating);
+}
+
 void PictureModel::clocksChanged()
 {
     platform::PictureFacts facts;
@@ -356,9 +362,12 @@ void PictureModel::setPath(int index, const QString &path)
 {
     PictureRow &row = m_rows[size_t(index)];
     // In a swap two rows bear one path for a moment; the later one is the path's.
-    if (m_idOfPath.value(row.path) == row.id)
+    if (m_idOfPath.value(row.path) == row.id) {
         m_idOfPath.remove(row.path);
+        jobs::PictureRatings::ofProcess().set(row.path, 0);
+    }
     row.path = path;
+    jobs::PictureRatings::ofProcess().set(path, row.rating);
     row.name = path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
     m_idOfPath.insert(path, row.id);
     changed(index, Name, Folder);

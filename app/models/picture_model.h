@@ -38,6 +38,7 @@ struct PictureRow
     QDateTime stated;            ///< when it was taken, by the camera's clock; not valid where the file states none
     QDateTime taken;             ///< the same by the corrected clock
     QString camera;              ///< empty where the file states none
+    int rating = 0;              ///< stars, 1 to 5; 0 for none
     bool isTicked = true;        ///< runs work on it
     QStringList results;         ///< the files that a run made of it, while the row says so
     QString newName;
@@ -60,8 +61,11 @@ struct InputRule
     bool folders = false;     ///< folders, and no files
     bool anyFile = true;      ///< files of whatever kind
     QSet<QString> extensions; ///< in lower case, where not any file is taken
+    int leastRating = 0;      ///< the user wants to see no others
 
-    bool takes(const PictureRow &row) const;
+    /** The kind of file is one that the action works on. */
+    bool takesKindOf(const PictureRow &row) const;
+    bool takes(const PictureRow &row) const { return takesKindOf(row) && row.rating >= leastRating; }
 };
 
 /** The input list. Cells are plain text; thumbnails are held for a few hundred rows only. */
@@ -70,7 +74,21 @@ class PictureModel : public QAbstractTableModel
     Q_OBJECT
 
 public:
-    enum Column { Thumbnail, Name, Folder, Taken, Camera, Pixels, Bytes, Type, NewName, NewSize, Status, ColumnCount };
+    enum Column {
+        Thumbnail,
+        Name,
+        Folder,
+        Taken,
+        Camera,
+        Rating,
+        Pixels,
+        Bytes,
+        Type,
+        NewName,
+        NewSize,
+        Status,
+        ColumnCount
+    };
 
     explicit PictureModel(QObject *parent = nullptr);
 
@@ -114,6 +132,8 @@ public:
     void setOrder(const QList<int> &ids);
     /** Whether runs work on the row. */
     void setTicked(int index, bool on);
+    /** @param stars  0 to 5 */
+    void setRating(int index, int stars);
     /** Clocks of cameras were set: looks at all dates again. See jobs::CameraClocks. */
     void clocksChanged();
 

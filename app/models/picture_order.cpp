@@ -56,7 +56,15 @@ void PictureOrder::setOnly(const std::optional<QSet<int>> &ids)
 
 void PictureOrder::setInput(const InputRule &rule)
 {
+    const int leastRating = m_input.leastRating;
     m_input = rule;
+    m_input.leastRating = leastRating;
+    invalidateFilter();
+}
+
+void PictureOrder::setLeastRating(int stars)
+{
+    m_input.leastRating = stars;
     invalidateFilter();
 }
 
@@ -68,6 +76,8 @@ bool PictureOrder::lessThan(const QModelIndex &left, const QModelIndex &right) c
         return a.bytes < b.bytes;
     if (left.column() == PictureModel::Pixels)
         return area(a) < area(b);
+    if (left.column() == PictureModel::Rating)
+        return a.rating < b.rating;
     if (left.column() == PictureModel::Taken && a.taken != b.taken)
         return a.taken.isValid() && (!b.taken.isValid() || a.taken < b.taken);
     return m_order.compare(textOf(a, left.column()), textOf(b, left.column())) < 0;

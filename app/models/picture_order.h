@@ -21,8 +21,10 @@ public:
     bool problemsOnly() const { return m_problemsOnly; }
     /** Shows the pictures with these ids only; all for none. */
     void setOnly(const std::optional<QSet<int>> &ids);
-    /** Rows that an action does not work on are not shown. */
+    /** Rows that an action does not work on are not shown. What setLeastRating() said stays. */
     void setInput(const InputRule &rule);
+    /** Pictures with fewer stars are not shown, and no action works on them; 0: all are. */
+    void setLeastRating(int stars);
     const InputRule &input() const { return m_input; }
 
 protected:

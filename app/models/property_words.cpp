@@ -1,6 +1,9 @@
 #include "app/models/property_words.h"
 
+#include "platform/foundation/human_texts.h"
+
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QHash>
 #include <QLocale>
 #include <QStringList>
@@ -23,7 +26,7 @@ QString number(double value)
 {
     constexpr int digits = 6;
     const bool whole = std::trunc(value) == value && std::abs(value) < 1e15;
-    return whole ? QString::number(qint64(value)) : QLocale().toString(value, 'g', digits);
+    return whole ? QLocale().toString(qint64(value)) : QLocale().toString(value, 'g', digits);
 }
 
 /** A count of pixels or bits; files that state nonsense are not counted in. */
@@ -210,14 +213,14 @@ QString withUnit(const QString &key, double value, const QVariantMap &group)
         {QStringLiteral("DestBearing"), [](double degrees) { return number(degrees) + u'°'; }},
         {QStringLiteral("PixelWidth"),
          [](double pixels) {
-             return QCoreApplication::translate("properties", "%n pixels", nullptr, countOf(pixels));
+             return QCoreApplication::translate("properties", "%Ln pixels", nullptr, countOf(pixels));
          }},
         {QStringLiteral("PixelHeight"),
          [](double pixels) {
-             return QCoreApplication::translate("properties", "%n pixels", nullptr, countOf(pixels));
+             return QCoreApplication::translate("properties", "%Ln pixels", nullptr, countOf(pixels));
          }},
         {QStringLiteral("Depth"),
-         [](double bits) { return QCoreApplication::translate("properties", "%n bits", nullptr, countOf(bits)); }},
+         [](double bits) { return QCoreApplication::translate("properties", "%Ln bits", nullptr, countOf(bits)); }},
         {QStringLiteral("DelayTime"), seconds},
         {QStringLiteral("Orientation"), orientation},
         {QStringLiteral("Flash"), flash},
@@ -226,6 +229,19 @@ QString withUnit(const QString &key, double value, const QVariantMap &group)
         return coordinate(value, group.value(key + QLatin1String("Ref")).toString());
     const Form form = forms.value(key);
     return form ? form(value) : withMeaning(key, value);
+}
+
+/** "2026:08:14 10:20:30" as a date with its time, and "2026:08:14" as a date; what is neither stays as it is. */
+QString dateWords(const QString &key, const QString &text)
+{
+    if (!key.contains(QLatin1String("Date")))
+        return text;
+    const QDateTime moment = QDateTime::fromString(text, QStringLiteral("yyyy:MM:dd HH:mm:ss"));
+    if (moment.isValid())
+        return QLocale().toString(moment.date(), platform::localDateForm()) + u' ' +
+               QLocale().toString(moment.time(), QStringLiteral("HH:mm:ss"));
+    const QDate day = QDate::fromString(text, QStringLiteral("yyyy:MM:dd"));
+    return day.isValid() ? QLocale().toString(day, platform::localDateForm()) : text;
 }
 
 bool areNumbers(const QVariantList &values)
@@ -254,7 +270,7 @@ QString propertyWords(const QString &key, const QVariant &value, const QVariantM
         return value.toBool() ? translated(QT_TRANSLATE_NOOP("properties", "yes"))
                               : translated(QT_TRANSLATE_NOOP("properties", "no"));
     case QMetaType::QString:
-        return value.toString();
+        return dateWords(key, value.toString());
     default:
         return withUnit(key, value.toDouble(), group);
     }

@@ -9,6 +9,7 @@
 #include "jobs/names.h"
 #include "jobs/reading/comment_errand.h"
 #include "jobs/reading/field_errand.h"
+#include "jobs/records/picture_ratings.h"
 
 namespace window {
 
@@ -45,9 +46,14 @@ QVariantMap ReadingFiles::picture(const QString &path) const
 
 QVariant ReadingFiles::facts(const QString &path) const
 {
-    return files::fileFacts(path, [](const QString &file) {
+    const QVariant facts = files::fileFacts(path, [](const QString &file) {
         return jobs::CameraClocks::ofProcess().corrected(KnownPictures::ofProcess().now(file).facts);
     });
+    QVariantMap rated = facts.toMap();
+    if (rated.isEmpty())
+        return facts;
+    rated.insert(QStringLiteral("rating"), jobs::PictureRatings::ofProcess().of(path));
+    return rated;
 }
 
 QString ReadingFiles::profileName(const QString &path) const

@@ -22,7 +22,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QLocale>
 #include <QStandardPaths>
 
 #include <cmath>
@@ -312,7 +311,7 @@ QString FileService::byteText(double bytes) const
 QString FileService::dateText(const QString &date) const
 {
     const QDateTime read = QDateTime::fromString(date, Qt::ISODate);
-    return read.isValid() ? QLocale().toString(read, QLocale::ShortFormat) : QString();
+    return platform::localDateText(read);
 }
 
 } // namespace files

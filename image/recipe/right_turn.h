@@ -30,7 +30,7 @@ public:
 private:
     RightTurn(int quarters, bool isMirrored) : m_quarters(quarters), m_isMirrored(isMirrored) {}
 
-    int m_quarters = 0;        ///< counter-clockwise, 0 to 3, after the mirroring
+    int m_quarters = 0;        ///< anticlockwise, 0 to 3, after the mirroring
     bool m_isMirrored = false; ///< left and right in each other's places
 };
 

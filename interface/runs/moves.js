@@ -42,7 +42,7 @@ export const MOVES = {
     preview: false,
     watches: false,
     repeats: false,
-    columns: ["thumbnail", "name", "folder", "taken", "camera", "newName", "status"],
+    columns: ["thumbnail", "name", "folder", "taken", "camera", "rating", "newName", "status"],
     headings: () => ({ name: qsTr("Now") }),
     stressed: true,
     startText: startText,

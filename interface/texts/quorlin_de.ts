@@ -6588,17 +6588,17 @@
         <translation>%1 m</translation>
     </message>
     <message numerus="yes">
-        <source>%n pixels</source>
+        <source>%Ln pixels</source>
         <translation>
-            <numerusform>%n Pixel</numerusform>
-            <numerusform>%n Pixel</numerusform>
+            <numerusform>%Ln Pixel</numerusform>
+            <numerusform>%Ln Pixel</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n bits</source>
+        <source>%Ln bits</source>
         <translation>
-            <numerusform>%n Bit</numerusform>
-            <numerusform>%n Bit</numerusform>
+            <numerusform>%Ln Bit</numerusform>
+            <numerusform>%Ln Bit</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -10016,6 +10016,10 @@
         <source>Other</source>
         <translation>Andere</translation>
     </message>
+    <message>
+        <source>Not rated</source>
+        <translation>Nicht bewertet</translation>
+    </message>
 </context>
 <context>
     <name>status-bar</name>
@@ -10041,6 +10045,17 @@
     <message>
         <source>%1 left out</source>
         <translation>%1 ausgelassen</translation>
+    </message>
+    <message>
+        <source>Only pictures with %1 are worked on: %2</source>
+        <translation>Nur Bilder mit %1 werden bearbeitet: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stars and more</source>
+        <translation>
+            <numerusform>%n Stern und mehr</numerusform>
+            <numerusform>%n Sternen und mehr</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -10617,6 +10632,10 @@
     <message>
         <source>{%1} tells where a picture was taken. Allow places first, or leave it out.</source>
         <translation>{%1} sagt, wo ein Bild aufgenommen wurde. Erlauben Sie zuerst Orte oder lassen Sie es weg.</translation>
+    </message>
+    <message>
+        <source>Rating, 1 to 5</source>
+        <translation>Bewertung, 1 bis 5</translation>
     </message>
 </context>
 <context>
@@ -11418,12 +11437,34 @@
         <source>%1 according to the camera clock</source>
         <translation>%1 nach der Uhr der Kamera</translation>
     </message>
+    <message>
+        <source>Rating</source>
+        <translation>Bewertung</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stars</source>
+        <translation>
+            <numerusform>%n Stern</numerusform>
+            <numerusform>%n Sterne</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>window::PictureTable</name>
     <message>
         <source>Reset Columns</source>
         <translation>Spalten zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Show All Ratings</source>
+        <translation>Alle Bewertungen zeigen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only %n stars and more</source>
+        <translation>
+            <numerusform>Nur %n Stern und mehr</numerusform>
+            <numerusform>Nur %n Sterne und mehr</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -638,17 +638,17 @@
 <context>
     <name>properties</name>
     <message numerus="yes">
-        <source>%n pixels</source>
+        <source>%Ln pixels</source>
         <translation>
-            <numerusform>%n pixel</numerusform>
-            <numerusform>%n pixels</numerusform>
+            <numerusform>%Ln pixel</numerusform>
+            <numerusform>%Ln pixels</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n bits</source>
+        <source>%Ln bits</source>
         <translation>
-            <numerusform>%n bit</numerusform>
-            <numerusform>%n bits</numerusform>
+            <numerusform>%Ln bit</numerusform>
+            <numerusform>%Ln bits</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -942,6 +942,13 @@
             <numerusform>Only failed pictures are shown: %n</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n stars and more</source>
+        <translation>
+            <numerusform>%n star and more</numerusform>
+            <numerusform>%n stars and more</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>step-words</name>
@@ -1028,6 +1035,26 @@
         <translation>
             <numerusform>%Ln file</numerusform>
             <numerusform>%Ln files</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>window::PictureModel</name>
+    <message numerus="yes">
+        <source>%n stars</source>
+        <translation>
+            <numerusform>%n star</numerusform>
+            <numerusform>%n stars</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>window::PictureTable</name>
+    <message numerus="yes">
+        <source>Only %n stars and more</source>
+        <translation>
+            <numerusform>Only %n star and more</numerusform>
+            <numerusform>Only %n stars and more</numerusform>
         </translation>
     </message>
 </context>

@@ -6588,17 +6588,17 @@
         <translation>%1 m</translation>
     </message>
     <message numerus="yes">
-        <source>%n pixels</source>
+        <source>%Ln pixels</source>
         <translation>
-            <numerusform>%n pixel</numerusform>
-            <numerusform>%n pixels</numerusform>
+            <numerusform>%Ln pixel</numerusform>
+            <numerusform>%Ln pixels</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n bits</source>
+        <source>%Ln bits</source>
         <translation>
-            <numerusform>%n bit</numerusform>
-            <numerusform>%n bits</numerusform>
+            <numerusform>%Ln bit</numerusform>
+            <numerusform>%Ln bits</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -10016,6 +10016,10 @@
         <source>Other</source>
         <translation>Autres</translation>
     </message>
+    <message>
+        <source>Not rated</source>
+        <translation>Sans note</translation>
+    </message>
 </context>
 <context>
     <name>status-bar</name>
@@ -10041,6 +10045,17 @@
     <message>
         <source>%1 left out</source>
         <translation>%1 laissées de côté</translation>
+    </message>
+    <message>
+        <source>Only pictures with %1 are worked on: %2</source>
+        <translation>Seules les images avec %1 sont traitées : %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stars and more</source>
+        <translation>
+            <numerusform>%n étoile et plus</numerusform>
+            <numerusform>%n étoiles et plus</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -10617,6 +10632,10 @@
     <message>
         <source>{%1} tells where a picture was taken. Allow places first, or leave it out.</source>
         <translation>{%1} indique où une image a été prise. Autorisez d’abord les lieux ou retirez cette valeur.</translation>
+    </message>
+    <message>
+        <source>Rating, 1 to 5</source>
+        <translation>Note, de 1 à 5</translation>
     </message>
 </context>
 <context>
@@ -11418,12 +11437,34 @@
         <source>%1 according to the camera clock</source>
         <translation>%1 selon l’horloge de l’appareil</translation>
     </message>
+    <message>
+        <source>Rating</source>
+        <translation>Note</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stars</source>
+        <translation>
+            <numerusform>%n étoile</numerusform>
+            <numerusform>%n étoiles</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>window::PictureTable</name>
     <message>
         <source>Reset Columns</source>
         <translation>Réinitialiser les colonnes</translation>
+    </message>
+    <message>
+        <source>Show All Ratings</source>
+        <translation>Afficher toutes les notes</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only %n stars and more</source>
+        <translation>
+            <numerusform>Seulement %n étoile et plus</numerusform>
+            <numerusform>Seulement %n étoiles et plus</numerusform>
+        </translation>
     </message>
 </context>
 <context>

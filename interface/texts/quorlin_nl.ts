@@ -6588,17 +6588,17 @@
         <translation>%1 m</translation>
     </message>
     <message numerus="yes">
-        <source>%n pixels</source>
+        <source>%Ln pixels</source>
         <translation>
-            <numerusform>%n pixel</numerusform>
-            <numerusform>%n pixels</numerusform>
+            <numerusform>%Ln pixel</numerusform>
+            <numerusform>%Ln pixels</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n bits</source>
+        <source>%Ln bits</source>
         <translation>
-            <numerusform>%n bit</numerusform>
-            <numerusform>%n bits</numerusform>
+            <numerusform>%Ln bit</numerusform>
+            <numerusform>%Ln bits</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -10016,6 +10016,10 @@
         <source>Other</source>
         <translation>Overige</translation>
     </message>
+    <message>
+        <source>Not rated</source>
+        <translation>Niet beoordeeld</translation>
+    </message>
 </context>
 <context>
     <name>status-bar</name>
@@ -10041,6 +10045,17 @@
     <message>
         <source>%1 left out</source>
         <translation>%1 weggelaten</translation>
+    </message>
+    <message>
+        <source>Only pictures with %1 are worked on: %2</source>
+        <translation>Alleen afbeeldingen met %1 worden bewerkt: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stars and more</source>
+        <translation>
+            <numerusform>%n ster en meer</numerusform>
+            <numerusform>%n sterren en meer</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -10617,6 +10632,10 @@
     <message>
         <source>{%1} tells where a picture was taken. Allow places first, or leave it out.</source>
         <translation>{%1} vertelt waar een foto is gemaakt. Sta eerst plaatsen toe of laat het weg.</translation>
+    </message>
+    <message>
+        <source>Rating, 1 to 5</source>
+        <translation>Waardering, 1 tot 5</translation>
     </message>
 </context>
 <context>
@@ -11418,12 +11437,34 @@
         <source>%1 according to the camera clock</source>
         <translation>%1 volgens de klok van de camera</translation>
     </message>
+    <message>
+        <source>Rating</source>
+        <translation>Waardering</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stars</source>
+        <translation>
+            <numerusform>%n ster</numerusform>
+            <numerusform>%n sterren</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>window::PictureTable</name>
     <message>
         <source>Reset Columns</source>
         <translation>Kolommen herstellen</translation>
+    </message>
+    <message>
+        <source>Show All Ratings</source>
+        <translation>Alle waarderingen tonen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only %n stars and more</source>
+        <translation>
+            <numerusform>Alleen %n ster en meer</numerusform>
+            <numerusform>Alleen %n sterren en meer</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -47,6 +47,7 @@ void writeTokenFacts(MessageWriter &writer, const text::TokenFacts &facts)
     writer.number(facts.bytes);
     writeSize(writer, facts.pixels);
     writer.number(facts.index);
+    writer.number(facts.rating);
 }
 
 text::TokenFacts readTokenFacts(MessageReader &reader)
@@ -58,6 +59,7 @@ text::TokenFacts readTokenFacts(MessageReader &reader)
     facts.bytes = reader.number();
     facts.pixels = readSize(reader);
     facts.index = reader.number();
+    facts.rating = int(reader.number());
     return facts;
 }
 

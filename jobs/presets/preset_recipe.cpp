@@ -111,7 +111,7 @@ QJsonArray cropOperations(const QJsonObject &settings)
     return {crop};
 }
 
-/** Flips first, then the turn, which the window counts counter-clockwise. */
+/** Flips first, then the turn, which the window counts anticlockwise. */
 QJsonArray turnOperations(const QJsonObject &settings)
 {
     QJsonArray operations;
@@ -159,7 +159,7 @@ QJsonArray backgroundOperations(const QJsonObject &settings)
     return operations;
 }
 
-/** The window counts its angle counter-clockwise. */
+/** The window counts its angle anticlockwise. */
 QJsonArray watermarkOperations(const QJsonObject &settings)
 {
     QJsonObject mark = {{text("do"), text("watermark")}, {text("position"), positionOf(settings)}};

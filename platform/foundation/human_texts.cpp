@@ -1,6 +1,7 @@
 #include "platform/foundation/human_texts.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QLocale>
 
 #include <algorithm>
@@ -88,6 +89,22 @@ QString mediumDateText(const QDateTime &date)
         return {};
     static const QLocale british(QLocale::English, QLocale::UnitedKingdom);
     return british.toString(date.toLocalTime(), QStringLiteral("d MMM yyyy, HH:mm:ss"));
+}
+
+QString localDateForm()
+{
+    QString form = QLocale().dateFormat(QLocale::ShortFormat);
+    if (!form.contains(QLatin1String("yyyy")))
+        form.replace(QLatin1String("yy"), QLatin1String("yyyy"));
+    return form;
+}
+
+QString localDateText(const QDateTime &date)
+{
+    const QLocale locale;
+    return date.isValid() ? locale.toString(date.date(), localDateForm()) + u' ' +
+                                locale.toString(date.time(), QLocale::ShortFormat)
+                          : QString();
 }
 
 } // namespace platform

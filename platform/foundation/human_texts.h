@@ -3,6 +3,8 @@
 #include <QDateTime>
 #include <QString>
 
+class QDateTime;
+
 namespace platform {
 
 /**
@@ -17,6 +19,12 @@ QString byteCountText(qint64 bytes);
 
 /** The same for the reader: in the words of the installed translation and with the decimal sign of the default locale. */
 QString localByteCountText(qint64 bytes);
+
+/** The form of dates of the program's locale, with all four digits of the year: "dd/MM/yyyy". */
+QString localDateForm();
+
+/** A date with its time in that form: "14/08/2026 10:20"; empty where it is not valid. */
+QString localDateText(const QDateTime &date);
 
 /** Date and time in the medium style of British English, in local time: "16 Nov 2026, 03:52:09". Null for an invalid date. */
 QString mediumDateText(const QDateTime &date);

@@ -6,7 +6,7 @@
 
 namespace platform {
 
-/** What can be done to a picture without computing one new pixel. Turns are counter-clockwise. */
+/** What can be done to a picture without computing one new pixel. Turns are anticlockwise. */
 enum class ExactTurn {
     None,
     Quarter,       ///< 90 degrees: what was on the right is on top
@@ -39,7 +39,7 @@ enum class Surroundings {
 
 struct FreeTurn
 {
-    double degrees = 0; ///< counter-clockwise, finite
+    double degrees = 0; ///< anticlockwise, finite
     QSize canvas;       ///< in whole pixels
     QPointF centre;     ///< where the picture's centre comes to lie, from the canvas's top left corner
     Surroundings surroundings = Surroundings::Cleared;

@@ -24,6 +24,7 @@ TokenFacts tokenFactsFrom(const QVariantMap &map, const QString &path)
     facts.size = fields.text("size");
     const double bytes = fields.number("bytes", -1);
     facts.bytes = bytes >= 0 ? qint64(std::min(bytes, mostCounted)) : -1;
+    facts.rating = fields.whole("rating", 0);
     facts.pixels = QSize(fields.whole("width", 0), fields.whole("height", 0));
     return facts;
 }

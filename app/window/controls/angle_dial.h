@@ -5,7 +5,7 @@
 namespace window {
 
 /**
- * A dial for an angle in degrees, -180 to 180 in tenths; counter-clockwise is positive, 0 points up.
+ * A dial for an angle in degrees, -180 to 180 in tenths; anticlockwise is positive, 0 points up.
  *
  * One tab stop. The mouse drags the hand, which catches at each 15 degrees (with Shift it does not); the wheel and the
  * arrow keys turn by 1 degree, with Shift by 0.1, Page Up and Page Down by 15; Home sets 0.

@@ -1,5 +1,7 @@
 #include "app/window/log/log_table.h"
 
+#include "platform/foundation/human_texts.h"
+
 #include "app/window/look/item_looks.h"
 #include "app/window/look/key_header.h"
 
@@ -8,7 +10,6 @@
 #include <QDateTime>
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QLocale>
 
 #include <algorithm>
 #include <functional>
@@ -258,7 +259,7 @@ void LogTable::arrangeColumns()
         return;
     m_arranging = true;
     const QDateTime wide(QDate(2028, 12, 28), QTime(20, 48, 58));
-    const int date = fontMetrics().horizontalAdvance(QLocale().toString(wide, QLocale::ShortFormat)) + paddingPx;
+    const int date = fontMetrics().horizontalAdvance(platform::localDateText(wide)) + paddingPx;
     setColumnWidth(LogModel::Date, date);
     const auto arrange = [&](const auto &parts) {
         for (int column = LogModel::Action; column < int(std::size(parts)); ++column)

@@ -2,11 +2,11 @@
 
 #include "app/window/look/theme.h"
 
+#include "platform/foundation/human_texts.h"
 #include "platform/foundation/raised.h"
 #include "platform/values/fields.h"
 
 #include <QDateTime>
-#include <QLocale>
 #include <QPainter>
 #include <QPainterPath>
 #include <QScopedValueRollback>
@@ -145,9 +145,7 @@ QString RunRows::longTitle(int number) const
     if (undone < 0)
         return title(number);
     const QDateTime date = QDateTime::fromMSecsSinceEpoch(entries.run(undone).first);
-    return m_texts.value(QStringLiteral("of"))
-        .toString()
-        .arg(title(number), QLocale().toString(date, QLocale::ShortFormat));
+    return m_texts.value(QStringLiteral("of")).toString().arg(title(number), platform::localDateText(date));
 }
 
 QVariant RunRows::cell(int number, int role) const
@@ -159,8 +157,7 @@ QVariant RunRows::cell(int number, int role) const
     case Qt::DisplayRole:
         return isAll ? m_texts.value(QStringLiteral("all")) : title(number);
     case dateRole:
-        return run.first == 0 ? QString()
-                              : QLocale().toString(QDateTime::fromMSecsSinceEpoch(run.first), QLocale::ShortFormat);
+        return run.first == 0 ? QString() : platform::localDateText(QDateTime::fromMSecsSinceEpoch(run.first));
     case countRole:
         return tr("%Ln entries", nullptr, isAll ? entries.count() : run.count);
     case problemsRole:

@@ -1,15 +1,12 @@
 #include "app/window/pictures/date_box.h"
 
-#include <QLocale>
+#include "platform/foundation/human_texts.h"
 
 namespace window {
 
 DateBox::DateBox(QWidget *parent) : QDateEdit(parent)
 {
-    QString form = QLocale().dateFormat(QLocale::ShortFormat);
-    if (!form.contains(QLatin1String("yyyy")))
-        form.replace(QLatin1String("yy"), QLatin1String("yyyy"));
-    setDisplayFormat(form);
+    setDisplayFormat(platform::localDateForm());
     connect(this, &QDateEdit::dateChanged, this, [this](QDate) { Q_EMIT dayChanged(day()); });
 }
 

@@ -47,6 +47,7 @@ constexpr std::array<ColumnKind, PictureModel::ColumnCount> kinds = {{{"thumbnai
                                                                       {"folder", 0, 2, 2, 90},
                                                                       {"taken", 128, 0, 0, 0},
                                                                       {"camera", 118, 0, 0, 0},
+                                                                      {"rating", 76, 0, 0, 0},
                                                                       {"pixels", 92, 0, 0, 0},
                                                                       {"size", 76, 0, 0, 0},
                                                                       {"type", 86, 0, 0, 0},
@@ -160,6 +161,7 @@ void PictureTable::addColumnEntries(QMenu &menu)
         connect(entry, &QAction::triggered, this, [this, column](bool on) { chooseColumn(column, on); });
     }
     menu.addSeparator();
+    addRatingEntries(menu);
     menu.addAction(tr("Reset Columns"), this, [this] {
         layOutAsFirst();
         m_wanted.clear();
@@ -287,7 +289,8 @@ bool PictureTable::isShown(size_t column) const
 {
     if (!m_columnShown[column] || m_wanted.contains(int(column)))
         return m_columnShown[column] && m_wanted.value(int(column));
-    return (column != PictureModel::Folder || m_hasFolders) && !m_leftOut.contains(int(column));
+    return (column != PictureModel::Folder || m_hasFolders) && (column != PictureModel::Rating || m_hasRatings) &&
+           !m_leftOut.contains(int(column));
 }
 
 /** What a column of numbers takes, with its heading. */

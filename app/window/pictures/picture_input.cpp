@@ -29,18 +29,25 @@ void PictureTable::countTaken()
 {
     m_taken = 0;
     m_tickedCount = 0;
+    m_belowRating = 0;
+    bool hasRatings = leastRating() > 0;
     QStringView first;
     bool hasFolders = false;
     for (int row = 0; row < m_model.rowCount(); ++row) {
         const PictureRow &picture = m_model.row(row);
-        if (!m_order.input().takes(picture))
+        hasRatings = hasRatings || picture.rating > 0;
+        if (!m_order.input().takes(picture)) {
+            m_belowRating += m_order.input().takesKindOf(picture) ? 1 : 0;
             continue;
+        }
         const QStringView folder = QStringView(picture.path).left(picture.path.lastIndexOf(u'/'));
         first = m_taken++ == 0 ? folder : first;
         m_tickedCount += picture.isTicked ? 1 : 0;
         hasFolders = hasFolders || folder != first;
     }
-    if (std::exchange(m_hasFolders, hasFolders) != hasFolders)
+    const bool hadFolders = std::exchange(m_hasFolders, hasFolders);
+    const bool hadRatings = std::exchange(m_hasRatings, hasRatings);
+    if (hadFolders != hasFolders || hadRatings != hasRatings)
         showColumns();
 }
 
@@ -99,7 +106,7 @@ QStringList PictureTable::hiddenPaths() const
 {
     QStringList found;
     for (int i = 0; i < m_model.rowCount(); ++i)
-        if (!m_order.input().takes(m_model.row(i)))
+        if (!m_order.input().takesKindOf(m_model.row(i)))
             found.append(m_model.row(i).path);
     return found;
 }

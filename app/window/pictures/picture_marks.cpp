@@ -5,9 +5,13 @@
 #include "app/window/pictures/picture_delegate.h"
 
 #include "jobs/camera_clocks.h"
+#include "jobs/records/picture_ratings.h"
+
+#include "platform/foundation/raised.h"
 
 #include <QHeaderView>
 #include <QMap>
+#include <QMenu>
 #include <QMouseEvent>
 
 #include <algorithm>
@@ -59,6 +63,69 @@ void PictureTable::toggleTicks()
         rows.push_back(m_order.mapToSource(index).row());
     if (!rows.empty())
         tick(rows, std::none_of(rows.begin(), rows.end(), [this](int row) { return m_model.row(row).isTicked; }));
+}
+
+void PictureTable::rate(int stars)
+{
+    if (stars < 0 || stars > jobs::PictureRatings::most)
+        throw platform::Raised::rangeError(QStringLiteral("Expected 0 to 5 for stars but received %1").arg(stars));
+    const QModelIndexList chosen = selectionModel()->selectedRows();
+    if (m_busy || chosen.isEmpty())
+        return;
+    std::vector<int> rows;
+    for (const QModelIndex &index : chosen)
+        rows.push_back(m_order.mapToSource(index).row());
+    for (const int row : rows)
+        m_model.setRating(row, stars);
+    rated();
+}
+
+/** What is shown, and in which order, may depend on ratings. */
+void PictureTable::rated()
+{
+    const bool isSorted = horizontalHeader()->sortIndicatorSection() == PictureModel::Rating;
+    if (isSorted)
+        m_order.sort(PictureModel::Rating, horizontalHeader()->sortIndicatorOrder());
+    const int before = m_taken;
+    if (leastRating() > 0)
+        m_order.setLeastRating(leastRating());
+    countTaken();
+    chooseSomeRow();
+    if (before != m_taken)
+        Q_EMIT countChanged(count());
+    if (isSorted)
+        Q_EMIT orderChanged();
+    Q_EMIT ratingsChanged();
+}
+
+void PictureTable::setLeastRating(int stars)
+{
+    if (stars < 0 || stars > jobs::PictureRatings::most)
+        throw platform::Raised::rangeError(QStringLiteral("Expected 0 to 5 for stars but received %1").arg(stars));
+    if (m_busy || stars == leastRating())
+        return;
+    m_order.setLeastRating(stars);
+    countTaken();
+    chooseSomeRow();
+    wakeLoader();
+    Q_EMIT leastRatingChanged(stars);
+    Q_EMIT countChanged(count());
+}
+
+/** Which ratings are shown. */
+void PictureTable::addRatingEntries(QMenu &menu)
+{
+    if (!m_hasRatings)
+        return;
+    for (int stars = 0; stars <= jobs::PictureRatings::most; ++stars) {
+        QAction *entry =
+            menu.addAction(stars == 0 ? tr("Show All Ratings") : tr("Only %n stars and more", nullptr, stars));
+        entry->setCheckable(true);
+        entry->setChecked(stars == leastRating());
+        entry->setEnabled(!m_busy);
+        connect(entry, &QAction::triggered, this, [this, stars] { setLeastRating(stars); });
+    }
+    menu.addSeparator();
 }
 
 void PictureTable::tickAll()

@@ -263,6 +263,9 @@ void PictureTable::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Space && !(event->modifiers() & (Qt::ControlModifier | Qt::ShiftModifier)))
         Q_EMIT largePreviewRequested();
+    else if (m_keysRate && event->key() >= Qt::Key_0 && event->key() <= Qt::Key_5 &&
+             !(event->modifiers() & ~Qt::KeypadModifier))
+        rate(event->key() - Qt::Key_0);
     else if (event->matches(QKeySequence::Copy))
         Q_EMIT copied(copyFiles());
     else

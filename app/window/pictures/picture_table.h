@@ -26,6 +26,10 @@ class PictureTable : public QTableView
     Q_PROPERTY(int currentPlace READ currentPlace NOTIFY currentPictureChanged)
     /** Rows that failed are shown only; the current one is one of them where there is any. */
     Q_PROPERTY(bool problemsOnly READ problemsOnly WRITE setProblemsOnly)
+    /** Only pictures with so many stars, 1 to 5, or more are shown, and no action works on the others; 0 for all. */
+    Q_PROPERTY(int leastRating READ leastRating WRITE setLeastRating NOTIFY leastRatingChanged)
+    /** Whether the keys 0 to 5 rate the chosen pictures. */
+    Q_PROPERTY(bool keysRate READ keysRate WRITE setKeysRate)
     /** How many of them are ticked: runs work on these. */
     Q_PROPERTY(int tickedCount READ tickedCount NOTIFY ticksChanged)
     Q_PROPERTY(bool busy READ isBusy WRITE setBusy)
@@ -47,6 +51,10 @@ public:
     bool problemsOnly() const { return m_order.problemsOnly(); }
     void setProblemsOnly(bool on);
     int tickedCount() const { return m_tickedCount; }
+    int leastRating() const { return m_order.input().leastRating; }
+    void setLeastRating(int stars);
+    bool keysRate() const { return m_keysRate; }
+    void setKeysRate(bool on) { m_keysRate = on; }
     bool isSettled() const { return !m_resortPending; }
     bool sharesThumbnails() const { return m_model.sharesThumbnails(); }
     void setSharesThumbnails(bool shares) { m_model.setSharesThumbnails(shares); }
@@ -65,11 +73,11 @@ public:
      */
     Q_INVOKABLE void setInput(const QStringList &extensions, bool folders);
     /** How many rows the action does not take. */
-    Q_INVOKABLE int hiddenCount() const { return m_model.rowCount() - m_taken; }
+    Q_INVOKABLE int hiddenCount() const { return m_model.rowCount() - m_taken - m_belowRating; }
     /** The paths of these rows, in the order of adding. */
     Q_INVOKABLE QStringList hiddenPaths() const;
     /**
-     * Shows these columns only: "thumbnail", "name", "folder", "taken", "camera", "pixels", "size", "type", "newName", "newSize",
+     * Shows these columns only: "thumbnail", "name", "folder", "taken", "camera", "rating", "pixels", "size", "type", "newName", "newSize",
      * "status". The folder is shown where the pictures lie in several, and what says least is left out where there is no room; the user
      * chooses otherwise.
      *
@@ -108,6 +116,8 @@ public:
     Q_INVOKABLE QVariantList untickedIds() const;
     /** Unticks the chosen rows, or ticks them where none of them is ticked. */
     Q_INVOKABLE void toggleTicks();
+    /** Rates the chosen pictures: 1 to 5 stars, or 0 for none. */
+    Q_INVOKABLE void rate(int stars);
     /** Ticks all rows. */
     Q_INVOKABLE void tickAll();
     /** Shows the menu of the columns at the head of the list. */
@@ -157,6 +167,8 @@ Q_SIGNALS:
     /** The pictures are shown in another order. */
     void orderChanged();
     void ticksChanged();
+    void ratingsChanged();
+    void leastRatingChanged(int stars);
     /** Clocks of cameras were set. */
     void clocksChanged();
     void currentPictureChanged(int id);
@@ -186,6 +198,8 @@ private:
     void layOutAsFirst();
     void columnsChanged();
     void addColumnEntries(QMenu &menu);
+    void addRatingEntries(QMenu &menu);
+    void rated();
     void chooseColumn(size_t column, bool on);
     void choose(const QModelIndex &index);
     void noteSorting(int column);
@@ -211,8 +225,11 @@ private:
     bool m_busy = false;
     bool m_resortPending = false;
     bool m_arranging = false;
-    int m_taken = 0;                 ///< rows that the action takes
-    int m_tickedCount = 0;           ///< of them
+    int m_taken = 0;           ///< rows that the action takes
+    int m_tickedCount = 0;     ///< of them
+    int m_belowRating = 0;     ///< rows that it would take, but for their rating
+    bool m_hasRatings = false; ///< some row has one
+    bool m_keysRate = true;
     bool m_hasFolders = false;       ///< they lie in several folders
     QList<int> m_leftOut;            ///< columns that there is no room for
     std::vector<bool> m_columnShown; ///< of those that setColumns() named

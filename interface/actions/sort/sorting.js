@@ -93,7 +93,8 @@ export function missingValues() {
         taken: qsTr("Undated"), created: qsTr("Undated"), changed: qsTr("Undated"), camera: qsTr("Unknown camera"),
         lens: qsTr("Unknown lens"), width: qsTr("Unknown size"), height: qsTr("Unknown size"),
         size: qsTr("Unknown size"),
-        type: qsTr("Unknown type"), orientation: qsTr("Unknown orientation"), extension: qsTr("Without extension"),
+        type: qsTr("Unknown type"), orientation: qsTr("Unknown orientation"), rating: qsTr("Not rated"),
+        extension: qsTr("Without extension"),
         name: qsTr("Other names"), folder: qsTr("Other folders"),
     };
     return { standIns: words, standIn: qsTr("Other") };

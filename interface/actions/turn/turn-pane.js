@@ -8,7 +8,7 @@ import { Pane } from "../shared/pane.js";
 
 const QUARTERS = { turnLeft: 90, turnRight: -90, turnHalf: 180 };
 
-// Which way an angle turns, counter-clockwise being positive.
+// Which way an angle turns, anticlockwise being positive.
 function senseText(angle) {
     if (angle === 0) {
         return qsTr("No rotation");

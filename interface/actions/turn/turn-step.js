@@ -10,7 +10,7 @@ import { outputMessages } from "../shared/written.js";
 
 const RIGHT_ANGLE = 90;
 
-/** What a new pane shows. The angle is in degrees, counter-clockwise, in tenths. */
+/** What a new pane shows. The angle is in degrees, anticlockwise, in tenths. */
 export const defaults = {
     angle: 0, flipHorizontal: false, flipVertical: false,
     output: usualOutput(ORIGINAL, "", qsTr("Rotated")),

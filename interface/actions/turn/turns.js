@@ -1,7 +1,7 @@
 // Turns and flips put together. Pure functions; no service is used.
 //
 // An element {mirror, angle} mirrors left to right first, where mirror is true, and then turns by the angle in degrees,
-// counter-clockwise.
+// anticlockwise.
 
 /** The angle as 0 up to, but not including, 360; kept to tenths. */
 export function wholeTurn(angle) {

@@ -19,7 +19,7 @@ export const MOST_DEGREES = 180;
 
 /**
  * What a new pane shows. Sizes are per cent of a picture: of its height for text, of its width for a picture; the margin is per
- * cent of its shorter side. The angle is in degrees, counter-clockwise. An empty font is the usual one.
+ * cent of its shorter side. The angle is in degrees, anticlockwise. An empty font is the usual one.
  */
 export const defaults = {
     mark: "text", text: "© {date:yyyy}", picture: "", font: "", color: "#ffffff", size: 4, pictureSize: 20, position: 8,

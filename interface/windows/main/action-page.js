@@ -86,6 +86,8 @@ export class ActionPage {
         if (action.presets !== undefined) {
             this.presets.use(action.name, action.title(), page.pane);
         }
+        // Where pictures are looked at one by one, keys belong to what is done with them.
+        window.pictures.keysRate = manner.columns.length > 0;
         if (manner.columns.length > 0) {
             const own = action.headings === undefined ? {} : action.headings();
             window.pictures.setColumns(manner.columns, Object.assign(manner.headings(), own), manner.stressed);

@@ -3,12 +3,13 @@
 import { shell } from "quorlin/shell";
 
 export class Escape {
-    /** @param window  the main window's parts: form, preview, run, pictures, showProblemsOnly(on) */
+    /** @param window  the main window's parts: form, preview, run, pictures, showAllRows() */
     constructor(window) {
         this.parts = {
             large: { isOpen: () => window.preview.large.visible, close: () => window.preview.closeLarge() },
             run: { isOpen: () => window.run !== null && window.run.isBusy(), close: () => window.run.cancel() },
-            filter: { isOpen: () => window.pictures.problemsOnly, close: () => window.showProblemsOnly(false) },
+            filter: { isOpen: () => window.pictures.problemsOnly || window.pictures.leastRating > 0,
+                      close: () => window.showAllRows() },
             fullScreen: { isOpen: () => shell.fullScreen, close: () => shell.toggleFullScreen() },
         };
         this.open = []; // the latest at the end

@@ -27,6 +27,8 @@ export class ListTools {
         control("clocksAction").triggered.connect(guard("clocks", () => this.setClocks()));
         control("exportListAction").triggered.connect(guard("export", () => this.exportList()));
         window.pictures.copied.connect(guard("copied", (count) => this.copied(count)));
+        window.pictures.ratingsChanged.connect(guard("ratings.changed", () => this.ratingsChanged()));
+        window.pictures.leastRatingChanged.connect(guard("ratings.shown", () => window.showFiltered()));
         window.pictures.clocksChanged.connect(guard("clocks.changed", () => this.clocksChanged()));
     }
 
@@ -70,6 +72,16 @@ export class ListTools {
         this.window.services.facts.forget();
         this.window.livePlan.refresh();
         this.window.showCurrent();
+    }
+
+    // Names and folders may be made of ratings.
+    ratingsChanged() {
+        this.window.services.facts.forget();
+        if (JSON.stringify(this.window.settings).indexOf("{rating") >= 0) {
+            this.window.livePlan.refresh();
+            this.window.showCurrent();
+        }
+        this.window.showFiltered();
     }
 
     copyFiles() {

@@ -39,7 +39,7 @@ function doingsOf(window) {
         fit: () => window.setFill(false),
         fill: () => window.setFill(true),
         actual: () => window.preview.toggleActual(),
-        showAllRows: () => window.showProblemsOnly(false),
+        showAllRows: () => window.showAllRows(),
         showHidden: () => window.input.showHidden(),
         addOwn: () => window.input.addOwn(),
         convertHidden: () => { window.form.control("sideBar").currentAction = "convert"; },

@@ -395,6 +395,16 @@ export class MainWindow {
         showStatusBar(this);
     }
 
+    /** Shows whether some of the list is not. */
+    showFiltered() {
+        showStatusBar(this);
+    }
+
+    showAllRows() {
+        this.pictures.leastRating = 0;
+        this.showProblemsOnly(false);
+    }
+
     mayClose() {
         const isSaving = this.saving !== null && this.saving.isBusy();
         if (!this.run.isBusy() && !isSaving) {

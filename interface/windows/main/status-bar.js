@@ -2,7 +2,7 @@
 // what can be done about it.
 
 import { wordsFor } from "../../lib/input-words.js";
-import { fill } from "../../lib/wording.js";
+import { fill, numberText } from "../../lib/wording.js";
 
 function listText(window) {
     const words = wordsFor(window.action.lists(window.settings));
@@ -34,10 +34,17 @@ function endButtons(run, ended) {
 
 // Says over the list that it shows a part of itself.
 function showFilter(window) {
-    const on = window.pictures.problemsOnly;
-    window.form.control("filterBar").visible = on;
-    window.form.control("filterNote").text = on
-        ? qsTr("Only failed pictures are shown: %n", "", window.run.problems) : "";
+    const stars = window.pictures.leastRating;
+    const notes = [];
+    if (window.pictures.problemsOnly) {
+        notes.push(qsTr("Only failed pictures are shown: %n", "", window.run.problems));
+    }
+    if (stars > 0) {
+        notes.push(fill(qsTr("Only pictures with %1 are worked on: %2"), qsTr("%n stars and more", "", stars),
+                        numberText(window.pictures.count)));
+    }
+    window.form.control("filterBar").visible = notes.length > 0;
+    window.form.control("filterNote").text = notes.join(" · ");
 }
 
 export function showStatusBar(window) {

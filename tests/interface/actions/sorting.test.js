@@ -34,6 +34,7 @@ const FOLDERS = [
     ["{taken:yyyy/MM}", {}, ["2026-08"]], ["{taken:HH:mm}", {}, ["10-20"]],
     ["{camera}", { camera: "<Digimax i50 MP3, Samsung #1 MP3>" }, ["-Digimax i50 MP3, Samsung #1 MP3-"]],
     ["{orientation}", { width: 0, height: 0 }, ["Unknown orientation"]],
+    ["{rating}", { rating: 0 }, ["Not rated"]], ["{rating}", { rating: 3 }, ["3"]],
     ["{name:word}", {}, ["Other names"], "/in/4711.jpg"], ["{extension}", {}, ["Without extension"], "/in/4711"],
     ["{name}", {}, ["-"], "/in/....jpg"],
 ];

@@ -24,6 +24,7 @@ TokenFacts someFacts()
     facts.size = QStringLiteral("2.4 MB");
     facts.bytes = 2440000;
     facts.pixels = QSize(4032, 3024);
+    facts.rating = 4;
     return facts;
 }
 
@@ -105,6 +106,7 @@ void TestTokenValues::expands_data()
     row("{size:MB}", "2.4");
     row("{type}", "JPEG");
     row("{orientation}", "Landscape");
+    row("{rating}", "4");
     row("{counter}", "1");
     row("{counter:}", "1");
     row("{counter:001}", "001");

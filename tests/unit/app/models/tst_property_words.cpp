@@ -13,6 +13,8 @@ class TestPropertyWords : public QObject
 private Q_SLOTS:
     void saysUnits_data();
     void saysUnits();
+    void saysNumbersAndDatesAsTheReaderDoes_data();
+    void saysNumbersAndDatesAsTheReaderDoes();
     void saysCoordinatesWithTheirReference();
     void saysPlaces_data();
     void saysPlaces();
@@ -56,7 +58,7 @@ void TestPropertyWords::saysUnits_data()
     row("ColorSpace", 1, "1 (sRGB)");
     row("ColorSpace", 65535, "65535 (not sRGB)");
     row("AltitudeRef", 1, "1 (below sea level)");
-    row("ExposureMode", 1e12, "1000000000000");
+    row("ExposureMode", 1e12, "1,000,000,000,000");
     row("FlashPixVersion", QVariantList({1, 0}), "1.0");
     row("GPSVersion", QVariantList({2, 3, 0, 0}), "2.3.0.0");
     row("FocalLength", 50, "50 mm");
@@ -85,6 +87,28 @@ void TestPropertyWords::saysUnits()
     QFETCH(QString, words);
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
     QCOMPARE(window::propertyWords(key, value, {}), words);
+}
+
+void TestPropertyWords::saysNumbersAndDatesAsTheReaderDoes_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<QString>("words");
+    const auto row = [](const char *key, const QVariant &value, const char *words) {
+        QTest::addRow("%s %s", key, words) << QString::fromLatin1(key) << value << QString::fromUtf8(words);
+    };
+    row("PixelWidth", 12345, "12,345 pixels");
+    row("ISOSpeedRatings", QVariantList({25600}), "25,600");
+    row("DateTimeOriginal", QStringLiteral("2026:08:14 10:20:30"), "14/08/2026 10:20:30");
+    row("DateStamp", QStringLiteral("2026:08:14"), "14/08/2026");
+    row("DateTime", QStringLiteral("2026:02:31 10:20:30"), "2026:02:31 10:20:30"); // there is no such day
+    row("DateTime", QStringLiteral("    :  :     :  :  "), "    :  :     :  :  ");
+    row("ImageDescription", QStringLiteral("2026:08:14"), "2026:08:14");
+}
+
+void TestPropertyWords::saysNumbersAndDatesAsTheReaderDoes()
+{
+    saysUnits();
 }
 
 void TestPropertyWords::saysCoordinatesWithTheirReference()
