@@ -1082,6 +1082,10 @@
         <source>–</source>
         <translation>–</translation>
     </message>
+    <message>
+        <source>Direction</source>
+        <translation>Schreibrichtung</translation>
+    </message>
 </context>
 <context>
     <name>contact-action</name>

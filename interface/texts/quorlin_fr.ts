@@ -1082,6 +1082,10 @@
         <source>–</source>
         <translation>–</translation>
     </message>
+    <message>
+        <source>Direction</source>
+        <translation>Sens d’écriture</translation>
+    </message>
 </context>
 <context>
     <name>contact-action</name>

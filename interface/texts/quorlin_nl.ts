@@ -1082,6 +1082,10 @@
         <source>–</source>
         <translation>–</translation>
     </message>
+    <message>
+        <source>Direction</source>
+        <translation>Schrijfrichting</translation>
+    </message>
 </context>
 <context>
     <name>contact-action</name>
