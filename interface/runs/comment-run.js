@@ -11,7 +11,7 @@ import { fill } from "../lib/wording.js";
 // Stands for any picture where there is none yet.
 const MADE_UP = { path: "/IMG_4711.JPG",
                   facts: { taken: "2026-08-14T10:20:30", created: "2026-08-14T10:20:30", changed: "2026-08-15T09:00:00",
-                                                       width: 4032, height: 3024, bytes: 2440000, size: "2.4 MB" } };
+                           width: 4032, height: 3024, bytes: 2440000, size: "2.4 MB", rating: 3 } };
 
 const NO_WAIT = [];
 
