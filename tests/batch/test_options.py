@@ -34,7 +34,7 @@ class Asking(BatchTest):
         png(self.path("a.png"), 600, 400)
         self.lines("--preset", "Background and Border/On paper", "a.png")
         self.assertEqual(self.files("Framed"), ["a.png"])
-        line = self.lines("--preset", "Crop/Trim 5 %", "a.png")[0]
+        line = self.lines("--preset", "Crop/Trim 5%", "a.png")[0]
         self.assertEqual((line["width"], line["height"]), (570, 380))
 
     def test_presets_of_the_user(self):
@@ -66,7 +66,7 @@ class Asking(BatchTest):
         full = open("/dev/full", "wb")
         self.addCleanup(full.close)
         self.run_batch("--help", status=1, stdout=full)
-        self.assertIn("read-only", self.said)
+        self.assertIn("cannot be written", self.said)
 
 
 class BadRequests(BatchTest):

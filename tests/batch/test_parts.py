@@ -19,7 +19,7 @@ XMP = (b'http://ns.adobe.com/xap/1.0/\0<x:xmpmeta xmlns:x="adobe:ns:meta/"><rdf:
        b'xmlns:GCamera="http://ns.google.com/photos/1.0/camera/" xmlns:xmp="http://ns.adobe.com/xap/1.0/" hdrgm:Version="1.0" '
        b'GCamera:MotionPhoto="1" xmp:Rating="4"/></rdf:RDF></x:xmpmeta>')
 ANNOUNCED = (b"hdrgm:Version", b"MotionPhoto", b"MPF\0", b"JP\0\1", b"behind it")
-NAMED = ("Further pictures", "gain map", "motion picture", "Signed content credentials")
+NAMED = ("Only the first picture", "gain map", "motion picture", "Signed content credentials")
 
 
 def segment(marker, payload):

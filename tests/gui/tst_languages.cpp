@@ -24,9 +24,12 @@ QStringList sameEverywhere()
 {
     QStringList words =
         QStringLiteral(
-            "Quorlin px mm cm dpi KB MB GB jpg jpeg png tiff tif bmp gif pdf jp WebP AVIF XL xyz sRGB RGB UTC "
+            "Quorlin px mm cm dpi KB MB GB jpg jpeg jxl png tiff tif bmp gif pdf jp WebP AVIF XL xyz sRGB RGB UTC "
             // the languages by their own names, and the licences of libraries
-            "English Nederlands Deutsch Français Qt libvips exiv Cairo libjpeg turbo libdeflate OpenJPEG "
+            "English Nederlands Deutsch Français العربية Čeština Dansk Ελληνικά Español فارسی Suomi עברית Italiano "
+            "日本語 "
+            "한국어 Norsk Polski Português Русский Svenska Türkçe Українська 中文 Qt libvips exiv Cairo libjpeg turbo "
+            "libdeflate OpenJPEG "
             "OpenJPEG libplist SQLite GPL LGPL IJG BSD MIT public domain "
             // forms of dates, and property names as files have them
             "yyyy MM dd ColorModel Depth DPIHeight DPIWidth HasAlpha PixelHeight PixelWidth")

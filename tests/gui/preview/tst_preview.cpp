@@ -399,7 +399,7 @@ void TestPreview::worksTheFrameWithTheKeyboard()
     setCropFrame(QRect(100, 100, 200, 200));
     QCOMPARE(cropFrame().accessibleName(), QStringLiteral("Crop frame"));
     QCOMPARE(cropFrame().accessibleDescription(),
-             QStringLiteral("200 by 200 pixels, 100 from the left, 100 from the top"));
+             QStringLiteral("200 × 200 pixels, 100 from the left, 100 from the top"));
     cropFrame().setFocus();
     QSignalSpy edited(m_preview.get(), &ComparePreview::cropFrameEdited);
     QSignalSpy stepped(m_preview.get(), &ComparePreview::stepRequested);
@@ -410,7 +410,7 @@ void TestPreview::worksTheFrameWithTheKeyboard()
     QCOMPARE(cropFrame().frame(), QRect(101, 110, 199, 190));
     QCOMPARE(edited.size(), 4);
     QCOMPARE(stepped.size(), 0);
-    QVERIFY(cropFrame().accessibleDescription().startsWith(QStringLiteral("199 by 190")));
+    QVERIFY(cropFrame().accessibleDescription().startsWith(QStringLiteral("199 × 190")));
 }
 
 void TestPreview::leavesTheArrowKeysToTheListWithoutTheFrame()

@@ -191,7 +191,7 @@ void TestTokens::saysWhatIsWrong_data()
     row("{name:~ , }", "“~ , ”");
     row("{size:KB}", "“KB”");
     row("{size: class}", "“ class”");
-    row("{camera:3}", "{camera} has no forms");
+    row("{camera:3}", "{camera} takes no format");
     row("{name", "not closed");
     row("{name} {", "not closed");
     row("{{{", "not closed");
