@@ -19,7 +19,7 @@ struct TakenDate
     QString toText() const;
     /** None for other texts. Seconds may be missing, a blank may stand in place of the T, and Z for +00:00. */
     static std::optional<TakenDate> fromText(const QString &text);
-    /** "2026:11:22 14:05:09", with what EXIF says of parts of a second and the zone in tags of their own. */
+    /** "2026:11:22 14:05:09", with the fraction of a second and the time zone, which EXIF keeps in separate tags. */
     static std::optional<TakenDate> fromExif(const QString &text, const QString &subSeconds, const QString &zone);
     /** "20261122" and "140509+0100", which may be empty. */
     static std::optional<TakenDate> fromIptc(const QString &day, const QString &time);

@@ -1,6 +1,6 @@
 // The languages that pages can be in, each by its own name. Pure data; a page in any other language has its code in a preset.
 
-/** [code, name]; the first four are those that pages have words of their own in. */
+/** [code, name]; only for the first four are the words of the page translated. */
 export const LANGUAGES = [
     ["en", "English"], ["de", "Deutsch"], ["fr", "Français"], ["nl", "Nederlands"], ["ar", "العربية"],
     ["cs", "Čeština"], ["da", "Dansk"], ["el", "Ελληνικά"], ["es", "Español"], ["fa", "فارسی"], ["fi", "Suomi"],

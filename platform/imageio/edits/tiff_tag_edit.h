@@ -16,7 +16,7 @@ enum class SecondDirectory { IsPage, IsThumbnail };
  * What has to change in a TIFF file or EXIF block for its tags to say something else.
  *
  * No byte that stays in use is moved, so that every offset still holds, those in maker notes included. A value goes where the old one
- * was if there is room, else to the end; a directory that gets more entries is written anew behind all, one that gets fewer stays in its
+ * was if there is room, else to the end; a directory that gets more entries moves to the end, one that gets fewer stays in its
  * place. Values that give way become zeros. A block without a directory gets a first one.
  *
  * @param dropsThumbnail  the second directory is unlinked and becomes zeros, with its picture; only where it is a thumbnail

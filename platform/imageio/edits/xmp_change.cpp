@@ -79,7 +79,7 @@ QString list(const char *kind, const QStringList &texts)
     return QStringLiteral("<rdf:%1>%2</rdf:%1>").arg(name, items);
 }
 
-/** The alternatives of other languages stay where they say something of their own. */
+/** Keeps the alternatives of other languages that differ from the default. */
 QString alternatives(const QString &text, const QList<XmpItem> &old)
 {
     const auto first =
