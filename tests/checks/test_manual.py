@@ -50,6 +50,65 @@ class Manual(unittest.TestCase):
         self.write("docs/manual/alone.md", "# Alone\n")
         self.assertEqual(self.problems(), ["index.md: does not lead to alone.md"])
 
+    def translate(self):
+        """The whole manual in German, with its pictures."""
+        self.write("docs/manual/de/index.md", "# Alles\n\n[Log](log.md), [Zuschneiden](crop.md#wie-es-geht), [web](https://example.org)\n")
+        self.write("docs/manual/de/crop.md", "# Zuschnitt\n\n## Wie es geht\n\n![Fenster](../../screenshots/de/crop-light.png)\n")
+        self.write("docs/manual/de/log.md", "# Protokoll\n\n[oben](#protokoll)\n")
+        for name in ("crop-light.png", "crop-dark.png"):
+            self.write("docs/screenshots/de/" + name, "")
+
+    def test_a_whole_translation_has_none(self):
+        self.translate()
+        self.assertEqual(manual.check(self.root), ([], "3 pages, 5 links and pictures, 2 actions; en de"))
+
+    def test_a_translation_counts_once_it_has_its_first_page(self):
+        self.write("docs/manual/de/log.md", "# Protokoll\n\n## Mehr\n")
+        self.assertEqual(self.problems(), [])
+        self.assertIn("de/crop.md is missing", manual.check(self.root, ["de"])[0])
+        self.write("docs/manual/de/index.md", "# Alles\n\n[Log](log.md)\n")
+        self.assertIn("de/crop.md is missing", self.problems())
+
+    def test_finds_pages_that_only_a_translation_has(self):
+        self.translate()
+        self.write("docs/manual/de/more.md", "# Mehr\n")
+        self.assertIn("de/more.md: English has no such page", self.problems())
+
+    def test_finds_other_levels_of_headings(self):
+        self.translate()
+        self.write("docs/manual/de/log.md", "# Protokoll\n\n### Mehr\n\n[oben](#protokoll)\n")
+        self.assertEqual(self.problems(), ["de/log.md: its headings have the levels [1, 3], those in English [1]"])
+
+    def test_finds_links_to_other_places(self):
+        self.translate()
+        self.write("docs/manual/de/index.md", "# Alles\n\n[Log](log.md), [Zuschneiden](crop.md)\n")
+        self.assertEqual(self.problems(), ["de/index.md: lacks a link to crop.md, heading 2",
+                                           "de/index.md: has a link too many to crop.md, heading 0"])
+        self.write("docs/manual/de/index.md", "# Alles\n\n[Log](log.md), [Zuschneiden](crop.md#how-it-goes)\n")
+        self.assertIn("de/index.md: leads to crop.md#how-it-goes, where no heading is called so", self.problems())
+
+    def test_finds_two_headings_of_one_name(self):
+        self.translate()
+        self.write("docs/manual/de/crop.md", "# Zuschnitt\n\n## Zuschnitt\n\n![Fenster](../../screenshots/de/crop-light.png)\n")
+        self.assertIn("de/crop.md: two headings have the anchor zuschnitt", self.problems())
+
+    def test_finds_figures_of_another_language(self):
+        self.translate()
+        self.write("docs/manual/de/crop.md", "# Zuschnitt\n\n## Wie es geht\n\n![Fenster](../../screenshots/crop-light.png)\n")
+        self.assertEqual(self.problems(), ["de/crop.md: its figures are not ../../screenshots/de/crop-light.png"])
+
+    def test_finds_pictures_that_a_language_lacks_once_it_has_some(self):
+        self.translate()
+        (self.root / "docs/screenshots/de/crop-dark.png").unlink()
+        self.assertEqual(self.problems(),
+                         ["de/crop.md: shows ../../screenshots/de/crop-light.png, but crop-dark.png is not there"])
+        shutil.rmtree(self.root / "docs/screenshots/de")
+        self.assertEqual(self.problems(), [])
+
+    def test_finds_figures_without_words(self):
+        self.write("docs/manual/crop.md", "# Crop\n\n## How `it` goes\n\n![](../screenshots/crop-light.png)\n")
+        self.assertEqual(self.problems(), ["crop.md: does not say what ../screenshots/crop-light.png shows"])
+
 
 if __name__ == "__main__":
     unittest.main()
