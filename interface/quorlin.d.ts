@@ -2113,22 +2113,22 @@ declare module "quorlin/shell" {
         selectRow(row: whole): null;
     }
 
-    /** Shows the pages of a manual; a page is named as its file is, without ".md". */
+    /** Shows the pages of a manual; a page is named as its file is, without ".md". Pages that a language lacks are English. */
     export interface ManualView extends Widget {
         readonly page: string;
         readonly canGoBack: boolean;
         readonly canGoForward: boolean;
         readonly pageShown: Signal<(page: text) => any>;
-        setFolder(folder: text): null;
+        setFolder(folder: text, language: text): null;
         pages(): list;
-        /** And the heading with that anchor, if it is not empty. */
+        /** And, if it is not empty, the heading that has that anchor in the English page. */
         open(page: text, anchor: text): null;
         goBack(): null;
         goForward(): null;
         /** False where no page has it. */
         findNext(text: text): boolean;
         /** As after a change of the appearance. */
-        drawAnew(): null;
+        redraw(): null;
     }
 
     /** A sketch of a web page in its style and colours, by daylight and in the dark. */

@@ -65,6 +65,39 @@ private Q_SLOTS:
         QCOMPARE(view()->page(), QStringLiteral("index"));
     }
 
+    // A link leads to the heading of its own language, code to the one that the English page calls so.
+    void pagesAreThoseOfTheLanguage()
+    {
+        QVERIFY(QDir().mkpath(manual() + QStringLiteral("/de")));
+        page("de/index", "# Das Handbuch\n\n- [Zuschneiden](crop.md)\n- [Größe](resize.md#größer-als-zuvor)\n");
+        page("de/resize", "# Größe\n\n" + QByteArray(4000, ' ').replace(" ", "Mehr Worte. ") +
+                              "\n\n## Größer als zuvor\n\nEine\nNadel.\n\n" +
+                              QByteArray(4000, ' ').replace(" ", "Noch mehr. "));
+        qputenv("QUORLIN_LANGUAGE", "de");
+        m_driver->startAgain();
+        m_driver->show("log");
+        open();
+        QCOMPARE(list()->item(0)->text(), QStringLiteral("Das Handbuch"));
+        QCOMPARE(list()->item(1)->text(), QStringLiteral("Crop"));
+        QCOMPARE(list()->item(2)->text(), QStringLiteral("Größe"));
+        follow("resize.md#gr%C3%B6%C3%9Fer-als-zuvor");
+        const int place = view()->verticalScrollBar()->value();
+        QVERIFY(place > 500);
+        view()->open(QStringLiteral("resize"), QString());
+        QCOMPARE(view()->verticalScrollBar()->value(), 0);
+        view()->open(QStringLiteral("resize"), QStringLiteral("two-words"));
+        QCOMPARE(view()->verticalScrollBar()->value(), place);
+        view()->open(QStringLiteral("crop"), QString());
+        QVERIFY(view()->toPlainText().contains(QStringLiteral("Cuts.")));
+        control<QLineEdit>("manualSearch")->setText(QStringLiteral("Eine Nadel"));
+        QTest::keyClick(control<QLineEdit>("manualSearch"), Qt::Key_Return);
+        QCOMPARE(view()->page(), QStringLiteral("resize"));
+        QCOMPARE(view()->textCursor().selectedText(), QStringLiteral("Eine Nadel"));
+        qunsetenv("QUORLIN_LANGUAGE");
+        QVERIFY(QDir(manual() + QStringLiteral("/de")).removeRecursively());
+        m_driver->startAgain();
+    }
+
     void keyOpensIt() { QCOMPARE(m_driver->control<QAction>("manualAction")->shortcut(), QKeySequence(Qt::Key_F1)); }
 
     void listsThePagesAsTheFirstOneLinksToThem()

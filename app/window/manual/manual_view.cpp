@@ -1,17 +1,14 @@
 #include "app/window/manual/manual_view.h"
 
 #include "app/window/look/theme.h"
-#include "platform/file/atomic_file.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QDesktopServices>
 #include <QDialog>
-#include <QDir>
 #include <QFileInfo>
 #include <QImage>
 #include <QLabel>
 #include <QMouseEvent>
-#include <QRegularExpression>
 #include <QScreen>
 #include <QScrollBar>
 #include <QTextBlock>
@@ -28,13 +25,6 @@ constexpr int marginPx = 24;
 /** Of the screen, for a picture that is shown large. */
 constexpr double largestShare = 0.9;
 const QString pictureScheme = QStringLiteral("picture");
-
-QString titleOf(const QString &text, const QString &otherwise)
-{
-    static const QRegularExpression heading(QStringLiteral("^# +(.+?)\\s*$"), QRegularExpression::MultilineOption);
-    const QRegularExpressionMatch found = heading.match(text);
-    return found.hasMatch() ? found.captured(1) : otherwise;
-}
 
 // A picture leads to itself, large: by mouse and by keyboard.
 void makeLinkOfPicture(QTextDocument &document, const QTextBlock &block)
@@ -90,17 +80,6 @@ void dress(QTextDocument &document)
 
 } // namespace
 
-QString anchorOfHeading(const QString &heading)
-{
-    QString anchor;
-    for (const QChar each : heading.toLower())
-        if (each.isLetterOrNumber() || each == u'-' || each == u'_')
-            anchor += each;
-        else if (each.isSpace())
-            anchor += u'-';
-    return anchor;
-}
-
 ManualView::ManualView(QWidget *parent) : QTextBrowser(parent)
 {
     setOpenLinks(false);
@@ -109,10 +88,9 @@ ManualView::ManualView(QWidget *parent) : QTextBrowser(parent)
     connect(this, &QTextBrowser::anchorClicked, this, &ManualView::follow);
 }
 
-void ManualView::setFolder(const QString &folder)
+void ManualView::setFolder(const QString &folder, const QString &language)
 {
-    m_folder = folder;
-    setSearchPaths({folder});
+    m_pages = ManualPages(folder, language);
     m_visited.clear();
     m_at = -1;
 }
@@ -122,38 +100,24 @@ QString ManualView::page() const
     return m_at < 0 ? QString() : m_visited.at(m_at).page;
 }
 
-QString ManualView::textOf(const QString &page) const
-{
-    return QString::fromUtf8(platform::readFile(m_folder + u'/' + page + QStringLiteral(".md")).value_or(QByteArray()));
-}
-
-QStringList ManualView::names() const
-{
-    static const QRegularExpression link(QStringLiteral("\\]\\(([\\w-]+)\\.md"));
-    QStringList names = {QStringLiteral("index")};
-    for (auto found = link.globalMatch(textOf(names.constFirst())); found.hasNext();)
-        names.append(found.next().captured(1));
-    for (const QString &file : QDir(m_folder).entryList({QStringLiteral("*.md")}, QDir::Files, QDir::Name))
-        names.append(QFileInfo(file).completeBaseName());
-    names.removeDuplicates();
-    names.removeIf(
-        [this](const QString &name) { return !QFileInfo::exists(m_folder + u'/' + name + QStringLiteral(".md")); });
-    return names;
-}
-
 QVariantList ManualView::pages() const
 {
     QVariantList all;
-    for (const QString &name : names())
-        all.append(QVariantMap{{QStringLiteral("name"), name}, {QStringLiteral("title"), titleOf(textOf(name), name)}});
+    for (const QString &name : m_pages.names())
+        all.append(QVariantMap{{QStringLiteral("name"), name}, {QStringLiteral("title"), m_pages.title(name)}});
     return all;
 }
 
 void ManualView::open(const QString &page, const QString &anchor)
 {
-    if (m_at < 0 || m_visited.at(m_at).page != page || m_visited.at(m_at).anchor != anchor) {
+    visit({page, anchor.isEmpty() ? -1 : m_pages.headingInEnglish(page, anchor)});
+}
+
+void ManualView::visit(const Place &place)
+{
+    if (m_at < 0 || m_visited.at(m_at).page != place.page || m_visited.at(m_at).heading != place.heading) {
         m_visited.resize(m_at + 1);
-        m_visited.append({page, anchor});
+        m_visited.append(place);
         ++m_at;
     }
     show(m_visited.at(m_at));
@@ -169,19 +133,19 @@ void ManualView::goTo(qsizetype at)
 
 void ManualView::show(const Place &place)
 {
-    drawAnew();
+    redraw();
     verticalScrollBar()->setValue(0);
-    if (!place.anchor.isEmpty())
-        scrollToHeading(place.anchor);
+    if (place.heading >= 0)
+        scrollToHeading(place.heading);
     Q_EMIT pageShown(place.page);
 }
 
-void ManualView::drawAnew()
+void ManualView::redraw()
 {
     if (m_at < 0)
         return;
     const int place = verticalScrollBar()->value();
-    const QString text = textOf(page());
+    const QString text = m_pages.text(page());
     auto *drawn = new QTextDocument(this);
     drawn->setDefaultFont(font());
     drawn->setDocumentMargin(marginPx);
@@ -202,10 +166,10 @@ int ManualView::textWidth() const
     return qBound(200, viewport()->width() - 2 * marginPx, widestTextPx);
 }
 
-void ManualView::scrollToHeading(const QString &anchor)
+void ManualView::scrollToHeading(int number)
 {
     for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
-        if (block.blockFormat().headingLevel() == 0 || anchorOfHeading(block.text()) != anchor)
+        if (block.blockFormat().headingLevel() == 0 || number-- > 0)
             continue;
         setTextCursor(QTextCursor(block));
         const QRectF place = document()->documentLayout()->blockBoundingRect(block);
@@ -225,13 +189,15 @@ void ManualView::follow(const QUrl &link)
         return;
     }
     const QString file = QFileInfo(link.path()).completeBaseName();
-    open(file.isEmpty() ? page() : file, link.fragment());
+    const QString target = file.isEmpty() ? page() : file;
+    const QString anchor = link.fragment(QUrl::FullyDecoded);
+    visit({target, anchor.isEmpty() ? -1 : m_pages.headingOfLink(target, anchor)});
 }
 
 /** A picture of the manual, the one for the appearance that is shown. */
 QImage ManualView::picture(const QString &name) const
 {
-    const QString path = QDir::cleanPath(m_folder + u'/' + name);
+    const QString path = m_pages.picture(page(), name);
     const QString dark = QString(path).replace(QStringLiteral("-light.png"), QStringLiteral("-dark.png"));
     return QImage(Theme::appearance() == Appearance::Dark && QFileInfo::exists(dark) ? dark : path);
 }
@@ -283,16 +249,15 @@ bool ManualView::findNext(const QString &text)
 {
     if (text.isEmpty() || findFromHere(text))
         return !text.isEmpty();
-    const QStringList all = names();
+    const QStringList all = m_pages.names();
     const qsizetype here = all.indexOf(page());
     for (qsizetype i = 1; i <= all.size(); ++i) {
         const QString &name = all.at((here + i) % all.size());
-        if (!textOf(name).contains(text, Qt::CaseInsensitive))
+        if (!m_pages.plainText(name).contains(text, Qt::CaseInsensitive))
             continue;
         if (name != page())
             open(name, QString());
         moveCursor(QTextCursor::Start);
-        // The file may have it where no reader sees it, such as in the address of a link.
         if (findFromHere(text))
             return true;
     }
@@ -303,10 +268,10 @@ void ManualView::resizeEvent(QResizeEvent *event)
 {
     QTextBrowser::resizeEvent(event);
     if (m_at >= 0 && textWidth() != m_drawnWidth)
-        drawAnew();
+        redraw();
 }
 
-// The manual alone keeps the program from ending no longer.
+// An open manual does not keep the program from ending.
 void ManualView::showEvent(QShowEvent *event)
 {
     window()->setAttribute(Qt::WA_QuitOnClose, false);

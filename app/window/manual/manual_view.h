@@ -1,13 +1,15 @@
 #pragma once
 
+#include "app/window/manual/manual_pages.h"
+
 #include <QTextBrowser>
 #include <QVariantList>
 
 namespace window {
 
 /**
- * Shows the pages of a manual: Markdown files of one folder, linked with one another, with pictures. A picture NAME-light.png is shown
- * as NAME-dark.png in the dark appearance, where there is one. A page is named as its file is without ".md".
+ * Shows the pages of a manual, which are linked with one another and have pictures. A picture NAME-light.png is shown as NAME-dark.png
+ * in the dark appearance, where there is one.
  */
 class ManualView : public QTextBrowser
 {
@@ -19,10 +21,14 @@ class ManualView : public QTextBrowser
 public:
     explicit ManualView(QWidget *parent = nullptr);
 
-    Q_INVOKABLE void setFolder(const QString &folder);
-    /** {name, title} of every page: "index", then the others in the order in which it links to them, then those it does not name. */
+    /** Shows the manual of a folder in a language: see ManualPages. */
+    Q_INVOKABLE void setFolder(const QString &folder, const QString &language);
+    /** {name, title} of every page, in the order of ManualPages. */
     Q_INVOKABLE QVariantList pages() const;
-    /** Shows a page, and the heading @p anchor of it if that is not empty. A page that is missing is said to be. */
+    /**
+     * Shows a page, and if @p anchor is not empty the heading that has this anchor in the English page, in whatever language it is. A
+     * page that is missing is said to be.
+     */
     Q_INVOKABLE void open(const QString &page, const QString &anchor);
     Q_INVOKABLE void goBack() { goTo(m_at - 1); }
     Q_INVOKABLE void goForward() { goTo(m_at + 1); }
@@ -31,8 +37,8 @@ public:
      * next page that has it; false where no page has it.
      */
     Q_INVOKABLE bool findNext(const QString &text);
-    /** Draws the page anew, as after a change of the appearance. */
-    Q_INVOKABLE void drawAnew();
+    /** Draws the page again, as after a change of the appearance. */
+    Q_INVOKABLE void redraw();
 
     QString page() const;
     bool canGoBack() const { return m_at > 0; }
@@ -51,28 +57,24 @@ private:
     struct Place
     {
         QString page;
-        QString anchor;
+        int heading; ///< its number in the page, or -1
     };
 
+    void visit(const Place &place);
     void goTo(qsizetype at);
     QImage picture(const QString &name) const;
     void showLarge(const QString &name);
     void show(const Place &place);
-    void scrollToHeading(const QString &anchor);
+    void scrollToHeading(int number);
     void follow(const QUrl &link);
-    QString textOf(const QString &page) const;
-    QStringList names() const;
     int textWidth() const;
     bool findFromHere(const QString &text);
 
-    QString m_folder;
+    ManualPages m_pages;
     QList<Place> m_visited;
     qsizetype m_at = -1;
     QTextDocument *m_drawn = nullptr; ///< a child of this view
     int m_drawnWidth = 0;
 };
-
-/** The anchor that a heading is linked to by: small letters and digits, hyphens for blanks, nothing else. */
-QString anchorOfHeading(const QString &heading);
 
 } // namespace window

@@ -11,7 +11,7 @@ export class Manual {
         this.view = this.form.control("manualView");
         this.list = this.form.control("manualPages");
         this.search = this.form.control("manualSearch");
-        this.view.setFolder(program.manual);
+        this.view.setFolder(program.manual, program.language);
         this.pages = this.view.pages();
         this.list.setPages(this.pages.map((page) => page.name), this.pages.map((page) => page.title));
         this.connect();
@@ -34,7 +34,7 @@ export class Manual {
         this.search.textEdited.connect(guard("manualSearch", () => this.note("")));
         this.list.chosen.connect(guard("manualPages", (name) => this.view.open(name, "")));
         this.view.pageShown.connect(guard("manual", () => this.showState()));
-        shell.theme.changed.connect(guard("manual", () => this.view.drawAnew()));
+        shell.theme.changed.connect(guard("manual", () => this.view.redraw()));
     }
 
     /** Shows the page of that name; the first where there is none. */
