@@ -7,7 +7,7 @@ import { shell } from "quorlin/shell";
 import { guard } from "../lib/guard.js";
 import { emptyTable, splitPath } from "../lib/names.js";
 import { PresetStore } from "./preset-store.js";
-import { FIELDS, fileText, freeName, placeOf, rowOf, rowsOfFile, storedName } from "./presets.js";
+import { FIELDS, fileText, freeName, placeOf, rowOf, rowsOfFile, storedName, typedName } from "./presets.js";
 import { writeStartingPresets } from "./starting-presets.js";
 import { keep, recall } from "../lib/store.js";
 import { fill } from "../lib/wording.js";
@@ -54,6 +54,7 @@ export class PresetPane {
         this.chosen = null;
         this.editing = "";
         this.taken = [];
+        this.isReplaced = false; // whether the name that is typed lost a character that the database cannot take
         this.problem = "";
         this.importing = shell.job();
         this.menuState = "";
@@ -64,7 +65,7 @@ export class PresetPane {
     connect() {
         const control = (name) => this.form.control(name);
         control("preset").activated.connect(guard("preset", () => this.choiceMade(this.form.value("preset"))));
-        control("presetName").textChanged.connect(guard("presetName", () => this.showNameProblem()));
+        control("presetName").textChanged.connect(guard("presetName", () => this.nameTyped()));
         control("presetName").returnPressed.connect(guard("presetName", () => this.endEditing()));
         control("presetOk").clicked.connect(guard("presetOk", () => this.endEditing()));
         control("presetCancel").clicked.connect(guard("presetCancel", () => this.cancelEditing()));
@@ -236,6 +237,7 @@ export class PresetPane {
 
     edit(what) {
         this.editing = what;
+        this.isReplaced = false;
         this.taken = this.store.names();
         const name = what === "rename"
             ? this.chosen.name : freeName(this.isReady() ? this.chosen.name : qsTr("My preset"), this.taken);
@@ -261,16 +263,38 @@ export class PresetPane {
         this.showNameProblem();
     }
 
-    showNameProblem() {
-        const problem = this.editing === ""
-            ? "" : this.store.nameProblem(this.form.control("presetName").text, this.taken);
-        const isSame = this.editing === "rename" && this.newName() === this.chosen.name;
-        this.label("nameProblem", isSame ? "" : problem);
-        this.form.control("presetOk").enabled = problem === "" || isSame;
+    // Shows at once what a name is stored with.
+    nameTyped() {
+        const field = this.form.control("presetName");
+        const shown = typedName(field.text);
+        if (shown !== field.text) {
+            const place = field.cursorPosition;
+            this.isReplaced = true;
+            field.text = shown;
+            field.cursorPosition = place;
+        }
+        this.showNameProblem();
     }
 
-    newName() {
+    showNameProblem() {
+        const name = this.newName();
+        const isSame = this.editing === "rename" && name === this.chosen.name;
+        const problem = this.editing === "" || isSame ? "" : this.store.nameProblem(name, this.taken);
+        const note = name === this.typedText() || problem !== ""
+            ? "" : fill(qsTr("This name is in use. The preset will be called \u201c%1\u201d."), name);
+        this.label("nameProblem", problem || note);
+        this.form.control("presetOk").enabled = problem === "";
+    }
+
+    typedText() {
         return storedName(this.form.control("presetName").text);
+    }
+
+    // Who typed something else than is stored does not meet a name that exists, but gets a number.
+    newName() {
+        const name = this.typedText();
+        const own = this.editing === "rename" ? this.chosen.name : null;
+        return this.isReplaced && name !== "" && name !== own ? freeName(name, this.taken) : name;
     }
 
     cancelEditing() {

@@ -282,9 +282,14 @@ function readState(fields, version, kind) {
     return stateOf(settings === null ? "damaged" : "ready", settings);
 }
 
+/** A name with look-alikes of the two characters that the database cannot take. */
+export function typedName(text) {
+    return text.replace(/'/g, "\u2019").replace(/\|/g, "\u00a6");
+}
+
 /** A name as it is stored: without blanks around it, accents in one writing. */
 export function storedName(text) {
-    return text.trim().normalize("NFC");
+    return typedName(text).trim().normalize("NFC");
 }
 
 function sameName(a, b) {
@@ -296,12 +301,6 @@ export function nameProblem(text, taken) {
     const name = storedName(text);
     if (name === "") {
         return qsTr("Enter a name.");
-    }
-    if (name.indexOf("'") >= 0) {
-        return qsTr("A name cannot have a straight apostrophe (') in it. A curved one (\u2019) is fine.");
-    }
-    if (name.indexOf("|") >= 0) {
-        return qsTr("A name cannot contain a vertical bar (|).");
     }
     // All that is left to be written as a code: control characters, and half a character.
     if (encoded(name.replace(/%/g, "")).indexOf("%") >= 0) {
@@ -374,7 +373,11 @@ function isRow(row) {
         && row.every((value) => typeof value === "string" && !/['|\u0000]/.test(value));
 }
 
-/** What a file holds: {rows, problem}; problem is a sentence where it is no file of presets, or holds some that are none. */
+function withTypedName(row) {
+    return Array.isArray(row) && typeof row[0] === "string" ? [typedName(row[0])].concat(row.slice(1)) : row;
+}
+
+/** What a file holds: {rows, problem}; problem is a sentence if it is not a preset file, or contains invalid presets. */
 export function rowsOfFile(text) {
     let content = null;
     try {
@@ -389,7 +392,7 @@ export function rowsOfFile(text) {
     if (content.version !== 1) {
         return { rows: [], problem: qsTr("This file was made by a newer version of Quorlin.") };
     }
-    const rows = content.presets.filter((row) => isRow(row) && nameProblem(row[0], []) === "");
+    const rows = content.presets.map(withTypedName).filter((row) => isRow(row) && nameProblem(row[0], []) === "");
     const lost = content.presets.length - rows.length;
     return { rows: rows,
              problem: lost === 0

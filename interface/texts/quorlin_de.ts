@@ -6273,6 +6273,10 @@
         <source>none for this action</source>
         <translation>keine für diese Aktion</translation>
     </message>
+    <message>
+        <source>This name is in use. The preset will be called “%1”.</source>
+        <translation>Dieser Name ist vergeben. Die Vorgabe heißt dann „%1“.</translation>
+    </message>
 </context>
 <context>
     <name>preset-store</name>
@@ -6326,14 +6330,6 @@
     <message>
         <source>Enter a name.</source>
         <translation>Geben Sie einen Namen ein.</translation>
-    </message>
-    <message>
-        <source>A name cannot have a straight apostrophe (&apos;) in it. A curved one (’) is fine.</source>
-        <translation>Ein Name darf keinen geraden Apostroph (&apos;) enthalten. Ein runder (’) ist erlaubt.</translation>
-    </message>
-    <message>
-        <source>A name cannot contain a vertical bar (|).</source>
-        <translation>Ein Name darf keinen senkrechten Strich (|) enthalten.</translation>
     </message>
     <message>
         <source>A name cannot contain line breaks or control characters.</source>

@@ -6273,6 +6273,10 @@
         <source>none for this action</source>
         <translation>aucun pour cette action</translation>
     </message>
+    <message>
+        <source>This name is in use. The preset will be called “%1”.</source>
+        <translation>Ce nom est déjà utilisé. Le préréglage s’appellera « %1 ».</translation>
+    </message>
 </context>
 <context>
     <name>preset-store</name>
@@ -6326,14 +6330,6 @@
     <message>
         <source>Enter a name.</source>
         <translation>Saisissez un nom.</translation>
-    </message>
-    <message>
-        <source>A name cannot have a straight apostrophe (&apos;) in it. A curved one (’) is fine.</source>
-        <translation>Un nom ne peut pas contenir d’apostrophe droite (&apos;). L’apostrophe courbe (’) convient.</translation>
-    </message>
-    <message>
-        <source>A name cannot contain a vertical bar (|).</source>
-        <translation>Un nom ne peut pas contenir de barre verticale (|).</translation>
     </message>
     <message>
         <source>A name cannot contain line breaks or control characters.</source>

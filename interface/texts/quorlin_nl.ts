@@ -6273,6 +6273,10 @@
         <source>none for this action</source>
         <translation>geen voor deze actie</translation>
     </message>
+    <message>
+        <source>This name is in use. The preset will be called “%1”.</source>
+        <translation>Deze naam is in gebruik. De voorinstelling heet dan “%1”.</translation>
+    </message>
 </context>
 <context>
     <name>preset-store</name>
@@ -6326,14 +6330,6 @@
     <message>
         <source>Enter a name.</source>
         <translation>Geef een naam op.</translation>
-    </message>
-    <message>
-        <source>A name cannot have a straight apostrophe (&apos;) in it. A curved one (’) is fine.</source>
-        <translation>Een naam mag geen rechte apostrof (&apos;) bevatten. Een gebogen (’) mag wel.</translation>
-    </message>
-    <message>
-        <source>A name cannot contain a vertical bar (|).</source>
-        <translation>Een naam mag geen verticale streep (|) bevatten.</translation>
     </message>
     <message>
         <source>A name cannot contain line breaks or control characters.</source>

@@ -196,8 +196,6 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("words");
-        QTest::newRow("apostrophe") << QStringLiteral("it's") << QStringLiteral("apostrophe");
-        QTest::newRow("bar") << QStringLiteral("a|b") << QStringLiteral("bar");
         QTest::newRow("none") << QStringLiteral("  ") << QStringLiteral("Enter a name");
         QTest::newRow("taken") << QStringLiteral("web 1600") << QStringLiteral("Web 1600 already");
     }
@@ -218,6 +216,46 @@ private Q_SLOTS:
         m_driver->trigger("presetEscape");
         QVERIFY(!nameField()->isVisible());
         QCOMPARE(names(), before);
+    }
+
+    void aNameShowsWhatItIsStoredWithWhileItIsTyped()
+    {
+        for (const char *expected : {"Anna’s 1¦2", "Anna’s 1¦2 2"}) {
+            act("Save As…");
+            nameField()->clear();
+            for (const char key : {'A', 'n', 'n', 'a', 's', ' ', '1', '|', '2'})
+                QTest::keyClick(nameField(), key);
+            QCOMPARE(nameField()->text(), QStringLiteral("Annas 1¦2"));
+            nameField()->setCursorPosition(4);
+            QTest::keyClick(nameField(), '\'');
+            QCOMPARE(nameField()->text(), QStringLiteral("Anna’s 1¦2"));
+            QCOMPARE(nameField()->cursorPosition(), 5);
+            const QString name = QString::fromUtf8(expected);
+            auto *note = m_driver->control<QLabel>("nameProblem");
+            QCOMPARE(note->isVisible(), name.endsWith(QLatin1String(" 2")));
+            QVERIFY2(!note->isVisible() || note->text().contains(name), qPrintable(note->text()));
+            QTest::keyClick(nameField(), Qt::Key_Return);
+            QCOMPARE(chosen(), name);
+        }
+    }
+
+    void anImportedNameShowsWhatItIsStoredWith()
+    {
+        const QString path = m_driver->folder() + QStringLiteral("/odd.c-action");
+        m_driver->choose("preset", QStringLiteral("=Web 1600"));
+        m_driver->answerPanels({path});
+        act("Export…");
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray odd = file.readAll().replace("Web 1600", "Tom's|1");
+        file.close();
+        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write(odd) == odd.size());
+        file.close();
+        for (const char *expected : {"Tom’s¦1", "Tom’s¦1 2"}) {
+            m_driver->answerPanels({path});
+            act("Import…");
+            QCOMPARE(chosen(), QString::fromUtf8(expected));
+        }
     }
 
     void filesThatHoldNoPresetsAreRefusedInWords()

@@ -1,6 +1,6 @@
 import { copyOf } from "../../../interface/lib/copies.js";
 import { decoded, encoded, fileText, freeName, nameProblem, newestVersion, presetOf, rowOf, rowsOfFile,
-         storedName } from "../../../interface/presets/presets.js";
+         storedName, typedName } from "../../../interface/presets/presets.js";
 import { KINDS as STEP_KINDS, newStep } from "../../../interface/actions/rename/name-steps.js";
 import { defaults as rename } from "../../../interface/actions/rename/rename-step.js";
 import { defaults as resize } from "../../../interface/actions/resize/resize-step.js";
@@ -263,18 +263,27 @@ test("writesTextsThatAreReadBack", () => {
 });
 
 test("saysWhatANameCannotBe", () => {
-    const names = ["Web", "Größe"];
-    for (const good of ["a", "Web 1600", "100 %", "Anna\u2019s", "日本語 🙂", "Print 10 x 15 cm", "%41", "\"x\"", "; --",
+    const names = ["Web", "Größe", "Anna\u2019s", "a\u00a6b"];
+    for (const good of ["a", "it's", "b|c", "Web 1600", "100 %", "日本語 🙂", "Print 10 x 15 cm", "%41", "\"x\"", "; --",
                         "x".repeat(100)]) {
         equal(nameProblem(good, names), "", good);
     }
-    const problems = [["", /Enter/], ["  \t", /Enter/], ["it's", /apostrophe/], ["a|b", /bar/], ["a\nb", /line breaks/],
+    const problems = [["", /Enter/], ["  \t", /Enter/], ["Anna's", /named Anna\u2019s/], ["a|b", /named a\u00a6b/],
+                      ["a\nb", /line breaks/],
                       ["a\u0000", /control/], ["a\u007f", /control/], ["a\ud83d", /control/], ["x".repeat(101), /100/],
                       ["Web", /named Web already/],
                       [" wEB ", /named Web already/], ["Gro\u0308ße", /named Größe already/]];
     for (const [name, words] of problems) {
         isTrue(words.test(nameProblem(name, names)), JSON.stringify(name));
     }
+});
+
+test("replacesWhatTheDatabaseCannotTakeInAName", () => {
+    equal([typedName("it's a|b"), storedName(" it's ")], ["it\u2019s a\u00a6b", "it\u2019s"]);
+    equal(freeName("Anna's", ["Anna\u2019s"]), "Anna\u2019s 2");
+    const row = ["it's a|b"].concat(rowOf(FORMS.resize, "a", resize).slice(1));
+    const read = rowsOfFile(JSON.stringify({ format: "Quorlin presets", version: 1, presets: [row] }));
+    equal(read, { rows: [["it\u2019s a\u00a6b"].concat(row.slice(1))], problem: "" });
 });
 
 test("findsAFreeName", () => {
@@ -291,7 +300,7 @@ test("exportsAndImportsRowsAsTheyStand", () => {
 
 test("takesFromAFileOnlyWhatARowCanBe", () => {
     const good = rowOf(FORMS.resize, "a", resize);
-    const bad = [good.slice(1), good.concat(["x"]), ["it's"].concat(good.slice(1)), [""].concat(good.slice(1)),
+    const bad = [good.slice(1), good.concat(["x"]), ["x".repeat(101)].concat(good.slice(1)), [""].concat(good.slice(1)),
                  good.slice(0, 61).concat(["a|b"]),
                  good.slice(0, 61).concat([3]), null, "text", {}];
     const read = rowsOfFile(JSON.stringify({ format: "Quorlin presets", version: 1, presets: bad.concat([good]) }));
