@@ -284,7 +284,7 @@ function readState(fields, version, kind) {
 
 /** A name with look-alikes of the two characters that the database cannot take. */
 export function typedName(text) {
-    return text.replace(/'/g, "\u2019").replace(/\|/g, "\u00a6");
+    return /['|]/.test(text) ? text.replace(/'/g, "\u2019").replace(/\|/g, "\u00a6") : text;
 }
 
 /** A name as it is stored: without blanks around it, accents in one writing. */
