@@ -7,6 +7,7 @@
 #include "platform/imageio/formats/formats.h"
 
 #include <cmath>
+#include <functional>
 
 namespace image {
 namespace {
@@ -126,24 +127,45 @@ QStringList lossesOfMetadata(const OutputPlan &plan, const RecipeOutput &output,
                 : sentence(QT_TRANSLATE_NOOP("recipe", "%1 cannot hold metadata")).arg(name)};
 }
 
+namespace {
+
+double megapixelsOf(QSize size)
+{
+    constexpr double million = 1e6;
+    return double(size.width()) * size.height() / million;
+}
+
+/** The largest picture of this width for which @p fits holds, which it does for each that is smaller. */
+QSize largestThat(const std::function<bool(QSize)> &fits, QSize size)
+{
+    int below = 1;
+    int above = size.height();
+    while (above - below > 1) {
+        const int middle = below + (above - below) / 2;
+        (fits({size.width(), middle}) ? below : above) = middle;
+    }
+    return {size.width(), below};
+}
+
+} // namespace
+
 QString refusalFor(const OutputPlan &plan, const RecipeOutput &output, const Stage &end, int bits)
 {
     constexpr qint64 most = 3LL << 29; // leaves a worker room for the pixels within what it may take
-    constexpr double million = 1e6;
     if (plan.type != OutputType::JpegXl || plan.isLossless)
         return {};
     const int bands = (end.isGray ? 1 : 3) + (end.hasAlpha ? 1 : 0);
-    const qint64 need =
-        platform::memoryOfEncoding(FileFormat::JpegXl, plan.size, bands, bits > 8 ? 2 : 1, output.isLossless);
-    const double megapixels = double(plan.size.width()) * plan.size.height() / million;
-    if (need <= most)
+    const auto fits = [&](QSize size) {
+        return platform::memoryOfEncoding(FileFormat::JpegXl, size, bands, bits > 8 ? 2 : 1, output.isLossless) <= most;
+    };
+    if (fits(plan.size))
         return {};
     return sentence(
                QT_TRANSLATE_NOOP(
                    "recipe",
                    "%1 with %2 megapixels needs more than 1.5 GB of memory; use at most %3, or choose another type"))
-        .arg(writtenType(plan.type).word, QString::number(megapixels, 'f', 0),
-             QString::number(std::floor(megapixels * double(most) / double(need)), 'f', 0));
+        .arg(writtenType(plan.type).word, QString::number(megapixelsOf(plan.size), 'f', 0),
+             QString::number(std::floor(megapixelsOf(largestThat(fits, plan.size))), 'f', 0));
 }
 
 QStringList lossesOf(const OutputPlan &plan, const RecipeOutput &output, const Stage &end,

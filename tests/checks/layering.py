@@ -131,12 +131,12 @@ QT_OF_TARGET = {"quorlin_script": SERVICE_QT | {"QtNetwork"}}
 THIRD_PARTY = [
     (r"(vips/|VImage|vips8?\b)", "platform"), (r"exiv2/", "platform"), (r"(cairo|pango/)", "platform"),
     (r"(jpeglib|jerror|jmorecfg|turbojpeg)\.h|jpeglib\.h", "platform"), (r"plist/", "platform"), (r"openjpeg\.h", "platform"), (r"libdeflate\.h", "platform"),
-    (r"(glib|gobject|gio)(/|\.h|-object\.h)", "platform"), (r"(tiff|png|zlib|lcms2|webp/.*|libheif/.*)\.?h?$", "platform"),
+    (r"(glib|gobject|gio)(/|\.h|-object\.h)", "platform"), (r"(tiff|png|zlib|lcms2|webp/.*|libheif/.*|jxl/.*)\.?h?$", "platform"),
     (r"(seccomp\.h|fontconfig/|xcb/)", "platform"), (r"sqlite3\.h", "presets"), (r"tl/expected\.hpp", "platform"),
 ]
 LINK_TARGETS = {"PkgConfig::VIPS": "platform", "PkgConfig::EXIV2": "platform", "PkgConfig::CAIRO": "platform",
                 "PkgConfig::JPEG": "platform", "PkgConfig::TURBOJPEG": "platform", "PkgConfig::PLIST": "platform", "PkgConfig::OPENJPEG": "platform",
-                "PkgConfig::HEIF": "platform", "PkgConfig::LCMS": "platform", "PkgConfig::PANGO": "platform",
+                "PkgConfig::HEIF": "platform", "PkgConfig::JXL": "platform", "PkgConfig::JXL_THREADS": "platform", "PkgConfig::LCMS": "platform", "PkgConfig::PANGO": "platform",
                 "PkgConfig::DEFLATE": "platform", "PkgConfig::SECCOMP": "platform", "PkgConfig::XCB": "platform", "PkgConfig::FONTCONFIG": "platform", "PkgConfig::SQLITE": "presets", "SQLite::SQLite3": "presets"}
 SYSTEM = re.compile(r"(sys|linux|netinet|arpa)/\w+\.h|(unistd|fcntl|dirent|dlfcn|iconv|poll|sched|signal|pwd|errno|time|malloc|syslog|spawn|execinfo)\.h")
 STANDARD = re.compile(r"[a-z_0-9]+|(cstd|c)[a-z]+|(stdio|stdlib|string|stdint|stddef|setjmp|math|limits|immintrin)\.h")

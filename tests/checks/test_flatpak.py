@@ -42,7 +42,8 @@ class Flatpak(unittest.TestCase):
     def test_no_library_that_the_build_asks_for_is_forgotten(self):
         # What the runtime has is not built again.
         of_runtime = "cairo fontconfig libjpeg lcms2 libopenjp2 pangocairo libseccomp sqlite3 libturbojpeg xcb".split()
-        built = {"vips-cpp": "vips", "exiv2": "exiv2", "libdeflate": "libdeflate", "libheif": "libheif", "libplist-2.0": "libplist"}
+        built = {"vips-cpp": "vips", "exiv2": "exiv2", "libdeflate": "libdeflate", "libheif": "libheif", "libjxl": "libjxl",
+                 "libjxl_threads": "libjxl", "libplist-2.0": "libplist"}
         asked = re.findall(r"pkg_check_modules\(\w+ REQUIRED IMPORTED_TARGET (\S+)\)", (SOURCES / "CMakeLists.txt").read_text())
         self.assertGreater(len(asked), 10)
         names = [module["name"] for module in self.manifest["modules"]]

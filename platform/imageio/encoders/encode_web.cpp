@@ -1,11 +1,9 @@
 #include "platform/imageio/encoders/encoders.h"
-#include "platform/imageio/encoders/quality_scale.h"
 #include "platform/imageio/parts/webp_chunks.h"
 
 namespace platform {
 
 using vips::VImage;
-using vips::VOption;
 
 VImage withThreeColours(const VImage &image)
 {
@@ -35,19 +33,6 @@ QByteArray encodeWebp(const VImage &image, const Compression &compression)
     // The library has put an EXIF block of its own making into it.
     const auto chunks = webpChunksOf(file);
     return chunks ? webpWithMetadata(*chunks, {}, {}) : file;
-}
-
-QByteArray encodeJpegXl(const VImage &image, const Compression &compression)
-{
-    // Above 6 the encoder takes twice the memory; below 5 what it makes is larger and further from the picture.
-    constexpr int effort = 5;
-    constexpr int effortWithoutLoss = 3;
-    VOption *options = VImage::option()->set("effort", compression.isLossless ? effortWithoutLoss : effort);
-    if (compression.isLossless)
-        options->set("lossless", true);
-    else
-        options->set("distance", jpegXlDistance(compression.quality));
-    return takenFrom(image.jxlsave_buffer(options));
 }
 
 } // namespace platform

@@ -15,4 +15,10 @@ namespace platform {
  */
 qint64 memoryOfEncoding(FileFormat format, QSize pixels, int bands, int bytesPerSample, bool isLossless);
 
+/**
+ * How many rows of a picture one frame of its JPEG XL holds: all of them, or fewer where encoding them all at once would take
+ * too much memory. The encoder has a frame in memory several times over and in floating point.
+ */
+int jpegXlRowsAtOnce(QSize pixels, int bands, bool isLossless);
+
 } // namespace platform

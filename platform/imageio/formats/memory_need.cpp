@@ -46,16 +46,17 @@ Cost costOfDecoding(Content content, int bands)
     return {};
 }
 
-Cost costOfJpegXl(int bands, Loss loss)
+/** What encoding a pixel of a frame takes. */
+double costOfJpegXl(int bands, Loss loss)
 {
     const bool hasAlpha = bands % 2 == 0;
     if (loss == Loss::None)
-        return {.aPixel = std::max(45.0, 25.0 * bands)};
-    return {.aPixel = hasAlpha ? 72.0 : 48.0};
+        return std::max(45.0, 25.0 * bands);
+    return hasAlpha ? 72.0 : 48.0;
 }
 
 /** What an encoder and the file that it makes take beside the pixels that it is given. */
-Cost costOfWriting(FileFormat format, int bands, Loss loss)
+Cost costOfWriting(FileFormat format, Loss loss)
 {
     switch (format) {
     case FileFormat::Png: // the filtered rows, what becomes of them at the worst, and the file
@@ -72,8 +73,8 @@ Cost costOfWriting(FileFormat format, int bands, Loss loss)
         return {.aPixel = loss == Loss::None ? 33.0 : 14.0};
     case FileFormat::Avif: // with colours at full resolution; two thirds of it otherwise
         return {.aPixel = 35};
-    case FileFormat::JpegXl: // in floating point
-        return costOfJpegXl(bands, loss);
+    case FileFormat::JpegXl: // the file while it grows; the encoder takes more, see needOfWriting()
+        return {.aByte = loss == Loss::None ? 2.25 : 0.5};
     case FileFormat::Gif: // a copy with transparency and an index for each pixel, twice
         return {.aPixel = 15};
     }
@@ -91,6 +92,15 @@ qint64 bytesFor(Cost cost, const vips::VImage &image)
     return bytesFor(cost, {image.width(), image.height()}, image.bands() * bytesPerComponent(image));
 }
 
+qint64 needOfWriting(FileFormat format, QSize size, int bands, int bytesPerSample, Loss loss)
+{
+    const qint64 need = bytesFor(costOfWriting(format, loss), size, bands * bytesPerSample);
+    if (format != FileFormat::JpegXl)
+        return need;
+    const int rows = jpegXlRowsAtOnce(size, bands, loss == Loss::None);
+    return need + bytesFor({.aPixel = costOfJpegXl(bands, loss)}, {size.width(), rows}, 0);
+}
+
 } // namespace
 
 qint64 memoryNeed(const DecodingFacts &facts, const Outcome &outcome)
@@ -103,8 +113,9 @@ qint64 memoryNeed(const DecodingFacts &facts, const Outcome &outcome)
         decoding.aByte += 1;
     // A drawing has a surface for each of its layers besides.
     const qint64 ofDecoding = std::max(bytesFor(decoding, facts.decoded, pixelBytes), qint64(facts.drawingBytes));
-    const Cost writing = outcome.written ? costOfWriting(*outcome.written, facts.bands, Loss::Some) : Cost{};
-    const qint64 ofWriting = bytesFor(writing, outcome.made, pixelBytes);
+    const qint64 ofWriting =
+        outcome.written ? needOfWriting(*outcome.written, outcome.made, facts.bands, facts.componentBytes, Loss::Some)
+                        : 0;
     const qint64 pixels = bytesFor({.aByte = outcome.isTurned ? 2.0 : 1.0}, outcome.made, pixelBytes);
     // What the decoder has given back is in pieces, and not all of it can be used again.
     return facts.fileBytes + pixels + std::max(ofDecoding, ofWriting) + std::min(ofDecoding, ofWriting) / 2;
@@ -118,12 +129,27 @@ qint64 addressesOfThreads(Content content)
 
 qint64 memoryNeedOfWriting(FileFormat format, const vips::VImage &image, Loss loss)
 {
-    return bytesFor(costOfWriting(format, image.bands(), loss), image);
+    return needOfWriting(format, {image.width(), image.height()}, image.bands(), bytesPerComponent(image), loss);
 }
 
 qint64 memoryOfEncoding(FileFormat format, QSize pixels, int bands, int bytesPerSample, bool isLossless)
 {
-    return bytesFor(costOfWriting(format, bands, isLossless ? Loss::None : Loss::Some), pixels, bands * bytesPerSample);
+    return needOfWriting(format, pixels, bands, bytesPerSample, isLossless ? Loss::None : Loss::Some);
+}
+
+int jpegXlRowsAtOnce(QSize pixels, int bands, bool isLossless)
+{
+    // A frame of its own costs lossless files nothing. In others the filters of a frame end with it, so there it is the last resort.
+    constexpr double mostWithoutLoss = 512e6;
+    constexpr double mostOtherwise = 1500e6;
+    constexpr int step = 64;
+    const double aRow = costOfJpegXl(bands, isLossless ? Loss::None : Loss::Some) * std::max(1, pixels.width());
+    const double most = isLossless ? mostWithoutLoss : mostOtherwise;
+    const int frames = int(std::ceil(aRow * pixels.height() / most));
+    if (frames < 2)
+        return pixels.height();
+    const int rows = (pixels.height() + frames - 1) / frames;
+    return (rows + step - 1) / step * step;
 }
 
 qint64 memoryNeedOfPage(const vips::VImage &image)

@@ -1,6 +1,7 @@
 // WebP, AVIF and JPEG XL, and what every lossy type is asked for: quality, no loss at all, a colour under transparency.
 
 #include "platform/imageio/encode/image_destination.h"
+#include "platform/imageio/formats/encoding_memory.h"
 #include "platform/imageio/formats/formats.h"
 #include "platform/imageio/formats/type_identifiers.h"
 #include "platform/imageio/source/image_source.h"
@@ -31,6 +32,23 @@ QImage photograph(QSize size, QImage::Format format = QImage::Format_RGB888)
             image.setPixelColor(x, y, QColor(level(x / 23.0), level(y / 17.0 + 1), level((x + y) / 31.0 + 2)));
         }
     return image;
+}
+
+/** Grain in all samples, by whole bytes: for large pictures. */
+QImage quickPhotograph(QSize size, QImage::Format format)
+{
+    QImage image(size, format);
+    quint32 noise = 1;
+    for (int y = 0; y < size.height(); ++y) {
+        uchar *row = image.scanLine(y);
+        for (qsizetype i = 0; i < image.bytesPerLine(); ++i) {
+            noise = noise * 1664525 + 1013904223;
+            row[i] = uchar((i / 64 + y / 16) % 200 + (noise >> 27));
+        }
+    }
+    // What is without a meaning has one value.
+    return format == QImage::Format_RGBX64 ? image.convertToFormat(QImage::Format_RGBA64).convertToFormat(format)
+                                           : image;
 }
 
 double meanDifference(const QImage &a, const QImage &b)
@@ -191,6 +209,48 @@ private Q_SLOTS:
                                          .arg(y)
                                          .arg(image.pixelColor(x, y).name(QColor::HexArgb),
                                               again.pixelColor(x, y).name(QColor::HexArgb))));
+    }
+
+    /** A large JPEG XL is made of several frames, which are one picture to whoever reads it. */
+    void isOnePictureWhereEncodingItTakesSeveralFrames_data()
+    {
+        QTest::addColumn<QImage::Format>("format");
+        QTest::addColumn<QSize>("size");
+        QTest::newRow("grey") << QImage::Format_Grayscale8 << QSize(3500, 3300);
+        QTest::newRow("colours") << QImage::Format_RGB888 << QSize(3000, 2400);
+        QTest::newRow("transparency") << QImage::Format_RGBA8888 << QSize(2500, 2100);
+        QTest::newRow("16 bits") << QImage::Format_RGBX64 << QSize(3000, 2305);
+    }
+
+    void isOnePictureWhereEncodingItTakesSeveralFrames()
+    {
+        QFETCH(const QImage::Format, format);
+        QFETCH(const QSize, size);
+        const QImage image = quickPhotograph(size, format);
+        const int bands = format == QImage::Format_Grayscale8 ? 1 : image.hasAlphaChannel() ? 4 : 3;
+        QVERIFY(jpegXlRowsAtOnce(size, bands, true) < size.height());
+        const QByteArray file = encoded(image, FileFormat::JpegXl, {.isLossless = true});
+        const auto source = ImageSource::fromData(file);
+        QVERIFY(source);
+        QCOMPARE(source->storedSize(), size);
+        QCOMPARE(source->imageCount(), 1);
+        QVERIFY(readAgain(file).convertToFormat(format) == image);
+        QVERIFY(readAgain(file.left(file.size() * 4 / 5)).isNull());
+        QCOMPARE(encoded(image, FileFormat::JpegXl, {.isLossless = true}), file);
+    }
+
+    void framesNeverTakeMoreMemoryThanOneMay()
+    {
+        constexpr qint64 most = 700'000'000;
+        for (const QSize size : {QSize(6364, 4243), QSize(20'000, 5000), QSize(300, 90'000), QSize(60'000, 2000)})
+            for (const int bands : {1, 2, 3, 4}) {
+                const QSize frame = {size.width(), jpegXlRowsAtOnce(size, bands, true)};
+                QVERIFY(frame.height() >= 64);
+                QVERIFY(memoryOfEncoding(FileFormat::JpegXl, frame, bands, 1, true) < most);
+            }
+        // Where something is lost anyway, all is one frame as long as there is room.
+        QCOMPARE(jpegXlRowsAtOnce({6364, 4243}, 3, false), 4243);
+        QVERIFY(jpegXlRowsAtOnce({6364, 4243}, 4, false) < 4243);
     }
 
     void keepsTransparencyAndProfile_data()
