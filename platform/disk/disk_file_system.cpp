@@ -4,6 +4,7 @@
 #include "platform/disk/folders.h"
 #include "platform/disk/same_content.h"
 #include "platform/disk/trash.h"
+#include "platform/file/attributes.h"
 #include "platform/foundation/last_error.h"
 #include "platform/foundation/paths.h"
 
@@ -136,8 +137,11 @@ std::error_code DiskFileSystem::replace(const QString &from, const QString &to)
 void DiskFileSystem::copyPermissions(const QString &from, const QString &to)
 {
     struct stat source = {};
-    if (::lstat(encodedPath(from).constData(), &source) == 0)
-        ::chmod(encodedPath(to).constData(), source.st_mode & 07777);
+    const QByteArray target = encodedPath(to);
+    if (::lstat(encodedPath(from).constData(), &source) != 0)
+        return;
+    copyAccessList({.path = encodedPath(from).constData()}, {.path = target.constData()});
+    ::chmod(target.constData(), source.st_mode & 07777);
 }
 
 std::error_code DiskFileSystem::makeFolder(const QString &path)

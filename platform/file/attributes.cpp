@@ -51,4 +51,15 @@ void copyAttributes(const AttributedItem &source, const AttributedItem &target)
                 copyAttribute(source, target, name.constData());
 }
 
+void copyAccessList(const AttributedItem &source, const AttributedItem &target)
+{
+    constexpr const char *list = "system.posix_acl_access";
+    if (readValue(source, list, nullptr, 0) > 0)
+        copyAttribute(source, target, list);
+    else if (target.path)
+        ::lremovexattr(target.path, list);
+    else
+        ::fremovexattr(target.descriptor, list);
+}
+
 } // namespace platform

@@ -15,4 +15,10 @@ struct AttributedItem
  */
 void copyAttributes(const AttributedItem &source, const AttributedItem &target);
 
+/**
+ * Gives @p target the access list of @p source, and none where that has none: what the folder gave to the target goes. The mode, which
+ * bounds what a list grants, is left to the caller.
+ */
+void copyAccessList(const AttributedItem &source, const AttributedItem &target);
+
 } // namespace platform

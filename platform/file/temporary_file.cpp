@@ -44,7 +44,9 @@ TemporaryFile::TemporaryFile(const QString &target)
     if (!canBeAPath(target) || !mayBeReplaced(m_target))
         return;
     sweepUnfinishedOnce(QFileInfo(target).path());
-    m_descriptor = ::open(m_folder.constData(), O_TMPFILE | O_WRONLY | O_CLOEXEC, 0600);
+    struct stat there = {};
+    m_isNew = ::lstat(m_target.constData(), &there) != 0 || !S_ISREG(there.st_mode);
+    m_descriptor = ::open(m_folder.constData(), O_TMPFILE | O_WRONLY | O_CLOEXEC, firstMode());
     if (m_descriptor >= 0)
         showLife(m_descriptor);
     else
@@ -76,7 +78,7 @@ bool TemporaryFile::openNamed()
     for (int attempt = 0; attempt < 100; ++attempt) {
         const QByteArray name = anyHiddenName();
         noteName(name);
-        m_descriptor = ::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+        m_descriptor = ::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, firstMode());
         if (!isOpen() && errno == EEXIST)
             continue;
         if (!isOpen())
@@ -158,11 +160,21 @@ bool TemporaryFile::copyByHand(int source, qint64 position, qint64 size)
     return true;
 }
 
+/** Only the system knows what a folder with an access list gives to a new file. */
+mode_t TemporaryFile::firstMode() const
+{
+    return m_isNew ? 0666 : 0600;
+}
+
 bool TemporaryFile::takePermissions()
 {
     struct stat old = {};
-    if (::lstat(m_target.constData(), &old) == 0 && S_ISREG(old.st_mode))
+    if (::lstat(m_target.constData(), &old) == 0 && S_ISREG(old.st_mode)) {
+        copyAccessList({.path = m_target.constData()}, {.descriptor = m_descriptor});
         return ::fchmod(m_descriptor, old.st_mode & 07777) == 0;
+    }
+    if (m_isNew)
+        return true;
     const mode_t mask = ::umask(0);
     ::umask(mask);
     return ::fchmod(m_descriptor, 0666 & ~mask) == 0;
@@ -178,6 +190,7 @@ bool TemporaryFile::takeAttributesOf(int source)
     const bool hasOwner = !isAnothers || ::fchown(m_descriptor, old.st_uid, old.st_gid) == 0 ||
                           (::fchown(m_descriptor, uid_t(-1), old.st_gid) == 0 && old.st_uid == own.st_uid);
     copyAttributes({.descriptor = source}, {.descriptor = m_descriptor});
+    copyAccessList({.descriptor = source}, {.descriptor = m_descriptor});
     // A file that could not keep its owner must not lend another one's rights.
     const mode_t mode = old.st_mode & (hasOwner ? 07777 : 0777);
     return ::fchmod(m_descriptor, mode) == 0;

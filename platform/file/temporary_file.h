@@ -51,12 +51,14 @@ private:
     void noteName(const QByteArray &name);
     bool nameIt();
     bool openNamed();
+    mode_t firstMode() const;
 
     QByteArray m_target;
     QByteArray m_folder;
     QByteArray m_name; ///< empty as long as the file has none
     std::optional<HiddenItem> m_noted;
     int m_descriptor = -1;
+    bool m_isNew = false; ///< no file was there: this one has had the permissions of any new file since it was made
 };
 
 } // namespace platform
