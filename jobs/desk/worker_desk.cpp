@@ -34,6 +34,12 @@ QString &saidProgram()
     return program;
 }
 
+std::optional<platform::WorkerLimits> &saidLimits()
+{
+    static std::optional<platform::WorkerLimits> limits;
+    return limits;
+}
+
 QStringList &saidTexts()
 {
     static QStringList files;
@@ -44,6 +50,7 @@ WorkerDesk::Options usualOptions()
 {
     WorkerDesk::Options usual;
     usual.program = saidProgram().isEmpty() ? workerProgram() : saidProgram();
+    usual.limits = saidLimits().value_or(usual.limits);
     usual.texts = saidTexts();
     return usual;
 }
@@ -108,9 +115,10 @@ WorkerDesk &WorkerDesk::forWaiting()
     return *desk;
 }
 
-void WorkerDesk::useProgram(const QString &program)
+void WorkerDesk::useProgram(const QString &program, const std::optional<platform::WorkerLimits> &limits)
 {
     saidProgram() = program;
+    saidLimits() = limits;
     delete deskOfProcess();
     delete deskForWaiting();
 }

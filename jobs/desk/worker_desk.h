@@ -73,10 +73,10 @@ public:
     /** Another one, with one worker, for what has to be waited for: see finish(). */
     static WorkerDesk &forWaiting();
     /**
-     * Which program the workers of both are, from now on; the one beside this program where it was never said. For tests, which have nothing
-     * at work then.
+     * Which program the workers of both are, from now on, and what a picture may take; the one beside this program where it was never said.
+     * For tests, which have nothing at work then.
      */
-    static void useProgram(const QString &program);
+    static void useProgram(const QString &program, const std::optional<platform::WorkerLimits> &limits = {});
 
     /** The files of texts in which the workers of both give their reasons; English where it was never said. To be said as useProgram() is. */
     static void useTexts(const QStringList &files);

@@ -42,18 +42,19 @@ private:
 } // namespace
 
 // The name is no longer for a test of a longer name, since windows show paths.
-WindowDriver::WindowDriver(QApplication &application)
-    : m_application(application), m_home(QDir::tempPath() + QStringLiteral("/quorlin-XXXXXX"))
+WindowDriver::WindowDriver(QApplication &application, const QString &home) : m_application(application), m_folder(home)
 {
+    if (home.isEmpty())
+        m_folder = m_home.emplace(QDir::tempPath() + QStringLiteral("/quorlin-XXXXXX")).path();
     if (const QString family = QFontInfo(QFont()).family(); family != QLatin1String("DejaVu Sans"))
         qFatal("the tests measure with DejaVu Sans, of the package fonts-dejavu-core, and got %s", qPrintable(family));
     static bool isFirst = true;
     if (std::exchange(isFirst, false))
         jobs::WorkerDesk::useProgram(QStringLiteral(QUORLIN_WORKER)); // the tests are not where the program is
-    qputenv("HOME", m_home.path().toLocal8Bit());
-    qputenv("XDG_DATA_HOME", (m_home.path() + QStringLiteral("/.local/share")).toLocal8Bit());
-    qputenv("XDG_CACHE_HOME", (m_home.path() + QStringLiteral("/.cache")).toLocal8Bit());
-    keepSettingsIn(m_home.path() + QStringLiteral("/.config"));
+    qputenv("HOME", m_folder.toLocal8Bit());
+    qputenv("XDG_DATA_HOME", (m_folder + QStringLiteral("/.local/share")).toLocal8Bit());
+    qputenv("XDG_CACHE_HOME", (m_folder + QStringLiteral("/.cache")).toLocal8Bit());
+    keepSettingsIn(m_folder + QStringLiteral("/.config"));
     // Nobody is there to be asked; who tests the question takes this away.
     platform::setUserDefault(QStringLiteral("SupportFolderPutOff"), QStringLiteral("{\"on\":true}"));
     startAgain();
@@ -67,12 +68,12 @@ void WindowDriver::startAgain(const QString &opening)
         qFatal("%s", qPrintable(m_startUp->problem()));
 }
 
-std::unique_ptr<WindowDriver> WindowDriver::started()
+std::unique_ptr<WindowDriver> WindowDriver::started(const QString &home)
 {
 #ifdef QUORLIN_INTERFACE_FOLDER
     qputenv("QUORLIN_INTERFACE", QUORLIN_INTERFACE_FOLDER);
 #endif
-    return std::make_unique<WindowDriver>(*qobject_cast<QApplication *>(QCoreApplication::instance()));
+    return std::make_unique<WindowDriver>(*qobject_cast<QApplication *>(QCoreApplication::instance()), home);
 }
 
 std::unique_ptr<WindowDriver> WindowDriver::showing(const char *action)

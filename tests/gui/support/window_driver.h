@@ -12,6 +12,7 @@
 #include <QTemporaryDir>
 
 #include <functional>
+#include <optional>
 
 /**
  * The program with its main window, as a person would work it: finds controls by name, waits for what the window does.
@@ -20,11 +21,12 @@
 class WindowDriver
 {
 public:
-    explicit WindowDriver(QApplication &application);
+    /** @param home  where settings and logs are, to find them again in another process; without it a folder that goes with the driver */
+    explicit WindowDriver(QApplication &application, const QString &home = QString());
     ~WindowDriver();
 
     /** The program with the interface of the clone. */
-    static std::unique_ptr<WindowDriver> started();
+    static std::unique_ptr<WindowDriver> started(const QString &home = QString());
     /** The same, with one action chosen. */
     static std::unique_ptr<WindowDriver> showing(const char *action);
     /** A folder of the person's own for what the program is given; made on first use. */
@@ -75,12 +77,13 @@ public:
     /** Answers every panel from now on with these paths, until the program starts again. */
     static void answerPanels(const QStringList &paths);
 
-    QString folder() const { return m_home.path(); }
+    QString folder() const { return m_folder; }
 
 private:
     static bool isShown(const QObject *object);
 
     QApplication &m_application;
-    QTemporaryDir m_home;
+    std::optional<QTemporaryDir> m_home;
+    QString m_folder;
     std::unique_ptr<window::StartUp> m_startUp;
 };

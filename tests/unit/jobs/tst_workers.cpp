@@ -1,6 +1,7 @@
 #include "tests/support/scratch_folder.h"
 #include "tests/support/test_program.h"
 #include "tests/unit/jobs/batches.h"
+#include "tests/workers/attacks.h"
 
 #include <QDirIterator>
 #include <QImage>
@@ -132,14 +133,8 @@ void TestWorkers::isConfined()
 void TestWorkers::attacksNothing_data()
 {
     QTest::addColumn<bool>("isEnded");
-    for (const char *attack :
-         {"localsocket", "read",          "write",      "create",       "createempty", "truncate",
-          "remove",      "rename",        "link",       "chmod",        "chown",       "utimes",
-          "setxattr",    "inputtruncate", "inputchmod", "inputchown",   "inpututimes", "inputsetxattr",
-          "inputreopen", "inputmap",      "signal",     "threadsignal", "fork"})
-        QTest::newRow(attack) << false;
-    for (const char *attack : {"socket", "ptrace", "program"})
-        QTest::newRow(attack) << true;
+    for (const Attack &attack : attacks)
+        QTest::newRow(attack.name.data()) << attack.isEnded;
 }
 
 void TestWorkers::attacksNothing()
