@@ -1583,6 +1583,10 @@ declare module "quorlin/moves" {
         end(run: text): string;
         /** A run whose items are added one by one. */
         open(title: text): { run: string } | { problem: string };
+        /** Opens such a run again, where it has ended and was not taken back; done are the items that stand. */
+        reopen(run: text):
+            | { run: string; done: { kind: kind | "trash"; from: string; to: string; path: string }[] }
+            | { problem: string };
         add(run: text, item: { kind: kind | "trash"; from: string; to: string; number?: boolean }): Outcome;
         /** Undoes the last item of an open run that still stands; null where there is none. */
         takeBack(run: text): (Outcome & { kind: kind | "trash"; from: string; to: string }) | null;

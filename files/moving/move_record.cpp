@@ -159,10 +159,11 @@ private:
             return takeHead(line);
         if (line.contains(key("steps")))
             return takeSteps(line[key("steps")].toArray());
-        if (line.contains(key("making")))
-            return takeMaking(line[key("making")].toString());
         if (line.contains(key("end")))
             return takeEnd(line);
+        run.end.clear(); // it was opened again
+        if (line.contains(key("making")))
+            return takeMaking(line[key("making")].toString());
         if (line.contains(key("item")))
             return addItem(line);
         for (const char *word : {"done", "failed", "copied", "takenBack"})

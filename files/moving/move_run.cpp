@@ -49,6 +49,24 @@ platform::Result<std::unique_ptr<MoveRun>> MoveRun::open(platform::FileSystem &d
     return std::unique_ptr<MoveRun>(new MoveRun(disk, shelf, std::move(record)));
 }
 
+platform::Result<std::unique_ptr<MoveRun>> MoveRun::reopen(platform::FileSystem &disk, JournalShelf &shelf,
+                                                           const QString &id)
+{
+    const auto refused = [&] {
+        return platform::failure(platform::ErrorCode::InvalidValue, sentence(MoveProblem::UnknownRun));
+    };
+    if (!shelf.names().contains(id) || !shelf.hold(id))
+        return refused();
+    RunRecord record = readRecord(shelf.read(id).value_or(QByteArray()));
+    const bool hasEnded = !record.end.isEmpty() && record.isWhole && !record.isDamaged;
+    if (record.id != id || !record.isByHand || !record.undoes.isEmpty() || !hasEnded) {
+        shelf.letGo(id);
+        return refused();
+    }
+    record.end.clear();
+    return resume(disk, shelf, std::move(record));
+}
+
 std::unique_ptr<MoveRun> MoveRun::resume(platform::FileSystem &disk, JournalShelf &shelf, RunRecord record)
 {
     return std::unique_ptr<MoveRun>(new MoveRun(disk, shelf, std::move(record)));

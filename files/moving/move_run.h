@@ -47,6 +47,9 @@ public:
     /** A run without items, which are added one by one. */
     static platform::Result<std::unique_ptr<MoveRun>> open(platform::FileSystem &disk, JournalShelf &shelf,
                                                            const QString &title);
+    /** A run of such items that has ended: more can be added. Fails where it is none, or belongs to another process. */
+    static platform::Result<std::unique_ptr<MoveRun>> reopen(platform::FileSystem &disk, JournalShelf &shelf,
+                                                             const QString &id);
     /** A run that was interrupted; its journal must be held. */
     static std::unique_ptr<MoveRun> resume(platform::FileSystem &disk, JournalShelf &shelf, RunRecord record);
 

@@ -313,6 +313,25 @@ QVariantMap MoveService::open(const QString &title)
     return started(MoveRun::open(*m_disk, *m_shelf, title));
 }
 
+QVariantMap MoveService::reopen(const QString &run)
+{
+    const MoveProblem why = m_undoable.of(run).why;
+    if (why != MoveProblem::None && why != MoveProblem::EmptyRun)
+        return {{QStringLiteral("problem"), sentence(why)}};
+    QVariantMap answer = started(MoveRun::reopen(*m_disk, *m_shelf, run));
+    const MoveRun *active = found(run);
+    QVariantList done;
+    for (const MoveRecord &record : active ? active->record().items : std::vector<MoveRecord>())
+        if (record.stand == Stand::Done)
+            done.append(QVariantMap{{QStringLiteral("kind"), wordOf(record.item.operation)},
+                                    {QStringLiteral("from"), record.item.from},
+                                    {QStringLiteral("to"), record.item.to},
+                                    {QStringLiteral("path"), record.path}});
+    if (active)
+        answer.insert(QStringLiteral("done"), done);
+    return answer;
+}
+
 QVariantMap MoveService::add(const QString &run, const QVariantMap &item)
 {
     MoveRun *active = found(run);

@@ -75,6 +75,11 @@ public:
 
     /** Begins a run whose items are added one by one; {run: id} or {problem}. */
     Q_INVOKABLE QVariantMap open(const QString &title);
+    /**
+     * Opens such a run again that has ended, by itself or by recover(), and was not taken back: {run: id, done: [{kind, from, to, path}]},
+     * done being the items that stand, or {problem}.
+     */
+    Q_INVOKABLE QVariantMap reopen(const QString &run);
     /** @param item  {kind: "move", "copy", "link" or "trash", from, to, number: false}; answers {status, code, message, path} */
     Q_INVOKABLE QVariantMap add(const QString &run, const QVariantMap &item);
 

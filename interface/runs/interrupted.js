@@ -2,6 +2,7 @@
 // translation; the services are handed in.
 
 import { fill, numberText } from "../lib/wording.js";
+import { settleReplaced } from "./making/replacing.js";
 import { doneResults, recordFrom, recordsFolder } from "./making/run-record.js";
 
 // What was unfinished is of no use to anybody.
@@ -14,24 +15,41 @@ function sweepFolders(record, files) {
     });
 }
 
+// Results that took the place of files are known to the move engine, which copies them there: to the record they are other files.
+function notePlaced(record, path, runRecords, files, moves) {
+    const placed = new Set(settleReplaced(record.replacing, moves).map((each) => files.identity(each)));
+    Object.keys(record.rows).map((index) => record.rows[index]).forEach((row) => {
+        const identity = files.identity(row.path);
+        if (row.about !== undefined && identity !== "" && placed.has(identity)) {
+            row.identity = identity;
+            runRecords.add(path, JSON.stringify(row) + "\n", true);
+        }
+    });
+}
+
+/** The records of runs that were interrupted: [{path, record}]. Those that are of no use are gone. */
+function wholeRecords(runRecords, files) {
+    const all = runRecords.interrupted(recordsFolder(files))
+        .map((path) => ({ path: path, record: recordFrom(files.readText(path) || "") }));
+    const whole = all.filter((each) => each.record !== null); // the others had not begun
+    const continued = new Set(whole.map((each) => each.record.head.continues));
+    const used = whole.filter((each) => !continued.has(each.path));
+    all.filter((each) => used.indexOf(each) < 0).forEach((each) => runRecords.end(each.path));
+    return used;
+}
+
 /**
  * Runs that wrote pictures: {kind: "pictures", action (its name), title, record, path, done, count, places}; places are the paths of their
- * list. What they left unfinished is gone.
+ * list. What they left unfinished is gone. To be called when the move engine has ended its own runs.
  */
-export function interruptedPictures(runRecords, files) {
-    const found = [];
-    for (const path of runRecords.interrupted(recordsFolder(files))) {
-        const record = recordFrom(files.readText(path) || "");
-        if (record === null) {
-            runRecords.end(path); // it had not begun
-        } else {
-            sweepFolders(record, files);
-            found.push({ kind: "pictures", action: record.head.action, title: record.head.title, record: record,
-                         path: path, id: "", done: Object.keys(doneResults(record, files)).length,
-                         count: record.items.length, places: record.items.map((item) => item.of) });
-        }
-    }
-    return found;
+export function interruptedPictures(runRecords, files, moves) {
+    return wholeRecords(runRecords, files).map(({ path, record }) => {
+        sweepFolders(record, files);
+        notePlaced(record, path, runRecords, files, moves);
+        return { kind: "pictures", action: record.head.action, title: record.head.title, record: record, path: path,
+                 id: "", done: Object.keys(doneResults(record, files)).length, count: record.items.length,
+                 places: record.items.map((item) => item.of) };
+    });
 }
 
 /** Of the runs with these ids those of which something is left: {kind: "moves" or "undo", id, title, items, places, done, count}. */

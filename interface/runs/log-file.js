@@ -55,6 +55,13 @@ export function appendRows(files, rows) {
     return rows.length === 0 ? "" : files.appendLines(logPath(files), rows.map((row) => JSON.stringify(row)).join("\n") + "\n");
 }
 
+/** How many rows the log has of runs with these names. */
+export function countRows(files, runs) {
+    const ends = runs.filter((run) => run !== "").map((run) => "\"run\":" + JSON.stringify(run) + "}");
+    return (files.readText(logPath(files)) || "").split("\n").filter((line) => ends.some((end) => line.endsWith(end)))
+        .length;
+}
+
 /** Takes the oldest rows away when there are too many; returns a message if that failed. */
 export function trimRows(files) {
     const limit = Math.round(mostRows * (1 + SLACK));

@@ -32,6 +32,8 @@ export class BaseRun {
         this.results = [];
         this.problems = 0;
         this.rows = [];
+        /** So many of them are in the log already, of a run that was interrupted while they were written. */
+        this.keptRows = 0;
         this.paused = false;
         this.isEnding = false;
         this.isAbandoned = false;
@@ -131,7 +133,7 @@ export class BaseRun {
     /** A generator that writes the rows of the run into the log, some of them at a time; returns what to say if that failed. */
     * keepLog() {
         let problem = "";
-        for (let i = 0; i < this.rows.length && problem === ""; i += ROWS_AT_ONCE) {
+        for (let i = this.keptRows; i < this.rows.length && problem === ""; i += ROWS_AT_ONCE) {
             const rows = this.rows.slice(i, i + ROWS_AT_ONCE);
             rows.forEach((row) => { row.run = this.id; });
             problem = appendRows(files, rows);

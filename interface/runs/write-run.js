@@ -11,6 +11,7 @@ import { runByWorkers } from "./making/worker-job.js";
 import { emptyTable, splitPath } from "../lib/names.js";
 import { planMemory, planRun } from "./plan.js";
 import { clockText, costOf, Progress } from "./progress.js";
+import { countRows } from "./log-file.js";
 import { logRow, summaryOf } from "./report.js";
 import { fill, pixels, statusKind, statusText } from "../lib/wording.js";
 import { BaseRun } from "./run-base.js";
@@ -59,6 +60,7 @@ export class WriteRun extends BaseRun {
         this.record = null; // of what is done so far
         this.joining = null; // of pictures that are added meanwhile
         this.interrupted = ""; // the record of a run that this one goes on with
+        this.earlierReplacing = ""; // the run of the move engine that it had
         this.inWork = 0;
         this.toldMs = 0;
         this.steppedMs = 0;
@@ -207,7 +209,7 @@ export class WriteRun extends BaseRun {
     }
 
     work() {
-        this.replacing = new Replacing(this.window.services, this.window.action.title());
+        this.replacing = new Replacing(this.window.services, this.window.action.title(), this.earlierReplacing);
         this.flow = new Flow(() => this.job.wake());
         const services = Object.assign({}, this.window.services, { replacing: this.replacing });
         // The engine loses a generator that is returned by the call that makes it.
@@ -234,19 +236,27 @@ export class WriteRun extends BaseRun {
     * recorded(step, services) {
         const record = new RunRecord(runRecords, files);
         const action = this.window.action;
-        const head = { action: action.name, title: action.title(), settings: this.settings, startedMs: this.startedMs };
+        const head = { action: action.name, title: action.title(), settings: this.settings, startedMs: this.startedMs,
+                       id: this.id, replacing: this.earlierReplacing, continues: this.interrupted };
         this.record = record;
-        try {
-            for (const part of record.begin(head, this.items)) {
-                yield { kind: "recorded", index: part, item: this.items[part] };
-            }
-            runRecords.end(this.interrupted); // what it said is in this one
-            this.joining.open(this.flow);
-            yield* runByWorkers(this.items, step, this.settings, Object.assign({}, services, { record: record }),
-                                this.flow);
-        } finally {
-            record.end();
+        this.replacing.record = record;
+        for (const part of record.begin(head, this.items)) {
+            yield { kind: "recorded", index: part, item: this.items[part] };
         }
+        runRecords.end(this.interrupted); // what it said is in this one
+        this.joining.open(this.flow);
+        yield* runByWorkers(this.items, step, this.settings, Object.assign({}, services, { record: record }),
+                            this.flow);
+    }
+
+    /** It is part of one that was interrupted, with the same name in the log; path: of the record of that. */
+    takeOver(record, path) {
+        this.interrupted = path;
+        this.id = record.head.id || this.id;
+        this.earlierReplacing = record.replacing;
+        this.keptRows = record.isLogging ? countRows(files, [this.id, this.earlierReplacing]) : 0;
+        this.settings = record.head.settings;
+        this.simulated = false;
     }
 
     /**
@@ -257,11 +267,9 @@ export class WriteRun extends BaseRun {
         const window = this.window;
         const rows = rowsByPath(window.pictures);
         this.startPlanning(record.items.map((item) => rows[item.of] || 0));
-        this.interrupted = path;
+        this.takeOver(record, path);
         this.memory = planMemory(window.services);
         this.joining = new Joining(this, window.pictures);
-        this.settings = record.head.settings;
-        this.simulated = false;
         this.items = record.items.map((item, i) => {
             const photo = this.ids[i] > 0 ? window.pictures.photo(this.ids[i]) : null;
             return Object.assign({ asks: false, numbered: false }, item,
@@ -383,9 +391,25 @@ export class WriteRun extends BaseRun {
         }
         const unended = this.endReplacing();
         const unkept = yield* this.keepLog();
+        this.endRecord();
         const problem = [unended, unkept].filter((text) => text).join(" · ");
         this.isComplete = how === "done" && !isStopped;
         return this.summaryText(isStopped ? "cancelled" : how) + (problem ? " · " + problem : "");
+    }
+
+    * keepLog() {
+        if (this.record !== null) {
+            this.record.noteLogging();
+        }
+        const problem = yield* super.keepLog();
+        return problem;
+    }
+
+    // Until its rows are in the log it is not over.
+    endRecord() {
+        if (this.record !== null) {
+            this.record.end();
+        }
     }
 
     hasEnded() {
@@ -406,14 +430,13 @@ export class WriteRun extends BaseRun {
 
     // The rows of the log belong to the run that can be undone, where there is one.
     endReplacing() {
-        const run = this.replacing.run;
         const problem = this.replacing.end();
-        this.id = this.replacing.count > 0 ? run : this.id;
+        this.id = this.replacing.undoable() || this.id;
         return problem;
     }
 
     undoOffer() {
-        const isThere = this.phase === "ended" && this.replacing !== null && this.replacing.count > 0;
+        const isThere = this.phase === "ended" && this.replacing !== null && this.replacing.undoable() !== "";
         return isThere && this.window.services.moves.undoable(this.id).can ? { id: this.id, text: qsTr("Undo") } : null;
     }
 

@@ -21,6 +21,8 @@ struct EveryCall
     /** Called before each call that changes something; an errno as the answer makes the call fail with it. */
     static inline std::function<int(std::string_view call, const char *path)> before;
     static inline int count = 0;
+    /** Of a call that has no path; -1 for the others. */
+    static inline int file = -1;
 
     static int meet(const char *call, const char *path)
     {
@@ -44,8 +46,9 @@ private:
     static inline bool s_isInside = false;
 };
 
-template<typename Call> long afterMeeting(const char *name, const char *path, Call call)
+template<typename Call> long afterMeeting(const char *name, const char *path, Call call, int file = -1)
 {
+    EveryCall::file = file;
     if (const int error = EveryCall::meet(name, path)) {
         errno = error;
         return -1;
@@ -100,7 +103,8 @@ int flock(int file, int operation) noexcept
 #pragma GCC diagnostic pop
 ssize_t write(int file, const void *bytes, size_t count)
 {
-    return afterMeeting("write", nullptr, [=] { return ::syscall(SYS_write, file, bytes, count); });
+    const auto call = [=] { return ::syscall(SYS_write, file, bytes, count); };
+    return afterMeeting("write", nullptr, call, file);
 }
 ssize_t copy_file_range(int from, off64_t *fromAt, int to, off64_t *toAt, size_t count, unsigned flags)
 {

@@ -1,6 +1,6 @@
 // Results that take the place of files: what they replace goes to the trash first, or, where there is none, into a folder beside it, so
 // that the run can be undone. Pure but for translation; the services are handed in.
-// Services used: moves (open, add, takeBack, end), files (identity, realFolder, copyPermissions).
+// Services used: moves (open, reopen, add, takeBack, end), files (identity, realFolder, copyPermissions).
 
 import { joinPath } from "../../lib/names.js";
 
@@ -9,10 +9,16 @@ function dayText(date) {
 }
 
 export class Replacing {
-    /** @param title  what the run is called that can be undone */
-    constructor(services, title) {
+    /**
+     * @param title    what the run is called that can be undone
+     * @param earlier  the run that was interrupted, which is gone on with then, or ""
+     */
+    constructor(services, title, earlier) {
         this.services = services;
         this.title = title;
+        this.earlier = earlier || "";
+        /** Where the name of the run is noted before anything is put aside; null for nowhere. */
+        this.record = null;
         this.run = "";
         this.count = 0;
         this.folder = qsTr("Replaced") + " " + dayText(new Date());
@@ -22,9 +28,18 @@ export class Replacing {
         if (this.run !== "") {
             return "";
         }
-        const opened = this.services.moves.open(this.title);
+        const again = this.earlier === "" ? {} : this.services.moves.reopen(this.earlier);
+        const opened = again.run === undefined ? this.services.moves.open(this.title) : again;
         this.run = opened.run || "";
+        if (this.run !== "" && this.record !== null) {
+            this.record.noteReplacing(this.run);
+        }
         return opened.problem || "";
+    }
+
+    /** The run that can be undone, or "". */
+    undoable() {
+        return this.count > 0 ? this.run : this.earlier;
     }
 
     add(wish) {
@@ -65,14 +80,30 @@ export class Replacing {
             this.services.moves.takeBack(this.run);
             return { status: "Failed", message: put.message };
         }
+        files.copyPermissions(from, path); // where new files get other ones from the folder
         this.count += 1;
         return { status: "OK", message: "" };
     }
 
     /** Returns what to say, or "". */
     end() {
-        const run = this.run;
-        this.run = "";
-        return run === "" ? "" : this.services.moves.end(run);
+        return this.run === "" ? "" : this.services.moves.end(this.run);
     }
+}
+
+/**
+ * Once after a run was interrupted: what was put aside for a result that did not come to take its place goes back. Returns the paths of the
+ * results that took theirs.
+ */
+export function settleReplaced(run, moves) {
+    const opened = run === "" ? {} : moves.reopen(run);
+    if (opened.run === undefined) {
+        return [];
+    }
+    const last = opened.done[opened.done.length - 1];
+    if (last !== undefined && last.kind !== "copy") {
+        moves.takeBack(run);
+    }
+    moves.end(run);
+    return opened.done.filter((item) => item.kind === "copy").map((item) => item.path);
 }

@@ -1,6 +1,7 @@
 // What a run leaves behind where it is interrupted: its plan, and for each picture a line before its result takes its place and one after
-// it. Lines are JSON: {run: {action, title, settings, startedMs}}, {item: index, path, status, ...}, {begun: count} (again where items
-// joined), {about: index, path, identity}, {placed: index, path, identity, bytes}. Pure but for the services that are handed in.
+// it. Lines are JSON: {run: {action, title, settings, startedMs, id, replacing, continues}}, {item: index, path, status, ...},
+// {begun: count} (again where items joined), {about: index, path, identity}, {placed: index, path, identity, bytes},
+// {replacing: run of the move engine}, {logging: true}. Pure but for the services that are handed in.
 // Services used: records (begin, add, end), files (identity).
 
 import { emptyTable, joinPath } from "../../lib/names.js";
@@ -31,7 +32,10 @@ export class RunRecord {
         this.path = "";
     }
 
-    /** Writes what is planned, some of it at a time; head: {action, title, settings, startedMs}. */
+    /**
+     * Writes what is planned, some of it at a time; head: {action, title, settings, startedMs, id: of its rows in the log,
+     * replacing: the run of the move engine of an earlier part, continues: the record of that part}.
+     */
     * begin(head, items) {
         this.path = this.records.begin(recordsFolder(this.files));
         this.add({ run: head }, false);
@@ -75,6 +79,16 @@ export class RunRecord {
         this.add({ placed: index, path: path, identity: this.files.identity(path), bytes: bytes }, true);
     }
 
+    /** The run of the move engine by which results replace files. */
+    noteReplacing(run) {
+        this.add({ replacing: run }, true);
+    }
+
+    /** From here on rows may be in the log. */
+    noteLogging() {
+        this.add({ logging: true }, true);
+    }
+
     end() {
         if (this.path !== "") {
             this.records.end(this.path);
@@ -92,16 +106,21 @@ function parsed(line) {
 }
 
 /**
- * What the text of a record says: {head, items, rows}, or null where the run had not begun. Items are those of the plan with `of`, the path
- * of their picture; rows have the last line about a picture, by index.
+ * What the text of a record says: {head, items, rows, replacing, isLogging}, or null where the run had not begun. Items are those of
+ * the plan with `of`, the path of their picture; rows have the last line about a picture, by index.
  */
 export function recordFrom(text) {
-    const record = { head: null, items: [], rows: emptyTable() };
+    const record = { head: null, items: [], rows: emptyTable(), replacing: "", isLogging: false };
     let count = -1;
     text.split("\n").map(parsed).filter((line) => line !== null && typeof line === "object").forEach((line) => {
         const index = line.placed === undefined ? line.about : line.placed;
         if (line.run !== undefined) {
             record.head = line.run;
+            record.replacing = line.run.replacing || "";
+        } else if (line.replacing !== undefined) {
+            record.replacing = line.replacing;
+        } else if (line.logging !== undefined) {
+            record.isLogging = true;
         } else if (line.item !== undefined) {
             record.items[line.item] = line;
         } else if (line.begun !== undefined) {

@@ -93,9 +93,23 @@ export class History {
             } else {
                 this.turned(run);
             }
+        } else if (run !== null && run.done !== this.newest.done) {
+            this.grown(run);
         }
         this.forgetEarlier();
         this.show();
+    }
+
+    // A run that was interrupted was gone on with.
+    grown(run) {
+        this.newest = run;
+        const step = this.done.find((each) => each.id === run.id);
+        if (step === undefined) {
+            this.own.push(run.id);
+            this.keep(stepOf(run));
+        } else {
+            step.count = run.done;
+        }
     }
 
     // A run took another one back: that goes to the other side, under the name of what takes it back in turn.

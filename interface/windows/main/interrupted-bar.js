@@ -34,7 +34,7 @@ export class InterruptedBar {
     look() {
         removeUnfinished(defaults, files);
         const recovered = moves.recover();
-        const written = interruptedPictures(runRecords, files);
+        const written = interruptedPictures(runRecords, files, moves);
         const ids = recall(defaults, ASKED, { ids: [] }).ids.concat(recovered.map((run) => run.id));
         const moved = interruptedMoves(moves, ids);
         this.waiting = [].concat(written, moved);
@@ -63,8 +63,10 @@ export class InterruptedBar {
 
     // While the bar is shown these are undone as if they were of this start: nobody is asked.
     own(recovered, written) {
-        recovered.filter((run) => written.some((work) => work.title === run.title))
-            .forEach((run) => this.window.history.adopt(run.id));
+        const replaced = written.map((work) => work.record.replacing).filter((id) => id !== "");
+        recovered.filter((run) => written.some((work) => work.title === run.title)).map((run) => run.id)
+            .filter((id) => replaced.indexOf(id) < 0).concat(replaced)
+            .forEach((id) => this.window.history.adopt(id));
         this.waiting.filter((work) => work.kind !== "pictures").reverse()
             .forEach((work) => this.window.history.adopt(work.id));
     }

@@ -104,6 +104,19 @@ test("carriesOnWithoutARecordWhereNoneCanBeWritten", () => {
     equal([records.text, records.isEnded], ["", false]);
 });
 
+test("saysHowFarTheEndHadCome", () => {
+    const world = recorded(new FakeFiles({ "/out": "folder" }), [item("a.jpg")]);
+    equal([recordFrom(world.records.text).replacing, recordFrom(world.records.text).isLogging], ["", false]);
+    world.record.noteReplacing("run 1");
+    world.record.noteLogging();
+    equal(world.records.kept, world.records.text.length);
+    equal([recordFrom(world.records.text).replacing, recordFrom(world.records.text).isLogging], ["run 1", true]);
+    const records = new FakeRecords();
+    const later = new RunRecord(records, new FakeFiles({}));
+    drain(later.begin(Object.assign({ replacing: "run 1" }, HEAD), [item("a.jpg")]));
+    equal(recordFrom(records.text).replacing, "run 1");
+});
+
 test("takesInWhatJoins", () => {
     const world = recorded(new FakeFiles({ "/out": "folder" }), [item("a.jpg"), item("b.jpg")]);
     const before = world.records.text;

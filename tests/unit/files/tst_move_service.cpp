@@ -67,6 +67,8 @@ private Q_SLOTS:
     void carriesOutItemByItem();
     void saysWhyAnItemFailed();
     void addsItemsAndTakesThemBack();
+    void opensAnInterruptedRunAgain();
+    void opensNoOtherRunAgain();
     void refusesWhatThePlanRefuses();
     void undoesARun();
     void saysWhyARunCannotBeUndone();
@@ -163,6 +165,46 @@ void TestMoveService::addsItemsAndTakesThemBack()
     QCOMPARE(kinds, QStringList({text("trashOK"), text("linkOK"), text("copyOK"), text("moveOK")}));
     QCOMPARE(m_service->end(id), QString());
     QCOMPARE(m_disk->everything(), before);
+}
+
+void TestMoveService::opensAnInterruptedRunAgain()
+{
+    const auto before = m_disk->everything();
+    const QString id = field(m_service->open(text("Resize")), "run");
+    m_service->add(id, item("/d/a", "", "trash"));
+    m_service->add(id, item("/d/c", "/d/a", "copy"));
+    m_service->add(id, item("/d/b", "", "trash"));
+    m_shelf->held.clear(); // the process ends
+    m_service->recover();
+    const QVariantMap again = m_service->reopen(id);
+    QCOMPARE(field(again, "run"), id);
+    QCOMPARE(each(again.value(text("done")).toList(), "kind"),
+             QStringList({text("trash"), text("copy"), text("trash")}));
+    QCOMPARE(field(m_service->takeBack(id), "status"), text("OK"));
+    QCOMPARE(m_disk->bytes(text("/d/b")), QByteArray("/d/b"));
+    QVERIFY(m_service->end(id).isEmpty());
+    // Both parts are one run, which is gone on with as often as needed.
+    QCOMPARE(field(m_service->reopen(id), "run"), id);
+    m_service->add(id, item("/d/b", "/d/in/b", "move"));
+    m_shelf->held.clear();
+    QCOMPARE(each(m_service->recover(), "id"), QStringList{id});
+    QCOMPARE(m_service->undoable(id).value(text("count")).toInt(), 3);
+    drive(field(m_service->undo(id), "run"));
+    QCOMPARE(m_disk->everything(), before);
+    QCOMPARE(field(m_service->reopen(id), "problem"), text("This run has already been undone"));
+}
+
+void TestMoveService::opensNoOtherRunAgain()
+{
+    const QString planned = begun(run({item("/d/a", "/d/x")}));
+    QVERIFY(m_service->reopen(planned).contains(text("problem"))); // it is open
+    drive(planned);
+    m_service->end(planned);
+    QVERIFY(m_service->reopen(planned).contains(text("problem"))); // its items are known from the beginning
+    QVERIFY(m_service->reopen(text("none")).contains(text("problem")));
+    const QString id = field(m_service->open(text("Sort")), "run");
+    QVERIFY(m_service->reopen(id).contains(text("problem")));
+    QCOMPARE(field(m_service->add(id, item("/d/b", "/d/y")), "status"), text("OK"));
 }
 
 void TestMoveService::refusesWhatThePlanRefuses()
