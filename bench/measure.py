@@ -1,0 +1,77 @@
+"""What benchmarks of whole batches have in common: processes, their memory, and copies of photographs."""
+import os
+import shutil
+import subprocess
+import sys
+import threading
+import time
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parent.parent
+
+
+def processes_below(parent):
+    """A process and its children, as /proc has them."""
+    found = [parent]
+    for entry in Path("/proc").iterdir():
+        if entry.name.isdigit():
+            try:
+                if int((entry / "stat").read_text().rsplit(")", 1)[1].split()[1]) == parent:
+                    found.append(int(entry.name))
+            except (OSError, IndexError, ValueError):
+                pass
+    return found
+
+
+class MemoryWatch(threading.Thread):
+    """The most that all processes of a command had together, with what they share counted once, in MB."""
+    def __init__(self, pid):
+        super().__init__(daemon=True)
+        self.pid, self.most, self.goes_on = pid, 0, True
+
+    def run(self):
+        while self.goes_on:
+            total = 0
+            for pid in processes_below(self.pid):
+                try:
+                    lines = Path(f"/proc/{pid}/smaps_rollup").read_text().splitlines()
+                    total += sum(int(line.split()[1]) for line in lines if line.startswith("Pss:"))
+                except OSError:
+                    pass
+            self.most = max(self.most, total / 1024)
+            time.sleep(0.2)
+
+
+def measure(commands, watches=False):
+    """Seconds, CPU seconds, megabytes and what the first said, of commands side by side."""
+    begin = time.monotonic()
+    running = [subprocess.Popen(list(map(str, command)), stdout=subprocess.PIPE, text=True) for command in commands]
+    watch = MemoryWatch(running[0].pid)
+    if watches:
+        watch.start()
+    said = [process.stdout.read() for process in running]
+    cpu = 0
+    for process in running:
+        _, status, usage = os.wait4(process.pid, 0)
+        if status != 0:
+            sys.exit(f"{commands[0][0]} failed")
+        cpu += usage.ru_utime + usage.ru_stime
+    seconds = time.monotonic() - begin
+    watch.goes_on = False
+    return seconds, cpu, watch.most, said[0]
+
+
+def copies(folder, work, count):
+    """So many pictures made of the photographs in a folder."""
+    originals = sorted(Path(folder).glob("*.jpg"))
+    if not originals:
+        sys.exit("bench: there are no photographs; bench/run makes some")
+    pictures = []
+    for i in range(count):
+        pictures.append(work / f"p{i:03}.jpg")
+        shutil.copy(originals[i % len(originals)], pictures[-1])
+    return pictures
+
+
+def thumbnails(pictures, out):
+    return ["vipsthumbnail", "--size", "1600x1600", "-o", f"{out}/%s.jpg[Q=85]", *pictures]
