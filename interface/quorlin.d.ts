@@ -976,6 +976,12 @@ declare module "quorlin/files" {
         readFields(path: text): { fields?: any; inPlace?: boolean; sidecar: string; problem: string };
         /** Changes fields of a picture, or of its sidecar; see docs/manual for their names. */
         writeFields(path: text, work: dictionary): { problem: string; changed: boolean; file: string };
+        /** What fields, as readFields() tells them, will say, of those that the work changes: no texts where one is taken out. */
+        plannedFields(fields: dictionary, work: dictionary): { fields: any; problem: string };
+        /** Adds lines to a file in a folder of the data folder that nobody else may read; answers the problem. */
+        appendPrivate(path: text, lines: text): string;
+        /** Removes such a file for good; answers the problem. */
+        removePrivate(path: text): string;
         /** The names of all fields, in the order in which they are shown. */
         fieldNames(): string[];
         privateDataNames(): string[];
@@ -2044,6 +2050,11 @@ declare module "quorlin/shell" {
         folders(): FolderRow[];
     }
 
+    /** A field for words with commas between them, which offers known words for the one that is typed. */
+    export interface KeywordEdit extends LineEdit {
+        words: texts;
+    }
+
     interface LogEntry {
         /** ISO, UTC; or empty. */
         date: string;
@@ -2344,6 +2355,8 @@ declare module "quorlin/shell" {
         addGroup(title: text): null;
         /** The name is what actionChosen says. */
         addEntry(name: text, title: text, iconName: text): null;
+        /** Another name of an entry that shows one of several things; the entry has the name of that which was chosen last. */
+        addFace(name: text, entryName: text): null;
         /** An entry that is off cannot be chosen. */
         setEntryEnabled(name: text, enabled: boolean): null;
     }
@@ -2381,7 +2394,7 @@ declare module "quorlin/shell" {
     /** A control by its name: which members it has says its kind. */
     type AnyControl = Widget & Action & Button & Label & LineEdit & TextEdit & ComboBox & SpinBox & NumberBox & DateBox &
         ProgressBar & Stack & AngleDial & CardHandle & ChipLabel & ColorWell & ComparePreview & DropTarget &
-        FolderTree & LogTable & ManualView & PageList & PagesView & PictureTable & PositionPad & PropertyTree & RunList &
+        FolderTree & KeywordEdit & LogTable & ManualView & PageList & PagesView & PictureTable & PositionPad & PropertyTree & RunList &
         SearchMenu & SegmentedControl & SideBar & SlotList & StepPicture & PageSketch;
 }
 

@@ -255,6 +255,29 @@ MetadataWork withTexts(const MetadataWork &work, const std::function<QString(con
     return filled;
 }
 
+Result<QVariantMap> plannedFields(const QVariantMap &stated, const MetadataWork &work)
+{
+    QVariantMap planned;
+    const auto said = [&](const QString &name) { return stated.value(name).toMap(); };
+    const auto valueOf = [&](const QString &name) { return said(name).value(QStringLiteral("value")).toStringList(); };
+    for (auto each = work.fields.begin(); each != work.fields.end(); ++each) {
+        const Field *field = fieldNamed(each.key());
+        if (!field)
+            return invalid(QCoreApplication::translate("meta", "there is no field %1").arg(each.key()));
+        const auto edit = checked(*field, each.value());
+        if (!edit)
+            return tl::unexpected<platform::Error>(edit.error());
+        const QStringList now = valueOf(each.key());
+        const auto then = wanted(*field, *edit, now);
+        if (then && (*then != now || said(each.key()).value(QStringLiteral("disputed")).toBool()))
+            planned.insert(each.key(), *then);
+    }
+    for (auto each = stated.begin(); each != stated.end(); ++each)
+        if (work.removed.contains(PrivateData::Places) && isPlace(each.key()))
+            planned.insert(each.key(), QStringList());
+    return planned;
+}
+
 platform::MetadataEdit editFor(const MetadataWork &work)
 {
     // What is wanted is worked out once, from what was said before.

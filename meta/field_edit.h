@@ -46,6 +46,14 @@ platform::Result<MetadataWork> workFrom(const QVariantMap &map);
 /** The same with other texts, such as those whose tokens are filled in. */
 MetadataWork withTexts(const MetadataWork &work, const std::function<QString(const QString &)> &text);
 
+/**
+ * What fields will say, of those that the work changes: {name: texts, none where it is taken out}. What EXIF, IPTC and XMP say differently
+ * now is changed too, since they will all say it. Fails with InvalidValue as the edit would.
+ *
+ * @param stated  see fieldMap()
+ */
+platform::Result<QVariantMap> plannedFields(const QVariantMap &stated, const MetadataWork &work);
+
 /** The edit that does it. It must outlive neither @p work nor anything else. */
 platform::MetadataEdit editFor(const MetadataWork &work);
 

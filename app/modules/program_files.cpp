@@ -1,11 +1,24 @@
 #include "app/modules/program_files.h"
 
+#include "files/items/line_file.h"
 #include "jobs/reading/field_errand.h"
 #include "meta/metadata_file.h"
-
 #include "presets/unusable_database.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
 namespace script {
+namespace {
+
+/** A file below a folder of the data folder, without a way out of it. */
+bool isOwn(const QString &path, const QString &dataFolder)
+{
+    return QDir::cleanPath(path) == path && path.startsWith(dataFolder + u'/') && !QFileInfo(path).isDir();
+}
+
+} // namespace
 
 QString ProgramFiles::setAsideUnusableDatabase(const QString &path) const
 {
@@ -25,6 +38,29 @@ QVariantMap ProgramFiles::writeFields(const QString &path, const QVariantMap &wo
     return {{QStringLiteral("problem"), written ? QStringLiteral("") : written.error().message},
             {QStringLiteral("changed"), written && written->isChanged},
             {QStringLiteral("file"), written ? written->file : path}};
+}
+
+QVariantMap ProgramFiles::plannedFields(const QVariantMap &fields, const QVariantMap &work) const
+{
+    const auto planned = meta::workFrom(work).and_then(
+        [&](const meta::MetadataWork &checked) { return meta::plannedFields(fields, checked); });
+    return {{QStringLiteral("problem"), planned ? QStringLiteral("") : planned.error().message},
+            {QStringLiteral("fields"), planned.value_or(QVariantMap())}};
+}
+
+QString ProgramFiles::appendPrivate(const QString &path, const QString &lines) const
+{
+    if (!isOwn(path, dataFolder()))
+        return tr("%1 cannot be written.").arg(path);
+    const auto added = files::appendPrivateLines(path, lines.toUtf8());
+    return added ? QString() : added.error().message;
+}
+
+QString ProgramFiles::removePrivate(const QString &path) const
+{
+    return isOwn(path, dataFolder()) && (!QFileInfo::exists(path) || QFile::remove(path))
+               ? QString()
+               : tr("%1 cannot be removed.").arg(path);
 }
 
 QStringList ProgramFiles::fieldNames() const

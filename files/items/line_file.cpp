@@ -1,11 +1,18 @@
 #include "files/items/line_file.h"
 
+#include "platform/descriptors/descriptor.h"
 #include "platform/file/atomic_file.h"
+#include "platform/foundation/paths.h"
 
 #include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace files {
 
@@ -40,6 +47,25 @@ platform::Result<void> appendLines(const QString &path, const QByteArray &lines)
             return {};
     }
     return platform::failure(platform::ErrorCode::WriteFailed, QStringLiteral("%1: %2").arg(path, file.errorString()));
+}
+
+platform::Result<void> appendPrivateLines(const QString &path, const QByteArray &lines)
+{
+    constexpr mode_t onlyMine = 0600;
+    constexpr mode_t onlyMyFolder = 0700;
+    const auto failed = [&] {
+        return platform::failure(platform::ErrorCode::WriteFailed,
+                                 QStringLiteral("%1: %2").arg(path, qt_error_string()));
+    };
+    const QByteArray folder = platform::encodedPath(QFileInfo(path).path());
+    if (::mkdir(folder.constData(), onlyMyFolder) != 0 && errno != EEXIST)
+        return failed();
+    const platform::Descriptor file(::open(platform::encodedPath(path).constData(),
+                                           O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC | O_NOFOLLOW, onlyMine));
+    if (!file.isOpen() || ::write(file.number(), lines.constData(), size_t(lines.size())) != lines.size() ||
+        ::fdatasync(file.number()) != 0)
+        return failed();
+    return {};
 }
 
 platform::Result<void> keepNewestLines(const QString &path, int most, int limit)

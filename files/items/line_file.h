@@ -14,6 +14,12 @@ namespace files {
 platform::Result<void> appendLines(const QString &path, const QByteArray &lines);
 
 /**
+ * The same for a file that nobody else may read, in a folder that is made if need be; the lines are on the disk afterwards. Fails with
+ * WriteFailed.
+ */
+platform::Result<void> appendPrivateLines(const QString &path, const QByteArray &lines);
+
+/**
  * Keeps the last @p most lines of a file that has more than @p limit of them; touches no other. Atomic.
  *
  * @param limit  more than @p most, so that the file is not written anew for each line that is added

@@ -5,6 +5,7 @@
 //   name     that of its folder, its icon and its settings too
 //   manner   WRITES: writes pictures through the output block (see resize/resize-step.js). MOVES: moves, copies or links files
 //            through the move engine (see rename/rename-step.js). PAGE: owns the centre of the window (see log/log-page.js).
+//   within   the action whose entry in the sidebar shows this one too: another face of it (may be missing)
 //   usesList false for a page that does not work on the list: adding pictures then leads back to the action before
 // With a step:
 //   step     plain data in, plain data out: defaults, describe(settings), validate(settings) and what its manner asks for
@@ -27,6 +28,7 @@ import { contact } from "./contact/contact-action.js";
 import { convert } from "./convert/convert-action.js";
 import { crop } from "./crop/crop-action.js";
 import { hand } from "./hand/hand-action.js";
+import { fields } from "./metadata/metadata-fields-action.js";
 import { log } from "./log/log-action.js";
 import { metadata } from "./metadata/metadata-action.js";
 import { recipe } from "./recipe/recipe-action.js";
@@ -66,6 +68,7 @@ export const GROUPS = [
         title: () => qsTr("Information"),
         actions: [
             metadata,
+            fields,
             log,
         ],
     },

@@ -75,7 +75,7 @@ export class LivePlan {
     start() {
         const window = this.window;
         const summary = this.nothing();
-        this.ids = window.pictures.tickedIds();
+        this.ids = this.wantedIds();
         this.next = 0;
         showUnticked(window.pictures, (id) => this.isFinal(id));
         if (window.action.step.validate(window.settings).length > 0) {
@@ -91,6 +91,11 @@ export class LivePlan {
                 this.planned(summary);
             }
         }));
+    }
+
+    /** The rows that a run would work on. */
+    wantedIds() {
+        return this.window.pictures.tickedIds();
     }
 
     /** Called where nothing can be planned with the settings as they are. */

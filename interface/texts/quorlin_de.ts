@@ -1354,6 +1354,14 @@
         <source>Open the action of this run with its settings</source>
         <translation>Die Aktion dieses Durchlaufs mit seinen Einstellungen öffnen</translation>
     </message>
+    <message>
+        <source>Forget Old Values</source>
+        <translation>Alte Werte vergessen</translation>
+    </message>
+    <message>
+        <source>Delete the old metadata that is kept for reverting</source>
+        <translation>Die alten Metadaten löschen, die zum Zurücksetzen aufbewahrt werden</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -1962,6 +1970,14 @@
     <message>
         <source>Write comment and go to the next picture</source>
         <translation>Kommentar schreiben und zum nächsten Bild</translation>
+    </message>
+    <message>
+        <source>Edit Fields…</source>
+        <translation>Felder bearbeiten…</translation>
+    </message>
+    <message>
+        <source>Write titles, keywords, copyright and other fields of many pictures</source>
+        <translation>Titel, Stichwörter, Copyright und andere Felder vieler Bilder schreiben</translation>
     </message>
 </context>
 <context>
@@ -11851,6 +11867,977 @@
     <message>
         <source>A name cannot contain “/”.</source>
         <translation>Ein Name darf kein „/“ enthalten.</translation>
+    </message>
+</context>
+<context>
+    <name>log-fields</name>
+    <message>
+        <source>Forget old values</source>
+        <translation>Alte Werte vergessen</translation>
+    </message>
+    <message>
+        <source>Delete the old metadata of this run (%1) for good?</source>
+        <translation>Die alten Metadaten dieses Durchlaufs (%1) endgültig löschen?</translation>
+    </message>
+    <message>
+        <source>The pictures are not changed. The run can then no longer be reverted.</source>
+        <translation>Die Bilder bleiben unverändert. Der Durchlauf kann danach nicht mehr zurückgesetzt werden.</translation>
+    </message>
+    <message>
+        <source>Forget Old Values</source>
+        <translation>Alte Werte vergessen</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Behalten</translation>
+    </message>
+    <message>
+        <source>The old values are deleted.</source>
+        <translation>Die alten Werte sind gelöscht.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Reverting: %n pictures so far</source>
+        <translation>
+            <numerusform>Zurücksetzen: bisher %n Bild</numerusform>
+            <numerusform>Zurücksetzen: bisher %n Bilder</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Stopped:</source>
+        <translation>Angehalten:</translation>
+    </message>
+</context>
+<context>
+    <name>field-run</name>
+    <message>
+        <source>Stopped:</source>
+        <translation>Angehalten:</translation>
+    </message>
+    <message>
+        <source>Cancelled before the first picture. Nothing was written.</source>
+        <translation>Vor dem ersten Bild abgebrochen. Nichts wurde geschrieben.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Dry run: %n pictures would be changed</source>
+        <translation>
+            <numerusform>Probelauf: %n Bild würde geändert</numerusform>
+            <numerusform>Probelauf: %n Bilder würden geändert</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>nothing was written</source>
+        <translation>nichts wurde geschrieben</translation>
+    </message>
+    <message>
+        <source>Cancelled. Nothing was written.</source>
+        <translation>Abgebrochen. Nichts wurde geschrieben.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Write metadata</source>
+        <translation>Metadaten schreiben</translation>
+    </message>
+    <message numerus="yes">
+        <source>Write metadata into %n pictures?</source>
+        <translation>
+            <numerusform>Metadaten in %n Bild schreiben?</numerusform>
+            <numerusform>Metadaten in %n Bilder schreiben?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This changes the metadata inside your originals. Their pictures are not touched.</source>
+        <translation>Das ändert die Metadaten in Ihren Originalen. Die Bilder selbst bleiben unberührt.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of them get it in a sidecar file beside them.</source>
+        <translation>
+            <numerusform>%n davon erhält sie in einer Begleitdatei daneben.</numerusform>
+            <numerusform>%n davon erhalten sie in einer Begleitdatei daneben.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>EXIF, IPTC and XMP disagree:</source>
+        <translation>EXIF, IPTC und XMP widersprechen sich:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more pictures: see their rows in the list.</source>
+        <translation>
+            <numerusform>%n weiteres Bild: siehe die Zeile in der Liste.</numerusform>
+            <numerusform>%n weitere Bilder: siehe ihre Zeilen in der Liste.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Write</source>
+        <translation>Schreiben</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>wartet</translation>
+    </message>
+    <message>
+        <source>it says so already</source>
+        <translation>steht dort schon</translation>
+    </message>
+    <message>
+        <source>in %1</source>
+        <translation>in %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures changed</source>
+        <translation>
+            <numerusform>%n Bild geändert</numerusform>
+            <numerusform>%n Bilder geändert</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n unchanged</source>
+        <translation>
+            <numerusform>%n unverändert</numerusform>
+            <numerusform>%n unverändert</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>reverted</source>
+        <translation>zurückgesetzt</translation>
+    </message>
+</context>
+<context>
+    <name>field-plan</name>
+    <message>
+        <source>EXIF, IPTC and XMP disagree</source>
+        <translation>EXIF, IPTC und XMP widersprechen sich</translation>
+    </message>
+    <message>
+        <source>in a sidecar file</source>
+        <translation>in einer Begleitdatei</translation>
+    </message>
+    <message>
+        <source>private data stays in files of this type</source>
+        <translation>private Daten bleiben in Dateien dieser Art</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>bereit</translation>
+    </message>
+    <message>
+        <source>no change</source>
+        <translation>keine Änderung</translation>
+    </message>
+    <message>
+        <source>not selected</source>
+        <translation>nicht ausgewählt</translation>
+    </message>
+</context>
+<context>
+    <name>field-reverting</name>
+    <message>
+        <source>Revert metadata</source>
+        <translation>Metadaten zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Revert This Run</source>
+        <translation>Durchlauf zurücksetzen</translation>
+    </message>
+    <message>
+        <source>No old values are kept of this run.</source>
+        <translation>Von diesem Durchlauf sind keine alten Werte aufbewahrt.</translation>
+    </message>
+    <message>
+        <source>Old values: %1.</source>
+        <translation>Alte Werte: %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures can be reverted.</source>
+        <translation>
+            <numerusform>%n Bild kann zurückgesetzt werden.</numerusform>
+            <numerusform>%n Bilder können zurückgesetzt werden.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>All its pictures have already been reverted.</source>
+        <translation>Alle Bilder sind bereits zurückgesetzt.</translation>
+    </message>
+    <message>
+        <source>Metadata</source>
+        <translation>Metadaten</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures reverted</source>
+        <translation>
+            <numerusform>%n Bild zurückgesetzt</numerusform>
+            <numerusform>%n Bilder zurückgesetzt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n problems</source>
+        <translation>
+            <numerusform>%n Problem</numerusform>
+            <numerusform>%n Probleme</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>fields</name>
+    <message>
+        <source>Dry Run: %1</source>
+        <translation>Probelauf: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n disagree with themselves</source>
+        <translation>
+            <numerusform>%n widerspricht sich selbst</numerusform>
+            <numerusform>%n widersprechen sich selbst</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sidecar files</source>
+        <translation>
+            <numerusform>%n Begleitdatei</numerusform>
+            <numerusform>%n Begleitdateien</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>originals are changed, can be reverted</source>
+        <translation>Originale werden geändert, kann zurückgesetzt werden</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Änderung</translation>
+    </message>
+    <message>
+        <source>Dry run: write nothing</source>
+        <translation>Probelauf: nichts schreiben</translation>
+    </message>
+</context>
+<context>
+    <name>metadata-fields-action</name>
+    <message>
+        <source>Metadata</source>
+        <translation>Metadaten</translation>
+    </message>
+    <message>
+        <source>Writing metadata</source>
+        <translation>Metadaten schreiben</translation>
+    </message>
+    <message numerus="yes">
+        <source>Write Metadata into %n Pictures</source>
+        <translation>
+            <numerusform>Metadaten in %n Bild schreiben</numerusform>
+            <numerusform>Metadaten in %n Bilder schreiben</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>metadata-fields-words</name>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Headline</source>
+        <translation>Überschrift</translation>
+    </message>
+    <message>
+        <source>Caption</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>Stichwörter</translation>
+    </message>
+    <message>
+        <source>Creator</source>
+        <translation>Urheber</translation>
+    </message>
+    <message>
+        <source>Job title</source>
+        <translation>Berufsbezeichnung</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Anschrift</translation>
+    </message>
+    <message>
+        <source>Phone</source>
+        <translation>Telefon</translation>
+    </message>
+    <message>
+        <source>Email</source>
+        <translation>E-Mail</translation>
+    </message>
+    <message>
+        <source>Website</source>
+        <translation>Website</translation>
+    </message>
+    <message>
+        <source>Copyright</source>
+        <translation>Copyright</translation>
+    </message>
+    <message>
+        <source>Usage terms</source>
+        <translation>Nutzungsrechte</translation>
+    </message>
+    <message>
+        <source>Credit line</source>
+        <translation>Bildnachweis</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Quelle</translation>
+    </message>
+    <message>
+        <source>Instructions</source>
+        <translation>Anweisungen</translation>
+    </message>
+    <message>
+        <source>Job identifier</source>
+        <translation>Auftragsnummer</translation>
+    </message>
+    <message>
+        <source>Sublocation</source>
+        <translation>Ortsteil</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>Stadt</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Bundesland</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Land</translation>
+    </message>
+    <message>
+        <source>Country code</source>
+        <translation>Ländercode</translation>
+    </message>
+    <message>
+        <source>Date taken</source>
+        <translation>Aufnahmedatum</translation>
+    </message>
+    <message>
+        <source>Rating</source>
+        <translation>Bewertung</translation>
+    </message>
+    <message>
+        <source>Colour label</source>
+        <translation>Farbetikett</translation>
+    </message>
+    <message>
+        <source>Places</source>
+        <translation>Orte</translation>
+    </message>
+    <message>
+        <source>Serial numbers</source>
+        <translation>Seriennummern</translation>
+    </message>
+    <message>
+        <source>Owner and computer names</source>
+        <translation>Namen von Besitzer und Computer</translation>
+    </message>
+    <message>
+        <source>Face regions</source>
+        <translation>Gesichtsbereiche</translation>
+    </message>
+    <message>
+        <source>Maker notes</source>
+        <translation>Herstellernotizen</translation>
+    </message>
+    <message>
+        <source>Embedded thumbnails</source>
+        <translation>Eingebettete Vorschaubilder</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Gelb</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blau</translation>
+    </message>
+    <message>
+        <source>Purple</source>
+        <translation>Violett</translation>
+    </message>
+    <message>
+        <source>Rejected</source>
+        <translation>Abgelehnt</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>nichts</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1: “%2”</source>
+        <translation>%1: „%2“</translation>
+    </message>
+    <message>
+        <source>%1: “%2” → “%3”</source>
+        <translation>%1: „%2“ → „%3“</translation>
+    </message>
+    <message>
+        <source>%1: cleared, was “%2”</source>
+        <translation>%1: geleert, war „%2“</translation>
+    </message>
+    <message>
+        <source>%1: EXIF %2, IPTC %3, XMP %4</source>
+        <translation>%1: EXIF %2, IPTC %3, XMP %4</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stars</source>
+        <translation>
+            <numerusform>%n Stern</numerusform>
+            <numerusform>%n Sterne</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>FieldsPane</name>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Headline</source>
+        <translation>Überschrift</translation>
+    </message>
+    <message>
+        <source>Caption</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>Stichwörter</translation>
+    </message>
+    <message>
+        <source>Creator</source>
+        <translation>Urheber</translation>
+    </message>
+    <message>
+        <source>Job title</source>
+        <translation>Berufsbezeichnung</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Anschrift</translation>
+    </message>
+    <message>
+        <source>Phone</source>
+        <translation>Telefon</translation>
+    </message>
+    <message>
+        <source>Email</source>
+        <translation>E-Mail</translation>
+    </message>
+    <message>
+        <source>Website</source>
+        <translation>Website</translation>
+    </message>
+    <message>
+        <source>Copyright</source>
+        <translation>Copyright</translation>
+    </message>
+    <message>
+        <source>Usage terms</source>
+        <translation>Nutzungsrechte</translation>
+    </message>
+    <message>
+        <source>Credit line</source>
+        <translation>Bildnachweis</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Quelle</translation>
+    </message>
+    <message>
+        <source>Instructions</source>
+        <translation>Anweisungen</translation>
+    </message>
+    <message>
+        <source>Job identifier</source>
+        <translation>Auftragsnummer</translation>
+    </message>
+    <message>
+        <source>Sublocation</source>
+        <translation>Ortsteil</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>Stadt</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Bundesland</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Land</translation>
+    </message>
+    <message>
+        <source>Country code</source>
+        <translation>Ländercode</translation>
+    </message>
+    <message>
+        <source>Date taken</source>
+        <translation>Aufnahmedatum</translation>
+    </message>
+    <message>
+        <source>Rating</source>
+        <translation>Bewertung</translation>
+    </message>
+    <message>
+        <source>Colour label</source>
+        <translation>Farbetikett</translation>
+    </message>
+    <message>
+        <source>Places</source>
+        <translation>Orte</translation>
+    </message>
+    <message>
+        <source>Serial numbers</source>
+        <translation>Seriennummern</translation>
+    </message>
+    <message>
+        <source>Owner and computer names</source>
+        <translation>Namen von Besitzer und Computer</translation>
+    </message>
+    <message>
+        <source>Face regions</source>
+        <translation>Gesichtsbereiche</translation>
+    </message>
+    <message>
+        <source>Maker notes</source>
+        <translation>Herstellernotizen</translation>
+    </message>
+    <message>
+        <source>Embedded thumbnails</source>
+        <translation>Eingebettete Vorschaubilder</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>Creator and rights</source>
+        <translation>Urheber und Rechte</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Ort</translation>
+    </message>
+    <message>
+        <source>Date and rating</source>
+        <translation>Datum und Bewertung</translation>
+    </message>
+    <message>
+        <source>Remove private data</source>
+        <translation>Private Daten entfernen</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Selected</source>
+        <translation>Ausgewählte</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Hinzugefügt</translation>
+    </message>
+    <message>
+        <source>All there are</source>
+        <translation>Die einzigen</translation>
+    </message>
+    <message>
+        <source>Clear the title</source>
+        <translation>Titel leeren</translation>
+    </message>
+    <message>
+        <source>Clear the headline</source>
+        <translation>Überschrift leeren</translation>
+    </message>
+    <message>
+        <source>Clear the caption</source>
+        <translation>Beschreibung leeren</translation>
+    </message>
+    <message>
+        <source>Clear all keywords</source>
+        <translation>Alle Stichwörter leeren</translation>
+    </message>
+    <message>
+        <source>Clear the creator</source>
+        <translation>Urheber leeren</translation>
+    </message>
+    <message>
+        <source>Clear the job title</source>
+        <translation>Berufsbezeichnung leeren</translation>
+    </message>
+    <message>
+        <source>Clear the address</source>
+        <translation>Anschrift leeren</translation>
+    </message>
+    <message>
+        <source>Clear the phone number</source>
+        <translation>Telefonnummer leeren</translation>
+    </message>
+    <message>
+        <source>Clear the email address</source>
+        <translation>E-Mail-Adresse leeren</translation>
+    </message>
+    <message>
+        <source>Clear the website</source>
+        <translation>Website leeren</translation>
+    </message>
+    <message>
+        <source>Clear the copyright</source>
+        <translation>Copyright leeren</translation>
+    </message>
+    <message>
+        <source>Clear the usage terms</source>
+        <translation>Nutzungsrechte leeren</translation>
+    </message>
+    <message>
+        <source>Clear the credit line</source>
+        <translation>Bildnachweis leeren</translation>
+    </message>
+    <message>
+        <source>Clear the source</source>
+        <translation>Quelle leeren</translation>
+    </message>
+    <message>
+        <source>Clear the instructions</source>
+        <translation>Anweisungen leeren</translation>
+    </message>
+    <message>
+        <source>Clear the job identifier</source>
+        <translation>Auftragsnummer leeren</translation>
+    </message>
+    <message>
+        <source>Clear the sublocation</source>
+        <translation>Ortsteil leeren</translation>
+    </message>
+    <message>
+        <source>Clear the city</source>
+        <translation>Stadt leeren</translation>
+    </message>
+    <message>
+        <source>Clear the state</source>
+        <translation>Bundesland leeren</translation>
+    </message>
+    <message>
+        <source>Clear the country</source>
+        <translation>Land leeren</translation>
+    </message>
+    <message>
+        <source>Clear the country code</source>
+        <translation>Ländercode leeren</translation>
+    </message>
+    <message>
+        <source>Clear the date taken</source>
+        <translation>Aufnahmedatum leeren</translation>
+    </message>
+    <message>
+        <source>Clear this field</source>
+        <translation>Dieses Feld leeren</translation>
+    </message>
+    <message>
+        <source>Properties and Comments…</source>
+        <translation>Eigenschaften und Kommentare…</translation>
+    </message>
+    <message>
+        <source>Show all properties of the current picture, and write comments</source>
+        <translation>Alle Eigenschaften des aktuellen Bildes zeigen und Kommentare schreiben</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>Pictures whose metadata is written</source>
+        <translation>Bilder, deren Metadaten geschrieben werden</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Werte</translation>
+    </message>
+    <message>
+        <source>Insert Value…</source>
+        <translation>Wert einfügen…</translation>
+    </message>
+    <message>
+        <source>Insert something that differs from picture to picture, such as its date</source>
+        <translation>Etwas einfügen, das von Bild zu Bild anders ist, etwa das Datum</translation>
+    </message>
+    <message>
+        <source>Separated by commas</source>
+        <translation>Durch Kommas getrennt</translation>
+    </message>
+    <message>
+        <source>These are</source>
+        <translation>Diese sind</translation>
+    </message>
+    <message>
+        <source>Whether keywords are added or replace all others</source>
+        <translation>Ob Stichwörter hinzukommen oder alle anderen ersetzen</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Keywords that are taken out, separated by commas</source>
+        <translation>Stichwörter, die entfernt werden, durch Kommas getrennt</translation>
+    </message>
+    <message>
+        <source>Several names are separated by semicolons</source>
+        <translation>Mehrere Namen durch Semikolons trennen</translation>
+    </message>
+    <message>
+        <source>2026-08-14 10:20:30+02:00</source>
+        <translation>2026-08-14 10:20:30+02:00</translation>
+    </message>
+    <message>
+        <source>Shift by</source>
+        <translation>Verschieben um</translation>
+    </message>
+    <message>
+        <source>Hours and minutes, such as +1:00 or −0:05:30</source>
+        <translation>Stunden und Minuten, etwa +1:00 oder −0:05:30</translation>
+    </message>
+    <message>
+        <source>Time zone</source>
+        <translation>Zeitzone</translation>
+    </message>
+    <message>
+        <source>Hours and minutes from Greenwich, such as +02:00</source>
+        <translation>Stunden und Minuten ab Greenwich, etwa +02:00</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>Liste</translation>
+    </message>
+    <message>
+        <source>Keyword List</source>
+        <translation>Stichwortliste</translation>
+    </message>
+    <message>
+        <source>The keywords that are offered while you type</source>
+        <translation>Die Stichwörter, die beim Tippen angeboten werden</translation>
+    </message>
+</context>
+<context>
+    <name>metadata-fields-pane</name>
+    <message>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>Creator and rights</source>
+        <translation>Urheber und Rechte</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Ort</translation>
+    </message>
+    <message>
+        <source>Date and rating</source>
+        <translation>Datum und Bewertung</translation>
+    </message>
+    <message>
+        <source>Remove private data</source>
+        <translation>Private Daten entfernen</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Selected</source>
+        <translation>Ausgewählte</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Hinzugefügt</translation>
+    </message>
+    <message>
+        <source>All there are</source>
+        <translation>Die einzigen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %n used</source>
+        <translation>
+            <numerusform>%1, %n verwendet</numerusform>
+            <numerusform>%1, %n verwendet</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>(cleared)</source>
+        <translation>(geleert)</translation>
+    </message>
+    <message>
+        <source>(several values)</source>
+        <translation>(mehrere Werte)</translation>
+    </message>
+    <message>
+        <source>Leave as it is</source>
+        <translation>So lassen</translation>
+    </message>
+    <message>
+        <source>Leave: %1</source>
+        <translation>Lassen: %1</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>EXIF, IPTC and XMP of %1 disagree. What is written makes them agree.</source>
+        <translation>EXIF, IPTC und XMP von %1 widersprechen sich. Was geschrieben wird, steht danach in allen gleich.</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importieren…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportieren…</translation>
+    </message>
+    <message>
+        <source>Clear List…</source>
+        <translation>Liste leeren…</translation>
+    </message>
+    <message>
+        <source>Import keywords</source>
+        <translation>Stichwörter importieren</translation>
+    </message>
+    <message>
+        <source>Export keywords</source>
+        <translation>Stichwörter exportieren</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>Stichwörter</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>%1 kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Clear keyword list</source>
+        <translation>Stichwortliste leeren</translation>
+    </message>
+    <message>
+        <source>Remove all keywords from the list?</source>
+        <translation>Alle Stichwörter aus der Liste entfernen?</translation>
+    </message>
+    <message>
+        <source>Your pictures are not changed.</source>
+        <translation>Ihre Bilder werden nicht geändert.</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Behalten</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n keywords imported</source>
+        <translation>
+            <numerusform>%n Stichwort importiert</numerusform>
+            <numerusform>%n Stichwörter importiert</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n keywords exported</source>
+        <translation>
+            <numerusform>%n Stichwort exportiert</numerusform>
+            <numerusform>%n Stichwörter exportiert</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>metadata-fields-step</name>
+    <message>
+        <source>%1 cleared</source>
+        <translation>%1 geleert</translation>
+    </message>
+    <message>
+        <source>%1 removed</source>
+        <translation>%1 entfernt</translation>
+    </message>
+    <message>
+        <source>without %1</source>
+        <translation>ohne %1</translation>
+    </message>
+    <message>
+        <source>Date taken: write it as 2026-08-14, 2026-08-14 10:20:30 or 2026-08-14 10:20:30+02:00.</source>
+        <translation>Aufnahmedatum: als 2026-08-14, 2026-08-14 10:20:30 oder 2026-08-14 10:20:30+02:00 schreiben.</translation>
+    </message>
+    <message>
+        <source>Shift: write hours and minutes, such as +1:00 or −0:05:30.</source>
+        <translation>Verschieben: Stunden und Minuten schreiben, etwa +1:00 oder −0:05:30.</translation>
+    </message>
+    <message>
+        <source>Time zone: write it as +02:00.</source>
+        <translation>Zeitzone: als +02:00 schreiben.</translation>
+    </message>
+    <message>
+        <source>A date taken that is set is not shifted: write its time zone behind it.</source>
+        <translation>Ein gesetztes Aufnahmedatum wird nicht verschoben: die Zeitzone dahinter schreiben.</translation>
+    </message>
+    <message>
+        <source>Country code: two or three letters, such as PT or PRT.</source>
+        <translation>Ländercode: zwei oder drei Buchstaben, etwa PT oder PRT.</translation>
+    </message>
+</context>
+<context>
+    <name>metadata-fields-presets</name>
+    <message>
+        <source>Copyright with the year of the picture</source>
+        <translation>Copyright mit dem Jahr des Bildes</translation>
+    </message>
+    <message>
+        <source>Headline from the name of the folder</source>
+        <translation>Überschrift aus dem Namen des Ordners</translation>
+    </message>
+    <message>
+        <source>Remove private data</source>
+        <translation>Private Daten entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>script::ProgramFiles</name>
+    <message>
+        <source>%1 cannot be written.</source>
+        <translation>%1 kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be removed.</source>
+        <translation>%1 kann nicht entfernt werden.</translation>
     </message>
 </context>
 </TS>

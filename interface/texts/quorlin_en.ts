@@ -1143,4 +1143,144 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>log-fields</name>
+    <message numerus="yes">
+        <source>Reverting: %n pictures so far</source>
+        <translation>
+            <numerusform>Reverting: %n picture so far</numerusform>
+            <numerusform>Reverting: %n pictures so far</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>field-reverting</name>
+    <message numerus="yes">
+        <source>%n pictures can be reverted.</source>
+        <translation>
+            <numerusform>%n picture can be reverted.</numerusform>
+            <numerusform>%n pictures can be reverted.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures reverted</source>
+        <translation>
+            <numerusform>%n picture reverted</numerusform>
+            <numerusform>%n pictures reverted</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n problems</source>
+        <translation>
+            <numerusform>%n problem</numerusform>
+            <numerusform>%n problems</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>field-run</name>
+    <message numerus="yes">
+        <source>Dry run: %n pictures would be changed</source>
+        <translation>
+            <numerusform>Dry run: %n picture would be changed</numerusform>
+            <numerusform>Dry run: %n pictures would be changed</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Write metadata into %n pictures?</source>
+        <translation>
+            <numerusform>Write metadata into %n picture?</numerusform>
+            <numerusform>Write metadata into %n pictures?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of them get it in a sidecar file beside them.</source>
+        <translation>
+            <numerusform>%n of them gets it in a sidecar file beside it.</numerusform>
+            <numerusform>%n of them get it in a sidecar file beside them.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more pictures: see their rows in the list.</source>
+        <translation>
+            <numerusform>%n more picture: see its row in the list.</numerusform>
+            <numerusform>%n more pictures: see their rows in the list.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures changed</source>
+        <translation>
+            <numerusform>%n picture changed</numerusform>
+            <numerusform>%n pictures changed</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n unchanged</source>
+        <translation>
+            <numerusform>%n unchanged</numerusform>
+            <numerusform>%n unchanged</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>fields</name>
+    <message numerus="yes">
+        <source>%n disagree with themselves</source>
+        <translation>
+            <numerusform>%n disagrees with itself</numerusform>
+            <numerusform>%n disagree with themselves</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sidecar files</source>
+        <translation>
+            <numerusform>%n sidecar file</numerusform>
+            <numerusform>%n sidecar files</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>metadata-fields-action</name>
+    <message numerus="yes">
+        <source>Write Metadata into %n Pictures</source>
+        <translation>
+            <numerusform>Write Metadata into %n Picture</numerusform>
+            <numerusform>Write Metadata into %n Pictures</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>metadata-fields-words</name>
+    <message numerus="yes">
+        <source>%n stars</source>
+        <translation>
+            <numerusform>%n star</numerusform>
+            <numerusform>%n stars</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>metadata-fields-pane</name>
+    <message numerus="yes">
+        <source>%1, %n used</source>
+        <translation>
+            <numerusform>%1, %n used</numerusform>
+            <numerusform>%1, %n used</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n keywords imported</source>
+        <translation>
+            <numerusform>%n keyword imported</numerusform>
+            <numerusform>%n keywords imported</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n keywords exported</source>
+        <translation>
+            <numerusform>%n keyword exported</numerusform>
+            <numerusform>%n keywords exported</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -1354,6 +1354,14 @@
         <source>Open the action of this run with its settings</source>
         <translation>Ouvrir l’action de ce traitement avec ses réglages</translation>
     </message>
+    <message>
+        <source>Forget Old Values</source>
+        <translation>Oublier les anciennes valeurs</translation>
+    </message>
+    <message>
+        <source>Delete the old metadata that is kept for reverting</source>
+        <translation>Supprimer les anciennes métadonnées gardées pour l’annulation</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -1962,6 +1970,14 @@
     <message>
         <source>Write comment and go to the next picture</source>
         <translation>Écrire le commentaire et passer à l’image suivante</translation>
+    </message>
+    <message>
+        <source>Edit Fields…</source>
+        <translation>Modifier les champs…</translation>
+    </message>
+    <message>
+        <source>Write titles, keywords, copyright and other fields of many pictures</source>
+        <translation>Écrire titres, mots-clés, copyright et autres champs de plusieurs images</translation>
     </message>
 </context>
 <context>
@@ -11851,6 +11867,977 @@
     <message>
         <source>A name cannot contain “/”.</source>
         <translation>Un nom ne peut pas contenir «&#x202f;/&#x202f;».</translation>
+    </message>
+</context>
+<context>
+    <name>log-fields</name>
+    <message>
+        <source>Forget old values</source>
+        <translation>Oublier les anciennes valeurs</translation>
+    </message>
+    <message>
+        <source>Delete the old metadata of this run (%1) for good?</source>
+        <translation>Supprimer définitivement les anciennes métadonnées de ce traitement (%1) ?</translation>
+    </message>
+    <message>
+        <source>The pictures are not changed. The run can then no longer be reverted.</source>
+        <translation>Les images ne changent pas. Le traitement ne pourra plus être annulé.</translation>
+    </message>
+    <message>
+        <source>Forget Old Values</source>
+        <translation>Oublier les anciennes valeurs</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Garder</translation>
+    </message>
+    <message>
+        <source>The old values are deleted.</source>
+        <translation>Les anciennes valeurs sont supprimées.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Reverting: %n pictures so far</source>
+        <translation>
+            <numerusform>Annulation : %n image jusqu’ici</numerusform>
+            <numerusform>Annulation : %n images jusqu’ici</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Stopped:</source>
+        <translation>Interrompu :</translation>
+    </message>
+</context>
+<context>
+    <name>field-run</name>
+    <message>
+        <source>Stopped:</source>
+        <translation>Interrompu :</translation>
+    </message>
+    <message>
+        <source>Cancelled before the first picture. Nothing was written.</source>
+        <translation>Annulé avant la première image. Rien n’a été écrit.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Dry run: %n pictures would be changed</source>
+        <translation>
+            <numerusform>Essai à blanc : %n image serait modifiée</numerusform>
+            <numerusform>Essai à blanc : %n images seraient modifiées</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>nothing was written</source>
+        <translation>rien n’a été écrit</translation>
+    </message>
+    <message>
+        <source>Cancelled. Nothing was written.</source>
+        <translation>Annulé. Rien n’a été écrit.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>Write metadata</source>
+        <translation>Écrire les métadonnées</translation>
+    </message>
+    <message numerus="yes">
+        <source>Write metadata into %n pictures?</source>
+        <translation>
+            <numerusform>Écrire les métadonnées dans %n image ?</numerusform>
+            <numerusform>Écrire les métadonnées dans %n images ?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This changes the metadata inside your originals. Their pictures are not touched.</source>
+        <translation>Cela modifie les métadonnées de vos originaux. Les images elles-mêmes ne changent pas.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of them get it in a sidecar file beside them.</source>
+        <translation>
+            <numerusform>%n d’entre elles les reçoit dans un fichier annexe.</numerusform>
+            <numerusform>%n d’entre elles les reçoivent dans un fichier annexe.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>EXIF, IPTC and XMP disagree:</source>
+        <translation>EXIF, IPTC et XMP se contredisent :</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more pictures: see their rows in the list.</source>
+        <translation>
+            <numerusform>%n autre image : voir sa ligne dans la liste.</numerusform>
+            <numerusform>%n autres images : voir leurs lignes dans la liste.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Write</source>
+        <translation>Écrire</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>en attente</translation>
+    </message>
+    <message>
+        <source>it says so already</source>
+        <translation>c’est déjà le cas</translation>
+    </message>
+    <message>
+        <source>in %1</source>
+        <translation>dans %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures changed</source>
+        <translation>
+            <numerusform>%n image modifiée</numerusform>
+            <numerusform>%n images modifiées</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n unchanged</source>
+        <translation>
+            <numerusform>%n inchangée</numerusform>
+            <numerusform>%n inchangées</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>Annuler l’écriture</translation>
+    </message>
+    <message>
+        <source>reverted</source>
+        <translation>rétablie</translation>
+    </message>
+</context>
+<context>
+    <name>field-plan</name>
+    <message>
+        <source>EXIF, IPTC and XMP disagree</source>
+        <translation>EXIF, IPTC et XMP se contredisent</translation>
+    </message>
+    <message>
+        <source>in a sidecar file</source>
+        <translation>dans un fichier annexe</translation>
+    </message>
+    <message>
+        <source>private data stays in files of this type</source>
+        <translation>les données privées restent dans ce type de fichier</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>prêt</translation>
+    </message>
+    <message>
+        <source>no change</source>
+        <translation>aucun changement</translation>
+    </message>
+    <message>
+        <source>not selected</source>
+        <translation>non sélectionnée</translation>
+    </message>
+</context>
+<context>
+    <name>field-reverting</name>
+    <message>
+        <source>Revert metadata</source>
+        <translation>Annuler les métadonnées</translation>
+    </message>
+    <message>
+        <source>Revert This Run</source>
+        <translation>Annuler ce traitement</translation>
+    </message>
+    <message>
+        <source>No old values are kept of this run.</source>
+        <translation>Aucune ancienne valeur n’est gardée pour ce traitement.</translation>
+    </message>
+    <message>
+        <source>Old values: %1.</source>
+        <translation>Anciennes valeurs : %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures can be reverted.</source>
+        <translation>
+            <numerusform>%n image peut être rétablie.</numerusform>
+            <numerusform>%n images peuvent être rétablies.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>All its pictures have already been reverted.</source>
+        <translation>Toutes ses images sont déjà rétablies.</translation>
+    </message>
+    <message>
+        <source>Metadata</source>
+        <translation>Métadonnées</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures reverted</source>
+        <translation>
+            <numerusform>%n image rétablie</numerusform>
+            <numerusform>%n images rétablies</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n problems</source>
+        <translation>
+            <numerusform>%n problème</numerusform>
+            <numerusform>%n problèmes</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>fields</name>
+    <message>
+        <source>Dry Run: %1</source>
+        <translation>Essai à blanc : %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n disagree with themselves</source>
+        <translation>
+            <numerusform>%n se contredit</numerusform>
+            <numerusform>%n se contredisent</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sidecar files</source>
+        <translation>
+            <numerusform>%n fichier annexe</numerusform>
+            <numerusform>%n fichiers annexes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>originals are changed, can be reverted</source>
+        <translation>les originaux changent, annulation possible</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Changement</translation>
+    </message>
+    <message>
+        <source>Dry run: write nothing</source>
+        <translation>Essai à blanc : ne rien écrire</translation>
+    </message>
+</context>
+<context>
+    <name>metadata-fields-action</name>
+    <message>
+        <source>Metadata</source>
+        <translation>Métadonnées</translation>
+    </message>
+    <message>
+        <source>Writing metadata</source>
+        <translation>Écriture des métadonnées</translation>
+    </message>
+    <message numerus="yes">
+        <source>Write Metadata into %n Pictures</source>
+        <translation>
+            <numerusform>Écrire les métadonnées dans %n image</numerusform>
+            <numerusform>Écrire les métadonnées dans %n images</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>metadata-fields-words</name>
+    <message>
+        <source>Title</source>
+        <translation>Titre</translation>
+    </message>
+    <message>
+        <source>Headline</source>
+        <translation>Titre court</translation>
+    </message>
+    <message>
+        <source>Caption</source>
+        <translation>Légende</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>Mots-clés</translation>
+    </message>
+    <message>
+        <source>Creator</source>
+        <translation>Auteur</translation>
+    </message>
+    <message>
+        <source>Job title</source>
+        <translation>Fonction</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>Phone</source>
+        <translation>Téléphone</translation>
+    </message>
+    <message>
+        <source>Email</source>
+        <translation>E-mail</translation>
+    </message>
+    <message>
+        <source>Website</source>
+        <translation>Site web</translation>
+    </message>
+    <message>
+        <source>Copyright</source>
+        <translation>Copyright</translation>
+    </message>
+    <message>
+        <source>Usage terms</source>
+        <translation>Conditions</translation>
+    </message>
+    <message>
+        <source>Credit line</source>
+        <translation>Crédit</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Source</translation>
+    </message>
+    <message>
+        <source>Instructions</source>
+        <translation>Instructions</translation>
+    </message>
+    <message>
+        <source>Job identifier</source>
+        <translation>Référence</translation>
+    </message>
+    <message>
+        <source>Sublocation</source>
+        <translation>Lieu précis</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>Ville</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Région</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Pays</translation>
+    </message>
+    <message>
+        <source>Country code</source>
+        <translation>Code du pays</translation>
+    </message>
+    <message>
+        <source>Date taken</source>
+        <translation>Prise de vue</translation>
+    </message>
+    <message>
+        <source>Rating</source>
+        <translation>Note</translation>
+    </message>
+    <message>
+        <source>Colour label</source>
+        <translation>Étiquette</translation>
+    </message>
+    <message>
+        <source>Places</source>
+        <translation>Lieux</translation>
+    </message>
+    <message>
+        <source>Serial numbers</source>
+        <translation>Numéros de série</translation>
+    </message>
+    <message>
+        <source>Owner and computer names</source>
+        <translation>Noms du propriétaire et de l’ordinateur</translation>
+    </message>
+    <message>
+        <source>Face regions</source>
+        <translation>Zones de visages</translation>
+    </message>
+    <message>
+        <source>Maker notes</source>
+        <translation>Notes du fabricant</translation>
+    </message>
+    <message>
+        <source>Embedded thumbnails</source>
+        <translation>Vignettes intégrées</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rouge</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Jaune</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Vert</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Bleu</translation>
+    </message>
+    <message>
+        <source>Purple</source>
+        <translation>Violet</translation>
+    </message>
+    <message>
+        <source>Rejected</source>
+        <translation>Rejetée</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>rien</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>%1: “%2”</source>
+        <translation>%1 : « %2 »</translation>
+    </message>
+    <message>
+        <source>%1: “%2” → “%3”</source>
+        <translation>%1 : « %2 » → « %3 »</translation>
+    </message>
+    <message>
+        <source>%1: cleared, was “%2”</source>
+        <translation>%1 : effacé, était « %2 »</translation>
+    </message>
+    <message>
+        <source>%1: EXIF %2, IPTC %3, XMP %4</source>
+        <translation>%1 : EXIF %2, IPTC %3, XMP %4</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stars</source>
+        <translation>
+            <numerusform>%n étoile</numerusform>
+            <numerusform>%n étoiles</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>FieldsPane</name>
+    <message>
+        <source>Title</source>
+        <translation>Titre</translation>
+    </message>
+    <message>
+        <source>Headline</source>
+        <translation>Titre court</translation>
+    </message>
+    <message>
+        <source>Caption</source>
+        <translation>Légende</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>Mots-clés</translation>
+    </message>
+    <message>
+        <source>Creator</source>
+        <translation>Auteur</translation>
+    </message>
+    <message>
+        <source>Job title</source>
+        <translation>Fonction</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>Phone</source>
+        <translation>Téléphone</translation>
+    </message>
+    <message>
+        <source>Email</source>
+        <translation>E-mail</translation>
+    </message>
+    <message>
+        <source>Website</source>
+        <translation>Site web</translation>
+    </message>
+    <message>
+        <source>Copyright</source>
+        <translation>Copyright</translation>
+    </message>
+    <message>
+        <source>Usage terms</source>
+        <translation>Conditions</translation>
+    </message>
+    <message>
+        <source>Credit line</source>
+        <translation>Crédit</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Source</translation>
+    </message>
+    <message>
+        <source>Instructions</source>
+        <translation>Instructions</translation>
+    </message>
+    <message>
+        <source>Job identifier</source>
+        <translation>Référence</translation>
+    </message>
+    <message>
+        <source>Sublocation</source>
+        <translation>Lieu précis</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>Ville</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Région</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Pays</translation>
+    </message>
+    <message>
+        <source>Country code</source>
+        <translation>Code du pays</translation>
+    </message>
+    <message>
+        <source>Date taken</source>
+        <translation>Prise de vue</translation>
+    </message>
+    <message>
+        <source>Rating</source>
+        <translation>Note</translation>
+    </message>
+    <message>
+        <source>Colour label</source>
+        <translation>Étiquette</translation>
+    </message>
+    <message>
+        <source>Places</source>
+        <translation>Lieux</translation>
+    </message>
+    <message>
+        <source>Serial numbers</source>
+        <translation>Numéros de série</translation>
+    </message>
+    <message>
+        <source>Owner and computer names</source>
+        <translation>Noms du propriétaire et de l’ordinateur</translation>
+    </message>
+    <message>
+        <source>Face regions</source>
+        <translation>Zones de visages</translation>
+    </message>
+    <message>
+        <source>Maker notes</source>
+        <translation>Notes du fabricant</translation>
+    </message>
+    <message>
+        <source>Embedded thumbnails</source>
+        <translation>Vignettes intégrées</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Description</translation>
+    </message>
+    <message>
+        <source>Creator and rights</source>
+        <translation>Auteur et droits</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Lieu</translation>
+    </message>
+    <message>
+        <source>Date and rating</source>
+        <translation>Date et note</translation>
+    </message>
+    <message>
+        <source>Remove private data</source>
+        <translation>Supprimer les données privées</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Toutes</translation>
+    </message>
+    <message>
+        <source>Selected</source>
+        <translation>Sélection</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Ajoutés</translation>
+    </message>
+    <message>
+        <source>All there are</source>
+        <translation>Les seuls</translation>
+    </message>
+    <message>
+        <source>Clear the title</source>
+        <translation>Effacer le titre</translation>
+    </message>
+    <message>
+        <source>Clear the headline</source>
+        <translation>Effacer le titre court</translation>
+    </message>
+    <message>
+        <source>Clear the caption</source>
+        <translation>Effacer la légende</translation>
+    </message>
+    <message>
+        <source>Clear all keywords</source>
+        <translation>Effacer tous les mots-clés</translation>
+    </message>
+    <message>
+        <source>Clear the creator</source>
+        <translation>Effacer l’auteur</translation>
+    </message>
+    <message>
+        <source>Clear the job title</source>
+        <translation>Effacer la fonction</translation>
+    </message>
+    <message>
+        <source>Clear the address</source>
+        <translation>Effacer l’adresse</translation>
+    </message>
+    <message>
+        <source>Clear the phone number</source>
+        <translation>Effacer le téléphone</translation>
+    </message>
+    <message>
+        <source>Clear the email address</source>
+        <translation>Effacer l’adresse e-mail</translation>
+    </message>
+    <message>
+        <source>Clear the website</source>
+        <translation>Effacer le site web</translation>
+    </message>
+    <message>
+        <source>Clear the copyright</source>
+        <translation>Effacer le copyright</translation>
+    </message>
+    <message>
+        <source>Clear the usage terms</source>
+        <translation>Effacer les conditions</translation>
+    </message>
+    <message>
+        <source>Clear the credit line</source>
+        <translation>Effacer le crédit</translation>
+    </message>
+    <message>
+        <source>Clear the source</source>
+        <translation>Effacer la source</translation>
+    </message>
+    <message>
+        <source>Clear the instructions</source>
+        <translation>Effacer les instructions</translation>
+    </message>
+    <message>
+        <source>Clear the job identifier</source>
+        <translation>Effacer la référence</translation>
+    </message>
+    <message>
+        <source>Clear the sublocation</source>
+        <translation>Effacer le lieu précis</translation>
+    </message>
+    <message>
+        <source>Clear the city</source>
+        <translation>Effacer la ville</translation>
+    </message>
+    <message>
+        <source>Clear the state</source>
+        <translation>Effacer la région</translation>
+    </message>
+    <message>
+        <source>Clear the country</source>
+        <translation>Effacer le pays</translation>
+    </message>
+    <message>
+        <source>Clear the country code</source>
+        <translation>Effacer le code du pays</translation>
+    </message>
+    <message>
+        <source>Clear the date taken</source>
+        <translation>Effacer la date de prise de vue</translation>
+    </message>
+    <message>
+        <source>Clear this field</source>
+        <translation>Effacer ce champ</translation>
+    </message>
+    <message>
+        <source>Properties and Comments…</source>
+        <translation>Propriétés et commentaires…</translation>
+    </message>
+    <message>
+        <source>Show all properties of the current picture, and write comments</source>
+        <translation>Montrer toutes les propriétés de l’image actuelle et écrire des commentaires</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Images</translation>
+    </message>
+    <message>
+        <source>Pictures whose metadata is written</source>
+        <translation>Images dont les métadonnées sont écrites</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Valeurs</translation>
+    </message>
+    <message>
+        <source>Insert Value…</source>
+        <translation>Insérer une valeur…</translation>
+    </message>
+    <message>
+        <source>Insert something that differs from picture to picture, such as its date</source>
+        <translation>Insérer ce qui change d’une image à l’autre, comme la date</translation>
+    </message>
+    <message>
+        <source>Separated by commas</source>
+        <translation>Séparés par des virgules</translation>
+    </message>
+    <message>
+        <source>These are</source>
+        <translation>Ils sont</translation>
+    </message>
+    <message>
+        <source>Whether keywords are added or replace all others</source>
+        <translation>Si les mots-clés s’ajoutent ou remplacent tous les autres</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <source>Keywords that are taken out, separated by commas</source>
+        <translation>Mots-clés à retirer, séparés par des virgules</translation>
+    </message>
+    <message>
+        <source>Several names are separated by semicolons</source>
+        <translation>Séparer plusieurs noms par des points-virgules</translation>
+    </message>
+    <message>
+        <source>2026-08-14 10:20:30+02:00</source>
+        <translation>2026-08-14 10:20:30+02:00</translation>
+    </message>
+    <message>
+        <source>Shift by</source>
+        <translation>Décaler de</translation>
+    </message>
+    <message>
+        <source>Hours and minutes, such as +1:00 or −0:05:30</source>
+        <translation>Heures et minutes, comme +1:00 ou −0:05:30</translation>
+    </message>
+    <message>
+        <source>Time zone</source>
+        <translation>Fuseau horaire</translation>
+    </message>
+    <message>
+        <source>Hours and minutes from Greenwich, such as +02:00</source>
+        <translation>Heures et minutes depuis Greenwich, comme +02:00</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>Liste</translation>
+    </message>
+    <message>
+        <source>Keyword List</source>
+        <translation>Liste de mots-clés</translation>
+    </message>
+    <message>
+        <source>The keywords that are offered while you type</source>
+        <translation>Les mots-clés proposés pendant la saisie</translation>
+    </message>
+</context>
+<context>
+    <name>metadata-fields-pane</name>
+    <message>
+        <source>Description</source>
+        <translation>Description</translation>
+    </message>
+    <message>
+        <source>Creator and rights</source>
+        <translation>Auteur et droits</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Lieu</translation>
+    </message>
+    <message>
+        <source>Date and rating</source>
+        <translation>Date et note</translation>
+    </message>
+    <message>
+        <source>Remove private data</source>
+        <translation>Supprimer les données privées</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Toutes</translation>
+    </message>
+    <message>
+        <source>Selected</source>
+        <translation>Sélection</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Ajoutés</translation>
+    </message>
+    <message>
+        <source>All there are</source>
+        <translation>Les seuls</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %n used</source>
+        <translation>
+            <numerusform>%1, %n utilisé</numerusform>
+            <numerusform>%1, %n utilisés</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>(cleared)</source>
+        <translation>(effacé)</translation>
+    </message>
+    <message>
+        <source>(several values)</source>
+        <translation>(plusieurs valeurs)</translation>
+    </message>
+    <message>
+        <source>Leave as it is</source>
+        <translation>Laisser tel quel</translation>
+    </message>
+    <message>
+        <source>Leave: %1</source>
+        <translation>Laisser : %1</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Effacer</translation>
+    </message>
+    <message>
+        <source>EXIF, IPTC and XMP of %1 disagree. What is written makes them agree.</source>
+        <translation>EXIF, IPTC et XMP de %1 se contredisent. Ce qui est écrit les met d’accord.</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importer…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exporter…</translation>
+    </message>
+    <message>
+        <source>Clear List…</source>
+        <translation>Vider la liste…</translation>
+    </message>
+    <message>
+        <source>Import keywords</source>
+        <translation>Importer des mots-clés</translation>
+    </message>
+    <message>
+        <source>Export keywords</source>
+        <translation>Exporter les mots-clés</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>Mots-clés</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>%1 ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>Clear keyword list</source>
+        <translation>Vider la liste de mots-clés</translation>
+    </message>
+    <message>
+        <source>Remove all keywords from the list?</source>
+        <translation>Retirer tous les mots-clés de la liste ?</translation>
+    </message>
+    <message>
+        <source>Your pictures are not changed.</source>
+        <translation>Vos images ne changent pas.</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Garder</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n keywords imported</source>
+        <translation>
+            <numerusform>%n mot-clé importé</numerusform>
+            <numerusform>%n mots-clés importés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n keywords exported</source>
+        <translation>
+            <numerusform>%n mot-clé exporté</numerusform>
+            <numerusform>%n mots-clés exportés</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>metadata-fields-step</name>
+    <message>
+        <source>%1 cleared</source>
+        <translation>%1 effacé</translation>
+    </message>
+    <message>
+        <source>%1 removed</source>
+        <translation>%1 supprimé</translation>
+    </message>
+    <message>
+        <source>without %1</source>
+        <translation>sans %1</translation>
+    </message>
+    <message>
+        <source>Date taken: write it as 2026-08-14, 2026-08-14 10:20:30 or 2026-08-14 10:20:30+02:00.</source>
+        <translation>Prise de vue : écrivez 2026-08-14, 2026-08-14 10:20:30 ou 2026-08-14 10:20:30+02:00.</translation>
+    </message>
+    <message>
+        <source>Shift: write hours and minutes, such as +1:00 or −0:05:30.</source>
+        <translation>Décalage : écrivez heures et minutes, comme +1:00 ou −0:05:30.</translation>
+    </message>
+    <message>
+        <source>Time zone: write it as +02:00.</source>
+        <translation>Fuseau horaire : écrivez +02:00.</translation>
+    </message>
+    <message>
+        <source>A date taken that is set is not shifted: write its time zone behind it.</source>
+        <translation>Une date fixée n’est pas décalée : écrivez son fuseau horaire à la suite.</translation>
+    </message>
+    <message>
+        <source>Country code: two or three letters, such as PT or PRT.</source>
+        <translation>Code du pays : deux ou trois lettres, comme PT ou PRT.</translation>
+    </message>
+</context>
+<context>
+    <name>metadata-fields-presets</name>
+    <message>
+        <source>Copyright with the year of the picture</source>
+        <translation>Copyright avec l’année de l’image</translation>
+    </message>
+    <message>
+        <source>Headline from the name of the folder</source>
+        <translation>Titre court d’après le nom du dossier</translation>
+    </message>
+    <message>
+        <source>Remove private data</source>
+        <translation>Supprimer les données privées</translation>
+    </message>
+</context>
+<context>
+    <name>script::ProgramFiles</name>
+    <message>
+        <source>%1 cannot be written.</source>
+        <translation>%1 ne peut pas être écrit.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be removed.</source>
+        <translation>%1 ne peut pas être supprimé.</translation>
     </message>
 </context>
 </TS>

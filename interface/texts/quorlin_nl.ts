@@ -1354,6 +1354,14 @@
         <source>Open the action of this run with its settings</source>
         <translation>De actie van deze opdracht openen met de instellingen ervan</translation>
     </message>
+    <message>
+        <source>Forget Old Values</source>
+        <translation>Oude waarden vergeten</translation>
+    </message>
+    <message>
+        <source>Delete the old metadata that is kept for reverting</source>
+        <translation>De oude metadata wissen die voor het terugdraaien wordt bewaard</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -1962,6 +1970,14 @@
     <message>
         <source>Write comment and go to the next picture</source>
         <translation>Opmerking schrijven en naar de volgende foto</translation>
+    </message>
+    <message>
+        <source>Edit Fields…</source>
+        <translation>Velden bewerken…</translation>
+    </message>
+    <message>
+        <source>Write titles, keywords, copyright and other fields of many pictures</source>
+        <translation>Titels, trefwoorden, copyright en andere velden van veel foto’s schrijven</translation>
     </message>
 </context>
 <context>
@@ -11851,6 +11867,977 @@
     <message>
         <source>A name cannot contain “/”.</source>
         <translation>Een naam mag geen “/” bevatten.</translation>
+    </message>
+</context>
+<context>
+    <name>log-fields</name>
+    <message>
+        <source>Forget old values</source>
+        <translation>Oude waarden vergeten</translation>
+    </message>
+    <message>
+        <source>Delete the old metadata of this run (%1) for good?</source>
+        <translation>De oude metadata van deze opdracht (%1) definitief wissen?</translation>
+    </message>
+    <message>
+        <source>The pictures are not changed. The run can then no longer be reverted.</source>
+        <translation>De foto’s veranderen niet. De opdracht kan daarna niet meer worden teruggedraaid.</translation>
+    </message>
+    <message>
+        <source>Forget Old Values</source>
+        <translation>Oude waarden vergeten</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Behouden</translation>
+    </message>
+    <message>
+        <source>The old values are deleted.</source>
+        <translation>De oude waarden zijn gewist.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Reverting: %n pictures so far</source>
+        <translation>
+            <numerusform>Terugdraaien: %n foto tot nu toe</numerusform>
+            <numerusform>Terugdraaien: %n foto’s tot nu toe</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Stopped:</source>
+        <translation>Gestopt:</translation>
+    </message>
+</context>
+<context>
+    <name>field-run</name>
+    <message>
+        <source>Stopped:</source>
+        <translation>Gestopt:</translation>
+    </message>
+    <message>
+        <source>Cancelled before the first picture. Nothing was written.</source>
+        <translation>Geannuleerd vóór de eerste foto. Er is niets geschreven.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Dry run: %n pictures would be changed</source>
+        <translation>
+            <numerusform>Proefrun: %n foto zou worden gewijzigd</numerusform>
+            <numerusform>Proefrun: %n foto’s zouden worden gewijzigd</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>nothing was written</source>
+        <translation>er is niets geschreven</translation>
+    </message>
+    <message>
+        <source>Cancelled. Nothing was written.</source>
+        <translation>Geannuleerd. Er is niets geschreven.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Write metadata</source>
+        <translation>Metadata schrijven</translation>
+    </message>
+    <message numerus="yes">
+        <source>Write metadata into %n pictures?</source>
+        <translation>
+            <numerusform>Metadata in %n foto schrijven?</numerusform>
+            <numerusform>Metadata in %n foto’s schrijven?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This changes the metadata inside your originals. Their pictures are not touched.</source>
+        <translation>Dit wijzigt de metadata in uw originelen. De beelden zelf blijven onaangeroerd.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of them get it in a sidecar file beside them.</source>
+        <translation>
+            <numerusform>%n daarvan krijgt ze in een sidecarbestand ernaast.</numerusform>
+            <numerusform>%n daarvan krijgen ze in een sidecarbestand ernaast.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>EXIF, IPTC and XMP disagree:</source>
+        <translation>EXIF, IPTC en XMP spreken elkaar tegen:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more pictures: see their rows in the list.</source>
+        <translation>
+            <numerusform>Nog %n foto: zie de rij in de lijst.</numerusform>
+            <numerusform>Nog %n foto’s: zie hun rijen in de lijst.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Write</source>
+        <translation>Schrijven</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>wacht</translation>
+    </message>
+    <message>
+        <source>it says so already</source>
+        <translation>staat er al</translation>
+    </message>
+    <message>
+        <source>in %1</source>
+        <translation>in %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures changed</source>
+        <translation>
+            <numerusform>%n foto gewijzigd</numerusform>
+            <numerusform>%n foto’s gewijzigd</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n unchanged</source>
+        <translation>
+            <numerusform>%n ongewijzigd</numerusform>
+            <numerusform>%n ongewijzigd</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Revert</source>
+        <translation>Terugdraaien</translation>
+    </message>
+    <message>
+        <source>reverted</source>
+        <translation>teruggedraaid</translation>
+    </message>
+</context>
+<context>
+    <name>field-plan</name>
+    <message>
+        <source>EXIF, IPTC and XMP disagree</source>
+        <translation>EXIF, IPTC en XMP spreken elkaar tegen</translation>
+    </message>
+    <message>
+        <source>in a sidecar file</source>
+        <translation>in een sidecarbestand</translation>
+    </message>
+    <message>
+        <source>private data stays in files of this type</source>
+        <translation>privégegevens blijven in bestanden van dit type</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>gereed</translation>
+    </message>
+    <message>
+        <source>no change</source>
+        <translation>geen wijziging</translation>
+    </message>
+    <message>
+        <source>not selected</source>
+        <translation>niet geselecteerd</translation>
+    </message>
+</context>
+<context>
+    <name>field-reverting</name>
+    <message>
+        <source>Revert metadata</source>
+        <translation>Metadata terugdraaien</translation>
+    </message>
+    <message>
+        <source>Revert This Run</source>
+        <translation>Opdracht terugdraaien</translation>
+    </message>
+    <message>
+        <source>No old values are kept of this run.</source>
+        <translation>Van deze opdracht zijn geen oude waarden bewaard.</translation>
+    </message>
+    <message>
+        <source>Old values: %1.</source>
+        <translation>Oude waarden: %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures can be reverted.</source>
+        <translation>
+            <numerusform>%n foto kan worden teruggedraaid.</numerusform>
+            <numerusform>%n foto’s kunnen worden teruggedraaid.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>All its pictures have already been reverted.</source>
+        <translation>Alle foto’s zijn al teruggedraaid.</translation>
+    </message>
+    <message>
+        <source>Metadata</source>
+        <translation>Metadata</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures reverted</source>
+        <translation>
+            <numerusform>%n foto teruggedraaid</numerusform>
+            <numerusform>%n foto’s teruggedraaid</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n problems</source>
+        <translation>
+            <numerusform>%n probleem</numerusform>
+            <numerusform>%n problemen</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>fields</name>
+    <message>
+        <source>Dry Run: %1</source>
+        <translation>Proefrun: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n disagree with themselves</source>
+        <translation>
+            <numerusform>%n spreekt zichzelf tegen</numerusform>
+            <numerusform>%n spreken zichzelf tegen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sidecar files</source>
+        <translation>
+            <numerusform>%n sidecarbestand</numerusform>
+            <numerusform>%n sidecarbestanden</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>originals are changed, can be reverted</source>
+        <translation>originelen worden gewijzigd, kan worden teruggedraaid</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Wijziging</translation>
+    </message>
+    <message>
+        <source>Dry run: write nothing</source>
+        <translation>Proefrun: niets schrijven</translation>
+    </message>
+</context>
+<context>
+    <name>metadata-fields-action</name>
+    <message>
+        <source>Metadata</source>
+        <translation>Metadata</translation>
+    </message>
+    <message>
+        <source>Writing metadata</source>
+        <translation>Metadata schrijven</translation>
+    </message>
+    <message numerus="yes">
+        <source>Write Metadata into %n Pictures</source>
+        <translation>
+            <numerusform>Metadata in %n foto schrijven</numerusform>
+            <numerusform>Metadata in %n foto’s schrijven</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>metadata-fields-words</name>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Headline</source>
+        <translation>Kop</translation>
+    </message>
+    <message>
+        <source>Caption</source>
+        <translation>Bijschrift</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>Trefwoorden</translation>
+    </message>
+    <message>
+        <source>Creator</source>
+        <translation>Maker</translation>
+    </message>
+    <message>
+        <source>Job title</source>
+        <translation>Functie</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adres</translation>
+    </message>
+    <message>
+        <source>Phone</source>
+        <translation>Telefoon</translation>
+    </message>
+    <message>
+        <source>Email</source>
+        <translation>E-mail</translation>
+    </message>
+    <message>
+        <source>Website</source>
+        <translation>Website</translation>
+    </message>
+    <message>
+        <source>Copyright</source>
+        <translation>Copyright</translation>
+    </message>
+    <message>
+        <source>Usage terms</source>
+        <translation>Gebruiksrechten</translation>
+    </message>
+    <message>
+        <source>Credit line</source>
+        <translation>Fotocredit</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Bron</translation>
+    </message>
+    <message>
+        <source>Instructions</source>
+        <translation>Instructies</translation>
+    </message>
+    <message>
+        <source>Job identifier</source>
+        <translation>Opdrachtcode</translation>
+    </message>
+    <message>
+        <source>Sublocation</source>
+        <translation>Sublocatie</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>Plaats</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Provincie</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Land</translation>
+    </message>
+    <message>
+        <source>Country code</source>
+        <translation>Landcode</translation>
+    </message>
+    <message>
+        <source>Date taken</source>
+        <translation>Opnamedatum</translation>
+    </message>
+    <message>
+        <source>Rating</source>
+        <translation>Waardering</translation>
+    </message>
+    <message>
+        <source>Colour label</source>
+        <translation>Kleurlabel</translation>
+    </message>
+    <message>
+        <source>Places</source>
+        <translation>Plaatsen</translation>
+    </message>
+    <message>
+        <source>Serial numbers</source>
+        <translation>Serienummers</translation>
+    </message>
+    <message>
+        <source>Owner and computer names</source>
+        <translation>Namen van eigenaar en computer</translation>
+    </message>
+    <message>
+        <source>Face regions</source>
+        <translation>Gezichtsgebieden</translation>
+    </message>
+    <message>
+        <source>Maker notes</source>
+        <translation>Fabrikantnotities</translation>
+    </message>
+    <message>
+        <source>Embedded thumbnails</source>
+        <translation>Ingesloten miniaturen</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rood</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Geel</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Groen</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blauw</translation>
+    </message>
+    <message>
+        <source>Purple</source>
+        <translation>Paars</translation>
+    </message>
+    <message>
+        <source>Rejected</source>
+        <translation>Afgewezen</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>niets</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1: “%2”</source>
+        <translation>%1: ‘%2’</translation>
+    </message>
+    <message>
+        <source>%1: “%2” → “%3”</source>
+        <translation>%1: ‘%2’ → ‘%3’</translation>
+    </message>
+    <message>
+        <source>%1: cleared, was “%2”</source>
+        <translation>%1: leeggemaakt, was ‘%2’</translation>
+    </message>
+    <message>
+        <source>%1: EXIF %2, IPTC %3, XMP %4</source>
+        <translation>%1: EXIF %2, IPTC %3, XMP %4</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stars</source>
+        <translation>
+            <numerusform>%n ster</numerusform>
+            <numerusform>%n sterren</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>FieldsPane</name>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Headline</source>
+        <translation>Kop</translation>
+    </message>
+    <message>
+        <source>Caption</source>
+        <translation>Bijschrift</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>Trefwoorden</translation>
+    </message>
+    <message>
+        <source>Creator</source>
+        <translation>Maker</translation>
+    </message>
+    <message>
+        <source>Job title</source>
+        <translation>Functie</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adres</translation>
+    </message>
+    <message>
+        <source>Phone</source>
+        <translation>Telefoon</translation>
+    </message>
+    <message>
+        <source>Email</source>
+        <translation>E-mail</translation>
+    </message>
+    <message>
+        <source>Website</source>
+        <translation>Website</translation>
+    </message>
+    <message>
+        <source>Copyright</source>
+        <translation>Copyright</translation>
+    </message>
+    <message>
+        <source>Usage terms</source>
+        <translation>Gebruiksrechten</translation>
+    </message>
+    <message>
+        <source>Credit line</source>
+        <translation>Fotocredit</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Bron</translation>
+    </message>
+    <message>
+        <source>Instructions</source>
+        <translation>Instructies</translation>
+    </message>
+    <message>
+        <source>Job identifier</source>
+        <translation>Opdrachtcode</translation>
+    </message>
+    <message>
+        <source>Sublocation</source>
+        <translation>Sublocatie</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>Plaats</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Provincie</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Land</translation>
+    </message>
+    <message>
+        <source>Country code</source>
+        <translation>Landcode</translation>
+    </message>
+    <message>
+        <source>Date taken</source>
+        <translation>Opnamedatum</translation>
+    </message>
+    <message>
+        <source>Rating</source>
+        <translation>Waardering</translation>
+    </message>
+    <message>
+        <source>Colour label</source>
+        <translation>Kleurlabel</translation>
+    </message>
+    <message>
+        <source>Places</source>
+        <translation>Plaatsen</translation>
+    </message>
+    <message>
+        <source>Serial numbers</source>
+        <translation>Serienummers</translation>
+    </message>
+    <message>
+        <source>Owner and computer names</source>
+        <translation>Namen van eigenaar en computer</translation>
+    </message>
+    <message>
+        <source>Face regions</source>
+        <translation>Gezichtsgebieden</translation>
+    </message>
+    <message>
+        <source>Maker notes</source>
+        <translation>Fabrikantnotities</translation>
+    </message>
+    <message>
+        <source>Embedded thumbnails</source>
+        <translation>Ingesloten miniaturen</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Beschrijving</translation>
+    </message>
+    <message>
+        <source>Creator and rights</source>
+        <translation>Maker en rechten</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Plaats</translation>
+    </message>
+    <message>
+        <source>Date and rating</source>
+        <translation>Datum en waardering</translation>
+    </message>
+    <message>
+        <source>Remove private data</source>
+        <translation>Privégegevens verwijderen</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Selected</source>
+        <translation>Geselecteerd</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Toegevoegd</translation>
+    </message>
+    <message>
+        <source>All there are</source>
+        <translation>De enige</translation>
+    </message>
+    <message>
+        <source>Clear the title</source>
+        <translation>Titel leegmaken</translation>
+    </message>
+    <message>
+        <source>Clear the headline</source>
+        <translation>Kop leegmaken</translation>
+    </message>
+    <message>
+        <source>Clear the caption</source>
+        <translation>Bijschrift leegmaken</translation>
+    </message>
+    <message>
+        <source>Clear all keywords</source>
+        <translation>Alle trefwoorden leegmaken</translation>
+    </message>
+    <message>
+        <source>Clear the creator</source>
+        <translation>Maker leegmaken</translation>
+    </message>
+    <message>
+        <source>Clear the job title</source>
+        <translation>Functie leegmaken</translation>
+    </message>
+    <message>
+        <source>Clear the address</source>
+        <translation>Adres leegmaken</translation>
+    </message>
+    <message>
+        <source>Clear the phone number</source>
+        <translation>Telefoonnummer leegmaken</translation>
+    </message>
+    <message>
+        <source>Clear the email address</source>
+        <translation>E-mailadres leegmaken</translation>
+    </message>
+    <message>
+        <source>Clear the website</source>
+        <translation>Website leegmaken</translation>
+    </message>
+    <message>
+        <source>Clear the copyright</source>
+        <translation>Copyright leegmaken</translation>
+    </message>
+    <message>
+        <source>Clear the usage terms</source>
+        <translation>Gebruiksrechten leegmaken</translation>
+    </message>
+    <message>
+        <source>Clear the credit line</source>
+        <translation>Fotocredit leegmaken</translation>
+    </message>
+    <message>
+        <source>Clear the source</source>
+        <translation>Bron leegmaken</translation>
+    </message>
+    <message>
+        <source>Clear the instructions</source>
+        <translation>Instructies leegmaken</translation>
+    </message>
+    <message>
+        <source>Clear the job identifier</source>
+        <translation>Opdrachtcode leegmaken</translation>
+    </message>
+    <message>
+        <source>Clear the sublocation</source>
+        <translation>Sublocatie leegmaken</translation>
+    </message>
+    <message>
+        <source>Clear the city</source>
+        <translation>Plaats leegmaken</translation>
+    </message>
+    <message>
+        <source>Clear the state</source>
+        <translation>Provincie leegmaken</translation>
+    </message>
+    <message>
+        <source>Clear the country</source>
+        <translation>Land leegmaken</translation>
+    </message>
+    <message>
+        <source>Clear the country code</source>
+        <translation>Landcode leegmaken</translation>
+    </message>
+    <message>
+        <source>Clear the date taken</source>
+        <translation>Opnamedatum leegmaken</translation>
+    </message>
+    <message>
+        <source>Clear this field</source>
+        <translation>Dit veld leegmaken</translation>
+    </message>
+    <message>
+        <source>Properties and Comments…</source>
+        <translation>Eigenschappen en opmerkingen…</translation>
+    </message>
+    <message>
+        <source>Show all properties of the current picture, and write comments</source>
+        <translation>Alle eigenschappen van de huidige foto tonen en opmerkingen schrijven</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Foto’s</translation>
+    </message>
+    <message>
+        <source>Pictures whose metadata is written</source>
+        <translation>Foto’s waarvan de metadata wordt geschreven</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Waarden</translation>
+    </message>
+    <message>
+        <source>Insert Value…</source>
+        <translation>Waarde invoegen…</translation>
+    </message>
+    <message>
+        <source>Insert something that differs from picture to picture, such as its date</source>
+        <translation>Iets invoegen dat per foto verschilt, zoals de datum</translation>
+    </message>
+    <message>
+        <source>Separated by commas</source>
+        <translation>Gescheiden door komma’s</translation>
+    </message>
+    <message>
+        <source>These are</source>
+        <translation>Deze zijn</translation>
+    </message>
+    <message>
+        <source>Whether keywords are added or replace all others</source>
+        <translation>Of trefwoorden worden toegevoegd of alle andere vervangen</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Verwijderen</translation>
+    </message>
+    <message>
+        <source>Keywords that are taken out, separated by commas</source>
+        <translation>Trefwoorden die worden verwijderd, gescheiden door komma’s</translation>
+    </message>
+    <message>
+        <source>Several names are separated by semicolons</source>
+        <translation>Meerdere namen met puntkomma’s scheiden</translation>
+    </message>
+    <message>
+        <source>2026-08-14 10:20:30+02:00</source>
+        <translation>2026-08-14 10:20:30+02:00</translation>
+    </message>
+    <message>
+        <source>Shift by</source>
+        <translation>Verschuiven met</translation>
+    </message>
+    <message>
+        <source>Hours and minutes, such as +1:00 or −0:05:30</source>
+        <translation>Uren en minuten, zoals +1:00 of −0:05:30</translation>
+    </message>
+    <message>
+        <source>Time zone</source>
+        <translation>Tijdzone</translation>
+    </message>
+    <message>
+        <source>Hours and minutes from Greenwich, such as +02:00</source>
+        <translation>Uren en minuten vanaf Greenwich, zoals +02:00</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>Lijst</translation>
+    </message>
+    <message>
+        <source>Keyword List</source>
+        <translation>Trefwoordenlijst</translation>
+    </message>
+    <message>
+        <source>The keywords that are offered while you type</source>
+        <translation>De trefwoorden die tijdens het typen worden aangeboden</translation>
+    </message>
+</context>
+<context>
+    <name>metadata-fields-pane</name>
+    <message>
+        <source>Description</source>
+        <translation>Beschrijving</translation>
+    </message>
+    <message>
+        <source>Creator and rights</source>
+        <translation>Maker en rechten</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Plaats</translation>
+    </message>
+    <message>
+        <source>Date and rating</source>
+        <translation>Datum en waardering</translation>
+    </message>
+    <message>
+        <source>Remove private data</source>
+        <translation>Privégegevens verwijderen</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Selected</source>
+        <translation>Geselecteerd</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Toegevoegd</translation>
+    </message>
+    <message>
+        <source>All there are</source>
+        <translation>De enige</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %n used</source>
+        <translation>
+            <numerusform>%1, %n gebruikt</numerusform>
+            <numerusform>%1, %n gebruikt</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>(cleared)</source>
+        <translation>(leeg)</translation>
+    </message>
+    <message>
+        <source>(several values)</source>
+        <translation>(meerdere waarden)</translation>
+    </message>
+    <message>
+        <source>Leave as it is</source>
+        <translation>Zo laten</translation>
+    </message>
+    <message>
+        <source>Leave: %1</source>
+        <translation>Laten: %1</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leegmaken</translation>
+    </message>
+    <message>
+        <source>EXIF, IPTC and XMP of %1 disagree. What is written makes them agree.</source>
+        <translation>EXIF, IPTC en XMP van %1 spreken elkaar tegen. Wat wordt geschreven, staat daarna in alle gelijk.</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importeren…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exporteren…</translation>
+    </message>
+    <message>
+        <source>Clear List…</source>
+        <translation>Lijst leegmaken…</translation>
+    </message>
+    <message>
+        <source>Import keywords</source>
+        <translation>Trefwoorden importeren</translation>
+    </message>
+    <message>
+        <source>Export keywords</source>
+        <translation>Trefwoorden exporteren</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>Trefwoorden</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read.</source>
+        <translation>%1 kan niet worden gelezen.</translation>
+    </message>
+    <message>
+        <source>Clear keyword list</source>
+        <translation>Trefwoordenlijst leegmaken</translation>
+    </message>
+    <message>
+        <source>Remove all keywords from the list?</source>
+        <translation>Alle trefwoorden uit de lijst verwijderen?</translation>
+    </message>
+    <message>
+        <source>Your pictures are not changed.</source>
+        <translation>Uw foto’s worden niet gewijzigd.</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Behouden</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n keywords imported</source>
+        <translation>
+            <numerusform>%n trefwoord geïmporteerd</numerusform>
+            <numerusform>%n trefwoorden geïmporteerd</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n keywords exported</source>
+        <translation>
+            <numerusform>%n trefwoord geëxporteerd</numerusform>
+            <numerusform>%n trefwoorden geëxporteerd</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>metadata-fields-step</name>
+    <message>
+        <source>%1 cleared</source>
+        <translation>%1 leeggemaakt</translation>
+    </message>
+    <message>
+        <source>%1 removed</source>
+        <translation>%1 verwijderd</translation>
+    </message>
+    <message>
+        <source>without %1</source>
+        <translation>zonder %1</translation>
+    </message>
+    <message>
+        <source>Date taken: write it as 2026-08-14, 2026-08-14 10:20:30 or 2026-08-14 10:20:30+02:00.</source>
+        <translation>Opnamedatum: schrijf 2026-08-14, 2026-08-14 10:20:30 of 2026-08-14 10:20:30+02:00.</translation>
+    </message>
+    <message>
+        <source>Shift: write hours and minutes, such as +1:00 or −0:05:30.</source>
+        <translation>Verschuiving: schrijf uren en minuten, zoals +1:00 of −0:05:30.</translation>
+    </message>
+    <message>
+        <source>Time zone: write it as +02:00.</source>
+        <translation>Tijdzone: schrijf +02:00.</translation>
+    </message>
+    <message>
+        <source>A date taken that is set is not shifted: write its time zone behind it.</source>
+        <translation>Een ingestelde opnamedatum wordt niet verschoven: schrijf de tijdzone erachter.</translation>
+    </message>
+    <message>
+        <source>Country code: two or three letters, such as PT or PRT.</source>
+        <translation>Landcode: twee of drie letters, zoals PT of PRT.</translation>
+    </message>
+</context>
+<context>
+    <name>metadata-fields-presets</name>
+    <message>
+        <source>Copyright with the year of the picture</source>
+        <translation>Copyright met het jaar van de foto</translation>
+    </message>
+    <message>
+        <source>Headline from the name of the folder</source>
+        <translation>Kop uit de naam van de map</translation>
+    </message>
+    <message>
+        <source>Remove private data</source>
+        <translation>Privégegevens verwijderen</translation>
+    </message>
+</context>
+<context>
+    <name>script::ProgramFiles</name>
+    <message>
+        <source>%1 cannot be written.</source>
+        <translation>%1 kan niet worden geschreven.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be removed.</source>
+        <translation>%1 kan niet worden verwijderd.</translation>
     </message>
 </context>
 </TS>

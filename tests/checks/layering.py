@@ -103,6 +103,7 @@ SUB_ROOMS = {
         "window/look": "",
         "models": "window/look reading",
         "window/controls": "window/look",
+        "window/fields": "",
         "window/folders": "window/look",
         "window/log": "models window/look",
         "window/manual": "window/look",
@@ -112,8 +113,8 @@ SUB_ROOMS = {
         "window/properties": "models reading",
         "window/slots": "models window/look",
         "window/web": "",
-        "window/forms": "seam window/look window/controls window/folders window/log window/manual window/pictures window/preview "
-                        "window/properties window/slots window/web",
+        "window/forms": "seam window/look window/controls window/fields window/folders window/log window/manual window/pictures "
+                        "window/preview window/properties window/slots window/web",
         "window": "*",
         "": "*",
     },

@@ -13,6 +13,7 @@ namespace {
 
 constexpr int nameRole = Qt::UserRole;
 constexpr int iconRole = Qt::UserRole + 1;
+constexpr int facesRole = Qt::UserRole + 2;
 constexpr int entryHeightPx = 30;
 constexpr int headingHeightPx = 34;
 constexpr int iconPx = 18;
@@ -114,6 +115,12 @@ void SideBar::addEntry(const QString &name, const QString &title, const QString 
     updateGeometry();
 }
 
+void SideBar::addFace(const QString &name, const QString &entryName)
+{
+    if (QListWidgetItem *found = entry(entryName))
+        found->setData(facesRole, found->data(facesRole).toStringList() + QStringList{entryName, name});
+}
+
 QString SideBar::currentAction() const
 {
     return currentItem() ? currentItem()->data(nameRole).toString() : QString();
@@ -121,8 +128,14 @@ QString SideBar::currentAction() const
 
 void SideBar::setCurrentAction(const QString &name)
 {
-    if (QListWidgetItem *found = entry(name))
-        setCurrentItem(found);
+    QListWidgetItem *found = entry(name);
+    if (!found)
+        return;
+    const bool isOtherFace = found->data(nameRole).toString() != name;
+    found->setData(nameRole, name);
+    if (found == currentItem() && isOtherFace)
+        Q_EMIT actionChosen(name);
+    setCurrentItem(found);
 }
 
 void SideBar::setEntryEnabled(const QString &name, bool enabled)
@@ -142,7 +155,8 @@ int SideBar::neededWidth() const
 QListWidgetItem *SideBar::entry(const QString &name) const
 {
     for (int i = 0; i < count(); ++i)
-        if (item(i)->data(nameRole).toString() == name && !name.isEmpty())
+        if (!name.isEmpty() &&
+            (item(i)->data(nameRole).toString() == name || item(i)->data(facesRole).toStringList().contains(name)))
             return item(i);
     return nullptr;
 }

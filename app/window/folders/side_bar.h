@@ -17,6 +17,8 @@ public:
     Q_INVOKABLE void addGroup(const QString &title);
     /** @param name  what actionChosen() says; @param iconName  a file of the icon folder */
     Q_INVOKABLE void addEntry(const QString &name, const QString &title, const QString &iconName);
+    /** Another name of an entry that shows one of several things; its name is that of the one that was chosen last. */
+    Q_INVOKABLE void addFace(const QString &name, const QString &entryName);
     /** An entry that is off is drawn faint and cannot be chosen. */
     Q_INVOKABLE void setEntryEnabled(const QString &name, bool enabled);
 

@@ -10,6 +10,7 @@
 #include "app/window/controls/position_pad.h"
 #include "app/window/controls/search_menu.h"
 #include "app/window/controls/segmented_control.h"
+#include "app/window/fields/keyword_edit.h"
 #include "app/window/folders/folder_tree.h"
 #include "app/window/folders/side_bar.h"
 #include "app/window/log/log_table.h"
@@ -70,17 +71,15 @@ template<typename T> ServiceEntry own(const ServiceEntry &base)
 
 // One class a line.
 // clang-format off
-std::vector<ServiceEntry> toolkitClasses(const ServiceEntry &widget, const ServiceEntry &button)
+std::vector<ServiceEntry> toolkitClasses(const ServiceEntry &widget, const ServiceEntry &button, const ServiceEntry &line)
 {
     return {
         widget,
         button,
+        line,
         listed<QAction>("Action", nullptr,
             {"text enabled visible checkable checked toolTip", "triggered() toggled(bool)", "trigger()"}),
         listed<QLabel>("Label", &widget, {"text"}),
-        listed<QLineEdit>("LineEdit", &widget,
-            {"text cursorPosition placeholderText readOnly",
-             "textChanged(QString) textEdited(QString) cursorPositionChanged(int,int) returnPressed()", "selectAll()"}),
         listed<QPlainTextEdit>("TextEdit", &widget,
             {"plainText placeholderText readOnly", "textChanged()", "insertPlainText(QString) selectAll()"}),
         listed<ComboBox>("ComboBox", &widget, {"count currentIndex", "activated(int)"}),
@@ -91,7 +90,7 @@ std::vector<ServiceEntry> toolkitClasses(const ServiceEntry &widget, const Servi
     };
 }
 
-std::vector<ServiceEntry> ownClasses(const ServiceEntry &widget, const ServiceEntry &button)
+std::vector<ServiceEntry> ownClasses(const ServiceEntry &widget, const ServiceEntry &button, const ServiceEntry &line)
 {
     return {
         own<AngleDial>(widget),
@@ -102,6 +101,7 @@ std::vector<ServiceEntry> ownClasses(const ServiceEntry &widget, const ServiceEn
         own<DateBox>(widget),
         own<DropTarget>(widget),
         own<FolderTree>(widget),
+        own<KeywordEdit>(line),
         own<LogTable>(widget),
         own<ManualView>(widget),
         own<PageList>(widget),
@@ -128,8 +128,12 @@ std::vector<ServiceEntry> controlClasses()
         "Widget", nullptr, {"visible enabled focus toolTip accessibleName accessibleDescription", "", "setFocus()"});
     const ServiceEntry button =
         listed<QAbstractButton>("Button", &widget, {"text checkable checked", "clicked() toggled(bool)", "click()"});
-    std::vector<ServiceEntry> all = toolkitClasses(widget, button);
-    const std::vector<ServiceEntry> ours = ownClasses(widget, button);
+    const ServiceEntry line = listed<QLineEdit>(
+        "LineEdit", &widget,
+        {"text cursorPosition placeholderText readOnly",
+         "textChanged(QString) textEdited(QString) cursorPositionChanged(int,int) returnPressed()", "selectAll()"});
+    std::vector<ServiceEntry> all = toolkitClasses(widget, button, line);
+    const std::vector<ServiceEntry> ours = ownClasses(widget, button, line);
     all.insert(all.end(), ours.begin(), ours.end());
     return all;
 }

@@ -12,6 +12,7 @@
 #include "app/window/controls/position_pad.h"
 #include "app/window/controls/search_menu.h"
 #include "app/window/controls/segmented_control.h"
+#include "app/window/fields/keyword_edit.h"
 #include "app/window/folders/folder_tree.h"
 #include "app/window/folders/side_bar.h"
 #include "app/window/log/log_table.h"
@@ -51,6 +52,7 @@ const QHash<QString, Maker> &makers()
         {QStringLiteral("ComparePreview"), made<ComparePreview>},
         {QStringLiteral("ElidedLabel"), made<ElidedLabel>},
         {QStringLiteral("FolderTree"), made<FolderTree>},
+        {QStringLiteral("KeywordEdit"), made<KeywordEdit>},
         {QStringLiteral("LogTable"), made<LogTable>},
         {QStringLiteral("ManualView"), made<ManualView>},
         {QStringLiteral("PageList"), made<PageList>},

@@ -5,6 +5,8 @@ import { defaults } from "quorlin/defaults";
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
 import { editWords, reverting } from "../../runs/comment-run.js";
+import { revertFieldsWords } from "../../runs/fields/field-reverting.js";
+import { forgetAllValues, forgetUnlogged } from "../../runs/fields/kept-values.js";
 import { guard } from "../../lib/guard.js";
 import { clearRows, keepRowsInParts, logPath, rowLimit } from "../../runs/log-file.js";
 import { rowsByPathInParts } from "../../runs/list-rows.js";
@@ -13,6 +15,7 @@ import { csvHead, csvLines } from "../../runs/report.js";
 import { keep, recall } from "../../lib/store.js";
 import { fill, problemsText, statusText } from "../../lib/wording.js";
 import { CommentJob, commentsReverted, commentSummary } from "../../runs/comment-job.js";
+import { LogFields } from "./log-fields.js";
 import { beginUndo, revertWords, undoAction, undoing, undoWords, unableSteps } from "../../runs/undo-run.js";
 
 const STATES = ["OK", "Failed", "Not Supported", "Skipped"];
@@ -50,6 +53,7 @@ export class LogPage {
         this.words = null;
         this.kept = null; // the settings of the chosen run
         this.reverting = new CommentJob();
+        this.fields = new LogFields(this);
         this.form = shell.loadForm("actions/log/log-page.ui");
         /** @type {import("quorlin/shell").LogTable} */
         this.table = this.form.control("logTable");
@@ -78,6 +82,7 @@ export class LogPage {
         control("logOpen").clicked.connect(guard("log.open", () => shell.showInFolder(this.chosenPath())));
         control("logPicture").clicked.connect(guard("log.picture", () => this.showPicture()));
         control("logUndo").clicked.connect(guard("log.undo", () => this.takeRunBack()));
+        control("logForget").clicked.connect(guard("log.forget", () => this.fields.forget(this.runs.run)));
         control("logSettings").clicked.connect(guard("log.settings", () => this.useSettings()));
         control("logStop").clicked.connect(guard("log.stop", () => this.stop()));
         control("logCancel").triggered.connect(guard("log.stop", () => this.stop()));
@@ -90,6 +95,7 @@ export class LogPage {
     /** Reads what is new in the log. */
     show() {
         this.runIsBusy = this.window.run.isBusy();
+        forgetUnlogged(files);
         this.table.follow(logPath(files));
         this.showRun();
     }
@@ -123,11 +129,15 @@ export class LogPage {
     }
 
     isBusy() {
-        return this.undo !== null || this.reverting.running;
+        return this.undo !== null || this.fields.running || this.reverting.running;
     }
 
     stop() {
-        (this.undo === null ? this.reverting : this.job).cancel();
+        if (this.fields.running) {
+            this.fields.stop();
+        } else {
+            (this.undo === null ? this.reverting : this.job).cancel();
+        }
     }
 
     find() {
@@ -189,6 +199,7 @@ export class LogPage {
 
     showRunButtons(busy) {
         this.form.control("logUndo").visible = this.words !== null && !busy;
+        this.form.control("logForget").visible = this.words !== null && this.words.isOfFields === true && !busy;
         this.form.control("logSettings").visible = this.kept !== null && !busy;
     }
 
@@ -203,6 +214,10 @@ export class LogPage {
     }
 
     wordsFor(run) {
+        const ofFields = revertFieldsWords(files, this.runs.run, run);
+        if (ofFields !== null) {
+            return ofFields;
+        }
         return run.areEdits ? revertWords(run) : undoWords(this.window.services.moves, this.runs.run);
     }
 
@@ -276,7 +291,7 @@ export class LogPage {
             buttons: [qsTr("Clear"), qsTr("Keep")], initial: 1, escape: 1, check: "",
         });
         if (answer.button === 0) {
-            const problem = clearRows(files) || clearSettings(files);
+            const problem = clearRows(files) || clearSettings(files) || forgetAllValues(files);
             this.runs.chooseAll();
             this.show();
             if (problem) {
@@ -286,7 +301,9 @@ export class LogPage {
     }
 
     takeRunBack() {
-        if (this.runs.chosen().areEdits) {
+        if (this.words.isOfFields === true) {
+            this.fields.revert(this.runs.run);
+        } else if (this.runs.chosen().areEdits) {
             this.revert(this.runs.edits());
         } else {
             this.undoRun();

@@ -55,7 +55,7 @@ export class MetadataPage {
         const control = (name) => this.form.control(name);
         const clicks = {
             metaAddPictures: () => this.window.input.addPictures(), metaAddFolder: () => this.window.input.addFolder(),
-            metaApply: () => this.apply(),
+            metaApply: () => this.apply(), metaFields: () => this.window.forPanes().showAction("fields"),
             metaApplyAll: () => this.writeInto(this.list.tickedPaths()), metaChooseFiles: () => this.writeIntoFiles(),
             metaChooseFolder: () => this.writeIntoFolder(), metaRevert: () => this.revert(),
             metaStop: () => this.job.cancel(), metaLog: () => this.showLog(),

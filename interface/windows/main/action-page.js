@@ -194,7 +194,10 @@ export function fillSideBar(window, chosen) {
     const bar = window.form.control("sideBar");
     for (const group of GROUPS.filter((each) => each.actions.length > 0)) {
         bar.addGroup(group.title());
-        group.actions.forEach((action) => bar.addEntry(action.name, action.title(), action.name));
+        group.actions.filter((action) => action.within === undefined)
+            .forEach((action) => bar.addEntry(action.name, action.title(), action.name));
+        group.actions.filter((action) => action.within !== undefined)
+            .forEach((action) => bar.addFace(action.name, action.within));
     }
     bar.currentAction = window.action.name;
     bar.actionChosen.connect(guard("sidebar", chosen));
@@ -203,7 +206,10 @@ export function fillSideBar(window, chosen) {
 /** While a run is under way only its own action and pages that do not use the list can be shown. */
 export function lockSideBar(window, locked) {
     const bar = window.form.control("sideBar");
-    allActions()
-        .forEach((action) =>
-            bar.setEntryEnabled(action.name, !locked || !action.usesList || action.name === window.action.name));
+    const mayShow = (action) => !locked || !action.usesList || action.name === window.action.name;
+    const entries = allActions().filter((action) => action.within === undefined);
+    entries.forEach((entry) => {
+        const faces = allActions().filter((action) => action === entry || action.within === entry.name);
+        bar.setEntryEnabled(entry.name, faces.some(mayShow));
+    });
 }

@@ -14,6 +14,11 @@ import { NewVersion } from "../new-version/new-version.js";
 
 const AFTER_START_MS = 1500;
 
+// The faces of an action share a page.
+function pageOf(action) {
+    return action.within || action.name;
+}
+
 /** Sheets are loaded when they are first shown. */
 export class Help {
     /** @param window  the main window's parts: form, say, page */
@@ -51,7 +56,7 @@ export class Help {
         if (program.manual === "") {
             this.window.say(qsTr("The manual is not installed."));
         } else {
-            this.part("manual", () => new Manual()).open((this.window.shownPage || this.window.action).name);
+            this.part("manual", () => new Manual()).open(pageOf(this.window.shownPage || this.window.action));
         }
     }
 

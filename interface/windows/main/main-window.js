@@ -96,9 +96,11 @@ export class MainWindow {
         this.form.control("fitFill").segments = [qsTr("Fit"), qsTr("Fill"), "1:1"];
     }
 
-    /** What a pane gets of the window: the list, the services, and sayBeside(). */
+    /** What a pane gets of the window: the list, the services, sayBeside(), showAction(name) and planAgain(). */
     forPanes() {
-        return { list: this.pictures, services: this.services, sayBeside: (text) => this.sayBeside(text) };
+        return { list: this.pictures, services: this.services, sayBeside: (text) => this.sayBeside(text),
+                 showAction: (name) => { this.form.control("sideBar").currentAction = name; },
+                 planAgain: () => this.livePlan.refresh() };
     }
 
     /** Shows all as it is kept in the settings, and the window itself. */
@@ -357,7 +359,9 @@ export class MainWindow {
     /** The undo of the status bar. */
     undoRun() {
         const offer = this.run.undoOffer();
-        if (offer !== null) {
+        if (offer !== null && this.run.revert !== undefined) {
+            this.run.revert(offer.id);
+        } else if (offer !== null) {
             this.history.takeBack(offer.id);
         }
     }

@@ -85,7 +85,7 @@ void DecodesNothing::noPictureInASession()
     for (int row = 0; row < 4; ++row)
         QVERIFY(isRead(row));
     for (const char *action : {"resize", "crop", "turn", "round", "background", "watermark", "recipe", "convert",
-                               "rename", "sort", "hand", "web", "contact", "metadata", "log", "resize"}) {
+                               "rename", "sort", "hand", "web", "contact", "metadata", "fields", "log", "resize"}) {
         m_driver->show(action);
         rest();
         QVERIFY2(m_opened.isEmpty(), qPrintable(QLatin1String(action) + m_opened.join(u' ')));

@@ -25,8 +25,8 @@
 
 namespace {
 
-const char *const actionNames[] = {"resize", "crop", "turn", "round", "background", "watermark", "convert",
-                                   "rename", "sort", "hand", "web",   "contact",    "metadata",  "log"};
+const char *const actionNames[] = {"resize", "crop", "turn", "round",   "background", "watermark", "convert", "rename",
+                                   "sort",   "hand", "web",  "contact", "metadata",   "fields",    "log"};
 
 /** How many values a control has that a person can choose by one click; 0 for other controls. */
 int valuesOf(const QWidget &control)

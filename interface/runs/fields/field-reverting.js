@@ -1,0 +1,69 @@
+// Gives pictures the metadata again that a run replaced. Pure but for translation; what asks workers and the file service are handed in.
+
+import { splitPath } from "../../lib/names.js";
+import { fill } from "../../lib/wording.js";
+import { appendRows, newRunName } from "../log-file.js";
+import { logRow } from "../report.js";
+import { noteReverted, valuesOf, valuesSize } from "./kept-values.js";
+
+/** How the log calls it. */
+export function revertAction() {
+    return qsTr("Revert metadata");
+}
+
+/**
+ * Whether a run of metadata can be reverted, as undoWords() says it of others; null for any other run.
+ *
+ * @param chosen  what the log says of it
+ */
+export function revertFieldsWords(files, run, chosen) {
+    const bytes = valuesSize(files, run);
+    if (bytes === 0) {
+        return chosen.process !== qsTr("Metadata") || chosen.areEdits ? null
+            : { can: false, button: qsTr("Revert This Run"), isRedo: false,
+                note: qsTr("No old values are kept of this run.") };
+    }
+    const left = valuesOf(files, run).length;
+    const size = fill(qsTr("Old values: %1."), files.byteText(bytes));
+    const note = left > 0 ? qsTr("%n pictures can be reverted.", "", left)
+        : qsTr("All its pictures have already been reverted.");
+    return { can: left > 0, button: qsTr("Revert This Run"), isRedo: false, note: note + " " + size, isOfFields: true };
+}
+
+function rowOf(kept, said, run, undone) {
+    const name = splitPath(kept.path).name;
+    const status = said.problem === "" ? "OK" : "Failed";
+    const result = { status: status, reason: said.problem, photo: { name: name, path: kept.path },
+                     name: splitPath(kept.file).name, path: kept.file };
+    return Object.assign(logRow(result, qsTr("Metadata"), revertAction(), new Date().toISOString(), run),
+                         { undoes: undone });
+}
+
+/**
+ * A generator that reverts a run, the newest picture first. It yields {path, status, reason, row} for each, whose row is in the log then,
+ * and null while it waits; it returns a message, or "".
+ *
+ * @param asker   see FieldAsker
+ * @param goesOn  false where it is to stop after the current picture
+ */
+export function* revertingFields(asker, files, undone, goesOn) {
+    const run = newRunName();
+    let problem = "";
+    for (const kept of valuesOf(files, undone)) {
+        if (!goesOn()) {
+            return problem;
+        }
+        const said = yield* asker.revert(kept.path, kept.undo);
+        const row = rowOf(kept, said, run, undone);
+        problem = problem || (said.problem === "" ? noteReverted(files, undone, kept.line) : "");
+        problem = problem || appendRows(files, [row]);
+        yield { path: kept.path, status: row.status, reason: row.reason, row: row };
+    }
+    return problem;
+}
+
+/** What became of it, in a line. */
+export function revertSummary(done, failed, problem) {
+    return [qsTr("%n pictures reverted", "", done)]
+        .concat(failed > 0 ? [qsTr("%n problems", "", failed)] : [], problem ? [problem] : []).join(" · ");
+}

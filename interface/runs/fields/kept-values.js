@@ -1,0 +1,91 @@
+// What runs wrote into the metadata of pictures: old and new values and what makes the old file again, in a file of its own for each
+// run, beside the log. The run's name in the log leads to it. The file service is handed in.
+//
+// A line is {path, file, before, after, undo} for a picture that was written, or {reverted: number of its line} for one that has its
+// old values again; before and after have the fields that changed, each a list of texts.
+
+import { logPath } from "../log-file.js";
+
+const FOLDER = "/metadata-values";
+
+function folderOf(files) {
+    return files.dataFolder + FOLDER;
+}
+
+const ENDING = ".jsonl";
+
+function nameOf(run) {
+    return encodeURIComponent(run) + ENDING;
+}
+
+function runOf(name) {
+    return decodeURIComponent(name.slice(0, -ENDING.length));
+}
+
+/** The file of a run. */
+export function valuesPath(files, run) {
+    return folderOf(files) + "/" + nameOf(run);
+}
+
+/** Keeps what was written into one picture; returns a message if that failed. */
+export function keepValues(files, run, values) {
+    return files.appendPrivate(valuesPath(files, run), JSON.stringify(values) + "\n");
+}
+
+/** Notes that the picture of a line has its old values again; returns a message if that failed. */
+export function noteReverted(files, run, line) {
+    return files.appendPrivate(valuesPath(files, run), JSON.stringify({ reverted: line }) + "\n");
+}
+
+function read(line) {
+    try {
+        const kept = JSON.parse(line);
+        return kept !== null && typeof kept === "object" ? kept : {};
+    } catch (error) {
+        return {}; // a line that was cut off when the program ended
+    }
+}
+
+/** What was written by a run and is not reverted, the newest first: {line, path, file, before, after, undo}. */
+export function valuesOf(files, run) {
+    const lines = (files.readText(valuesPath(files, run)) || "").split("\n").map(read);
+    const reverted = lines.map((each) => each.reverted);
+    const kept = [];
+    lines.forEach((each, i) => {
+        if (typeof each.path === "string" && typeof each.undo === "string" && reverted.indexOf(i) < 0) {
+            kept.push(Object.assign(each, { line: i }));
+        }
+    });
+    return kept.reverse();
+}
+
+/** Bytes of what is kept of a run; 0 where nothing is. */
+export function valuesSize(files, run) {
+    const info = run === "" ? { exists: false } : files.info(valuesPath(files, run));
+    return info.exists ? info.bytes : 0;
+}
+
+/** Removes what is kept of a run; returns a message if that failed. */
+export function forgetValues(files, run) {
+    return files.removePrivate(valuesPath(files, run));
+}
+
+function runsKept(files) {
+    return files.names(folderOf(files)).filter((name) => name.endsWith(ENDING)).map(runOf);
+}
+
+function forgetThose(files, runs) {
+    return runs.map((run) => forgetValues(files, run)).find((problem) => problem !== "") || "";
+}
+
+/** Removes what is kept of all runs; returns a message if that failed. */
+export function forgetAllValues(files) {
+    return forgetThose(files, runsKept(files));
+}
+
+/** Removes what is kept of runs that are no longer in the log; returns a message if that failed. */
+export function forgetUnlogged(files) {
+    const runs = runsKept(files);
+    const log = runs.length === 0 ? "" : files.readText(logPath(files)) || "";
+    return forgetThose(files, runs.filter((run) => log.indexOf("\"run\":" + JSON.stringify(run)) < 0));
+}
