@@ -6,6 +6,7 @@
 #include "app/window/log/log_table.h"
 #include "app/window/log/run_list.h"
 #include "meta/mMeta.h"
+#include "meta/metadata_file.h"
 
 #include "platform/desktop/user_defaults.h"
 
@@ -16,6 +17,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTest>
 
@@ -197,6 +199,42 @@ void showMetadata(WindowDriver &driver, const QString &name)
     QTest::keyClick(scope, Qt::Key_Left);
 }
 
+// What pictures say already, one of them in two ways.
+void stateFields(const QString &folder)
+{
+    const auto write = [&](const char *name, const char *field, const QString &text) {
+        const QVariantMap set = {{QStringLiteral("set"), QStringList{text}}};
+        const auto work = meta::workFrom({{QStringLiteral("fields"), QVariantMap{{QString::fromLatin1(field), set}}}});
+        if (work)
+            (void)meta::writeFields(folder + QString::fromUtf8(name), *work);
+    };
+    for (const QString &name : QDir(folder).entryList(QDir::Files))
+        write(qPrintable(name), "city", QStringLiteral("Brelmark"));
+    write("Lake in the morning.jpg", "headline", QStringLiteral("First light"));
+    write("Lake in the morning.jpg", "title", QStringLiteral("DSC_0412"));
+}
+
+void showFields(WindowDriver &driver, const QString &name)
+{
+    stateFields(driver.folder() + QStringLiteral("/Pictures/"));
+    driver.startAgain();
+    driver.show("fields");
+    driver.window().resize(1440, 900);
+    saveScreen(driver, name + QStringLiteral("-empty.png"));
+    driver.drop({driver.folder() + QStringLiteral("/Pictures")});
+    settle(driver);
+    driver.control<QLineEdit>("mfTitle")->setText(QStringLiteral("{name}"));
+    driver.control<QLineEdit>("mfKeywords")->setText(QStringLiteral("Brelmark, summer"));
+    driver.click("mfRightsHead");
+    driver.control<QLineEdit>("mfCreator")->setText(QStringLiteral("Ana Ruiz"));
+    driver.control<QLineEdit>("mfCopyright")->setText(QStringLiteral("© {taken:yyyy} Ana Ruiz"));
+    driver.waitFor([&driver] { return driver.control<QAbstractButton>("startButton")->isEnabled(); });
+    saveBoth(driver, name);
+    for (const char *head : {"mfDescriptionHead", "mfRightsHead", "mfDateHead", "mfPrivateHead"})
+        driver.click(head);
+    saveBoth(driver, name + QStringLiteral("-more"));
+}
+
 void showManual(WindowDriver &driver, const QString &name)
 {
     driver.show("resize");
@@ -219,6 +257,8 @@ int main(int argc, char **argv)
         showHand(driver, path("hand"), 12);
         samplePictures(samples, driver.folder());
         showMetadata(driver, path("metadata"));
+        samplePictures(samples, driver.folder());
+        showFields(driver, path("fields"));
         showLog(driver, path("log"));
     });
 }
