@@ -5,9 +5,10 @@ import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";
 import { fill } from "../../lib/wording.js";
+import { changeText } from "../shared/metadata-fields-words.js";
 import { revertingFields, revertSummary } from "../../runs/fields/field-reverting.js";
 import { FieldAsker } from "../../runs/fields/field-work.js";
-import { forgetValues, valuesSize } from "../../runs/fields/kept-values.js";
+import { forgetValues, valuesAt, valuesSize } from "../../runs/fields/kept-values.js";
 
 export class LogFields {
     /** @param page  the page of the log */
@@ -22,6 +23,13 @@ export class LogFields {
 
     get running() {
         return this.asker !== null;
+    }
+
+    /** What the run changed in the picture of an entry, in a line; "" where that is not kept. */
+    changesOf(run, entry) {
+        const kept = entry === null ? null : valuesAt(files, run, entry.inputPath);
+        return kept === null ? "" : Object.keys(kept.after)
+            .map((name) => changeText(name, kept.before[name] || [], kept.after[name])).join(" · ");
     }
 
     /** Nothing more is reverted after the picture that is in progress. */

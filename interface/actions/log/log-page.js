@@ -184,6 +184,7 @@ export class LogPage {
         const edits = this.table.chosenEditCount;
         const busy = this.isBusy();
         this.showRunButtons(busy);
+        this.showFieldChanges(busy);
         control("logRevert").visible = edits > 0 && !busy;
         control("logRevert").text = qsTr("Revert %n Comments", "", edits);
         control("logRunBar").visible = this.words !== null || edits > 0 || busy;
@@ -197,9 +198,21 @@ export class LogPage {
         }
     }
 
+    isOfFields() {
+        return this.words !== null && this.words.isOfFields === true;
+    }
+
+    // Of a run that wrote fields it is said what became of those of the chosen picture.
+    showFieldChanges(busy) {
+        if (this.isOfFields() && !busy) {
+            const entry = this.table.chosenCount === 1 ? this.table.chosen() : null;
+            this.form.control("logRunNote").text = this.fields.changesOf(this.runs.run, entry) || this.words.note;
+        }
+    }
+
     showRunButtons(busy) {
         this.form.control("logUndo").visible = this.words !== null && !busy;
-        this.form.control("logForget").visible = this.words !== null && this.words.isOfFields === true && !busy;
+        this.form.control("logForget").visible = this.isOfFields() && !busy;
         this.form.control("logSettings").visible = this.kept !== null && !busy;
     }
 
@@ -301,7 +314,7 @@ export class LogPage {
     }
 
     takeRunBack() {
-        if (this.words.isOfFields === true) {
+        if (this.isOfFields()) {
             this.fields.revert(this.runs.run);
         } else if (this.runs.chosen().areEdits) {
             this.revert(this.runs.edits());

@@ -10,7 +10,7 @@ import { fill } from "../../lib/wording.js";
 import { Pane } from "../shared/pane.js";
 import { insertAtCursor, joinTokens } from "../shared/token-menu.js";
 import * as step from "./metadata-fields-step.js";
-import { labels, ratingText, valueText } from "./metadata-fields-words.js";
+import { labels, ratingText, valueText } from "../shared/metadata-fields-words.js";
 import { addKeywords, keepKeywords, keywordsIn, keywordsText, listedKeywords } from "./metadata-keyword-list.js";
 
 const KEPT = "MetadataGroups";

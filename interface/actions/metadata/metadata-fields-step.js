@@ -5,7 +5,7 @@
 import { files } from "quorlin/files";
 import { tokens, TokenText } from "quorlin/tokens";
 import { fill } from "../../lib/wording.js";
-import { changeText, disputeText, fieldTitle, privateTitle } from "./metadata-fields-words.js";
+import { changeText, disputeText, fieldTitle, privateTitle } from "../shared/metadata-fields-words.js";
 
 /** The groups of the form, and their fields in their order. */
 export const GROUPS = [

@@ -59,6 +59,13 @@ export function valuesOf(files, run) {
     return kept.reverse();
 }
 
+/** What a run wrote into the picture at a path, reverted or not: {before, after}; null where nothing is kept of it. */
+export function valuesAt(files, run, path) {
+    const lines = valuesSize(files, run) === 0 ? [] : (files.readText(valuesPath(files, run)) || "").split("\n");
+    const found = lines.filter((line) => line.startsWith("{\"path\":" + JSON.stringify(path) + ",")).map(read).pop();
+    return found === undefined || found.after === undefined ? null : found;
+}
+
 /** Bytes of what is kept of a run; 0 where nothing is. */
 export function valuesSize(files, run) {
     const info = run === "" ? { exists: false } : files.info(valuesPath(files, run));

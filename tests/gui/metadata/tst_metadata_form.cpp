@@ -323,6 +323,10 @@ void MetadataForm::revertsFromTheLogAfterARestart()
     QVERIFY(m_driver->waitFor([this] {
         return m_driver->text("logRunNote").startsWith(QStringLiteral("4 pictures can be reverted. Old values: "));
     }));
+    // What was written into one of them is shown where that is chosen.
+    table->selectRow(0);
+    QVERIFY(m_driver->waitFor([this] { return m_driver->text("logRunNote") == QStringLiteral("Title: “Later”"); }));
+    table->clearSelection();
     m_driver->click("logUndo");
     QVERIFY(m_driver->waitFor([&] { return pictures::bytesOf(path("a.jpg")) == before; }));
     QVERIFY(m_driver->waitFor([this] { return !QFile::exists(path("d.bmp.xmp")); }));

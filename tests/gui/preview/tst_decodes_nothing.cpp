@@ -14,6 +14,7 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QImage>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTest>
 
@@ -104,7 +105,7 @@ void DecodesNothing::noPictureInASession()
                  qPrintable(name));
 }
 
-/** Convert, Save As, comments written into one and into many, Revert, and a page that is printed. */
+/** Convert, Save As, comments written into one and into many, fields of metadata, and both reverted. */
 void DecodesNothing::nothingWhereFilesAreMadeAndChanged()
 {
     for (const char *name : {"a.jpg", "b.jpg", "c.png"})
@@ -140,6 +141,15 @@ void DecodesNothing::nothingWhereFilesAreMadeAndChanged()
     m_driver->click("metaRevert");
     QVERIFY(m_driver->waitFor(
         [&] { return m_driver->text("statusText").startsWith(QStringLiteral("3 comments reverted")); }));
+    m_driver->click("metaFields");
+    m_driver->control<QLineEdit>("mfTitle")->setText(QStringLiteral("{name}"));
+    QVERIFY(m_driver->waitFor([&] { return m_driver->control<QAbstractButton>("startButton")->isEnabled(); }));
+    WindowDriver::answerNextQuestion(QStringLiteral("Write"));
+    m_driver->click("startButton");
+    QVERIFY(m_driver->waitForSummary().startsWith(QStringLiteral("3 pictures changed")));
+    m_driver->click("undoButton");
+    QVERIFY(m_driver->waitFor(
+        [&] { return m_driver->text("statusText").startsWith(QStringLiteral("3 pictures reverted")); }));
     QVERIFY2(m_opened.isEmpty(), qPrintable(m_opened.join(u' ')));
 }
 
