@@ -10,21 +10,26 @@
 namespace platform {
 namespace {
 
-constexpr int rowShift = planeWeightBits - planeSumBits;
 constexpr int columnShift = planeWeightBits + planeSumBits;
+// A processor multiplies 16 bits by 16 and keeps the rounded upper half in one step, which gives the fractions of a sum.
+constexpr int productShift = 15;
+static_assert(planeWideBits + planeWeightBits - productShift == planeSumBits);
 
-qint16 boundedSum(int value)
+void widenRowPlainly(const uchar *row, qint16 *wide, int count)
 {
-    return qint16(std::clamp(value, -32768, 32767));
+    for (int x = 0; x < count; ++x)
+        wide[x] = qint16(row[x] << planeWideBits);
 }
 
-void sumRowsPlainly(const uchar *const *rows, const qint16 *weights, int taps, qint16 *out, int count)
+void sumRowsPlainly(const qint16 *const *rows, const qint16 *weights, int taps, qint16 *out, int count)
 {
     for (int x = 0; x < count; ++x) {
-        int sum = 1 << (rowShift - 1);
-        for (int tap = 0; tap < taps; ++tap)
-            sum += weights[tap] * rows[tap][x];
-        out[x] = boundedSum(sum >> rowShift);
+        int sum = 0;
+        for (int tap = 0; tap < taps; ++tap) {
+            const int product = (rows[tap][x] * weights[tap] + (1 << (productShift - 1))) >> productShift;
+            sum = std::clamp(sum + product, -32768, 32767);
+        }
+        out[x] = qint16(sum);
     }
 }
 
@@ -39,7 +44,7 @@ void sumColumnsPlainly(const qint16 *sums, const int *starts, const qint16 *weig
     }
 }
 
-constexpr PlaneKernels plainKernels = {sumRowsPlainly, sumColumnsPlainly};
+constexpr PlaneKernels plainKernels = {widenRowPlainly, sumRowsPlainly, sumColumnsPlainly};
 
 #ifdef QUORLIN_HAS_AVX2
 
@@ -50,39 +55,52 @@ QUORLIN_AVX2 inline __m256i loaded(const void *from)
     return _mm256_loadu_si256(static_cast<const __m256i *>(from));
 }
 
-QUORLIN_AVX2 inline __m256i withWeighed(__m256i sum, __m256i samples, __m256i weights)
+QUORLIN_AVX2 inline void store(qint16 *to, __m256i samples)
 {
-    return _mm256_add_epi32(sum, _mm256_madd_epi16(samples, weights));
+    _mm256_storeu_si256(reinterpret_cast<__m256i *>(to), samples);
 }
 
-/** 32 samples at a time, two rows at a time. */
-QUORLIN_AVX2 void sumRowsInVectors(const uchar *const *rows, const qint16 *weights, int taps, qint16 *out, int count)
+QUORLIN_AVX2 void widenRowInVectors(const uchar *row, qint16 *wide, int count)
 {
-    while (taps > 2 && weights[taps - 1] == 0 && weights[taps - 2] == 0)
-        taps -= 2; // what only fills the unit up
-    const __m256i none = _mm256_setzero_si256();
-    for (int x = 0; x < count; x += 32) {
-        const __m256i half = _mm256_set1_epi32(1 << (rowShift - 1));
-        __m256i sums[4] = {half, half, half, half};
-        for (int tap = 0; tap < taps; tap += 2) {
-            const __m256i one = loaded(rows[tap] + x);
-            const __m256i other = loaded(rows[tap + 1] + x);
-            const __m256i pair =
-                _mm256_set1_epi32(int(quint16(weights[tap]) | quint32(quint16(weights[tap + 1])) << 16));
-            const __m256i low = _mm256_unpacklo_epi8(one, other);
-            const __m256i high = _mm256_unpackhi_epi8(one, other);
-            sums[0] = withWeighed(sums[0], _mm256_unpacklo_epi8(low, none), pair);
-            sums[1] = withWeighed(sums[1], _mm256_unpackhi_epi8(low, none), pair);
-            sums[2] = withWeighed(sums[2], _mm256_unpacklo_epi8(high, none), pair);
-            sums[3] = withWeighed(sums[3], _mm256_unpackhi_epi8(high, none), pair);
+    constexpr int step = 16;
+    for (int x = 0; x < count; x += step) {
+        const __m128i narrow = _mm_loadu_si128(reinterpret_cast<const __m128i *>(row + x));
+        store(wide + x, _mm256_slli_epi16(_mm256_cvtepu8_epi16(narrow), planeWideBits));
+    }
+}
+
+QUORLIN_AVX2 inline __m256i withWeighed(__m256i sum, const qint16 *samples, __m256i weight)
+{
+    return _mm256_adds_epi16(sum, _mm256_mulhrs_epi16(loaded(samples), weight));
+}
+
+/** 64 samples at a time. */
+QUORLIN_AVX2 void sumRowsInVectors(const qint16 *const *rows, const qint16 *weights, int taps, qint16 *out, int count)
+{
+    constexpr int step = 16;
+    static_assert(planeRowUnit == 4 * step);
+    int first = 0;
+    while (first < taps && weights[first] == 0)
+        ++first;
+    while (taps > first && weights[taps - 1] == 0)
+        --taps;
+    for (int x = 0; x < count; x += planeRowUnit) {
+        __m256i a = _mm256_setzero_si256();
+        __m256i b = a;
+        __m256i c = a;
+        __m256i d = a;
+        for (int tap = first; tap < taps; ++tap) {
+            const __m256i weight = _mm256_set1_epi16(weights[tap]);
+            const qint16 *row = rows[tap] + x;
+            a = withWeighed(a, row, weight);
+            b = withWeighed(b, row + step, weight);
+            c = withWeighed(c, row + 2 * step, weight);
+            d = withWeighed(d, row + 3 * step, weight);
         }
-        for (__m256i &sum : sums)
-            sum = _mm256_srai_epi32(sum, rowShift);
-        // Vectors work in halves: the first halves of both are the first sixteen samples.
-        const __m256i first = _mm256_packs_epi32(sums[0], sums[1]);
-        const __m256i second = _mm256_packs_epi32(sums[2], sums[3]);
-        _mm256_storeu_si256(reinterpret_cast<__m256i *>(out + x), _mm256_permute2x128_si256(first, second, 0x20));
-        _mm256_storeu_si256(reinterpret_cast<__m256i *>(out + x + 16), _mm256_permute2x128_si256(first, second, 0x31));
+        store(out + x, a);
+        store(out + x + step, b);
+        store(out + x + 2 * step, c);
+        store(out + x + 3 * step, d);
     }
 }
 
@@ -113,7 +131,7 @@ QUORLIN_AVX2 void sumColumnsInVectors(const qint16 *sums, const int *starts, con
     }
 }
 
-constexpr PlaneKernels vectorKernels = {sumRowsInVectors, sumColumnsInVectors};
+constexpr PlaneKernels vectorKernels = {widenRowInVectors, sumRowsInVectors, sumColumnsInVectors};
 
 #endif
 

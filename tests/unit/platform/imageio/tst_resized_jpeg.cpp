@@ -248,15 +248,21 @@ void ResizedJpeg::vectorsGiveTheSameNumbers()
     for (int i = 0; i < tests::repetitions(50, 2000); ++i) {
         const int taps = platform::planeTapUnit * random.bounded(1, 5);
         const int count = platform::planeRowUnit * random.bounded(1, 4);
-        std::vector<std::vector<uchar>> samples(static_cast<size_t>(taps),
-                                                std::vector<uchar>(static_cast<size_t>(count)));
-        std::vector<const uchar *> rows;
-        for (auto &row : samples) {
+        std::vector<std::vector<qint16>> samples(static_cast<size_t>(taps),
+                                                 std::vector<qint16>(static_cast<size_t>(count)));
+        std::vector<const qint16 *> rows;
+        for (auto &wide : samples) {
+            std::vector<uchar> row(static_cast<size_t>(count));
             std::generate(row.begin(), row.end(), [&] { return uchar(random.bounded(256)); });
-            rows.push_back(row.data());
+            std::vector<qint16> otherWide(static_cast<size_t>(count));
+            plain.widenRow(row.data(), wide.data(), count);
+            fast.widenRow(row.data(), otherWide.data(), count);
+            QCOMPARE(otherWide, wide);
+            rows.push_back(wide.data());
         }
         std::vector<qint16> weights(size_t(taps) * size_t(count));
         std::generate(weights.begin(), weights.end(), [&] { return qint16(random.bounded(-900, 1800)); });
+        weights[0] = 0; // as where a window begins before the kernel does
         std::vector<qint16> sums(size_t(count + taps), 0);
         std::vector<qint16> otherSums = sums;
         plain.sumRows(rows.data(), weights.data(), taps, sums.data(), count);
