@@ -43,10 +43,4 @@ struct PlaneSpan
 /** Beyond this a weight is too small a number for the arithmetic. */
 constexpr double mostPlaneStep = 64;
 
-/**
- * The plane at another size by Lanczos of three lobes, in whole numbers: the same on every machine. Samples beyond an edge are as the
- * last one before it. Throws std::bad_alloc.
- */
-Plane scaledPlane(const Plane &plane, const PlaneSpan &across, const PlaneSpan &down);
-
 } // namespace platform

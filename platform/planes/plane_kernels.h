@@ -13,6 +13,12 @@ constexpr int planeWeightBits = 14; ///< of a weight of 1
 constexpr int planeWideBits = 7;    ///< of fractions of a widened sample
 constexpr int planeSumBits = 6;     ///< of fractions of what stands between the two loops
 
+/** @p value or the next multiple of @p unit. */
+constexpr int wholeUnits(int value, int unit)
+{
+    return (value + unit - 1) / unit * unit;
+}
+
 struct PlaneKernels
 {
     /** Makes 16 bits with planeWideBits of fractions of each sample. @p count is whole units of a row. */

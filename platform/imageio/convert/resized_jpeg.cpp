@@ -5,8 +5,10 @@
 #include "platform/imageio/encoders/encoders.h"
 #include "platform/imageio/facts/resolution.h"
 #include "platform/imageio/jpeg/decoded_planes.h"
+#include "platform/imageio/jpeg/plane_rows.h"
 #include "platform/imageio/jpeg/shrunk_jpeg.h"
 #include "platform/imageio/source/opened_file.h"
+#include "platform/planes/plane_scaler.h"
 
 #include <new>
 
@@ -50,21 +52,77 @@ struct Direction
     }
 };
 
-std::optional<JpegPlanes> scaledPlanes(const DecodedPlanes &decoded, const Direction &across, const Direction &down,
-                                       QSize sampling)
+/** Which part of a plane becomes which, across and down. */
+struct PlaneSpans
+{
+    PlaneSpan columns;
+    PlaneSpan rows;
+
+    bool isPossible() const { return columns.step <= mostPlaneStep && rows.step <= mostPlaneStep; }
+};
+
+struct Directions
+{
+    Direction across;
+    Direction down;
+
+    /** Of the colour planes, whose samplings differ, or of the one of brightness. */
+    PlaneSpans of(bool isColour, QSize had, QSize made) const
+    {
+        const QSize one(1, 1);
+        const QSize from = isColour ? had : one;
+        const QSize to = isColour ? made : one;
+        return {across.of(from.width(), to.width()), down.of(from.height(), to.height())};
+    }
+};
+
+std::optional<JpegPlanes> scaledPlanes(const DecodedPlanes &decoded, const Directions &directions, QSize sampling)
 {
     JpegPlanes scaled;
     for (const Plane &plane : decoded.planes) {
-        const bool isColour = !scaled.empty();
-        const QSize had = isColour ? decoded.sampling : QSize(1, 1);
-        const QSize made = isColour ? sampling : QSize(1, 1);
-        const PlaneSpan columns = across.of(had.width(), made.width());
-        const PlaneSpan rows = down.of(had.height(), made.height());
-        if (columns.step > mostPlaneStep || rows.step > mostPlaneStep)
+        const PlaneSpans spans = directions.of(!scaled.empty(), decoded.sampling, sampling);
+        if (!spans.isPossible())
             return std::nullopt;
-        scaled.push_back(scaledPlane(plane, columns, rows));
+        scaled.push_back(scaledPlane(plane, spans.columns, spans.rows));
     }
     return scaled;
+}
+
+/** Scales the rows as the decoder gives them, so that planes at full size are never whole. */
+std::optional<JpegPlanes> scaledRows(PlaneRows &decoder, const Directions &directions, QSize sampling)
+{
+    std::vector<PlaneScaler> scalers;
+    for (int plane = 0; plane < decoder.planes(); ++plane) {
+        const PlaneSpans spans = directions.of(plane > 0, decoder.sampling(), sampling);
+        if (!spans.isPossible())
+            return std::nullopt;
+        scalers.emplace_back(decoder.size(plane), spans.columns, spans.rows);
+    }
+    while (!decoder.isAtEnd()) {
+        if (!decoder.read())
+            return std::nullopt;
+        for (int plane = 0; plane < decoder.planes(); ++plane)
+            for (int y = 0; y < decoder.rows(plane); ++y)
+                scalers[size_t(plane)].add(decoder.row(plane, y));
+    }
+    JpegPlanes scaled;
+    for (PlaneScaler &scaler : scalers)
+        scaled.push_back(scaler.plane());
+    return scaled;
+}
+
+/** The planes at the new size; none where the file is one for the plain way. */
+std::optional<JpegPlanes> newPlanes(const QByteArray &jpeg, int shrink, const Directions &directions,
+                                    const JpegSettings &settings)
+{
+    if (shrink == 1) {
+        PlaneRows decoder(jpeg);
+        if (decoder.isGood())
+            return scaledRows(decoder, directions, jpegSampling(settings, decoder.planes()));
+    }
+    const std::optional<DecodedPlanes> decoded = decodedPlanes(jpeg, shrink);
+    return decoded ? scaledPlanes(*decoded, directions, jpegSampling(settings, int(decoded->planes.size())))
+                   : std::nullopt;
 }
 
 std::optional<QByteArray> resizedFile(const ImageSource::File &file, const JpegResize &resize,
@@ -75,9 +133,6 @@ std::optional<QByteArray> resizedFile(const ImageSource::File &file, const JpegR
     const int shrink = jpegShrinkFor(file.storedSize, resize.size * resize.finer);
     if (!facts || facts->stored != file.storedSize || !isMemoryLeft(*facts, jpeg.size(), resize, shrink))
         return std::nullopt;
-    const std::optional<DecodedPlanes> decoded = decodedPlanes(jpeg, shrink);
-    if (!decoded)
-        return std::nullopt;
     const bool statesResolution = options.resolution == WriteResolution::Yes;
     const Resolution resolution = statesResolution ? resolutionOf(file.bytes, file.content) : Resolution();
     JpegSettings settings;
@@ -86,10 +141,11 @@ std::optional<QByteArray> resizedFile(const ImageSource::File &file, const JpegR
     if (const auto header = settings.quality ? std::nullopt : jpegHeaderOf(file.bytes, file.content))
         settings.sourceTables = header->quantisation;
     const auto pixels = [shrink](int had, int made) { return double(had) / shrink / made; };
-    auto planes = scaledPlanes(
-        *decoded, {pixels(facts->stored.width(), resize.size.width()), resize.kept.x(), resize.kept.width()},
-        {pixels(facts->stored.height(), resize.size.height()), resize.kept.y(), resize.kept.height()},
-        jpegSampling(settings, int(decoded->planes.size())));
+    auto planes =
+        newPlanes(jpeg, shrink,
+                  {{pixels(facts->stored.width(), resize.size.width()), resize.kept.x(), resize.kept.width()},
+                   {pixels(facts->stored.height(), resize.size.height()), resize.kept.y(), resize.kept.height()}},
+                  settings);
     if (!planes)
         return std::nullopt;
     EncodeOptions known = options;

@@ -1,7 +1,6 @@
 #include "platform/imageio/convert/resized_jpeg.h"
 
 #include "platform/graphics/resample.h"
-#include "platform/planes/plane.h"
 #include "platform/planes/plane_kernels.h"
 #include "tests/support/expected_pictures.h"
 #include "tests/support/test_program.h"
@@ -215,6 +214,14 @@ void ResizedJpeg::leavesOtherPicturesToTheLongWay()
     const auto plain = ImageSource::fromData(jpegOf(Bitmap::fromImage(photograph({200, 100}, 1)), 80));
     QVERIFY(plain);
     QVERIFY(made(*plain, wholeAt({100, 50}), 80));
+    const QByteArray whole = jpegOf(Bitmap::fromImage(photograph({200, 100}, 1)), 80);
+    QByteArray damaged = whole;
+    damaged.replace(whole.size() * 3 / 4, 2, "\xff\xd3"); // a marker in the middle of the coefficients
+    const auto odd = ImageSource::fromData(damaged);
+    QVERIFY(odd);
+    for (const QSize size :
+         {QSize(180, 90), QSize(100, 50), QSize(50, 25)}) // decoded whole, at a half and at a quarter
+        QVERIFY(!made(*odd, wholeAt(size), 80));
     QVERIFY(!made(*plain, wholeAt({201, 50}), 80));                // larger
     QVERIFY(!made(*plain, {{100, 50}, QRect(60, 0, 50, 50)}, 80)); // reaches beyond
     QVERIFY(!made(*ImageSource::fromData(jpegOf(Bitmap::fromImage(photograph({63, 63}, 1)), 80)), wholeAt({9, 9}), 80));

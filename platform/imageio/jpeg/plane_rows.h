@@ -1,0 +1,54 @@
+#pragma once
+
+// Private to the platform: includes libjpeg.
+
+#include "platform/imageio/jpeg/jpeg_error.h"
+
+#include <QByteArray>
+#include <QSize>
+
+#include <array>
+#include <vector>
+
+namespace platform {
+
+/**
+ * Decodes a JPEG of grey, or of brightness and two differences of colour, as its planes at full size, a band of rows at a time, so
+ * that the planes need never be whole. Anything that the decoder has to say about the file, a mere warning too, ends it.
+ */
+class PlaneRows
+{
+public:
+    explicit PlaneRows(const QByteArray &jpeg);
+    PlaneRows(const PlaneRows &) = delete;
+    PlaneRows &operator=(const PlaneRows &) = delete;
+    ~PlaneRows();
+
+    /** False from the first trouble on, and for other colours, samplings and files whose coefficients come in passes. */
+    bool isGood() const { return m_isGood; }
+    int planes() const { return m_info.num_components; }
+    QSize size(int plane) const;
+    /** How many samples of brightness share one of colour. */
+    QSize sampling() const { return {m_info.max_h_samp_factor, m_info.max_v_samp_factor}; }
+
+    /** The next band; after the last one the end of the file was checked too. Throws std::bad_alloc the first time. */
+    bool read();
+    bool isAtEnd() const { return m_info.output_scanline >= m_info.output_height; }
+    /** Of the band that was read; whole units of a row of a plane, which may be read. The last band has rows too many. */
+    int rows(int plane) const { return int(m_rows[size_t(plane)].size()); }
+    const uchar *row(int plane, int y) const { return m_rows[size_t(plane)][size_t(y)]; }
+
+private:
+    bool isPossible() const;
+    void makeRoom();
+
+    QByteArray m_jpeg;
+    JpegErrorManager m_errors;
+    jpeg_decompress_struct m_info = {};
+    std::vector<uchar> m_samples;
+    std::array<std::vector<uchar *>, 3> m_rows;
+    std::array<JSAMPARRAY, 3> m_planes = {};
+    bool m_isGood = false;
+};
+
+} // namespace platform

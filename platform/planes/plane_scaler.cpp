@@ -1,0 +1,86 @@
+#include "platform/planes/plane_scaler.h"
+
+#include "platform/planes/plane_kernels.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+
+namespace platform {
+namespace {
+
+bool isPart(const PlaneSpan &span, int samples)
+{
+    return span.step == 1 && span.start == std::floor(span.start) && span.start >= 0 &&
+           int(span.start) + span.count <= samples;
+}
+
+} // namespace
+
+PlaneScaler::PlaneScaler(QSize from, const PlaneSpan &across, const PlaneSpan &down)
+    : m_from(from), m_across(across), m_down(down),
+      m_isPart(isPart(across, from.width()) && isPart(down, from.height())),
+      m_rowBytes(wholeUnits(from.width(), planeRowUnit)), m_columns(across, from.width()), m_rows(down, from.height()),
+      m_plane(QSize(across.count, down.count))
+{
+    if (m_isPart)
+        return;
+    m_kept.resize(size_t(m_rowBytes) * size_t(m_rows.taps()));
+    m_window.resize(size_t(m_rows.taps()));
+    // Behind the row there is room for what the last windows reach beyond it; it weighs nothing.
+    m_sums.resize(size_t(m_rowBytes + m_columns.taps()));
+    m_row.resize(size_t(wholeUnits(across.count, planeOutputUnit)));
+}
+
+void PlaneScaler::add(const uchar *row)
+{
+    if (m_added == m_from.height())
+        return;
+    if (m_isPart)
+        copy(row);
+    else
+        keep(row);
+    ++m_added;
+    if (!m_isPart)
+        make();
+}
+
+void PlaneScaler::copy(const uchar *row)
+{
+    const int y = m_added - int(m_down.start);
+    if (y >= 0 && y < m_down.count)
+        std::memcpy(m_plane.row(y), row + int(m_across.start), size_t(m_across.count));
+}
+
+void PlaneScaler::keep(const uchar *row)
+{
+    const bool isOfUse = m_made < m_down.count && m_added >= m_rows.start(m_made);
+    if (isOfUse)
+        planeKernels().widenRow(row, m_kept.data() + size_t(m_added % m_rows.taps()) * size_t(m_rowBytes), m_rowBytes);
+}
+
+void PlaneScaler::make()
+{
+    const int taps = m_rows.taps();
+    while (m_made < m_down.count && (m_rows.start(m_made) + taps <= m_added || m_added == m_from.height())) {
+        for (int tap = 0; tap < taps; ++tap) {
+            const int y = std::min(m_rows.start(m_made) + tap, m_from.height() - 1);
+            m_window[size_t(tap)] = m_kept.data() + size_t(y % taps) * size_t(m_rowBytes);
+        }
+        planeKernels().sumRows(m_window.data(), m_rows.of(m_made), taps, m_sums.data(), m_rowBytes);
+        planeKernels().sumColumns(m_sums.data(), m_columns.starts(), m_columns.of(0), m_columns.taps(), m_row.data(),
+                                  int(m_row.size()));
+        std::memcpy(m_plane.row(m_made), m_row.data(), size_t(m_across.count));
+        ++m_made;
+    }
+}
+
+Plane scaledPlane(const Plane &plane, const PlaneSpan &across, const PlaneSpan &down)
+{
+    PlaneScaler scaler(plane.size(), across, down);
+    for (int y = 0; y < plane.height(); ++y)
+        scaler.add(plane.row(y));
+    return scaler.plane();
+}
+
+} // namespace platform

@@ -1,0 +1,101 @@
+#include "platform/planes/plane_weights.h"
+
+#include "platform/planes/plane_kernels.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace platform {
+namespace {
+
+constexpr int wholeWeight = 1 << planeWeightBits;
+
+/**
+ * The kernel of Lanczos with three lobes at places that lie evenly: the sines of the next place come of those of the last one, which
+ * takes a few products where the library takes much longer for each.
+ */
+class Lanczos
+{
+public:
+    static constexpr double lobes = 3;
+
+    Lanczos(double first, double step)
+        : m_place(first), m_step(step), m_wave(pi * first), m_lobe(pi * first / lobes), m_waveStep(pi * step),
+          m_lobeStep(pi * step / lobes)
+    {
+    }
+
+    double next()
+    {
+        const double x = m_place;
+        const double sines = m_wave.sine * m_lobe.sine;
+        m_place += m_step;
+        m_wave.turn(m_waveStep);
+        m_lobe.turn(m_lobeStep);
+        if (std::abs(x) < 1e-9)
+            return 1;
+        return std::abs(x) < lobes ? lobes * sines / (pi * pi * x * x) : 0;
+    }
+
+private:
+    static constexpr double pi = 3.14159265358979323846;
+
+    struct Angle
+    {
+        explicit Angle(double angle) : sine(std::sin(angle)), cosine(std::cos(angle)) {}
+        void turn(const Angle &by)
+        {
+            const double turned = sine * by.cosine + cosine * by.sine;
+            cosine = cosine * by.cosine - sine * by.sine;
+            sine = turned;
+        }
+        double sine;
+        double cosine;
+    };
+
+    double m_place;
+    double m_step;
+    Angle m_wave;
+    Angle m_lobe;
+    Angle m_waveStep;
+    Angle m_lobeStep;
+};
+
+} // namespace
+
+PlaneWeights::PlaneWeights(const PlaneSpan &span, int samples)
+{
+    const double scale = std::max(1.0, span.step);
+    const int reach = int(std::ceil(Lanczos::lobes * scale)) + 1;
+    m_taps = wholeUnits(2 * reach + 1, planeTapUnit);
+    const int count = wholeUnits(span.count, planeOutputUnit); // those behind the last weigh nothing
+    m_starts.assign(size_t(count), 0);
+    m_values.assign(size_t(count) * size_t(m_taps), 0);
+    std::vector<double> exact(static_cast<size_t>(m_taps));
+    for (int i = 0; i < span.count; ++i)
+        weigh(i, span.start + (i + 0.5) * span.step, scale, reach, samples, exact);
+}
+
+void PlaneWeights::weigh(int index, double centre, double scale, int reach, int samples, std::vector<double> &exact)
+{
+    std::fill(exact.begin(), exact.end(), 0);
+    const int first = int(std::floor(centre)) - reach;
+    const int start = std::clamp(first, 0, samples - 1);
+    double sum = 0;
+    Lanczos kernel((first + 0.5 - centre) / scale, 1 / scale);
+    for (int at = first; at <= first + 2 * reach; ++at) {
+        const double weight = kernel.next();
+        exact[size_t(std::max(0, std::min(at, samples - 1) - start))] += weight;
+        sum += weight;
+    }
+    m_starts[size_t(index)] = start;
+    qint16 *whole = m_values.data() + size_t(index) * size_t(m_taps);
+    int rest = wholeWeight;
+    for (int tap = 0; tap < m_taps; ++tap) {
+        whole[tap] = qint16(std::lrint(exact[size_t(tap)] / sum * wholeWeight));
+        rest -= whole[tap];
+    }
+    qint16 *most = std::max_element(whole, whole + m_taps);
+    *most = qint16(*most + rest);
+}
+} // namespace platform
