@@ -386,12 +386,13 @@ void PictureModel::setPlan(int index, const QString &newName, const QString &new
 void PictureModel::setStatus(int index, StatusKind kind, const QString &text, const QString &detail)
 {
     PictureRow &row = m_rows[size_t(index)];
-    if (row.kind == kind && row.status == text && row.detail == detail)
+    const QString status = text.left(1).toUpper() + text.mid(1);
+    if (row.kind == kind && row.status == status && row.detail == detail)
         return;
     row.kind = kind;
     if (kind != StatusKind::Good)
         row.results.clear();
-    row.status = text;
+    row.status = status;
     row.detail = detail;
     changed(index, NewName, Status); // a long reason lies over the columns before it
 }

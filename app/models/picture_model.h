@@ -122,6 +122,7 @@ public:
     /** The file of the row is at another path now; all that is known of it stays. */
     void setPath(int index, const QString &path);
     void setPlan(int index, const QString &newName, const QString &newSize);
+    /** @param text  shown with a capital, whatever it begins with: it may be part of a sentence elsewhere */
     void setStatus(int index, StatusKind kind, const QString &text, const QString &detail);
 
     /** The files that a run made of it; setStatus() to anything but a good one forgets them. */

@@ -161,7 +161,7 @@ private Q_SLOTS:
         QVERIFY(QFile::copy(picturePath("own/formats/drawing.pdf"), m_folder + QStringLiteral("/a.pdf")));
         m_driver->drop({m_folder});
         QVERIFY(m_driver->waitFor([this] {
-            return m_driver->cell(0, window::PictureModel::Status) == QStringLiteral("ready, 1 more picture left out");
+            return m_driver->cell(0, window::PictureModel::Status) == QStringLiteral("Ready, 1 more picture left out");
         }));
         run(QStringLiteral("1 picture done"));
         QCOMPARE(m_driver->cell(0, window::PictureModel::Status), QStringLiteral("OK, 1 more picture left out"));

@@ -182,7 +182,7 @@ private Q_SLOTS:
         replaceBy("d", "c");
         replaceBy("#", "d");
         QVERIFY(waitForNames({"d.jpg", "c.jpg"}));
-        QVERIFY(waitForStatus(0, "swaps names with d.jpg"));
+        QVERIFY(waitForStatus(0, "Swaps names with d.jpg"));
         m_driver->click("startButton");
         QVERIFY(m_driver->waitForSummary().startsWith(QStringLiteral("2 files renamed")));
         QCOMPARE(contentOf("d.jpg"), QByteArray("c.jpg"));
@@ -196,8 +196,8 @@ private Q_SLOTS:
         files({"a.jpg", "b.jpg", "x.jpg"});
         m_driver->drop({path("a.jpg"), path("b.jpg")});
         replaceBy("a", "x");
-        QVERIFY(waitForStatus(0, "name in use by a file that is not in this list"));
-        QVERIFY(waitForStatus(1, "unchanged"));
+        QVERIFY(waitForStatus(0, "Name in use by a file that is not in this list"));
+        QVERIFY(waitForStatus(1, "Unchanged"));
         QCOMPARE(m_driver->text("startNote"), QStringLiteral("0 ready · 1 needs attention · 1 unchanged"));
         QVERIFY(!m_driver->control<QAbstractButton>("startButton")->isEnabled());
         addStep("Add before");
@@ -212,7 +212,7 @@ private Q_SLOTS:
         addStep("Strip");
         m_driver->control<QSpinBox>("firstNumber")->setValue(1);
         m_driver->choose("firstChoice", QStringLiteral("fRight"));
-        QVERIFY(waitForStatus(1, "same new name as a1.jpg"));
+        QVERIFY(waitForStatus(1, "Same new name as a1.jpg"));
         m_driver->click("startButton");
         QVERIFY(m_driver->waitForSummary().contains(QLatin1String("1 left out")));
         QCOMPARE(namesIn(m_folder), texts({"a.jpg", "a2.jpg"}));
@@ -224,7 +224,7 @@ private Q_SLOTS:
         files({"A.ARW", "A.xmp", "B.JPG", "B.JPG.xmp"});
         m_driver->drop({path("A.ARW"), path("B.JPG")});
         m_driver->choose("preset", QStringLiteral("=Clean for the web"));
-        QVERIFY(waitForStatus(0, "ready, with its .xmp"));
+        QVERIFY(waitForStatus(0, "Ready, with its .xmp"));
         m_driver->click("startButton");
         QVERIFY(!m_driver->waitForSummary().isEmpty());
         QCOMPARE(namesIn(m_folder), texts({"a.arw", "a.xmp", "b.jpg", "b.jpg.xmp"}));
@@ -342,7 +342,7 @@ private Q_SLOTS:
             clock.start();
             QVERIFY(m_driver->waitFor([this] {
                 return m_driver->cell(9999, PictureModel::NewName) == QStringLiteral("IMG_9999 10000 lake.txt") &&
-                       m_driver->cell(9999, PictureModel::Status) == QStringLiteral("ready");
+                       m_driver->cell(9999, PictureModel::Status) == QStringLiteral("Ready");
             }));
             longest = watch.longestMs();
         }

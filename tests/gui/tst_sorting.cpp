@@ -52,7 +52,7 @@ private Q_SLOTS:
         QCOMPARE(m_driver->text("sortTreeSummary"),
                  QStringLiteral("4 files into 3 folders (4 new folders, including parents)"));
         QCOMPARE(m_driver->cell(0, PictureModel::NewName), QStringLiteral("2026/2026-08-14"));
-        QCOMPARE(m_driver->cell(3, PictureModel::Status), QStringLiteral("no date taken"));
+        QCOMPARE(m_driver->cell(3, PictureModel::Status), QStringLiteral("No date taken"));
         QCOMPARE(button("startButton")->text(), QStringLiteral("Sort 4 Files into Folders"));
         QCOMPARE(m_driver->text("startNote"), QStringLiteral("4 ready · 1 sidecar file · can be undone"));
         QCOMPARE(filesBelow(m_pictures).size(), 5);
@@ -247,7 +247,7 @@ private Q_SLOTS:
         QVERIFY(waitForTree(6));
         m_driver->choose("sortUndated", QStringLiteral("leave"));
         QVERIFY(waitForTree(5));
-        QCOMPARE(m_driver->cell(3, PictureModel::Status), QStringLiteral("no date taken: not moved"));
+        QCOMPARE(m_driver->cell(3, PictureModel::Status), QStringLiteral("No date taken: not moved"));
         QVERIFY(!m_driver->control<QLineEdit>("sortUndatedName")->isVisible());
         QVERIFY(m_driver->text("startNote").contains(QLatin1String("1 unchanged")));
         m_driver->choose("sortUndated", QStringLiteral("changed"));
@@ -278,7 +278,7 @@ private Q_SLOTS:
             [this] { return m_driver->cell(0, PictureModel::Status).contains(QLatin1String("numbered")); }));
         m_driver->choose("sortTaken", QStringLiteral("skip"));
         QVERIFY(m_driver->waitFor(
-            [this] { return m_driver->cell(0, PictureModel::Status).startsWith(QLatin1String("stays")); }));
+            [this] { return m_driver->cell(0, PictureModel::Status).startsWith(QLatin1String("Stays")); }));
         m_driver->choose("sortTaken", QStringLiteral("number"));
         run(QStringLiteral("2 files moved"));
         QCOMPARE(pictures::bytesOf(at("2026/2026-08-14/a.jpg")), QByteArray("there before"));

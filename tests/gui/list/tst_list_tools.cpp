@@ -140,7 +140,7 @@ void TestListTools::theListIsExported()
     pictures({QStringLiteral("a.jpg"), QStringLiteral("b, \"c\".jpg")});
     m_driver->pictures().selectRow(0);
     m_driver->trigger("tickAction");
-    QVERIFY(m_driver->waitFor([this] { return m_driver->cell(1, PictureModel::Status) == QLatin1String("ready"); }));
+    QVERIFY(m_driver->waitFor([this] { return m_driver->cell(1, PictureModel::Status) == QLatin1String("Ready"); }));
     const QString target = m_driver->folder() + QStringLiteral("/List.csv");
     m_driver->answerPanels({target});
     m_driver->trigger("exportListAction");
@@ -154,7 +154,7 @@ void TestListTools::theListIsExported()
         QStringLiteral("Ticked,Name,Folder,DateTaken,Camera,Width,Height,Bytes,Type,NewName,NewSize,Status");
     QCOMPARE(lines.at(0), head);
     const QString bytes = QString::number(QFileInfo(path(QStringLiteral("a.jpg"))).size());
-    QCOMPARE(lines.at(1), QStringLiteral("no,a.jpg,%1,2026-08-14T10:20:30,Camera A,30,20,%2,JPEG,,,left out")
+    QCOMPARE(lines.at(1), QStringLiteral("no,a.jpg,%1,2026-08-14T10:20:30,Camera A,30,20,%2,JPEG,,,Left out")
                               .arg(m_driver->inputFolder(), bytes));
     QVERIFY2(lines.at(2).startsWith(QStringLiteral("yes,\"b, \"\"c\"\".jpg\",")), qPrintable(lines.at(2)));
     QVERIFY2(lines.at(2).endsWith(QStringLiteral(",ready")), qPrintable(lines.at(2)));

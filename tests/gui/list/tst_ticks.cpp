@@ -52,7 +52,7 @@ void TestTicks::aRunLeavesOutWhatIsNotTicked()
     QVERIFY(m_driver->waitFor([this] { return buttonText() == QLatin1String("Resize 3 Pictures"); }));
     untick(1);
     QVERIFY(m_driver->waitFor([this] { return buttonText() == QLatin1String("Resize 2 Pictures"); }));
-    QVERIFY(m_driver->waitFor([this] { return m_driver->cell(1, PictureModel::Status) == QLatin1String("left out"); }));
+    QVERIFY(m_driver->waitFor([this] { return m_driver->cell(1, PictureModel::Status) == QLatin1String("Left out"); }));
     QCOMPARE(m_driver->cell(1, PictureModel::NewName), QString());
     const QString counts = QStringLiteral("3 pictures · 1 left out"); // once what was added has been said
     QVERIFY(m_driver->waitFor([&] { return m_driver->text("statusText") == counts; }));
@@ -60,7 +60,7 @@ void TestTicks::aRunLeavesOutWhatIsNotTicked()
     QVERIFY(m_driver->waitForSummary().startsWith(QLatin1String("2 pictures done")));
     QCOMPARE(QDir(path(QStringLiteral("Resized"))).entryList(QDir::Files),
              QStringList({QStringLiteral("a.png"), QStringLiteral("c.png")}));
-    QCOMPARE(m_driver->cell(1, PictureModel::Status), QStringLiteral("left out"));
+    QCOMPARE(m_driver->cell(1, PictureModel::Status), QStringLiteral("Left out"));
 }
 
 void TestTicks::countersPassOverIt()

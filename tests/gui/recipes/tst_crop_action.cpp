@@ -117,9 +117,9 @@ private Q_SLOTS:
         m_driver->control<QDoubleSpinBox>("cropWidth")->setValue(250);
         m_driver->control<QDoubleSpinBox>("cropHeight")->setValue(250);
         QVERIFY(m_driver->waitFor([this] { return m_driver->cell(1, PictureModel::NewSize) == u"200×250"; }));
-        QCOMPARE(m_driver->cell(0, PictureModel::Status), QStringLiteral("ready"));
+        QCOMPARE(m_driver->cell(0, PictureModel::Status), QStringLiteral("Ready"));
         QCOMPARE(m_driver->cell(1, PictureModel::Status),
-                 QStringLiteral("ready, smaller than asked for: the frame extends past the edge of the picture"));
+                 QStringLiteral("Ready, smaller than asked for: the frame extends past the edge of the picture"));
         run(QStringLiteral("2 pictures done"));
         QCOMPARE(m_driver->cell(1, PictureModel::Status),
                  QStringLiteral("OK, smaller than asked for: the frame extends past the edge of the picture"));

@@ -83,8 +83,8 @@ private Q_SLOTS:
         driver->drop({driver->inputFolder()});
         driver->choose("fileType", QStringLiteral("public.png"));
         const auto status = [&](int row) { return driver->cell(row, PictureModel::Status); };
-        QVERIFY(driver->waitFor([&] { return status(0) == QStringLiteral("ready, 2 more pictures left out"); }));
-        QVERIFY2(driver->waitFor([&] { return status(1) == QStringLiteral("ready, preview of 40×60"); }, 5000),
+        QVERIFY(driver->waitFor([&] { return status(0) == QStringLiteral("Ready, 2 more pictures left out"); }));
+        QVERIFY2(driver->waitFor([&] { return status(1) == QStringLiteral("Ready, preview of 40×60"); }, 5000),
                  qPrintable(status(1) + driver->cell(1, PictureModel::Type)));
         QCOMPARE(driver->cell(1, PictureModel::Pixels), QStringLiteral("40×60"));
         run(*driver, QStringLiteral("2 pictures done"));

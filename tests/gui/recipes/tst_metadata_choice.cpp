@@ -98,10 +98,10 @@ private Q_SLOTS:
         QTest::addColumn<QString>("note");
         QTest::newRow("PNG") << "public.png"
                              << "a.png"
-                             << "ready";
+                             << "Ready";
         QTest::newRow("TIFF") << "public.tiff"
                               << "a.tiff"
-                              << "ready";
+                              << "Ready";
         QTest::newRow("BMP") << "public.bmp"
                              << "a.bmp"
                              << "BMP cannot hold metadata";
@@ -122,7 +122,7 @@ private Q_SLOTS:
         driver->click("startButton");
         QVERIFY(driver->waitForSummary().startsWith(QLatin1String("1 picture done")));
         QCOMPARE(statedIn(pictures + QStringLiteral("/Resized/") + name),
-                 note == QLatin1String("ready") ? QStringLiteral("camera author place") : QString());
+                 note == QLatin1String("Ready") ? QStringLiteral("camera author place") : QString());
     }
 
     void isRememberedByPresets()

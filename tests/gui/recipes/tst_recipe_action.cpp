@@ -284,7 +284,7 @@ private Q_SLOTS:
                  QStringLiteral("It reads:\n%1\n\nIt writes to:\n%2\n../Up").arg(logo, elsewhere));
         QVERIFY(!m_driver->control<QAbstractButton>("startButton")->isEnabled());
         QVERIFY(!QFile::exists(elsewhere));
-        QTRY_COMPARE(m_driver->cell(0, PictureModel::Status), QStringLiteral("check the recipe"));
+        QTRY_COMPARE(m_driver->cell(0, PictureModel::Status), QStringLiteral("Check the recipe"));
         QCOMPARE(m_driver->cell(0, PictureModel::NewName), QStringLiteral("–"));
         m_driver->click("reachAllow");
         QVERIFY(!m_driver->control<QWidget>("reachBar")->isVisible());

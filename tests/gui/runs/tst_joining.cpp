@@ -78,7 +78,7 @@ private Q_SLOTS:
         m_driver->drop({picture("q", 0)});
         QCOMPARE(list().size(), 4);
         QVERIFY(
-            m_driver->waitFor([this] { return m_driver->cell(3, PictureModel::Status) == QStringLiteral("ready"); }));
+            m_driver->waitFor([this] { return m_driver->cell(3, PictureModel::Status) == QStringLiteral("Ready"); }));
     }
 
     void showsOtherPicturesMeanwhile()

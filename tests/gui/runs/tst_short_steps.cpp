@@ -239,7 +239,7 @@ private:
             [this] {
                 const int last = m_driver->pictures().model()->rowCount() - 1;
                 return m_driver->control<QAbstractButton>("startButton")->isEnabled() &&
-                       m_driver->cell(last, window::PictureModel::Status) == QStringLiteral("ready");
+                       m_driver->cell(last, window::PictureModel::Status) == QStringLiteral("Ready");
             },
             120000);
     }

@@ -196,7 +196,7 @@ void WorkerRuns::saysThatAPictureIsGone()
     WorkerDesk::ofProcess().setSize(1);
     m_driver->click("startButton");
     // The plan is made; the last picture goes before it has its turn.
-    QVERIFY(m_driver->waitFor([this] { return m_driver->cell(0, PictureModel::Status) != QStringLiteral("ready"); }));
+    QVERIFY(m_driver->waitFor([this] { return m_driver->cell(0, PictureModel::Status) != QStringLiteral("Ready"); }));
     QVERIFY(QFile::remove(m_pictures + QStringLiteral("/p02.jpg")));
     const QString summary = m_driver->waitForSummary();
     QVERIFY2(summary.startsWith(QStringLiteral("2 pictures done · 1 failed")), qPrintable(summary));
@@ -306,7 +306,7 @@ void WorkerRuns::leavesOutWhatIsUpToDate()
     changed.close();
     m_driver->choose("fileType", QStringLiteral("public.jpeg"));
     m_driver->choose("fileType", QStringLiteral("original file type"));
-    QVERIFY(shows(1, "ready") && shows(0, "Skipped: up to date") && shows(2, "ready"));
+    QVERIFY(shows(1, "Ready") && shows(0, "Skipped: up to date") && shows(2, "Ready"));
     const QString summary = runToTheEnd();
     QVERIFY2(summary.startsWith(QStringLiteral("2 pictures done · 1 skipped")), qPrintable(summary));
     const auto after = results();
@@ -321,7 +321,7 @@ void WorkerRuns::leavesOutWhatIsUpToDate()
     // Other settings make other results.
     m_driver->choose("quality", QStringLiteral("5"));
     for (int row = 0; row < 3; ++row)
-        QVERIFY2(shows(row, "ready"), qPrintable(m_driver->cell(row, PictureModel::Status)));
+        QVERIFY2(shows(row, "Ready"), qPrintable(m_driver->cell(row, PictureModel::Status)));
 }
 
 void WorkerRuns::goesOnWhereItWasInterrupted_data()
