@@ -322,7 +322,7 @@ void PageWork::ended(int picture, const QString &problem)
     if (made.problem.isEmpty())
         made.problem = problem;
     if (made.problem.isEmpty() && made.jpeg.isEmpty())
-        made.problem = QCoreApplication::translate("pages", "It could not be made ready for the page.");
+        made.problem = QCoreApplication::translate("pages", "The picture could not be prepared for the page.");
     m_step.start();
 }
 

@@ -28,8 +28,7 @@ Result<void> failure(const Error &error)
 /** The toolkit made something that is not as it was when this was written. */
 Result<void> strangeSkeleton()
 {
-    return failure(
-        {ErrorCode::WriteFailed, QCoreApplication::translate("pages", "The pages could not be put together.")});
+    return failure({ErrorCode::WriteFailed, QCoreApplication::translate("pages", "The pages could not be created.")});
 }
 
 /** The colour profile that a JPEG carries, joined from its pieces; empty for none. */

@@ -290,11 +290,11 @@
         <translation>Höhe des Papiers</translation>
     </message>
     <message>
-        <source>Which way the paper is held</source>
-        <translation>Lage des Papiers</translation>
+        <source>Paper orientation</source>
+        <translation>Ausrichtung des Papiers</translation>
     </message>
     <message>
-        <source>On a page</source>
+        <source>Per page</source>
         <translation>Je Seite</translation>
     </message>
     <message>
@@ -310,11 +310,11 @@
         <translation>Bilder</translation>
     </message>
     <message>
-        <source>How a picture lies in its place</source>
-        <translation>Wie ein Bild in seinem Feld liegt</translation>
+        <source>How a picture fits its place</source>
+        <translation>Wie ein Bild in sein Feld passt</translation>
     </message>
     <message>
-        <source>Turn pictures to fit</source>
+        <source>Rotate pictures to fit</source>
         <translation>Bilder passend drehen</translation>
     </message>
     <message>
@@ -354,28 +354,28 @@
         <translation>Rand rechts</translation>
     </message>
     <message>
-        <source>Beneath</source>
-        <translation>Darunter</translation>
+        <source>Caption</source>
+        <translation>Bildtext</translation>
     </message>
     <message>
-        <source>Text beneath each picture</source>
-        <translation>Text unter jedem Bild</translation>
+        <source>Caption below each picture</source>
+        <translation>Bildtext unter jedem Bild</translation>
     </message>
     <message>
-        <source>Insert a value of the picture</source>
-        <translation>Einen Wert des Bildes einfügen</translation>
+        <source>Insert a token</source>
+        <translation>Einen Platzhalter einfügen</translation>
     </message>
     <message>
-        <source>Letters</source>
-        <translation>Schrift</translation>
+        <source>Text size</source>
+        <translation>Schriftgröße</translation>
     </message>
     <message>
         <source> pt</source>
         <translation> pt</translation>
     </message>
     <message>
-        <source>Size of the text beneath pictures</source>
-        <translation>Größe des Textes unter Bildern</translation>
+        <source>Text size of the captions</source>
+        <translation>Schriftgröße der Bildtexte</translation>
     </message>
     <message>
         <source>Header</source>
@@ -386,16 +386,16 @@
         <translation>Seitenzahl einfügen</translation>
     </message>
     <message>
-        <source>Where the header stands</source>
-        <translation>Wo die Kopfzeile steht</translation>
+        <source>Position of the header</source>
+        <translation>Position der Kopfzeile</translation>
     </message>
     <message>
         <source>Footer</source>
         <translation>Fußzeile</translation>
     </message>
     <message>
-        <source>Where the footer stands</source>
-        <translation>Wo die Fußzeile steht</translation>
+        <source>Position of the footer</source>
+        <translation>Position der Fußzeile</translation>
     </message>
     <message>
         <source>Crop marks</source>
@@ -410,8 +410,8 @@
         <translation>Schriftart</translation>
     </message>
     <message>
-        <source>Header letters</source>
-        <translation>Kopfschrift</translation>
+        <source>Header size</source>
+        <translation>Kopfgröße</translation>
     </message>
     <message>
         <source>Size of header and footer</source>
@@ -434,8 +434,8 @@
         <translation> dpi</translation>
     </message>
     <message>
-        <source>Pixels for an inch of paper, at most</source>
-        <translation>Höchstens so viele Pixel je Zoll Papier</translation>
+        <source>Maximum number of pixels per inch of paper</source>
+        <translation>Höchstzahl der Pixel pro Zoll Papier</translation>
     </message>
     <message>
         <source>Quality</source>
@@ -512,16 +512,16 @@
 <context>
     <name>CropPane</name>
     <message>
-        <source>W × H</source>
-        <translation>B × H</translation>
+        <source>Size</source>
+        <translation>Größe</translation>
     </message>
     <message>
-        <source>%</source>
-        <translation>%</translation>
+        <source>Trim by %</source>
+        <translation>Schnitt %</translation>
     </message>
     <message>
-        <source>Pixels</source>
-        <translation>Pixel</translation>
+        <source>Trim by px</source>
+        <translation>Schnitt px</translation>
     </message>
     <message>
         <source>How the frame is set</source>
@@ -739,16 +739,16 @@
         <translation>Überspringen</translation>
     </message>
     <message>
-        <source>Keys Move</source>
-        <translation>Tasten: verschieben</translation>
+        <source>Move with Keys</source>
+        <translation>Mit Tasten verschieben</translation>
     </message>
     <message>
-        <source>Keys Copy</source>
-        <translation>Tasten: kopieren</translation>
+        <source>Copy with Keys</source>
+        <translation>Mit Tasten kopieren</translation>
     </message>
     <message>
-        <source>Keys Link</source>
-        <translation>Tasten: verknüpfen</translation>
+        <source>Link with Keys</source>
+        <translation>Mit Tasten verknüpfen</translation>
     </message>
     <message>
         <source>Actual pixels</source>
@@ -903,8 +903,8 @@
         <translation>Erzählung</translation>
     </message>
     <message>
-        <source>How the pictures lie</source>
-        <translation>Wie die Bilder liegen</translation>
+        <source>Arrangement of the pictures</source>
+        <translation>Anordnung der Bilder</translation>
     </message>
     <message>
         <source>Sketch of the page</source>
@@ -931,24 +931,24 @@
         <translation>Text des aktuellen Bildes</translation>
     </message>
     <message>
-        <source>As above</source>
+        <source>As Above</source>
         <translation>Wie oben</translation>
     </message>
     <message>
-        <source>Forget what was typed for this picture</source>
-        <translation>Vergessen, was für dieses Bild getippt wurde</translation>
+        <source>Discard the caption of this picture</source>
+        <translation>Den Bildtext dieses Bildes verwerfen</translation>
     </message>
     <message>
         <source>Colours</source>
         <translation>Farben</translation>
     </message>
     <message>
-        <source>Paper by daylight</source>
-        <translation>Papier bei Tag</translation>
+        <source>Light page colour</source>
+        <translation>Helle Seitenfarbe</translation>
     </message>
     <message>
-        <source>Paper in the dark</source>
-        <translation>Papier bei Nacht</translation>
+        <source>Dark page colour</source>
+        <translation>Dunkle Seitenfarbe</translation>
     </message>
     <message>
         <source>Links</source>
@@ -995,8 +995,8 @@
         <translation>Drei Größen</translation>
     </message>
     <message>
-        <source>Without it there are a small and a large file of each picture</source>
-        <translation>Ohne dies gibt es von jedem Bild eine kleine und eine große Datei</translation>
+        <source>If this is off, each picture has only a small and a large file</source>
+        <translation>Sonst hat jedes Bild nur eine kleine und eine große Datei</translation>
     </message>
     <message>
         <source>File type</source>
@@ -1023,12 +1023,12 @@
         <translation>Metadaten der Bilder</translation>
     </message>
     <message>
-        <source>Tell where pictures were taken</source>
-        <translation>Sagen, wo Bilder entstanden</translation>
+        <source>Include the location</source>
+        <translation>Aufnahmeort angeben</translation>
     </message>
     <message>
-        <source>Places stay in the metadata, and captions may name them</source>
-        <translation>Orte bleiben in den Metadaten, und Bildtexte dürfen sie nennen</translation>
+        <source>The metadata keeps the location, and captions can contain it</source>
+        <translation>Die Metadaten behalten den Aufnahmeort, und Bildtexte dürfen ihn nennen</translation>
     </message>
     <message>
         <source>Offer the pictures for download</source>
@@ -1039,8 +1039,8 @@
         <translation>Speichern in</translation>
     </message>
     <message>
-        <source>Folder that the page is made in</source>
-        <translation>Ordner, in dem die Seite entsteht</translation>
+        <source>Where the page is saved</source>
+        <translation>Wo die Seite gespeichert wird</translation>
     </message>
     <message>
         <source>Folder</source>
@@ -1809,8 +1809,8 @@
 <context>
     <name>Manual</name>
     <message>
-        <source>Manual</source>
-        <translation>Handbuch</translation>
+        <source>Help</source>
+        <translation>Hilfe</translation>
     </message>
     <message>
         <source>Back</source>
@@ -1825,7 +1825,7 @@
         <translation>Suchen</translation>
     </message>
     <message>
-        <source>Find next</source>
+        <source>Find Next</source>
         <translation>Weitersuchen</translation>
     </message>
     <message>
@@ -1876,7 +1876,7 @@
         <translation>Ordner hinzufügen …</translation>
     </message>
     <message>
-        <source>Search properties</source>
+        <source>Search Properties</source>
         <translation>Eigenschaften suchen</translation>
     </message>
     <message>
@@ -1968,7 +1968,7 @@
         <translation>Den Kommentar in dieses Bild schreiben. Strg+Eingabe geht danach zum nächsten.</translation>
     </message>
     <message>
-        <source>Write comment and go to the next picture</source>
+        <source>Write Comment and Go to the Next Picture</source>
         <translation>Kommentar schreiben und zum nächsten Bild</translation>
     </message>
     <message>
@@ -1978,6 +1978,10 @@
     <message>
         <source>Write titles, keywords, copyright and other fields of many pictures</source>
         <translation>Titel, Stichwörter, Copyright und andere Felder vieler Bilder schreiben</translation>
+    </message>
+    <message>
+        <source>Search properties</source>
+        <translation>Eigenschaften suchen</translation>
     </message>
 </context>
 <context>
@@ -2126,7 +2130,7 @@
         <translation>Mehr oder weniger Einstellungen zeigen</translation>
     </message>
     <message>
-        <source>Write all as JPEG</source>
+        <source>Write All as JPEG</source>
         <translation>Alle als JPEG schreiben</translation>
     </message>
 </context>
@@ -2283,7 +2287,7 @@
         <translation>Drucken</translation>
     </message>
     <message>
-        <source>Pictures made ready for the print</source>
+        <source>Pictures prepared for printing</source>
         <translation>Für den Druck vorbereitete Bilder</translation>
     </message>
     <message>
@@ -2380,11 +2384,11 @@
 <context>
     <name>RecipeCard</name>
     <message>
-        <source>Move up</source>
+        <source>Move Up</source>
         <translation>Nach oben</translation>
     </message>
     <message>
-        <source>Move down</source>
+        <source>Move Down</source>
         <translation>Nach unten</translation>
     </message>
     <message>
@@ -2529,11 +2533,11 @@
 <context>
     <name>RenameCard</name>
     <message>
-        <source>Move up</source>
+        <source>Move Up</source>
         <translation>Nach oben</translation>
     </message>
     <message>
-        <source>Move down</source>
+        <source>Move Down</source>
         <translation>Nach unten</translation>
     </message>
     <message>
@@ -3659,12 +3663,12 @@
 <context>
     <name>crop-pane</name>
     <message>
-        <source>W × H</source>
-        <translation>B × H</translation>
+        <source>Size</source>
+        <translation>Größe</translation>
     </message>
     <message>
-        <source>Pixels</source>
-        <translation>Pixel</translation>
+        <source>Trim by px</source>
+        <translation>Schnitt px</translation>
     </message>
     <message>
         <source>Top left</source>
@@ -3725,6 +3729,10 @@
     <message>
         <source>%1 × %2 px</source>
         <translation>%1 × %2 px</translation>
+    </message>
+    <message>
+        <source>Trim by %</source>
+        <translation>Schnitt %</translation>
     </message>
 </context>
 <context>
@@ -4639,8 +4647,8 @@
 <context>
     <name>kept-list</name>
     <message>
-        <source>The list of the last time is back.</source>
-        <translation>Die Liste vom letzten Mal ist wieder da.</translation>
+        <source>The list of the last session was restored.</source>
+        <translation>Die Liste der letzten Sitzung wurde wiederhergestellt.</translation>
     </message>
 </context>
 <context>
@@ -5847,8 +5855,8 @@
 <context>
     <name>pages</name>
     <message>
-        <source>“%1” is nothing that pages know.</source>
-        <translation>„%1“ kennen die Seiten nicht.</translation>
+        <source>Pages have no setting “%1”.</source>
+        <translation>Seiten haben keine Einstellung „%1“.</translation>
     </message>
     <message>
         <source>Enter a width and a height of the paper from 20 to 2000 mm.</source>
@@ -5871,28 +5879,28 @@
         <translation>Geben Sie Textgrößen von 3 bis 72 Punkt ein.</translation>
     </message>
     <message>
-        <source>Enter from 36 to 1200 pixels for an inch.</source>
-        <translation>Geben Sie 36 bis 1200 Pixel je Zoll ein.</translation>
+        <source>Enter a resolution from 36 to 1200 pixels per inch.</source>
+        <translation>Geben Sie eine Auflösung von 36 bis 1200 Pixel pro Zoll ein.</translation>
     </message>
     <message>
         <source>Enter a quality from 1 to 100.</source>
         <translation>Geben Sie eine Qualität von 1 bis 100 ein.</translation>
     </message>
     <message>
-        <source>No room is left for pictures: take fewer rows or columns, smaller margins or gaps.</source>
-        <translation>Für Bilder bleibt kein Platz: Nehmen Sie weniger Zeilen oder Spalten, kleinere Ränder oder Abstände.</translation>
+        <source>There is no room for pictures. Use fewer rows or columns, or smaller margins or gaps.</source>
+        <translation>Für Bilder bleibt kein Platz. Wählen Sie weniger Zeilen oder Spalten oder kleinere Ränder oder Abstände.</translation>
     </message>
     <message>
-        <source>The pages could not be put together.</source>
-        <translation>Die Seiten konnten nicht zusammengestellt werden.</translation>
+        <source>The pages could not be created.</source>
+        <translation>Die Seiten konnten nicht erstellt werden.</translation>
     </message>
     <message>
         <source>The PDF cannot be written: %1</source>
         <translation>Das PDF kann nicht geschrieben werden: %1</translation>
     </message>
     <message>
-        <source>It could not be made ready for the page.</source>
-        <translation>Es konnte nicht für die Seite vorbereitet werden.</translation>
+        <source>The picture could not be prepared for the page.</source>
+        <translation>Das Bild konnte nicht für die Seite vorbereitet werden.</translation>
     </message>
 </context>
 <context>
@@ -9550,12 +9558,12 @@
         <translation>Der Datenträger ist voll</translation>
     </message>
     <message>
-        <source>There is no room left in %1.</source>
-        <translation>In %1 ist kein Platz mehr.</translation>
+        <source>There is no space left in %1.</source>
+        <translation>In %1 ist kein Speicherplatz mehr frei.</translation>
     </message>
     <message>
-        <source>The page can go on when there is room.</source>
-        <translation>Die Seite kann weitergehen, sobald Platz ist.</translation>
+        <source>Free some space and try again.</source>
+        <translation>Geben Sie Speicherplatz frei und versuchen Sie es noch einmal.</translation>
     </message>
     <message>
         <source>Retry</source>
@@ -9566,7 +9574,7 @@
         <translation>Abbrechen</translation>
     </message>
     <message>
-        <source>made, waits for the page</source>
+        <source>done, waiting for the page</source>
         <translation>fertig, wartet auf die Seite</translation>
     </message>
     <message>
@@ -9593,8 +9601,8 @@
 <context>
     <name>sites</name>
     <message>
-        <source>A page that Quorlin made in this folder is brought up to date.</source>
-        <translation>Eine Seite von Quorlin in diesem Ordner wird auf den neuen Stand gebracht.</translation>
+        <source>The page that Quorlin made in this folder is updated.</source>
+        <translation>Die Seite von Quorlin in diesem Ordner wird aktualisiert.</translation>
     </message>
 </context>
 <context>
@@ -10063,8 +10071,8 @@
         <translation>%1 ausgelassen</translation>
     </message>
     <message>
-        <source>Only pictures with %1 are worked on: %2</source>
-        <translation>Nur Bilder mit %1 werden bearbeitet: %2</translation>
+        <source>Only pictures with %1 are processed: %2</source>
+        <translation>Nur Bilder mit %1 werden verarbeitet: %2</translation>
     </message>
     <message numerus="yes">
         <source>%n stars and more</source>
@@ -10646,8 +10654,8 @@
         <translation>Koordinaten</translation>
     </message>
     <message>
-        <source>{%1} tells where a picture was taken. Allow places first, or leave it out.</source>
-        <translation>{%1} sagt, wo ein Bild aufgenommen wurde. Erlauben Sie zuerst Orte oder lassen Sie es weg.</translation>
+        <source>{%1} contains the location. Include the location first, or remove the token.</source>
+        <translation>{%1} enthält den Aufnahmeort. Geben Sie zuerst den Aufnahmeort an, oder entfernen Sie den Platzhalter.</translation>
     </message>
     <message>
         <source>Rating, 1 to 5</source>
@@ -10673,20 +10681,20 @@
         <translation>es gibt kein Feld {{%1}}</translation>
     </message>
     <message>
-        <source>{{%1}} stands outside {{#pictures}}</source>
-        <translation>{{%1}} steht außerhalb von {{#pictures}}</translation>
+        <source>{{%1}} must be inside {{#pictures}}</source>
+        <translation>{{%1}} muss innerhalb von {{#pictures}} stehen</translation>
     </message>
     <message>
         <source>{{pictures}} must be {{#pictures}}</source>
         <translation>{{pictures}} muss {{#pictures}} heißen</translation>
     </message>
     <message>
-        <source>{{%1}} cannot stand in a &lt;%2&gt;</source>
-        <translation>{{%1}} kann nicht in einem &lt;%2&gt; stehen</translation>
+        <source>{{%1}} cannot be used in a &lt;%2&gt;</source>
+        <translation>{{%1}} ist in einem &lt;%2&gt; nicht erlaubt</translation>
     </message>
     <message>
-        <source>{{#pictures}} cannot stand here</source>
-        <translation>{{#pictures}} kann hier nicht stehen</translation>
+        <source>{{#pictures}} cannot be used here</source>
+        <translation>{{#pictures}} ist hier nicht erlaubt</translation>
     </message>
     <message>
         <source>{{/%1}} closes nothing</source>
@@ -11096,20 +11104,20 @@
         <translation>In den Ordner %1 kann nicht geschrieben werden.</translation>
     </message>
     <message>
-        <source>%1 is no page that Quorlin made; it is left as it is.</source>
-        <translation>%1 ist keine Seite von Quorlin und bleibt, wie sie ist.</translation>
+        <source>%1 was not made by Quorlin and stays unchanged.</source>
+        <translation>%1 stammt nicht von Quorlin und bleibt unverändert.</translation>
     </message>
     <message>
-        <source>%1 was changed by somebody else since; it is left as it is.</source>
-        <translation>%1 wurde seitdem von anderen geändert und bleibt, wie es ist.</translation>
+        <source>%1 has been changed since by someone else and stays unchanged.</source>
+        <translation>%1 wurde inzwischen von jemand anderem geändert und bleibt, wie es ist.</translation>
     </message>
     <message>
         <source>The page could not be written.</source>
         <translation>Die Seite konnte nicht geschrieben werden.</translation>
     </message>
     <message>
-        <source>What was read back of the page is not what was written.</source>
-        <translation>Was von der Seite zurückgelesen wurde, ist nicht das Geschriebene.</translation>
+        <source>The saved page differs from what was written.</source>
+        <translation>Die gespeicherte Seite weicht von der geschriebenen ab.</translation>
     </message>
     <message>
         <source>%1 cannot be read.</source>
@@ -11146,8 +11154,8 @@
         <translation>Erzählung</translation>
     </message>
     <message>
-        <source>That of Quorlin</source>
-        <translation>Die von Quorlin</translation>
+        <source>Quorlin’s own</source>
+        <translation>Vorlage von Quorlin</translation>
     </message>
     <message>
         <source>By language</source>
@@ -11222,8 +11230,8 @@
         <translation>Fügen Sie zuerst Bilder hinzu.</translation>
     </message>
     <message>
-        <source>Mend the settings first.</source>
-        <translation>Berichtigen Sie zuerst die Einstellungen.</translation>
+        <source>Correct the settings first.</source>
+        <translation>Korrigieren Sie zuerst die Einstellungen.</translation>
     </message>
 </context>
 <context>
@@ -11256,8 +11264,8 @@
         <translation>es konnte kein Bild erzeugt werden</translation>
     </message>
     <message>
-        <source>No browser opens the page.</source>
-        <translation>Kein Browser öffnet die Seite.</translation>
+        <source>The page could not be opened in a browser.</source>
+        <translation>Die Seite konnte nicht in einem Browser geöffnet werden.</translation>
     </message>
 </context>
 <context>
@@ -11271,8 +11279,8 @@
         <translation>Die Vorlage %1 kann nicht gelesen werden.</translation>
     </message>
     <message>
-        <source>The name of the folder cannot have a / in it.</source>
-        <translation>Der Name des Ordners darf kein / enthalten.</translation>
+        <source>The folder name cannot contain “/”.</source>
+        <translation>Der Ordnername darf kein „/“ enthalten.</translation>
     </message>
     <message>
         <source>Sizes are whole numbers from %1 to %2, each larger than the one before.</source>
@@ -11283,8 +11291,8 @@
         <translation>Die Qualität ist eine ganze Zahl von 1 bis 100.</translation>
     </message>
     <message>
-        <source>%1 is no code of a language.</source>
-        <translation>%1 ist kein Code einer Sprache.</translation>
+        <source>%1 is not a valid language code.</source>
+        <translation>%1 ist kein gültiger Sprachcode.</translation>
     </message>
     <message>
         <source>Template, %1</source>

@@ -290,11 +290,11 @@
         <translation>Hauteur du papier</translation>
     </message>
     <message>
-        <source>Which way the paper is held</source>
-        <translation>Sens du papier</translation>
+        <source>Paper orientation</source>
+        <translation>Orientation du papier</translation>
     </message>
     <message>
-        <source>On a page</source>
+        <source>Per page</source>
         <translation>Par page</translation>
     </message>
     <message>
@@ -310,12 +310,12 @@
         <translation>Images</translation>
     </message>
     <message>
-        <source>How a picture lies in its place</source>
-        <translation>Comment une image occupe sa place</translation>
+        <source>How a picture fits its place</source>
+        <translation>Comment une image remplit sa place</translation>
     </message>
     <message>
-        <source>Turn pictures to fit</source>
-        <translation>Tourner les images pour les agrandir</translation>
+        <source>Rotate pictures to fit</source>
+        <translation>Pivoter les images pour les agrandir</translation>
     </message>
     <message>
         <source>Fill each page with one picture</source>
@@ -354,28 +354,28 @@
         <translation>Marge de droite</translation>
     </message>
     <message>
-        <source>Beneath</source>
-        <translation>Dessous</translation>
+        <source>Caption</source>
+        <translation>Légende</translation>
     </message>
     <message>
-        <source>Text beneath each picture</source>
-        <translation>Texte sous chaque image</translation>
+        <source>Caption below each picture</source>
+        <translation>Légende sous chaque image</translation>
     </message>
     <message>
-        <source>Insert a value of the picture</source>
-        <translation>Insérer une valeur de l’image</translation>
+        <source>Insert a token</source>
+        <translation>Insérer une variable</translation>
     </message>
     <message>
-        <source>Letters</source>
-        <translation>Lettres</translation>
+        <source>Text size</source>
+        <translation>Taille du texte</translation>
     </message>
     <message>
         <source> pt</source>
         <translation> pt</translation>
     </message>
     <message>
-        <source>Size of the text beneath pictures</source>
-        <translation>Taille du texte sous les images</translation>
+        <source>Text size of the captions</source>
+        <translation>Taille du texte des légendes</translation>
     </message>
     <message>
         <source>Header</source>
@@ -386,16 +386,16 @@
         <translation>Insérer le numéro de page</translation>
     </message>
     <message>
-        <source>Where the header stands</source>
-        <translation>Où se trouve l’en-tête</translation>
+        <source>Position of the header</source>
+        <translation>Position de l’en-tête</translation>
     </message>
     <message>
         <source>Footer</source>
         <translation>Pied de page</translation>
     </message>
     <message>
-        <source>Where the footer stands</source>
-        <translation>Où se trouve le pied de page</translation>
+        <source>Position of the footer</source>
+        <translation>Position du pied de page</translation>
     </message>
     <message>
         <source>Crop marks</source>
@@ -410,8 +410,8 @@
         <translation>Police</translation>
     </message>
     <message>
-        <source>Header letters</source>
-        <translation>Lettres d’en-tête</translation>
+        <source>Header size</source>
+        <translation>Taille en-tête</translation>
     </message>
     <message>
         <source>Size of header and footer</source>
@@ -434,8 +434,8 @@
         <translation> ppp</translation>
     </message>
     <message>
-        <source>Pixels for an inch of paper, at most</source>
-        <translation>Pixels par pouce de papier, au plus</translation>
+        <source>Maximum number of pixels per inch of paper</source>
+        <translation>Nombre maximal de pixels par pouce de papier</translation>
     </message>
     <message>
         <source>Quality</source>
@@ -512,16 +512,16 @@
 <context>
     <name>CropPane</name>
     <message>
-        <source>W × H</source>
-        <translation>L × H</translation>
+        <source>Size</source>
+        <translation>Taille</translation>
     </message>
     <message>
-        <source>%</source>
-        <translation>%</translation>
+        <source>Trim by %</source>
+        <translation>Rogner %</translation>
     </message>
     <message>
-        <source>Pixels</source>
-        <translation>Pixels</translation>
+        <source>Trim by px</source>
+        <translation>Rogner px</translation>
     </message>
     <message>
         <source>How the frame is set</source>
@@ -739,16 +739,16 @@
         <translation>Passer</translation>
     </message>
     <message>
-        <source>Keys Move</source>
-        <translation>Touches&#x202f;: déplacer</translation>
+        <source>Move with Keys</source>
+        <translation>Déplacer avec les touches</translation>
     </message>
     <message>
-        <source>Keys Copy</source>
-        <translation>Touches&#x202f;: copier</translation>
+        <source>Copy with Keys</source>
+        <translation>Copier avec les touches</translation>
     </message>
     <message>
-        <source>Keys Link</source>
-        <translation>Touches&#x202f;: lier</translation>
+        <source>Link with Keys</source>
+        <translation>Lier avec les touches</translation>
     </message>
     <message>
         <source>Actual pixels</source>
@@ -903,7 +903,7 @@
         <translation>Récit</translation>
     </message>
     <message>
-        <source>How the pictures lie</source>
+        <source>Arrangement of the pictures</source>
         <translation>Disposition des images</translation>
     </message>
     <message>
@@ -931,23 +931,23 @@
         <translation>Légende de l’image actuelle</translation>
     </message>
     <message>
-        <source>As above</source>
+        <source>As Above</source>
         <translation>Comme ci-dessus</translation>
     </message>
     <message>
-        <source>Forget what was typed for this picture</source>
-        <translation>Oublier ce qui a été saisi pour cette image</translation>
+        <source>Discard the caption of this picture</source>
+        <translation>Abandonner la légende de cette image</translation>
     </message>
     <message>
         <source>Colours</source>
         <translation>Couleurs</translation>
     </message>
     <message>
-        <source>Paper by daylight</source>
+        <source>Light page colour</source>
         <translation>Fond clair</translation>
     </message>
     <message>
-        <source>Paper in the dark</source>
+        <source>Dark page colour</source>
         <translation>Fond sombre</translation>
     </message>
     <message>
@@ -995,8 +995,8 @@
         <translation>Trois tailles</translation>
     </message>
     <message>
-        <source>Without it there are a small and a large file of each picture</source>
-        <translation>Sans cela, chaque image a un petit et un grand fichier</translation>
+        <source>If this is off, each picture has only a small and a large file</source>
+        <translation>Sinon, chaque image a seulement un petit et un grand fichier</translation>
     </message>
     <message>
         <source>File type</source>
@@ -1023,12 +1023,12 @@
         <translation>Métadonnées des images</translation>
     </message>
     <message>
-        <source>Tell where pictures were taken</source>
-        <translation>Indiquer où les images ont été prises</translation>
+        <source>Include the location</source>
+        <translation>Inclure le lieu</translation>
     </message>
     <message>
-        <source>Places stay in the metadata, and captions may name them</source>
-        <translation>Les lieux restent dans les métadonnées et les légendes peuvent les citer</translation>
+        <source>The metadata keeps the location, and captions can contain it</source>
+        <translation>Les métadonnées gardent le lieu et les légendes peuvent le citer</translation>
     </message>
     <message>
         <source>Offer the pictures for download</source>
@@ -1039,8 +1039,8 @@
         <translation>Enregistrer dans</translation>
     </message>
     <message>
-        <source>Folder that the page is made in</source>
-        <translation>Dossier où la page est créée</translation>
+        <source>Where the page is saved</source>
+        <translation>Où la page est enregistrée</translation>
     </message>
     <message>
         <source>Folder</source>
@@ -1809,8 +1809,8 @@
 <context>
     <name>Manual</name>
     <message>
-        <source>Manual</source>
-        <translation>Manuel</translation>
+        <source>Help</source>
+        <translation>Aide</translation>
     </message>
     <message>
         <source>Back</source>
@@ -1825,7 +1825,7 @@
         <translation>Rechercher</translation>
     </message>
     <message>
-        <source>Find next</source>
+        <source>Find Next</source>
         <translation>Rechercher la suite</translation>
     </message>
     <message>
@@ -1876,7 +1876,7 @@
         <translation>Ajouter un dossier…</translation>
     </message>
     <message>
-        <source>Search properties</source>
+        <source>Search Properties</source>
         <translation>Chercher une propriété</translation>
     </message>
     <message>
@@ -1968,7 +1968,7 @@
         <translation>Écrire le commentaire dans cette image. Ctrl+Entrée passe ensuite à la suivante.</translation>
     </message>
     <message>
-        <source>Write comment and go to the next picture</source>
+        <source>Write Comment and Go to the Next Picture</source>
         <translation>Écrire le commentaire et passer à l’image suivante</translation>
     </message>
     <message>
@@ -1978,6 +1978,10 @@
     <message>
         <source>Write titles, keywords, copyright and other fields of many pictures</source>
         <translation>Écrire titres, mots-clés, copyright et autres champs de plusieurs images</translation>
+    </message>
+    <message>
+        <source>Search properties</source>
+        <translation>Chercher une propriété</translation>
     </message>
 </context>
 <context>
@@ -2126,7 +2130,7 @@
         <translation>Afficher plus ou moins de réglages</translation>
     </message>
     <message>
-        <source>Write all as JPEG</source>
+        <source>Write All as JPEG</source>
         <translation>Tout écrire en JPEG</translation>
     </message>
 </context>
@@ -2283,7 +2287,7 @@
         <translation>Imprimer</translation>
     </message>
     <message>
-        <source>Pictures made ready for the print</source>
+        <source>Pictures prepared for printing</source>
         <translation>Images préparées pour l’impression</translation>
     </message>
     <message>
@@ -2380,11 +2384,11 @@
 <context>
     <name>RecipeCard</name>
     <message>
-        <source>Move up</source>
+        <source>Move Up</source>
         <translation>Monter</translation>
     </message>
     <message>
-        <source>Move down</source>
+        <source>Move Down</source>
         <translation>Descendre</translation>
     </message>
     <message>
@@ -2529,11 +2533,11 @@
 <context>
     <name>RenameCard</name>
     <message>
-        <source>Move up</source>
+        <source>Move Up</source>
         <translation>Monter</translation>
     </message>
     <message>
-        <source>Move down</source>
+        <source>Move Down</source>
         <translation>Descendre</translation>
     </message>
     <message>
@@ -3659,12 +3663,12 @@
 <context>
     <name>crop-pane</name>
     <message>
-        <source>W × H</source>
-        <translation>L × H</translation>
+        <source>Size</source>
+        <translation>Taille</translation>
     </message>
     <message>
-        <source>Pixels</source>
-        <translation>Pixels</translation>
+        <source>Trim by px</source>
+        <translation>Rogner px</translation>
     </message>
     <message>
         <source>Top left</source>
@@ -3725,6 +3729,10 @@
     <message>
         <source>%1 × %2 px</source>
         <translation>%1 × %2 px</translation>
+    </message>
+    <message>
+        <source>Trim by %</source>
+        <translation>Rogner %</translation>
     </message>
 </context>
 <context>
@@ -4639,8 +4647,8 @@
 <context>
     <name>kept-list</name>
     <message>
-        <source>The list of the last time is back.</source>
-        <translation>La liste de la dernière fois est revenue.</translation>
+        <source>The list of the last session was restored.</source>
+        <translation>La liste de la dernière session a été rétablie.</translation>
     </message>
 </context>
 <context>
@@ -5847,8 +5855,8 @@
 <context>
     <name>pages</name>
     <message>
-        <source>“%1” is nothing that pages know.</source>
-        <translation>« %1 » est inconnu pour les pages.</translation>
+        <source>Pages have no setting “%1”.</source>
+        <translation>Les pages n’ont pas de réglage « %1 ».</translation>
     </message>
     <message>
         <source>Enter a width and a height of the paper from 20 to 2000 mm.</source>
@@ -5871,28 +5879,28 @@
         <translation>Saisissez des tailles de texte de 3 à 72 points.</translation>
     </message>
     <message>
-        <source>Enter from 36 to 1200 pixels for an inch.</source>
-        <translation>Saisissez de 36 à 1200 pixels par pouce.</translation>
+        <source>Enter a resolution from 36 to 1200 pixels per inch.</source>
+        <translation>Saisissez une résolution de 36 à 1200 pixels par pouce.</translation>
     </message>
     <message>
         <source>Enter a quality from 1 to 100.</source>
         <translation>Saisissez une qualité de 1 à 100.</translation>
     </message>
     <message>
-        <source>No room is left for pictures: take fewer rows or columns, smaller margins or gaps.</source>
-        <translation>Il ne reste pas de place pour les images : prenez moins de lignes ou de colonnes, des marges ou des espaces plus petits.</translation>
+        <source>There is no room for pictures. Use fewer rows or columns, or smaller margins or gaps.</source>
+        <translation>Il n’y a pas de place pour les images. Choisissez moins de lignes ou de colonnes, ou des marges ou des espaces plus petits.</translation>
     </message>
     <message>
-        <source>The pages could not be put together.</source>
-        <translation>Les pages n’ont pas pu être assemblées.</translation>
+        <source>The pages could not be created.</source>
+        <translation>Les pages n’ont pas pu être créées.</translation>
     </message>
     <message>
         <source>The PDF cannot be written: %1</source>
         <translation>Le PDF ne peut pas être écrit : %1</translation>
     </message>
     <message>
-        <source>It could not be made ready for the page.</source>
-        <translation>Elle n’a pas pu être préparée pour la page.</translation>
+        <source>The picture could not be prepared for the page.</source>
+        <translation>L’image n’a pas pu être préparée pour la page.</translation>
     </message>
 </context>
 <context>
@@ -9550,12 +9558,12 @@
         <translation>Le disque est plein</translation>
     </message>
     <message>
-        <source>There is no room left in %1.</source>
-        <translation>Il n’y a plus de place dans %1.</translation>
+        <source>There is no space left in %1.</source>
+        <translation>Il n’y a plus d’espace dans %1.</translation>
     </message>
     <message>
-        <source>The page can go on when there is room.</source>
-        <translation>La page peut continuer dès qu’il y a de la place.</translation>
+        <source>Free some space and try again.</source>
+        <translation>Libérez de l’espace et réessayez.</translation>
     </message>
     <message>
         <source>Retry</source>
@@ -9566,8 +9574,8 @@
         <translation>Annuler</translation>
     </message>
     <message>
-        <source>made, waits for the page</source>
-        <translation>faite, attend la page</translation>
+        <source>done, waiting for the page</source>
+        <translation>terminé, attend la page</translation>
     </message>
     <message>
         <source>not on the page</source>
@@ -9593,8 +9601,8 @@
 <context>
     <name>sites</name>
     <message>
-        <source>A page that Quorlin made in this folder is brought up to date.</source>
-        <translation>Une page créée par Quorlin dans ce dossier est mise à jour.</translation>
+        <source>The page that Quorlin made in this folder is updated.</source>
+        <translation>La page créée par Quorlin dans ce dossier est mise à jour.</translation>
     </message>
 </context>
 <context>
@@ -10063,8 +10071,8 @@
         <translation>%1 laissées de côté</translation>
     </message>
     <message>
-        <source>Only pictures with %1 are worked on: %2</source>
-        <translation>Seules les images avec %1 sont traitées : %2</translation>
+        <source>Only pictures with %1 are processed: %2</source>
+        <translation>Seules les images avec %1 sont traitées : %2</translation>
     </message>
     <message numerus="yes">
         <source>%n stars and more</source>
@@ -10646,8 +10654,8 @@
         <translation>Coordonnées</translation>
     </message>
     <message>
-        <source>{%1} tells where a picture was taken. Allow places first, or leave it out.</source>
-        <translation>{%1} indique où une image a été prise. Autorisez d’abord les lieux ou retirez cette valeur.</translation>
+        <source>{%1} contains the location. Include the location first, or remove the token.</source>
+        <translation>{%1} contient le lieu. Incluez d’abord le lieu ou retirez la variable.</translation>
     </message>
     <message>
         <source>Rating, 1 to 5</source>
@@ -10673,20 +10681,20 @@
         <translation>il n’y a pas de champ {{%1}}</translation>
     </message>
     <message>
-        <source>{{%1}} stands outside {{#pictures}}</source>
-        <translation>{{%1}} se trouve hors de {{#pictures}}</translation>
+        <source>{{%1}} must be inside {{#pictures}}</source>
+        <translation>{{%1}} doit se trouver dans {{#pictures}}</translation>
     </message>
     <message>
         <source>{{pictures}} must be {{#pictures}}</source>
         <translation>{{pictures}} doit s’écrire {{#pictures}}</translation>
     </message>
     <message>
-        <source>{{%1}} cannot stand in a &lt;%2&gt;</source>
-        <translation>{{%1}} ne peut pas se trouver dans un &lt;%2&gt;</translation>
+        <source>{{%1}} cannot be used in a &lt;%2&gt;</source>
+        <translation>{{%1}} n’est pas permis dans un &lt;%2&gt;</translation>
     </message>
     <message>
-        <source>{{#pictures}} cannot stand here</source>
-        <translation>{{#pictures}} ne peut pas se trouver ici</translation>
+        <source>{{#pictures}} cannot be used here</source>
+        <translation>{{#pictures}} n’est pas permis ici</translation>
     </message>
     <message>
         <source>{{/%1}} closes nothing</source>
@@ -11096,20 +11104,20 @@
         <translation>Impossible d’écrire dans le dossier %1.</translation>
     </message>
     <message>
-        <source>%1 is no page that Quorlin made; it is left as it is.</source>
-        <translation>%1 n’est pas une page créée par Quorlin ; elle reste telle quelle.</translation>
+        <source>%1 was not made by Quorlin and stays unchanged.</source>
+        <translation>%1 n’a pas été créé par Quorlin et reste inchangé.</translation>
     </message>
     <message>
-        <source>%1 was changed by somebody else since; it is left as it is.</source>
-        <translation>%1 a été modifié depuis par quelqu’un d’autre ; il reste tel quel.</translation>
+        <source>%1 has been changed since by someone else and stays unchanged.</source>
+        <translation>%1 a été modifié entre-temps par quelqu’un d’autre et reste tel quel.</translation>
     </message>
     <message>
         <source>The page could not be written.</source>
         <translation>La page n’a pas pu être écrite.</translation>
     </message>
     <message>
-        <source>What was read back of the page is not what was written.</source>
-        <translation>Ce qui a été relu de la page n’est pas ce qui a été écrit.</translation>
+        <source>The saved page differs from what was written.</source>
+        <translation>La page enregistrée diffère de ce qui a été écrit.</translation>
     </message>
     <message>
         <source>%1 cannot be read.</source>
@@ -11146,8 +11154,8 @@
         <translation>Récit</translation>
     </message>
     <message>
-        <source>That of Quorlin</source>
-        <translation>Celle de Quorlin</translation>
+        <source>Quorlin’s own</source>
+        <translation>Modèle de Quorlin</translation>
     </message>
     <message>
         <source>By language</source>
@@ -11222,7 +11230,7 @@
         <translation>Ajoutez d’abord des images.</translation>
     </message>
     <message>
-        <source>Mend the settings first.</source>
+        <source>Correct the settings first.</source>
         <translation>Corrigez d’abord les réglages.</translation>
     </message>
 </context>
@@ -11256,8 +11264,8 @@
         <translation>aucune image n’a pu être créée</translation>
     </message>
     <message>
-        <source>No browser opens the page.</source>
-        <translation>Aucun navigateur n’ouvre la page.</translation>
+        <source>The page could not be opened in a browser.</source>
+        <translation>La page n’a pas pu être ouverte dans un navigateur.</translation>
     </message>
 </context>
 <context>
@@ -11271,8 +11279,8 @@
         <translation>Le modèle %1 ne peut pas être lu.</translation>
     </message>
     <message>
-        <source>The name of the folder cannot have a / in it.</source>
-        <translation>Le nom du dossier ne peut pas contenir de /.</translation>
+        <source>The folder name cannot contain “/”.</source>
+        <translation>Le nom du dossier ne peut pas contenir « / ».</translation>
     </message>
     <message>
         <source>Sizes are whole numbers from %1 to %2, each larger than the one before.</source>
@@ -11283,8 +11291,8 @@
         <translation>La qualité est un nombre entier de 1 à 100.</translation>
     </message>
     <message>
-        <source>%1 is no code of a language.</source>
-        <translation>%1 n’est pas un code de langue.</translation>
+        <source>%1 is not a valid language code.</source>
+        <translation>%1 n’est pas un code de langue valide.</translation>
     </message>
     <message>
         <source>Template, %1</source>

@@ -290,11 +290,11 @@
         <translation>Hoogte van het papier</translation>
     </message>
     <message>
-        <source>Which way the paper is held</source>
+        <source>Paper orientation</source>
         <translation>Stand van het papier</translation>
     </message>
     <message>
-        <source>On a page</source>
+        <source>Per page</source>
         <translation>Per pagina</translation>
     </message>
     <message>
@@ -310,11 +310,11 @@
         <translation>Foto’s</translation>
     </message>
     <message>
-        <source>How a picture lies in its place</source>
-        <translation>Hoe een foto in zijn vak ligt</translation>
+        <source>How a picture fits its place</source>
+        <translation>Hoe een foto in zijn vak past</translation>
     </message>
     <message>
-        <source>Turn pictures to fit</source>
+        <source>Rotate pictures to fit</source>
         <translation>Foto’s passend draaien</translation>
     </message>
     <message>
@@ -354,28 +354,28 @@
         <translation>Marge rechts</translation>
     </message>
     <message>
-        <source>Beneath</source>
-        <translation>Eronder</translation>
+        <source>Caption</source>
+        <translation>Bijschrift</translation>
     </message>
     <message>
-        <source>Text beneath each picture</source>
-        <translation>Tekst onder elke foto</translation>
+        <source>Caption below each picture</source>
+        <translation>Bijschrift onder elke foto</translation>
     </message>
     <message>
-        <source>Insert a value of the picture</source>
-        <translation>Een waarde van de foto invoegen</translation>
+        <source>Insert a token</source>
+        <translation>Een code invoegen</translation>
     </message>
     <message>
-        <source>Letters</source>
-        <translation>Letters</translation>
+        <source>Text size</source>
+        <translation>Tekstgrootte</translation>
     </message>
     <message>
         <source> pt</source>
         <translation> pt</translation>
     </message>
     <message>
-        <source>Size of the text beneath pictures</source>
-        <translation>Grootte van de tekst onder foto’s</translation>
+        <source>Text size of the captions</source>
+        <translation>Tekstgrootte van de bijschriften</translation>
     </message>
     <message>
         <source>Header</source>
@@ -386,16 +386,16 @@
         <translation>Paginanummer invoegen</translation>
     </message>
     <message>
-        <source>Where the header stands</source>
-        <translation>Waar de koptekst staat</translation>
+        <source>Position of the header</source>
+        <translation>Positie van de koptekst</translation>
     </message>
     <message>
         <source>Footer</source>
         <translation>Voettekst</translation>
     </message>
     <message>
-        <source>Where the footer stands</source>
-        <translation>Waar de voettekst staat</translation>
+        <source>Position of the footer</source>
+        <translation>Positie van de voettekst</translation>
     </message>
     <message>
         <source>Crop marks</source>
@@ -410,8 +410,8 @@
         <translation>Lettertype</translation>
     </message>
     <message>
-        <source>Header letters</source>
-        <translation>Letters kop</translation>
+        <source>Header size</source>
+        <translation>Grootte kop</translation>
     </message>
     <message>
         <source>Size of header and footer</source>
@@ -434,8 +434,8 @@
         <translation> dpi</translation>
     </message>
     <message>
-        <source>Pixels for an inch of paper, at most</source>
-        <translation>Hoogstens zoveel pixels per inch papier</translation>
+        <source>Maximum number of pixels per inch of paper</source>
+        <translation>Maximumaantal pixels per inch papier</translation>
     </message>
     <message>
         <source>Quality</source>
@@ -512,16 +512,16 @@
 <context>
     <name>CropPane</name>
     <message>
-        <source>W × H</source>
-        <translation>B × H</translation>
+        <source>Size</source>
+        <translation>Formaat</translation>
     </message>
     <message>
-        <source>%</source>
-        <translation>%</translation>
+        <source>Trim by %</source>
+        <translation>Snijden %</translation>
     </message>
     <message>
-        <source>Pixels</source>
-        <translation>Pixels</translation>
+        <source>Trim by px</source>
+        <translation>Snijden px</translation>
     </message>
     <message>
         <source>How the frame is set</source>
@@ -739,16 +739,16 @@
         <translation>Overslaan</translation>
     </message>
     <message>
-        <source>Keys Move</source>
-        <translation>Toetsen: verplaatsen</translation>
+        <source>Move with Keys</source>
+        <translation>Verplaatsen met toetsen</translation>
     </message>
     <message>
-        <source>Keys Copy</source>
-        <translation>Toetsen: kopiëren</translation>
+        <source>Copy with Keys</source>
+        <translation>Kopiëren met toetsen</translation>
     </message>
     <message>
-        <source>Keys Link</source>
-        <translation>Toetsen: linken</translation>
+        <source>Link with Keys</source>
+        <translation>Koppelen met toetsen</translation>
     </message>
     <message>
         <source>Actual pixels</source>
@@ -903,8 +903,8 @@
         <translation>Verhaal</translation>
     </message>
     <message>
-        <source>How the pictures lie</source>
-        <translation>Hoe de foto’s liggen</translation>
+        <source>Arrangement of the pictures</source>
+        <translation>Indeling van de foto’s</translation>
     </message>
     <message>
         <source>Sketch of the page</source>
@@ -931,24 +931,24 @@
         <translation>Bijschrift van de huidige foto</translation>
     </message>
     <message>
-        <source>As above</source>
+        <source>As Above</source>
         <translation>Zoals hierboven</translation>
     </message>
     <message>
-        <source>Forget what was typed for this picture</source>
-        <translation>Vergeten wat voor deze foto is getypt</translation>
+        <source>Discard the caption of this picture</source>
+        <translation>Het bijschrift van deze foto wissen</translation>
     </message>
     <message>
         <source>Colours</source>
         <translation>Kleuren</translation>
     </message>
     <message>
-        <source>Paper by daylight</source>
-        <translation>Papier bij daglicht</translation>
+        <source>Light page colour</source>
+        <translation>Lichte paginakleur</translation>
     </message>
     <message>
-        <source>Paper in the dark</source>
-        <translation>Papier in het donker</translation>
+        <source>Dark page colour</source>
+        <translation>Donkere paginakleur</translation>
     </message>
     <message>
         <source>Links</source>
@@ -995,8 +995,8 @@
         <translation>Drie formaten</translation>
     </message>
     <message>
-        <source>Without it there are a small and a large file of each picture</source>
-        <translation>Zonder dit is er van elke foto een klein en een groot bestand</translation>
+        <source>If this is off, each picture has only a small and a large file</source>
+        <translation>Anders heeft elke foto alleen een klein en een groot bestand</translation>
     </message>
     <message>
         <source>File type</source>
@@ -1023,12 +1023,12 @@
         <translation>Metadata van de foto’s</translation>
     </message>
     <message>
-        <source>Tell where pictures were taken</source>
-        <translation>Vertellen waar foto’s zijn gemaakt</translation>
+        <source>Include the location</source>
+        <translation>Locatie vermelden</translation>
     </message>
     <message>
-        <source>Places stay in the metadata, and captions may name them</source>
-        <translation>Plaatsen blijven in de metadata en bijschriften mogen ze noemen</translation>
+        <source>The metadata keeps the location, and captions can contain it</source>
+        <translation>De metadata behoudt de locatie en bijschriften mogen die noemen</translation>
     </message>
     <message>
         <source>Offer the pictures for download</source>
@@ -1039,8 +1039,8 @@
         <translation>Bewaren in</translation>
     </message>
     <message>
-        <source>Folder that the page is made in</source>
-        <translation>Map waarin de pagina wordt gemaakt</translation>
+        <source>Where the page is saved</source>
+        <translation>Waar de pagina wordt opgeslagen</translation>
     </message>
     <message>
         <source>Folder</source>
@@ -1809,8 +1809,8 @@
 <context>
     <name>Manual</name>
     <message>
-        <source>Manual</source>
-        <translation>Handleiding</translation>
+        <source>Help</source>
+        <translation>Help</translation>
     </message>
     <message>
         <source>Back</source>
@@ -1825,7 +1825,7 @@
         <translation>Zoeken</translation>
     </message>
     <message>
-        <source>Find next</source>
+        <source>Find Next</source>
         <translation>Volgende zoeken</translation>
     </message>
     <message>
@@ -1876,7 +1876,7 @@
         <translation>Map toevoegen…</translation>
     </message>
     <message>
-        <source>Search properties</source>
+        <source>Search Properties</source>
         <translation>Eigenschappen zoeken</translation>
     </message>
     <message>
@@ -1968,7 +1968,7 @@
         <translation>De opmerking in deze foto schrijven. Ctrl+Enter gaat daarna naar de volgende.</translation>
     </message>
     <message>
-        <source>Write comment and go to the next picture</source>
+        <source>Write Comment and Go to the Next Picture</source>
         <translation>Opmerking schrijven en naar de volgende foto</translation>
     </message>
     <message>
@@ -1978,6 +1978,10 @@
     <message>
         <source>Write titles, keywords, copyright and other fields of many pictures</source>
         <translation>Titels, trefwoorden, copyright en andere velden van veel foto’s schrijven</translation>
+    </message>
+    <message>
+        <source>Search properties</source>
+        <translation>Eigenschappen zoeken</translation>
     </message>
 </context>
 <context>
@@ -2126,7 +2130,7 @@
         <translation>Meer of minder instellingen tonen</translation>
     </message>
     <message>
-        <source>Write all as JPEG</source>
+        <source>Write All as JPEG</source>
         <translation>Alles als JPEG schrijven</translation>
     </message>
 </context>
@@ -2283,7 +2287,7 @@
         <translation>Afdrukken</translation>
     </message>
     <message>
-        <source>Pictures made ready for the print</source>
+        <source>Pictures prepared for printing</source>
         <translation>Foto’s gereedgemaakt voor het afdrukken</translation>
     </message>
     <message>
@@ -2380,11 +2384,11 @@
 <context>
     <name>RecipeCard</name>
     <message>
-        <source>Move up</source>
+        <source>Move Up</source>
         <translation>Omhoog</translation>
     </message>
     <message>
-        <source>Move down</source>
+        <source>Move Down</source>
         <translation>Omlaag</translation>
     </message>
     <message>
@@ -2529,11 +2533,11 @@
 <context>
     <name>RenameCard</name>
     <message>
-        <source>Move up</source>
+        <source>Move Up</source>
         <translation>Omhoog</translation>
     </message>
     <message>
-        <source>Move down</source>
+        <source>Move Down</source>
         <translation>Omlaag</translation>
     </message>
     <message>
@@ -3659,12 +3663,12 @@
 <context>
     <name>crop-pane</name>
     <message>
-        <source>W × H</source>
-        <translation>B × H</translation>
+        <source>Size</source>
+        <translation>Formaat</translation>
     </message>
     <message>
-        <source>Pixels</source>
-        <translation>Pixels</translation>
+        <source>Trim by px</source>
+        <translation>Snijden px</translation>
     </message>
     <message>
         <source>Top left</source>
@@ -3725,6 +3729,10 @@
     <message>
         <source>%1 × %2 px</source>
         <translation>%1 × %2 px</translation>
+    </message>
+    <message>
+        <source>Trim by %</source>
+        <translation>Snijden %</translation>
     </message>
 </context>
 <context>
@@ -4639,8 +4647,8 @@
 <context>
     <name>kept-list</name>
     <message>
-        <source>The list of the last time is back.</source>
-        <translation>De lijst van de vorige keer is terug.</translation>
+        <source>The list of the last session was restored.</source>
+        <translation>De lijst van de vorige sessie is hersteld.</translation>
     </message>
 </context>
 <context>
@@ -5847,8 +5855,8 @@
 <context>
     <name>pages</name>
     <message>
-        <source>“%1” is nothing that pages know.</source>
-        <translation>“%1” is onbekend voor pagina’s.</translation>
+        <source>Pages have no setting “%1”.</source>
+        <translation>Pagina’s hebben geen instelling “%1”.</translation>
     </message>
     <message>
         <source>Enter a width and a height of the paper from 20 to 2000 mm.</source>
@@ -5871,28 +5879,28 @@
         <translation>Voer tekstgroottes van 3 tot 72 punten in.</translation>
     </message>
     <message>
-        <source>Enter from 36 to 1200 pixels for an inch.</source>
-        <translation>Voer 36 tot 1200 pixels per inch in.</translation>
+        <source>Enter a resolution from 36 to 1200 pixels per inch.</source>
+        <translation>Voer een resolutie van 36 tot 1200 pixels per inch in.</translation>
     </message>
     <message>
         <source>Enter a quality from 1 to 100.</source>
         <translation>Voer een kwaliteit van 1 tot 100 in.</translation>
     </message>
     <message>
-        <source>No room is left for pictures: take fewer rows or columns, smaller margins or gaps.</source>
-        <translation>Er blijft geen ruimte over voor foto’s: neem minder rijen of kolommen, of kleinere marges of tussenruimten.</translation>
+        <source>There is no room for pictures. Use fewer rows or columns, or smaller margins or gaps.</source>
+        <translation>Er is geen ruimte voor foto’s. Kies minder rijen of kolommen, of kleinere marges of tussenruimten.</translation>
     </message>
     <message>
-        <source>The pages could not be put together.</source>
-        <translation>De pagina’s konden niet worden samengesteld.</translation>
+        <source>The pages could not be created.</source>
+        <translation>De pagina’s konden niet worden gemaakt.</translation>
     </message>
     <message>
         <source>The PDF cannot be written: %1</source>
         <translation>De pdf kan niet worden geschreven: %1</translation>
     </message>
     <message>
-        <source>It could not be made ready for the page.</source>
-        <translation>Deze kon niet voor de pagina worden gereedgemaakt.</translation>
+        <source>The picture could not be prepared for the page.</source>
+        <translation>De foto kon niet voor de pagina worden voorbereid.</translation>
     </message>
 </context>
 <context>
@@ -9550,12 +9558,12 @@
         <translation>De schijf is vol</translation>
     </message>
     <message>
-        <source>There is no room left in %1.</source>
+        <source>There is no space left in %1.</source>
         <translation>Er is geen ruimte meer in %1.</translation>
     </message>
     <message>
-        <source>The page can go on when there is room.</source>
-        <translation>De pagina kan verdergaan zodra er ruimte is.</translation>
+        <source>Free some space and try again.</source>
+        <translation>Maak ruimte vrij en probeer het opnieuw.</translation>
     </message>
     <message>
         <source>Retry</source>
@@ -9566,7 +9574,7 @@
         <translation>Annuleren</translation>
     </message>
     <message>
-        <source>made, waits for the page</source>
+        <source>done, waiting for the page</source>
         <translation>klaar, wacht op de pagina</translation>
     </message>
     <message>
@@ -9593,8 +9601,8 @@
 <context>
     <name>sites</name>
     <message>
-        <source>A page that Quorlin made in this folder is brought up to date.</source>
-        <translation>Een pagina van Quorlin in deze map wordt bijgewerkt.</translation>
+        <source>The page that Quorlin made in this folder is updated.</source>
+        <translation>De pagina van Quorlin in deze map wordt bijgewerkt.</translation>
     </message>
 </context>
 <context>
@@ -10063,8 +10071,8 @@
         <translation>%1 weggelaten</translation>
     </message>
     <message>
-        <source>Only pictures with %1 are worked on: %2</source>
-        <translation>Alleen afbeeldingen met %1 worden bewerkt: %2</translation>
+        <source>Only pictures with %1 are processed: %2</source>
+        <translation>Alleen foto’s met %1 worden verwerkt: %2</translation>
     </message>
     <message numerus="yes">
         <source>%n stars and more</source>
@@ -10646,8 +10654,8 @@
         <translation>Coördinaten</translation>
     </message>
     <message>
-        <source>{%1} tells where a picture was taken. Allow places first, or leave it out.</source>
-        <translation>{%1} vertelt waar een foto is gemaakt. Sta eerst plaatsen toe of laat het weg.</translation>
+        <source>{%1} contains the location. Include the location first, or remove the token.</source>
+        <translation>{%1} bevat de locatie. Vermeld eerst de locatie of verwijder de code.</translation>
     </message>
     <message>
         <source>Rating, 1 to 5</source>
@@ -10673,20 +10681,20 @@
         <translation>er is geen veld {{%1}}</translation>
     </message>
     <message>
-        <source>{{%1}} stands outside {{#pictures}}</source>
-        <translation>{{%1}} staat buiten {{#pictures}}</translation>
+        <source>{{%1}} must be inside {{#pictures}}</source>
+        <translation>{{%1}} moet binnen {{#pictures}} staan</translation>
     </message>
     <message>
         <source>{{pictures}} must be {{#pictures}}</source>
         <translation>{{pictures}} moet {{#pictures}} zijn</translation>
     </message>
     <message>
-        <source>{{%1}} cannot stand in a &lt;%2&gt;</source>
-        <translation>{{%1}} kan niet in een &lt;%2&gt; staan</translation>
+        <source>{{%1}} cannot be used in a &lt;%2&gt;</source>
+        <translation>{{%1}} is niet toegestaan in een &lt;%2&gt;</translation>
     </message>
     <message>
-        <source>{{#pictures}} cannot stand here</source>
-        <translation>{{#pictures}} kan hier niet staan</translation>
+        <source>{{#pictures}} cannot be used here</source>
+        <translation>{{#pictures}} is hier niet toegestaan</translation>
     </message>
     <message>
         <source>{{/%1}} closes nothing</source>
@@ -11096,20 +11104,20 @@
         <translation>In de map %1 kan niet worden geschreven.</translation>
     </message>
     <message>
-        <source>%1 is no page that Quorlin made; it is left as it is.</source>
-        <translation>%1 is geen pagina van Quorlin en blijft zoals ze is.</translation>
+        <source>%1 was not made by Quorlin and stays unchanged.</source>
+        <translation>%1 is niet door Quorlin gemaakt en blijft ongewijzigd.</translation>
     </message>
     <message>
-        <source>%1 was changed by somebody else since; it is left as it is.</source>
-        <translation>%1 is sindsdien door iemand anders gewijzigd en blijft zoals het is.</translation>
+        <source>%1 has been changed since by someone else and stays unchanged.</source>
+        <translation>%1 is intussen door iemand anders gewijzigd en blijft zoals het is.</translation>
     </message>
     <message>
         <source>The page could not be written.</source>
         <translation>De pagina kon niet worden geschreven.</translation>
     </message>
     <message>
-        <source>What was read back of the page is not what was written.</source>
-        <translation>Wat van de pagina is teruggelezen, is niet wat is geschreven.</translation>
+        <source>The saved page differs from what was written.</source>
+        <translation>De opgeslagen pagina wijkt af van wat is geschreven.</translation>
     </message>
     <message>
         <source>%1 cannot be read.</source>
@@ -11146,8 +11154,8 @@
         <translation>Verhaal</translation>
     </message>
     <message>
-        <source>That of Quorlin</source>
-        <translation>Die van Quorlin</translation>
+        <source>Quorlin’s own</source>
+        <translation>Sjabloon van Quorlin</translation>
     </message>
     <message>
         <source>By language</source>
@@ -11222,8 +11230,8 @@
         <translation>Voeg eerst foto’s toe.</translation>
     </message>
     <message>
-        <source>Mend the settings first.</source>
-        <translation>Verbeter eerst de instellingen.</translation>
+        <source>Correct the settings first.</source>
+        <translation>Corrigeer eerst de instellingen.</translation>
     </message>
 </context>
 <context>
@@ -11256,8 +11264,8 @@
         <translation>er kon geen foto worden gemaakt</translation>
     </message>
     <message>
-        <source>No browser opens the page.</source>
-        <translation>Geen browser opent de pagina.</translation>
+        <source>The page could not be opened in a browser.</source>
+        <translation>De pagina kon niet in een browser worden geopend.</translation>
     </message>
 </context>
 <context>
@@ -11271,8 +11279,8 @@
         <translation>Het sjabloon %1 kan niet worden gelezen.</translation>
     </message>
     <message>
-        <source>The name of the folder cannot have a / in it.</source>
-        <translation>De naam van de map mag geen / bevatten.</translation>
+        <source>The folder name cannot contain “/”.</source>
+        <translation>De mapnaam mag geen “/” bevatten.</translation>
     </message>
     <message>
         <source>Sizes are whole numbers from %1 to %2, each larger than the one before.</source>
@@ -11283,8 +11291,8 @@
         <translation>De kwaliteit is een geheel getal van 1 tot 100.</translation>
     </message>
     <message>
-        <source>%1 is no code of a language.</source>
-        <translation>%1 is geen taalcode.</translation>
+        <source>%1 is not a valid language code.</source>
+        <translation>%1 is geen geldige taalcode.</translation>
     </message>
     <message>
         <source>Template, %1</source>

@@ -77,7 +77,7 @@ public:
             if (word == QLatin1String(all[i]))
                 return int(i);
         if (!word.isEmpty())
-            refuse(words(QT_TRANSLATE_NOOP("pages", "“%1” is nothing that pages know.")).arg(word));
+            refuse(words(QT_TRANSLATE_NOOP("pages", "Pages have no setting “%1”.")).arg(word));
         return 0;
     }
 
@@ -99,7 +99,7 @@ QSizeF paperFrom(Fields &fields)
         const auto found = std::find_if(papers().begin(), papers().end(),
                                         [&word](const Paper &paper) { return word == QLatin1String(paper.word); });
         if (found == papers().end())
-            fields.refuse(words(QT_TRANSLATE_NOOP("pages", "“%1” is nothing that pages know.")).arg(word));
+            fields.refuse(words(QT_TRANSLATE_NOOP("pages", "Pages have no setting “%1”.")).arg(word));
         else
             size = found->millimetres;
     }
@@ -153,7 +153,7 @@ void readTexts(Fields &fields, PageSettings &settings)
     const QString color = fields.text("paperColor");
     settings.paperColor = color.isEmpty() ? QColor(Qt::white) : QColor(color);
     if (!settings.paperColor.isValid())
-        fields.refuse(words(QT_TRANSLATE_NOOP("pages", "“%1” is nothing that pages know.")).arg(color));
+        fields.refuse(words(QT_TRANSLATE_NOOP("pages", "Pages have no setting “%1”.")).arg(color));
 }
 
 } // namespace
@@ -177,14 +177,15 @@ Result<PageSettings> pageSettingsFrom(const QVariantMap &values)
     readTexts(fields, settings);
     constexpr int finest = 1200;
     constexpr int coarsest = 36;
-    settings.dpi = fields.whole("dpi", settings.dpi, {coarsest, finest},
-                                words(QT_TRANSLATE_NOOP("pages", "Enter from 36 to 1200 pixels for an inch.")));
+    settings.dpi =
+        fields.whole("dpi", settings.dpi, {coarsest, finest},
+                     words(QT_TRANSLATE_NOOP("pages", "Enter a resolution from 36 to 1200 pixels per inch.")));
     settings.quality = fields.whole("quality", settings.quality, {1, 100},
                                     words(QT_TRANSLATE_NOOP("pages", "Enter a quality from 1 to 100.")));
     settings.profile = fields.text("profile");
     if (!hasRoom(gridOf(settings)))
         fields.refuse(words(QT_TRANSLATE_NOOP(
-            "pages", "No room is left for pictures: take fewer rows or columns, smaller margins or gaps.")));
+            "pages", "There is no room for pictures. Use fewer rows or columns, or smaller margins or gaps.")));
     if (!fields.problem().isEmpty())
         return tl::unexpected<Error>(Error{ErrorCode::InvalidValue, fields.problem()});
     return settings;

@@ -87,7 +87,7 @@ QStringList captionProblems(const QString &pattern, Places places)
         known += tokenProblems(tokenPattern({part}));
         if (rowOf(part.token)->isPlace && places == Places::AreKeptBack)
             problems.append(QCoreApplication::translate(
-                                "text", "{%1} tells where a picture was taken. Allow places first, or leave it out.")
+                                "text", "{%1} contains the location. Include the location first, or remove the token.")
                                 .arg(part.token));
     }
     for (const QString &problem : tokenProblems(pattern))

@@ -125,7 +125,7 @@ private:
         else if (isPictureField(name) && m_depth == 0)
             refuse(
                 line,
-                sentence(QT_TRANSLATE_NOOP("text::PageTemplate", "{{%1}} stands outside {{#pictures}}")).arg(written));
+                sentence(QT_TRANSLATE_NOOP("text::PageTemplate", "{{%1}} must be inside {{#pictures}}")).arg(written));
         else if (isClosing)
             close(name, line);
         else if (isOpening)
@@ -133,7 +133,7 @@ private:
         else if (name == pictures)
             refuse(line, sentence(QT_TRANSLATE_NOOP("text::PageTemplate", "{{pictures}} must be {{#pictures}}")));
         else if (!m_element.isEmpty() && !isFreeOfTexts(name))
-            refuse(line, sentence(QT_TRANSLATE_NOOP("text::PageTemplate", "{{%1}} cannot stand in a <%2>"))
+            refuse(line, sentence(QT_TRANSLATE_NOOP("text::PageTemplate", "{{%1}} cannot be used in a <%2>"))
                              .arg(name, m_element));
         else
             m_open.back().inner.push_back({Kind::Field, name, line, {}});
@@ -143,7 +143,7 @@ private:
     {
         const bool isList = name == pictures;
         if (isList && (kind == Kind::Unless || m_depth > 0)) {
-            refuse(line, sentence(QT_TRANSLATE_NOOP("text::PageTemplate", "{{#pictures}} cannot stand here")));
+            refuse(line, sentence(QT_TRANSLATE_NOOP("text::PageTemplate", "{{#pictures}} cannot be used here")));
             return;
         }
         m_depth += isList ? 1 : 0;

@@ -24,7 +24,7 @@ export class CropPane extends Pane {
     }
 
     join() {
-        this.form.control("cropMode").segments = [qsTr("Ratio"), qsTr("W × H"), "%", qsTr("Pixels")];
+        this.form.control("cropMode").segments = [qsTr("Ratio"), qsTr("Size"), qsTr("Trim by %"), qsTr("Trim by px")];
         this.form.control("position").names = [qsTr("Top left"), qsTr("Top"), qsTr("Top right"), qsTr("Left"),
                                                qsTr("Centre"), qsTr("Right"), qsTr("Bottom left"), qsTr("Bottom"),
                                                qsTr("Bottom right")];

@@ -85,10 +85,10 @@ export class PageFolder {
         }
         this.earlier = ownFiles(this.target, this.services);
         if (this.earlier === null) {
-            return fill(qsTr("%1 is no page that Quorlin made; it is left as it is."), this.target);
+            return fill(qsTr("%1 was not made by Quorlin and stays unchanged."), this.target);
         }
         if (!this.isPageOurs()) {
-            return fill(qsTr("%1 was changed by somebody else since; it is left as it is."),
+            return fill(qsTr("%1 has been changed since by someone else and stays unchanged."),
                         joinPath(this.target, PAGE));
         }
         for (let number = 2; files.info(joinPath(this.target, this.pictures)).exists; number += 1) {
@@ -111,7 +111,7 @@ export class PageFolder {
         if (read === null) {
             return qsTr("The page could not be written.");
         }
-        return read === html ? "" : qsTr("What was read back of the page is not what was written.");
+        return read === html ? "" : qsTr("The saved page differs from what was written.");
     }
 
     /**
@@ -159,7 +159,7 @@ export class PageFolder {
         }
         const page = files.identity(joinPath(this.target, PAGE));
         if (problem === "" && !this.isPageOurs()) {
-            problem = fill(qsTr("%1 was changed by somebody else since; it is left as it is."),
+            problem = fill(qsTr("%1 has been changed since by someone else and stays unchanged."),
                            joinPath(this.target, PAGE));
         }
         problem = problem || this.put(PAGE, page);

@@ -67,7 +67,7 @@ export class WebPane extends Pane {
     setItems() {
         const set = (name, pairs) =>
             this.form.setItems(name, pairs.map((pair) => pair[1]), pairs.map((pair) => pair[0]));
-        set("webLanguage", [["", qsTr("That of Quorlin")], ["-", "-"]].concat(LANGUAGES));
+        set("webLanguage", [["", qsTr("Quorlin’s own")], ["-", "-"]].concat(LANGUAGES));
         set("webDirection", [["auto", qsTr("By language")], ["ltr", qsTr("Left to right")],
                              ["rtl", qsTr("Right to left")]]);
         set("webType", [["jpeg", "JPEG"], ["webp", "WebP"]]);
@@ -131,7 +131,7 @@ export class WebPane extends Pane {
     openPreview() {
         const paths = this.window.list.tickedPaths();
         if (this.step.validate(this.settings).length > 0 || paths.length === 0) {
-            this.window.sayBeside(paths.length === 0 ? qsTr("Add pictures first.") : qsTr("Mend the settings first."));
+            this.window.sayBeside(paths.length === 0 ? qsTr("Add pictures first.") : qsTr("Correct the settings first."));
             return;
         }
         this.preview.open(paths, JSON.parse(JSON.stringify(this.settings)));

@@ -87,7 +87,7 @@ export class WebPreview {
         if (made.path === "") {
             this.told(made.problem);
         } else {
-            this.told(shell.openFile(joinPath(made.path, PAGE)) ? "" : qsTr("No browser opens the page."));
+            this.told(shell.openFile(joinPath(made.path, PAGE)) ? "" : qsTr("The page could not be opened in a browser."));
         }
     }
 }

@@ -84,7 +84,7 @@ export function templateOf(settings) {
 function nameProblem(settings) {
     const name = folderNameOf(settings);
     return name === "." || name === ".." || name.indexOf("/") >= 0
-        ? qsTr("The name of the folder cannot have a / in it.") : "";
+        ? qsTr("The folder name cannot contain “/”.") : "";
 }
 
 function sizesProblem(settings) {
@@ -103,7 +103,7 @@ function qualityProblem(settings) {
 /** What is wrong with the settings, as sentences. */
 export function validate(settings) {
     const language = settings.language === "" || webPages.isLanguage(settings.language)
-        ? "" : fill(qsTr("%1 is no code of a language."), settings.language);
+        ? "" : fill(qsTr("%1 is not a valid language code."), settings.language);
     const found = [nameProblem(settings), sizesProblem(settings), qualityProblem(settings), language]
         .concat(webPages.captionProblems(settings.captionPattern, settings.location && settings.metadata !== "none"));
     const template = templateOf(settings).problem;

@@ -46,7 +46,7 @@ export class KeptList {
         found.forEach((path) => runRecords.end(path));
         const paths = (whole.pop() || []).filter((path) => files.info(path).exists);
         if (paths.length > 0 && this.window.pictures.addPaths(paths, []) > 0) {
-            this.window.sayBeside(qsTr("The list of the last time is back."));
+            this.window.sayBeside(qsTr("The list of the last session was restored."));
         }
     }
 

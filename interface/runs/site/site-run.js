@@ -78,8 +78,8 @@ export class SiteRun extends RecipeRun {
 
     askAboutRoom() {
         const answer = shell.ask({
-            title: qsTr("The disk is full"), text: fill(qsTr("There is no room left in %1."), this.place.parent),
-            detail: qsTr("The page can go on when there is room."), buttons: [qsTr("Retry"), qsTr("Cancel")],
+            title: qsTr("The disk is full"), text: fill(qsTr("There is no space left in %1."), this.place.parent),
+            detail: qsTr("Free some space and try again."), buttons: [qsTr("Retry"), qsTr("Cancel")],
             initial: 0, escape: 1, check: "",
         });
         if (answer.button === 1) {
@@ -98,7 +98,7 @@ export class SiteRun extends RecipeRun {
         this.countOne(this.items[index]);
         const isMade = (result.outputs || []).some((output) => output.status === "OK");
         this.window.pictures.setStatus(this.ids[index], isMade ? "waiting" : "bad",
-                                       isMade ? qsTr("made, waits for the page") : qsTr("not on the page"), "");
+                                       isMade ? qsTr("done, waiting for the page") : qsTr("not on the page"), "");
     }
 
     * ending(how, value) {

@@ -10,6 +10,6 @@ export const SITES = Object.assign({}, RECIPES, {
     watches: false,
     repeats: false,
     startNote: (window) => (window.settings.ifTaken === "update" && !window.settings.simulation
-        ? qsTr("A page that Quorlin made in this folder is brought up to date.") : ""),
+        ? qsTr("The page that Quorlin made in this folder is updated.") : ""),
     replaces: () => false,
 });

@@ -111,12 +111,12 @@ void TestPageWriter::namesLineAndFieldOfWhatIsWrong_data()
     row("{{#text}}\n\n", "line 1: {{#text}} is not closed");
     row("{{/text}}", "line 1: {{/text}} closes nothing");
     row("{{#text}}{{#title}}\n{{/text}}{{/title}}", "line 2: {{/text}} closes nothing");
-    row("{{pictureFile}}", "line 1: {{pictureFile}} stands outside {{#pictures}}");
-    row("{{#pictures}}{{/pictures}}\n{{#pictureCaption}}", "line 2: {{#pictureCaption}} stands outside {{#pictures}}");
-    row("{{#pictures}}{{#pictures}}", "line 1: {{#pictures}} cannot stand here");
+    row("{{pictureFile}}", "line 1: {{pictureFile}} must be inside {{#pictures}}");
+    row("{{#pictures}}{{/pictures}}\n{{#pictureCaption}}", "line 2: {{#pictureCaption}} must be inside {{#pictures}}");
+    row("{{#pictures}}{{#pictures}}", "line 1: {{#pictures}} cannot be used here");
     row("{{pictures}}", "line 1: {{pictures}} must be {{#pictures}}");
-    row("<script>\nvar a = '{{title}}';</script>", "line 2: {{title}} cannot stand in a <script>");
-    row("<STYLE>{{title}}</STYLE>", "line 1: {{title}} cannot stand in a <style>");
+    row("<script>\nvar a = '{{title}}';</script>", "line 2: {{title}} cannot be used in a <script>");
+    row("<STYLE>{{title}}</STYLE>", "line 1: {{title}} cannot be used in a <style>");
 }
 
 void TestPageWriter::namesLineAndFieldOfWhatIsWrong()
