@@ -1,4 +1,5 @@
-"""The words of texts that users read: phrases that are not used, straight quotes, contractions, and sentences that are too long.
+"""The words of texts that users read: phrases that are not used, straight quotes, contractions, sentences that are too long, and
+buttons that are not in title case.
 
 Holds what ships as text: the texts of the window and their translations, the tables of services, the texts between quotes in
 sources, the manual, the man pages, the README, the desktop entry and the description for software centres. What something else
@@ -39,6 +40,9 @@ EXEMPT = {
     # A code, which scripts compare.
     "files/planning/move_problem.cpp": ["taken back"],
 }
+# Buttons and commands are in title case, but for these words in their middle.
+SMALL = {"a", "an", "and", "as", "at", "by", "for", "from", "in", "into", "it", "of", "on", "or", "over", "the", "this", "to", "with"}
+BUTTONS = ("QPushButton", "QToolButton")
 LITERAL = re.compile(r'"((?:[^"\\\n]|\\.)*)"')
 ROOMS = ("app", "views", "image", "jobs", "files", "meta", "presets", "text", "platform", "tools")
 
@@ -78,6 +82,31 @@ def faults_of_translations(language, forms):
             for phrase in found_in(text, language) if not SEARCHED.match(key)]
 
 
+def title_case_fault(text):
+    """The first word of the text of a button that lacks its capital; None where none does."""
+    words = re.findall(r"(?<![\w’{])[^\W\d_][\w’]*", text.replace("&", ""))
+    return next((word for i, word in enumerate(words) if word[0].islower() and (i == 0 or word not in SMALL)), None)
+
+
+def buttons(root):
+    """(place, text) of every button and command: of forms, and of questions that scripts ask."""
+    for path in sorted((root / "interface").rglob("*.ui")):
+        tree = ElementTree.parse(path).getroot()
+        for control in [*(each for each in tree.iter("widget") if each.get("class") in BUTTONS), *tree.iter("action")]:
+            for text in control.findall("property[@name='text']/string"):
+                if text.get("notr") != "true" and text.text:
+                    yield str(path.relative_to(root)), text.text
+    for path in sorted((root / "interface").rglob("*.js")):
+        for answers in re.findall(r"buttons: \[(.*?)\]", path.read_text(encoding="utf-8"), re.S):
+            for text in re.findall(r'qsTr\("([^"]*)"', answers):
+                yield str(path.relative_to(root)), text
+
+
+def check_buttons(root):
+    return [f"{place}: “{fault}” in the button “{text}” has no capital" for place, text in buttons(root)
+            for fault in [title_case_fault(text)] if fault]
+
+
 def without_code(text):
     """A page without what is typed as it stands: code, links, tables of formats."""
     return re.sub(r"`[^`]*`|\]\([^)]*\)|^    .*$|^\.\w+.*$", "", text, flags=re.M)
@@ -114,7 +143,8 @@ def literals(root):
 
 
 def check_pages(root):
-    problems = [f"{place}: says “{phrase}”: {text.strip()[:60]}" if len(text) < 400 else f"{place}: says “{phrase}”"
+    problems = check_buttons(root)
+    problems += [f"{place}: says “{phrase}”: {text.strip()[:60]}" if len(text) < 400 else f"{place}: says “{phrase}”"
                 for place, language, text in pages(root) for phrase in found_in(text, language)]
     return problems + [f"{place}: says “{phrase}”: {text[:60]}" for place, text in literals(root)
                        if text not in EXEMPT.get(place, ()) for phrase in found_in(text, "en")]

@@ -12451,7 +12451,7 @@
         <translation>Beschreibung</translation>
     </message>
     <message>
-        <source>Creator and rights</source>
+        <source>Creator and Rights</source>
         <translation>Urheber und Rechte</translation>
     </message>
     <message>
@@ -12459,11 +12459,11 @@
         <translation>Ort</translation>
     </message>
     <message>
-        <source>Date and rating</source>
+        <source>Date and Rating</source>
         <translation>Datum und Bewertung</translation>
     </message>
     <message>
-        <source>Remove private data</source>
+        <source>Remove Private Data</source>
         <translation>Private Daten entfernen</translation>
     </message>
     <message>
@@ -12666,7 +12666,7 @@
         <translation>Beschreibung</translation>
     </message>
     <message>
-        <source>Creator and rights</source>
+        <source>Creator and Rights</source>
         <translation>Urheber und Rechte</translation>
     </message>
     <message>
@@ -12674,11 +12674,11 @@
         <translation>Ort</translation>
     </message>
     <message>
-        <source>Date and rating</source>
+        <source>Date and Rating</source>
         <translation>Datum und Bewertung</translation>
     </message>
     <message>
-        <source>Remove private data</source>
+        <source>Remove Private Data</source>
         <translation>Private Daten entfernen</translation>
     </message>
     <message>

@@ -12451,7 +12451,7 @@
         <translation>Description</translation>
     </message>
     <message>
-        <source>Creator and rights</source>
+        <source>Creator and Rights</source>
         <translation>Auteur et droits</translation>
     </message>
     <message>
@@ -12459,11 +12459,11 @@
         <translation>Lieu</translation>
     </message>
     <message>
-        <source>Date and rating</source>
+        <source>Date and Rating</source>
         <translation>Date et note</translation>
     </message>
     <message>
-        <source>Remove private data</source>
+        <source>Remove Private Data</source>
         <translation>Supprimer les données privées</translation>
     </message>
     <message>
@@ -12666,7 +12666,7 @@
         <translation>Description</translation>
     </message>
     <message>
-        <source>Creator and rights</source>
+        <source>Creator and Rights</source>
         <translation>Auteur et droits</translation>
     </message>
     <message>
@@ -12674,11 +12674,11 @@
         <translation>Lieu</translation>
     </message>
     <message>
-        <source>Date and rating</source>
+        <source>Date and Rating</source>
         <translation>Date et note</translation>
     </message>
     <message>
-        <source>Remove private data</source>
+        <source>Remove Private Data</source>
         <translation>Supprimer les données privées</translation>
     </message>
     <message>

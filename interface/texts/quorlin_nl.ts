@@ -12451,7 +12451,7 @@
         <translation>Beschrijving</translation>
     </message>
     <message>
-        <source>Creator and rights</source>
+        <source>Creator and Rights</source>
         <translation>Maker en rechten</translation>
     </message>
     <message>
@@ -12459,11 +12459,11 @@
         <translation>Plaats</translation>
     </message>
     <message>
-        <source>Date and rating</source>
+        <source>Date and Rating</source>
         <translation>Datum en waardering</translation>
     </message>
     <message>
-        <source>Remove private data</source>
+        <source>Remove Private Data</source>
         <translation>Privégegevens verwijderen</translation>
     </message>
     <message>
@@ -12666,7 +12666,7 @@
         <translation>Beschrijving</translation>
     </message>
     <message>
-        <source>Creator and rights</source>
+        <source>Creator and Rights</source>
         <translation>Maker en rechten</translation>
     </message>
     <message>
@@ -12674,11 +12674,11 @@
         <translation>Plaats</translation>
     </message>
     <message>
-        <source>Date and rating</source>
+        <source>Date and Rating</source>
         <translation>Datum en waardering</translation>
     </message>
     <message>
-        <source>Remove private data</source>
+        <source>Remove Private Data</source>
         <translation>Privégegevens verwijderen</translation>
     </message>
     <message>

@@ -10,6 +10,7 @@ import unittest
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "tools"))
+import phrases  # noqa: E402
 import texts  # noqa: E402
 
 SCRIPT = """// A module.
@@ -182,6 +183,17 @@ class Texts(unittest.TestCase):
         self.assert_finds("has a sentence of ")
         self.say(("Word " * 12).strip() + ". " + ("Word " * 12).strip())
         self.assertEqual(self.check()[0], 0)
+
+    def test_finds_buttons_that_are_not_in_title_case(self):
+        button = '<ui><class>W</class><widget class="{}"><property name="text"><string>{}</string></property></widget></ui>'
+        for control, text, fault in (("QPushButton", "Show all", "all"), ("QToolButton", "move Up", "move"), ("QLabel", "Show all", None),
+                                     ("QPushButton", "Go to the &amp;Next One…", None), ("QPushButton", "Write 2 as JPEG", None)):
+            self.write("interface/window.ui", button.format(control, text))
+            found = phrases.check_buttons(self.root)
+            self.assertEqual(found, [f"interface/window.ui: “{fault}” in the button “{text}” has no capital"] if fault else [])
+        self.write("interface/window.ui", button.format("QLabel", "x"))
+        self.write("interface/a.js", 'shell.ask({ buttons: [qsTr("Keep both"), qsTr("Cancel")], check: qsTr("Do this for all") });')
+        self.assertEqual(phrases.check_buttons(self.root), ["interface/a.js: “both” in the button “Keep both” has no capital"])
 
     def test_reads_pages_and_texts_between_quotes(self):
         self.write("docs/manual/crop.md", "# Crop\n\nThe file is written anew. `anew` is not said.\n")

@@ -114,7 +114,7 @@ bool isPlanned(WindowDriver &driver)
 {
     const int last = driver.pictures().model()->rowCount() - 1;
     return last >= 0 && driver.control<QAbstractButton>("startButton")->isEnabled() &&
-           driver.cell(last, PictureModel::Status) == QStringLiteral("ready");
+           driver.cell(last, PictureModel::Status) == QStringLiteral("Ready");
 }
 
 /** @return whether all reactions during a run were quick enough */

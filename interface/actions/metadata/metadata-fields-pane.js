@@ -23,10 +23,10 @@ const CLEAR = "clear";
 const SECTIONS = [
     { name: "Description", fields: step.GROUPS[0].fields.concat(["removedKeywords"]),
       title: () => qsTr("Description") },
-    { name: "Rights", fields: step.GROUPS[1].fields, title: () => qsTr("Creator and rights") },
+    { name: "Rights", fields: step.GROUPS[1].fields, title: () => qsTr("Creator and Rights") },
     { name: "Place", fields: step.GROUPS[2].fields, title: () => qsTr("Place") },
-    { name: "Date", fields: step.GROUPS[3].fields.concat(["shift", "zone"]), title: () => qsTr("Date and rating") },
-    { name: "Private", fields: [], title: () => qsTr("Remove private data") },
+    { name: "Date", fields: step.GROUPS[3].fields.concat(["shift", "zone"]), title: () => qsTr("Date and Rating") },
+    { name: "Private", fields: [], title: () => qsTr("Remove Private Data") },
 ];
 
 function controlOf(name) {

@@ -107,7 +107,7 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(last));
         QCOMPARE(names().size(), many);
         QVERIFY(!m_driver->control<QAbstractButton>("retryButton")->isVisible());
-        QCOMPARE(m_driver->cell(0, PictureModel::Status), QStringLiteral("done")); // as the first run left it
+        QCOMPARE(m_driver->cell(0, PictureModel::Status), QStringLiteral("Done")); // as the first run left it
         m_driver->click("undoButton");
         QVERIFY(m_driver->waitForSummary().startsWith(QLatin1String("1 name restored")));
         QVERIFY(QFile::exists(last));
