@@ -197,7 +197,7 @@
     </message>
     <message>
         <source>Correct the dates of a camera whose clock was wrong. This affects sorting, new names and folders. No file is changed.</source>
-        <translation>Korrigieren Sie die Daten einer Kamera, deren Uhr falsch ging. Das wirkt auf Sortierung, neue Namen und Ordner. Keine Datei wird geändert.</translation>
+        <translation>Korrigieren Sie die Aufnahmezeiten einer Kamera, deren Uhr falsch ging. Das wirkt auf Sortierung, neue Namen und Ordner. Keine Datei wird geändert.</translation>
     </message>
     <message>
         <source>Ca&amp;mera</source>
@@ -205,7 +205,7 @@
     </message>
     <message>
         <source>Move its &amp;dates</source>
-        <translation>Ihre &amp;Daten verschieben</translation>
+        <translation>&amp;Aufnahmezeiten verschieben</translation>
     </message>
     <message>
         <source>Later or earlier</source>
@@ -861,7 +861,7 @@
     </message>
     <message>
         <source>A picture takes long to read.</source>
-        <translation>Ein Bild braucht lange zum Lesen.</translation>
+        <translation>Das Lesen eines Bildes dauert lange.</translation>
     </message>
     <message>
         <source>Do Not Wait</source>
@@ -900,7 +900,7 @@
     </message>
     <message>
         <source>Story</source>
-        <translation>Erzählung</translation>
+        <translation>Bildgeschichte</translation>
     </message>
     <message>
         <source>Arrangement of the pictures</source>
@@ -1052,7 +1052,7 @@
     </message>
     <message>
         <source>If it exists</source>
-        <translation>Wenn vorhanden</translation>
+        <translation>Falls vorhanden</translation>
     </message>
     <message>
         <source>What happens if the folder exists</source>
@@ -1208,7 +1208,7 @@
     </message>
     <message>
         <source>One on a page, with its name</source>
-        <translation>Eins je Seite, mit Namen</translation>
+        <translation>Eines je Seite, mit Namen</translation>
     </message>
     <message>
         <source>Proofs, 2 on a page</source>
@@ -1483,7 +1483,7 @@
     </message>
     <message>
         <source>Stop after the current picture (Esc)</source>
-        <translation>Nach dem laufenden Bild anhalten (Esc)</translation>
+        <translation>Nach dem laufenden Bild abbrechen (Esc)</translation>
     </message>
     <message>
         <source>Open Folder</source>
@@ -1743,7 +1743,7 @@
     </message>
     <message>
         <source>Tick A&amp;ll</source>
-        <translation>A&amp;lle abhaken</translation>
+        <translation>A&amp;lle Häkchen setzen</translation>
     </message>
     <message>
         <source>&amp;Columns of the List</source>
@@ -1771,7 +1771,7 @@
     </message>
     <message>
         <source>Correct the dates of a camera whose clock was wrong, without changing any file</source>
-        <translation>Die Daten einer Kamera korrigieren, deren Uhr falsch ging, ohne eine Datei zu ändern</translation>
+        <translation>Die Aufnahmezeiten einer Kamera korrigieren, deren Uhr falsch ging, ohne eine Datei zu ändern</translation>
     </message>
     <message>
         <source>Recent &amp;Destinations</source>
@@ -2182,7 +2182,7 @@
     </message>
     <message>
         <source>Keep log entries for</source>
-        <translation>Protokoll aufbewahren</translation>
+        <translation>Protokolleinträge behalten für</translation>
     </message>
     <message>
         <source>How many log entries to keep</source>
@@ -2226,11 +2226,11 @@
     </message>
     <message>
         <source>Memory</source>
-        <translation>Speicher</translation>
+        <translation>Arbeitsspeicher</translation>
     </message>
     <message>
         <source>How much memory runs may use</source>
-        <translation>Wie viel Speicher Durchläufe benutzen dürfen</translation>
+        <translation>Wie viel Arbeitsspeicher Durchläufe benutzen dürfen</translation>
     </message>
     <message>
         <source>If large pictures need more, fewer are processed at a time.</source>
@@ -2621,7 +2621,7 @@
     </message>
     <message>
         <source>+ Add Step…</source>
-        <translation>+ Schritt …</translation>
+        <translation>+ Schritt hinzufügen …</translation>
     </message>
     <message>
         <source>Add a step (Ctrl+Shift+A)</source>
@@ -2704,7 +2704,7 @@
     </message>
     <message>
         <source>Fit</source>
-        <translation>Einpassen</translation>
+        <translation>Anpassung</translation>
     </message>
     <message>
         <source>How the picture fits the box</source>
@@ -2920,7 +2920,7 @@
     <name>SortTree</name>
     <message>
         <source>Resulting folders</source>
-        <translation>Ordner danach</translation>
+        <translation>Entstehende Ordner</translation>
     </message>
     <message>
         <source>Show All</source>
@@ -2983,7 +2983,7 @@
     </message>
     <message>
         <source>anticlockwise</source>
-        <translation>gegen Uhrzeiger</translation>
+        <translation>gegen den Uhrzeigersinn</translation>
     </message>
     <message>
         <source>Flip</source>
@@ -3567,7 +3567,7 @@
     </message>
     <message>
         <source>“%1” was cleared</source>
-        <translation>„%1“ wurde gelöscht</translation>
+        <translation>„%1“ wurde geleert</translation>
     </message>
     <message>
         <source>“%1” became “%2”</source>
@@ -3903,11 +3903,11 @@
     </message>
     <message>
         <source>The name %1 cannot be used on this disk</source>
-        <translation>Der Name %1 ist auf diesem Laufwerk nicht möglich</translation>
+        <translation>Der Name %1 ist auf diesem Datenträger nicht möglich</translation>
     </message>
     <message>
         <source>The name %1 is too long for this disk</source>
-        <translation>Der Name %1 ist für dieses Laufwerk zu lang</translation>
+        <translation>Der Name %1 ist für diesen Datenträger zu lang</translation>
     </message>
     <message>
         <source>%1 no longer exists</source>
@@ -3935,7 +3935,7 @@
     </message>
     <message>
         <source>There is no space left on the disk for %1</source>
-        <translation>Auf dem Laufwerk ist kein Platz mehr für %1</translation>
+        <translation>Auf dem Datenträger ist kein Platz mehr für %1</translation>
     </message>
     <message>
         <source>%1 is now the original itself, not a copy of it</source>
@@ -4343,8 +4343,8 @@
     <message numerus="yes">
         <source>Undo Moving %n Rows</source>
         <translation>
-            <numerusform>Verschieben von %n Zeile rückgängig</numerusform>
-            <numerusform>Verschieben von %n Zeilen rückgängig</numerusform>
+            <numerusform>Verschieben von %n Zeile rückgängig machen</numerusform>
+            <numerusform>Verschieben von %n Zeilen rückgängig machen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -4896,7 +4896,7 @@
     </message>
     <message>
         <source>Continue</source>
-        <translation>Fortfahren</translation>
+        <translation>Fortsetzen</translation>
     </message>
 </context>
 <context>
@@ -5289,7 +5289,7 @@
     </message>
     <message>
         <source>ready, to another disk</source>
-        <translation>bereit, auf anderes Laufwerk</translation>
+        <translation>bereit, auf anderen Datenträger</translation>
     </message>
     <message>
         <source>ready, only the case changes</source>
@@ -5831,7 +5831,7 @@
     </message>
     <message>
         <source>Same as the picture</source>
-        <translation>wie im Bild</translation>
+        <translation>Wie im Bild</translation>
     </message>
     <message>
         <source>Standard</source>
@@ -6092,7 +6092,7 @@
     </message>
     <message>
         <source>this type of file cannot hold metadata of its own</source>
-        <translation>in Dateien dieser Art werden keine Metadaten geschrieben</translation>
+        <translation>Dateien dieser Art können keine eigenen Metadaten aufnehmen</translation>
     </message>
     <message>
         <source>its metadata is damaged</source>
@@ -6334,7 +6334,7 @@
     </message>
     <message>
         <source>The presets database is in use by another program, or the disk is full. It was not changed.</source>
-        <translation>Die Datenbank der Vorgaben wird von einem anderen Programm benutzt, oder das Laufwerk ist voll. Sie wurde nicht verändert.</translation>
+        <translation>Die Datenbank der Vorgaben wird von einem anderen Programm benutzt, oder der Datenträger ist voll. Sie wurde nicht verändert.</translation>
     </message>
 </context>
 <context>
@@ -6666,7 +6666,7 @@
     </message>
     <message>
         <source>Artist</source>
-        <translation>Künstler</translation>
+        <translation>Fotograf</translation>
     </message>
     <message>
         <source>Audio duration</source>
@@ -7446,7 +7446,7 @@
     </message>
     <message>
         <source>Sub-location</source>
-        <translation>Ortsdetail</translation>
+        <translation>Ortsteil</translation>
     </message>
     <message>
         <source>Subject area</source>
@@ -7840,7 +7840,7 @@
     </message>
     <message>
         <source>XMP beyond the first 64 KB is left out</source>
-        <translation>XMP jenseits der ersten 64 KB fällt weg</translation>
+        <translation>XMP über die ersten 64 KB hinaus fällt weg</translation>
     </message>
     <message>
         <source>Signed content credentials are left out, since they do not match a changed file</source>
@@ -7996,7 +7996,7 @@
     </message>
     <message>
         <source>this type has no lossless option</source>
-        <translation>dieser Typ kennt keine Wahl von verlustfrei</translation>
+        <translation>diesen Typ gibt es nicht verlustfrei</translation>
     </message>
     <message>
         <source>a name that is not empty</source>
@@ -8137,7 +8137,7 @@
     <name>recipe-base</name>
     <message>
         <source>Folder of each picture</source>
-        <translation>Ordner jedes Bilds</translation>
+        <translation>Ordner jedes Bildes</translation>
     </message>
     <message>
         <source>Choose Folder…</source>
@@ -8515,7 +8515,7 @@
     </message>
     <message>
         <source>Frame</source>
-        <translation>Rahmen</translation>
+        <translation>Umrandung</translation>
     </message>
     <message>
         <source>Around the picture on all sides</source>
@@ -8992,7 +8992,7 @@
     </message>
     <message>
         <source>Clean for the web</source>
-        <translation>Sauber fürs Web</translation>
+        <translation>Webtauglich</translation>
     </message>
     <message>
         <source>Lower-case extensions</source>
@@ -9076,7 +9076,7 @@
     </message>
     <message>
         <source>Resizing</source>
-        <translation>Das Ändern der Größe</translation>
+        <translation>Das Skalieren</translation>
     </message>
 </context>
 <context>
@@ -9158,11 +9158,11 @@
     </message>
     <message>
         <source>Contact thumbnails</source>
-        <translation>Miniaturen für Kontaktbogen</translation>
+        <translation>Vorschaubilder für Kontaktbogen</translation>
     </message>
     <message>
         <source>Thumbnails</source>
-        <translation>Miniaturen</translation>
+        <translation>Vorschaubilder</translation>
     </message>
 </context>
 <context>
@@ -9204,7 +9204,7 @@
     <name>resolution-row</name>
     <message>
         <source>Same as the picture</source>
-        <translation>wie im Bild</translation>
+        <translation>Wie im Bild</translation>
     </message>
     <message>
         <source>300 dpi</source>
@@ -10098,7 +10098,7 @@
     </message>
     <message>
         <source>Change case</source>
-        <translation>Groß und klein</translation>
+        <translation>Groß-/Kleinschreibung</translation>
     </message>
     <message>
         <source>lower case, UPPER CASE, Words</source>
@@ -10436,7 +10436,7 @@
     </message>
     <message>
         <source>Visually lossless. Transparency, 16 bits and metadata are kept, and most colour profiles. Few programs can open it.</source>
-        <translation>Ohne sichtbaren Verlust. Transparenz, 16 Bit, Metadaten und die meisten Farbprofile bleiben erhalten. Wenige Programme können es öffnen.</translation>
+        <translation>Ohne sichtbaren Verlust. Transparenz, 16 Bit, Metadaten und die meisten Farbprofile bleiben erhalten. Nur wenige Programme können die Dateien öffnen.</translation>
     </message>
     <message>
         <source>At most 256 colours. A pixel is either transparent or not. Colours become sRGB. Metadata is kept as far as XMP can hold it.</source>
@@ -10452,7 +10452,7 @@
     </message>
     <message>
         <source>Already %1: it will be encoded again.</source>
-        <translation>Schon %1: wird neu kodiert.</translation>
+        <translation>Schon %1: wird neu codiert.</translation>
     </message>
     <message>
         <source>1 – smallest file</source>
@@ -10472,7 +10472,7 @@
     </message>
     <message>
         <source>Small files for archives. The lower the quality, the more detail is lost. Transparency, 16 bits, colour profile and metadata are kept. Few programs can open it.</source>
-        <translation>Kleine Dateien für Archive. Je niedriger die Qualität, desto mehr Details gehen verloren. Transparenz, 16 Bit, Farbprofil und Metadaten bleiben erhalten. Wenige Programme können es öffnen.</translation>
+        <translation>Kleine Dateien für Archive. Je niedriger die Qualität, desto mehr Details gehen verloren. Transparenz, 16 Bit, Farbprofil und Metadaten bleiben erhalten. Nur wenige Programme können sie öffnen.</translation>
     </message>
 </context>
 <context>
@@ -11048,7 +11048,7 @@
     </message>
     <message>
         <source>There is no font “%1” on this computer. Choose another.</source>
-        <translation>Die Schrift „%1“ gibt es auf diesem Rechner nicht. Wählen Sie eine andere.</translation>
+        <translation>Die Schrift „%1“ gibt es auf diesem Computer nicht. Wählen Sie eine andere.</translation>
     </message>
     <message>
         <source>Choose a picture.</source>
@@ -11151,7 +11151,7 @@
     </message>
     <message>
         <source>Story</source>
-        <translation>Erzählung</translation>
+        <translation>Bildgeschichte</translation>
     </message>
     <message>
         <source>Quorlin’s own</source>
@@ -11195,7 +11195,7 @@
     </message>
     <message>
         <source>Choose Folder…</source>
-        <translation>Ordner wählen…</translation>
+        <translation>Ordner wählen …</translation>
     </message>
     <message>
         <source>Standard</source>
@@ -11203,11 +11203,11 @@
     </message>
     <message>
         <source>Choose File…</source>
-        <translation>Datei wählen…</translation>
+        <translation>Datei wählen …</translation>
     </message>
     <message>
         <source>Save a Copy…</source>
-        <translation>Kopie speichern…</translation>
+        <translation>Kopie speichern …</translation>
     </message>
     <message>
         <source>Save the page in</source>
@@ -11246,18 +11246,18 @@
     </message>
     <message>
         <source>Story on warm paper</source>
-        <translation>Erzählung auf warmem Papier</translation>
+        <translation>Bildgeschichte auf warmem Hintergrund</translation>
     </message>
     <message>
         <source>For clients, with download</source>
-        <translation>Für Kunden, mit Herunterladen</translation>
+        <translation>Für Kunden, mit Download</translation>
     </message>
 </context>
 <context>
     <name>web-preview</name>
     <message>
         <source>Making the preview…</source>
-        <translation>Vorschau wird erstellt…</translation>
+        <translation>Vorschau wird erstellt …</translation>
     </message>
     <message>
         <source>no picture could be made</source>
@@ -11308,7 +11308,7 @@
     </message>
     <message>
         <source>Story</source>
-        <translation>Erzählung</translation>
+        <translation>Bildgeschichte</translation>
     </message>
 </context>
 <context>
@@ -11411,7 +11411,7 @@
     <name>window::PictureModel</name>
     <message>
         <source>Thumbnail of %1</source>
-        <translation>Miniatur von %1</translation>
+        <translation>Vorschaubild von %1</translation>
     </message>
     <message>
         <source>Name</source>
@@ -11455,7 +11455,7 @@
     </message>
     <message>
         <source>Thumbnail of %1, left out of the run</source>
-        <translation>Miniatur von %1, vom Durchlauf ausgelassen</translation>
+        <translation>Vorschaubild von %1, vom Durchlauf ausgelassen</translation>
     </message>
     <message>
         <source>%1 according to the camera clock</source>
@@ -11770,11 +11770,11 @@
     </message>
     <message>
         <source>stopping after the current pictures</source>
-        <translation>hält nach den aktuellen Bildern an</translation>
+        <translation>bricht nach den laufenden Bildern ab</translation>
     </message>
     <message>
         <source>pausing after the current pictures</source>
-        <translation>pausiert nach den aktuellen Bildern</translation>
+        <translation>hält nach den laufenden Bildern an</translation>
     </message>
     <message>
         <source>The replaced files (%1) go to the trash. Undo brings them back.</source>
@@ -11794,7 +11794,7 @@
     </message>
     <message>
         <source>Retry</source>
-        <translation>Wiederholen</translation>
+        <translation>Erneut versuchen</translation>
     </message>
     <message>
         <source>Choose Folder…</source>

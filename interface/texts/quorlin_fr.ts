@@ -972,7 +972,7 @@
     </message>
     <message>
         <source>Longest side</source>
-        <translation>Plus grand côté</translation>
+        <translation>Grand côté</translation>
     </message>
     <message>
         <source>Small</source>
@@ -1000,11 +1000,11 @@
     </message>
     <message>
         <source>File type</source>
-        <translation>Type de fichier</translation>
+        <translation>Format</translation>
     </message>
     <message>
         <source>File type of the pictures</source>
-        <translation>Type de fichier des images</translation>
+        <translation>Format des images</translation>
     </message>
     <message>
         <source>Quality</source>
@@ -1091,7 +1091,7 @@
     <name>contact-action</name>
     <message>
         <source>Contact Sheet</source>
-        <translation>Planche contact</translation>
+        <translation>Planche-contact</translation>
     </message>
     <message>
         <source>Making pages</source>
@@ -1129,7 +1129,7 @@
     </message>
     <message>
         <source>Own size</source>
-        <translation>Taille propre</translation>
+        <translation>Taille d’origine</translation>
     </message>
     <message>
         <source>Left</source>
@@ -1196,15 +1196,15 @@
     <name>contact-presets</name>
     <message>
         <source>Contact sheet, 20 on a page</source>
-        <translation>Planche contact, 20 par page</translation>
+        <translation>Planche-contact, 20 par page</translation>
     </message>
     <message>
         <source>Contact sheet, 48 on a page</source>
-        <translation>Planche contact, 48 par page</translation>
+        <translation>Planche-contact, 48 par page</translation>
     </message>
     <message>
         <source>Contact sheet on black</source>
-        <translation>Planche contact sur fond noir</translation>
+        <translation>Planche-contact sur fond noir</translation>
     </message>
     <message>
         <source>One on a page, with its name</source>
@@ -1227,7 +1227,7 @@
     </message>
     <message>
         <source>Contact sheet</source>
-        <translation>Planche contact</translation>
+        <translation>Planche-contact</translation>
     </message>
     <message>
         <source>%1 × %2 on a page</source>
@@ -2091,7 +2091,7 @@
     </message>
     <message>
         <source>Keep subfolders</source>
-        <translation>Conserver les sous-dossiers</translation>
+        <translation>Garder les sous-dossiers</translation>
     </message>
     <message>
         <source>Recreates the subfolders of each added folder</source>
@@ -2210,7 +2210,7 @@
     </message>
     <message>
         <source>Save results to</source>
-        <translation>Enregistrer dans</translation>
+        <translation>Enregistrer les résultats dans</translation>
     </message>
     <message>
         <source>Where new actions save their results</source>
@@ -2222,7 +2222,7 @@
     </message>
     <message>
         <source>Use fewer to keep other programs fast. The results are the same.</source>
-        <translation>En utiliser moins laisse de la vitesse aux autres programmes. Les résultats sont les mêmes.</translation>
+        <translation>En utiliser moins laisse plus de puissance aux autres programmes. Les résultats sont les mêmes.</translation>
     </message>
     <message>
         <source>Memory</source>
@@ -2523,7 +2523,7 @@
     </message>
     <message>
         <source>Keep subfolders</source>
-        <translation>Conserver les sous-dossiers</translation>
+        <translation>Garder les sous-dossiers</translation>
     </message>
     <message>
         <source>Builds the folders again that lie below each added folder</source>
@@ -3593,7 +3593,7 @@
     </message>
     <message>
         <source>Converting</source>
-        <translation>Le travail de conversion</translation>
+        <translation>La conversion</translation>
     </message>
 </context>
 <context>
@@ -3724,7 +3724,7 @@
     </message>
     <message>
         <source>%1 × %2 px at %3, %4</source>
-        <translation>%1 × %2 px en %3, %4</translation>
+        <translation>%1 × %2 px à %3, %4</translation>
     </message>
     <message>
         <source>%1 × %2 px</source>
@@ -4073,7 +4073,7 @@
     </message>
     <message>
         <source>Rename Label</source>
-        <translation>Renommer le libellé</translation>
+        <translation>Modifier le libellé</translation>
     </message>
     <message>
         <source>Show Folder</source>
@@ -4588,8 +4588,8 @@
     <message numerus="yes">
         <source>%1 was interrupted: %2 of %3 pictures are done.</source>
         <translation>
-            <numerusform>%1 a été interrompu : %2 image sur %3 est faite.</numerusform>
-            <numerusform>%1 a été interrompu : %2 images sur %3 sont faites.</numerusform>
+            <numerusform>%1 n’a pas pu se terminer : %2 image sur %3 est faite.</numerusform>
+            <numerusform>%1 n’a pas pu se terminer : %2 images sur %3 sont faites.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -4602,15 +4602,15 @@
     <message numerus="yes">
         <source>%1 was interrupted: %2 of %3 files have their new names.</source>
         <translation>
-            <numerusform>%1 a été interrompu : %2 fichier sur %3 a son nouveau nom.</numerusform>
-            <numerusform>%1 a été interrompu : %2 fichiers sur %3 ont leur nouveau nom.</numerusform>
+            <numerusform>%1 n’a pas pu se terminer : %2 fichier sur %3 a son nouveau nom.</numerusform>
+            <numerusform>%1 n’a pas pu se terminer : %2 fichiers sur %3 ont leur nouveau nom.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 was interrupted: %2 of %3 files are done.</source>
         <translation>
-            <numerusform>%1 a été interrompu : %2 fichier sur %3 est fait.</numerusform>
-            <numerusform>%1 a été interrompu : %2 fichiers sur %3 sont faits.</numerusform>
+            <numerusform>%1 n’a pas pu se terminer : %2 fichier sur %3 est fait.</numerusform>
+            <numerusform>%1 n’a pas pu se terminer : %2 fichiers sur %3 sont faits.</numerusform>
         </translation>
     </message>
     <message>
@@ -5831,7 +5831,7 @@
     </message>
     <message>
         <source>Same as the picture</source>
-        <translation>celle de l’image</translation>
+        <translation>Comme l’image</translation>
     </message>
     <message>
         <source>Standard</source>
@@ -6135,15 +6135,15 @@
     </message>
     <message>
         <source>the last 1,000 files</source>
-        <translation>les 1 000 derniers fichiers</translation>
+        <translation>les 1 000 derniers fichiers</translation>
     </message>
     <message>
         <source>the last 10,000 files</source>
-        <translation>les 10 000 derniers fichiers</translation>
+        <translation>les 10 000 derniers fichiers</translation>
     </message>
     <message>
         <source>the last 100,000 files</source>
-        <translation>les 100 000 derniers fichiers</translation>
+        <translation>les 100 000 derniers fichiers</translation>
     </message>
     <message>
         <source>all %1 processors</source>
@@ -6455,7 +6455,7 @@
     </message>
     <message>
         <source>Cancelled. Nothing was printed.</source>
-        <translation>Annulé. Rien n’a été imprimé.</translation>
+        <translation>Arrêté. Rien n’a été imprimé.</translation>
     </message>
     <message numerus="yes">
         <source>%n pictures could not be read</source>
@@ -6822,11 +6822,11 @@
     </message>
     <message>
         <source>DPI height</source>
-        <translation>Résolution verticale (dpi)</translation>
+        <translation>Résolution verticale (ppp)</translation>
     </message>
     <message>
         <source>DPI width</source>
-        <translation>Résolution horizontale (dpi)</translation>
+        <translation>Résolution horizontale (ppp)</translation>
     </message>
     <message>
         <source>Date created</source>
@@ -7820,7 +7820,7 @@
     </message>
     <message>
         <source>%1 cannot hold the colour profile: colours become sRGB</source>
-        <translation>%1 ne peut pas contenir le profil de couleurs&#x202f;: les couleurs passent en sRGB</translation>
+        <translation>%1 ne peut pas contenir le profil colorimétrique&amp;#x202f;: les couleurs passent en sRGB</translation>
     </message>
     <message>
         <source>%1 has at most 256 colours</source>
@@ -7836,7 +7836,7 @@
     </message>
     <message>
         <source>The motion picture is left out</source>
-        <translation>L’image animée est laissée de côté</translation>
+        <translation>La vidéo associée à l’image est laissée de côté</translation>
     </message>
     <message>
         <source>XMP beyond the first 64 KB is left out</source>
@@ -7848,7 +7848,7 @@
     </message>
     <message>
         <source>Data after the end of the picture is left out</source>
-        <translation>Les données derrière la fin de l’image sont laissées de côté</translation>
+        <translation>Les données situées après la fin de l’image sont laissées de côté</translation>
     </message>
     <message>
         <source>%1 holds metadata as XMP only, without maker notes</source>
@@ -8130,7 +8130,7 @@
     </message>
     <message>
         <source>Work on the recipe</source>
-        <translation>Le travail selon la recette</translation>
+        <translation>L’application de la recette</translation>
     </message>
 </context>
 <context>
@@ -8515,7 +8515,7 @@
     </message>
     <message>
         <source>Frame</source>
-        <translation>Cadre</translation>
+        <translation>Encadrement</translation>
     </message>
     <message>
         <source>Around the picture on all sides</source>
@@ -8551,7 +8551,7 @@
     </message>
     <message>
         <source>Colour profile</source>
-        <translation>Profil de couleurs</translation>
+        <translation>Profil colorimétrique</translation>
     </message>
     <message>
         <source>Convert colours to sRGB, Display P3 or another</source>
@@ -8680,7 +8680,7 @@
     </message>
     <message>
         <source>New sizes</source>
-        <translation>Nouvelles tailles</translation>
+        <translation>Nouvelles dimensions</translation>
     </message>
 </context>
 <context>
@@ -8885,11 +8885,11 @@
     </message>
     <message>
         <source>as one letter (NFC)</source>
-        <translation>unis à la lettre (NFC)</translation>
+        <translation>en une seule lettre (NFC)</translation>
     </message>
     <message>
         <source>as separate marks (NFD)</source>
-        <translation>séparés (NFD)</translation>
+        <translation>en signes séparés (NFD)</translation>
     </message>
     <message>
         <source>Names that</source>
@@ -9146,7 +9146,7 @@
     </message>
     <message>
         <source>Print 15 × 10 cm, 300 dpi</source>
-        <translation>Tirage 15 × 10 cm, 300 dpi</translation>
+        <translation>Tirage 15 × 10 cm, 300 ppp</translation>
     </message>
     <message>
         <source>Print</source>
@@ -9154,11 +9154,11 @@
     </message>
     <message>
         <source>Print 10 × 15 cm, 300 dpi</source>
-        <translation>Tirage 10 × 15 cm, 300 dpi</translation>
+        <translation>Tirage 10 × 15 cm, 300 ppp</translation>
     </message>
     <message>
         <source>Contact thumbnails</source>
-        <translation>Planche-contact</translation>
+        <translation>Vignettes pour planche-contact</translation>
     </message>
     <message>
         <source>Thumbnails</source>
@@ -9204,7 +9204,7 @@
     <name>resolution-row</name>
     <message>
         <source>Same as the picture</source>
-        <translation>celle de l’image</translation>
+        <translation>Comme l’image</translation>
     </message>
     <message>
         <source>300 dpi</source>
@@ -9265,7 +9265,7 @@
     </message>
     <message>
         <source>Rounding corners</source>
-        <translation>L’arrondissement des coins</translation>
+        <translation>L’arrondi des coins</translation>
     </message>
     <message numerus="yes">
         <source>Round the Corners of %n Pictures</source>
@@ -9486,7 +9486,7 @@
     <name>sheet-run</name>
     <message>
         <source>Cancelled before the first page. Nothing was written.</source>
-        <translation>Annulé avant la première page. Rien n’a été écrit.</translation>
+        <translation>Arrêté avant la première page. Rien n’a été écrit.</translation>
     </message>
     <message>
         <source>Dry run: %1 would be written</source>
@@ -9509,7 +9509,7 @@
     </message>
     <message>
         <source>cancelled</source>
-        <translation>annulé</translation>
+        <translation>interrompu</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -9517,7 +9517,7 @@
     </message>
     <message>
         <source>Cancelled. Nothing was written.</source>
-        <translation>Annulé. Rien n’a été écrit.</translation>
+        <translation>Arrêté. Rien n’a été écrit.</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -9587,7 +9587,7 @@
     </message>
     <message>
         <source>cancelled, the page was not made</source>
-        <translation>annulé, la page n’a pas été créée</translation>
+        <translation>interrompu, la page n’a pas été créée</translation>
     </message>
     <message>
         <source>the page was not made: %1</source>
@@ -9839,7 +9839,7 @@
     </message>
     <message>
         <source>no date taken</source>
-        <translation>sans date</translation>
+        <translation>sans date de prise de vue</translation>
     </message>
     <message>
         <source>by date created</source>
@@ -9851,7 +9851,7 @@
     </message>
     <message>
         <source>no date taken: not moved</source>
-        <translation>sans date : non déplacé</translation>
+        <translation>sans date de prise de vue : non déplacé</translation>
     </message>
     <message>
         <source>a file already has this folder name: %1</source>
@@ -10014,7 +10014,7 @@
     </message>
     <message>
         <source>Unknown size</source>
-        <translation>Taille inconnue</translation>
+        <translation>Poids inconnu</translation>
     </message>
     <message>
         <source>Unknown type</source>
@@ -10234,7 +10234,7 @@
     </message>
     <message>
         <source>The steps below apply only to matching names</source>
-        <translation>Les étapes suivantes ne touchent que les noms qui conviennent</translation>
+        <translation>Les étapes suivantes ne s’appliquent qu’aux noms concernés</translation>
     </message>
     <message>
         <source>filter condition contains begins ends if</source>
@@ -10286,7 +10286,7 @@
     </message>
     <message>
         <source>Size in pixels</source>
-        <translation>Taille en pixels</translation>
+        <translation>Dimensions en pixels</translation>
     </message>
     <message>
         <source>width height resolution</source>
@@ -10420,15 +10420,15 @@
     </message>
     <message>
         <source>Small files for sharing. The lower the quality, the more detail is lost. Transparent parts get a colour and 16 bits become 8. Colour profile and metadata are kept.</source>
-        <translation>Petits fichiers à partager. Plus la qualité est basse, plus les détails se perdent. Les parties transparentes reçoivent une couleur et 16 bits deviennent 8. Profil de couleurs et métadonnées sont conservés.</translation>
+        <translation>Petits fichiers à partager. Plus la qualité est basse, plus les détails se perdent. Les parties transparentes reçoivent une couleur et 16 bits deviennent 8. Profil colorimétrique et métadonnées sont conservés.</translation>
     </message>
     <message>
         <source>Nothing is lost: pixels, transparency, 16 bits, colour profile and metadata are kept.</source>
-        <translation>Rien ne se perd&#x202f;: pixels, transparence, 16 bits, profil de couleurs et métadonnées sont conservés.</translation>
+        <translation>Aucune perte&amp;amp;#x202f;: pixels, transparence, 16 bits, profil colorimétrique et métadonnées sont conservés.</translation>
     </message>
     <message>
         <source>Nothing is lost: pixels, transparency, 16 bits, CMYK, colour profile and metadata are kept. Large files.</source>
-        <translation>Rien ne se perd&#x202f;: pixels, transparence, 16 bits, CMJN, profil de couleurs et métadonnées sont conservés. Gros fichiers.</translation>
+        <translation>Aucune perte&amp;amp;#x202f;: pixels, transparence, 16 bits, CMJN, profil colorimétrique et métadonnées sont conservés. Gros fichiers.</translation>
     </message>
     <message>
         <source>One page of the size of the picture. A JPEG is included unchanged, other types without loss. Metadata is kept as far as XMP can hold it.</source>
@@ -10436,7 +10436,7 @@
     </message>
     <message>
         <source>Visually lossless. Transparency, 16 bits and metadata are kept, and most colour profiles. Few programs can open it.</source>
-        <translation>Sans perte visible. Transparence, 16 bits, métadonnées et la plupart des profils de couleurs sont conservés. Peu de programmes peuvent l’ouvrir.</translation>
+        <translation>Sans perte visible. Transparence, 16 bits, métadonnées et la plupart des profils colorimétriques sont conservés. Peu de programmes peuvent l’ouvrir.</translation>
     </message>
     <message>
         <source>At most 256 colours. A pixel is either transparent or not. Colours become sRGB. Metadata is kept as far as XMP can hold it.</source>
@@ -10452,7 +10452,7 @@
     </message>
     <message>
         <source>Already %1: it will be encoded again.</source>
-        <translation>Déjà au format %1 : sera encodé de nouveau.</translation>
+        <translation>Déjà au format %1 : l’image sera encodée de nouveau.</translation>
     </message>
     <message>
         <source>1 – smallest file</source>
@@ -10460,19 +10460,19 @@
     </message>
     <message>
         <source>9 – best</source>
-        <translation>9 – la meilleure</translation>
+        <translation>9 – meilleure qualité</translation>
     </message>
     <message>
         <source>Small files for web pages. The lower the quality, the more detail is lost. 16 bits become 8. Transparency, colour profile and metadata are kept.</source>
-        <translation>Petits fichiers pour les pages web. Plus la qualité est basse, plus les détails se perdent. 16 bits deviennent 8. Transparence, profil de couleurs et métadonnées sont conservés.</translation>
+        <translation>Petits fichiers pour les pages web. Plus la qualité est basse, plus les détails se perdent. 16 bits deviennent 8. Transparence, profil colorimétrique et métadonnées sont conservés.</translation>
     </message>
     <message>
         <source>Very small files for web pages, which take the longest to write. The lower the quality, the more detail is lost. 16 bits become 8. Transparency, colour profile and metadata are kept.</source>
-        <translation>Très petits fichiers pour les pages web, les plus longs à écrire. Plus la qualité est basse, plus les détails se perdent. 16 bits deviennent 8. Transparence, profil de couleurs et métadonnées sont conservés.</translation>
+        <translation>Très petits fichiers pour les pages web, les plus longs à écrire. Plus la qualité est basse, plus les détails se perdent. 16 bits deviennent 8. Transparence, profil colorimétrique et métadonnées sont conservés.</translation>
     </message>
     <message>
         <source>Small files for archives. The lower the quality, the more detail is lost. Transparency, 16 bits, colour profile and metadata are kept. Few programs can open it.</source>
-        <translation>Petits fichiers pour les archives. Plus la qualité est basse, plus les détails se perdent. Transparence, 16 bits, profil de couleurs et métadonnées sont conservés. Peu de programmes peuvent l’ouvrir.</translation>
+        <translation>Petits fichiers pour les archives. Plus la qualité est basse, plus les détails se perdent. Transparence, 16 bits, profil colorimétrique et métadonnées sont conservés. Peu de programmes peuvent l’ouvrir.</translation>
     </message>
 </context>
 <context>
@@ -10720,7 +10720,7 @@
     </message>
     <message>
         <source>Rotating</source>
-        <translation>Le pivotement</translation>
+        <translation>La rotation</translation>
     </message>
     <message numerus="yes">
         <source>Rotate and Flip %n Pictures</source>
@@ -10844,7 +10844,7 @@
     </message>
     <message>
         <source>Revert This Run</source>
-        <translation>Restaurer tout</translation>
+        <translation>Tout restaurer</translation>
     </message>
     <message>
         <source>No comment was changed.</source>
@@ -11179,7 +11179,7 @@
     </message>
     <message>
         <source>Remove all</source>
-        <translation>Tout supprimer</translation>
+        <translation>Tout retirer</translation>
     </message>
     <message>
         <source>Number the new folder</source>
@@ -11431,11 +11431,11 @@
     </message>
     <message>
         <source>New name</source>
-        <translation>Nom final</translation>
+        <translation>Nouveau nom</translation>
     </message>
     <message>
         <source>New size</source>
-        <translation>Résultat</translation>
+        <translation>Nouvelles dimensions</translation>
     </message>
     <message>
         <source>Status</source>

@@ -197,7 +197,7 @@
     </message>
     <message>
         <source>Correct the dates of a camera whose clock was wrong. This affects sorting, new names and folders. No file is changed.</source>
-        <translation>Corrigeer de datums van een camera waarvan de klok niet goed liep. Dit werkt door in de sortering, nieuwe namen en mappen. Er wordt geen bestand gewijzigd.</translation>
+        <translation>Corrigeer de opnametijden van een camera waarvan de klok niet goed liep. Dit werkt door in de sortering, nieuwe namen en mappen. Er wordt geen bestand gewijzigd.</translation>
     </message>
     <message>
         <source>Ca&amp;mera</source>
@@ -205,7 +205,7 @@
     </message>
     <message>
         <source>Move its &amp;dates</source>
-        <translation>De &amp;datums verschuiven</translation>
+        <translation>De &amp;tijden verschuiven</translation>
     </message>
     <message>
         <source>Later or earlier</source>
@@ -248,7 +248,7 @@
     <name>ContactPages</name>
     <message>
         <source>Preview of the pages</source>
-        <translation>Voorbeeld van de pagina’s</translation>
+        <translation>Voorvertoning van de pagina’s</translation>
     </message>
     <message>
         <source>Pages before</source>
@@ -980,7 +980,7 @@
     </message>
     <message>
         <source>Medium</source>
-        <translation>Middel</translation>
+        <translation>Middelgroot</translation>
     </message>
     <message>
         <source>Large</source>
@@ -1129,7 +1129,7 @@
     </message>
     <message>
         <source>Own size</source>
-        <translation>Eigen maat</translation>
+        <translation>Oorspronkelijke maat</translation>
     </message>
     <message>
         <source>Left</source>
@@ -1403,7 +1403,7 @@
     </message>
     <message>
         <source>How the preview fits the view</source>
-        <translation>Hoe het voorbeeld de weergave vult</translation>
+        <translation>Hoe de voorvertoning de weergave vult</translation>
     </message>
     <message>
         <source>Full Screen</source>
@@ -1443,7 +1443,7 @@
     </message>
     <message>
         <source>Preview of the original and the result</source>
-        <translation>Voorbeeld van het origineel en het resultaat</translation>
+        <translation>Voorvertoning van het origineel en het resultaat</translation>
     </message>
     <message>
         <source>Pictures</source>
@@ -1575,11 +1575,11 @@
     </message>
     <message>
         <source>&amp;Fit Preview</source>
-        <translation>Voorbeeld &amp;passend</translation>
+        <translation>Voorvertoning &amp;passend</translation>
     </message>
     <message>
         <source>F&amp;ill Preview</source>
-        <translation>Voorbeeld &amp;vullend</translation>
+        <translation>Voorvertoning &amp;vullend</translation>
     </message>
     <message>
         <source>&amp;Next Picture</source>
@@ -1591,7 +1591,7 @@
     </message>
     <message>
         <source>&amp;Large Preview</source>
-        <translation>&amp;Groot voorbeeld</translation>
+        <translation>&amp;Grote voorvertoning</translation>
     </message>
     <message>
         <source>&amp;System</source>
@@ -1655,7 +1655,7 @@
     </message>
     <message>
         <source>Redo</source>
-        <translation>Opnieuw</translation>
+        <translation>Opnieuw uitvoeren</translation>
     </message>
     <message>
         <source>Show All</source>
@@ -1771,7 +1771,7 @@
     </message>
     <message>
         <source>Correct the dates of a camera whose clock was wrong, without changing any file</source>
-        <translation>De datums corrigeren van een camera waarvan de klok niet goed liep, zonder bestanden te wijzigen</translation>
+        <translation>De opnametijden corrigeren van een camera waarvan de klok niet goed liep, zonder bestanden te wijzigen</translation>
     </message>
     <message>
         <source>Recent &amp;Destinations</source>
@@ -2421,7 +2421,7 @@
     </message>
     <message>
         <source>Show this output in the preview</source>
-        <translation>Deze uitvoer in het voorbeeld tonen</translation>
+        <translation>Deze uitvoer in de voorvertoning tonen</translation>
     </message>
     <message>
         <source>Remove this card</source>
@@ -2834,7 +2834,7 @@
     </message>
     <message>
         <source>Preview of the original and the saved picture</source>
-        <translation>Voorbeeld van het origineel en de bewaarde foto</translation>
+        <translation>Voorvertoning van het origineel en de bewaarde foto</translation>
     </message>
 </context>
 <context>
@@ -3042,7 +3042,7 @@
     </message>
     <message>
         <source>Picture</source>
-        <translation>Foto</translation>
+        <translation>Afbeelding</translation>
     </message>
     <message>
         <source>What the watermark consists of</source>
@@ -3755,7 +3755,7 @@
     </message>
     <message>
         <source>Trim 5%</source>
-        <translation>Randen 5% inkorten</translation>
+        <translation>Randen 5% afsnijden</translation>
     </message>
 </context>
 <context>
@@ -4073,7 +4073,7 @@
     </message>
     <message>
         <source>Rename Label</source>
-        <translation>Label hernoemen</translation>
+        <translation>Label wijzigen</translation>
     </message>
     <message>
         <source>Show Folder</source>
@@ -4330,7 +4330,7 @@
     </message>
     <message>
         <source>Redo</source>
-        <translation>Opnieuw</translation>
+        <translation>Opnieuw uitvoeren</translation>
     </message>
     <message>
         <source>Undo It</source>
@@ -4343,15 +4343,15 @@
     <message numerus="yes">
         <source>Undo Moving %n Rows</source>
         <translation>
-            <numerusform>Verplaatsen van %n regel ongedaan maken</numerusform>
-            <numerusform>Verplaatsen van %n regels ongedaan maken</numerusform>
+            <numerusform>Verplaatsen van %n rij ongedaan maken</numerusform>
+            <numerusform>Verplaatsen van %n rijen ongedaan maken</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Redo Moving %n Rows</source>
         <translation>
-            <numerusform>Verplaatsen van %n regel opnieuw</numerusform>
-            <numerusform>Verplaatsen van %n regels opnieuw</numerusform>
+            <numerusform>Verplaatsen van %n rij opnieuw uitvoeren</numerusform>
+            <numerusform>Verplaatsen van %n rijen opnieuw uitvoeren</numerusform>
         </translation>
     </message>
 </context>
@@ -4738,11 +4738,11 @@
     </message>
     <message>
         <source>Undo of %1</source>
-        <translation>Ongedaan: %1</translation>
+        <translation>Ongedaan gemaakt: %1</translation>
     </message>
     <message>
         <source>Redo of %1</source>
-        <translation>Opnieuw: %1</translation>
+        <translation>Opnieuw uitgevoerd: %1</translation>
     </message>
     <message>
         <source>%1 (run of %2)</source>
@@ -5831,7 +5831,7 @@
     </message>
     <message>
         <source>Same as the picture</source>
-        <translation>zoals de foto</translation>
+        <translation>Zoals de foto</translation>
     </message>
     <message>
         <source>Standard</source>
@@ -5896,7 +5896,7 @@
     </message>
     <message>
         <source>The PDF cannot be written: %1</source>
-        <translation>De pdf kan niet worden geschreven: %1</translation>
+        <translation>De PDF kan niet worden geschreven: %1</translation>
     </message>
     <message>
         <source>The picture could not be prepared for the page.</source>
@@ -6306,7 +6306,7 @@
     <name>preset-store</name>
     <message>
         <source>The presets database was empty. It was renamed to %1, and a new one was created.</source>
-        <translation>De database met voorinstellingen was leeg. Ze is hernoemd tot %1, en er is een nieuwe gemaakt.</translation>
+        <translation>De database met voorinstellingen was leeg. Die is hernoemd tot %1, en er is een nieuwe gemaakt.</translation>
     </message>
     <message>
         <source>Presets cannot be saved: the database could not be created.</source>
@@ -6318,34 +6318,34 @@
     </message>
     <message>
         <source>The presets database is damaged. It was not changed.</source>
-        <translation>De database met voorinstellingen is beschadigd. Ze is niet gewijzigd.</translation>
+        <translation>De database met voorinstellingen is beschadigd. Die is niet gewijzigd.</translation>
     </message>
     <message>
         <source>The presets database has no table for presets. It was not changed.</source>
-        <translation>De database met voorinstellingen heeft geen tabel voor voorinstellingen. Ze is niet gewijzigd.</translation>
+        <translation>De database met voorinstellingen heeft geen tabel voor voorinstellingen. Die is niet gewijzigd.</translation>
     </message>
     <message>
         <source>The presets database is in use by another program or damaged. It was not changed.</source>
-        <translation>De database met voorinstellingen is in gebruik door een ander programma of beschadigd. Ze is niet gewijzigd.</translation>
+        <translation>De database met voorinstellingen is in gebruik door een ander programma of beschadigd. Die is niet gewijzigd.</translation>
     </message>
     <message>
         <source>The presets database is read-only. It was not changed.</source>
-        <translation>De database met voorinstellingen is alleen-lezen. Ze is niet gewijzigd.</translation>
+        <translation>De database met voorinstellingen is alleen-lezen. Die is niet gewijzigd.</translation>
     </message>
     <message>
         <source>The presets database is in use by another program, or the disk is full. It was not changed.</source>
-        <translation>De database met voorinstellingen is in gebruik door een ander programma, of de schijf is vol. Ze is niet gewijzigd.</translation>
+        <translation>De database met voorinstellingen is in gebruik door een ander programma, of de schijf is vol. Die is niet gewijzigd.</translation>
     </message>
 </context>
 <context>
     <name>presets</name>
     <message>
         <source>This preset was not made by Quorlin. It was not changed.</source>
-        <translation>Deze voorinstelling is niet met Quorlin gemaakt. Ze is niet gewijzigd.</translation>
+        <translation>Deze voorinstelling is niet met Quorlin gemaakt. Die is niet gewijzigd.</translation>
     </message>
     <message>
         <source>This preset was made by a newer version of Quorlin. It was not changed.</source>
-        <translation>Deze voorinstelling is gemaakt met een nieuwere versie van Quorlin. Ze is niet gewijzigd.</translation>
+        <translation>Deze voorinstelling is gemaakt met een nieuwere versie van Quorlin. Die is niet gewijzigd.</translation>
     </message>
     <message>
         <source>This preset is damaged and cannot be used.</source>
@@ -6406,7 +6406,7 @@
     </message>
     <message>
         <source>Large preview</source>
-        <translation>Groot voorbeeld</translation>
+        <translation>Grote voorvertoning</translation>
     </message>
     <message>
         <source>%1: the result. Hold F to see the original.</source>
@@ -7282,15 +7282,15 @@
     </message>
     <message>
         <source>Preview</source>
-        <translation>Voorbeeld</translation>
+        <translation>Voorvertoning</translation>
     </message>
     <message>
         <source>Preview format</source>
-        <translation>Voorbeeldindeling</translation>
+        <translation>Indeling van de voorvertoning</translation>
     </message>
     <message>
         <source>Preview version</source>
-        <translation>Voorbeeldversie</translation>
+        <translation>Versie van de voorvertoning</translation>
     </message>
     <message>
         <source>Primary chromaticities</source>
@@ -8471,7 +8471,7 @@
     </message>
     <message>
         <source>By any angle, clockwise</source>
-        <translation>Met elke hoek, met de klok mee</translation>
+        <translation>Over elke hoek, rechtsom</translation>
     </message>
     <message>
         <source>turn angle straighten</source>
@@ -8515,7 +8515,7 @@
     </message>
     <message>
         <source>Frame</source>
-        <translation>Kader</translation>
+        <translation>Omlijsting</translation>
     </message>
     <message>
         <source>Around the picture on all sides</source>
@@ -8680,7 +8680,7 @@
     </message>
     <message>
         <source>New sizes</source>
-        <translation>Nieuwe formaten</translation>
+        <translation>Nieuwe afmetingen</translation>
     </message>
 </context>
 <context>
@@ -9076,7 +9076,7 @@
     </message>
     <message>
         <source>Resizing</source>
-        <translation>Het wijzigen van de grootte</translation>
+        <translation>Het schalen</translation>
     </message>
 </context>
 <context>
@@ -9158,7 +9158,7 @@
     </message>
     <message>
         <source>Contact thumbnails</source>
-        <translation>Miniaturen</translation>
+        <translation>Miniaturen voor contactvel</translation>
     </message>
     <message>
         <source>Thumbnails</source>
@@ -9204,7 +9204,7 @@
     <name>resolution-row</name>
     <message>
         <source>Same as the picture</source>
-        <translation>zoals de foto</translation>
+        <translation>Zoals de foto</translation>
     </message>
     <message>
         <source>300 dpi</source>
@@ -9479,7 +9479,7 @@
     </message>
     <message>
         <source>ready</source>
-        <translation>in orde</translation>
+        <translation>gereed</translation>
     </message>
 </context>
 <context>
@@ -10286,7 +10286,7 @@
     </message>
     <message>
         <source>Size in pixels</source>
-        <translation>Formaat in pixels</translation>
+        <translation>Afmetingen in pixels</translation>
     </message>
     <message>
         <source>width height resolution</source>
@@ -10635,7 +10635,7 @@
     </message>
     <message>
         <source>Sublocation</source>
-        <translation>Locatie binnen de plaats</translation>
+        <translation>Sublocatie</translation>
     </message>
     <message>
         <source>City</source>
@@ -10942,7 +10942,7 @@
     </message>
     <message>
         <source>Picture</source>
-        <translation>Foto</translation>
+        <translation>Afbeelding</translation>
     </message>
     <message>
         <source>Top left</source>
@@ -11246,7 +11246,7 @@
     </message>
     <message>
         <source>Story on warm paper</source>
-        <translation>Verhaal op warm papier</translation>
+        <translation>Verhaal op warme achtergrond</translation>
     </message>
     <message>
         <source>For clients, with download</source>
@@ -11794,7 +11794,7 @@
     </message>
     <message>
         <source>Retry</source>
-        <translation>Opnieuw</translation>
+        <translation>Opnieuw proberen</translation>
     </message>
     <message>
         <source>Choose Folder…</source>
