@@ -1291,7 +1291,7 @@
         <translation>Bild zeigen</translation>
     </message>
     <message>
-        <source>Show the picture large, if it still exists (Enter)</source>
+        <source>Show the picture large, if it still exists (Return)</source>
         <translation>Bild groß zeigen, falls es noch da ist (Eingabe)</translation>
     </message>
     <message>

@@ -1291,7 +1291,7 @@
         <translation>Voir l’image</translation>
     </message>
     <message>
-        <source>Show the picture large, if it still exists (Enter)</source>
+        <source>Show the picture large, if it still exists (Return)</source>
         <translation>Voir l’image en grand, si elle existe encore (Entrée)</translation>
     </message>
     <message>

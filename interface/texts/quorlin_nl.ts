@@ -1291,7 +1291,7 @@
         <translation>Foto tonen</translation>
     </message>
     <message>
-        <source>Show the picture large, if it still exists (Enter)</source>
+        <source>Show the picture large, if it still exists (Return)</source>
         <translation>De foto groot tonen, als die er nog is (Enter)</translation>
     </message>
     <message>
