@@ -162,7 +162,7 @@
     </message>
     <message>
         <source>About your own patterns</source>
-        <translation>Über eigene Muster</translation>
+        <translation>Hinweise zu eigenen Mustern</translation>
     </message>
     <message>
         <source>Border</source>
@@ -415,7 +415,7 @@
     </message>
     <message>
         <source>Size of header and footer</source>
-        <translation>Größe von Kopf- und Fußzeile</translation>
+        <translation>Schriftgröße von Kopf- und Fußzeile</translation>
     </message>
     <message>
         <source>Page colour</source>
@@ -463,7 +463,7 @@
     </message>
     <message>
         <source>More or fewer settings of the pages</source>
-        <translation>Mehr oder weniger Einstellungen der Seiten</translation>
+        <translation>Mehr oder weniger Einstellungen der Seiten zeigen</translation>
     </message>
     <message>
         <source>Name</source>
@@ -827,7 +827,7 @@
     </message>
     <message>
         <source>Create the folder and give it a key (Return)</source>
-        <translation>Ordner anlegen und ihm eine Taste geben (Eingabe)</translation>
+        <translation>Ordner anlegen und ihm eine Taste zuweisen (Eingabetaste)</translation>
     </message>
     <message>
         <source>Folders and their keys</source>
@@ -1216,7 +1216,7 @@
     </message>
     <message>
         <source>Prints of 9 × 13 cm to cut</source>
-        <translation>Abzüge von 9 × 13 cm zum Schneiden</translation>
+        <translation>Abzüge von 9 × 13 cm zum Ausschneiden</translation>
     </message>
 </context>
 <context>
@@ -1455,7 +1455,7 @@
     </message>
     <message>
         <source>About dry runs</source>
-        <translation>Über Probeläufe</translation>
+        <translation>Hinweise zu Probeläufen</translation>
     </message>
     <message>
         <source>Resize Pictures</source>
@@ -2035,7 +2035,7 @@
     </message>
     <message>
         <source>About the folder of the results</source>
-        <translation>Über den Ordner der Ergebnisse</translation>
+        <translation>Hinweise zum Ordner der Ergebnisse</translation>
     </message>
     <message>
         <source>If the file exists</source>
@@ -2051,7 +2051,7 @@
     </message>
     <message>
         <source>About dry runs</source>
-        <translation>Über Probeläufe</translation>
+        <translation>Hinweise zu Probeläufen</translation>
     </message>
     <message>
         <source>Metadata</source>
@@ -2265,7 +2265,7 @@
     </message>
     <message>
         <source>About presets</source>
-        <translation>Über Vorgaben</translation>
+        <translation>Hinweise zu Vorgaben</translation>
     </message>
     <message>
         <source>Name</source>
@@ -2527,7 +2527,7 @@
     </message>
     <message>
         <source>Builds the folders again that lie below each added folder</source>
-        <translation>Legt die Ordner, die unter jedem hinzugefügten Ordner liegen, wieder an</translation>
+        <translation>Legt die Unterordner jedes hinzugefügten Ordners wieder an</translation>
     </message>
 </context>
 <context>
@@ -3062,7 +3062,7 @@
     </message>
     <message>
         <source>About your own watermarks</source>
-        <translation>Über eigene Wasserzeichen</translation>
+        <translation>Hinweise zu eigenen Wasserzeichen</translation>
     </message>
     <message>
         <source>Font</source>
@@ -3234,15 +3234,15 @@
     <message numerus="yes">
         <source>Add Background to %n Pictures</source>
         <translation>
-            <numerusform>Hintergrund für %n Bild hinzufügen</numerusform>
-            <numerusform>Hintergrund für %n Bilder hinzufügen</numerusform>
+            <numerusform>%n Bild mit Hintergrund versehen</numerusform>
+            <numerusform>%n Bilder mit Hintergrund versehen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Add Border to %n Pictures</source>
         <translation>
-            <numerusform>Rand für %n Bild hinzufügen</numerusform>
-            <numerusform>Rand für %n Bilder hinzufügen</numerusform>
+            <numerusform>%n Bild mit Rand versehen</numerusform>
+            <numerusform>%n Bilder mit Rand versehen</numerusform>
         </translation>
     </message>
 </context>
@@ -3534,8 +3534,8 @@
     <message numerus="yes">
         <source>It has %n more pages, which would be lost.</source>
         <translation>
-            <numerusform>Sie hat %n weitere Seite, die verloren ginge.</numerusform>
-            <numerusform>Sie hat %n weitere Seiten, die verloren gingen.</numerusform>
+            <numerusform>Die Datei hat %n weitere Seite, die verloren gehen würde.</numerusform>
+            <numerusform>Die Datei hat %n weitere Seiten, die verloren gehen würden.</numerusform>
         </translation>
     </message>
     <message>
@@ -3927,7 +3927,7 @@
     </message>
     <message>
         <source>%1, which it belongs to, keeps its name</source>
-        <translation>%1, wozu es gehört, behält seinen Namen</translation>
+        <translation>%1 (die Hauptdatei) behält den Namen</translation>
     </message>
     <message>
         <source>%1 was changed or replaced in the meantime</source>
@@ -4320,8 +4320,8 @@
     <message numerus="yes">
         <source>%1 of %n files belongs to an earlier session. Undo it?</source>
         <translation>
-            <numerusform>„%1“ von %n Datei stammt aus einer früheren Sitzung. Rückgängig machen?</numerusform>
-            <numerusform>„%1“ von %n Dateien stammt aus einer früheren Sitzung. Rückgängig machen?</numerusform>
+            <numerusform>„%1“ mit %n Datei stammt aus einer früheren Sitzung. Rückgängig machen?</numerusform>
+            <numerusform>„%1“ mit %n Dateien stammt aus einer früheren Sitzung. Rückgängig machen?</numerusform>
         </translation>
     </message>
     <message>
@@ -5007,7 +5007,7 @@
     </message>
     <message>
         <source>nothing is known to do with the field %1</source>
-        <translation>für das Feld %1 ist nichts zu tun angegeben</translation>
+        <translation>für das Feld %1 ist keine Änderung angegeben</translation>
     </message>
     <message>
         <source>"%1" is no time zone</source>
@@ -5134,8 +5134,8 @@
     <message numerus="yes">
         <source>%n pictures, ≠ %1 properties</source>
         <translation>
-            <numerusform>%n Bild, ≠ %1 Eigenschaften</numerusform>
-            <numerusform>%n Bilder, ≠ %1 Eigenschaften</numerusform>
+            <numerusform>%n Bild, %1 Eigenschaften verschieden</numerusform>
+            <numerusform>%n Bilder, %1 Eigenschaften verschieden</numerusform>
         </translation>
     </message>
 </context>
@@ -6080,11 +6080,11 @@
     </message>
     <message>
         <source>This is no property list with a dictionary</source>
-        <translation>Dies ist keine Eigenschaftsliste mit einem Wörterbuch</translation>
+        <translation>Dies ist keine Eigenschaftsliste mit Schlüsseln und Werten</translation>
     </message>
     <message>
         <source>A property list cannot hold this under %1</source>
-        <translation>Eine Eigenschaftsliste kann das unter %1 nicht aufnehmen</translation>
+        <translation>Der Wert von %1 passt nicht in eine Eigenschaftsliste</translation>
     </message>
     <message>
         <source>the file is write-protected</source>
@@ -7876,7 +7876,7 @@
     </message>
     <message>
         <source>Data that the camera maker or a program keeps outside EXIF is left out</source>
-        <translation>Daten, die der Kamerahersteller oder ein Programm außerhalb von EXIF ablegt, fallen weg</translation>
+        <translation>Daten des Kameraherstellers oder eines Programms, die nicht in EXIF stehen, fallen weg</translation>
     </message>
     <message>
         <source>a number above %1, to %2</source>
@@ -7932,15 +7932,15 @@
     </message>
     <message>
         <source>it applies only with fit fill or pad</source>
-        <translation>es gilt nur mit fit fill oder pad</translation>
+        <translation>dies gilt nur mit „fit“ gleich „fill“ oder „pad“</translation>
     </message>
     <message>
         <source>it applies only with fit pad</source>
-        <translation>es gilt nur mit fit pad</translation>
+        <translation>dies gilt nur mit „fit“ gleich „pad“</translation>
     </message>
     <message>
         <source>it applies only with box</source>
-        <translation>es gilt nur mit box</translation>
+        <translation>dies gilt nur mit „box“</translation>
     </message>
     <message>
         <source>two numbers separated by a colon such as 3:2, not "%1"</source>
@@ -7952,7 +7952,7 @@
     </message>
     <message>
         <source>it applies only with ratio</source>
-        <translation>es gilt nur mit ratio</translation>
+        <translation>dies gilt nur mit „ratio“</translation>
     </message>
     <message>
         <source>it is missing</source>
@@ -8004,7 +8004,7 @@
     </message>
     <message>
         <source>a name without /; use folder for folders</source>
-        <translation>ein Name ohne /; für Ordner dient folder</translation>
+        <translation>ein Name ohne „/“; für Ordner dient „folder“</translation>
     </message>
     <message>
         <source>the version of the recipe is missing</source>
@@ -9624,8 +9624,8 @@
     <message numerus="yes">
         <source>Link %n Files into Folders</source>
         <translation>
-            <numerusform>%n Datei in Ordnern verknüpfen</numerusform>
-            <numerusform>%n Dateien in Ordnern verknüpfen</numerusform>
+            <numerusform>%n Verknüpfung in Ordnern anlegen</numerusform>
+            <numerusform>%n Verknüpfungen in Ordnern anlegen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -9863,7 +9863,7 @@
     </message>
     <message>
         <source>It is already in such a folder.</source>
-        <translation>Es ist schon in einem solchen Ordner.</translation>
+        <translation>Die Datei ist schon in einem solchen Ordner.</translation>
     </message>
 </context>
 <context>
@@ -10563,7 +10563,7 @@
     </message>
     <message>
         <source>{%1} takes no format. Remove the colon and what follows it</source>
-        <translation>{%1} hat kein Format. Entfernen Sie den Doppelpunkt und was darauf folgt</translation>
+        <translation>{%1} kann kein Format haben. Entfernen Sie den Doppelpunkt und was darauf folgt</translation>
     </message>
     <message>
         <source>There is no token between the braces. To write a brace, type {{</source>
@@ -11154,8 +11154,8 @@
         <translation>Bildgeschichte</translation>
     </message>
     <message>
-        <source>Quorlin’s own</source>
-        <translation>Vorlage von Quorlin</translation>
+        <source>Same as Quorlin</source>
+        <translation>Wie in Quorlin</translation>
     </message>
     <message>
         <source>By language</source>
@@ -12104,8 +12104,8 @@
     <message numerus="yes">
         <source>%n disagree with themselves</source>
         <translation>
-            <numerusform>%n widerspricht sich selbst</numerusform>
-            <numerusform>%n widersprechen sich selbst</numerusform>
+            <numerusform>%n mit widersprüchlichen Werten</numerusform>
+            <numerusform>%n mit widersprüchlichen Werten</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -12815,7 +12815,7 @@
     </message>
     <message>
         <source>A date taken that is set is not shifted: write its time zone behind it.</source>
-        <translation>Ein gesetztes Aufnahmedatum wird nicht verschoben: die Zeitzone dahinter schreiben.</translation>
+        <translation>Ein gesetztes Aufnahmedatum wird nicht verschoben: Schreiben Sie die Zeitzone dahinter.</translation>
     </message>
     <message>
         <source>Country code: two or three letters, such as PT or PRT.</source>

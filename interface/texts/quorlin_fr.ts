@@ -415,7 +415,7 @@
     </message>
     <message>
         <source>Size of header and footer</source>
-        <translation>Taille de l’en-tête et du pied de page</translation>
+        <translation>Taille du texte de l’en-tête et du pied de page</translation>
     </message>
     <message>
         <source>Page colour</source>
@@ -463,7 +463,7 @@
     </message>
     <message>
         <source>More or fewer settings of the pages</source>
-        <translation>Plus ou moins de réglages des pages</translation>
+        <translation>Afficher plus ou moins de réglages des pages</translation>
     </message>
     <message>
         <source>Name</source>
@@ -861,7 +861,7 @@
     </message>
     <message>
         <source>A picture takes long to read.</source>
-        <translation>Une image est longue à lire.</translation>
+        <translation>La lecture d’une image est longue.</translation>
     </message>
     <message>
         <source>Do Not Wait</source>
@@ -1885,7 +1885,7 @@
     </message>
     <message>
         <source>Copy the selected value or branch (Ctrl+C in the tree), or the location of the picture</source>
-        <translation>Copier la valeur ou la branche sélectionnée (Ctrl+C dans l’arbre), ou le lieu de l’image</translation>
+        <translation>Copier la valeur ou la branche sélectionnée (Ctrl+C dans l’arbre), ou le lieu de prise de vue</translation>
     </message>
     <message>
         <source>Properties of the picture</source>
@@ -2246,7 +2246,7 @@
     </message>
     <message>
         <source>Lists of pictures appear sooner. Thumbnails of encrypted and removable disks are never kept.</source>
-        <translation>Les listes d’images s’affichent plus vite. Aucune vignette des disques chiffrés ou amovibles n’est conservée.</translation>
+        <translation>Les listes d’images s’affichent plus vite. Les vignettes des images de disques chiffrés ou amovibles ne sont jamais conservées.</translation>
     </message>
 </context>
 <context>
@@ -2527,7 +2527,7 @@
     </message>
     <message>
         <source>Builds the folders again that lie below each added folder</source>
-        <translation>Recrée les dossiers qui se trouvent sous chaque dossier ajouté</translation>
+        <translation>Recrée les sous-dossiers de chaque dossier ajouté</translation>
     </message>
 </context>
 <context>
@@ -3927,7 +3927,7 @@
     </message>
     <message>
         <source>%1, which it belongs to, keeps its name</source>
-        <translation>%1, dont il dépend, garde son nom</translation>
+        <translation>%1, le fichier principal, garde son nom</translation>
     </message>
     <message>
         <source>%1 was changed or replaced in the meantime</source>
@@ -4320,8 +4320,8 @@
     <message numerus="yes">
         <source>%1 of %n files belongs to an earlier session. Undo it?</source>
         <translation>
-            <numerusform>« %1 » de %n fichier date d’une session précédente. L’annuler ?</numerusform>
-            <numerusform>« %1 » de %n fichiers date d’une session précédente. L’annuler ?</numerusform>
+            <numerusform>« %1 » (%n fichier) date d’une session précédente. L’annuler ?</numerusform>
+            <numerusform>« %1 » (%n fichiers) date d’une session précédente. L’annuler ?</numerusform>
         </translation>
     </message>
     <message>
@@ -5007,7 +5007,7 @@
     </message>
     <message>
         <source>nothing is known to do with the field %1</source>
-        <translation>rien n’est indiqué à faire avec le champ %1</translation>
+        <translation>aucune modification n’est indiquée pour le champ %1</translation>
     </message>
     <message>
         <source>"%1" is no time zone</source>
@@ -5134,8 +5134,8 @@
     <message numerus="yes">
         <source>%n pictures, ≠ %1 properties</source>
         <translation>
-            <numerusform>%n image, ≠ %1 propriétés</numerusform>
-            <numerusform>%n images, ≠ %1 propriétés</numerusform>
+            <numerusform>%n image, %1 propriétés différentes</numerusform>
+            <numerusform>%n images, %1 propriétés différentes</numerusform>
         </translation>
     </message>
 </context>
@@ -5847,8 +5847,8 @@
     <message numerus="yes">
         <source>%n results of earlier runs not added</source>
         <translation>
-            <numerusform>%n résultat de traitements antérieurs non ajouté</numerusform>
-            <numerusform>%n résultats de traitements antérieurs non ajoutés</numerusform>
+            <numerusform>%n résultat de traitements antérieurs n’a pas été ajouté</numerusform>
+            <numerusform>%n résultats de traitements antérieurs n’ont pas été ajoutés</numerusform>
         </translation>
     </message>
 </context>
@@ -6080,11 +6080,11 @@
     </message>
     <message>
         <source>This is no property list with a dictionary</source>
-        <translation>Ce n’est pas une liste de propriétés avec un dictionnaire</translation>
+        <translation>Ce n’est pas une liste de propriétés composée de clés et de valeurs</translation>
     </message>
     <message>
         <source>A property list cannot hold this under %1</source>
-        <translation>Une liste de propriétés ne peut pas contenir ceci sous %1</translation>
+        <translation>La valeur de %1 ne peut pas être enregistrée dans une liste de propriétés</translation>
     </message>
     <message>
         <source>the file is write-protected</source>
@@ -7932,15 +7932,15 @@
     </message>
     <message>
         <source>it applies only with fit fill or pad</source>
-        <translation>ne s’applique qu’avec fit fill ou pad</translation>
+        <translation>elle ne s’applique qu’avec « fit » égal à « fill » ou « pad »</translation>
     </message>
     <message>
         <source>it applies only with fit pad</source>
-        <translation>ne s’applique qu’avec fit pad</translation>
+        <translation>elle ne s’applique qu’avec « fit » égal à « pad »</translation>
     </message>
     <message>
         <source>it applies only with box</source>
-        <translation>ne s’applique qu’avec box</translation>
+        <translation>elle ne s’applique qu’avec « box »</translation>
     </message>
     <message>
         <source>two numbers separated by a colon such as 3:2, not "%1"</source>
@@ -7952,7 +7952,7 @@
     </message>
     <message>
         <source>it applies only with ratio</source>
-        <translation>ne s’applique qu’avec ratio</translation>
+        <translation>elle ne s’applique qu’avec « ratio »</translation>
     </message>
     <message>
         <source>it is missing</source>
@@ -7960,7 +7960,7 @@
     </message>
     <message>
         <source>it applies only with a rectangle</source>
-        <translation>ne s’applique qu’à un rectangle</translation>
+        <translation>elle ne s’applique qu’à un rectangle</translation>
     </message>
     <message>
         <source>there is no picture "%1"</source>
@@ -7976,7 +7976,7 @@
     </message>
     <message>
         <source>it applies only with a text</source>
-        <translation>ne s’applique qu’à un texte</translation>
+        <translation>elle ne s’applique qu’à un texte</translation>
     </message>
     <message>
         <source>sRGB, Display P3, Adobe RGB, gray or the path of an ICC file, not "%1"</source>
@@ -8004,7 +8004,7 @@
     </message>
     <message>
         <source>a name without /; use folder for folders</source>
-        <translation>un nom sans / ; utilisez folder pour les dossiers</translation>
+        <translation>un nom sans « / » ; pour les dossiers, utilisez « folder »</translation>
     </message>
     <message>
         <source>the version of the recipe is missing</source>
@@ -9863,7 +9863,7 @@
     </message>
     <message>
         <source>It is already in such a folder.</source>
-        <translation>Il est déjà dans un tel dossier.</translation>
+        <translation>Le fichier est déjà dans un tel dossier.</translation>
     </message>
 </context>
 <context>
@@ -10416,7 +10416,7 @@
     </message>
     <message>
         <source>Layers are merged into one picture.</source>
-        <translation>Les calques sont réunis en une image.</translation>
+        <translation>Les calques sont fusionnés en une seule image.</translation>
     </message>
     <message>
         <source>Small files for sharing. The lower the quality, the more detail is lost. Transparent parts get a colour and 16 bits become 8. Colour profile and metadata are kept.</source>
@@ -10444,7 +10444,7 @@
     </message>
     <message>
         <source>Large files with pixels and resolution only. Colours become sRGB, transparent parts get a colour and 16 bits become 8.</source>
-        <translation>Gros fichiers avec pixels et résolution seulement. Les couleurs passent en sRGB, les parties transparentes reçoivent une couleur et 16 bits deviennent 8.</translation>
+        <translation>Gros fichiers avec pixels et résolution seulement. Les couleurs passent en sRGB, les parties transparentes reçoivent une couleur et les 16 bits sont réduits à 8.</translation>
     </message>
     <message>
         <source>Already %1: no pixel changes.</source>
@@ -11154,8 +11154,8 @@
         <translation>Récit</translation>
     </message>
     <message>
-        <source>Quorlin’s own</source>
-        <translation>Modèle de Quorlin</translation>
+        <source>Same as Quorlin</source>
+        <translation>Comme dans Quorlin</translation>
     </message>
     <message>
         <source>By language</source>
@@ -11778,7 +11778,7 @@
     </message>
     <message>
         <source>The replaced files (%1) go to the trash. Undo brings them back.</source>
-        <translation>Les fichiers remplacés (%1) vont à la corbeille. « Annuler » les ramène.</translation>
+        <translation>Les fichiers remplacés (%1) vont à la corbeille. « Annuler » les restaure.</translation>
     </message>
     <message>
         <source>The disk is full</source>
@@ -12074,7 +12074,7 @@
     </message>
     <message>
         <source>All its pictures have already been reverted.</source>
-        <translation>Toutes ses images sont déjà rétablies.</translation>
+        <translation>Toutes ses images ont déjà été rétablies.</translation>
     </message>
     <message>
         <source>Metadata</source>
@@ -12104,8 +12104,8 @@
     <message numerus="yes">
         <source>%n disagree with themselves</source>
         <translation>
-            <numerusform>%n se contredit</numerusform>
-            <numerusform>%n se contredisent</numerusform>
+            <numerusform>%n avec des valeurs contradictoires</numerusform>
+            <numerusform>%n avec des valeurs contradictoires</numerusform>
         </translation>
     </message>
     <message numerus="yes">

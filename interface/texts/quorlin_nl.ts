@@ -162,7 +162,7 @@
     </message>
     <message>
         <source>About your own patterns</source>
-        <translation>Over eigen patronen</translation>
+        <translation>Uitleg over eigen patronen</translation>
     </message>
     <message>
         <source>Border</source>
@@ -415,7 +415,7 @@
     </message>
     <message>
         <source>Size of header and footer</source>
-        <translation>Grootte van kop- en voettekst</translation>
+        <translation>Tekstgrootte van kop- en voettekst</translation>
     </message>
     <message>
         <source>Page colour</source>
@@ -463,7 +463,7 @@
     </message>
     <message>
         <source>More or fewer settings of the pages</source>
-        <translation>Meer of minder instellingen van de pagina’s</translation>
+        <translation>Meer of minder instellingen van de pagina’s tonen</translation>
     </message>
     <message>
         <source>Name</source>
@@ -641,7 +641,7 @@
     </message>
     <message>
         <source>Finds in each picture the part that draws the eye, and places the frame there</source>
-        <translation>Zoekt in elke foto het deel dat de blik trekt en legt het kader daar</translation>
+        <translation>Zoekt in elke foto het deel dat het oog trekt en legt het kader daar</translation>
     </message>
     <message>
         <source>Resolution</source>
@@ -1308,7 +1308,7 @@
     </message>
     <message>
         <source>Save the entries shown as a CSV file for spreadsheets</source>
-        <translation>De getoonde regels bewaren als CSV-bestand voor rekenbladen</translation>
+        <translation>De getoonde rijen bewaren als CSV-bestand voor spreadsheets</translation>
     </message>
     <message>
         <source>More</source>
@@ -1455,7 +1455,7 @@
     </message>
     <message>
         <source>About dry runs</source>
-        <translation>Over proefruns</translation>
+        <translation>Uitleg over proefruns</translation>
     </message>
     <message>
         <source>Resize Pictures</source>
@@ -1787,7 +1787,7 @@
     </message>
     <message>
         <source>Save the list with all its columns as a CSV file for spreadsheets</source>
-        <translation>De lijst met alle kolommen bewaren als CSV-bestand voor rekenbladen</translation>
+        <translation>De lijst met alle kolommen bewaren als CSV-bestand voor spreadsheets</translation>
     </message>
     <message>
         <source>&amp;Copy Files</source>
@@ -2035,7 +2035,7 @@
     </message>
     <message>
         <source>About the folder of the results</source>
-        <translation>Over de map van de resultaten</translation>
+        <translation>Uitleg over de map van de resultaten</translation>
     </message>
     <message>
         <source>If the file exists</source>
@@ -2051,7 +2051,7 @@
     </message>
     <message>
         <source>About dry runs</source>
-        <translation>Over proefruns</translation>
+        <translation>Uitleg over proefruns</translation>
     </message>
     <message>
         <source>Metadata</source>
@@ -2222,7 +2222,7 @@
     </message>
     <message>
         <source>Use fewer to keep other programs fast. The results are the same.</source>
-        <translation>Met minder blijven andere programma’s snel. De resultaten zijn gelijk.</translation>
+        <translation>Met minder processors blijven andere programma’s snel. De resultaten zijn hetzelfde.</translation>
     </message>
     <message>
         <source>Memory</source>
@@ -2265,7 +2265,7 @@
     </message>
     <message>
         <source>About presets</source>
-        <translation>Over voorinstellingen</translation>
+        <translation>Uitleg over voorinstellingen</translation>
     </message>
     <message>
         <source>Name</source>
@@ -3062,7 +3062,7 @@
     </message>
     <message>
         <source>About your own watermarks</source>
-        <translation>Over eigen watermerken</translation>
+        <translation>Uitleg over eigen watermerken</translation>
     </message>
     <message>
         <source>Font</source>
@@ -3813,7 +3813,7 @@
     </message>
     <message>
         <source>at the focus of attention</source>
-        <translation>bij de blikvanger</translation>
+        <translation>rond het opvallendste deel</translation>
     </message>
     <message>
         <source>Enter two numbers above 0 for the ratio.</source>
@@ -3927,7 +3927,7 @@
     </message>
     <message>
         <source>%1, which it belongs to, keeps its name</source>
-        <translation>%1, waar het bij hoort, houdt zijn naam</translation>
+        <translation>%1, het hoofdbestand, houdt zijn naam</translation>
     </message>
     <message>
         <source>%1 was changed or replaced in the meantime</source>
@@ -3943,7 +3943,7 @@
     </message>
     <message>
         <source>%1 could not be renamed, and other files need its old name</source>
-        <translation>%1 kon niet worden hernoemd, en andere bestanden hebben de oude naam nodig</translation>
+        <translation>%1 kon niet worden hernoemd, en andere bestanden moeten de oude naam ervan krijgen</translation>
     </message>
 </context>
 <context>
@@ -4320,8 +4320,8 @@
     <message numerus="yes">
         <source>%1 of %n files belongs to an earlier session. Undo it?</source>
         <translation>
-            <numerusform>“%1” van %n bestand is van een eerdere sessie. Ongedaan maken?</numerusform>
-            <numerusform>“%1” van %n bestanden is van een eerdere sessie. Ongedaan maken?</numerusform>
+            <numerusform>“%1” (%n bestand) is van een eerdere sessie. Ongedaan maken?</numerusform>
+            <numerusform>“%1” (%n bestanden) is van een eerdere sessie. Ongedaan maken?</numerusform>
         </translation>
     </message>
     <message>
@@ -4522,8 +4522,8 @@
     <message numerus="yes">
         <source>%n items were not added: they are not files.</source>
         <translation>
-            <numerusform>%n onderdeel is niet toegevoegd: het is geen bestand.</numerusform>
-            <numerusform>%n onderdelen zijn niet toegevoegd: het zijn geen bestanden.</numerusform>
+            <numerusform>%n item is niet toegevoegd: het is geen bestand.</numerusform>
+            <numerusform>%n items zijn niet toegevoegd: het zijn geen bestanden.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -5007,7 +5007,7 @@
     </message>
     <message>
         <source>nothing is known to do with the field %1</source>
-        <translation>voor het veld %1 is niet aangegeven wat er moet gebeuren</translation>
+        <translation>er is geen wijziging opgegeven voor het veld %1</translation>
     </message>
     <message>
         <source>"%1" is no time zone</source>
@@ -5134,8 +5134,8 @@
     <message numerus="yes">
         <source>%n pictures, ≠ %1 properties</source>
         <translation>
-            <numerusform>%n foto, ≠ %1 eigenschappen</numerusform>
-            <numerusform>%n foto’s, ≠ %1 eigenschappen</numerusform>
+            <numerusform>%n foto, %1 eigenschappen verschillen</numerusform>
+            <numerusform>%n foto’s, %1 eigenschappen verschillen</numerusform>
         </translation>
     </message>
 </context>
@@ -5265,11 +5265,11 @@
     </message>
     <message>
         <source>a sidecar file cannot be moved: %1 is in its place</source>
-        <translation>een sidecarbestand kan niet mee: %1 staat op die plaats</translation>
+        <translation>een sidecarbestand kan niet worden verplaatst: %1 heeft die naam al</translation>
     </message>
     <message>
         <source>a sidecar file cannot be moved</source>
-        <translation>een sidecarbestand kan niet mee</translation>
+        <translation>een sidecarbestand kan niet worden verplaatst</translation>
     </message>
     <message>
         <source>not possible</source>
@@ -6080,11 +6080,11 @@
     </message>
     <message>
         <source>This is no property list with a dictionary</source>
-        <translation>Dit is geen eigenschappenlijst met een woordenboek</translation>
+        <translation>Dit is geen eigenschappenlijst met sleutels en waarden</translation>
     </message>
     <message>
         <source>A property list cannot hold this under %1</source>
-        <translation>Een eigenschappenlijst kan dit niet bevatten onder %1</translation>
+        <translation>De waarde van %1 past niet in een eigenschappenlijst</translation>
     </message>
     <message>
         <source>the file is write-protected</source>
@@ -7932,15 +7932,15 @@
     </message>
     <message>
         <source>it applies only with fit fill or pad</source>
-        <translation>het geldt alleen met fit fill of pad</translation>
+        <translation>deze sleutel geldt alleen met “fit” gelijk aan “fill” of “pad”</translation>
     </message>
     <message>
         <source>it applies only with fit pad</source>
-        <translation>het geldt alleen met fit pad</translation>
+        <translation>deze sleutel geldt alleen met “fit” gelijk aan “pad”</translation>
     </message>
     <message>
         <source>it applies only with box</source>
-        <translation>het geldt alleen met box</translation>
+        <translation>deze sleutel geldt alleen met “box”</translation>
     </message>
     <message>
         <source>two numbers separated by a colon such as 3:2, not "%1"</source>
@@ -7952,7 +7952,7 @@
     </message>
     <message>
         <source>it applies only with ratio</source>
-        <translation>het geldt alleen met ratio</translation>
+        <translation>deze sleutel geldt alleen met “ratio”</translation>
     </message>
     <message>
         <source>it is missing</source>
@@ -7960,7 +7960,7 @@
     </message>
     <message>
         <source>it applies only with a rectangle</source>
-        <translation>het geldt alleen met een rechthoek</translation>
+        <translation>deze sleutel geldt alleen voor een rechthoek</translation>
     </message>
     <message>
         <source>there is no picture "%1"</source>
@@ -7976,7 +7976,7 @@
     </message>
     <message>
         <source>it applies only with a text</source>
-        <translation>het geldt alleen met een tekst</translation>
+        <translation>deze sleutel geldt alleen voor een tekst</translation>
     </message>
     <message>
         <source>sRGB, Display P3, Adobe RGB, gray or the path of an ICC file, not "%1"</source>
@@ -8004,7 +8004,7 @@
     </message>
     <message>
         <source>a name without /; use folder for folders</source>
-        <translation>een naam zonder /; gebruik folder voor mappen</translation>
+        <translation>een naam zonder “/”; gebruik “folder” voor mappen</translation>
     </message>
     <message>
         <source>the version of the recipe is missing</source>
@@ -8436,7 +8436,7 @@
     <name>recipe-step</name>
     <message>
         <source>Check what this recipe reads and writes, and allow it first.</source>
-        <translation>Controleer eerst wat dit recept leest en schrijft, en sta het toe.</translation>
+        <translation>Controleer eerst wat dit recept leest en schrijft, en sta het daarna toe.</translation>
     </message>
 </context>
 <context>
@@ -8591,7 +8591,7 @@
     </message>
     <message>
         <source>at the focus of attention</source>
-        <translation>bij de blikvanger</translation>
+        <translation>rond het opvallendste deel</translation>
     </message>
     <message>
         <source>no file chosen</source>
@@ -8963,7 +8963,7 @@
     </message>
     <message>
         <source>Fix the marked step to see the new names.</source>
-        <translation>Verbeter de gemarkeerde stap om de nieuwe namen te zien.</translation>
+        <translation>Corrigeer de gemarkeerde stap om de nieuwe namen te zien.</translation>
     </message>
     <message numerus="yes">
         <source>The counter needs more digits: the last number has %n.</source>
@@ -9242,7 +9242,7 @@
     <name>room</name>
     <message>
         <source>The files need %1, but %3 has only %2 free.</source>
-        <translation>De bestanden hebben %1 nodig, maar %3 heeft maar %2 vrij.</translation>
+        <translation>De bestanden hebben %1 nodig, maar op %3 is slechts %2 vrij.</translation>
     </message>
     <message>
         <source>%1 free</source>
@@ -9583,7 +9583,7 @@
     </message>
     <message>
         <source>no picture could be made</source>
-        <translation>er kon geen foto worden gemaakt</translation>
+        <translation>geen enkele foto kon worden verwerkt</translation>
     </message>
     <message>
         <source>cancelled, the page was not made</source>
@@ -10563,7 +10563,7 @@
     </message>
     <message>
         <source>{%1} takes no format. Remove the colon and what follows it</source>
-        <translation>{%1} heeft geen notatie. Verwijder de dubbele punt en wat erna komt</translation>
+        <translation>{%1} kan geen notatie krijgen. Verwijder de dubbele punt en wat erna komt</translation>
     </message>
     <message>
         <source>There is no token between the braces. To write a brace, type {{</source>
@@ -10806,7 +10806,7 @@
     </message>
     <message>
         <source>Choose an angle or a flip.</source>
-        <translation>Kies een hoek of een spiegeling.</translation>
+        <translation>Kies een draaihoek of een spiegeling.</translation>
     </message>
     <message>
         <source>Rotated without loss.</source>
@@ -10864,8 +10864,8 @@
     <message numerus="yes">
         <source>%n have already been reverted.</source>
         <translation>
-            <numerusform>%n is eerder teruggezet.</numerusform>
-            <numerusform>%n zijn eerder teruggezet.</numerusform>
+            <numerusform>%n opmerking is al teruggezet.</numerusform>
+            <numerusform>%n opmerkingen zijn al teruggezet.</numerusform>
         </translation>
     </message>
     <message>
@@ -11154,8 +11154,8 @@
         <translation>Verhaal</translation>
     </message>
     <message>
-        <source>Quorlin’s own</source>
-        <translation>Sjabloon van Quorlin</translation>
+        <source>Same as Quorlin</source>
+        <translation>Zoals in Quorlin</translation>
     </message>
     <message>
         <source>By language</source>
@@ -11261,7 +11261,7 @@
     </message>
     <message>
         <source>no picture could be made</source>
-        <translation>er kon geen foto worden gemaakt</translation>
+        <translation>geen enkele foto kon worden verwerkt</translation>
     </message>
     <message>
         <source>The page could not be opened in a browser.</source>
@@ -12074,7 +12074,7 @@
     </message>
     <message>
         <source>All its pictures have already been reverted.</source>
-        <translation>Alle foto’s zijn al teruggedraaid.</translation>
+        <translation>Alle foto’s zijn al teruggezet.</translation>
     </message>
     <message>
         <source>Metadata</source>
@@ -12104,8 +12104,8 @@
     <message numerus="yes">
         <source>%n disagree with themselves</source>
         <translation>
-            <numerusform>%n spreekt zichzelf tegen</numerusform>
-            <numerusform>%n spreken zichzelf tegen</numerusform>
+            <numerusform>%n met tegenstrijdige waarden</numerusform>
+            <numerusform>%n met tegenstrijdige waarden</numerusform>
         </translation>
     </message>
     <message numerus="yes">

@@ -67,7 +67,7 @@ export class WebPane extends Pane {
     setItems() {
         const set = (name, pairs) =>
             this.form.setItems(name, pairs.map((pair) => pair[1]), pairs.map((pair) => pair[0]));
-        set("webLanguage", [["", qsTr("Quorlin’s own")], ["-", "-"]].concat(LANGUAGES));
+        set("webLanguage", [["", qsTr("Same as Quorlin")], ["-", "-"]].concat(LANGUAGES));
         set("webDirection", [["auto", qsTr("By language")], ["ltr", qsTr("Left to right")],
                              ["rtl", qsTr("Right to left")]]);
         set("webType", [["jpeg", "JPEG"], ["webp", "WebP"]]);
