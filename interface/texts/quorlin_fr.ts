@@ -4200,7 +4200,7 @@
     </message>
     <message>
         <source>This picture is in the trash. Use Undo to restore it.</source>
-        <translation>Cette image est à la corbeille. «&#x202f;Annuler&#x202f;» la ramène.</translation>
+        <translation>Cette image est à la corbeille. «&#x202f;Annuler&#x202f;» la restaure.</translation>
     </message>
     <message>
         <source>This picture is already in %1.</source>
@@ -4320,8 +4320,8 @@
     <message numerus="yes">
         <source>%1 of %n files belongs to an earlier session. Undo it?</source>
         <translation>
-            <numerusform>« %1 » (%n fichier) date d’une session précédente. L’annuler ?</numerusform>
-            <numerusform>« %1 » (%n fichiers) date d’une session précédente. L’annuler ?</numerusform>
+            <numerusform>«&#x202f;%1&#x202f;» (%n fichier) date d’une session précédente. L’annuler&#x202f;?</numerusform>
+            <numerusform>«&#x202f;%1&#x202f;» (%n fichiers) date d’une session précédente. L’annuler&#x202f;?</numerusform>
         </translation>
     </message>
     <message>
@@ -4588,8 +4588,8 @@
     <message numerus="yes">
         <source>%1 was interrupted: %2 of %3 pictures are done.</source>
         <translation>
-            <numerusform>%1 n’a pas pu se terminer : %2 image sur %3 est faite.</numerusform>
-            <numerusform>%1 n’a pas pu se terminer : %2 images sur %3 sont faites.</numerusform>
+            <numerusform>%1 n’a pas pu se terminer : %2 image sur %3 est faite.</numerusform>
+            <numerusform>%1 n’a pas pu se terminer : %2 images sur %3 sont faites.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -4602,15 +4602,15 @@
     <message numerus="yes">
         <source>%1 was interrupted: %2 of %3 files have their new names.</source>
         <translation>
-            <numerusform>%1 n’a pas pu se terminer : %2 fichier sur %3 a son nouveau nom.</numerusform>
-            <numerusform>%1 n’a pas pu se terminer : %2 fichiers sur %3 ont leur nouveau nom.</numerusform>
+            <numerusform>%1 n’a pas pu se terminer : %2 fichier sur %3 a son nouveau nom.</numerusform>
+            <numerusform>%1 n’a pas pu se terminer : %2 fichiers sur %3 ont leur nouveau nom.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 was interrupted: %2 of %3 files are done.</source>
         <translation>
-            <numerusform>%1 n’a pas pu se terminer : %2 fichier sur %3 est fait.</numerusform>
-            <numerusform>%1 n’a pas pu se terminer : %2 fichiers sur %3 sont faits.</numerusform>
+            <numerusform>%1 n’a pas pu se terminer : %2 fichier sur %3 est fait.</numerusform>
+            <numerusform>%1 n’a pas pu se terminer : %2 fichiers sur %3 sont faits.</numerusform>
         </translation>
     </message>
     <message>
@@ -5856,7 +5856,7 @@
     <name>pages</name>
     <message>
         <source>Pages have no setting “%1”.</source>
-        <translation>Les pages n’ont pas de réglage « %1 ».</translation>
+        <translation>Les pages n’ont pas de réglage «&#x202f;%1&#x202f;».</translation>
     </message>
     <message>
         <source>Enter a width and a height of the paper from 20 to 2000 mm.</source>
@@ -6135,15 +6135,15 @@
     </message>
     <message>
         <source>the last 1,000 files</source>
-        <translation>les 1 000 derniers fichiers</translation>
+        <translation>les 1&#x202f;000 derniers fichiers</translation>
     </message>
     <message>
         <source>the last 10,000 files</source>
-        <translation>les 10 000 derniers fichiers</translation>
+        <translation>les 10&#x202f;000 derniers fichiers</translation>
     </message>
     <message>
         <source>the last 100,000 files</source>
-        <translation>les 100 000 derniers fichiers</translation>
+        <translation>les 100&#x202f;000 derniers fichiers</translation>
     </message>
     <message>
         <source>all %1 processors</source>
@@ -6299,7 +6299,7 @@
     </message>
     <message>
         <source>This name is in use. The preset will be called “%1”.</source>
-        <translation>Ce nom est déjà utilisé. Le préréglage s’appellera « %1 ».</translation>
+        <translation>Ce nom est déjà utilisé. Le préréglage s’appellera «&#x202f;%1&#x202f;».</translation>
     </message>
 </context>
 <context>
@@ -7932,15 +7932,15 @@
     </message>
     <message>
         <source>it applies only with fit fill or pad</source>
-        <translation>elle ne s’applique qu’avec « fit » égal à « fill » ou « pad »</translation>
+        <translation>elle ne s’applique qu’avec «&#x202f;fit&#x202f;» égal à «&#x202f;fill&#x202f;» ou «&#x202f;pad&#x202f;»</translation>
     </message>
     <message>
         <source>it applies only with fit pad</source>
-        <translation>elle ne s’applique qu’avec « fit » égal à « pad »</translation>
+        <translation>elle ne s’applique qu’avec «&#x202f;fit&#x202f;» égal à «&#x202f;pad&#x202f;»</translation>
     </message>
     <message>
         <source>it applies only with box</source>
-        <translation>elle ne s’applique qu’avec « box »</translation>
+        <translation>elle ne s’applique qu’avec «&#x202f;box&#x202f;»</translation>
     </message>
     <message>
         <source>two numbers separated by a colon such as 3:2, not "%1"</source>
@@ -7952,7 +7952,7 @@
     </message>
     <message>
         <source>it applies only with ratio</source>
-        <translation>elle ne s’applique qu’avec « ratio »</translation>
+        <translation>elle ne s’applique qu’avec «&#x202f;ratio&#x202f;»</translation>
     </message>
     <message>
         <source>it is missing</source>
@@ -8004,7 +8004,7 @@
     </message>
     <message>
         <source>a name without /; use folder for folders</source>
-        <translation>un nom sans « / » ; pour les dossiers, utilisez « folder »</translation>
+        <translation>un nom sans «&#x202f;/&#x202f;»&#x202f;; pour les dossiers, utilisez «&#x202f;folder&#x202f;»</translation>
     </message>
     <message>
         <source>the version of the recipe is missing</source>
@@ -9490,7 +9490,7 @@
     </message>
     <message>
         <source>Dry run: %1 would be written</source>
-        <translation>Essai à blanc : %1 serait écrit</translation>
+        <translation>Essai à blanc : %1 serait écrit</translation>
     </message>
     <message numerus="yes">
         <source>%n pages</source>
@@ -9536,7 +9536,7 @@
     <name>sheets</name>
     <message>
         <source>Dry Run: %1</source>
-        <translation>Essai à blanc : %1</translation>
+        <translation>Essai à blanc : %1</translation>
     </message>
     <message>
         <source>%1 is replaced.</source>
@@ -9548,7 +9548,7 @@
     </message>
     <message>
         <source>Dry run: write nothing</source>
-        <translation>Essai à blanc : ne rien écrire</translation>
+        <translation>Essai à blanc : ne rien écrire</translation>
     </message>
 </context>
 <context>
@@ -10072,7 +10072,7 @@
     </message>
     <message>
         <source>Only pictures with %1 are processed: %2</source>
-        <translation>Seules les images avec %1 sont traitées : %2</translation>
+        <translation>Seules les images avec %1 sont traitées&#x202f;: %2</translation>
     </message>
     <message numerus="yes">
         <source>%n stars and more</source>
@@ -10420,7 +10420,7 @@
     </message>
     <message>
         <source>Small files for sharing. The lower the quality, the more detail is lost. Transparent parts get a colour and 16 bits become 8. Colour profile and metadata are kept.</source>
-        <translation>Petits fichiers à partager. Plus la qualité est basse, plus les détails se perdent. Les parties transparentes reçoivent une couleur et 16 bits deviennent 8. Profil colorimétrique et métadonnées sont conservés.</translation>
+        <translation>Petits fichiers à partager. Plus la qualité est basse, plus les détails se perdent. Les parties transparentes reçoivent une couleur et les 16 bits sont réduits à 8. Profil colorimétrique et métadonnées sont conservés.</translation>
     </message>
     <message>
         <source>Nothing is lost: pixels, transparency, 16 bits, colour profile and metadata are kept.</source>
@@ -10464,11 +10464,11 @@
     </message>
     <message>
         <source>Small files for web pages. The lower the quality, the more detail is lost. 16 bits become 8. Transparency, colour profile and metadata are kept.</source>
-        <translation>Petits fichiers pour les pages web. Plus la qualité est basse, plus les détails se perdent. 16 bits deviennent 8. Transparence, profil colorimétrique et métadonnées sont conservés.</translation>
+        <translation>Petits fichiers pour les pages web. Plus la qualité est basse, plus les détails se perdent. Les 16 bits sont réduits à 8. Transparence, profil colorimétrique et métadonnées sont conservés.</translation>
     </message>
     <message>
         <source>Very small files for web pages, which take the longest to write. The lower the quality, the more detail is lost. 16 bits become 8. Transparency, colour profile and metadata are kept.</source>
-        <translation>Très petits fichiers pour les pages web, les plus longs à écrire. Plus la qualité est basse, plus les détails se perdent. 16 bits deviennent 8. Transparence, profil colorimétrique et métadonnées sont conservés.</translation>
+        <translation>Très petits fichiers pour les pages web. C’est le type le plus long à écrire. Plus la qualité est basse, plus les détails se perdent. Les 16 bits sont réduits à 8. Transparence, profil colorimétrique et métadonnées sont conservés.</translation>
     </message>
     <message>
         <source>Small files for archives. The lower the quality, the more detail is lost. Transparency, 16 bits, colour profile and metadata are kept. Few programs can open it.</source>
@@ -11280,7 +11280,7 @@
     </message>
     <message>
         <source>The folder name cannot contain “/”.</source>
-        <translation>Le nom du dossier ne peut pas contenir « / ».</translation>
+        <translation>Le nom du dossier ne peut pas contenir «&#x202f;/&#x202f;».</translation>
     </message>
     <message>
         <source>Sizes are whole numbers from %1 to %2, each larger than the one before.</source>
@@ -11778,7 +11778,7 @@
     </message>
     <message>
         <source>The replaced files (%1) go to the trash. Undo brings them back.</source>
-        <translation>Les fichiers remplacés (%1) vont à la corbeille. « Annuler » les restaure.</translation>
+        <translation>Les fichiers remplacés (%1) vont à la corbeille. «&#x202f;Annuler&#x202f;» les restaure.</translation>
     </message>
     <message>
         <source>The disk is full</source>
@@ -11885,7 +11885,7 @@
     </message>
     <message>
         <source>Delete the old metadata of this run (%1) for good?</source>
-        <translation>Supprimer définitivement les anciennes métadonnées de ce traitement (%1) ?</translation>
+        <translation>Supprimer définitivement les anciennes métadonnées de ce traitement (%1)&#x202f;?</translation>
     </message>
     <message>
         <source>The pictures are not changed. The run can then no longer be reverted.</source>
@@ -11906,20 +11906,20 @@
     <message numerus="yes">
         <source>Reverting: %n pictures so far</source>
         <translation>
-            <numerusform>Annulation : %n image jusqu’ici</numerusform>
-            <numerusform>Annulation : %n images jusqu’ici</numerusform>
+            <numerusform>Annulation : %n image jusqu’ici</numerusform>
+            <numerusform>Annulation : %n images jusqu’ici</numerusform>
         </translation>
     </message>
     <message>
         <source>Stopped:</source>
-        <translation>Interrompu :</translation>
+        <translation>Interrompu :</translation>
     </message>
 </context>
 <context>
     <name>field-run</name>
     <message>
         <source>Stopped:</source>
-        <translation>Interrompu :</translation>
+        <translation>Interrompu :</translation>
     </message>
     <message>
         <source>Cancelled before the first picture. Nothing was written.</source>
@@ -11928,8 +11928,8 @@
     <message numerus="yes">
         <source>Dry run: %n pictures would be changed</source>
         <translation>
-            <numerusform>Essai à blanc : %n image serait modifiée</numerusform>
-            <numerusform>Essai à blanc : %n images seraient modifiées</numerusform>
+            <numerusform>Essai à blanc : %n image serait modifiée</numerusform>
+            <numerusform>Essai à blanc : %n images seraient modifiées</numerusform>
         </translation>
     </message>
     <message>
@@ -11942,7 +11942,7 @@
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1 : %2</translation>
     </message>
     <message>
         <source>Write metadata</source>
@@ -11951,8 +11951,8 @@
     <message numerus="yes">
         <source>Write metadata into %n pictures?</source>
         <translation>
-            <numerusform>Écrire les métadonnées dans %n image ?</numerusform>
-            <numerusform>Écrire les métadonnées dans %n images ?</numerusform>
+            <numerusform>Écrire les métadonnées dans %n image&#x202f;?</numerusform>
+            <numerusform>Écrire les métadonnées dans %n images&#x202f;?</numerusform>
         </translation>
     </message>
     <message>
@@ -11968,13 +11968,13 @@
     </message>
     <message>
         <source>EXIF, IPTC and XMP disagree:</source>
-        <translation>EXIF, IPTC et XMP se contredisent :</translation>
+        <translation>EXIF, IPTC et XMP se contredisent :</translation>
     </message>
     <message numerus="yes">
         <source>%n more pictures: see their rows in the list.</source>
         <translation>
-            <numerusform>%n autre image : voir sa ligne dans la liste.</numerusform>
-            <numerusform>%n autres images : voir leurs lignes dans la liste.</numerusform>
+            <numerusform>%n autre image : voir sa ligne dans la liste.</numerusform>
+            <numerusform>%n autres images : voir leurs lignes dans la liste.</numerusform>
         </translation>
     </message>
     <message>
@@ -12063,7 +12063,7 @@
     </message>
     <message>
         <source>Old values: %1.</source>
-        <translation>Anciennes valeurs : %1.</translation>
+        <translation>Anciennes valeurs : %1.</translation>
     </message>
     <message numerus="yes">
         <source>%n pictures can be reverted.</source>
@@ -12099,7 +12099,7 @@
     <name>fields</name>
     <message>
         <source>Dry Run: %1</source>
-        <translation>Essai à blanc : %1</translation>
+        <translation>Essai à blanc : %1</translation>
     </message>
     <message numerus="yes">
         <source>%n disagree with themselves</source>
@@ -12125,7 +12125,7 @@
     </message>
     <message>
         <source>Dry run: write nothing</source>
-        <translation>Essai à blanc : ne rien écrire</translation>
+        <translation>Essai à blanc : ne rien écrire</translation>
     </message>
 </context>
 <context>
@@ -12298,23 +12298,23 @@
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1 : %2</translation>
     </message>
     <message>
         <source>%1: “%2”</source>
-        <translation>%1 : « %2 »</translation>
+        <translation>%1 : «&#x202f;%2&#x202f;»</translation>
     </message>
     <message>
         <source>%1: “%2” → “%3”</source>
-        <translation>%1 : « %2 » → « %3 »</translation>
+        <translation>%1 : «&#x202f;%2&#x202f;» → «&#x202f;%3&#x202f;»</translation>
     </message>
     <message>
         <source>%1: cleared, was “%2”</source>
-        <translation>%1 : effacé, était « %2 »</translation>
+        <translation>%1 : effacé, était «&#x202f;%2&#x202f;»</translation>
     </message>
     <message>
         <source>%1: EXIF %2, IPTC %3, XMP %4</source>
-        <translation>%1 : EXIF %2, IPTC %3, XMP %4</translation>
+        <translation>%1 : EXIF %2, IPTC %3, XMP %4</translation>
     </message>
     <message numerus="yes">
         <source>%n stars</source>
@@ -12718,7 +12718,7 @@
     </message>
     <message>
         <source>Leave: %1</source>
-        <translation>Laisser : %1</translation>
+        <translation>Laisser : %1</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -12762,7 +12762,7 @@
     </message>
     <message>
         <source>Remove all keywords from the list?</source>
-        <translation>Retirer tous les mots-clés de la liste ?</translation>
+        <translation>Retirer tous les mots-clés de la liste&#x202f;?</translation>
     </message>
     <message>
         <source>Your pictures are not changed.</source>
@@ -12803,23 +12803,23 @@
     </message>
     <message>
         <source>Date taken: write it as 2026-08-14, 2026-08-14 10:20:30 or 2026-08-14 10:20:30+02:00.</source>
-        <translation>Prise de vue : écrivez 2026-08-14, 2026-08-14 10:20:30 ou 2026-08-14 10:20:30+02:00.</translation>
+        <translation>Prise de vue : écrivez 2026-08-14, 2026-08-14 10:20:30 ou 2026-08-14 10:20:30+02:00.</translation>
     </message>
     <message>
         <source>Shift: write hours and minutes, such as +1:00 or −0:05:30.</source>
-        <translation>Décalage : écrivez heures et minutes, comme +1:00 ou −0:05:30.</translation>
+        <translation>Décalage : écrivez heures et minutes, comme +1:00 ou −0:05:30.</translation>
     </message>
     <message>
         <source>Time zone: write it as +02:00.</source>
-        <translation>Fuseau horaire : écrivez +02:00.</translation>
+        <translation>Fuseau horaire : écrivez +02:00.</translation>
     </message>
     <message>
         <source>A date taken that is set is not shifted: write its time zone behind it.</source>
-        <translation>Une date fixée n’est pas décalée : écrivez son fuseau horaire à la suite.</translation>
+        <translation>Une date fixée n’est pas décalée : écrivez son fuseau horaire à la suite.</translation>
     </message>
     <message>
         <source>Country code: two or three letters, such as PT or PRT.</source>
-        <translation>Code du pays : deux ou trois lettres, comme PT ou PRT.</translation>
+        <translation>Code du pays : deux ou trois lettres, comme PT ou PRT.</translation>
     </message>
 </context>
 <context>
