@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+/** Jobs of everyday as a person does them by the shortest way that the manual tells, with the clicks and keys that they take. */
+namespace clicks {
+
+/** Which program is worked: the ways to a comment differ. */
+enum class Program {
+    Earlier, ///< before a comment was written and the next picture shown by one chord
+    Present,
+};
+
+struct Job
+{
+    QString name;
+    int count = 0;   ///< clicks and chords from the folder dropped to the summary shown
+    QString problem; ///< why it was not done; empty where it was
+};
+
+/**
+ * Does all jobs, each in a program that was just installed, and looks at the files that came of them. Takes as long as the program needs.
+ *
+ * @return web copies of a folder tree, rename by date and counter, square crops of a mixed list, captions for 30 pictures
+ */
+QList<Job> doAll(Program program);
+
+} // namespace clicks
