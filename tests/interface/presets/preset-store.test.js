@@ -180,17 +180,31 @@ test("endsWhatWasCutOffBetweenStoringAndRemoving", () => {
     equal(file.rows.map((row) => [row.id, row.fields[1]]), [["1", "Sorting"], ["4", "Resize"], ["5", "Crop"]]);
 });
 
-test("bringsInThousandsOfOneName", () => {
+// How long it takes to bring in so many presets of one name, and what came of it.
+function manyOfOneName(count) {
     const { file, store } = make({});
     store.list("turn");
     // Looking for a name in the database costs what it costs there, and is nothing of this test.
     file.matching = (column, value) => column === "NameOfPreset"
         ? [] : file.rows.filter((row) => row.fields[COLUMNS[column]] === value);
     const start = Date.now();
-    const done = store.bringIn(Array(3000).fill(rowOf(KINDS.turn.form, "Web", changed("turn", {}))));
+    const done = store.bringIn(Array(count).fill(rowOf(KINDS.turn.form, "Web", changed("turn", {}))));
+    return { ms: Date.now() - start, done: done, listed: store.list("turn").length };
+}
+
+test("bringsInThousandsOfOneName", () => {
+    const { done, listed } = manyOfOneName(3000);
     equal([done.names.length, done.names[0], done.names[2999], done.problem], [3000, "Web", "Web 3000", ""]);
-    equal(store.list("turn").length, 3000);
-    isTrue(Date.now() - start < 5000, "took " + (Date.now() - start) + " ms");
+    equal(listed, 3000);
+});
+
+// Four times as many take four times as long; sixteen times would be a search through all names for each. Whatever else the
+// machine does, the least of a few tries is that of the work.
+test("bringsInMoreOfOneNameInProportion", () => {
+    const least = (count) => [1, 2, 3].reduce((best) => Math.min(best, manyOfOneName(count).ms), Infinity);
+    const few = least(750);
+    const many = least(3000);
+    isTrue(many < 8 * Math.max(few, 1), many + " ms for 3000, " + few + " ms for 750");
 });
 
 test("removesAllCopiesAndShowsTheNewest", () => {
