@@ -83,13 +83,24 @@ export class MoveRun extends BaseRun {
 
     start() {
         const window = this.window;
+        this.startWith(window.pictures.tickedIds(), window.pictures.tickedPaths());
+    }
+
+    /** Does the same to these rows alone; counters begin again. */
+    repeat(ids) {
+        const list = this.window.pictures;
+        this.startWith(ids, ids.map((id) => list.photo(id).path));
+    }
+
+    startWith(ids, paths) {
+        const window = this.window;
         this.tellPane("starting");
-        this.startPlanning(window.pictures.tickedIds());
+        this.startPlanning(ids);
         this.title = window.action.title();
         this.undoes = "";
         this.undone = null;
         this.toldMs = 0;
-        this.paths = window.pictures.tickedPaths();
+        this.paths = paths;
         const work = this.plan();
         this.job.start(work, () => undefined, guard("moves.planEnd", (how, plan) => this.planEnded(how, plan)));
         this.changed();

@@ -41,7 +41,7 @@ export const MOVES = {
     output: false,
     preview: false,
     watches: false,
-    repeats: false,
+    repeats: true,
     columns: ["thumbnail", "name", "folder", "taken", "camera", "rating", "newName", "status"],
     headings: () => ({ name: qsTr("Now") }),
     stressed: true,

@@ -80,6 +80,11 @@ export class WriteRun extends BaseRun {
         this.begin(this.window.pictures.tickedIds());
     }
 
+    /** Does to these rows what was done to others. */
+    repeat(ids) {
+        this.begin(ids);
+    }
+
     retry() {
         const failed = this.failedIds().filter((id) => this.window.pictures.photo(id) !== null);
         failed.forEach((id) => this.window.pictures.forget(id));

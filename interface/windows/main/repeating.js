@@ -70,7 +70,7 @@ export class Repeating {
         const ids = this.later();
         if (ids.length > 0 && window.action.step.validate(window.settings).length === 0) {
             this.goesOn = true;
-            window.run.begin(ids);
+            window.run.repeat(ids);
         }
     }
 }

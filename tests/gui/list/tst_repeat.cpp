@@ -19,7 +19,8 @@ private Q_SLOTS:
     void thePicturesThatWereAddedLaterGetTheSameSettings();
     void theLastRunOfAnEarlierStartIsRepeated();
     void theLogGivesTheSettingsOfARun();
-    void aRunThatMovesFilesIsNotRepeated();
+    void aRunThatMovesFilesIsRepeated();
+    void theLogGivesTheSettingsOfARunThatMovedFiles();
 
 private:
     QString picture(const char *name);
@@ -106,7 +107,7 @@ void Repeat::theLogGivesTheSettingsOfARun()
     QCOMPARE(size().value(), 90.0);
 }
 
-void Repeat::aRunThatMovesFilesIsNotRepeated()
+void Repeat::aRunThatMovesFilesIsRepeated()
 {
     m_driver->show("rename");
     m_driver->choose("preset", QStringLiteral("=Lower-case extensions"));
@@ -115,8 +116,42 @@ void Repeat::aRunThatMovesFilesIsNotRepeated()
     QVERIFY(m_driver->waitFor([start] { return start->isEnabled(); }));
     m_driver->click("startButton");
     QVERIFY(!m_driver->waitForSummary().isEmpty());
-    m_driver->drop({picture("f.png")});
+    const QDir folder(m_driver->inputFolder());
     QVERIFY(!canRepeat());
+    m_driver->drop({picture("F.PNG")});
+    m_driver->choose("preset", QStringLiteral("=Clean for the web")); // not what the run had
+    m_driver->show("resize");
+    QVERIFY(canRepeat());
+    m_driver->trigger("repeatAction");
+    QVERIFY(m_driver->waitFor([&] { return folder.exists(QStringLiteral("F.png")); }));
+    QVERIFY(!m_driver->waitForSummary().isEmpty());
+    QCOMPARE(m_driver->text("windowTitle"), QStringLiteral("Quorlin – Rename"));
+    QVERIFY(folder.exists(QStringLiteral("E.png"))); // the first run's file keeps its name
+    QVERIFY(!canRepeat());
+    QVERIFY(m_driver->control<QAction>("undoAction")->isEnabled());
+}
+
+void Repeat::theLogGivesTheSettingsOfARunThatMovedFiles()
+{
+    m_driver->show("rename");
+    m_driver->choose("preset", QStringLiteral("=Number suffix"));
+    m_driver->drop({picture("g.png")});
+    auto *start = m_driver->control<QAbstractButton>("startButton");
+    QVERIFY(m_driver->waitFor([start] { return start->isEnabled(); }));
+    m_driver->click("startButton");
+    QVERIFY(!m_driver->waitForSummary().isEmpty());
+    m_driver->choose("preset", QStringLiteral("=Lower-case extensions"));
+    m_driver->show("log");
+    auto *runs = m_driver->control<window::RunList>("logRuns");
+    QVERIFY(m_driver->waitFor([runs] { return runs->model()->rowCount() == 2; }));
+    runs->setCurrentIndex(runs->model()->index(1, 0));
+    QVERIFY(m_driver->waitFor([this] { return m_driver->control<QAbstractButton>("logSettings")->isVisible(); }));
+    m_driver->click("logSettings");
+    QCOMPARE(m_driver->text("windowTitle"), QStringLiteral("Quorlin – Rename"));
+    const auto isPlanned = [this] {
+        return m_driver->cell(0, window::PictureModel::NewName).endsWith(QStringLiteral(" 001.png"));
+    };
+    QVERIFY2(m_driver->waitFor(isPlanned), qPrintable(m_driver->cell(0, window::PictureModel::NewName)));
 }
 
 QUORLIN_GUI_TEST(Repeat)
