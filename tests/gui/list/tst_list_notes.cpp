@@ -43,6 +43,7 @@ private Q_SLOTS:
     void theButtonCountsWhatWillBeWritten();
     void saysThatOnlyWhatFailedIsShown();
     void whatIsLeftOutIsSaidInOneLine();
+    void theTitleTellsHowFarARunIs_data();
     void theTitleTellsHowFarARunIs();
     void manyFoldersOpenInTheOneThatHoldsThem();
     void saysWhereAFolderIsThatNobodyOpens();
@@ -141,19 +142,35 @@ void TestListNotes::whatIsLeftOutIsSaidInOneLine()
     QVERIFY(!part("hiddenBar")->isVisible());
 }
 
+void TestListNotes::theTitleTellsHowFarARunIs_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("title");
+    QTest::newRow("English") << QStringLiteral("en") << QStringLiteral("^[1-9][0-9]?% – Resize – Quorlin$");
+    // What stands before the sign does not break.
+    QTest::newRow("German") << QStringLiteral("de") << QStringLiteral("^[1-9][0-9]?\u00A0% – Skalieren – Quorlin$");
+    QTest::newRow("French") << QStringLiteral("fr")
+                            << QStringLiteral("^[1-9][0-9]?\u00A0% – Redimensionner – Quorlin$");
+    QTest::newRow("Dutch") << QStringLiteral("nl") << QStringLiteral("^[1-9][0-9]?% – Schalen – Quorlin$");
+}
+
 void TestListNotes::theTitleTellsHowFarARunIs()
 {
+    QFETCH(QString, language);
+    QFETCH(QString, title);
+    qputenv("QUORLIN_LANGUAGE", language.toLatin1());
+    m_driver->startAgain();
+    qunsetenv("QUORLIN_LANGUAGE");
     for (int i = 0; i < 20; ++i)
         picture(QStringLiteral("p%1.png").arg(i), {800, 600});
     m_driver->drop({m_driver->inputFolder()});
     QCOMPARE(m_driver->window().windowTitle(), QStringLiteral("Quorlin"));
     QStringList titles;
     connect(&m_driver->window(), &QWidget::windowTitleChanged, this,
-            [&titles](const QString &title) { titles << title; });
+            [&titles](const QString &each) { titles << each; });
     run();
     // How many are done at once is the workers' affair.
-    QVERIFY2(titles.indexOf(QRegularExpression(QStringLiteral("^[1-9][0-9]?% – Resize – Quorlin$"))) >= 0,
-             qPrintable(titles.join(u'|')));
+    QVERIFY2(titles.indexOf(QRegularExpression(title)) >= 0, qPrintable(titles.join(u'|')));
     QCOMPARE(m_driver->window().windowTitle(), QStringLiteral("Quorlin"));
 }
 
