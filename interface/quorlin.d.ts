@@ -2192,6 +2192,8 @@ declare module "quorlin/shell" {
         problemsOnly: boolean;
         /** Only pictures with so many stars or more are shown, and no action works on the others; 0 for all. */
         leastRating: whole;
+        /** Whether any row is rated. */
+        readonly hasRatings: boolean;
         /** The keys 0 to 5 rate the chosen pictures. */
         keysRate: boolean;
         /** Runs work on these. */
@@ -2250,6 +2252,8 @@ declare module "quorlin/shell" {
         toggleTicks(): null;
         /** The chosen pictures: 1 to 5 stars, or 0 for none. */
         rate(stars: whole): null;
+        /** Of all ticked rows, each {id, path, name, rating}. */
+        ratings(): list;
         tickAll(): null;
         showColumnMenu(): null;
         /** [{camera, count, shift}], shift in seconds; those with most pictures first. */

@@ -1805,6 +1805,14 @@
         <source>Move Do&amp;wn</source>
         <translation>Nach u&amp;nten</translation>
     </message>
+    <message>
+        <source>&amp;Write Ratings into Files…</source>
+        <translation>Bewertungen in die Dateien &amp;schreiben …</translation>
+    </message>
+    <message>
+        <source>Write the stars of the list into the files of its pictures, where other programs read them</source>
+        <translation>Die Sterne der Liste in die Dateien der Bilder schreiben, wo andere Programme sie lesen</translation>
+    </message>
 </context>
 <context>
     <name>Manual</name>
@@ -4352,6 +4360,13 @@
         <translation>
             <numerusform>Verschieben von %n Zeile wiederholen</numerusform>
             <numerusform>Verschieben von %n Zeilen wiederholen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Undo Writing %n Ratings</source>
+        <translation>
+            <numerusform>Schreiben von %n Bewertung rückgängig</numerusform>
+            <numerusform>Schreiben von %n Bewertungen rückgängig</numerusform>
         </translation>
     </message>
 </context>
@@ -12846,6 +12861,51 @@
     <message>
         <source>%1 cannot be removed.</source>
         <translation>%1 kann nicht entfernt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>ratings</name>
+    <message numerus="yes">
+        <source>Write the ratings of %n pictures into their files?</source>
+        <translation>
+            <numerusform>Die Bewertung von %n Bild in seine Datei schreiben?</numerusform>
+            <numerusform>Die Bewertungen von %n Bildern in ihre Dateien schreiben?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n ratings written</source>
+        <translation>
+            <numerusform>%n Bewertung geschrieben</numerusform>
+            <numerusform>%n Bewertungen geschrieben</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Write ratings</source>
+        <translation>Bewertungen schreiben</translation>
+    </message>
+    <message>
+        <source>This changes the XMP rating inside your originals, and nothing else. Files that cannot hold it get a sidecar file. You can revert it in the log.</source>
+        <translation>Dies ändert die XMP-Bewertung in Ihren Originalen und sonst nichts. Dateien, die sie nicht aufnehmen können, erhalten eine Begleitdatei. Im Protokoll lässt es sich rückgängig machen.</translation>
+    </message>
+    <message>
+        <source>Write</source>
+        <translation>Schreiben</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>All ratings are in their files already.</source>
+        <translation>Alle Bewertungen stehen schon in ihren Dateien.</translation>
+    </message>
+    <message>
+        <source>Ratings: %1 done</source>
+        <translation>Bewertungen: %1 fertig</translation>
+    </message>
+    <message>
+        <source>Metadata</source>
+        <translation>Metadaten</translation>
     </message>
 </context>
 </TS>

@@ -253,6 +253,13 @@
             <numerusform>Redo Moving %n Rows</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>Undo Writing %n Ratings</source>
+        <translation>
+            <numerusform>Undo Writing %n Rating</numerusform>
+            <numerusform>Undo Writing %n Ratings</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>input</name>
@@ -1280,6 +1287,23 @@
         <translation>
             <numerusform>%n keyword exported</numerusform>
             <numerusform>%n keywords exported</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ratings</name>
+    <message numerus="yes">
+        <source>Write the ratings of %n pictures into their files?</source>
+        <translation>
+            <numerusform>Write the rating of %n picture into its file?</numerusform>
+            <numerusform>Write the ratings of %n pictures into their files?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n ratings written</source>
+        <translation>
+            <numerusform>%n rating written</numerusform>
+            <numerusform>%n ratings written</numerusform>
         </translation>
     </message>
 </context>

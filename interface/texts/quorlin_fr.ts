@@ -1805,6 +1805,14 @@
         <source>Move Do&amp;wn</source>
         <translation>&amp;Descendre</translation>
     </message>
+    <message>
+        <source>&amp;Write Ratings into Files…</source>
+        <translation>Écrire les &amp;notes dans les fichiers…</translation>
+    </message>
+    <message>
+        <source>Write the stars of the list into the files of its pictures, where other programs read them</source>
+        <translation>Écrire les étoiles de la liste dans les fichiers des images, où d’autres programmes les lisent</translation>
+    </message>
 </context>
 <context>
     <name>Manual</name>
@@ -4352,6 +4360,13 @@
         <translation>
             <numerusform>Rétablir le déplacement de %n ligne</numerusform>
             <numerusform>Rétablir le déplacement de %n lignes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Undo Writing %n Ratings</source>
+        <translation>
+            <numerusform>Annuler l’écriture de %n note</numerusform>
+            <numerusform>Annuler l’écriture de %n notes</numerusform>
         </translation>
     </message>
 </context>
@@ -12846,6 +12861,51 @@
     <message>
         <source>%1 cannot be removed.</source>
         <translation>%1 ne peut pas être supprimé.</translation>
+    </message>
+</context>
+<context>
+    <name>ratings</name>
+    <message numerus="yes">
+        <source>Write the ratings of %n pictures into their files?</source>
+        <translation>
+            <numerusform>Écrire la note de %n image dans son fichier ?</numerusform>
+            <numerusform>Écrire les notes de %n images dans leurs fichiers ?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n ratings written</source>
+        <translation>
+            <numerusform>%n note écrite</numerusform>
+            <numerusform>%n notes écrites</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Write ratings</source>
+        <translation>Écrire les notes</translation>
+    </message>
+    <message>
+        <source>This changes the XMP rating inside your originals, and nothing else. Files that cannot hold it get a sidecar file. You can revert it in the log.</source>
+        <translation>Cela modifie la note XMP dans vos originaux, et rien d’autre. Les fichiers qui ne peuvent pas la contenir reçoivent un fichier annexe. Vous pouvez revenir en arrière dans le journal.</translation>
+    </message>
+    <message>
+        <source>Write</source>
+        <translation>Écrire</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>All ratings are in their files already.</source>
+        <translation>Toutes les notes sont déjà dans leurs fichiers.</translation>
+    </message>
+    <message>
+        <source>Ratings: %1 done</source>
+        <translation>Notes : %1 faites</translation>
+    </message>
+    <message>
+        <source>Metadata</source>
+        <translation>Métadonnées</translation>
     </message>
 </context>
 </TS>

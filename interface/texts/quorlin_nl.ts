@@ -1805,6 +1805,14 @@
         <source>Move Do&amp;wn</source>
         <translation>Om&amp;laag</translation>
     </message>
+    <message>
+        <source>&amp;Write Ratings into Files…</source>
+        <translation>Beoordelingen in bestanden &amp;schrijven…</translation>
+    </message>
+    <message>
+        <source>Write the stars of the list into the files of its pictures, where other programs read them</source>
+        <translation>De sterren van de lijst in de bestanden van de foto’s schrijven, waar andere programma’s ze lezen</translation>
+    </message>
 </context>
 <context>
     <name>Manual</name>
@@ -4352,6 +4360,13 @@
         <translation>
             <numerusform>Verplaatsen van %n rij opnieuw uitvoeren</numerusform>
             <numerusform>Verplaatsen van %n rijen opnieuw uitvoeren</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Undo Writing %n Ratings</source>
+        <translation>
+            <numerusform>Schrijven van %n beoordeling ongedaan maken</numerusform>
+            <numerusform>Schrijven van %n beoordelingen ongedaan maken</numerusform>
         </translation>
     </message>
 </context>
@@ -12846,6 +12861,51 @@
     <message>
         <source>%1 cannot be removed.</source>
         <translation>%1 kan niet worden verwijderd.</translation>
+    </message>
+</context>
+<context>
+    <name>ratings</name>
+    <message numerus="yes">
+        <source>Write the ratings of %n pictures into their files?</source>
+        <translation>
+            <numerusform>De beoordeling van %n foto in het bestand schrijven?</numerusform>
+            <numerusform>De beoordelingen van %n foto’s in de bestanden schrijven?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n ratings written</source>
+        <translation>
+            <numerusform>%n beoordeling geschreven</numerusform>
+            <numerusform>%n beoordelingen geschreven</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Write ratings</source>
+        <translation>Beoordelingen schrijven</translation>
+    </message>
+    <message>
+        <source>This changes the XMP rating inside your originals, and nothing else. Files that cannot hold it get a sidecar file. You can revert it in the log.</source>
+        <translation>Dit wijzigt de XMP-beoordeling in uw originelen en verder niets. Bestanden die haar niet kunnen bevatten, krijgen een sidecarbestand. In het logboek kunt u het ongedaan maken.</translation>
+    </message>
+    <message>
+        <source>Write</source>
+        <translation>Schrijven</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>All ratings are in their files already.</source>
+        <translation>Alle beoordelingen staan al in hun bestanden.</translation>
+    </message>
+    <message>
+        <source>Ratings: %1 done</source>
+        <translation>Beoordelingen: %1 klaar</translation>
+    </message>
+    <message>
+        <source>Metadata</source>
+        <translation>Metadata</translation>
     </message>
 </context>
 </TS>

@@ -80,6 +80,18 @@ void PictureTable::rate(int stars)
     rated();
 }
 
+QVariantList PictureTable::ratings() const
+{
+    QVariantList found;
+    for (const int index : rowsInOrder())
+        if (const PictureRow &row = m_model.row(index); row.isTicked)
+            found.append(QVariantMap{{QStringLiteral("id"), row.id},
+                                     {QStringLiteral("path"), row.path},
+                                     {QStringLiteral("name"), row.name},
+                                     {QStringLiteral("rating"), row.rating}});
+    return found;
+}
+
 /** What is shown, and in which order, may depend on ratings. */
 void PictureTable::rated()
 {

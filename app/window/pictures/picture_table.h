@@ -28,6 +28,8 @@ class PictureTable : public QTableView
     Q_PROPERTY(bool problemsOnly READ problemsOnly WRITE setProblemsOnly)
     /** Only pictures with so many stars, 1 to 5, or more are shown, and no action works on the others; 0 for all. */
     Q_PROPERTY(int leastRating READ leastRating WRITE setLeastRating NOTIFY leastRatingChanged)
+    /** Whether any row is rated. */
+    Q_PROPERTY(bool hasRatings READ hasRatings)
     /** Whether the keys 0 to 5 rate the chosen pictures. */
     Q_PROPERTY(bool keysRate READ keysRate WRITE setKeysRate)
     /** How many of them are ticked: runs work on these. */
@@ -53,6 +55,7 @@ public:
     int tickedCount() const { return m_tickedCount; }
     int leastRating() const { return m_order.input().leastRating; }
     void setLeastRating(int stars);
+    bool hasRatings() const { return m_hasRatings; }
     bool keysRate() const { return m_keysRate; }
     void setKeysRate(bool on) { m_keysRate = on; }
     bool isSettled() const { return !m_resortPending; }
@@ -118,6 +121,8 @@ public:
     Q_INVOKABLE void toggleTicks();
     /** Rates the chosen pictures: 1 to 5 stars, or 0 for none. */
     Q_INVOKABLE void rate(int stars);
+    /** Of all ticked rows, each {id, path, name, rating}. */
+    Q_INVOKABLE QVariantList ratings() const;
     /** Ticks all rows. */
     Q_INVOKABLE void tickAll();
     /** Shows the menu of the columns at the head of the list. */

@@ -19,6 +19,7 @@ const WORDS = {
     move: { undo: (number) => qsTr("Undo Moving %n Rows", "", number),
             redo: (number) => qsTr("Redo Moving %n Rows", "", number) },
     clear: { undo: () => qsTr("Undo Clear List"), redo: () => qsTr("Redo Clear List") },
+    ratings: { undo: (number) => qsTr("Undo Writing %n Ratings", "", number) },
     run: { undo: (number, title) => fill(qsTr("Undo %1 of %n Files", "", number), title),
            redo: (number, title) => fill(qsTr("Redo %1 of %n Files", "", number), title) },
 };
@@ -73,6 +74,11 @@ export class History {
         if (count > 0) {
             this.keep({ kind: kind, count: count, title: "", id: "" });
         }
+    }
+
+    /** Ratings were written into so many files. Once they are taken out, the command writes them again. */
+    wroteRatings(run, count) {
+        this.keep({ kind: "ratings", count: count, title: "", id: run });
     }
 
     keep(step) {
@@ -187,6 +193,9 @@ export class History {
         const step = this.isOpen() ? this.lastOf(this.done) : null;
         if (step !== null && step.kind === "run") {
             this.takeBack(step.id);
+        } else if (step !== null && step.kind === "ratings") {
+            this.done.pop();
+            this.window.ratings.revert(step.id);
         } else if (step !== null) {
             this.undone.push(this.done.pop());
             this.window.pictures.undoEdit();

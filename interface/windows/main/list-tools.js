@@ -82,6 +82,7 @@ export class ListTools {
             this.window.showCurrent();
         }
         this.window.showFiltered();
+        this.window.ratings.show();
     }
 
     copyFiles() {

@@ -8,6 +8,7 @@ import { guard } from "../../lib/guard.js";
 import { commonFolder } from "../../lib/names.js";
 import { keep, recall } from "../../lib/store.js";
 import { fill } from "../../lib/wording.js";
+import { Ratings } from "../../runs/fields/ratings.js";
 import { KeptList } from "../../runs/making/kept-list.js";
 import { makeServices } from "../../services.js";
 import { SaveAs } from "../save-as/save-as.js";
@@ -88,6 +89,7 @@ export class MainWindow {
         this.interrupted = new InterruptedBar(this);
         this.keptList = new KeptList(this);
         this.tools = new ListTools(this);
+        this.ratings = new Ratings(this);
         this.estimate = new ListEstimate(this, () => this.showStart());
         this.shownPage = this.action.page === undefined ? null : this.action;
         this.pageHost.show(this.shownPage);
@@ -217,6 +219,7 @@ export class MainWindow {
         this.watching.show();
         this.interrupted.show();
         this.tools.show();
+        this.ratings.show();
         this.help.tell();
     }
 

@@ -1,5 +1,8 @@
 #include "tests/gui/support/window_driver.h"
+#include "tests/support/test_pictures.h"
 #include "tests/support/test_program.h"
+
+#include "meta/metadata_file.h"
 
 #include <QFile>
 #include <QHeaderView>
@@ -22,6 +25,8 @@ private Q_SLOTS:
     void worksOnTheBestOnly();
     void sortsIntoFoldersByStars();
     void keysBelongToTheFieldAndToFolders();
+    void starsAreWrittenIntoFilesAndTakenOutAgain();
+    void noFileIsWrittenUnasked();
 
 private:
     void begin(const char *action = "resize")
@@ -33,6 +38,28 @@ private:
             QVERIFY(image.save(m_driver->inputFolder() + u'/' + QString::fromLatin1(name)));
         m_driver->drop({m_driver->inputFolder()});
         QCOMPARE(m_driver->pictures().model()->rowCount(), 3);
+    }
+
+    QString path(const char *name) const { return m_driver->inputFolder() + u'/' + QString::fromLatin1(name); }
+
+    /** What the file itself says. */
+    QString writtenIn(const char *name)
+    {
+        const auto read = meta::readFields(path(name));
+        if (!read)
+            return QStringLiteral("unreadable");
+        const QVariantMap rating =
+            read->value(QStringLiteral("fields")).toMap().value(QStringLiteral("rating")).toMap();
+        return rating.value(QStringLiteral("value")).toStringList().join(u' ');
+    }
+
+    /** Uses the command, and answers its question. */
+    void writeRatings(const char *answer)
+    {
+        auto *entry = m_driver->control<QAction>("writeRatingsAction");
+        QVERIFY(m_driver->waitFor([entry] { return entry->isEnabled(); }));
+        WindowDriver::answerNextQuestion(QString::fromLatin1(answer));
+        entry->trigger();
     }
 
     /** Rates the row of the list as it is shown. */
@@ -152,6 +179,51 @@ void Ratings::keysBelongToTheFieldAndToFolders()
     QVERIFY(m_driver->pictures().keysRate());
     m_driver->show("hand");
     QVERIFY(!m_driver->pictures().keysRate());
+}
+
+void Ratings::starsAreWrittenIntoFilesAndTakenOutAgain()
+{
+    begin();
+    const QByteArray original = pictures::bytesOf(path("b.png"));
+    QVERIFY(!m_driver->control<QAction>("writeRatingsAction")->isEnabled());
+    rate(1, 3);
+    rate(2, 5);
+    writeRatings("Write");
+    const auto isSaid = [this](const char *text) {
+        return m_driver->waitFor([this, text] { return m_driver->text("statusText") == QString::fromUtf8(text); });
+    };
+    QVERIFY2(isSaid("2 ratings written"), qPrintable(m_driver->text("statusText")));
+    QCOMPARE(writtenIn("a.png"), QString());
+    QCOMPARE(writtenIn("b.png"), QStringLiteral("3"));
+    QCOMPARE(writtenIn("c.png"), QStringLiteral("5"));
+    QCOMPARE(ratings().join(u'|'), QStringLiteral("a.png |b.png ★★★|c.png ★★★★★"));
+    // Stars that are taken away later go out of the file too.
+    rate(2, 0);
+    writeRatings("Write");
+    QVERIFY2(isSaid("1 rating written"), qPrintable(m_driver->text("statusText")));
+    QCOMPARE(writtenIn("c.png"), QString());
+    auto *undo = m_driver->control<QAction>("undoAction");
+    QCOMPARE(undo->text(), QStringLiteral("Undo Writing 1 Rating"));
+    undo->trigger();
+    QVERIFY(m_driver->waitFor([this] { return writtenIn("c.png") == QStringLiteral("5"); }));
+    QVERIFY(m_driver->waitFor([undo] { return undo->text() == QStringLiteral("Undo Writing 2 Ratings"); }));
+    QVERIFY2(isSaid("1 picture reverted"), qPrintable(m_driver->text("statusText")));
+    undo->trigger();
+    QVERIFY2(isSaid("2 pictures reverted"), qPrintable(m_driver->text("statusText")));
+    QCOMPARE(pictures::bytesOf(path("b.png")), original);
+    m_driver->show("log");
+    QVERIFY(m_driver->waitFor([this] { return m_driver->text("logCount") == QStringLiteral("6 entries"); }));
+}
+
+void Ratings::noFileIsWrittenUnasked()
+{
+    begin();
+    const QByteArray original = pictures::bytesOf(path("a.png"));
+    rate(0, 4);
+    writeRatings("Cancel");
+    QTest::qWait(300);
+    QCOMPARE(pictures::bytesOf(path("a.png")), original);
+    QVERIFY(!QFile::exists(path("a.png.xmp")));
 }
 
 QUORLIN_GUI_TEST(Ratings)
