@@ -3,6 +3,8 @@
 #include "platform/foundation/file_names.h"
 #include "platform/foundation/paths.h"
 
+#include <algorithm>
+
 namespace files {
 
 Spot &FolderView::spot(const QString &name)
@@ -50,12 +52,35 @@ FolderView &Places::read(const QString &canonical)
     view.mayChange = m_disk.mayChange(canonical);
     if (const auto state = m_disk.look(canonical))
         view.device = state->device;
-    if (const auto entries = m_disk.list(canonical)) {
+    if (auto entries = m_disk.list(canonical)) {
         view.spots.reserve(qsizetype(entries->size()));
-        for (const platform::FolderEntry &entry : *entries)
-            view.spot(entry.name).tenants.push_back({entry.name, entry.mayBeFolder, -1});
+        view.unread = std::move(*entries);
+        std::reverse(view.unread.begin(), view.unread.end());
+        m_unread.push_back(&view);
     }
     return view;
+}
+
+void Places::begin(const QString &path)
+{
+    for (QString there = path; !existing(there) && there.size() > 1;)
+        there = platform::parentFolder(there);
+}
+
+bool Places::goOn()
+{
+    constexpr int entriesAtOnce = 100;
+    if (m_unread.empty())
+        return false;
+    FolderView &view = *m_unread.back();
+    for (int i = 0; i < entriesAtOnce && !view.unread.empty(); ++i) {
+        const platform::FolderEntry &entry = view.unread.back();
+        view.spot(entry.name).tenants.push_back({entry.name, entry.mayBeFolder, -1});
+        view.unread.pop_back();
+    }
+    if (view.unread.empty())
+        m_unread.pop_back();
+    return true;
 }
 
 FolderView &Places::imagine(const QString &path)

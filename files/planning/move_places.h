@@ -36,7 +36,8 @@ struct FolderView
     quint64 device = 0;
     MoveProblem fault = MoveProblem::None; ///< why it cannot be made
     QString faultOther;
-    QHash<QString, Spot> spots; ///< by platform::nameKey()
+    QHash<QString, Spot> spots;                     ///< by platform::nameKey()
+    std::vector<platform::FolderEntry> unread = {}; ///< what is there and has no spot yet, the next at the end
 
     Spot &spot(const QString &name);
     /** What has exactly this name; null where nothing has. Valid until the next spot() of this folder. */
@@ -49,6 +50,10 @@ class Places
 public:
     explicit Places(const platform::FileSystem &disk) : m_disk(disk) {}
 
+    /** Begins to read the folders that folder() asks for. To be called first, with goOn() until that says false. */
+    void begin(const QString &path);
+    /** Reads some more of what was begun; false where all is read. */
+    bool goOn();
     /** The folder at a path, whether it is there or not. Folders that would have to be made take their names at once. */
     FolderView &folder(const QString &path);
     /** The folder at a path; null where there is none. */
@@ -62,6 +67,7 @@ private:
     QHash<QString, FolderView *> m_byPath;
     QHash<QString, FolderView *> m_byCanonicalPath;
     std::vector<std::unique_ptr<FolderView>> m_all;
+    std::vector<FolderView *> m_unread;
 };
 
 } // namespace files

@@ -7,6 +7,8 @@
 #include "platform/foundation/file_names.h"
 #include "platform/foundation/paths.h"
 
+#include <optional>
+
 namespace files {
 namespace {
 
@@ -61,14 +63,15 @@ public:
             m_stage = Stage(int(m_stage) + 1);
             return m_stage != Stage::Done;
         }
-        work(m_at++);
+        if (m_stage != Stage::Read || hasItsFolders(m_at))
+            work(m_at++);
         return true;
     }
 
     const std::vector<PlannedMove> &plan() const { return m_plan; }
 
 private:
-    /** Each goes through all wishes, the folders through all at once. */
+    /** Each goes through all wishes. */
     enum class Stage { Read, FindLeaders, Claim, Folders, Describe, Done };
 
     void work(int i)
@@ -81,8 +84,7 @@ private:
         case Stage::Claim:
             return isOpen(i) && !draft(i).isClaimed ? claim(groupOf(i)) : void();
         case Stage::Folders:
-            m_at = count();
-            return refuseImpossible();
+            return refuseImpossible(i);
         case Stage::Describe:
             return describe(i);
         case Stage::Done:
@@ -101,6 +103,16 @@ private:
     }
     bool isOpen(int i) { return planned(i).status == PlanStatus::Ready; }
     bool leaves(int i) const { return wish(i).kind == MoveKind::Move; }
+
+    /** A folder may hold many names, which are read some at a time. */
+    bool hasItsFolders(int i)
+    {
+        if (faultOfPath(wish(i).to) == MoveProblem::None && wish(i).from != wish(i).to) {
+            m_places.begin(parentFolder(wish(i).from));
+            m_places.begin(parentFolder(wish(i).to));
+        }
+        return !m_places.goOn();
+    }
 
     void read(int i)
     {
@@ -281,13 +293,7 @@ private:
         m_refused.push_back(i);
     }
 
-    /** What follows from the refusals: their items stay, so whoever relied on their leaving is looked at again. */
-    void settle()
-    {
-        while (!m_refused.empty())
-            settleOne();
-    }
-
+    /** What follows from a refusal: its item stays, so whoever relied on its leaving is looked at again. */
     void settleOne()
     {
         const int i = m_refused.back();
@@ -312,26 +318,48 @@ private:
         claim(head);
     }
 
-    /** Folders that are to go into each other, and the like. Only folders can be so entangled. */
-    void refuseImpossible()
+    /**
+     * Folders that are to go into each other, and the like. Only folders can be so entangled: where there are some, all wishes are ordered,
+     * until an order without impossible ones is found.
+     */
+    void refuseImpossible(int i)
     {
-        bool isAnyFolder = false;
-        for (int i = 0; i < count() && !isAnyFolder; ++i)
-            isAnyFolder = isOpen(i) && leaves(i) && draft(i).isFolder;
-        while (isAnyFolder) {
-            std::vector<int> open;
-            std::vector<Displacement> displacements;
-            for (int i = 0; i < count(); ++i)
-                if (isOpen(i)) {
-                    open.push_back(i);
-                    displacements.push_back(displacement(i));
-                }
-            const std::vector<int> impossible = orderMoves(displacements).impossible;
-            for (const int at : impossible)
-                refuse(open[size_t(at)], MoveProblem::Inside);
-            settle();
-            isAnyFolder = !impossible.empty();
+        if (m_ordering)
+            return orderSome();
+        if (!m_isOrdering && isOpen(i) && leaves(i) && draft(i).isFolder)
+            return orderAll();
+        if (m_isOrdering && isOpen(i)) {
+            m_ordered.push_back(i);
+            m_displacements.push_back(displacement(i));
         }
+        if (m_isOrdering && m_at == count()) {
+            m_ordering.emplace(std::move(m_displacements));
+            --m_at; // this stage goes on
+        }
+    }
+
+    /** Begins with the first wish again. */
+    void orderAll()
+    {
+        m_isOrdering = true;
+        m_ordered.clear();
+        m_displacements.clear();
+        m_at = 0;
+    }
+
+    void orderSome()
+    {
+        --m_at;
+        if (!m_ordering->step())
+            return;
+        const std::vector<int> impossible = m_ordering->take().impossible;
+        m_ordering.reset();
+        for (const int at : impossible)
+            refuse(m_ordered[size_t(at)], MoveProblem::Inside);
+        if (impossible.empty())
+            m_at = count();
+        else
+            orderAll();
     }
 
     Displacement displacement(int i)
@@ -375,6 +403,10 @@ private:
     std::vector<PlannedMove> m_plan;
     std::vector<int> m_refused;
     QMultiHash<int, int> m_companions;
+    std::vector<int> m_ordered;                ///< the wishes that are ordered
+    std::vector<Displacement> m_displacements; ///< theirs
+    bool m_isOrdering = false;
+    std::optional<MoveOrdering> m_ordering;
     Stage m_stage = Stage::Read;
     int m_at = 0;
 };
