@@ -6,7 +6,7 @@ import { keep, recall } from "./store.js";
 const KEY = "Preferences";
 // processors: 0 is all there are; memory, in MB: 0 is what is free.
 const STANDARD = { ifTaken: "number", logRows: 100000, processors: 0, memory: 0, destination: "beside",
-                   sharesThumbnails: true };
+                   sharesThumbnails: true, keepsList: false };
 
 /** What an action does at first where a name is taken. */
 export const TAKEN = ["number", "replace", "skip", "current", "ask"];
@@ -21,7 +21,7 @@ function oneOf(values, kept, standard) {
     return values.indexOf(kept) >= 0 ? kept : standard;
 }
 
-/** {ifTaken, logRows, processors, memory, destination, sharesThumbnails}; what is not known is as it is for everybody. */
+/** {ifTaken, logRows, processors, memory, destination, sharesThumbnails, keepsList}; what is not known is as it is for everybody. */
 export function wishes(defaults) {
     const kept = recall(defaults, KEY, STANDARD);
     return {
@@ -30,6 +30,7 @@ export function wishes(defaults) {
         memory: oneOf(MEMORY, kept.memory, STANDARD.memory),
         destination: oneOf(DESTINATIONS, kept.destination, STANDARD.destination),
         sharesThumbnails: kept.sharesThumbnails !== false,
+        keepsList: kept.keepsList === true,
         processors: Number.isInteger(kept.processors) && kept.processors > 0 ? kept.processors : STANDARD.processors,
     };
 }

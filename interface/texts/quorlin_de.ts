@@ -2256,6 +2256,14 @@
         <source>Lists of pictures appear sooner. Thumbnails of encrypted and removable disks are never kept.</source>
         <translation>Bildlisten erscheinen schneller. Von verschlüsselten und entfernbaren Datenträgern werden nie Vorschaubilder aufbewahrt.</translation>
     </message>
+    <message>
+        <source>Bring the list back at startup</source>
+        <translation>Liste beim Start wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Otherwise it is empty. After a crash or an interrupted run it always comes back.</source>
+        <translation>Sonst ist sie leer. Nach einem Absturz oder einem unterbrochenen Durchlauf kommt sie immer zurück.</translation>
+    </message>
 </context>
 <context>
     <name>PresetPane</name>

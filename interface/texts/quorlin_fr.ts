@@ -2256,6 +2256,14 @@
         <source>Lists of pictures appear sooner. Thumbnails of encrypted and removable disks are never kept.</source>
         <translation>Les listes d’images s’affichent plus vite. Les vignettes des images de disques chiffrés ou amovibles ne sont jamais conservées.</translation>
     </message>
+    <message>
+        <source>Bring the list back at startup</source>
+        <translation>Rétablir la liste au démarrage</translation>
+    </message>
+    <message>
+        <source>Otherwise it is empty. After a crash or an interrupted run it always comes back.</source>
+        <translation>Sinon, elle est vide. Après un plantage ou un traitement interrompu, elle revient toujours.</translation>
+    </message>
 </context>
 <context>
     <name>PresetPane</name>

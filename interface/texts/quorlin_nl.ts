@@ -2256,6 +2256,14 @@
         <source>Lists of pictures appear sooner. Thumbnails of encrypted and removable disks are never kept.</source>
         <translation>Lijsten met foto’s verschijnen sneller. Van versleutelde en verwisselbare schijven worden nooit miniaturen bewaard.</translation>
     </message>
+    <message>
+        <source>Bring the list back at startup</source>
+        <translation>Lijst bij het starten herstellen</translation>
+    </message>
+    <message>
+        <source>Otherwise it is empty. After a crash or an interrupted run it always comes back.</source>
+        <translation>Anders is de lijst leeg. Na een crash of een onderbroken opdracht komt ze altijd terug.</translation>
+    </message>
 </context>
 <context>
     <name>PresetPane</name>

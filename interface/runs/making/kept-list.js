@@ -1,11 +1,14 @@
-// Keeps the list on the disk while the program runs, so that it comes back after a crash. An end in order takes that away.
+// Keeps the list on the disk while the program runs, so that it comes back after a crash. An end in order takes that away, unless the
+// preferences say otherwise.
 // Services used: records (begin, add, endWithProgram, end, interrupted), files (readText, info).
 
+import { defaults } from "quorlin/defaults";
 import { files } from "quorlin/files";
 import { runRecords } from "quorlin/records";
 import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";
 import { joinPath } from "../../lib/names.js";
+import { wishes } from "../../lib/wishes.js";
 
 const SETTLE_MS = 1000;
 const PATHS_A_SLICE = 200;
@@ -57,16 +60,29 @@ export class KeptList {
     }
 
     keep() {
-        const work = this.keeping(this.window.pictures.paths());
+        const work = this.keeping(this.window.pictures.paths(), true);
         this.job.start(work, () => undefined, () => undefined);
     }
 
+    /** The window is about to close in order: the list stays where the user wants it back. */
+    close() {
+        this.timer.stop();
+        this.job.cancel();
+        const work = this.keeping(wishes(defaults).keepsList ? this.window.pictures.paths() : [], false);
+        let step = work.next();
+        while (!step.done) {
+            step = work.next();
+        }
+    }
+
     // The old one stays until the new one is whole.
-    * keeping(paths) {
+    * keeping(paths, isPassing) {
         const path = paths.length === 0 ? "" : runRecords.begin(listsFolder());
         let isWhole = paths.length === 0;
         try {
-            runRecords.endWithProgram(path);
+            if (isPassing) {
+                runRecords.endWithProgram(path);
+            }
             for (let i = 0; i < paths.length && path !== ""; i += PATHS_A_SLICE) {
                 runRecords.add(path, JSON.stringify({ paths: paths.slice(i, i + PATHS_A_SLICE) }) + "\n", false);
                 yield i;

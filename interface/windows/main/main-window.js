@@ -413,6 +413,14 @@ export class MainWindow {
     }
 
     mayClose() {
+        const mayClose = this.mayEnd();
+        if (mayClose) {
+            this.keptList.close();
+        }
+        return mayClose;
+    }
+
+    mayEnd() {
         const isSaving = this.saving !== null && this.saving.isBusy();
         if (!this.run.isBusy() && !isSaving) {
             this.livePlan.stop();

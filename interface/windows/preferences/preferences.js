@@ -93,6 +93,8 @@ export class Preferences {
             keepWish(defaults, "sharesThumbnails", thumbnails.checked);
             this.pictures.sharesThumbnails = thumbnails.checked;
         }));
+        const list = this.form.control("wishList");
+        list.toggled.connect(guard("preferences", () => keepWish(defaults, "keepsList", list.checked)));
         const update = this.form.control("wishUpdate");
         update.toggled.connect(guard("preferences", () => keep(defaults, UPDATE, { onStart: update.checked })));
     }
@@ -115,6 +117,7 @@ export class Preferences {
         this.form.chooseValue("wishLogRows", wishes(defaults).logRows);
         this.form.chooseValue("wishProcessors", processorsOf(wishes(defaults).processors));
         this.form.control("wishThumbnails").checked = wishes(defaults).sharesThumbnails;
+        this.form.control("wishList").checked = wishes(defaults).keepsList;
         this.form.control("wishUpdate").checked = recall(defaults, UPDATE, UPDATE_STANDARD).onStart;
     }
 

@@ -75,6 +75,31 @@ private Q_SLOTS:
         QVERIFY(list().isEmpty());
     }
 
+    void bringsTheListBackWhereThePreferencesSaySo()
+    {
+        m_driver->trigger("preferencesAction");
+        QVERIFY(!m_driver->control<QAbstractButton>("wishList")->isChecked());
+        m_driver->control<QAbstractButton>("wishList")->click();
+        m_driver->click("preferencesDone");
+        m_driver->drop({m_driver->inputFolder()});
+        QVERIFY(m_driver->window().close());
+        QVERIFY(QFile::remove(at("b.jpg")));
+        const QStringList left = {QStringLiteral("a.jpg"), QStringLiteral("c.jpg"), QStringLiteral("d.jpg")};
+        m_driver->startAgain();
+        QCOMPARE(list(), left);
+        // What was read is kept for the next time too.
+        QVERIFY(m_driver->window().close());
+        m_driver->startAgain();
+        QCOMPARE(list(), left);
+        m_driver->trigger("preferencesAction");
+        QVERIFY(m_driver->control<QAbstractButton>("wishList")->isChecked());
+        m_driver->control<QAbstractButton>("wishList")->click();
+        m_driver->click("preferencesDone");
+        QVERIFY(m_driver->window().close());
+        m_driver->startAgain();
+        QVERIFY(list().isEmpty());
+    }
+
     void renamesTheRest()
     {
         interrupt(1);
