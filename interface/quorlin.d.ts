@@ -1337,6 +1337,8 @@ declare module "quorlin/recipes" {
         takes(): string[];
         /** Those of the paths that a run wrote, but not in the place of their originals, and nobody changed since. */
         resultsAmong(paths: texts): string[];
+        /** Notes that a run wrote that file, which no recipe did. */
+        noteResult(path: text): null;
         /**
          * The path of a result that needs not be made again: the same recipe made it of the same picture, and neither was changed since. It
          * is `wanted` or a numbered form of it; empty where there is none. The index is how many pictures came before this one.

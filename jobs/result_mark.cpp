@@ -25,6 +25,11 @@ void markResult(const QString &result, const QString &source, const QString &set
     platform::attachNote(result, noteFor(result, source, settings));
 }
 
+void unmarkResult(const QString &result)
+{
+    platform::attachNote(result, {});
+}
+
 bool isCurrentResult(const QString &path, const QString &source, const QString &settings)
 {
     const QByteArray note = platform::attachedNote(path);

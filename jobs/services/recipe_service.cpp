@@ -286,6 +286,11 @@ QStringList RecipeService::resultsAmong(const QStringList &paths) const
     return results;
 }
 
+void RecipeService::noteResult(const QString &path) const
+{
+    markResult(path, path, key("pages"));
+}
+
 const QList<MadeWith> &RecipeService::madeWithFor(const QVariantMap &recipe)
 {
     const auto states = [](const QStringList &files) {

@@ -115,6 +115,9 @@ public:
      */
     Q_INVOKABLE QStringList resultsAmong(const QStringList &paths) const;
 
+    /** Notes that a run wrote the file at @p path, which no recipe did. */
+    Q_INVOKABLE void noteResult(const QString &path) const;
+
     /**
      * The path of a result that needs not be made again: that this user's data folder knows to be made by the same recipe of the picture at
      * @p path, both being as they were then. It is @p wanted or a numbered form of it; empty where there is none.

@@ -1,7 +1,7 @@
 // Makes the file of a plan: workers make the pictures ready, the pages are put together beside the place of the file, and then it takes
 // that place. A generator that yields {index, result} for each picture, and null while it waits; it returns {status, reason, name, path,
 // folder, bytes}. Stopping it leaves nothing behind.
-// Services used: files (makeFolder, makeStaging, place ...), replacing.
+// Services used: files (makeFolder, makeStaging, place ...), replacing, recipes (noteResult).
 
 import { guard } from "../../lib/guard.js";
 import { joinPath } from "../../lib/names.js";
@@ -44,9 +44,13 @@ export function* makeSheet(work, item, rule, services, wake) {
             return failed(made.problem);
         }
         const placed = placeResult(target, item, rule, services);
-        return placed.status !== "OK" ? placed
-            : { status: "OK", reason: "", name: placed.name, path: joinPath(item.folder, placed.name),
-                folder: item.folder, bytes: made.bytes, pages: made.pages };
+        if (placed.status !== "OK") {
+            return placed;
+        }
+        const path = joinPath(item.folder, placed.name);
+        services.recipes.noteResult(path);
+        return { status: "OK", reason: "", name: placed.name, path: path, folder: item.folder, bytes: made.bytes,
+                 pages: made.pages };
     } finally {
         workshop.close();
     }
