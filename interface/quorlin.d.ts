@@ -1409,6 +1409,8 @@ declare module "quorlin/recipes" {
 
     /** What one output of a recipe is to become for one picture. */
     interface PlannedOutput {
+        /** Its index in the recipe. */
+        output: whole;
         status: "ready" | "Failed" | "Not Supported" | "Skipped";
         reason: string;
         /** Empty where there is none. */
@@ -1427,7 +1429,9 @@ declare module "quorlin/recipes" {
 
     /** What came of it. */
     interface MadeOutput {
-        status: "OK" | "Failed" | "Not Supported" | "Skipped";
+        output: whole;
+        /** "waiting": whoever takes it puts what is at the path `file` into the place of what is there, known as `replaced`. */
+        status: "OK" | "Failed" | "Not Supported" | "Skipped" | "waiting";
         reason: string;
         path: string;
         bytes: double;
@@ -1458,13 +1462,22 @@ declare module "quorlin/recipes" {
         problem(): string;
         /** By the number of the picture, from 0; for all in their order, each once. root: the folder that it was found in, or "". */
         plan(index: whole, root: text): PlannedOutput[];
+        /**
+         * Plans a picture as an earlier batch did: {root, width, height, planned, done}, the last two one path an output, "" where there is
+         * none. The outputs that are still to be made.
+         */
+        planAgain(index: whole, earlier: dictionary): PlannedOutput[];
+        /** More pictures join behind the last; the number of the first of them. */
+        join(paths: texts): whole;
         /** Hands a picture that was planned to a worker, which makes all its outputs from one decoding. */
         give(index: whole): null;
         /**
-         * A picture that has come, {number, outputs, ms}; without any keys where there is none. See MadeOutput. One whose disk is full has the
-         * keys full, a sentence, and folder besides; it may be given again.
+         * A picture that has come, {number, whole, ms}; without any keys where there is none. whole: [{output, file, path}], what waits to be
+         * placed. One whose disk is full has the keys full, a sentence, and folder besides; it may be given again.
          */
         take(): { [key: string]: any };
+        /** Puts what was made of a picture that was taken into its places. */
+        place(index: whole): MadeOutput[];
         /** What waited of a picture is where it belongs, or is given up. */
         settle(index: whole): null;
         /** The outputs of a picture that is not begun go below that folder, and replace nothing there. */

@@ -45,6 +45,8 @@ public:
     State look(int waitMs = 0);
     /** The next picture. To be called where look() says that it is ready. */
     Input take();
+    /** One more comes behind those that were named from the start. */
+    void addNamed(const QString &name);
     /** How many were taken. */
     int taken() const { return m_taken; }
     /** How many are known, those that were taken among them. */
@@ -77,7 +79,6 @@ public:
     const QString &problem() const { return m_problem; }
 
 private:
-    void addNamed(const QString &name);
     void add(const Input &input);
     bool isNew(const QString &path);
     void letGoAtEnd();

@@ -80,6 +80,13 @@ OutputPlace OutputPlaces::at(const QString &path, const Input &input, const Whic
     return placeFor(path, m_names.plan(path), input, which);
 }
 
+OutputPlace OutputPlaces::again(const QString &path, const QString &done, const Input &input, const Which &which)
+{
+    if (!done.isEmpty())
+        m_names.keep(done);
+    return done.isEmpty() && !path.isEmpty() ? at(path, input, which) : OutputPlace{done, false, false, {}};
+}
+
 /** A result of the same, under its name or a numbered form of it, which nothing needs to be done about; empty where there is none. */
 QString OutputPlaces::currentResult(const QString &wanted, const Input &input, const Which &which) const
 {

@@ -56,6 +56,10 @@ public:
     };
     /** What becomes of an output that is to go to @p path. */
     OutputPlace at(const QString &path, const Input &input, const Which &which);
+    /** The same of an output that was planned before at @p path, and perhaps made: @p done is where it is then. */
+    OutputPlace again(const QString &path, const QString &done, const Input &input, const Which &which);
+    /** Whether a picture of the batch that is known so far is there, and another one than @p input. */
+    bool isOtherInput(const QString &path, const Input &input) const { return m_names.isOtherInput(path, input); }
     /** Another name for what could not have the one that it was given. */
     QString numbered(const QString &path) { return m_names.giveNumbered(path); }
 

@@ -128,6 +128,21 @@ void ResultFiles::drop(int index)
     QFile::remove(m_begun.take(index));
 }
 
+QList<ResultFiles::Waiting> ResultFiles::waiting() const
+{
+    QList<Waiting> waiting;
+    for (const Kept &kept : m_kept)
+        waiting.append({kept.index, kept.file, kept.place.path});
+    return waiting;
+}
+
+void ResultFiles::moveTo(int index, const OutputPlace &place)
+{
+    for (Kept &kept : m_kept)
+        if (kept.index == index)
+            kept.place = place;
+}
+
 QString ResultFiles::leave(int index)
 {
     const bool isKept = m_kept.removeIf([index](const Kept &kept) { return kept.index == index; }) > 0;

@@ -71,6 +71,16 @@ public:
     platform::Result<void> keep(int index, qint64 bytes, const OutputPlace &place, const image::RecipeOutput &output);
     /** It is given up after all. */
     void drop(int index);
+    struct Waiting
+    {
+        int index = 0;
+        QString file; ///< whole
+        QString path; ///< where it is to go
+    };
+    /** What is kept and has no place yet. */
+    QList<Waiting> waiting() const;
+    /** It is to go there instead, which is in the same folder. */
+    void moveTo(int index, const OutputPlace &place);
     /** Leaves a whole file where it waits, for somebody else to place: its path; empty where there is none. */
     QString leave(int index);
     /** It is not, for a reason that is an errno. */

@@ -1,13 +1,15 @@
 // What a crash or a power cut interrupted, and what is left of it: runs that write pictures and runs that move files. Pure but for
 // translation; the services are handed in.
 
+import { splitPath } from "../lib/names.js";
 import { fill, numberText } from "../lib/wording.js";
 import { settleReplaced } from "./making/replacing.js";
-import { doneResults, recordFrom, recordsFolder } from "./making/run-record.js";
+import { doneCount, doneResults, foldersOfItem, recordFrom, recordsFolder } from "./making/run-record.js";
+import { logRow } from "./report.js";
 
 // What was unfinished is of no use to anybody.
 function sweepFolders(record, files) {
-    const folders = new Set(record.items.map((item) => item.folder));
+    const folders = new Set([].concat(...record.items.map(foldersOfItem)));
     folders.forEach((folder) => {
         if (folder !== "" && files.info(folder).exists) {
             files.sweep(folder);
@@ -47,9 +49,30 @@ export function interruptedPictures(runRecords, files, moves) {
         sweepFolders(record, files);
         notePlaced(record, path, runRecords, files, moves);
         return { kind: "pictures", action: record.head.action, title: record.head.title, record: record, path: path,
-                 id: "", done: Object.keys(doneResults(record, files)).length, count: record.items.length,
+                 id: "", done: doneCount(record, files), count: record.items.length,
                  places: record.items.map((item) => item.of) };
     });
+}
+
+// What became of one item, or of one of its outputs.
+function finalOf(item, planned, result) {
+    const photo = { path: item.of, name: splitPath(item.of).name };
+    const isReady = planned.status === "ready";
+    return Object.assign(result || { status: isReady ? "Skipped" : planned.status,
+                                     reason: isReady ? qsTr("interrupted") : planned.reason }, { photo: photo });
+}
+
+/** A generator that gives the rows of the log of a run that is left as it is, one item after the other; process, about: see logRow(). */
+export function* rowsOfLeft(record, files, process, about) {
+    const done = doneResults(record, files);
+    const date = new Date().toISOString();
+    const run = record.replacing || record.head.id;
+    for (let i = 0; i < record.items.length; i += 1) {
+        const item = record.items[i];
+        const finals = item.outputs === undefined ? [finalOf(item, item, done[i])]
+            : item.outputs.map((output) => finalOf(item, output, done[i + ":" + output.output]));
+        yield finals.map((final) => logRow(final, process, about, date, run));
+    }
 }
 
 /** Of the runs with these ids those of which something is left: {kind: "moves" or "undo", id, title, items, places, done, count}. */

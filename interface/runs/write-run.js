@@ -130,14 +130,22 @@ export class WriteRun extends BaseRun {
             this.notePlan();
         }
         if (how !== "done" || value.cancelled) {
-            this.finish(qsTr("Cancelled before the first picture. Nothing was written."));
+            this.finish(this.nothingText());
         } else if (this.simulated) {
             this.endSimulation();
-        } else if (mayReplace(this.items, (bytes) => this.replacedText(bytes))) {
+        } else if (this.mayReplace(this.items)) {
             this.carryOut();
         } else {
             this.finish(qsTr("Cancelled. Nothing was written."));
         }
+    }
+
+    mayReplace(items) {
+        return mayReplace(items, (bytes) => this.replacedText(bytes));
+    }
+
+    nothingText() {
+        return qsTr("Cancelled before the first picture. Nothing was written.");
     }
 
     /** What becomes of originals that are replaced. */
@@ -177,12 +185,19 @@ export class WriteRun extends BaseRun {
     }
 
     listGrew() {
+        if (!this.takesMore()) {
+            super.listGrew();
+        }
         if (this.joining !== null) {
             this.joining.look();
         }
     }
 
-    /** A generator that plans pictures which were added; it returns their items, or null where they stay out. */
+    /**
+     * A generator that plans pictures which were added; it returns their items, or null where they stay out.
+     *
+     * @return {Generator<number, any[], any>}
+     */
     * planMore(ids) {
         const items = [];
         const planning = this.planOf(ids);
@@ -192,7 +207,7 @@ export class WriteRun extends BaseRun {
             items.push(part.value);
             yield items.length;
         }
-        if (part.value.cancelled || !mayReplace(items, (bytes) => this.replacedText(bytes))) {
+        if (part.value.cancelled || !this.mayReplace(items)) {
             return null;
         }
         if (this.record !== null) {
@@ -218,8 +233,18 @@ export class WriteRun extends BaseRun {
         this.flow = new Flow(() => this.job.wake());
         const services = Object.assign({}, this.window.services, { replacing: this.replacing });
         // The engine loses a generator that is returned by the call that makes it.
-        const work = this.recorded(this.window.action.step, services);
+        const work = this.recorded(services);
         return work;
+    }
+
+    /** A generator that makes what is planned. */
+    * makeAll(services) {
+        yield* runByWorkers(this.items, this.window.action.step, this.settings, services, this.flow);
+    }
+
+    /** All inputs, where names depend on those that are not made too. */
+    inputPaths() {
+        return [];
     }
 
     // The run waits until there is room.
@@ -238,20 +263,19 @@ export class WriteRun extends BaseRun {
     }
 
     // Where this process ends before the run, the next one knows how far it was.
-    * recorded(step, services) {
+    * recorded(services) {
         const record = new RunRecord(runRecords, files);
         const action = this.window.action;
         const head = { action: action.name, title: action.title(), settings: this.settings, startedMs: this.startedMs,
                        id: this.id, replacing: this.earlierReplacing, continues: this.interrupted };
         this.record = record;
         this.replacing.record = record;
-        for (const part of record.begin(head, this.items)) {
+        for (const part of record.begin(head, this.items, this.inputPaths())) {
             yield { kind: "recorded", index: part, item: this.items[part] };
         }
         runRecords.end(this.interrupted); // what it said is in this one
         this.joining.open(this.flow);
-        yield* runByWorkers(this.items, step, this.settings, Object.assign({}, services, { record: record }),
-                            this.flow);
+        yield* this.makeAll(Object.assign({}, services, { record: record }));
     }
 
     /** It is part of one that was interrupted, with the same name in the log; path: of the record of that. */
@@ -335,6 +359,7 @@ export class WriteRun extends BaseRun {
             super.togglePause();
             return;
         }
+        this.window.said = "";
         this.paused = !this.paused;
         this.steppedMs = Date.now();
         if (this.paused) {
@@ -351,6 +376,7 @@ export class WriteRun extends BaseRun {
             super.cancel();
             return;
         }
+        this.window.said = "";
         this.flow.stop();
         this.showProgress();
     }
@@ -425,12 +451,9 @@ export class WriteRun extends BaseRun {
 
     // What came too late gets its plan as after any other change.
     finish(text) {
-        const isLeft = this.joining !== null && this.joining.end();
+        this.hasOthers = (this.joining !== null && this.joining.end()) || this.hasOthers;
         this.joining = null;
         super.finish(text);
-        if (isLeft) {
-            this.window.livePlan.refresh();
-        }
     }
 
     // The rows of the log belong to the run that can be undone, where there is one.

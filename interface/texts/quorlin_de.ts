@@ -4640,6 +4640,10 @@
         <source>Continue</source>
         <translation>Fortsetzen</translation>
     </message>
+    <message>
+        <source>interrupted</source>
+        <translation>unterbrochen</translation>
+    </message>
 </context>
 <context>
     <name>job</name>
@@ -4970,6 +4974,10 @@
             <numerusform>%1 geöffnet, das den Ordner enthält</numerusform>
             <numerusform>%1 geöffnet, das die %n Ordner enthält</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>What you add now is not part of this run.</source>
+        <translation>Was Sie jetzt hinzufügen, gehört nicht zu diesem Durchlauf.</translation>
     </message>
 </context>
 <context>
@@ -9409,6 +9417,10 @@
         <source>Report saved as %1</source>
         <translation>Bericht gespeichert als %1</translation>
     </message>
+    <message>
+        <source>stopping</source>
+        <translation>wird angehalten</translation>
+    </message>
 </context>
 <context>
     <name>run-signs</name>
@@ -12914,6 +12926,13 @@
     <message>
         <source>Metadata</source>
         <translation>Metadaten</translation>
+    </message>
+</context>
+<context>
+    <name>recipe-making</name>
+    <message>
+        <source>the picture no longer exists</source>
+        <translation>das Bild ist nicht mehr vorhanden</translation>
     </message>
 </context>
 </TS>

@@ -4640,6 +4640,10 @@
         <source>Rename the Rest</source>
         <translation>Renommer le reste</translation>
     </message>
+    <message>
+        <source>interrupted</source>
+        <translation>interrompu</translation>
+    </message>
 </context>
 <context>
     <name>job</name>
@@ -4970,6 +4974,10 @@
             <numerusform>%1 est ouvert ; il contient le dossier</numerusform>
             <numerusform>%1 est ouvert ; il contient les %n dossiers</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>What you add now is not part of this run.</source>
+        <translation>Ce que vous ajoutez maintenant ne fait pas partie de ce traitement.</translation>
     </message>
 </context>
 <context>
@@ -9409,6 +9417,10 @@
         <source>Report saved as %1</source>
         <translation>Rapport enregistré sous %1</translation>
     </message>
+    <message>
+        <source>stopping</source>
+        <translation>arrêt en cours</translation>
+    </message>
 </context>
 <context>
     <name>run-signs</name>
@@ -12914,6 +12926,13 @@
     <message>
         <source>Metadata</source>
         <translation>Métadonnées</translation>
+    </message>
+</context>
+<context>
+    <name>recipe-making</name>
+    <message>
+        <source>the picture no longer exists</source>
+        <translation>l’image n’existe plus</translation>
     </message>
 </context>
 </TS>

@@ -4640,6 +4640,10 @@
         <source>Rename the Rest</source>
         <translation>De rest hernoemen</translation>
     </message>
+    <message>
+        <source>interrupted</source>
+        <translation>onderbroken</translation>
+    </message>
 </context>
 <context>
     <name>job</name>
@@ -4970,6 +4974,10 @@
             <numerusform>%1 geopend, waarin de map staat</numerusform>
             <numerusform>%1 geopend, waarin de %n mappen staan</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>What you add now is not part of this run.</source>
+        <translation>Wat u nu toevoegt, hoort niet bij deze opdracht.</translation>
     </message>
 </context>
 <context>
@@ -9409,6 +9417,10 @@
         <source>Report saved as %1</source>
         <translation>Rapport bewaard als %1</translation>
     </message>
+    <message>
+        <source>stopping</source>
+        <translation>wordt gestopt</translation>
+    </message>
 </context>
 <context>
     <name>run-signs</name>
@@ -12914,6 +12926,13 @@
     <message>
         <source>Metadata</source>
         <translation>Metadata</translation>
+    </message>
+</context>
+<context>
+    <name>recipe-making</name>
+    <message>
+        <source>the picture no longer exists</source>
+        <translation>de foto bestaat niet meer</translation>
     </message>
 </context>
 </TS>

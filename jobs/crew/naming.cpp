@@ -87,6 +87,11 @@ QList<OutputPlace> BatchNaming::placesOf(PictureWork &work)
 void BatchNaming::name(PictureWork &work)
 {
     work.places = placesOf(work);
+    noteLines(work);
+}
+
+void BatchNaming::noteLines(PictureWork &work) const
+{
     for (const int index : std::as_const(work.wanted))
         work.lines.insert(index, lineBefore(work, index));
     work.isNamed = true;

@@ -37,6 +37,8 @@ public:
     bool needsPicture(const PictureWork &work) const;
     /** Gives the outputs of a picture that is planned their places and their first lines. */
     void name(PictureWork &work);
+    /** Gives them their first lines, where they have their places. */
+    void noteLines(PictureWork &work) const;
     /** Plans for a picture of which nothing can be made. */
     QList<image::OutputPlan> failedPlans(const QString &problem) const;
 

@@ -3,6 +3,7 @@
 #include "image/recipe/recipe_reader.h"
 #include "image/recipe/sentence.h"
 #include "jobs/desk/plan_errand.h"
+#include "jobs/result_mark.h"
 #include "platform/disk/item_identity.h"
 #include "platform/foundation/paths.h"
 
@@ -39,9 +40,9 @@ QString wordOf(LineStatus status)
 
 QVariantMap outcomeOf(const ReportLine &line)
 {
-    return {{key("status"), wordOf(line.status)}, {key("reason"), line.reason},
-            {key("path"), line.output},           {key("bytes"), double(line.bytes)},
-            {key("width"), line.size.width()},    {key("height"), line.size.height()}};
+    return {{key("output"), line.index},        {key("status"), wordOf(line.status)}, {key("reason"), line.reason},
+            {key("path"), line.output},         {key("bytes"), double(line.bytes)},   {key("width"), line.size.width()},
+            {key("height"), line.size.height()}};
 }
 
 /** The outputs that replace something, which are left to wait beside their places; the picture's own is the last. */
@@ -58,14 +59,30 @@ QVariantList replacements(PictureWork &work, ResultFiles &files)
             continue;
         QVariantMap outcome = outcomeOf(work.lines[output]);
         outcome.insert({{key("status"), key("waiting")}, {key("file"), file}, {key("replaced"), replaced}});
-        (platform::targetIdentity(path) == own ? ofOwn : waiting).append(outcome);
+        const bool isOwn = platform::targetIdentity(path) == own;
+        // What is in the place of a picture is that picture from now on.
+        if (isOwn)
+            unmarkResult(file);
+        (isOwn ? ofOwn : waiting).append(outcome);
         work.lines.remove(output);
     }
     return waiting + ofOwn;
 }
 
+/** What joined since the outputs were planned is a picture of the batch, and nothing replaces it. */
+void leaveOtherInputs(PictureWork &work, ResultFiles &files, OutputPlaces &places)
+{
+    for (const int output : std::as_const(work.wanted)) {
+        OutputPlace &place = work.places[output];
+        if (!place.replaces || !places.isOtherInput(place.path, work.input))
+            continue;
+        place = {places.numbered(place.path), false, false, {}};
+        files.moveTo(output, place);
+    }
+}
+
 /** Puts what was made into its place. */
-void place(PictureWork &work, ResultFiles &files, OutputPlaces &places)
+void placeAll(PictureWork &work, ResultFiles &files, OutputPlaces &places)
 {
     for (const ResultFiles::Placed &placed : files.placeAll(places)) {
         ReportLine &line = work.lines[placed.index];
@@ -159,6 +176,39 @@ QVariantList RecipeBatch::plan(int index, const QString &root)
     return outputs;
 }
 
+QVariantList RecipeBatch::planAgain(int index, const QVariantMap &earlier)
+{
+    if (!begin() || index < 0 || index >= m_paths.size())
+        return {};
+    const QStringList planned = earlier.value(key("planned")).toStringList();
+    const QStringList done = earlier.value(key("done")).toStringList();
+    PictureWork work = m_naming->workOn({m_paths[index], earlier.value(key("root")).toString(), {}, false}, index);
+    work.facts = factsOfFile(m_paths[index], index, m_needsFacts);
+    work.plans = m_naming->failedPlans({});
+    work.wanted.clear();
+    for (int output = 0; output < m_recipe.outputs.size(); ++output) {
+        work.places.append(
+            m_naming->places().again(planned.value(output), done.value(output), work.input, {output, index}));
+        if (!planned.value(output).isEmpty() && done.value(output).isEmpty())
+            work.wanted.append(output);
+    }
+    m_naming->noteLines(work);
+    const QVariantList outputs = linesOf(work);
+    m_pixels[index] = QSize(earlier.value(key("width")).toInt(), earlier.value(key("height")).toInt());
+    m_works.insert_or_assign(index, std::move(work));
+    return outputs;
+}
+
+int RecipeBatch::join(const QStringList &paths)
+{
+    const int first = int(m_paths.size());
+    m_paths += paths;
+    if (m_inputs)
+        for (const QString &path : paths)
+            m_inputs->addNamed(path);
+    return first;
+}
+
 int RecipeBatch::room() const
 {
     constexpr int ahead = 2; // so that a worker goes on while this process still looks at its last result
@@ -229,29 +279,16 @@ bool RecipeBatch::keep(int index, const MadeMessage &made)
     return true;
 }
 
-/** What came of each output, when everything that needs nobody's help is in its place. */
-QVariantList RecipeBatch::outcomes(int index, const QString &problem)
+/** The outputs of which there is a file. */
+QVariantList RecipeBatch::wholeOf(int index) const
 {
-    PictureWork &work = m_works.at(index);
-    QVariantList waiting;
-    if (problem.isEmpty() && m_files.count(index) != 0) {
-        ResultFiles &files = *m_files.at(index);
-        waiting = replacements(work, files);
-        place(work, files, m_naming->places());
-    }
-    QVariantList outputs;
-    for (const int output : std::as_const(work.wanted)) {
-        if (!work.lines.contains(output))
-            continue;
-        ReportLine &line = work.lines[output];
-        // Whatever was not heard of has not become anything.
-        if (line.status == LineStatus::Planned)
-            fail(line, problem.isEmpty() ? image::sentence(QT_TRANSLATE_NOOP("recipe", "no result")) : problem);
-        outputs.append(outcomeOf(line));
-    }
-    if (waiting.isEmpty())
-        m_files.erase(index);
-    return outputs + waiting;
+    QVariantList whole;
+    const auto files = m_files.find(index);
+    if (files == m_files.end())
+        return whole;
+    for (const ResultFiles::Waiting &each : files->second->waiting())
+        whole.append(QVariantMap{{key("output"), each.index}, {key("file"), each.file}, {key("path"), each.path}});
+    return whole;
 }
 
 /** All of a picture is made, or nothing more comes of it. */
@@ -262,12 +299,46 @@ void RecipeBatch::end(int index, const QString &problem)
     if (m_full.count(index) != 0) {
         giveBack(index);
     } else {
-        const QVariantList outputs = outcomes(index, problem);
-        m_made.push_back(
-            {{key("number"), index}, {key("outputs"), outputs}, {key("ms"), double(m_milliseconds[index])}});
-        m_works.erase(index);
+        m_problems[index] = problem;
+        m_made.push_back({{key("number"), index},
+                          {key("whole"), problem.isEmpty() ? wholeOf(index) : QVariantList()},
+                          {key("ms"), double(m_milliseconds[index])}});
     }
     Q_EMIT arrived();
+}
+
+QVariantList RecipeBatch::linesOf(const PictureWork &work) const
+{
+    QVariantList outputs;
+    for (const int output : std::as_const(work.wanted))
+        if (work.lines.contains(output))
+            outputs.append(outcomeOf(work.lines[output]));
+    return outputs;
+}
+
+QVariantList RecipeBatch::place(int index)
+{
+    const auto known = m_problems.find(index);
+    if (known == m_problems.end())
+        return {};
+    const QString problem = known->second;
+    m_problems.erase(known);
+    PictureWork work = std::move(m_works.at(index));
+    m_works.erase(index);
+    QVariantList waiting;
+    if (problem.isEmpty() && m_files.count(index) != 0) {
+        ResultFiles &files = *m_files.at(index);
+        leaveOtherInputs(work, files, m_naming->places());
+        waiting = replacements(work, files);
+        placeAll(work, files, m_naming->places());
+    }
+    // Whatever was not heard of has not become anything.
+    for (ReportLine &line : work.lines)
+        if (line.status == LineStatus::Planned)
+            fail(line, problem.isEmpty() ? image::sentence(QT_TRANSLATE_NOOP("recipe", "no result")) : problem);
+    if (waiting.isEmpty())
+        m_files.erase(index);
+    return linesOf(work) + waiting;
 }
 
 /** Nothing of it is left, and it is as it was before it was begun. */
@@ -280,7 +351,6 @@ void RecipeBatch::giveBack(int index)
     m_made.push_back({{key("number"), index},
                       {key("full"), full.reason},
                       {key("folder"), full.folder},
-                      {key("outputs"), QVariantList()},
                       {key("ms"), double(m_milliseconds[index])}});
 }
 
@@ -344,6 +414,7 @@ void RecipeBatch::close()
     m_made.clear();
     m_works.clear();
     m_full.clear();
+    m_problems.clear();
     m_rooms = std::make_unique<WaitingRooms>();
 }
 

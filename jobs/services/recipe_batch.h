@@ -33,7 +33,7 @@ class RecipeBatch : public QObject
     Q_PROPERTY(QString base READ base WRITE setBase)
     /** The tree of each folder that was added is built again below the base. */
     Q_PROPERTY(bool keepsTree READ keepsTree WRITE setKeepsTree)
-    /** All pictures, in their order. */
+    /** All pictures, in their order; see join(). */
     Q_PROPERTY(QStringList paths READ paths WRITE setPaths)
     /** How many pictures more should be handed over now, so that no worker waits; 0 or more. */
     Q_PROPERTY(int room READ room)
@@ -59,32 +59,45 @@ public:
     Q_INVOKABLE QString problem();
 
     /**
-     * What the picture @p index becomes, one dictionary an output: {status, reason, path, type, width, height, replaces,
-     * replacesOriginal, lossless, losses}. status is "ready", "Failed", "Not Supported" or "Skipped"; path is empty where there is none.
+     * What the picture @p index becomes, one dictionary an output: {output (its index in the recipe), status, reason, path, type, width,
+     * height, replaces, replacesOriginal, lossless, losses}. status is "ready", "Failed", "Not Supported" or "Skipped"; path is empty where there is none.
      * To be asked for all pictures in their order, each once, before any is made.
      *
      * @param root  the folder that the picture was found in; empty where it was added itself
      */
     Q_INVOKABLE QVariantList plan(int index, const QString &root);
+    /**
+     * Plans a picture as an earlier batch did that was interrupted; to be asked in the same order, in place of plan().
+     *
+     * @param earlier  {root, width, height (of the picture in pixels), planned, done}, the last two one path an output: where it was to go,
+     *                 or empty where there was nothing to make of it; and the result that is there, or empty
+     * @return the outputs that are still to be made. What has taken a name meanwhile is treated as the recipe says.
+     */
+    Q_INVOKABLE QVariantList planAgain(int index, const QVariantMap &earlier);
+    /** More pictures join behind the last; the index of the first of them. Nothing replaces them from now on. */
+    Q_INVOKABLE int join(const QStringList &paths);
 
     int room() const;
     int inWork() const { return int(m_given.size() + m_made.size()); }
 
-    /**
-     * Has the outputs that are ready made by a worker: each is written beside its place, and takes it when all of the picture are whole,
-     * unless it replaces something. What has taken a name meanwhile is treated as the recipe says. For a picture that was planned, once.
-     */
+    /** Has the outputs that are ready made by a worker, each written beside its place. For a picture that was planned, once. */
     Q_INVOKABLE void give(int index);
     /**
-     * A picture that has come: {number, outputs, ms}; without any keys where there is none. outputs are one dictionary each: {status, reason,
-     * path, bytes, width, height}; status is "OK" or one of those of plan() but "ready", or "waiting": it is whole at the path `file`, and
-     * whoever asked for it puts it into the place of what is there, which is known as `replaced` (see platform::itemIdentity()), and then
-     * says settle(). Those that replace their own picture are the last.
+     * A picture that has come: {number, whole, ms}; without any keys where there is none. whole are the outputs of which there is a file, one
+     * dictionary each: {output, file (where it waits), path (where it is to go)}. place() is to be called then.
      *
-     * Where a disk is full: {number, full, folder, outputs, ms}, full being a sentence. Nothing is left of that picture, which may be handed
-     * over again.
+     * Where a disk is full: {number, full, folder, ms}, full being a sentence. Nothing is left of that picture, which may be handed over
+     * again.
      */
     Q_INVOKABLE QVariantMap take();
+    /**
+     * Puts the files of a picture that was taken into their places, unless they replace something; what has taken a name meanwhile is treated
+     * as the recipe says. What came of its outputs, one dictionary each: {output, status, reason, path, bytes, width, height}; status is "OK"
+     * or one of those of plan() but "ready", or "waiting": it is whole at the path `file`, and whoever asked for it puts it into the place of
+     * what is there, which is known as `replaced` (see platform::itemIdentity()), and then says settle(). Those that replace their own picture
+     * are the last.
+     */
+    Q_INVOKABLE QVariantList place(int index);
     /** What waited of a picture is where it belongs, or is given up. */
     Q_INVOKABLE void settle(int index);
     /**
@@ -105,7 +118,8 @@ private:
     bool keep(int index, const MadeMessage &made);
     void end(int index, const QString &problem);
     void giveBack(int index);
-    QVariantList outcomes(int index, const QString &problem);
+    QVariantList wholeOf(int index) const;
+    QVariantList linesOf(const PictureWork &work) const;
     std::vector<std::pair<int, platform::Descriptor>> filesFor(int index);
 
     QString m_text;
@@ -131,6 +145,7 @@ private:
     };
     std::map<int, Full> m_full;
     std::map<int, std::unique_ptr<ResultFiles>> m_files;
+    std::map<int, QString> m_problems; ///< of pictures that have come: why nothing came of them
     std::map<int, WorkerDesk::Number> m_given;
     std::map<int, qint64> m_milliseconds;
     std::deque<QVariantMap> m_made;

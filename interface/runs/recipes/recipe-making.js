@@ -1,11 +1,18 @@
 // Carries out a plan of a recipe by workers, several pictures at a time: each makes all files of a picture, which the batch puts into
 // their places; what replaces something is put there here, so that the run can be undone. A generator that says what runByWorkers() of
 // ../making/worker-job.js does.
-// Services used: the batch, files, replacing.
+// Services used: the batch, files, replacing, record (may be missing).
 
 import { guard } from "../../lib/guard.js";
 import { emptyTable, joinPath, splitPath } from "../../lib/names.js";
 import { placeResult } from "../making/job.js";
+
+/** Where a picture is gone, that is the reason of what could not be made of it. */
+export function vanishedInWords(outputs, photo, files) {
+    const isGone = outputs.some((output) => output.status === "Failed") && !files.info(photo.path).exists;
+    return isGone ? outputs.map((output) => (output.status === "Failed"
+        ? Object.assign({}, output, { reason: qsTr("the picture no longer exists") }) : output)) : outputs;
+}
 
 class Making {
     constructor(batch, items, services) {
@@ -16,7 +23,15 @@ class Making {
         this.next = 0;
         this.again = []; // indices that were taken back
         this.indices = Object.create(null); // by the numbers of the batch
-        items.forEach((item, i) => { this.indices[item.number] = i; });
+        this.known = 0;
+    }
+
+    // Others may have joined since it was asked last.
+    indexOf(number) {
+        for (; this.known < this.items.length; this.known += 1) {
+            this.indices[this.items[this.known].number] = this.known;
+        }
+        return this.indices[number];
     }
 
     hasNext() {
@@ -32,7 +47,7 @@ class Making {
     }
 
     isOver(flow) {
-        return this.batch.inWork === 0 && !flow.isFull && (flow.isStopping || !this.hasNext());
+        return this.batch.inWork === 0 && !flow.isFull && (flow.isStopping || !(this.hasNext() || flow.isGrowing));
     }
 
     // In the place of what is there, which goes to the trash.
@@ -45,9 +60,29 @@ class Making {
         return Object.assign({}, output, { status: put.status, reason: put.reason || "", path: path });
     }
 
+    // Puts what was made of a picture into its places, with a line in the record before and after.
+    placeAll(index, made) {
+        const { record } = this.services;
+        if (record !== undefined) {
+            record.aboutOutputs(index, made.whole);
+        }
+        const told = this.batch.place(made.number);
+        const isWaiting = told.some((output) => output.status === "waiting");
+        const outputs = vanishedInWords(told.map((output) => (output.status === "waiting" ? this.placed(output)
+                                                                                          : output)),
+                                        this.items[index].photo, this.services.files);
+        if (isWaiting) {
+            this.batch.settle(made.number);
+        }
+        if (record !== undefined) {
+            record.placedOutputs(index, outputs.filter((output) => output.status === "OK"));
+        }
+        return outputs;
+    }
+
     /** What came back from a worker: its event. */
     take(made, flow) {
-        const index = this.indices[made.number];
+        const index = this.indexOf(made.number);
         if (made.full !== undefined && !flow.isStopping) {
             flow.isFull = true;
             this.full[index] = made;
@@ -57,13 +92,11 @@ class Making {
         if (made.full !== undefined) {
             return this.failed(index, made.full);
         }
-        const isWaiting = made.outputs.some((output) => output.status === "waiting");
-        const outputs =
-            made.outputs.map((output) => (output.status === "waiting" ? this.placed(output) : output));
-        if (isWaiting) {
-            this.batch.settle(made.number);
-        }
-        return this.event("end", index, outputs, made.ms);
+        // What was refused, or done before, is so still.
+        const outputs = this.placeAll(index, made);
+        const all = this.items[index].outputs
+            .map((output) => outputs.find((each) => each.output === output.output) || output);
+        return this.event("end", index, all, made.ms);
     }
 
     // Those that were to be made; what was refused before is so still.
@@ -113,7 +146,7 @@ class Making {
     }
 
     * holdBack() {
-        const held = this.batch.takeBack().map((number) => this.indices[number]);
+        const held = this.batch.takeBack().map((number) => this.indexOf(number));
         this.again = held.concat(this.again);
         for (let i = 0; i < held.length; i += 1) {
             yield this.event("back", held[i], [], 0);
@@ -121,7 +154,7 @@ class Making {
     }
 }
 
-/** items: those that are wanted, each with its number in the batch; services: files and replacing. */
+/** items: those that are wanted, each with its number in the batch; more may join. */
 export function* makeByWorkers(batch, items, services, flow) {
     const making = new Making(batch, items, services);
     batch.arrived.connect(guard("run.arrived", () => flow.wake()));

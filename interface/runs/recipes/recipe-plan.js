@@ -5,6 +5,7 @@ import { RecipeBatch } from "quorlin/recipes";
 import { splitPath } from "../../lib/names.js";
 import { fill, pixels, statusKind, statusText } from "../../lib/wording.js";
 import { LivePlan } from "../live-plan.js";
+import { vanishedInWords } from "./recipe-making.js";
 
 // Of several outputs the first of these is what is said of all.
 const ORDER = ["ready", "Failed", "Not Supported", "Skipped"];
@@ -48,18 +49,39 @@ function inWords(photo, outputs) {
             ? Object.assign({}, output, { reason: qsTr("not a readable picture") }) : output));
 }
 
-/** A generator that plans all ticked pictures of the list, one after the other: see itemOf(). It returns {batch, cancelled}. */
-export function* recipePlan(window, ids, settings) {
-    const list = window.pictures;
-    const batch = batchOf(settings, list.tickedPaths());
+/** A generator that plans pictures of a batch, one after the other: see itemOf(); first: what number the first of them is there. */
+export function* planOfBatch(window, batch, ids, first) {
     const problem = batch.problem();
     for (let i = 0; i < ids.length; i += 1) {
-        const photo = list.photo(ids[i]);
-        yield itemOf(photo, problem === ""
-            ? inWords(photo, batch.plan(i, window.input.rootOf(photo.path)))
-            : [{ status: "Failed", reason: problem, path: "", losses: [], width: 0, height: 0 }]);
+        const photo = window.pictures.photo(ids[i]);
+        const root = window.input.rootOf(photo.path);
+        const outputs = problem === ""
+            ? vanishedInWords(inWords(photo, batch.plan(first + i, root)), photo, window.services.files)
+            : [{ status: "Failed", reason: problem, path: "", losses: [], width: 0, height: 0 }];
+        yield Object.assign(itemOf(photo, outputs), { number: first + i, root: root });
     }
+}
+
+/** A generator that plans all ticked pictures of the list. It returns {batch, cancelled}. */
+export function* recipePlan(window, ids, settings) {
+    const batch = batchOf(settings, window.pictures.tickedPaths());
+    yield* planOfBatch(window, batch, ids, 0);
     return { batch: batch, cancelled: false };
+}
+
+/** The item of a record, planned again by a batch that was made for the rest; outputs: those of the item as they are now. */
+export function itemAgain(batch, item, photo, outputs) {
+    const pathsOf = (word) => outputs.map((output) => (output.status === word ? output.path : ""));
+    const [width, height] = item.size;
+    const told = batch.planAgain(item.number, { root: item.root, width: width, height: height,
+                                                planned: pathsOf("ready"), done: pathsOf("OK") });
+    const now = outputs.map((output) => {
+        const again = told.find((each) => each.output === output.output);
+        return again === undefined ? output
+            : Object.assign({}, output, { status: again.status, reason: again.reason, path: again.path });
+    });
+    const isReadyNow = now.some(isReady);
+    return Object.assign({}, item, { photo: photo, outputs: now, status: isReadyNow ? "ready" : "done" });
 }
 
 /** "a.jpg, a-small.jpg"; a dash where there is none. */

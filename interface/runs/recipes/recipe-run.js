@@ -5,13 +5,15 @@ import { files } from "quorlin/files";
 import { guard } from "../../lib/guard.js";
 import { emptyTable, splitPath } from "../../lib/names.js";
 import { fill, statusKind, statusText } from "../../lib/wording.js";
-import { Flow } from "../making/flow.js";
-import { Replacing } from "../making/replacing.js";
+import { Joining } from "../joining.js";
+import { rowsByPath } from "../list-rows.js";
+import { outputsNow } from "../making/run-record.js";
 import { clockText } from "../progress.js";
 import { logRow, summaryOf } from "../report.js";
 import { WriteRun } from "../write-run.js";
 import { makeByWorkers } from "./recipe-making.js";
-import { countItem, namesOf, recipePlan, showRecipeItem, sizesOf } from "./recipe-plan.js";
+import { batchOf, countItem, itemAgain, namesOf, planOfBatch, recipePlan, showRecipeItem,
+         sizesOf } from "./recipe-plan.js";
 
 // Of several outputs the first of these is what is said of all.
 const ORDER = ["Failed", "Not Supported", "OK", "Skipped"];
@@ -33,12 +35,11 @@ export class RecipeRun extends WriteRun {
         super.reset(ids);
         this.finals = []; // of each picture the results of its outputs
         this.batch = null;
-        this.number = 0;
     }
 
-    // A batch knows its pictures from the beginning.
-    takesMore() {
-        return false;
+    /** Whether pictures may join, and the next start goes on where this process ends before the run. */
+    canGrow() {
+        return true;
     }
 
     folders() {
@@ -57,6 +58,7 @@ export class RecipeRun extends WriteRun {
         this.startPlanning(all.filter((id) => isWanted[id]));
         this.isWanted = all.map((id) => isWanted[id] === true);
         this.simulated = this.settings.simulation;
+        this.joining = this.canGrow() ? new Joining(this, this.window.pictures) : null;
         const work = recipePlan(this.window, all, this.planned(this.settings));
         this.job.start(work, guard("run.plan", (item) => this.takeItem(item)),
                        guard("run.planEnd", (how, value) => this.planEnded(how, value)));
@@ -69,8 +71,6 @@ export class RecipeRun extends WriteRun {
     }
 
     takeItem(item) {
-        item.number = this.number;
-        this.number += 1;
         if (this.isWanted[item.number]) {
             this.items.push(item);
             showRecipeItem(this.window.pictures, this.ids[this.items.length - 1], item, this.simulated);
@@ -95,13 +95,63 @@ export class RecipeRun extends WriteRun {
             [qsTr("Dry run: %n files would be written", "", number), qsTr("nothing was written")].join(" · "));
     }
 
-    work() {
-        this.flow = new Flow(() => this.job.wake());
-        this.replacing = new Replacing(this.window.services, this.window.action.title());
-        const services = Object.assign({}, this.window.services, { replacing: this.replacing });
-        // The engine loses a generator that is returned by the call that makes it.
-        const work = makeByWorkers(this.batch, this.items, services, this.flow);
-        return work;
+    * makeAll(services) {
+        yield* makeByWorkers(this.batch, this.items, services, this.flow);
+    }
+
+    inputPaths() {
+        return this.batch.paths;
+    }
+
+    /** Goes on with a run that was interrupted; done: the results that are there, see doneResults(). */
+    continueRun(record, done, path) {
+        const rows = rowsByPath(this.window.pictures);
+        this.startPlanning(record.items.map((item) => rows[item.of] || 0));
+        this.takeOver(record, path);
+        this.joining = new Joining(this, this.window.pictures);
+        const work = this.planRest(record, done);
+        this.job.start(work, guard("run.plan", (item) => this.items.push(item)),
+                       guard("run.planEnd", (how, value) => this.restPlanned(how, value)));
+        this.changed();
+    }
+
+    // As it was planned, whatever the list holds now.
+    * planRest(record, done) {
+        const batch = batchOf(this.planned(this.settings), record.paths);
+        const problem = batch.problem();
+        for (let i = 0; i < record.items.length && problem === ""; i += 1) {
+            const item = record.items[i];
+            const photo = this.ids[i] > 0 ? this.window.pictures.photo(this.ids[i]) : null;
+            yield itemAgain(batch, item, photo || { path: item.of, name: splitPath(item.of).name },
+                            outputsNow(item, i, done));
+        }
+        return { batch: batch, problem: problem };
+    }
+
+    // Where it does not go on it is asked about again.
+    restPlanned(how, value) {
+        if (how !== "done" || value.problem !== "") {
+            this.finish(how === "done" ? value.problem : this.nothingText());
+            return;
+        }
+        this.batch = value.batch;
+        this.carryOut();
+    }
+
+    * planMore(ids) {
+        const paths = ids.map((id) => this.window.pictures.photo(id).path);
+        const first = this.batch.join(paths);
+        const items = [];
+        for (const item of planOfBatch(this.window, this.batch, ids, first)) {
+            showRecipeItem(this.window.pictures, ids[items.length], item, false);
+            items.push(item);
+            yield items.length;
+        }
+        const mayJoin = this.mayReplace(items);
+        if (mayJoin && this.record !== null) {
+            yield* this.record.grow(items, this.items.length, paths);
+        }
+        return mayJoin ? items : null;
     }
 
     // A picture whose turn never came has no outputs.

@@ -24,6 +24,16 @@ export class SiteRun extends RecipeRun {
         this.page = { status: "OK", reason: "" };
     }
 
+    // A page is planned as a whole, and its folder takes its place at the end.
+    canGrow() {
+        return false;
+    }
+
+    // What is unfinished is gone at the next start, and with it all that was made.
+    * recorded(services) {
+        yield* this.makeAll(services);
+    }
+
     folders() {
         return this.pagePath === "" ? [] : [this.pagePath];
     }

@@ -1,4 +1,5 @@
-import { doneResults, recordFrom, RunRecord } from "../../../interface/runs/making/run-record.js";
+import { doneCount, doneResults, outputsNow, recordFrom,
+         RunRecord } from "../../../interface/runs/making/run-record.js";
 import { drain, equal, finish, isTrue, test } from "../check.js";
 import { FakeFiles, photo } from "../fakes.js";
 
@@ -127,6 +128,33 @@ test("takesInWhatJoins", () => {
     const joining = world.records.text.slice(before.length).split("\n");
     equal(recordFrom(before + joining[0] + "\n").items.map((each) => each.name), ["a.jpg", "b.jpg"]);
     equal(recordFrom(before + joining[0].slice(0, 20)).items.length, 2);
+});
+
+// Of two outputs each its own line.
+test("knowsEachOutputOfAPicture", () => {
+    const files = new FakeFiles({ "/out": "folder", "/out/a.jpg": 5, "/out/a.png": 7, "/out/b.jpg": 5 });
+    const output = (number, path, status) => ({ output: number, path: path, status: status || "ready" });
+    const both = (name) => [output(0, "/out/" + name + ".jpg"), output(2, "/out/" + name + ".png")];
+    const items = [item("a", { outputs: both("a"), number: 0 }), item("b", { outputs: both("b"), number: 3 }),
+                   item("c", { outputs: [output(0, "", "Skipped")], status: "Skipped", number: 4 })];
+    const records = new FakeRecords();
+    const record = new RunRecord(records, files);
+    drain(record.begin(HEAD, items, ["/p/a", "/p/x", "/p/y", "/p/b", "/p/c"]));
+    record.placedOutputs(0, [{ output: 0, path: "/out/a.jpg", bytes: 5 }, { output: 2, path: "/out/a.png", bytes: 7 }]);
+    record.placedOutputs(1, [{ output: 0, path: "/out/b.jpg", bytes: 5 }]);
+    const read = recordFrom(records.text);
+    equal([read.paths.length, read.items[1].number, doneCount(read, files)], [5, 3, 1]);
+    const done = doneResults(read, files);
+    equal(outputsNow(read.items[0], 0, done).map((each) => [each.status, each.bytes]), [["OK", 5], ["OK", 7]]);
+    equal(outputsNow(read.items[1], 1, done).map((each) => each.status), ["OK", "ready"]);
+    // One that goes on has the same to say.
+    const again = new FakeRecords();
+    const now = read.items.map((each, i) => Object.assign({}, each, { photo: photo(each.of, 40, 30),
+                                                                      outputs: outputsNow(each, i, done) }));
+    drain(new RunRecord(again, files).begin(HEAD, now, read.paths));
+    equal(doneCount(recordFrom(again.text), files), 1);
+    delete files.entries["/out/a.png"];
+    equal(doneCount(read, files), 0);
 });
 
 finish();
