@@ -29,9 +29,11 @@ export function showUnticked(list, isFinal) {
 /** A generator that makes what rowsByPath() does, some rows at a time. */
 export function* rowsByPathInParts(list) {
     const table = emptyTable();
-    const ids = list.ids();
+    let ids = list.ids();
     yield 0;
     const paths = list.paths();
+    // Some may have been added meanwhile.
+    ids = ids.length === paths.length ? ids : list.ids();
     for (let i = 0; i < paths.length; i += ROWS_AT_ONCE) {
         paths.slice(i, i + ROWS_AT_ONCE).forEach((path, j) => { table[path] = ids[i + j]; });
         yield i;

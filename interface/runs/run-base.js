@@ -38,6 +38,8 @@ export class BaseRun {
         this.isEnding = false;
         this.isAbandoned = false;
         this.endWork = null;
+        /** The list has what is no part of this run, and gets its plan at the end. */
+        this.hasOthers = false;
         /** Whether it came to its end by itself, and did more than plan. */
         this.isComplete = false;
         /** {run, action, settings}, once they are in the log. */
@@ -77,7 +79,7 @@ export class BaseRun {
 
     /** Called when something was added to the list while the run is under way. */
     listGrew() {
-        return undefined;
+        this.hasOthers = true;
     }
 
     hasProblems() {
@@ -172,6 +174,10 @@ export class BaseRun {
         this.detail = "";
         this.window.pictures.busy = false;
         this.changed();
+        if (this.hasOthers) {
+            this.hasOthers = false;
+            this.window.livePlan.refresh();
+        }
     }
 
     endNow() {
@@ -199,6 +205,7 @@ export class BaseRun {
         if (this.isEnding) {
             return;
         }
+        this.window.said = "";
         this.paused = !this.paused;
         if (this.paused) {
             this.job.pause();
@@ -208,9 +215,16 @@ export class BaseRun {
         this.showProgress();
     }
 
+    /** It is answered at once, however long the end takes. */
     cancel() {
-        if (!this.isEnding) {
-            this.job.cancel();
+        if (this.isEnding) {
+            return;
+        }
+        this.window.said = "";
+        this.job.cancel();
+        if (this.isBusy()) {
+            this.detail = qsTr("stopping");
+            this.changed();
         }
     }
 

@@ -140,13 +140,15 @@ export class Input {
     addFound(found, paths) {
         const list = this.window.pictures;
         const before = list.count;
+        const note = this.window.addingNote();
         this.window.history.edited("add", list.addPaths(paths, found.folders));
         const added = list.count - before;
         if (added > 0) {
             list.setFocus();
             this.noteAdding();
         }
-        this.window.say(addedText(this.withoutCompanions(found), added, this.words()));
+        const text = addedText(this.withoutCompanions(found), added, this.words());
+        this.window.say(note === "" || added === 0 ? text : text + ". " + note);
     }
 
     noteAdding() {

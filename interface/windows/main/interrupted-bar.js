@@ -9,19 +9,23 @@ import { shell } from "quorlin/shell";
 import { allActions } from "../../actions/actions.js";
 import { guard } from "../../lib/guard.js";
 import { keep, recall } from "../../lib/store.js";
-import { interruptedMoves, interruptedPictures, interruptedText, restText } from "../../runs/interrupted.js";
+import { interruptedMoves, interruptedPictures, interruptedText, restText,
+         rowsOfLeft } from "../../runs/interrupted.js";
+import { appendRows, keepRows } from "../../runs/log-file.js";
 import { doneResults } from "../../runs/making/run-record.js";
 import { recoveredWords } from "../../runs/recovered.js";
 import { removeUnfinished } from "../../runs/site/unfinished.js";
 
 // Runs that moved files have been ended by then: whoever does not answer is asked again.
 const ASKED = "InterruptedRuns";
+const ROWS_AT_ONCE = 50;
 
 export class InterruptedBar {
     /** @param window  the main window's parts */
     constructor(window) {
         this.window = window;
         this.waiting = [];
+        this.jobs = []; // that write what is left into the log
         const join = (name, answer) =>
             window.form.control(name).clicked.connect(guard(name, () => answer.call(this, this.waiting[0])));
         join("interruptedGo", this.go);
@@ -103,10 +107,35 @@ export class InterruptedBar {
 
     leave(work) {
         if (work.kind === "pictures") {
-            runRecords.end(work.path);
+            this.leavePictures(work);
         }
         this.window.history.disown(work.id);
         this.forget(work);
+    }
+
+    // What was done is in the log, as that of every run is.
+    leavePictures(work) {
+        const job = shell.job();
+        const rows = this.logging(work);
+        this.jobs.push(job);
+        runRecords.end(work.path);
+        job.start(rows, () => undefined, () => undefined);
+    }
+
+    * logging(work) {
+        const action = this.makerOf(work);
+        const { head } = work.record;
+        const about = action === undefined ? "" : action.step.describe(head.settings);
+        let rows = [];
+        for (const some of rowsOfLeft(work.record, files, head.title, about)) {
+            rows = rows.concat(some);
+            if (rows.length >= ROWS_AT_ONCE) {
+                appendRows(files, rows);
+                rows = [];
+            }
+            yield rows.length;
+        }
+        keepRows(files, rows);
     }
 
     /** A run was undone some other way. */

@@ -206,9 +206,14 @@ export class MainWindow {
         return this.run.isBusy() || this.watching.isOn();
     }
 
-    /** Whether something can be added to the list: what a run that is under way takes joins its end. */
+    /** Whether something can be added to the list: it joins the end of a run that is under way, or waits for the next one. */
     mayAdd() {
-        return !this.isBusy() || (this.run.takesMore() && !this.watching.isOn());
+        return !this.isBusy() || (this.shownPage === null && !this.watching.isOn());
+    }
+
+    /** What is to be said of what is added now; "" where nothing is. */
+    addingNote() {
+        return this.run.isBusy() && !this.run.takesMore() ? qsTr("What you add now is not part of this run.") : "";
     }
 
     showAll() {

@@ -15,7 +15,7 @@ function showTexts(window, busy, ended) {
     const run = window.run;
     const idleText = window.said || run.idleText() || listText(window);
     window.form.control("statusText").text = busy || ended ? run.text : idleText;
-    window.form.control("statusDetail").text = ended && window.said ? window.said : run.detail;
+    window.form.control("statusDetail").text = (busy || ended) && window.said ? window.said : run.detail;
     if (!busy && !ended) {
         window.form.control("statusText").accessibleName = ""; // what is read out is the text itself
     }

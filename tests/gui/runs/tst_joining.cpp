@@ -3,6 +3,8 @@
 
 #include "jobs/desk/worker_desk.h"
 
+#include "platform/desktop/user_defaults.h"
+
 #include <QDir>
 #include <QImage>
 #include <QTest>
@@ -72,8 +74,8 @@ private Q_SLOTS:
     {
         beginPaused(3);
         m_driver->trigger("cancelAction");
-        QVERIFY(!m_driver->control<QWidget>("addPicturesButton")->isEnabled() ||
-                m_driver->text("statusText").startsWith(QStringLiteral("Cancelled:")));
+        QVERIFY(m_driver->text("statusDetail").startsWith(QStringLiteral("stopping")) ||
+                m_driver->text("statusText").startsWith(QStringLiteral("Cancelled:"))); // it is said at once
         QVERIFY(m_driver->waitForSummary().startsWith(QStringLiteral("Cancelled:")));
         m_driver->drop({picture("q", 0)});
         QCOMPARE(list().size(), 4);
@@ -94,6 +96,63 @@ private Q_SLOTS:
         // The run has not taken the reader elsewhere.
         QCOMPARE(table.photo(table.currentId()).toMap().value(QStringLiteral("name")).toString(),
                  QStringLiteral("p3.jpg"));
+    }
+
+    /** A rename is planned as a whole, and so are a page and a sheet: what is added waits in the list. */
+    void saysThatOtherRunsTakeNothing_data()
+    {
+        QTest::addColumn<QString>("action");
+        QTest::addColumn<QString>("summary");
+        QTest::newRow("rename") << "rename"
+                                << "40 files renamed";
+        QTest::newRow("sort") << "sort"
+                              << "40 files moved";
+        QTest::newRow("contact") << "contact"
+                                 << "Contact sheet.pdf: ";
+        QTest::newRow("web") << "web"
+                             << "";
+    }
+
+    void saysThatOtherRunsTakeNothing()
+    {
+        QFETCH(QString, action);
+        QFETCH(QString, summary);
+        platform::setUserDefault(QStringLiteral("Settings-rename"),
+                                 QStringLiteral(R"({"what":"files","steps":[{"kind":"text","on":true,"pattern":)"
+                                                R"("new {counter:00001}"}],"sidecars":true,"simulation":false})"));
+        m_driver->startAgain();
+        m_driver->show(action.toLatin1().constData());
+        for (int i = 0; i < 40; ++i)
+            QVERIFY(QFile::copy(picture("p", 0), m_driver->inputFolder() + QStringLiteral("/r%1.jpg").arg(i)));
+        QVERIFY(QFile::remove(picture("p", 0)));
+        m_driver->drop({m_driver->inputFolder()});
+        if (action == QLatin1String("sort")) {
+            m_driver->choose("sortLevel1", QStringLiteral("{type}"));
+            m_driver->choose("sortLevel2", QString());
+        }
+        QVERIFY(m_driver->waitFor([this] {
+            return m_driver->control<QAbstractButton>("startButton")->isEnabled() &&
+                   m_driver->cell(39, PictureModel::Status) == QStringLiteral("ready");
+        }));
+        m_driver->click("startButton");
+        QVERIFY(m_driver->waitFor([this] { return m_driver->control<QWidget>("pauseButton")->isVisible(); }));
+        m_driver->click("pauseButton");
+        QVERIFY(m_driver->text("statusDetail").startsWith(QStringLiteral("paus")));
+        QVERIFY(m_driver->control<QWidget>("addPicturesButton")->isEnabled());
+        m_driver->drop({picture("q", 0)});
+        QCOMPARE(m_driver->text("statusDetail"),
+                 QStringLiteral("1 %1 added. What you add now is not part of this run.")
+                     .arg(action == QLatin1String("rename") ? QStringLiteral("file") : QStringLiteral("picture")));
+        // The list can be looked at.
+        QTest::keyClick(&m_driver->pictures(), Qt::Key_Down);
+        QVERIFY(m_driver->pictures().isEnabled());
+        m_driver->click("pauseButton");
+        const QString said = m_driver->waitForSummary();
+        QVERIFY2(said.startsWith(summary) && !said.startsWith(QStringLiteral("41")), qPrintable(said));
+        QCOMPARE(list().size(), 41);
+        QVERIFY(
+            m_driver->waitFor([this] { return m_driver->cell(40, PictureModel::Status) == QStringLiteral("ready"); }));
+        QVERIFY(QFile::exists(picture("q", 0)));
     }
 
 private:
