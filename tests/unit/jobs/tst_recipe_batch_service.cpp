@@ -78,6 +78,9 @@ private Q_SLOTS:
     void takesAnotherBaseFolder();
     void buildsTheTreesOfFoldersAgainBelowTheBase();
     void makesEachPictureOnce();
+    void saysWhatIsWholeBeforeItIsPlaced();
+    void plansAgainWhatIsMissing();
+    void takesPicturesThatJoin();
 
 private:
     QString at(const char *name) const { return m_folder->filePath(key(name)); }
@@ -349,6 +352,70 @@ void TestRecipeBatchService::makesEachPictureOnce()
     QCOMPARE(made(*one, 0).size(), 2);
     QVERIFY(made(*one, 0).isEmpty());
     QCOMPARE(QDir(at("Out")).entryList(QDir::Files).size(), 2);
+}
+
+void TestRecipeBatchService::saysWhatIsWholeBeforeItIsPlaced()
+{
+    const auto one = batch(m_two, {key("a.png")});
+    one->plan(0, {});
+    QSignalSpy arrived(one.get(), &jobs::RecipeBatch::arrived);
+    one->give(0);
+    QVERIFY(arrived.wait(20000));
+    const QVariantMap come = one->take();
+    const QVariantList whole = come.value(key("whole")).toList();
+    QCOMPARE(valuesOf(whole, "output"), (QStringList{key("0"), key("1")}));
+    QCOMPARE(valuesOf(whole, "path"), (QStringList{at("Out/a.jpg"), at("Out/a-10.png")}));
+    const QString waiting = platform::itemIdentity(valuesOf(whole, "file").constFirst());
+    QVERIFY(!waiting.isEmpty() && !QFile::exists(at("Out/a.jpg")));
+    QCOMPARE(valuesOf(one->place(0), "status"), (QStringList{key("OK"), key("OK")}));
+    QCOMPARE(platform::itemIdentity(at("Out/a.jpg")), waiting);
+    QVERIFY(one->place(0).isEmpty());
+}
+
+/** What is there keeps its name, what is missing gets the one that was planned, and what came since is not replaced. */
+void TestRecipeBatchService::plansAgainWhatIsMissing()
+{
+    save("b.png", {40, 20});
+    save("Out/a.jpg", {4, 4});
+    write("Out/b-10.png");
+    const auto earlier = [this](const QStringList &planned, const QStringList &done) {
+        return QVariantMap{{key("root"), QString()},
+                           {key("width"), 40},
+                           {key("height"), 20},
+                           {key("planned"), planned},
+                           {key("done"), done}};
+    };
+    const auto rest = batch(m_two, {key("a.png"), key("b.png")});
+    const QVariantList first =
+        rest->planAgain(0, earlier({QString(), at("Out/a-10.png")}, {at("Out/a.jpg"), QString()}));
+    QCOMPARE(valuesOf(first, "output"), QStringList{key("1")});
+    QCOMPARE(valuesOf(first, "path"), QStringList{at("Out/a-10.png")});
+    const QVariantList second =
+        rest->planAgain(1, earlier({at("Out/b (2).jpg"), at("Out/b-10.png")}, {QString(), QString()}));
+    QCOMPARE(valuesOf(second, "path"), (QStringList{at("Out/b (2).jpg"), at("Out/b-10 (2).png")}));
+    QCOMPARE(valuesOf(made(*rest, 0), "path"), QStringList{at("Out/a-10.png")});
+    QCOMPARE(valuesOf(made(*rest, 1), "path"), (QStringList{at("Out/b (2).jpg"), at("Out/b-10 (2).png")}));
+    QVERIFY(isOld("Out/b-10.png"));
+    QCOMPARE(QImage(at("Out/a.jpg")).size(), QSize(4, 4));
+    // Where all is there, nothing is made.
+    QVERIFY(rest->planAgain(5, {}).isEmpty());
+}
+
+void TestRecipeBatchService::takesPicturesThatJoin()
+{
+    save("b.png", {40, 20});
+    save("Out/a.jpg", {8, 8});
+    const QString recipe = key(R"({"quorlin": 1, "outputs": [{"type": "jpeg", "folder": "Out", "ifTaken": "replace",
+        "name": "{name}"}]})");
+    const auto one = batch(recipe, {key("a.png"), key("b.png")});
+    QCOMPARE(one->plan(0, {}).constFirst().toMap().value(key("replaces")).toBool(), true);
+    one->plan(1, {});
+    QCOMPARE(one->join({at("Out/a.jpg")}), 2);
+    QCOMPARE(one->paths().size(), 3);
+    // It is a picture of the batch now.
+    QCOMPARE(valuesOf(made(*one, 0), "path"), QStringList{at("Out/a (2).jpg")});
+    QCOMPARE(valuesOf(one->plan(2, {}), "path"), QStringList{at("Out/Out/a.jpg")});
+    QCOMPARE(QImage(at("Out/a.jpg")).size(), QSize(8, 8));
 }
 
 QUORLIN_TEST(TestRecipeBatchService)
