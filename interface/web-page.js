@@ -53,7 +53,7 @@ function makePage(settings, paths, services) {
             path: path, index: index, files: filesOf(path, index).filter((file) => file !== null),
         })).filter((picture) => picture.files.length === outputs.length);
         if (pictures.length === 0) {
-            return { problem: "no picture could be made", path: "", count: 0 };
+            return { problem: "no picture could be processed", path: "", count: 0 };
         }
         const ended = endOf(finishPage(folder, pictures, settings, services, LANGUAGE));
         return { problem: ended.problem, path: ended.path, count: pictures.length };

@@ -218,10 +218,10 @@ Result<FieldEdit> editFromMap(const QString &name, const QVariantMap &map)
         edit.shiftSeconds = map.value(QStringLiteral("shift")).toLongLong();
         edit.zone = map.value(QStringLiteral("zone")).toString();
     } else {
-        return invalid(QCoreApplication::translate("meta", "nothing is known to do with the field %1").arg(name));
+        return invalid(QCoreApplication::translate("meta", "no change is given for the field %1").arg(name));
     }
     if (!edit.zone.isEmpty() && !zoneFromText(edit.zone))
-        return invalid(QCoreApplication::translate("meta", "\"%1\" is no time zone").arg(edit.zone));
+        return invalid(QCoreApplication::translate("meta", "\"%1\" is not a time zone").arg(edit.zone));
     return edit;
 }
 

@@ -35,7 +35,7 @@ QString formHint(const TokenRow &row, const QString &form)
     switch (row.forms) {
     case TokenForms::Date:
         return QCoreApplication::translate(
-                   "text", "“%1” is not a valid date format. Use yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss")
+                   "text", "“%1” is not a valid date format; use yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss")
             .arg(form);
     case TokenForms::Counter:
         return QCoreApplication::translate("text", "“%1” is not a valid start number").arg(form);
@@ -44,11 +44,11 @@ QString formHint(const TokenRow &row, const QString &form)
                                                    "“word”, or “~” and words separated by commas")
             .arg(form);
     case TokenForms::Size:
-        return QCoreApplication::translate("text", "“%1” is not a valid size format. Use “class” or “MB”").arg(form);
+        return QCoreApplication::translate("text", "“%1” is not a valid size format; use “class” or “MB”").arg(form);
     case TokenForms::None:
         break;
     }
-    return QCoreApplication::translate("text", "{%1} takes no format. Remove the colon and what follows it")
+    return QCoreApplication::translate("text", "{%1} takes no format; remove the colon and what follows it")
         .arg(QLatin1String(row.name));
 }
 
@@ -58,7 +58,7 @@ QString problemOf(const TokenPart &part)
     if (const TokenRow *row = tokenRow(part.token); row != nullptr)
         return isTokenForm(row->forms, part.form) ? QString() : formHint(*row, part.form);
     return part.token.isEmpty()
-               ? QCoreApplication::translate("text", "There is no token between the braces. To write a brace, type {{")
+               ? QCoreApplication::translate("text", "There is no token between the braces; to write a brace, type {{")
                : QCoreApplication::translate("text", "There is no token {%1}").arg(part.token);
 }
 
@@ -154,7 +154,7 @@ QStringList tokenProblems(const QString &pattern)
             found.append(problem);
     }
     if (hasOpenBrace(pattern, parts))
-        found.append(QCoreApplication::translate("text", "A brace is not closed. To write a brace, type {{"));
+        found.append(QCoreApplication::translate("text", "A brace is not closed; to write a brace, type {{"));
     found.removeDuplicates();
     return found;
 }

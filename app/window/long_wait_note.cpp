@@ -24,7 +24,7 @@ void LongWaitNote::show()
     m_note->setWindowTitle(QCoreApplication::translate("LongWait", "Still reading"));
     m_note->setWindowModality(Qt::ApplicationModal);
     auto *layout = new QVBoxLayout(m_note.get());
-    layout->addWidget(new QLabel(QCoreApplication::translate("LongWait", "A picture takes long to read.")));
+    layout->addWidget(new QLabel(QCoreApplication::translate("LongWait", "A picture is taking a long time to read.")));
     auto *buttons = new QDialogButtonBox();
     auto *stop =
         buttons->addButton(QCoreApplication::translate("LongWait", "Do Not Wait"), QDialogButtonBox::RejectRole);

@@ -172,12 +172,12 @@ void ProgramDesk::sendToPrinter(const QString &path, const QStringList &printer,
     };
     connect(process, &QProcess::errorOccurred, this, [answer](QProcess::ProcessError error) {
         if (error == QProcess::FailedToStart)
-            answer(tr("The command lp of the print system is missing."));
+            answer(tr("The lp command of the print system is missing."));
     });
     connect(process, &QProcess::finished, this, [answer, process](int code, QProcess::ExitStatus status) {
         const bool isTaken = status == QProcess::NormalExit && code == 0;
         const QString said = QString::fromLocal8Bit(process->readAllStandardError()).trimmed();
-        answer(isTaken ? QString() : tr("The print system did not take the pages: %1").arg(said));
+        answer(isTaken ? QString() : tr("The print system did not accept the pages: %1").arg(said));
     });
     process->start(QStringLiteral("lp"), printer + QStringList{QStringLiteral("--"), path});
 }

@@ -29,7 +29,7 @@ const Row table[] = {
     {MoveProblem::OtherCase, "case"},
     {MoveProblem::Inside, "inside", QT_TRANSLATE_NOOP("files", "The folder %1 cannot be moved into itself")},
     {MoveProblem::Locked, "locked", QT_TRANSLATE_NOOP("files", "You are not allowed to change %1 or its folder")},
-    {MoveProblem::Leader, "leader", QT_TRANSLATE_NOOP("files", "%1, which it belongs to, keeps its name")},
+    {MoveProblem::Leader, "leader", QT_TRANSLATE_NOOP("files", "%1 keeps its name, and so does its sidecar file")},
     {MoveProblem::Changed, "changed", QT_TRANSLATE_NOOP("files", "%1 was changed or replaced in the meantime")},
     {MoveProblem::Full, "full", QT_TRANSLATE_NOOP("files", "There is no space left on the disk for %1")},
     {MoveProblem::Original, "original", QT_TRANSLATE_NOOP("files", "%1 is now the original itself, not a copy of it")},

@@ -78,11 +78,12 @@ void readBox(RecipeKeys &keys, ResizeOperation &resize)
     else if (resize.fit == BoxFit::Pad)
         resize.position = keys.choice("position", places).value_or(Place::Center);
     else
-        keys.refuseKey("position", sentence(QT_TRANSLATE_NOOP("recipe", "it applies only with fit fill or pad")));
+        keys.refuseKey("position",
+                       sentence(QT_TRANSLATE_NOOP("recipe", "it applies only if \"fit\" is \"fill\" or \"pad\"")));
     if (resize.fit == BoxFit::Pad)
         resize.color = keys.color("color").value_or(QColor(Qt::white));
     else
-        keys.refuseKey("color", sentence(QT_TRANSLATE_NOOP("recipe", "it applies only with fit pad")));
+        keys.refuseKey("color", sentence(QT_TRANSLATE_NOOP("recipe", "it applies only if \"fit\" is \"pad\"")));
 }
 
 Operation resizeFrom(RecipeKeys &keys)
@@ -106,7 +107,7 @@ Operation resizeFrom(RecipeKeys &keys)
         readBox(keys, resize);
     } else {
         for (const char *each : {"fit", "position", "color"})
-            keys.refuseKey(each, sentence(QT_TRANSLATE_NOOP("recipe", "it applies only with box")));
+            keys.refuseKey(each, sentence(QT_TRANSLATE_NOOP("recipe", "it applies only with \"box\"")));
         const bool isShare = resize.by == ResizeBy::Percent || resize.by == ResizeBy::Megapixels;
         if (!named.isEmpty())
             resize.number = keys.number(key.constData(), isShare ? share : lengthRange(resize.scale)).value_or(1);
@@ -158,7 +159,7 @@ Operation cropFrom(RecipeKeys &keys)
     if (crop.by == CropBy::Ratio)
         crop.turns = keys.flag("turn").value_or(true);
     else
-        keys.refuseKey("turn", sentence(QT_TRANSLATE_NOOP("recipe", "it applies only with ratio")));
+        keys.refuseKey("turn", sentence(QT_TRANSLATE_NOOP("recipe", "it applies only with \"ratio\"")));
     crop.position = keys.choice("position", placesOfParts).value_or(Place::Center);
     const NumberRange way2 = widthRange(crop.scale, -longestSide);
     const std::array<NumberRange, 2> offsets = {way2, way2};

@@ -177,7 +177,7 @@ QStringList lossesOf(const OutputPlan &plan, const RecipeOutput &output, const S
     if (!plan.isLossless) {
         losses += lossesOfPixels(plan, output, end, source.pixelFacts().value_or(platform::PixelFacts()));
         if (plan.leftOut > 0)
-            losses.append(sentence(QT_TRANSLATE_NOOP("recipe", "More pictures in the file that are left out: %1"))
+            losses.append(sentence(QT_TRANSLATE_NOOP("recipe", "Other pictures in the file that are left out: %1"))
                               .arg(plan.leftOut));
     }
     return losses;

@@ -77,7 +77,8 @@ void readPlace(RecipeKeys &keys, RecipeOutput &output)
     if (output.name.trimmed().isEmpty())
         keys.complain("name", sentence(QT_TRANSLATE_NOOP("recipe", "a name that is not empty")));
     if (output.name.contains(u'/'))
-        keys.complain("name", sentence(QT_TRANSLATE_NOOP("recipe", "a name without /; use folder for folders")));
+        keys.complain("name",
+                      sentence(QT_TRANSLATE_NOOP("recipe", "a name without \"/\"; for folders, use \"folder\"")));
     output.folder = keys.text("folder").value_or(QString());
     checkTokens(keys, "folder", output.folder);
     output.dates = keys.choice("dates", dates).value_or(output.dates);

@@ -19,7 +19,7 @@ const REFUSED = {
     inside: () => qsTr("a folder cannot be moved into itself"),
     locked: () => qsTr("the folder is read-only"),
     leader: () => qsTr("the picture of this sidecar file stays"),
-    along: (other) => (other ? fill(qsTr("a sidecar file cannot be moved: %1 is in its place"), other)
+    along: (other) => (other ? fill(qsTr("a sidecar file cannot be moved: its name is in use by %1"), other)
                              : qsTr("a sidecar file cannot be moved")),
 };
 

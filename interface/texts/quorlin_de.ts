@@ -414,7 +414,7 @@
         <translation>Kopfgröße</translation>
     </message>
     <message>
-        <source>Size of header and footer</source>
+        <source>Text size of the header and footer</source>
         <translation>Schriftgröße von Kopf- und Fußzeile</translation>
     </message>
     <message>
@@ -462,7 +462,7 @@
         <translation>Mehr …</translation>
     </message>
     <message>
-        <source>More or fewer settings of the pages</source>
+        <source>Show more or fewer page settings</source>
         <translation>Mehr oder weniger Einstellungen der Seiten zeigen</translation>
     </message>
     <message>
@@ -860,7 +860,7 @@
         <translation>Wird noch gelesen</translation>
     </message>
     <message>
-        <source>A picture takes long to read.</source>
+        <source>A picture is taking a long time to read.</source>
         <translation>Das Lesen eines Bildes dauert lange.</translation>
     </message>
     <message>
@@ -915,7 +915,7 @@
         <translation>Bildtexte</translation>
     </message>
     <message>
-        <source>Pattern of all captions</source>
+        <source>Pattern for all captions</source>
         <translation>Muster aller Bildtexte</translation>
     </message>
     <message>
@@ -967,7 +967,7 @@
         <translation>Sprache der Seite</translation>
     </message>
     <message>
-        <source>Direction of writing</source>
+        <source>Writing direction</source>
         <translation>Schreibrichtung</translation>
     </message>
     <message>
@@ -1892,7 +1892,7 @@
         <translation>Kopieren</translation>
     </message>
     <message>
-        <source>Copy the selected value or branch (Ctrl+C in the tree), or the location of the picture</source>
+        <source>Copy the selected value or branch (Ctrl+C in the tree), or where the picture was taken</source>
         <translation>Den ausgewählten Wert oder Zweig (Strg+C im Baum) oder den Aufnahmeort kopieren</translation>
     </message>
     <message>
@@ -2542,7 +2542,7 @@
         <translation>Unterordner beibehalten</translation>
     </message>
     <message>
-        <source>Builds the folders again that lie below each added folder</source>
+        <source>Recreates the subfolders of each added folder</source>
         <translation>Legt die Unterordner jedes hinzugefügten Ordners wieder an</translation>
     </message>
 </context>
@@ -3942,8 +3942,8 @@
         <translation>Sie dürfen %1 oder seinen Ordner nicht ändern</translation>
     </message>
     <message>
-        <source>%1, which it belongs to, keeps its name</source>
-        <translation>%1 (die Hauptdatei) behält den Namen</translation>
+        <source>%1 keeps its name, and so does its sidecar file</source>
+        <translation>%1 behält den Namen und die Begleitdatei damit auch</translation>
     </message>
     <message>
         <source>%1 was changed or replaced in the meantime</source>
@@ -4026,15 +4026,15 @@
         <translation>Rückgängig: %1 (Strg+Z)</translation>
     </message>
     <message>
-        <source>Keys move pictures now.</source>
+        <source>Keys now move pictures.</source>
         <translation>Die Tasten verschieben jetzt Bilder.</translation>
     </message>
     <message>
-        <source>Keys copy pictures now.</source>
+        <source>Keys now copy pictures.</source>
         <translation>Die Tasten kopieren jetzt Bilder.</translation>
     </message>
     <message>
-        <source>Keys link pictures now.</source>
+        <source>Keys now link pictures.</source>
         <translation>Die Tasten verknüpfen jetzt Bilder.</translation>
     </message>
     <message>
@@ -4334,10 +4334,10 @@
         <translation>Einen früheren Durchlauf rückgängig machen</translation>
     </message>
     <message numerus="yes">
-        <source>%1 of %n files belongs to an earlier session. Undo it?</source>
+        <source>%1 (%n files) belongs to an earlier session. Undo it?</source>
         <translation>
-            <numerusform>„%1“ mit %n Datei stammt aus einer früheren Sitzung. Rückgängig machen?</numerusform>
-            <numerusform>„%1“ mit %n Dateien stammt aus einer früheren Sitzung. Rückgängig machen?</numerusform>
+            <numerusform>„%1“ (%n Datei) stammt aus einer früheren Sitzung. Rückgängig machen?</numerusform>
+            <numerusform>„%1“ (%n Dateien) stammt aus einer früheren Sitzung. Rückgängig machen?</numerusform>
         </translation>
     </message>
     <message>
@@ -4457,7 +4457,7 @@
         <translation>Rezept geöffnet. Nichts wurde ausgeführt.</translation>
     </message>
     <message numerus="yes">
-        <source>%n do not fit the filter</source>
+        <source>%n do not match the filter</source>
         <translation>
             <numerusform>%n passt nicht zum Filter</numerusform>
             <numerusform>%n passen nicht zum Filter</numerusform>
@@ -4663,7 +4663,7 @@
 <context>
     <name>jobs</name>
     <message>
-        <source>%1 was changed since.</source>
+        <source>%1 has been changed since.</source>
         <translation>%1 wurde seitdem geändert.</translation>
     </message>
     <message>
@@ -5037,11 +5037,11 @@
         <translation>aus Dateien dieser Art werden private Daten nicht entfernt</translation>
     </message>
     <message>
-        <source>nothing is known to do with the field %1</source>
+        <source>no change is given for the field %1</source>
         <translation>für das Feld %1 ist keine Änderung angegeben</translation>
     </message>
     <message>
-        <source>"%1" is no time zone</source>
+        <source>"%1" is not a time zone</source>
         <translation>„%1“ ist keine Zeitzone</translation>
     </message>
     <message>
@@ -5163,10 +5163,10 @@
         <translation>Kommentar zurücksetzen</translation>
     </message>
     <message numerus="yes">
-        <source>%n pictures, ≠ %1 properties</source>
+        <source>%n pictures, differences: %1</source>
         <translation>
-            <numerusform>%n Bild, %1 Eigenschaften verschieden</numerusform>
-            <numerusform>%n Bilder, %1 Eigenschaften verschieden</numerusform>
+            <numerusform>%n Bild, Unterschiede: %1</numerusform>
+            <numerusform>%n Bilder, Unterschiede: %1</numerusform>
         </translation>
     </message>
 </context>
@@ -5295,8 +5295,8 @@
         <translation>das Bild zu dieser Begleitdatei bleibt</translation>
     </message>
     <message>
-        <source>a sidecar file cannot be moved: %1 is in its place</source>
-        <translation>eine Begleitdatei lässt sich nicht verschieben: %1 ist an ihrer Stelle</translation>
+        <source>a sidecar file cannot be moved: its name is in use by %1</source>
+        <translation>eine Begleitdatei lässt sich nicht verschieben: %1 belegt ihren Namen</translation>
     </message>
     <message>
         <source>a sidecar file cannot be moved</source>
@@ -5890,7 +5890,7 @@
         <translation>Seiten haben keine Einstellung „%1“.</translation>
     </message>
     <message>
-        <source>Enter a width and a height of the paper from 20 to 2000 mm.</source>
+        <source>Enter a paper width and height from 20 to 2000 mm.</source>
         <translation>Geben Sie Breite und Höhe des Papiers von 20 bis 2000 mm ein.</translation>
     </message>
     <message>
@@ -5902,11 +5902,11 @@
         <translation>Geben Sie einen Abstand ab 0 mm ein.</translation>
     </message>
     <message>
-        <source>Enter from 1 to 20 rows and columns.</source>
+        <source>Enter 1 to 20 rows and columns.</source>
         <translation>Geben Sie 1 bis 20 Zeilen und Spalten ein.</translation>
     </message>
     <message>
-        <source>Enter sizes of texts from 3 to 72 points.</source>
+        <source>Enter text sizes from 3 to 72 points.</source>
         <translation>Geben Sie Textgrößen von 3 bis 72 Punkt ein.</translation>
     </message>
     <message>
@@ -6110,11 +6110,11 @@
         <translation>Die Datei ist weder JPEG noch TIFF</translation>
     </message>
     <message>
-        <source>This is no property list with a dictionary</source>
+        <source>This is not a property list with a dictionary</source>
         <translation>Dies ist keine Eigenschaftsliste mit Schlüsseln und Werten</translation>
     </message>
     <message>
-        <source>A property list cannot hold this under %1</source>
+        <source>A property list cannot hold the value of %1</source>
         <translation>Der Wert von %1 passt nicht in eine Eigenschaftsliste</translation>
     </message>
     <message>
@@ -6130,8 +6130,8 @@
         <translation>ihre Metadaten sind beschädigt</translation>
     </message>
     <message>
-        <source>there is no room for so much metadata</source>
-        <translation>für so viele Metadaten ist kein Platz</translation>
+        <source>there is not enough room for the metadata</source>
+        <translation>für die Metadaten ist nicht genug Platz</translation>
     </message>
 </context>
 <context>
@@ -7890,7 +7890,7 @@
         <translation>%1 kann keine Metadaten aufnehmen</translation>
     </message>
     <message>
-        <source>More pictures in the file that are left out: %1</source>
+        <source>Other pictures in the file that are left out: %1</source>
         <translation>Weitere Bilder der Datei, die wegfallen: %1</translation>
     </message>
     <message>
@@ -7962,15 +7962,15 @@
         <translation>unbekannter Schlüssel</translation>
     </message>
     <message>
-        <source>it applies only with fit fill or pad</source>
+        <source>it applies only if &quot;fit&quot; is &quot;fill&quot; or &quot;pad&quot;</source>
         <translation>dies gilt nur mit „fit“ gleich „fill“ oder „pad“</translation>
     </message>
     <message>
-        <source>it applies only with fit pad</source>
+        <source>it applies only if &quot;fit&quot; is &quot;pad&quot;</source>
         <translation>dies gilt nur mit „fit“ gleich „pad“</translation>
     </message>
     <message>
-        <source>it applies only with box</source>
+        <source>it applies only with &quot;box&quot;</source>
         <translation>dies gilt nur mit „box“</translation>
     </message>
     <message>
@@ -7982,7 +7982,7 @@
         <translation>es ist mit %1 erforderlich</translation>
     </message>
     <message>
-        <source>it applies only with ratio</source>
+        <source>it applies only with &quot;ratio&quot;</source>
         <translation>dies gilt nur mit „ratio“</translation>
     </message>
     <message>
@@ -8034,7 +8034,7 @@
         <translation>ein Name, der nicht leer ist</translation>
     </message>
     <message>
-        <source>a name without /; use folder for folders</source>
+        <source>a name without &quot;/&quot;; for folders, use &quot;folder&quot;</source>
         <translation>ein Name ohne „/“; für Ordner dient „folder“</translation>
     </message>
     <message>
@@ -8138,12 +8138,12 @@
         <translation>sie ist aktuell</translation>
     </message>
     <message>
-        <source>reading it was given up</source>
-        <translation>das Lesen wurde aufgegeben</translation>
+        <source>reading was stopped because it took too long</source>
+        <translation>das Lesen dauerte zu lange und wurde abgebrochen</translation>
     </message>
     <message>
-        <source>writing it was given up</source>
-        <translation>das Schreiben wurde aufgegeben</translation>
+        <source>writing was stopped because it took too long</source>
+        <translation>das Schreiben dauerte zu lange und wurde abgebrochen</translation>
     </message>
 </context>
 <context>
@@ -9617,8 +9617,8 @@
         <translation>nicht auf der Seite</translation>
     </message>
     <message>
-        <source>no picture could be made</source>
-        <translation>es konnte kein Bild erzeugt werden</translation>
+        <source>no picture could be processed</source>
+        <translation>es konnte kein Bild verarbeitet werden</translation>
     </message>
     <message>
         <source>cancelled, the page was not made</source>
@@ -9897,8 +9897,8 @@
         <translation>Die Datei hat kein Aufnahmedatum.</translation>
     </message>
     <message>
-        <source>It is already in such a folder.</source>
-        <translation>Die Datei ist schon in einem solchen Ordner.</translation>
+        <source>It is already in a folder with the right name.</source>
+        <translation>Die Datei ist schon in einem Ordner mit dem richtigen Namen.</translation>
     </message>
 </context>
 <context>
@@ -10581,8 +10581,8 @@
         <translation>Urlaub</translation>
     </message>
     <message>
-        <source>“%1” is not a valid date format. Use yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss</source>
-        <translation>„%1“ ist kein gültiges Datumsformat. Verwenden Sie yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss</translation>
+        <source>“%1” is not a valid date format; use yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss</source>
+        <translation>„%1“ ist kein gültiges Datumsformat; verwenden Sie yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss</translation>
     </message>
     <message>
         <source>“%1” is not a valid start number</source>
@@ -10593,24 +10593,24 @@
         <translation>„%1“ wählt keinen Teil eines Namens aus. Verwenden Sie eine Anzahl Zeichen, „word“ oder „~“ und Wörter mit Kommas dazwischen</translation>
     </message>
     <message>
-        <source>“%1” is not a valid size format. Use “class” or “MB”</source>
-        <translation>„%1“ ist kein gültiges Größenformat. Verwenden Sie „class“ oder „MB“</translation>
+        <source>“%1” is not a valid size format; use “class” or “MB”</source>
+        <translation>„%1“ ist kein gültiges Größenformat; verwenden Sie „class“ oder „MB“</translation>
     </message>
     <message>
-        <source>{%1} takes no format. Remove the colon and what follows it</source>
-        <translation>{%1} kann kein Format haben. Entfernen Sie den Doppelpunkt und was darauf folgt</translation>
+        <source>{%1} takes no format; remove the colon and what follows it</source>
+        <translation>{%1} kann kein Format haben; entfernen Sie den Doppelpunkt und was darauf folgt</translation>
     </message>
     <message>
-        <source>There is no token between the braces. To write a brace, type {{</source>
-        <translation>Zwischen den geschweiften Klammern fehlt der Platzhalter. Für eine Klammer tippen Sie {{</translation>
+        <source>There is no token between the braces; to write a brace, type {{</source>
+        <translation>Zwischen den geschweiften Klammern fehlt der Platzhalter; für eine Klammer tippen Sie {{</translation>
     </message>
     <message>
         <source>There is no token {%1}</source>
         <translation>Einen Platzhalter {%1} gibt es nicht</translation>
     </message>
     <message>
-        <source>A brace is not closed. To write a brace, type {{</source>
-        <translation>Eine geschweifte Klammer ist nicht geschlossen. Für eine Klammer tippen Sie {{</translation>
+        <source>A brace is not closed; to write a brace, type {{</source>
+        <translation>Eine geschweifte Klammer ist nicht geschlossen; für eine Klammer tippen Sie {{</translation>
     </message>
     <message>
         <source>Jan Feb Mar Apr May Jun Jul Aug Sep Oct Nov Dec</source>
@@ -11163,7 +11163,7 @@
         <translation>es wurde kein freier Name gefunden</translation>
     </message>
     <message>
-        <source>Something else is at %1 now.</source>
+        <source>Something else is now at %1.</source>
         <translation>An der Stelle von %1 ist jetzt etwas anderes.</translation>
     </message>
 </context>
@@ -11295,8 +11295,8 @@
         <translation>Vorschau wird erstellt …</translation>
     </message>
     <message>
-        <source>no picture could be made</source>
-        <translation>es konnte kein Bild erzeugt werden</translation>
+        <source>no picture could be processed</source>
+        <translation>es konnte kein Bild verarbeitet werden</translation>
     </message>
     <message>
         <source>The page could not be opened in a browser.</source>
@@ -11412,7 +11412,7 @@
         <translation>%1, neuer Ordner, %2</translation>
     </message>
     <message>
-        <source>%1, folder that exists, %2</source>
+        <source>%1, existing folder, %2</source>
         <translation>%1, vorhandener Ordner, %2</translation>
     </message>
 </context>
@@ -11529,11 +11529,11 @@
 <context>
     <name>window::ProgramDesk</name>
     <message>
-        <source>The command lp of the print system is missing.</source>
+        <source>The lp command of the print system is missing.</source>
         <translation>Der Befehl lp des Drucksystems fehlt.</translation>
     </message>
     <message>
-        <source>The print system did not take the pages: %1</source>
+        <source>The print system did not accept the pages: %1</source>
         <translation>Das Drucksystem hat die Seiten nicht angenommen: %1</translation>
     </message>
 </context>
@@ -11935,8 +11935,8 @@
         <translation>Behalten</translation>
     </message>
     <message>
-        <source>The old values are deleted.</source>
-        <translation>Die alten Werte sind gelöscht.</translation>
+        <source>The old values were deleted.</source>
+        <translation>Die alten Werte wurden gelöscht.</translation>
     </message>
     <message numerus="yes">
         <source>Reverting: %n pictures so far</source>
@@ -11995,7 +11995,7 @@
         <translation>Das ändert die Metadaten in Ihren Originalen. Die Bilder selbst bleiben unberührt.</translation>
     </message>
     <message numerus="yes">
-        <source>%n of them get it in a sidecar file beside them.</source>
+        <source>For %n of them, it is written into a sidecar file.</source>
         <translation>
             <numerusform>%n davon erhält sie in einer Begleitdatei daneben.</numerusform>
             <numerusform>%n davon erhalten sie in einer Begleitdatei daneben.</numerusform>
@@ -12025,8 +12025,8 @@
         <translation>wartet</translation>
     </message>
     <message>
-        <source>it says so already</source>
-        <translation>steht dort schon</translation>
+        <source>already has these values</source>
+        <translation>hat diese Werte schon</translation>
     </message>
     <message>
         <source>in %1</source>
@@ -12093,7 +12093,7 @@
         <translation>Durchlauf zurücksetzen</translation>
     </message>
     <message>
-        <source>No old values are kept of this run.</source>
+        <source>No old values of this run are kept.</source>
         <translation>Von diesem Durchlauf sind keine alten Werte aufbewahrt.</translation>
     </message>
     <message>
@@ -12137,7 +12137,7 @@
         <translation>Probelauf: %1</translation>
     </message>
     <message numerus="yes">
-        <source>%n disagree with themselves</source>
+        <source>%n with conflicting values</source>
         <translation>
             <numerusform>%n mit widersprüchlichen Werten</numerusform>
             <numerusform>%n mit widersprüchlichen Werten</numerusform>
@@ -12634,7 +12634,7 @@
         <translation>Wert einfügen…</translation>
     </message>
     <message>
-        <source>Insert something that differs from picture to picture, such as its date</source>
+        <source>Insert a value that differs from picture to picture, such as the date</source>
         <translation>Etwas einfügen, das von Bild zu Bild anders ist, etwa das Datum</translation>
     </message>
     <message>
@@ -12654,7 +12654,7 @@
         <translation>Entfernen</translation>
     </message>
     <message>
-        <source>Keywords that are taken out, separated by commas</source>
+        <source>Keywords to remove, separated by commas</source>
         <translation>Stichwörter, die entfernt werden, durch Kommas getrennt</translation>
     </message>
     <message>
@@ -12849,7 +12849,7 @@
         <translation>Zeitzone: als +02:00 schreiben.</translation>
     </message>
     <message>
-        <source>A date taken that is set is not shifted: write its time zone behind it.</source>
+        <source>A date taken that you set is not shifted: add its time zone at the end.</source>
         <translation>Ein gesetztes Aufnahmedatum wird nicht verschoben: Schreiben Sie die Zeitzone dahinter.</translation>
     </message>
     <message>

@@ -233,10 +233,10 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%1 of %n files belongs to an earlier session. Undo it?</source>
+        <source>%1 (%n files) belongs to an earlier session. Undo it?</source>
         <translation>
-            <numerusform>%1 of %n file belongs to an earlier session. Undo it?</numerusform>
-            <numerusform>%1 of %n files belongs to an earlier session. Undo it?</numerusform>
+            <numerusform>%1 (%n file) belongs to an earlier session. Undo it?</numerusform>
+            <numerusform>%1 (%n files) belongs to an earlier session. Undo it?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -285,10 +285,10 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n do not fit the filter</source>
+        <source>%n do not match the filter</source>
         <translation>
-            <numerusform>%n does not fit the filter</numerusform>
-            <numerusform>%n do not fit the filter</numerusform>
+            <numerusform>%n does not match the filter</numerusform>
+            <numerusform>%n do not match the filter</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -485,10 +485,10 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n pictures, ≠ %1 properties</source>
+        <source>%n pictures, differences: %1</source>
         <translation>
-            <numerusform>%n picture, ≠ %1 properties</numerusform>
-            <numerusform>%n pictures, ≠ %1 properties</numerusform>
+            <numerusform>%n picture, differences: %1</numerusform>
+            <numerusform>%n pictures, differences: %1</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -1201,10 +1201,10 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n of them get it in a sidecar file beside them.</source>
+        <source>For %n of them, it is written into a sidecar file.</source>
         <translation>
-            <numerusform>%n of them gets it in a sidecar file beside it.</numerusform>
-            <numerusform>%n of them get it in a sidecar file beside them.</numerusform>
+            <numerusform>For %n of them, it is written into a sidecar file.</numerusform>
+            <numerusform>For %n of them, it is written into a sidecar file.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -1232,10 +1232,10 @@
 <context>
     <name>fields</name>
     <message numerus="yes">
-        <source>%n disagree with themselves</source>
+        <source>%n with conflicting values</source>
         <translation>
-            <numerusform>%n disagrees with itself</numerusform>
-            <numerusform>%n disagree with themselves</numerusform>
+            <numerusform>%n with conflicting values</numerusform>
+            <numerusform>%n with conflicting values</numerusform>
         </translation>
     </message>
     <message numerus="yes">

@@ -414,7 +414,7 @@
         <translation>Taille en-tête</translation>
     </message>
     <message>
-        <source>Size of header and footer</source>
+        <source>Text size of the header and footer</source>
         <translation>Taille du texte de l’en-tête et du pied de page</translation>
     </message>
     <message>
@@ -462,7 +462,7 @@
         <translation>Plus…</translation>
     </message>
     <message>
-        <source>More or fewer settings of the pages</source>
+        <source>Show more or fewer page settings</source>
         <translation>Afficher plus ou moins de réglages des pages</translation>
     </message>
     <message>
@@ -860,7 +860,7 @@
         <translation>Lecture en cours</translation>
     </message>
     <message>
-        <source>A picture takes long to read.</source>
+        <source>A picture is taking a long time to read.</source>
         <translation>La lecture d’une image est longue.</translation>
     </message>
     <message>
@@ -915,7 +915,7 @@
         <translation>Légendes</translation>
     </message>
     <message>
-        <source>Pattern of all captions</source>
+        <source>Pattern for all captions</source>
         <translation>Modèle de toutes les légendes</translation>
     </message>
     <message>
@@ -967,7 +967,7 @@
         <translation>Langue de la page</translation>
     </message>
     <message>
-        <source>Direction of writing</source>
+        <source>Writing direction</source>
         <translation>Sens d’écriture</translation>
     </message>
     <message>
@@ -1892,7 +1892,7 @@
         <translation>Copier</translation>
     </message>
     <message>
-        <source>Copy the selected value or branch (Ctrl+C in the tree), or the location of the picture</source>
+        <source>Copy the selected value or branch (Ctrl+C in the tree), or where the picture was taken</source>
         <translation>Copier la valeur ou la branche sélectionnée (Ctrl+C dans l’arbre), ou le lieu de prise de vue</translation>
     </message>
     <message>
@@ -2542,7 +2542,7 @@
         <translation>Garder les sous-dossiers</translation>
     </message>
     <message>
-        <source>Builds the folders again that lie below each added folder</source>
+        <source>Recreates the subfolders of each added folder</source>
         <translation>Recrée les sous-dossiers de chaque dossier ajouté</translation>
     </message>
 </context>
@@ -3942,8 +3942,8 @@
         <translation>Vous n’avez pas le droit de modifier %1 ou son dossier</translation>
     </message>
     <message>
-        <source>%1, which it belongs to, keeps its name</source>
-        <translation>%1, le fichier principal, garde son nom</translation>
+        <source>%1 keeps its name, and so does its sidecar file</source>
+        <translation>%1 garde son nom, et son fichier annexe aussi</translation>
     </message>
     <message>
         <source>%1 was changed or replaced in the meantime</source>
@@ -4026,15 +4026,15 @@
         <translation>Annuler&#x202f;: %1 (Ctrl+Z)</translation>
     </message>
     <message>
-        <source>Keys move pictures now.</source>
+        <source>Keys now move pictures.</source>
         <translation>Les touches déplacent maintenant les images.</translation>
     </message>
     <message>
-        <source>Keys copy pictures now.</source>
+        <source>Keys now copy pictures.</source>
         <translation>Les touches copient maintenant les images.</translation>
     </message>
     <message>
-        <source>Keys link pictures now.</source>
+        <source>Keys now link pictures.</source>
         <translation>Les touches lient maintenant les images.</translation>
     </message>
     <message>
@@ -4334,7 +4334,7 @@
         <translation>Annuler un traitement précédent</translation>
     </message>
     <message numerus="yes">
-        <source>%1 of %n files belongs to an earlier session. Undo it?</source>
+        <source>%1 (%n files) belongs to an earlier session. Undo it?</source>
         <translation>
             <numerusform>«&#x202f;%1&#x202f;» (%n fichier) date d’une session précédente. L’annuler&#x202f;?</numerusform>
             <numerusform>«&#x202f;%1&#x202f;» (%n fichiers) date d’une session précédente. L’annuler&#x202f;?</numerusform>
@@ -4457,7 +4457,7 @@
         <translation>Recette ouverte. Rien n’a été exécuté.</translation>
     </message>
     <message numerus="yes">
-        <source>%n do not fit the filter</source>
+        <source>%n do not match the filter</source>
         <translation>
             <numerusform>%n ne correspond pas au filtre</numerusform>
             <numerusform>%n ne correspondent pas au filtre</numerusform>
@@ -4663,7 +4663,7 @@
 <context>
     <name>jobs</name>
     <message>
-        <source>%1 was changed since.</source>
+        <source>%1 has been changed since.</source>
         <translation>%1 a été modifié depuis.</translation>
     </message>
     <message>
@@ -5037,11 +5037,11 @@
         <translation>les données privées ne sont pas retirées des fichiers de ce type</translation>
     </message>
     <message>
-        <source>nothing is known to do with the field %1</source>
+        <source>no change is given for the field %1</source>
         <translation>aucune modification n’est indiquée pour le champ %1</translation>
     </message>
     <message>
-        <source>"%1" is no time zone</source>
+        <source>"%1" is not a time zone</source>
         <translation>« %1 » n’est pas un fuseau horaire</translation>
     </message>
     <message>
@@ -5163,10 +5163,10 @@
         <translation>Restaurer le commentaire</translation>
     </message>
     <message numerus="yes">
-        <source>%n pictures, ≠ %1 properties</source>
+        <source>%n pictures, differences: %1</source>
         <translation>
-            <numerusform>%n image, %1 propriétés différentes</numerusform>
-            <numerusform>%n images, %1 propriétés différentes</numerusform>
+            <numerusform>%n image, différences : %1</numerusform>
+            <numerusform>%n images, différences : %1</numerusform>
         </translation>
     </message>
 </context>
@@ -5295,8 +5295,8 @@
         <translation>l’image de ce fichier annexe reste</translation>
     </message>
     <message>
-        <source>a sidecar file cannot be moved: %1 is in its place</source>
-        <translation>un fichier annexe ne peut pas être déplacé : %1 occupe sa place</translation>
+        <source>a sidecar file cannot be moved: its name is in use by %1</source>
+        <translation>un fichier annexe ne peut pas être déplacé : %1 utilise son nom</translation>
     </message>
     <message>
         <source>a sidecar file cannot be moved</source>
@@ -5890,7 +5890,7 @@
         <translation>Les pages n’ont pas de réglage «&#x202f;%1&#x202f;».</translation>
     </message>
     <message>
-        <source>Enter a width and a height of the paper from 20 to 2000 mm.</source>
+        <source>Enter a paper width and height from 20 to 2000 mm.</source>
         <translation>Saisissez une largeur et une hauteur de papier de 20 à 2000 mm.</translation>
     </message>
     <message>
@@ -5902,11 +5902,11 @@
         <translation>Saisissez un espace à partir de 0 mm.</translation>
     </message>
     <message>
-        <source>Enter from 1 to 20 rows and columns.</source>
+        <source>Enter 1 to 20 rows and columns.</source>
         <translation>Saisissez de 1 à 20 lignes et colonnes.</translation>
     </message>
     <message>
-        <source>Enter sizes of texts from 3 to 72 points.</source>
+        <source>Enter text sizes from 3 to 72 points.</source>
         <translation>Saisissez des tailles de texte de 3 à 72 points.</translation>
     </message>
     <message>
@@ -6110,11 +6110,11 @@
         <translation>Le fichier n’est ni JPEG ni TIFF</translation>
     </message>
     <message>
-        <source>This is no property list with a dictionary</source>
+        <source>This is not a property list with a dictionary</source>
         <translation>Ce n’est pas une liste de propriétés composée de clés et de valeurs</translation>
     </message>
     <message>
-        <source>A property list cannot hold this under %1</source>
+        <source>A property list cannot hold the value of %1</source>
         <translation>La valeur de %1 ne peut pas être enregistrée dans une liste de propriétés</translation>
     </message>
     <message>
@@ -6130,8 +6130,8 @@
         <translation>ses métadonnées sont endommagées</translation>
     </message>
     <message>
-        <source>there is no room for so much metadata</source>
-        <translation>il n’y a pas de place pour autant de métadonnées</translation>
+        <source>there is not enough room for the metadata</source>
+        <translation>il n’y a pas assez de place pour les métadonnées</translation>
     </message>
 </context>
 <context>
@@ -7890,7 +7890,7 @@
         <translation>%1 ne peut pas contenir de métadonnées</translation>
     </message>
     <message>
-        <source>More pictures in the file that are left out: %1</source>
+        <source>Other pictures in the file that are left out: %1</source>
         <translation>Autres images du fichier laissées de côté&#x202f;: %1</translation>
     </message>
     <message>
@@ -7962,15 +7962,15 @@
         <translation>clé inconnue</translation>
     </message>
     <message>
-        <source>it applies only with fit fill or pad</source>
+        <source>it applies only if &quot;fit&quot; is &quot;fill&quot; or &quot;pad&quot;</source>
         <translation>elle ne s’applique qu’avec «&#x202f;fit&#x202f;» égal à «&#x202f;fill&#x202f;» ou «&#x202f;pad&#x202f;»</translation>
     </message>
     <message>
-        <source>it applies only with fit pad</source>
+        <source>it applies only if &quot;fit&quot; is &quot;pad&quot;</source>
         <translation>elle ne s’applique qu’avec «&#x202f;fit&#x202f;» égal à «&#x202f;pad&#x202f;»</translation>
     </message>
     <message>
-        <source>it applies only with box</source>
+        <source>it applies only with &quot;box&quot;</source>
         <translation>elle ne s’applique qu’avec «&#x202f;box&#x202f;»</translation>
     </message>
     <message>
@@ -7982,7 +7982,7 @@
         <translation>requis avec %1</translation>
     </message>
     <message>
-        <source>it applies only with ratio</source>
+        <source>it applies only with &quot;ratio&quot;</source>
         <translation>elle ne s’applique qu’avec «&#x202f;ratio&#x202f;»</translation>
     </message>
     <message>
@@ -8034,7 +8034,7 @@
         <translation>un nom non vide</translation>
     </message>
     <message>
-        <source>a name without /; use folder for folders</source>
+        <source>a name without &quot;/&quot;; for folders, use &quot;folder&quot;</source>
         <translation>un nom sans «&#x202f;/&#x202f;»&#x202f;; pour les dossiers, utilisez «&#x202f;folder&#x202f;»</translation>
     </message>
     <message>
@@ -8138,12 +8138,12 @@
         <translation>elle est à jour</translation>
     </message>
     <message>
-        <source>reading it was given up</source>
-        <translation>la lecture a été abandonnée</translation>
+        <source>reading was stopped because it took too long</source>
+        <translation>la lecture a été arrêtée car elle durait trop longtemps</translation>
     </message>
     <message>
-        <source>writing it was given up</source>
-        <translation>l’écriture a été abandonnée</translation>
+        <source>writing was stopped because it took too long</source>
+        <translation>l’écriture a été arrêtée car elle durait trop longtemps</translation>
     </message>
 </context>
 <context>
@@ -9617,8 +9617,8 @@
         <translation>pas sur la page</translation>
     </message>
     <message>
-        <source>no picture could be made</source>
-        <translation>aucune image n’a pu être créée</translation>
+        <source>no picture could be processed</source>
+        <translation>aucune image n’a pu être traitée</translation>
     </message>
     <message>
         <source>cancelled, the page was not made</source>
@@ -9897,8 +9897,8 @@
         <translation>Le fichier n’a pas de date de prise de vue.</translation>
     </message>
     <message>
-        <source>It is already in such a folder.</source>
-        <translation>Le fichier est déjà dans un tel dossier.</translation>
+        <source>It is already in a folder with the right name.</source>
+        <translation>Le fichier est déjà dans un dossier du bon nom.</translation>
     </message>
 </context>
 <context>
@@ -10581,8 +10581,8 @@
         <translation>Vacances</translation>
     </message>
     <message>
-        <source>“%1” is not a valid date format. Use yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss</source>
-        <translation>« %1 » n’est pas un format de date valide. Utilisez yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss</translation>
+        <source>“%1” is not a valid date format; use yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss</source>
+        <translation>« %1 » n’est pas un format de date valide&#x202f;; utilisez yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss</translation>
     </message>
     <message>
         <source>“%1” is not a valid start number</source>
@@ -10593,24 +10593,24 @@
         <translation>« %1 » ne sélectionne aucune partie d’un nom. Utilisez un nombre de caractères, « word », ou « ~ » et des mots séparés par des virgules</translation>
     </message>
     <message>
-        <source>“%1” is not a valid size format. Use “class” or “MB”</source>
-        <translation>« %1 » n’est pas un format de poids valide. Utilisez « class » ou « MB »</translation>
+        <source>“%1” is not a valid size format; use “class” or “MB”</source>
+        <translation>« %1 » n’est pas un format de poids valide&#x202f;; utilisez « class » ou « MB »</translation>
     </message>
     <message>
-        <source>{%1} takes no format. Remove the colon and what follows it</source>
-        <translation>{%1} n’accepte pas de format. Supprimez les deux-points et ce qui suit</translation>
+        <source>{%1} takes no format; remove the colon and what follows it</source>
+        <translation>{%1} n’accepte pas de format&#x202f;; supprimez les deux-points et ce qui suit</translation>
     </message>
     <message>
-        <source>There is no token between the braces. To write a brace, type {{</source>
-        <translation>Il n’y a pas de variable entre les accolades. Pour une accolade, tapez {{</translation>
+        <source>There is no token between the braces; to write a brace, type {{</source>
+        <translation>Il n’y a pas de variable entre les accolades&#x202f;; pour une accolade, tapez {{</translation>
     </message>
     <message>
         <source>There is no token {%1}</source>
         <translation>La variable {%1} n’existe pas</translation>
     </message>
     <message>
-        <source>A brace is not closed. To write a brace, type {{</source>
-        <translation>Une accolade n’est pas fermée. Pour une accolade, tapez {{</translation>
+        <source>A brace is not closed; to write a brace, type {{</source>
+        <translation>Une accolade n’est pas fermée&#x202f;; pour une accolade, tapez {{</translation>
     </message>
     <message>
         <source>Jan Feb Mar Apr May Jun Jul Aug Sep Oct Nov Dec</source>
@@ -11163,7 +11163,7 @@
         <translation>aucun nom libre n’a été trouvé</translation>
     </message>
     <message>
-        <source>Something else is at %1 now.</source>
+        <source>Something else is now at %1.</source>
         <translation>Autre chose se trouve maintenant à %1.</translation>
     </message>
 </context>
@@ -11295,8 +11295,8 @@
         <translation>Création de l’aperçu…</translation>
     </message>
     <message>
-        <source>no picture could be made</source>
-        <translation>aucune image n’a pu être créée</translation>
+        <source>no picture could be processed</source>
+        <translation>aucune image n’a pu être traitée</translation>
     </message>
     <message>
         <source>The page could not be opened in a browser.</source>
@@ -11412,7 +11412,7 @@
         <translation>%1, nouveau dossier, %2</translation>
     </message>
     <message>
-        <source>%1, folder that exists, %2</source>
+        <source>%1, existing folder, %2</source>
         <translation>%1, dossier existant, %2</translation>
     </message>
 </context>
@@ -11529,11 +11529,11 @@
 <context>
     <name>window::ProgramDesk</name>
     <message>
-        <source>The command lp of the print system is missing.</source>
+        <source>The lp command of the print system is missing.</source>
         <translation>La commande lp du système d’impression manque.</translation>
     </message>
     <message>
-        <source>The print system did not take the pages: %1</source>
+        <source>The print system did not accept the pages: %1</source>
         <translation>Le système d’impression n’a pas accepté les pages : %1</translation>
     </message>
 </context>
@@ -11935,8 +11935,8 @@
         <translation>Garder</translation>
     </message>
     <message>
-        <source>The old values are deleted.</source>
-        <translation>Les anciennes valeurs sont supprimées.</translation>
+        <source>The old values were deleted.</source>
+        <translation>Les anciennes valeurs ont été supprimées.</translation>
     </message>
     <message numerus="yes">
         <source>Reverting: %n pictures so far</source>
@@ -11995,7 +11995,7 @@
         <translation>Cela modifie les métadonnées de vos originaux. Les images elles-mêmes ne changent pas.</translation>
     </message>
     <message numerus="yes">
-        <source>%n of them get it in a sidecar file beside them.</source>
+        <source>For %n of them, it is written into a sidecar file.</source>
         <translation>
             <numerusform>%n d’entre elles les reçoit dans un fichier annexe.</numerusform>
             <numerusform>%n d’entre elles les reçoivent dans un fichier annexe.</numerusform>
@@ -12025,8 +12025,8 @@
         <translation>en attente</translation>
     </message>
     <message>
-        <source>it says so already</source>
-        <translation>c’est déjà le cas</translation>
+        <source>already has these values</source>
+        <translation>a déjà ces valeurs</translation>
     </message>
     <message>
         <source>in %1</source>
@@ -12093,7 +12093,7 @@
         <translation>Annuler ce traitement</translation>
     </message>
     <message>
-        <source>No old values are kept of this run.</source>
+        <source>No old values of this run are kept.</source>
         <translation>Aucune ancienne valeur n’est gardée pour ce traitement.</translation>
     </message>
     <message>
@@ -12137,7 +12137,7 @@
         <translation>Essai à blanc : %1</translation>
     </message>
     <message numerus="yes">
-        <source>%n disagree with themselves</source>
+        <source>%n with conflicting values</source>
         <translation>
             <numerusform>%n avec des valeurs contradictoires</numerusform>
             <numerusform>%n avec des valeurs contradictoires</numerusform>
@@ -12634,7 +12634,7 @@
         <translation>Insérer une valeur…</translation>
     </message>
     <message>
-        <source>Insert something that differs from picture to picture, such as its date</source>
+        <source>Insert a value that differs from picture to picture, such as the date</source>
         <translation>Insérer ce qui change d’une image à l’autre, comme la date</translation>
     </message>
     <message>
@@ -12654,7 +12654,7 @@
         <translation>Retirer</translation>
     </message>
     <message>
-        <source>Keywords that are taken out, separated by commas</source>
+        <source>Keywords to remove, separated by commas</source>
         <translation>Mots-clés à retirer, séparés par des virgules</translation>
     </message>
     <message>
@@ -12849,7 +12849,7 @@
         <translation>Fuseau horaire : écrivez +02:00.</translation>
     </message>
     <message>
-        <source>A date taken that is set is not shifted: write its time zone behind it.</source>
+        <source>A date taken that you set is not shifted: add its time zone at the end.</source>
         <translation>Une date fixée n’est pas décalée : écrivez son fuseau horaire à la suite.</translation>
     </message>
     <message>
@@ -12888,8 +12888,8 @@
     <message numerus="yes">
         <source>Write the ratings of %n pictures into their files?</source>
         <translation>
-            <numerusform>Écrire la note de %n image dans son fichier ?</numerusform>
-            <numerusform>Écrire les notes de %n images dans leurs fichiers ?</numerusform>
+            <numerusform>Écrire la note de %n image dans son fichier&#x202f;?</numerusform>
+            <numerusform>Écrire les notes de %n images dans leurs fichiers&#x202f;?</numerusform>
         </translation>
     </message>
     <message numerus="yes">

@@ -414,7 +414,7 @@
         <translation>Grootte kop</translation>
     </message>
     <message>
-        <source>Size of header and footer</source>
+        <source>Text size of the header and footer</source>
         <translation>Tekstgrootte van kop- en voettekst</translation>
     </message>
     <message>
@@ -462,7 +462,7 @@
         <translation>Meer…</translation>
     </message>
     <message>
-        <source>More or fewer settings of the pages</source>
+        <source>Show more or fewer page settings</source>
         <translation>Meer of minder instellingen van de pagina’s tonen</translation>
     </message>
     <message>
@@ -860,7 +860,7 @@
         <translation>Nog aan het lezen</translation>
     </message>
     <message>
-        <source>A picture takes long to read.</source>
+        <source>A picture is taking a long time to read.</source>
         <translation>Het lezen van een foto duurt lang.</translation>
     </message>
     <message>
@@ -915,7 +915,7 @@
         <translation>Bijschriften</translation>
     </message>
     <message>
-        <source>Pattern of all captions</source>
+        <source>Pattern for all captions</source>
         <translation>Patroon van alle bijschriften</translation>
     </message>
     <message>
@@ -967,7 +967,7 @@
         <translation>Taal van de pagina</translation>
     </message>
     <message>
-        <source>Direction of writing</source>
+        <source>Writing direction</source>
         <translation>Schrijfrichting</translation>
     </message>
     <message>
@@ -1892,7 +1892,7 @@
         <translation>Kopiëren</translation>
     </message>
     <message>
-        <source>Copy the selected value or branch (Ctrl+C in the tree), or the location of the picture</source>
+        <source>Copy the selected value or branch (Ctrl+C in the tree), or where the picture was taken</source>
         <translation>De geselecteerde waarde of tak kopiëren (Ctrl+C in de boom), of de locatie van de foto</translation>
     </message>
     <message>
@@ -2542,7 +2542,7 @@
         <translation>Submappen behouden</translation>
     </message>
     <message>
-        <source>Builds the folders again that lie below each added folder</source>
+        <source>Recreates the subfolders of each added folder</source>
         <translation>Maakt de mappen onder elke toegevoegde map opnieuw aan</translation>
     </message>
 </context>
@@ -3942,8 +3942,8 @@
         <translation>U mag %1 of de map ervan niet wijzigen</translation>
     </message>
     <message>
-        <source>%1, which it belongs to, keeps its name</source>
-        <translation>%1, het hoofdbestand, houdt zijn naam</translation>
+        <source>%1 keeps its name, and so does its sidecar file</source>
+        <translation>%1 houdt zijn naam, en het sidecarbestand dus ook</translation>
     </message>
     <message>
         <source>%1 was changed or replaced in the meantime</source>
@@ -4026,15 +4026,15 @@
         <translation>Ongedaan maken: %1 (Ctrl+Z)</translation>
     </message>
     <message>
-        <source>Keys move pictures now.</source>
+        <source>Keys now move pictures.</source>
         <translation>Toetsen verplaatsen nu foto’s.</translation>
     </message>
     <message>
-        <source>Keys copy pictures now.</source>
+        <source>Keys now copy pictures.</source>
         <translation>Toetsen kopiëren nu foto’s.</translation>
     </message>
     <message>
-        <source>Keys link pictures now.</source>
+        <source>Keys now link pictures.</source>
         <translation>Toetsen linken nu foto’s.</translation>
     </message>
     <message>
@@ -4334,7 +4334,7 @@
         <translation>Een eerdere opdracht ongedaan maken</translation>
     </message>
     <message numerus="yes">
-        <source>%1 of %n files belongs to an earlier session. Undo it?</source>
+        <source>%1 (%n files) belongs to an earlier session. Undo it?</source>
         <translation>
             <numerusform>“%1” (%n bestand) is van een eerdere sessie. Ongedaan maken?</numerusform>
             <numerusform>“%1” (%n bestanden) is van een eerdere sessie. Ongedaan maken?</numerusform>
@@ -4457,7 +4457,7 @@
         <translation>Recept geopend. Er is niets uitgevoerd.</translation>
     </message>
     <message numerus="yes">
-        <source>%n do not fit the filter</source>
+        <source>%n do not match the filter</source>
         <translation>
             <numerusform>%n past niet bij het filter</numerusform>
             <numerusform>%n passen niet bij het filter</numerusform>
@@ -4663,7 +4663,7 @@
 <context>
     <name>jobs</name>
     <message>
-        <source>%1 was changed since.</source>
+        <source>%1 has been changed since.</source>
         <translation>%1 is sindsdien gewijzigd.</translation>
     </message>
     <message>
@@ -5037,11 +5037,11 @@
         <translation>uit bestanden van dit type worden geen privégegevens verwijderd</translation>
     </message>
     <message>
-        <source>nothing is known to do with the field %1</source>
+        <source>no change is given for the field %1</source>
         <translation>er is geen wijziging opgegeven voor het veld %1</translation>
     </message>
     <message>
-        <source>"%1" is no time zone</source>
+        <source>"%1" is not a time zone</source>
         <translation>“%1” is geen tijdzone</translation>
     </message>
     <message>
@@ -5163,10 +5163,10 @@
         <translation>Opmerking terugzetten</translation>
     </message>
     <message numerus="yes">
-        <source>%n pictures, ≠ %1 properties</source>
+        <source>%n pictures, differences: %1</source>
         <translation>
-            <numerusform>%n foto, %1 eigenschappen verschillen</numerusform>
-            <numerusform>%n foto’s, %1 eigenschappen verschillen</numerusform>
+            <numerusform>%n foto, verschillen: %1</numerusform>
+            <numerusform>%n foto’s, verschillen: %1</numerusform>
         </translation>
     </message>
 </context>
@@ -5295,8 +5295,8 @@
         <translation>de foto bij dit sidecarbestand blijft</translation>
     </message>
     <message>
-        <source>a sidecar file cannot be moved: %1 is in its place</source>
-        <translation>een sidecarbestand kan niet worden verplaatst: %1 heeft die naam al</translation>
+        <source>a sidecar file cannot be moved: its name is in use by %1</source>
+        <translation>een sidecarbestand kan niet worden verplaatst: die naam is in gebruik door %1</translation>
     </message>
     <message>
         <source>a sidecar file cannot be moved</source>
@@ -5890,7 +5890,7 @@
         <translation>Pagina’s hebben geen instelling “%1”.</translation>
     </message>
     <message>
-        <source>Enter a width and a height of the paper from 20 to 2000 mm.</source>
+        <source>Enter a paper width and height from 20 to 2000 mm.</source>
         <translation>Voer een breedte en hoogte van het papier in van 20 tot 2000 mm.</translation>
     </message>
     <message>
@@ -5902,11 +5902,11 @@
         <translation>Voer een tussenruimte vanaf 0 mm in.</translation>
     </message>
     <message>
-        <source>Enter from 1 to 20 rows and columns.</source>
+        <source>Enter 1 to 20 rows and columns.</source>
         <translation>Voer 1 tot 20 rijen en kolommen in.</translation>
     </message>
     <message>
-        <source>Enter sizes of texts from 3 to 72 points.</source>
+        <source>Enter text sizes from 3 to 72 points.</source>
         <translation>Voer tekstgroottes van 3 tot 72 punten in.</translation>
     </message>
     <message>
@@ -6110,11 +6110,11 @@
         <translation>Het bestand is geen JPEG of TIFF</translation>
     </message>
     <message>
-        <source>This is no property list with a dictionary</source>
+        <source>This is not a property list with a dictionary</source>
         <translation>Dit is geen eigenschappenlijst met sleutels en waarden</translation>
     </message>
     <message>
-        <source>A property list cannot hold this under %1</source>
+        <source>A property list cannot hold the value of %1</source>
         <translation>De waarde van %1 past niet in een eigenschappenlijst</translation>
     </message>
     <message>
@@ -6130,8 +6130,8 @@
         <translation>de metadata zijn beschadigd</translation>
     </message>
     <message>
-        <source>there is no room for so much metadata</source>
-        <translation>er is geen ruimte voor zo veel metadata</translation>
+        <source>there is not enough room for the metadata</source>
+        <translation>er is niet genoeg ruimte voor de metadata</translation>
     </message>
 </context>
 <context>
@@ -7890,7 +7890,7 @@
         <translation>%1 kan geen metadata bevatten</translation>
     </message>
     <message>
-        <source>More pictures in the file that are left out: %1</source>
+        <source>Other pictures in the file that are left out: %1</source>
         <translation>Verdere foto’s van het bestand die worden weggelaten: %1</translation>
     </message>
     <message>
@@ -7962,15 +7962,15 @@
         <translation>onbekende sleutel</translation>
     </message>
     <message>
-        <source>it applies only with fit fill or pad</source>
+        <source>it applies only if &quot;fit&quot; is &quot;fill&quot; or &quot;pad&quot;</source>
         <translation>deze sleutel geldt alleen met “fit” gelijk aan “fill” of “pad”</translation>
     </message>
     <message>
-        <source>it applies only with fit pad</source>
+        <source>it applies only if &quot;fit&quot; is &quot;pad&quot;</source>
         <translation>deze sleutel geldt alleen met “fit” gelijk aan “pad”</translation>
     </message>
     <message>
-        <source>it applies only with box</source>
+        <source>it applies only with &quot;box&quot;</source>
         <translation>deze sleutel geldt alleen met “box”</translation>
     </message>
     <message>
@@ -7982,7 +7982,7 @@
         <translation>het is verplicht bij %1</translation>
     </message>
     <message>
-        <source>it applies only with ratio</source>
+        <source>it applies only with &quot;ratio&quot;</source>
         <translation>deze sleutel geldt alleen met “ratio”</translation>
     </message>
     <message>
@@ -8034,7 +8034,7 @@
         <translation>een naam die niet leeg is</translation>
     </message>
     <message>
-        <source>a name without /; use folder for folders</source>
+        <source>a name without &quot;/&quot;; for folders, use &quot;folder&quot;</source>
         <translation>een naam zonder “/”; gebruik “folder” voor mappen</translation>
     </message>
     <message>
@@ -8138,12 +8138,12 @@
         <translation>het is actueel</translation>
     </message>
     <message>
-        <source>reading it was given up</source>
-        <translation>het lezen is opgegeven</translation>
+        <source>reading was stopped because it took too long</source>
+        <translation>het lezen duurde te lang en is gestopt</translation>
     </message>
     <message>
-        <source>writing it was given up</source>
-        <translation>het schrijven is opgegeven</translation>
+        <source>writing was stopped because it took too long</source>
+        <translation>het schrijven duurde te lang en is gestopt</translation>
     </message>
 </context>
 <context>
@@ -9617,7 +9617,7 @@
         <translation>niet op de pagina</translation>
     </message>
     <message>
-        <source>no picture could be made</source>
+        <source>no picture could be processed</source>
         <translation>geen enkele foto kon worden verwerkt</translation>
     </message>
     <message>
@@ -9897,8 +9897,8 @@
         <translation>Het bestand heeft geen opnamedatum.</translation>
     </message>
     <message>
-        <source>It is already in such a folder.</source>
-        <translation>Het staat al in zo’n map.</translation>
+        <source>It is already in a folder with the right name.</source>
+        <translation>Het bestand staat al in een map met de juiste naam.</translation>
     </message>
 </context>
 <context>
@@ -10581,8 +10581,8 @@
         <translation>Vakantie</translation>
     </message>
     <message>
-        <source>“%1” is not a valid date format. Use yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss</source>
-        <translation>“%1” is geen geldige datumnotatie. Gebruik yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss</translation>
+        <source>“%1” is not a valid date format; use yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss</source>
+        <translation>“%1” is geen geldige datumnotatie; gebruik yyyy, yy, MM, MMM, dd, EEE, HH, mm, ss</translation>
     </message>
     <message>
         <source>“%1” is not a valid start number</source>
@@ -10593,24 +10593,24 @@
         <translation>“%1” selecteert geen deel van een naam. Gebruik een aantal tekens, “word”, of “~” en woorden met komma’s ertussen</translation>
     </message>
     <message>
-        <source>“%1” is not a valid size format. Use “class” or “MB”</source>
-        <translation>“%1” is geen geldige notatie voor grootte. Gebruik “class” of “MB”</translation>
+        <source>“%1” is not a valid size format; use “class” or “MB”</source>
+        <translation>“%1” is geen geldige notatie voor grootte; gebruik “class” of “MB”</translation>
     </message>
     <message>
-        <source>{%1} takes no format. Remove the colon and what follows it</source>
-        <translation>{%1} kan geen notatie krijgen. Verwijder de dubbele punt en wat erna komt</translation>
+        <source>{%1} takes no format; remove the colon and what follows it</source>
+        <translation>{%1} kan geen notatie krijgen; verwijder de dubbele punt en wat erna komt</translation>
     </message>
     <message>
-        <source>There is no token between the braces. To write a brace, type {{</source>
-        <translation>Er staat geen code tussen de accolades. Typ {{ voor een accolade</translation>
+        <source>There is no token between the braces; to write a brace, type {{</source>
+        <translation>Er staat geen code tussen de accolades; typ {{ voor een accolade</translation>
     </message>
     <message>
         <source>There is no token {%1}</source>
         <translation>Er is geen code {%1}</translation>
     </message>
     <message>
-        <source>A brace is not closed. To write a brace, type {{</source>
-        <translation>Een accolade is niet gesloten. Typ {{ voor een accolade</translation>
+        <source>A brace is not closed; to write a brace, type {{</source>
+        <translation>Een accolade is niet gesloten; typ {{ voor een accolade</translation>
     </message>
     <message>
         <source>Jan Feb Mar Apr May Jun Jul Aug Sep Oct Nov Dec</source>
@@ -11163,7 +11163,7 @@
         <translation>er is geen vrije naam gevonden</translation>
     </message>
     <message>
-        <source>Something else is at %1 now.</source>
+        <source>Something else is now at %1.</source>
         <translation>Op %1 staat nu iets anders.</translation>
     </message>
 </context>
@@ -11295,7 +11295,7 @@
         <translation>Voorvertoning maken…</translation>
     </message>
     <message>
-        <source>no picture could be made</source>
+        <source>no picture could be processed</source>
         <translation>geen enkele foto kon worden verwerkt</translation>
     </message>
     <message>
@@ -11412,7 +11412,7 @@
         <translation>%1, nieuwe map, %2</translation>
     </message>
     <message>
-        <source>%1, folder that exists, %2</source>
+        <source>%1, existing folder, %2</source>
         <translation>%1, bestaande map, %2</translation>
     </message>
 </context>
@@ -11529,11 +11529,11 @@
 <context>
     <name>window::ProgramDesk</name>
     <message>
-        <source>The command lp of the print system is missing.</source>
+        <source>The lp command of the print system is missing.</source>
         <translation>De opdracht lp van het afdruksysteem ontbreekt.</translation>
     </message>
     <message>
-        <source>The print system did not take the pages: %1</source>
+        <source>The print system did not accept the pages: %1</source>
         <translation>Het afdruksysteem heeft de pagina’s niet aangenomen: %1</translation>
     </message>
 </context>
@@ -11935,7 +11935,7 @@
         <translation>Behouden</translation>
     </message>
     <message>
-        <source>The old values are deleted.</source>
+        <source>The old values were deleted.</source>
         <translation>De oude waarden zijn gewist.</translation>
     </message>
     <message numerus="yes">
@@ -11995,7 +11995,7 @@
         <translation>Dit wijzigt de metadata in uw originelen. De beelden zelf blijven onaangeroerd.</translation>
     </message>
     <message numerus="yes">
-        <source>%n of them get it in a sidecar file beside them.</source>
+        <source>For %n of them, it is written into a sidecar file.</source>
         <translation>
             <numerusform>%n daarvan krijgt ze in een sidecarbestand ernaast.</numerusform>
             <numerusform>%n daarvan krijgen ze in een sidecarbestand ernaast.</numerusform>
@@ -12025,8 +12025,8 @@
         <translation>wacht</translation>
     </message>
     <message>
-        <source>it says so already</source>
-        <translation>staat er al</translation>
+        <source>already has these values</source>
+        <translation>heeft deze waarden al</translation>
     </message>
     <message>
         <source>in %1</source>
@@ -12093,7 +12093,7 @@
         <translation>Opdracht terugdraaien</translation>
     </message>
     <message>
-        <source>No old values are kept of this run.</source>
+        <source>No old values of this run are kept.</source>
         <translation>Van deze opdracht zijn geen oude waarden bewaard.</translation>
     </message>
     <message>
@@ -12137,7 +12137,7 @@
         <translation>Proefrun: %1</translation>
     </message>
     <message numerus="yes">
-        <source>%n disagree with themselves</source>
+        <source>%n with conflicting values</source>
         <translation>
             <numerusform>%n met tegenstrijdige waarden</numerusform>
             <numerusform>%n met tegenstrijdige waarden</numerusform>
@@ -12634,7 +12634,7 @@
         <translation>Waarde invoegen…</translation>
     </message>
     <message>
-        <source>Insert something that differs from picture to picture, such as its date</source>
+        <source>Insert a value that differs from picture to picture, such as the date</source>
         <translation>Iets invoegen dat per foto verschilt, zoals de datum</translation>
     </message>
     <message>
@@ -12654,7 +12654,7 @@
         <translation>Verwijderen</translation>
     </message>
     <message>
-        <source>Keywords that are taken out, separated by commas</source>
+        <source>Keywords to remove, separated by commas</source>
         <translation>Trefwoorden die worden verwijderd, gescheiden door komma’s</translation>
     </message>
     <message>
@@ -12849,7 +12849,7 @@
         <translation>Tijdzone: schrijf +02:00.</translation>
     </message>
     <message>
-        <source>A date taken that is set is not shifted: write its time zone behind it.</source>
+        <source>A date taken that you set is not shifted: add its time zone at the end.</source>
         <translation>Een ingestelde opnamedatum wordt niet verschoven: schrijf de tijdzone erachter.</translation>
     </message>
     <message>

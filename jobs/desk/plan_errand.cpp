@@ -81,7 +81,8 @@ PlannedMessage planNow(const std::shared_ptr<const SharedRecipe> &recipe, const 
     const auto errand =
         std::make_shared<PlanErrand>(recipe, picture, [&answer](const PlannedMessage &planned) { answer = planned; });
     if (!desk.finish(desk.add(errand, Urgency::Now)))
-        return problemOnly(image::sentence(QT_TRANSLATE_NOOP("recipe", "reading it was given up")));
+        return problemOnly(
+            image::sentence(QT_TRANSLATE_NOOP("recipe", "reading was stopped because it took too long")));
     return answer;
 }
 

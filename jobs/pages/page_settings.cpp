@@ -92,7 +92,7 @@ QSizeF paperFrom(Fields &fields)
     QSizeF size = papers().front().millimetres;
     if (word == QLatin1String("custom")) {
         const QString sentence =
-            words(QT_TRANSLATE_NOOP("pages", "Enter a width and a height of the paper from 20 to 2000 mm."));
+            words(QT_TRANSLATE_NOOP("pages", "Enter a paper width and height from 20 to 2000 mm."));
         size = {fields.number("paperWidth", size.width(), {leastMillimetres, mostMillimetres}, sentence),
                 fields.number("paperHeight", size.height(), {leastMillimetres, mostMillimetres}, sentence)};
     } else if (!word.isEmpty()) {
@@ -116,7 +116,7 @@ void readPlaces(Fields &fields, PageSettings &settings)
                         fields.millimetres("marginRight", settings.margins.right(), margins),
                         fields.millimetres("marginBottom", settings.margins.bottom(), margins)};
     settings.gap = fields.millimetres("gap", settings.gap, words(QT_TRANSLATE_NOOP("pages", "Enter a gap from 0 mm.")));
-    const QString places = words(QT_TRANSLATE_NOOP("pages", "Enter from 1 to 20 rows and columns."));
+    const QString places = words(QT_TRANSLATE_NOOP("pages", "Enter 1 to 20 rows and columns."));
     settings.rows = fields.whole("rows", settings.rows, {1, mostPlaces}, places);
     settings.columns = fields.whole("columns", settings.columns, {1, mostPlaces}, places);
     settings.fit = PageFit(fields.choice("fit", {"fit", "fill", "size"}));
@@ -143,7 +143,7 @@ QString patternFrom(Fields &fields, const char *key, bool isOfPage)
 
 void readTexts(Fields &fields, PageSettings &settings)
 {
-    const QString sizes = words(QT_TRANSLATE_NOOP("pages", "Enter sizes of texts from 3 to 72 points."));
+    const QString sizes = words(QT_TRANSLATE_NOOP("pages", "Enter text sizes from 3 to 72 points."));
     settings.caption = patternFrom(fields, "caption", false);
     settings.captionSize = fields.number("captionSize", settings.captionSize, {leastText, mostText}, sizes);
     settings.header = {patternFrom(fields, "header", true), sideFrom(fields, "headerSide")};

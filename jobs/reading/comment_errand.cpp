@@ -58,7 +58,7 @@ QString writeCommentNow(const QString &path, const QString &comment)
     const auto errand =
         std::make_shared<CommentErrand>(path, comment, [&answer](const QString &problem) { answer = problem; });
     if (!desk.finish(desk.add(errand, Urgency::Now)))
-        return image::sentence(QT_TRANSLATE_NOOP("recipe", "writing it was given up"));
+        return image::sentence(QT_TRANSLATE_NOOP("recipe", "writing was stopped because it took too long"));
     return answer;
 }
 

@@ -21,7 +21,7 @@ QString key(const char *name)
 
 QString changedSince(const QString &path)
 {
-    return QCoreApplication::translate("jobs", "%1 was changed since.").arg(path);
+    return QCoreApplication::translate("jobs", "%1 has been changed since.").arg(path);
 }
 
 } // namespace

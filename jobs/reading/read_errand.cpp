@@ -118,7 +118,7 @@ ReadResult readNow(const ReadRequest &request, WorkerDesk &desk)
     ReadResult result;
     const auto errand = std::make_shared<ReadErrand>(soon, [&result](const ReadResult &said) { result = said; });
     if (!desk.finish(desk.add(errand, Urgency::Now))) {
-        result.problem = image::sentence(QT_TRANSLATE_NOOP("recipe", "reading it was given up"));
+        result.problem = image::sentence(QT_TRANSLATE_NOOP("recipe", "reading was stopped because it took too long"));
         result.isReaderGone = true;
     }
     errand->abandon();

@@ -228,7 +228,7 @@ Result<Node> rootOf(const QByteArray &file)
     Node owner(root);
     if (!root || plist_get_node_type(root) != PLIST_DICT)
         return failure(ErrorCode::Unreadable,
-                       QCoreApplication::translate("platform", "This is no property list with a dictionary"));
+                       QCoreApplication::translate("platform", "This is not a property list with a dictionary"));
     return owner;
 }
 
@@ -264,7 +264,7 @@ Result<QByteArray> withPropertyListValue(const QByteArray &file, const QString &
         return tl::make_unexpected(root.error());
     const auto refused = [&key] {
         return failure(ErrorCode::InvalidValue,
-                       QCoreApplication::translate("platform", "A property list cannot hold this under %1").arg(key));
+                       QCoreApplication::translate("platform", "A property list cannot hold the value of %1").arg(key));
     };
     const QByteArray name = key.toUtf8();
     Node item = value.isValid() ? nodeFor(value, 0) : nullptr;

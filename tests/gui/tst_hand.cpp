@@ -152,9 +152,9 @@ private Q_SLOTS:
         QTest::addColumn<QString>("said");
         QTest::addColumn<bool>("stays");
         QTest::addColumn<bool>("isLink");
-        QTest::newRow("move") << int(Qt::Key_1) << QStringLiteral("Keys move pictures now.") << false << false;
-        QTest::newRow("copy") << int(Qt::Key_2) << QStringLiteral("Keys copy pictures now.") << true << false;
-        QTest::newRow("link") << int(Qt::Key_3) << QStringLiteral("Keys link pictures now.") << true << true;
+        QTest::newRow("move") << int(Qt::Key_1) << QStringLiteral("Keys now move pictures.") << false << false;
+        QTest::newRow("copy") << int(Qt::Key_2) << QStringLiteral("Keys now copy pictures.") << true << false;
+        QTest::newRow("link") << int(Qt::Key_3) << QStringLiteral("Keys now link pictures.") << true << true;
     }
 
     void altAndADigitChooseWhatTheKeysDo()

@@ -95,8 +95,7 @@ QString spoken(const QVariantMap &folder)
     const int total = folder.value(QStringLiteral("total")).toInt();
     const QString files = FolderTree::tr("%Ln files", nullptr, total);
     const bool isNew = folder.value(QStringLiteral("isNew")).toBool();
-    const QString sentence =
-        isNew ? FolderTree::tr("%1, new folder, %2") : FolderTree::tr("%1, folder that exists, %2");
+    const QString sentence = isNew ? FolderTree::tr("%1, new folder, %2") : FolderTree::tr("%1, existing folder, %2");
     return sentence.arg(folder.value(QStringLiteral("name")).toString(), files);
 }
 

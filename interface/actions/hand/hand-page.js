@@ -178,8 +178,8 @@ export class HandPage {
     // What the keys of the folders do from now on; said, since nobody looks at the pane while working by keys.
     chooseMode(mode) {
         this.window.pane.chooseMode(mode);
-        const words = { move: qsTr("Keys move pictures now."), copy: qsTr("Keys copy pictures now."),
-                        link: qsTr("Keys link pictures now.") };
+        const words = { move: qsTr("Keys now move pictures."), copy: qsTr("Keys now copy pictures."),
+                        link: qsTr("Keys now link pictures.") };
         this.window.sayBeside(words[mode]);
     }
 

@@ -48,7 +48,7 @@ export class LogFields {
         });
         if (answer.button === 0) {
             const problem = forgetValues(files, run);
-            this.page.window.sayBeside(problem || qsTr("The old values are deleted."));
+            this.page.window.sayBeside(problem || qsTr("The old values were deleted."));
             this.page.showRun();
         }
     }

@@ -201,7 +201,7 @@ function dateMessages(settings) {
         messages.push(qsTr("Time zone: write it as +02:00."));
     }
     if (date !== "" && (shift !== "" || zone !== "")) {
-        messages.push(qsTr("A date taken that is set is not shifted: write its time zone behind it."));
+        messages.push(qsTr("A date taken that you set is not shifted: add its time zone at the end."));
     }
     return messages;
 }

@@ -318,7 +318,7 @@ export class MetadataPage {
         this.form.control("metaPlace").text = fill(qsTr("%1 of %2"), this.list.currentPlace, this.list.count);
         const found = qsTr("%n properties", "", this.tree.shownCount);
         const differ = this.together.length > 1
-            ? fill(qsTr("%n pictures, ≠ %1 properties", "", this.together.length), this.tree.differenceCount()) : "";
+            ? fill(qsTr("%n pictures, differences: %1", "", this.together.length), this.tree.differenceCount()) : "";
         this.form.control("metaFound").text = this.form.control("metaSearch").text.trim() === "" ? differ : found;
     }
 

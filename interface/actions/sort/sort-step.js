@@ -79,7 +79,7 @@ function rowFor(path, index, settings, context) {
     const folder = splitPath(path).folder;
     if (settings.destination.kind === "beside" && endsWithFolders(folder, sorted.folders)) {
         return row({ to: path, kind: settings.kind, shown: sorted.folders.join("/"),
-                     notes: [qsTr("It is already in such a folder.")] });
+                     notes: [qsTr("It is already in a folder with the right name.")] });
     }
     const node = context.book.place(base, sorted.folders);
     const made = wish(path, node, sorted, settings, context);

@@ -174,7 +174,7 @@ export class PageFolder {
     put(name, replaced) {
         const put = this.services.files.place(joinPath(this.folder, name), joinPath(this.target, name), replaced);
         if (put.status === "Taken") {
-            return fill(qsTr("Something else is at %1 now."), joinPath(this.target, name));
+            return fill(qsTr("Something else is now at %1."), joinPath(this.target, name));
         }
         return put.status === "OK" ? "" : put.message;
     }

@@ -52,7 +52,7 @@ export class WebPreview {
             }
             const pictures = yield* this.made(folder, paths, settings);
             if (pictures.length === 0) {
-                return { problem: qsTr("no picture could be made"), path: "" };
+                return { problem: qsTr("no picture could be processed"), path: "" };
             }
             const ended = yield* finishPage(folder, pictures, settings, this.services, program.language);
             return ended;

@@ -21,7 +21,7 @@ export function revertFieldsWords(files, run, chosen) {
     if (bytes === 0) {
         return chosen.process !== qsTr("Metadata") || chosen.areEdits ? null
             : { can: false, button: qsTr("Revert This Run"), isRedo: false,
-                note: qsTr("No old values are kept of this run.") };
+                note: qsTr("No old values of this run are kept.") };
     }
     const left = valuesOf(files, run).length;
     const size = fill(qsTr("Old values: %1."), files.byteText(bytes));

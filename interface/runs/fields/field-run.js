@@ -111,7 +111,7 @@ export class FieldRun extends BaseRun {
         const answer = shell.ask({
             title: qsTr("Write metadata"), text: qsTr("Write metadata into %n pictures?", "", ready),
             detail: [qsTr("This changes the metadata inside your originals. Their pictures are not touched.")]
-                .concat(beside > 0 ? [qsTr("%n of them get it in a sidecar file beside them.", "", beside)] : [])
+                .concat(beside > 0 ? [qsTr("For %n of them, it is written into a sidecar file.", "", beside)] : [])
                 .concat(disputed.length > 0 ? [qsTr("EXIF, IPTC and XMP disagree:")].concat(named) : [])
                 .concat(rest > 0 ? [qsTr("%n more pictures: see their rows in the list.", "", rest)] : []).join("\n"),
             check: "", initial: 0, escape: 1, buttons: [qsTr("Write"), qsTr("Cancel")],
@@ -149,7 +149,7 @@ export class FieldRun extends BaseRun {
         if (said.problem !== "") {
             Object.assign(result, { status: "Failed", reason: said.problem });
         } else if (!said.changed) {
-            Object.assign(result, { status: "Skipped", reason: qsTr("it says so already") });
+            Object.assign(result, { status: "Skipped", reason: qsTr("already has these values") });
         } else {
             result.reason = said.file === item.path ? "" : fill(qsTr("in %1"), result.name);
             this.keep(item, said);

@@ -19,7 +19,7 @@ function startText(window) {
 
 function startNote(window) {
     const planned = window.planned;
-    const parts = planned.disputed > 0 ? [qsTr("%n disagree with themselves", "", planned.disputed)] : [];
+    const parts = planned.disputed > 0 ? [qsTr("%n with conflicting values", "", planned.disputed)] : [];
     return parts.concat(planned.beside > 0 ? [qsTr("%n sidecar files", "", planned.beside)] : [])
         .concat(changesFiles(window) ? [qsTr("originals are changed, can be reverted")] : []).join(" · ");
 }

@@ -128,7 +128,7 @@ export class SiteRun extends RecipeRun {
         const made = this.made.map((result) => result.outputs);
         const pictures = picturesOf(this.items, made, this.folder.folder);
         if (pictures.length === 0) {
-            return { problem: qsTr("no picture could be made"), path: "" };
+            return { problem: qsTr("no picture could be processed"), path: "" };
         }
         const window = this.window;
         const ended =

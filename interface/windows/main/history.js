@@ -37,7 +37,7 @@ function newestRun() {
 function mayUndoEarlier(run) {
     const answer = shell.ask({
         title: qsTr("Undo an earlier run"),
-        text: fill(qsTr("%1 of %n files belongs to an earlier session. Undo it?", "", run.done),
+        text: fill(qsTr("%1 (%n files) belongs to an earlier session. Undo it?", "", run.done),
                    run.title),
         detail: files.dateText(run.date), check: "", initial: 1, escape: 1,
         buttons: [qsTr("Undo It"), qsTr("Leave It")],

@@ -39,7 +39,7 @@ function addedText(found, added, words) {
         parts.push(words.leftOut(found));
     }
     if (found.filtered > 0) {
-        parts.push(qsTr("%n do not fit the filter", "", found.filtered));
+        parts.push(qsTr("%n do not match the filter", "", found.filtered));
     }
     return parts.length > 0 ? parts.join(" · ") : words.nothing();
 }

@@ -8,7 +8,7 @@ namespace platform {
 
 using Splices = Result<QList<Splice>>;
 
-/** "its metadata is damaged", and "there is no room for so much metadata". */
+/** "its metadata is damaged", and "there is not enough room for the metadata". */
 tl::unexpected<Error> damagedMetadata();
 tl::unexpected<Error> tooMuchMetadata();
 

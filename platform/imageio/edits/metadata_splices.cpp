@@ -72,7 +72,7 @@ tl::unexpected<Error> damagedMetadata()
 tl::unexpected<Error> tooMuchMetadata()
 {
     return failure(ErrorCode::TooLarge,
-                   QCoreApplication::translate("platform", "there is no room for so much metadata"));
+                   QCoreApplication::translate("platform", "there is not enough room for the metadata"));
 }
 
 bool changesInPlace(Content content, const QByteArray &bytes)

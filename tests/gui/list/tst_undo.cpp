@@ -155,8 +155,7 @@ void TestUndo::aRunOfAnEarlierStartIsUndoneAfterAQuestion()
             m_driver->trigger(undo);
         else
             m_driver->click(undo);
-        QVERIFY2(asked.startsWith(QStringLiteral("Rename of 3 files belongs to an earlier session")),
-                 qPrintable(asked));
+        QVERIFY2(asked.startsWith(QStringLiteral("Rename (3 files) belongs to an earlier session")), qPrintable(asked));
         QVERIFY2(asked.contains(QString::number(QDate::currentDate().year())), qPrintable(asked));
         QTest::qWait(100);
         QCOMPARE(onDisk(), m_new);

@@ -350,7 +350,7 @@ void MetadataForm::forgetsOldValuesForGood()
     m_driver->click("logForget");
     QVERIFY(keptFiles().isEmpty());
     QVERIFY(!button("logForget")->isVisible());
-    QCOMPARE(m_driver->text("logRunNote"), QStringLiteral("No old values are kept of this run."));
+    QCOMPARE(m_driver->text("logRunNote"), QStringLiteral("No old values of this run are kept."));
     QVERIFY(!button("logUndo")->isEnabled());
     // The log itself says which fields were written, and not what they said.
     const QByteArray log = pictures::bytesOf(m_driver->folder() + QStringLiteral("/.local/share/quorlin/log.jsonl"));

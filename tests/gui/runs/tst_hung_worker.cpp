@@ -91,7 +91,8 @@ void HungWorker::givesUpWhatIsReadWhenAsked()
     QVariantMap comment;
     whileStopped([&] { comment = m_files.readComment(m_picture); },
                  [] { note()->findChild<QPushButton *>(QStringLiteral("longWaitStop"))->click(); });
-    QCOMPARE(comment.value(QStringLiteral("problem")).toString(), QStringLiteral("reading it was given up"));
+    QCOMPARE(comment.value(QStringLiteral("problem")).toString(),
+             QStringLiteral("reading was stopped because it took too long"));
     // Another worker answers the next question.
     QCOMPARE(m_files.readComment(m_picture).value(QStringLiteral("problem")).toString(), QString());
 }
@@ -104,7 +105,7 @@ void HungWorker::givesUpWhatIsWrittenWhenAsked()
     QString problem;
     whileStopped([&] { problem = m_files.writeComment(m_picture, QStringLiteral("a word")); },
                  [] { QTest::keyClick(note(), Qt::Key_Escape); });
-    QCOMPARE(problem, QStringLiteral("writing it was given up"));
+    QCOMPARE(problem, QStringLiteral("writing was stopped because it took too long"));
     QVERIFY(file.seek(0));
     QCOMPARE(file.readAll(), before);
     QCOMPARE(m_files.writeComment(m_picture, QStringLiteral("a word")), QString());

@@ -21,7 +21,7 @@ test("saysHowManyPagesThereAre", () => {
 
 test("saysWhatIsWrong", () => {
     equal(contact.validate(settings({})), []);
-    equal(contact.validate(settings({ columns: 21 })), ["Enter from 1 to 20 rows and columns."]);
+    equal(contact.validate(settings({ columns: 21 })), ["Enter 1 to 20 rows and columns."]);
     isTrue(contact.validate(settings({ header: "{nothing}" }))[0].indexOf("{nothing}") >= 0);
     equal(contact.validate(settings({ header: "{page}" })), []);
     equal(contact.validate(settings({ caption: "{page}" })).length, 1);

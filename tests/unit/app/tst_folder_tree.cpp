@@ -68,7 +68,7 @@ private Q_SLOTS:
             return itemNamed(tree, name)->data(0, Qt::AccessibleTextRole).toString();
         };
         QCOMPARE(spoken("10"), QStringLiteral("10, new folder, 2 files"));
-        QCOMPARE(spoken("2"), QStringLiteral("2, folder that exists, 4 files"));
+        QCOMPARE(spoken("2"), QStringLiteral("2, existing folder, 4 files"));
         QCOMPARE(spoken("b"), QStringLiteral("b, new folder, 1 file"));
     }
 

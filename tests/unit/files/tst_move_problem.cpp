@@ -54,7 +54,7 @@ void TestMoveProblem::saysWhatIsWrongWithAName_data()
         {MoveProblem::Taken, "The name a.jpg is already in use"},
         {MoveProblem::Gone, "a.jpg no longer exists"},
         {MoveProblem::TooLong, "The name a.jpg is too long for this disk"},
-        {MoveProblem::Leader, "a.jpg, which it belongs to, keeps its name"},
+        {MoveProblem::Leader, "a.jpg keeps its name, and so does its sidecar file"},
         {MoveProblem::Damaged, "a.jpg could not be copied correctly"},
         {MoveProblem::Other, "a.jpg could not be copied correctly"},
     };
