@@ -88,6 +88,12 @@ private:
             done(record, record.item.operation == Operation::RemoveLink ? QString() : record.item.to);
     }
 
+    /** Unfinished files are named through a folder that their process has open: what they were goes with it, and is made again. */
+    static bool isOfUnfinished(const MoveRecord &record)
+    {
+        return record.item.operation == Operation::Copy && record.item.from.startsWith(QStringLiteral("/proc/self/"));
+    }
+
     /** A copy that never got its name goes, if what it was made from is still there; else it is the last that is left. */
     void removePart(int index, MoveRecord &record)
     {
@@ -102,7 +108,8 @@ private:
                 continue;
             const bool hasSource = std::any_of(sources.begin(), sources.end(),
                                                [&](const QString &source) { return isSource(source, place, record); });
-            if (hasSource || (record.stand == Stand::Done && m_disk.look(m_now(record.path, index))))
+            if (hasSource || isOfUnfinished(record) ||
+                (record.stand == Stand::Done && m_disk.look(m_now(record.path, index))))
                 (void)m_disk.discard(place);
             else
                 nameLastCopy(record, place);

@@ -54,7 +54,7 @@ void KilledWindow::initTestCase()
     m_rows = home.logRows();
     QCOMPARE(m_rows.size(), pictureCount);
     QCOMPARE(home.records(), QStringList());
-    m_runMs = ended.startedMs;
+    m_runMs = ended.workMs;
     m_calls = ended.line("calls ").toInt();
     QVERIFY(m_calls > 3 * pictureCount);
     qInfo("a run takes %d ms and changes the disk %d times", m_runMs, m_calls);
@@ -109,7 +109,9 @@ void KilledWindow::goesOnAfterAnyMoment()
         if (QTest::currentTestFailed())
             return;
     }
-    QVERIFY2(m_asked > rounds / 4, qPrintable(QStringLiteral("asked in %1 of %2 rounds").arg(m_asked).arg(rounds)));
+    constexpr int enough = 20; // for chance to be ruled out
+    QVERIFY2(rounds < enough || m_asked > rounds / 4,
+             qPrintable(QStringLiteral("asked in %1 of %2 rounds").arg(m_asked).arg(rounds)));
 }
 
 /** Moments that are too short to be met by chance: between two changes of the disk. */

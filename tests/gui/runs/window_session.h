@@ -126,7 +126,7 @@ struct Ended
 {
     bool isKilled = false;
     QStringList said;
-    int startedMs = 0; ///< how long it went on since it has begun its work
+    int workMs = 0; ///< how long its work took
 
     QString line(const char *begin) const
     {
@@ -172,6 +172,8 @@ public:
                     ended.said.append(QString::fromUtf8(line));
             if (!since.isValid() && ended.said.contains(QStringLiteral("started")))
                 since.start();
+            if (ended.workMs == 0 && ended.has("summary "))
+                ended.workMs = int(since.elapsed());
         };
         constexpr int mostMs = 120'000;
         QElapsedTimer whole;
@@ -186,7 +188,6 @@ public:
         }
         process.waitForFinished(1000);
         take();
-        ended.startedMs = since.isValid() ? int(since.elapsed()) : 0;
         ended.isKilled = process.exitStatus() == QProcess::CrashExit;
         return ended;
     }
