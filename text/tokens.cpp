@@ -40,7 +40,7 @@ QString formHint(const TokenRow &row, const QString &form)
     case TokenForms::Counter:
         return QCoreApplication::translate("text", "“%1” is not a valid start number").arg(form);
     case TokenForms::Name:
-        return QCoreApplication::translate("text", "“%1” does not select part of a name. Use a number of characters, "
+        return QCoreApplication::translate("text", "“%1” does not select part of a name; use a number of characters, "
                                                    "“word”, or “~” and words separated by commas")
             .arg(form);
     case TokenForms::Size:

@@ -29,7 +29,7 @@ SEARCHED = re.compile(r"^(step|recipe)-words: [a-z0-9 -]+$")
 LONGEST = 120
 # Sentences that may be longer: each names what it would lose by being shorter.
 LONG = {
-    "“%1” does not select part of a name. Use a number of characters, “word”, or “~” and words separated by commas",
+    "“%1” does not select part of a name; use a number of characters, “word”, or “~” and words separated by commas",
 }
 # Texts that others rely on to the letter, with their places.
 EXEMPT = {

@@ -7991,7 +7991,7 @@
     </message>
     <message>
         <source>it applies only with a rectangle</source>
-        <translation>es gilt nur mit einem Rechteck</translation>
+        <translation>dies gilt nur mit einem Rechteck</translation>
     </message>
     <message>
         <source>there is no picture "%1"</source>
@@ -8007,7 +8007,7 @@
     </message>
     <message>
         <source>it applies only with a text</source>
-        <translation>es gilt nur mit einem Text</translation>
+        <translation>dies gilt nur mit einem Text</translation>
     </message>
     <message>
         <source>sRGB, Display P3, Adobe RGB, gray or the path of an ICC file, not "%1"</source>
@@ -10589,8 +10589,8 @@
         <translation>„%1“ ist keine gültige Startzahl</translation>
     </message>
     <message>
-        <source>“%1” does not select part of a name. Use a number of characters, “word”, or “~” and words separated by commas</source>
-        <translation>„%1“ wählt keinen Teil eines Namens aus. Verwenden Sie eine Anzahl Zeichen, „word“ oder „~“ und Wörter mit Kommas dazwischen</translation>
+        <source>“%1” does not select part of a name; use a number of characters, “word”, or “~” and words separated by commas</source>
+        <translation>„%1“ wählt keinen Teil eines Namens aus; verwenden Sie eine Anzahl Zeichen, „word“ oder „~“ und Wörter mit Kommas dazwischen</translation>
     </message>
     <message>
         <source>“%1” is not a valid size format; use “class” or “MB”</source>

@@ -5296,7 +5296,7 @@
     </message>
     <message>
         <source>a sidecar file cannot be moved: its name is in use by %1</source>
-        <translation>un fichier annexe ne peut pas être déplacé : %1 utilise son nom</translation>
+        <translation>un fichier annexe ne peut pas être déplacé : son nom est utilisé par %1</translation>
     </message>
     <message>
         <source>a sidecar file cannot be moved</source>
@@ -10589,8 +10589,8 @@
         <translation>« %1 » n’est pas un numéro de départ valide</translation>
     </message>
     <message>
-        <source>“%1” does not select part of a name. Use a number of characters, “word”, or “~” and words separated by commas</source>
-        <translation>« %1 » ne sélectionne aucune partie d’un nom. Utilisez un nombre de caractères, « word », ou « ~ » et des mots séparés par des virgules</translation>
+        <source>“%1” does not select part of a name; use a number of characters, “word”, or “~” and words separated by commas</source>
+        <translation>« %1 » ne sélectionne aucune partie d’un nom&#x202f;; utilisez un nombre de caractères, « word », ou « ~ » et des mots séparés par des virgules</translation>
     </message>
     <message>
         <source>“%1” is not a valid size format; use “class” or “MB”</source>

@@ -1893,7 +1893,7 @@
     </message>
     <message>
         <source>Copy the selected value or branch (Ctrl+C in the tree), or where the picture was taken</source>
-        <translation>De geselecteerde waarde of tak kopiëren (Ctrl+C in de boom), of de locatie van de foto</translation>
+        <translation>De geselecteerde waarde of tak kopiëren (Ctrl+C in de boom), of de plaats van opname</translation>
     </message>
     <message>
         <source>Properties of the picture</source>
@@ -10589,8 +10589,8 @@
         <translation>“%1” is geen geldig startnummer</translation>
     </message>
     <message>
-        <source>“%1” does not select part of a name. Use a number of characters, “word”, or “~” and words separated by commas</source>
-        <translation>“%1” selecteert geen deel van een naam. Gebruik een aantal tekens, “word”, of “~” en woorden met komma’s ertussen</translation>
+        <source>“%1” does not select part of a name; use a number of characters, “word”, or “~” and words separated by commas</source>
+        <translation>“%1” selecteert geen deel van een naam; gebruik een aantal tekens, “word”, of “~” en woorden met komma’s ertussen</translation>
     </message>
     <message>
         <source>“%1” is not a valid size format; use “class” or “MB”</source>
