@@ -411,7 +411,7 @@
     </message>
     <message>
         <source>Header size</source>
-        <translation>Kopfgröße</translation>
+        <translation>Größe Kopfzeile</translation>
     </message>
     <message>
         <source>Text size of the header and footer</source>

@@ -748,7 +748,7 @@
     </message>
     <message>
         <source>Link with Keys</source>
-        <translation>Koppelen met toetsen</translation>
+        <translation>Linken met toetsen</translation>
     </message>
     <message>
         <source>Actual pixels</source>
@@ -1040,7 +1040,7 @@
     </message>
     <message>
         <source>Where the page is saved</source>
-        <translation>Waar de pagina wordt opgeslagen</translation>
+        <translation>Waar de pagina wordt bewaard</translation>
     </message>
     <message>
         <source>Folder</source>
@@ -11152,7 +11152,7 @@
     </message>
     <message>
         <source>The saved page differs from what was written.</source>
-        <translation>De opgeslagen pagina wijkt af van wat is geschreven.</translation>
+        <translation>De bewaarde pagina wijkt af van wat is geschreven.</translation>
     </message>
     <message>
         <source>%1 cannot be read.</source>
