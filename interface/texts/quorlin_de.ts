@@ -1981,7 +1981,7 @@
     </message>
     <message>
         <source>Edit Fields…</source>
-        <translation>Felder bearbeiten…</translation>
+        <translation>Felder bearbeiten …</translation>
     </message>
     <message>
         <source>Write titles, keywords, copyright and other fields of many pictures</source>
@@ -12611,7 +12611,7 @@
     </message>
     <message>
         <source>Properties and Comments…</source>
-        <translation>Eigenschaften und Kommentare…</translation>
+        <translation>Eigenschaften und Kommentare …</translation>
     </message>
     <message>
         <source>Show all properties of the current picture, and write comments</source>
@@ -12631,7 +12631,7 @@
     </message>
     <message>
         <source>Insert Value…</source>
-        <translation>Wert einfügen…</translation>
+        <translation>Wert einfügen …</translation>
     </message>
     <message>
         <source>Insert a value that differs from picture to picture, such as the date</source>
@@ -12765,15 +12765,15 @@
     </message>
     <message>
         <source>Import…</source>
-        <translation>Importieren…</translation>
+        <translation>Importieren …</translation>
     </message>
     <message>
         <source>Export…</source>
-        <translation>Exportieren…</translation>
+        <translation>Exportieren …</translation>
     </message>
     <message>
         <source>Clear List…</source>
-        <translation>Liste leeren…</translation>
+        <translation>Liste leeren …</translation>
     </message>
     <message>
         <source>Import keywords</source>
