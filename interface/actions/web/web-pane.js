@@ -131,7 +131,8 @@ export class WebPane extends Pane {
     openPreview() {
         const paths = this.window.list.tickedPaths();
         if (this.step.validate(this.settings).length > 0 || paths.length === 0) {
-            this.window.sayBeside(paths.length === 0 ? qsTr("Add pictures first.") : qsTr("Correct the settings first."));
+            this.window.sayBeside(paths.length === 0
+                                  ? qsTr("Add pictures first.") : qsTr("Correct the settings first."));
             return;
         }
         this.preview.open(paths, JSON.parse(JSON.stringify(this.settings)));

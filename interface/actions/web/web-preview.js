@@ -87,7 +87,8 @@ export class WebPreview {
         if (made.path === "") {
             this.told(made.problem);
         } else {
-            this.told(shell.openFile(joinPath(made.path, PAGE)) ? "" : qsTr("The page could not be opened in a browser."));
+            const isOpen = shell.openFile(joinPath(made.path, PAGE));
+            this.told(isOpen ? "" : qsTr("The page could not be opened in a browser."));
         }
     }
 }
