@@ -126,7 +126,7 @@ public:
 
     /**
      * A copy with left and right in each other's places, in the source's own type and under its own name behind
-     * @p prefix. The stored pixels are turned; the orientation tag goes along. Null where there is no image.
+     * @p prefix. The stored pixels are turned; the orientation tag is kept. Null where there is no image.
      */
     Q_INVOKABLE QString hFlipHorizontalPicture(const QString &path, const QString &prefix);
 

@@ -19,7 +19,7 @@ struct Turning
 };
 
 /**
- * Writes image 0 of a file, turned as stored, to a new file; the orientation tag is not obeyed and goes along.
+ * Writes image 0 of a file, turned as stored, to a new file; the orientation tag is not obeyed and is kept.
  *
  * @param sourcePath  absolute; may be @p targetPath, which then is replaced
  * @param targetPath  absolute, extension included; the folder must exist

@@ -109,7 +109,7 @@ declare module "quorlin" {
         alphaValue: double;
         /** Whether the menu bar of the application is to be seen. */
         readonly menuBarVisible: boolean;
-        /** Starts anew with this frame, in the normal state; answers the window itself. */
+        /** Starts again with this frame, in the normal state; answers the window itself. */
         initWithContentRect(
             rect: rectangle, styleMask: unsigned, backing: unsigned, defer: flag): ZtFFullScreen | null;
         /** Always true. */
@@ -568,7 +568,7 @@ declare module "quorlin" {
         hGetPixelFormat(path: text): texts;
         /** "OK" whenever the file is a picture, else "Failed"; what could not be written is as it was. */
         hSetExifData(path: text, comment: text): text;
-        /** Writes the comment field's text into the file of the path field, shows it anew and logs it. */
+        /** Writes the comment field's text into the file of the path field, shows it again and logs it. */
         btApplyExifUserComment(sender: sender): null;
     }
 
@@ -692,7 +692,7 @@ declare module "quorlin" {
         setImageWithPath(path: text): null;
         /** The same, opened twice, so that pImage and pImageOrig share nothing. */
         setImageWithPath2(path: text): null;
-        /** Stores the image in pImage and keeps pImageOrig, of which the picture shown is made anew. */
+        /** Stores the image in pImage and keeps pImageOrig, of which the picture shown is made again. */
         setImage(image: Picture | null): null;
         /** Opens the path, and shows pImageOrig all the same. */
         setImageCropPreview(path: text, unused: sender): null;
@@ -1515,7 +1515,7 @@ declare module "quorlin/moves" {
         to: string;
         /** Where `to` is taken, it gets a number: "name (2).jpg". */
         number?: boolean;
-        /** The index of the wish that this one goes along with. */
+        /** The index of the wish that this one moves with. */
         leader?: whole;
     }
 

@@ -28,7 +28,7 @@ QString placeBelowRoot(const Input &input);
 
 /**
  * The pictures of a batch, one after the other: of files and folders in the order in which they are named, then of names that are
- * still to come. A folder gives all below it but links, as files::collectFiles() has it, when its turn comes; those that are named
+ * still to come. A folder gives all below it but links, as files::collectFiles() has it, when it is reached; those that are named
  * from the start are walked before anything is written. A picture that is named twice, under whatever path, counts where it comes first.
  *
  * What was taken is not kept; some 50 bytes a picture are, in few blocks, so that the millionth costs what the first did.

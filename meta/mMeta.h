@@ -59,7 +59,7 @@ public:
      */
     Q_INVOKABLE QString hSetExifData(const QString &path, const QString &comment);
 
-    /** Writes the comment field's text into the file of the path field, shows it anew, and appends a row to the log. */
+    /** Writes the comment field's text into the file of the path field, shows it again, and appends a row to the log. */
     Q_INVOKABLE void btApplyExifUserComment(platform::Sender sender);
 
 private:

@@ -11,7 +11,7 @@
 /**
  * The user's presets: one database file, its tables, and what scripts read from it and write to it.
  *
- * Every operation that needs the file opens it anew and, as a rule, closes it before it returns; the ones that do not say so.
+ * Every operation that needs the file opens it again and, as a rule, closes it before it returns; the ones that do not say so.
  * An object keeps its last results in its fields and answers with them when there is no new one. Main thread only.
  *
  * Names and values are pasted into statements as they stand. A value with a single quote or a NUL makes its statement invalid,

@@ -25,7 +25,7 @@ class Guard
 public:
     /** From now on @p statement is the one that is meant. */
     void expect(const Statement &statement);
-    /** Compiling is over. When the database compiles anew by itself, it may ask the same again. */
+    /** Compiling is over. When the database recompiles by itself, it may ask the same again. */
     void endCompiling() { m_isCompiling = false; }
 
     bool allows(const Access &access);

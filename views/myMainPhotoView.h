@@ -7,7 +7,7 @@
 /**
  * The view of the current picture, fitted whole into the view or filling it.
  *
- * The picture as loaded stays as it is; what is shown is made of it anew when the size or the mode changes. The size of
+ * The picture as loaded stays as it is; what is shown is made of it again when the size or the mode changes. The size of
  * the view is kept in the user defaults as "myBounds". Fields without a comment are kept for scripts only.
  */
 class myMainPhotoView : public views::PhotoView
@@ -32,7 +32,7 @@ public:
     Q_INVOKABLE void setImageWithPath(const QString &path);
     /** The same, opened twice, so that pImage and pImageOrig share nothing. */
     Q_INVOKABLE void setImageWithPath2(const QString &path);
-    /** Stores @p image in pImage and keeps pImageOrig, of which the picture shown is made anew. */
+    /** Stores @p image in pImage and keeps pImageOrig, of which the picture shown is made again. */
     Q_INVOKABLE void setImage(const platform::Picture &image);
     /** Opens @p path, and shows pImageOrig all the same. */
     Q_INVOKABLE void setImageCropPreview(const QString &path, platform::Sender unused);

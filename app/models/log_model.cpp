@@ -49,7 +49,7 @@ template<typename Key> void sortBy(std::vector<int> &places, Qt::SortOrder order
     std::transform(keyed.cbegin(), keyed.cend(), places.begin(), [](const auto &entry) { return entry.second; });
 }
 
-/** The place that each text of a pool has among all of them. */
+/** Maps each pooled text to its rank in sort order. */
 std::vector<int> ranks(const TextPool &pool)
 {
     const QCollator collator = platform::naturalOrder();

@@ -257,7 +257,7 @@ platform::Result<std::shared_ptr<const jobs::SharedRecipe>> PageWork::recipeFor(
 void PageWork::make()
 {
     constexpr int ahead = 2; // so that a worker goes on while this process still writes its last picture
-    // One picture is written, or one handed over, and then others have their turn.
+    // One picture is written, or one handed over, and then others can go on.
     const auto ready =
         std::find_if(m_made.begin(), m_made.end(), [this](const auto &made) { return m_given.count(made.first) == 0; });
     if (ready != m_made.end()) {

@@ -16,7 +16,7 @@
 namespace script {
 namespace {
 
-/** The collector does not see native pixels: it is called after so many bytes of them, or so many values that may hold some. */
+/** The garbage collector cannot see native pixel memory, so we trigger it after this many bytes or values. */
 constexpr qint64 bytesBetweenCollections = 96'000'000;
 constexpr int valuesBetweenCollections = 64;
 

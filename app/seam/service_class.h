@@ -121,7 +121,7 @@ struct ServiceEntry
     bool offersSignals = false;
     /** Whether a text that it answers may be nothing; otherwise it is empty then. */
     bool answersNullTexts = true;
-    /** A number that is none, or has no end, is a TypeError. */
+    /** A number that is NaN or infinite is a TypeError. */
     bool takesFiniteNumbersOnly = false;
     /** Scripts get the same facade each time, as long as the object lives. */
     bool hasOneFacade = false;

@@ -28,7 +28,7 @@ class ZtFFullScreen : public QObject
 
 public:
     /**
-     * Starts anew with @p rect as the frame and as the frame to go back to, in the normal state; answers the window
+     * Starts again with @p rect as the frame and as the frame to go back to, in the normal state; answers the window
      * itself. The other arguments are those of a window of the desktop and change nothing here.
      */
     Q_INVOKABLE ZtFFullScreen *initWithContentRect(const QRectF &rect, uint styleMask, uint backing,

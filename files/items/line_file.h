@@ -22,7 +22,7 @@ platform::Result<void> appendPrivateLines(const QString &path, const QByteArray 
 /**
  * Keeps the last @p most lines of a file that has more than @p limit of them; touches no other. Atomic.
  *
- * @param limit  more than @p most, so that the file is not written anew for each line that is added
+ * @param limit  more than @p most, so that the file is not rewritten for each line that is added
  *
  * Fails with NotFound, Unreadable or WriteFailed.
  */

@@ -50,10 +50,10 @@ public:
     OperationOutcome carryOut(int index, const MoveItem &item, const QString &source);
     /** Gives an item its temporary name. */
     OperationOutcome stepAside(int index, const MoveItem &item);
-    /** Moves without looking what is moved. */
+    /** Moves without verifying the identity of the source. */
     OperationOutcome move(int index, const QString &from, const QString &to);
 
-    /** Gives an item its name again that stands aside, or that with a number where it is taken; its path is then answered. */
+    /** Restores the name of an item that stands aside, with a number if it is taken; its path is then answered. */
     QString putBack(const QString &aside, const QString &path);
 
     /** Whether something under a temporary name could not be taken away. */

@@ -16,7 +16,7 @@
 
 namespace files {
 
-/** What is done with one item of a run. The last three take back what the others did. */
+/** What is done with one item of a run. The last three undo what the others did. */
 enum class Operation {
     Move,
     Copy,
@@ -42,7 +42,7 @@ struct MoveItem
     QString from;
     QString to;
     int of = -1;          ///< when a run is taken back: the item of that run
-    int leader = -1;      ///< the item that this one goes along with
+    int leader = -1;      ///< the item that this one moves with
     bool isAhead = false; ///< it steps aside in the folder of `to`, not in its own
     std::optional<platform::ItemState> was =
         std::nullopt; ///< what was at `from` when the run began; for a link, nothing
@@ -55,7 +55,7 @@ struct MoveRecord
     bool isKnown = true; ///< false: its line in the journal cannot be read
     Stand stand = Stand::Waiting;
     MoveProblem why = MoveProblem::None; ///< it failed
-    QString message;                     ///< the same as a sentence
+    QString message;                     ///< a sentence for the user, for `why`
     QString path; ///< where it is since it is done; in the trash, if it was trashed; empty if it is removed
     std::optional<platform::ItemState> is = std::nullopt;     ///< what is there since then
     std::optional<platform::ItemState> copied = std::nullopt; ///< the copy that was about to get its name
@@ -75,7 +75,7 @@ struct RunRecord
     QString id;
     QString title;
     QString date;          ///< ISO, with the time zone
-    QString undoes;        ///< the run that this one takes back
+    QString undoes;        ///< the run that this one undoes
     QString by;            ///< the mark of the process that began it
     bool isByHand = false; ///< items are added one by one
     int count = 0;         ///< items that the journal must tell before the first of them moves

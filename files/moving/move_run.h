@@ -68,7 +68,7 @@ public:
     /** Takes back one item, with the operation that does so. */
     MoveResult takeBack(int index, const MoveItem &operation);
 
-    /** Finishes or takes back what was interrupted in the middle; the records say where everything is now. */
+    /** Finishes or undoes what was interrupted in the middle; the records say where everything is now. */
     void mend();
     void close(const QString &end);
 

@@ -49,7 +49,7 @@ private:
     std::unique_ptr<Work> m_work;
 };
 
-/** The operation that takes back one item of a run that is open, or why it cannot be done. */
+/** The operation that undoes one item of a run that is open, or why it cannot be done. */
 struct TakeBack
 {
     MoveItem operation;

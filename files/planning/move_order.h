@@ -33,7 +33,7 @@ struct MoveOrder
 };
 
 /**
- * The order in which a run can be carried out so that every place is free when its turn comes: who stands in another's way
+ * The order in which a run can be carried out so that every place is free when it is needed: who stands in another's way
  * goes first, and what is in a folder, or goes into it, before the folder itself. Only one item of a circle has to step
  * aside, and an item in a folder that is to leave for the item's sake. Items that wait for nobody keep their order.
  *

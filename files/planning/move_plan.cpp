@@ -171,7 +171,7 @@ private:
             tenant->leaver = i;
     }
 
-    /** The wish at the head of those that go along; a circle of leaders leads nowhere. */
+    /** The wish at the head of those that move with others; a circle of leaders leads nowhere. */
     int headOf(int i)
     {
         int head = i;

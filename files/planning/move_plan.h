@@ -21,7 +21,7 @@ struct MoveWish
     QString from;
     QString to;
     bool isNumbered = false; ///< where @p to is taken, it gets a number instead of being refused
-    int leader = -1;         ///< the wish that this one goes along with: refused if that is, numbered as that is
+    int leader = -1;         ///< the wish that this one moves with: refused if that is, numbered as that is
 };
 
 enum class PlanStatus { Ready, Same, Refused };

@@ -50,7 +50,7 @@ public:
     /**
      * Files and folders as they were dropped or chosen, turned into the list of pictures to work on; see collectFiles().
      *
-     * @param companions  extensions of files that may go along with a picture
+     * @param companions  extensions of files that may move with a picture
      * @param listed      extensions of the files that come into the list, whatever the action takes; empty for those taken
      * @return {paths, listed, folders (those of the given paths that are), leftOut (count of files that are not taken), companions
      *         (the paths of those of them that have such an extension), example (name of one that has none)}

@@ -139,7 +139,7 @@ bool isOpaque(const QColor &color)
     return color.alpha() == 255;
 }
 
-/** RGB where a grey picture meets a colour that is none. */
+/** RGB where a grey picture meets a colour that is not grey. */
 bool staysGray(const Stage &stage, const QColor &color)
 {
     return stage.isGray && color.red() == color.green() && color.green() == color.blue();

@@ -16,7 +16,7 @@ public:
 
     /**
      * Writes the upright picture at @p path, laid on copies of the picture at @p pattern, as @p target, whose extension
-     * names the type; pixels, depth, profile and resolution stay, and no other metadata goes along. Atomic.
+     * names the type; pixels, depth, profile and resolution stay, and no other metadata is kept. Atomic.
      *
      * @return a sentence that says what failed; empty where nothing did
      */

@@ -13,7 +13,7 @@
 //   presets  {form, starting}: which setting lies in which column (see presets/preset-forms.js), and what it starts with; may be missing
 //   lists(settings)  what the rows of the list are: "pictures", "files" of any kind, or "folders" themselves
 //   takes    the extensions of pictures that are taken, in any case of letters
-//   takesAlong(settings)  true where files that belong to a picture go along with it (lib/sidecars.js); may be missing
+//   takesAlong(settings)  true if the files that belong to a picture move with it (lib/sidecars.js); may be missing
 //   startText(number, settings)  what the button says
 //   doing()  what a run of it is, at the beginning of a sentence: "Resizing"; the title where it is missing
 //   headings()  other words for the heads of columns than those of the manner (may be missing)

@@ -1,4 +1,4 @@
-// Files that belong to a picture and go along with it: settings of other programs, previews and voice notes that bear its name.
+// Files that belong to a picture and move with it: settings of other programs, previews and voice notes that bear its name.
 // Services used: files (names), handed in.
 
 import { emptyTable, joinPath, splitPath } from "./names.js";
@@ -8,7 +8,7 @@ export const SIDECARS = ["xmp", "aae", "thm", "pp3", "dop", "cos", "on1", "wav"]
 
 const ENDING = new RegExp("[^.]\\.(" + SIDECARS.join("|") + ")$", "i");
 
-/** Those of these files that go along with one of the pictures: their extension is one of SIDECARS, and they bear its name. */
+/** Those of these files that move with one of the pictures: their extension is one of SIDECARS, and they bear its name. */
 export function goingAlong(candidates, pictures) {
     const bearers = emptyTable();
     candidates.filter((path) => ENDING.test(path))

@@ -98,7 +98,7 @@ export class PresetPane {
         this.showMenu();
     }
 
-    // Reads the presets anew; the ready one of that name is the chosen one.
+    // Reads the presets again; the ready one of that name is the chosen one.
     look(name) {
         this.presets = this.store.list(this.action);
         this.showChosen(name);

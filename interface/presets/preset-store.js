@@ -17,7 +17,7 @@ function textOf(data) {
     return data === null ? "" : String.fromCharCode.apply(null, Array.from(new Uint8Array(data)));
 }
 
-// What a rename noted; null for a text that is none of it.
+// What a rename noted; null if the text is not such a note.
 function noteIn(text) {
     try {
         const note = JSON.parse(text);
@@ -97,7 +97,7 @@ export class PresetStore {
         return name !== "";
     }
 
-    // What was cut off between storing a preset anew and removing the row before is done to its end. The service tells the
+    // What was cut off between storing a preset again and removing the old row is completed. The service tells the
     // number of the newest row of a name only: those below it are looked through.
     removeOlder(action, names) {
         for (const name of names.filter((each, i) => names.indexOf(each) === i)) {

@@ -175,7 +175,7 @@ function headOf(row, form) {
     return found === null ? { version: 0, mode: "" } : { version: versionOf(found[1]), mode: found[2] };
 }
 
-// The settings of a row of folders, or null if one of its values is none.
+// The settings of a row of folders, or null if a value is invalid.
 function slotSettings(row, form, standard) {
     const settings = copyOf(standard);
     const texts = row.slice(FIRST_SLOT).filter((text) => text !== "");
@@ -238,7 +238,7 @@ function readMode(row, form, settings) {
     return form.modes.indexOf(mode) >= 0;
 }
 
-// The settings of a row, or null if one of its values is none.
+// The settings of a row, or null if a value is invalid.
 function settingsIn(row, form, standard) {
     const settings = copyOf(standard);
     const isRead = readColumns(row, form, settings) && readList(row, form, settings) && readMode(row, form, settings);

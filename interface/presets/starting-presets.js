@@ -25,7 +25,7 @@ export function startingPresets(kind, patterns) {
 
 /**
  * Writes the presets that an action starts with, if that was not done before. A name that is taken is left out.
- * Where the database cannot be written it is tried again the next time. Returns whether the presets are to be read anew.
+ * Where the database cannot be written it is tried again the next time. Returns whether the presets are to be read again.
  */
 export function writeStartingPresets(action, patterns, store, defaults) {
     const done = recall(defaults, KEY, { actions: [] }).actions;

@@ -53,7 +53,7 @@ export function* showPlan(window, rows, settings, isFinal) {
     return plan;
 }
 
-/** {ready, attention, same, along}: how many rows are in which state, and how many files go along with those that are ready. */
+/** {ready, attention, same, along}: how many rows are in which state, and how many files move with those that are ready. */
 export function countStates(plan) {
     const sum = { ready: 0, attention: 0, same: 0, along: 0 };
     plan.states.forEach((state, i) => {

@@ -20,7 +20,7 @@ export class LivePlan {
         this.makeTimer();
     }
 
-    // Not in the constructor: an arrow there does not know `this` in the classes above.
+    // Not in the constructor: Qt 6.4 binds `this` wrongly in arrow functions of a base class's constructor.
     makeTimer() {
         this.timer = shell.timer(guard("plan", () => this.start()));
     }
@@ -48,7 +48,7 @@ export class LivePlan {
         return undefined;
     }
 
-    /** Plans anew when things have settled. */
+    /** Plans again when things have settled. */
     refresh() {
         this.job.cancel();
         this.timer.start(this.settleMs);

@@ -3,7 +3,7 @@
 
 import { splitPath } from "../lib/names.js";
 
-// So many wishes are handed to the engine at once, and it works for so long, before the window gets its turn.
+// So many wishes are handed to the engine at once, and it works for so long, before the window gets control again.
 const AT_ONCE = 50;
 const WORK_MS = 2;
 
@@ -34,7 +34,7 @@ export function row(changes) {
 }
 
 // Tells the engine the wishes of all rows that are not left out. {ofRow, count}: ofRow is where the wish of a row stands, and those
-// behind it go along.
+// behind it move with it.
 function* tellWishes(tell, paths, rows, leftOut, part) {
     const ofRow = [];
     let count = 0;
@@ -92,7 +92,7 @@ function stayingCompanion(items, first, count) {
     return null;
 }
 
-// Leaves out the rows whose companions cannot go along; returns how many were found.
+// Leaves out the rows whose companions cannot move with them; returns how many were found.
 function leaveOutParted(plan) {
     let found = 0;
     plan.rows.forEach(({ to, along }, i) => {
@@ -107,7 +107,7 @@ function leaveOutParted(plan) {
     return found;
 }
 
-// How often the rest is planned anew without those whose companions cannot go along.
+// How often the rest is planned again without those whose companions cannot move with them.
 const MOST_ROUNDS = 5;
 
 /** A generator that settles the wishes of rows, in parts; see planMoves(). */
@@ -117,7 +117,7 @@ export function* settled(paths, rows, moves) {
     let plan = null;
     let found = 1;
     const anyAlong = rows.some((each) => each.along.length > 0);
-    // Those that the last round finds are left out too, only without a plan made anew.
+    // Those that the last round finds are left out too, only without another plan.
     for (let round = 0; round < MOST_ROUNDS && found > 0; round += 1) {
         plan = yield* plannedOnce(paths, rows, leftOut, moves, part);
         found = anyAlong ? leaveOutParted(plan) : 0;
@@ -163,7 +163,7 @@ function readyOfRow(plan, i, first) {
 }
 
 /**
- * A generator that returns the items that are to be carried out, with the row each belongs to and whether it goes along with that
+ * A generator that returns the items that are to be carried out, with the row each belongs to and whether it moves with that
  * row's own file, which is then its leader, by its index among the items; -1 for none.
  */
 export function* readyItems(plan) {

@@ -1,4 +1,4 @@
-// A run that moves files through the move engine: plan anew, carry out one after the other or only show, and undo.
+// A run that moves files through the move engine: plan again, carry out one after the other or only show, and undo.
 
 import { guard } from "../lib/guard.js";
 import { isReadyRow, itemOf, readyItems, settled } from "./move-plan.js";
@@ -278,7 +278,7 @@ export class MoveRun extends BaseRun {
         const item = this.items[result.index];
         const told = { status: result.status, reason: result.message, path: result.path || item.to };
         this.done[result.index] = true;
-        // What goes along with a file that failed waits for it.
+        // What belongs to a file that failed waits for it.
         if (result.status === "Failed" || result.code === "leader") {
             this.noteFailed(item, told);
         } else {
@@ -287,7 +287,7 @@ export class MoveRun extends BaseRun {
         this.countOne();
     }
 
-    // One more file has had its turn.
+    // One more file is dealt with.
     countOne() {
         const now = Date.now();
         this.progress.add(1, now - this.steppedMs);

@@ -1,5 +1,5 @@
-// What all runs have in common: phases, pause, cancel, the summary and the report. What a run plans and carries out is the
-// affair of the classes above it.
+// What all runs have in common: phases, pause, cancel, the summary and the report. Subclasses
+// decide what a run plans and does.
 
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
@@ -21,7 +21,7 @@ export class BaseRun {
         this.changed = changed;
         this.job = shell.job();
         this.phase = "idle";
-        /** The run that this one takes back, or "". */
+        /** The run that this one undoes, or "". */
         this.undoes = "";
         this.reset([]);
     }

@@ -55,7 +55,7 @@ export function undoAction(isRedo) {
     return isRedo ? qsTr("Redo") : qsTr("Undo");
 }
 
-/** The row of the log for one file of a run that takes back `undone`: {id, process, action (of undoAction())}. */
+/** The row of the log for one file of a run that undoes `undone`: {id, process, action (of undoAction())}. */
 export function undoRow(result, undone, run) {
     return Object.assign(logRow(result, undone.process, undone.action, new Date().toISOString(), run),
                          { undoes: undone.id });

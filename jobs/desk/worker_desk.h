@@ -82,7 +82,7 @@ public:
     static void useTexts(const QStringList &files);
 
     Number add(std::shared_ptr<Errand> errand, Urgency urgency);
-    /** Takes an errand back; a worker that is at it is ended, so that nothing more comes of it. Nothing for one that is over. */
+    /** Cancels an errand and ends the worker that is at it. Does nothing for one that is over. */
     void drop(Number number);
     /** The same for one that no worker has begun; false, and nothing, for any other. */
     bool takeBack(Number number);

@@ -291,7 +291,7 @@ QVariantList RecipeBatch::wholeOf(int index) const
     return whole;
 }
 
-/** All of a picture is made, or nothing more comes of it. */
+/** A picture is complete, or nothing more will be made of it. */
 void RecipeBatch::end(int index, const QString &problem)
 {
     if (m_given.erase(index) == 0)

@@ -21,8 +21,8 @@ class QObject;
 namespace platform {
 
 /**
- * What no property tells of the controls of a window. Whoever has windows sets one; each answer is for a control that it
- * knows, and none, or false, for any other.
+ * State of window controls that Qt does not expose as properties. The window layer installs the implementation; unknown
+ * controls yield an empty value or false.
  */
 class WindowControls
 {
@@ -82,7 +82,7 @@ void setIndeterminateOf(QObject *control, bool indeterminate);
 /** The rows of a list that shows dictionaries. */
 QVariantList rowsOf(const QObject *control);
 void addRowTo(QObject *control, const QVariantMap &row);
-/** Tells a table to show its rows anew. */
+/** Tells a table to show its rows again. */
 void reloadTable(QObject *control);
 /** Shows a control as it now is at once, since the event loop does not run in between. */
 void redraw(QObject *control);

@@ -20,7 +20,7 @@ constexpr quint32 mark = 0x51424d31; // "QBM1"
 constexpr qsizetype largestBookmark = 65536;
 constexpr size_t largestHandle = 128;
 
-/** What tells an item from every other, also from one that was made later in its place and got its number. */
+/** Identifies an item even if another one later reuses its path and inode. */
 struct Identity
 {
     quint64 fileSystem = 0;

@@ -38,7 +38,7 @@ bool mayBeTakenAway(const QString &path);
 
 /**
  * Copies the file or folder at @p from, with all that is in it, to the new item @p to. Links are copied as links; permissions,
- * modification dates and the user's extended attributes go along where the file system has them.
+ * modification dates and the user's extended attributes are kept where the file system has them.
  *
  * Fails with WriteFailed when anything is at @p to already, when the folder of @p to is missing or cannot be written, when
  * something cannot be read, or when a folder would be copied into itself, and with NotFound where there is no source. The

@@ -323,7 +323,7 @@ VImage turnedFreely(const VImage &image, const FreeTurn &turn)
     out->Bands = picture.bands() + (addsAlpha ? 1 : 0);
     if (vips_image_generate(out, nullptr, drawerFor(picture), nullptr, &job, nullptr) != 0)
         throw vips::VError();
-    // The job must not be outlived: all pixels are drawn here.
+    // Render now: the lazy image must not outlive `job`.
     return (isDrawnAsItIs(format) ? canvas : canvas.cast(format)).copy_memory();
 }
 

@@ -23,7 +23,7 @@ public:
     bool isNull() const { return !m_list; }
     /** Empty for no list. */
     QStringList texts() const { return m_list ? m_list->texts : QStringList(); }
-    /** Nothing happens to no list. */
+    /** No-op on a null list. */
     void append(const QString &text);
     /** Takes all texts away, here and in the form that was given to a script. */
     void empty();

@@ -238,6 +238,12 @@ class Words(Tree):
         self.write("docs/sp" "ec.md", "good\n")
         self.assertEqual(run_main(words, self.root)[0], 1)
 
+    def test_finds_turns_that_read_as_translated_in_code(self):
+        for name, found in (("a.js", 1), ("a.cpp", 1), ("a.md", 0)):
+            self.write("room/" + name, "// made an" "ew\n")
+            self.assertEqual(run_main(words, self.root)[0], found, name)
+            (self.root / "room" / name).unlink()
+
     def test_leaves_like_words_alone(self):
         self.write("docs/a.md", "especially specific, a special part 12 of the workshop; /worker\n")
         self.assertEqual(run_main(words, self.root)[0], 0)

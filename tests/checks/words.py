@@ -20,11 +20,14 @@ PATTERNS = [
     ("names a tool of one machine", re.compile(r"\bfa" + r"rm[-/][a-z]", re.I)),
     ("names a package mirror", re.compile(r"https?://[^\s\"'>)]*(snap" + r"shot\.debian|nexus|arti" + r"factory)", re.I)),
 ]
+# Comments, too, are in the words of people who speak English.
+CODE = {".h", ".cpp", ".js", ".ts"}
+TURNS = [("reads as translated", re.compile(r"\b(an" + r"ew|dee" + r"ds?|(go|goes|going) alo" + r"ng|the affair of)\b", re.I))]
 
 
-def faults(text):
+def faults(text, patterns=None):
     for number, line in enumerate(text.split("\n"), 1):
-        for what, pattern in PATTERNS:
+        for what, pattern in patterns or PATTERNS:
             match = pattern.search(line)
             if match:
                 yield number, f'{what}: "{match.group()}"'
@@ -40,7 +43,8 @@ def check_files(root):
         if path.name == "LICENSE":
             continue
         seen += 1
-        problems += [f"{where}:{number}: {fault}" for number, fault in faults(tree.read(path))]
+        patterns = PATTERNS + (TURNS if path.suffix in CODE and "texts" not in where.parts else [])
+        problems += [f"{where}:{number}: {fault}" for number, fault in faults(tree.read(path), patterns)]
     return problems, seen
 
 

@@ -185,7 +185,7 @@ class Batch:
             first = made.get(f"orientation/{scene}_2.jpg")
             for source, path in made.items():
                 difference = mean_difference(first, path, self.out.parent) if first else None
-                # Picture 1 was made anew for this collection and differs by 16; mirrored or turned it would by 43 and more.
+                # Picture 1 was made again for this collection and differs by 16; mirrored or turned it would by 43 and more.
                 # The others differ only in what JPEG did to the turned pixels.
                 if difference is None or difference > (25 if source.endswith("_1.jpg") else 3):
                     self.fault(source, f"differs by {difference} of 255 from its neighbour: it is not upright")

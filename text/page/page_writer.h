@@ -48,7 +48,7 @@ QString standardPageTemplate();
  * The HTML of a page. Every text of a person or a picture is escaped, and every address is relative.
  *
  * @param pageTemplate  see PageTemplate
- * Fails with InvalidValue, in a sentence, for a template that is none and for a picture without files.
+ * Fails with InvalidValue, in a sentence, for an invalid template and for a picture without files.
  */
 platform::Result<QString> writePage(const QString &pageTemplate, const Page &page);
 

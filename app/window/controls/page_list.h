@@ -15,7 +15,7 @@ public:
 
     Q_INVOKABLE void setPages(const QStringList &names, const QStringList &titles);
     QString current() const;
-    /** Chooses a page without telling; none where there is none of that name. */
+    /** Selects a page without emitting a signal; clears the selection if there is no such page. */
     void setCurrent(const QString &name);
 
     /** As wide as the widest title needs. */

@@ -14,7 +14,7 @@ namespace window {
  * Folders with counts of files, as they will be after a run: new ones are marked, and those that are there say so.
  *
  * Arrow keys walk, open and close; Escape chooses nothing. What was opened, closed and chosen stays so when the folders are set
- * anew, as far as they are among them.
+ * again, as far as they are among them.
  */
 class FolderTree : public QTreeWidget
 {

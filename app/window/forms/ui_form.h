@@ -45,7 +45,7 @@ public:
     /** Chooses the entry with that value; false where there is none. */
     Q_INVOKABLE bool chooseValue(const QString &name, const QVariant &value);
     Q_INVOKABLE void setIcon(const QString &name, const QString &icon);
-    /** Sets a property that the style sheet looks at and draws the control anew. */
+    /** Sets a property that the style sheet looks at and draws the control again. */
     Q_INVOKABLE void setLook(const QString &name, const QString &property, const QString &value);
     /** The entries of a menu, or of the menu of a button: each calls @p chosen with its value. "-" is a separator, and an
      * entry whose value is null cannot be chosen. */

@@ -4,7 +4,7 @@
 
 namespace window {
 
-/** How services reach tab views, menus and check boxes with three states, which tell themselves by no property. */
+/** Gives services access to tab views, menus and tri-state check boxes, whose state is not exposed as a property. */
 class WidgetControls : public platform::WindowControls
 {
 public:

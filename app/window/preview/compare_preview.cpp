@@ -278,7 +278,7 @@ void ComparePreview::clearLate()
     update();
 }
 
-/** Gives the view of the original its place, and the picture after that, so that it is fitted once. */
+/** Sets the geometry before the picture, so that the view scales it only once. */
 void ComparePreview::fitViews()
 {
     const qreal ratio = devicePixelRatioF();

@@ -189,7 +189,7 @@ export class HandPage {
 
     put(slot, row) {
         const photo = this.current();
-        // A folder that is gone is not made anew by a key.
+        // A folder that is gone is not created again by a key.
         const problem = slotProblem(slot.path, files) || this.roomProblem(photo, slot);
         if (problem !== "") {
             this.window.pane.look();

@@ -29,7 +29,7 @@ function failed(message) {
 export class HandSorting {
     /**
      * @param moves   the move engine: open, add, takeBack, end
-     * @param along   function(path): the files that go along with a picture, [{name, ending}, ...]
+     * @param along   function(path): the files that move with a picture, [{name, ending}, ...]
      * @param keep    function(rows): adds rows to the log; returns a message where that failed
      */
     constructor(moves, along, keep) {
@@ -150,7 +150,7 @@ export class HandSorting {
         return this.companions[path];
     }
 
-    // Files that go along take the name that the picture got.
+    // Companion files take the name that the picture got.
     addAlong(act, from) {
         if (act.kind === "link") {
             return;

@@ -7,7 +7,7 @@ import { cutAt } from "./text-cuts.js";
 /** What a step can work on. */
 export const PARTS = ["name", "extension", "both"];
 
-/** Whether a counter goes on, or begins anew with each folder or each day. */
+/** Whether a counter goes on, or restarts with each folder or each day. */
 export const SCOPES = ["run", "folder", "date"];
 
 // Marks a text that the step could not change: it stays as it is, and the step says so.
@@ -171,7 +171,7 @@ export function stepProblems(step) {
     return [];
 }
 
-// What makes a counter begin anew.
+// What makes a counter restart.
 function counterKey(step, context) {
     if (step.counterScope === "folder") {
         return context.folder;

@@ -12,13 +12,13 @@ import { kindWords } from "./step-words.js";
 import { hasHalf } from "./text-cuts.js";
 import { fill } from "../../lib/wording.js";
 
-// Names are made for about this long before the window gets its turn.
+// Names are made for about this long before the window gets control again.
 const SLICE_MS = 8;
 const LOOKED_UP = 250;
 
 export const MOST_STEPS = 30;
 
-/** What a new pane shows. what: "files" or "folders"; steps: those of name-steps.js; sidecars: they go along. */
+/** What a new pane shows. what: "files" or "folders"; steps: those of name-steps.js; sidecars: whether they are renamed too. */
 export const defaults = { what: "files", steps: [], sidecars: true, simulation: false };
 
 /** The settings in a few words, for the log. */

@@ -9,7 +9,7 @@ import { pixels } from "../../lib/wording.js";
 // Where no picture says otherwise.
 const USUAL_DPI = 300;
 
-// Groups stay the objects that they are: others hold them too.
+// Assign into nested objects in place: other code keeps references to them.
 function layOver(settings, others) {
     for (const key of Object.keys(others)) {
         if (others[key] !== null && typeof others[key] === "object") {

@@ -9,7 +9,7 @@ import { Sidecars } from "../../lib/sidecars.js";
 import { folderNameProblems, foldersFor, patternProblems, prepared } from "./sorting.js";
 import { fill } from "../../lib/wording.js";
 
-// Files are looked into for about this long before the window gets its turn.
+// Files are looked into for about this long before the window gets control again.
 const SLICE_MS = 5;
 
 export const KINDS = ["move", "copy", "link"];

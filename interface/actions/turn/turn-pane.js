@@ -39,7 +39,7 @@ export class TurnPane extends Pane {
         shell.theme.changed.connect(guard("turn.theme", () => this.showIcons()));
     }
 
-    // Drawn anew in the colours of the appearance.
+    // Redrawn in the colours of the appearance.
     showIcons() {
         const icons = { turnLeft: "turn-left", turnRight: "turn-right", turnHalf: "turn-half",
                         flipHorizontal: "flip-across",

@@ -132,7 +132,7 @@ function makeOne(item, step, settings, services, workshop) {
              bytes: bytes, width: made.width, height: made.height };
 }
 
-// A step that throws has met a mistake of ours; the other pictures are none the worse for it.
+// A step that throws has met a mistake of ours; the other pictures are not affected.
 function finalResult(item, step, settings, services, workshop) {
     const started = Date.now();
     let result;

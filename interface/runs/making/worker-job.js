@@ -80,7 +80,7 @@ class WorkerJob {
         return null;
     }
 
-    // A step that throws has met a mistake of ours; the other pictures are none the worse for it.
+    // A step that throws has met a mistake of ours; the other pictures are not affected.
     tryGive(index) {
         try {
             return this.give(index);

@@ -76,7 +76,7 @@ export class Input {
         this.window.pictures.countChanged.connect(guard("input.count", () => { this.hidden = null; }));
     }
 
-    // Do files that belong to a picture go along with it?
+    // Do files that belong to a picture move with it?
     takesAlong() {
         const action = this.window.action;
         return action.takesAlong !== undefined && action.takesAlong(this.window.settings);
@@ -158,7 +158,7 @@ export class Input {
         }
     }
 
-    // What goes along with a picture of the list was not left out.
+    // What belongs to a picture of the list was not left out.
     withoutCompanions(found) {
         const going = this.takesAlong() ? goingAlong(found.companions, this.window.pictures.paths()) : [];
         const left = found.companions.find((path, i) => path !== going[i]);

@@ -7,7 +7,7 @@ namespace platform {
 
 /**
  * The bytes of a JPEG file with the stored pixels of image 0 of @p source turned, without decoding them and so without any
- * loss; metadata, profile and orientation tag go along, sizes in the metadata are right again.
+ * loss; metadata, profile and orientation tag are kept, sizes in the metadata are right again.
  *
  * None where that cannot be done exactly: for other kinds of file, where a side that is mirrored is not whole
  * blocks, and for damaged files. Memory: the file twice and up to 12 bytes a pixel.

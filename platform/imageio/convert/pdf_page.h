@@ -9,7 +9,7 @@ namespace platform {
  *
  * The scan of a grey or RGB JPEG goes in byte for byte where it is upright; one that lies on its side is turned first where
  * that can be done without loss. All other pictures are stored without loss, 8 or 16 bits a component, grey, RGB or CMYK,
- * with their transparency. The colour profile goes along, metadata does not.
+ * with their transparency. The colour profile is kept, metadata is not.
  *
  * @param dpi  dots per inch, above 0, that give the page its size in place of the picture's own
  *

@@ -13,7 +13,7 @@ namespace platform {
  *
  * Taken out of the first directory: tags about the old file's storage (describesStructure()), XMP, IPTC and profiles.
  * The thumbnail's directory is cut off, and its picture where that is the end of the block. The size in pixels is set
- * anew where the block states one. Empty where the block is not sound enough for that.
+ * again where the block states one. Empty where the block is not sound enough for that.
  */
 QByteArray exifBlockInPlace(const QByteArray &block, QSize pixels);
 

@@ -35,7 +35,7 @@ bool tellsWhereItsPixelsAre(const QByteArray &bytes);
 int otherPageCount(const QByteArray &bytes);
 
 /**
- * An EXIF block, TIFF header first, with another user comment in it; made anew around what is no TIFF at all. Empty where the
+ * An EXIF block, TIFF header first, with another user comment in it; built from scratch if that is not a TIFF at all. Empty where the
  * block is so damaged that it would not hold the comment afterwards.
  */
 QByteArray exifBlockWithUserComment(const QByteArray &block, const QString &comment);

@@ -23,7 +23,7 @@ bool isPlaceOfPixels(quint16 tag)
     return tag == tiffTag::stripOffsets || tag == tiffTag::tileOffsets;
 }
 
-/** Puts the file together: the block, the encoded bytes behind it, arrays that had to be made anew, the directory. */
+/** Puts the file together: the block, the encoded bytes behind it, arrays that had to be rebuilt, the directory. */
 class Graft
 {
 public:

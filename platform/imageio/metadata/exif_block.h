@@ -20,7 +20,7 @@ enum class MakerNotes { Keep, Drop };
  */
 QByteArray encodeExifBlock(const Metadata::Blocks &blocks, QSize pixels, Exiv2::ByteOrder order, qsizetype sizeLimit);
 
-/** The tags that a new file of @p pixels pixels may carry: none about the old file's structure, sizes set anew. */
+/** The tags that a new file of @p pixels pixels may carry: none about the old file's structure, sizes updated. */
 Exiv2::ExifData exifForNewFile(const Exiv2::ExifData &exif, QSize pixels, MakerNotes makerNotes);
 
 } // namespace platform

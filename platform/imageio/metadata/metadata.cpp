@@ -51,7 +51,7 @@ void readImage(Metadata::Blocks &blocks, const QByteArray &bytes)
     blocks.exif = image->exifData();
     blocks.iptc = image->iptcData();
     blocks.xmp = image->xmpData();
-    image->writeXmpFromPacket(true); // or what is handed out is a packet made anew, and not all of it comes back
+    image->writeXmpFromPacket(true); // or what is handed out is a rebuilt packet, which lacks some of it
     blocks.xmpPacket = image->xmpPacket();
     if (const Exiv2::Exifdatum *tag = findTag(blocks.exif, "Exif.Image.XMLPacket"); tag && blocks.xmpPacket.empty())
         blocks.xmpPacket = rawBytes(*tag, Exiv2::littleEndian).toStdString();

@@ -125,7 +125,7 @@ template<typename Predicate> void keepXmp(Metadata::Blocks &blocks, Predicate is
 
 void keepCopyright(Metadata::Blocks &blocks)
 {
-    blocks.exifBlock.clear(); // is made anew, and has no maker notes that could suffer
+    blocks.exifBlock.clear(); // is rebuilt, and has no maker notes that could suffer
     removeWhere(blocks.exif, [](const Exiv2::Exifdatum &tag) { return !isCopyright(tag); });
     removeWhere(blocks.iptc, [](const Exiv2::Iptcdatum &data) { return !isCopyright(data); });
     const bool onlyCharacters = std::all_of(blocks.iptc.begin(), blocks.iptc.end(), [](const Exiv2::Iptcdatum &data) {

@@ -8,7 +8,7 @@
 
 namespace platform {
 
-/** What is known to be in use, and whether that is all. */
+/** Byte ranges known to be referenced, and whether the list is complete. */
 struct TiffExtents
 {
     QList<TiffRange> ranges;

@@ -141,7 +141,7 @@ private Q_SLOTS:
         QCOMPARE(titles(), QStringLiteral("Resize, Crop, Flip") + output);
         press("Flip", Qt::Key_Up, Qt::AltModifier);
         QCOMPARE(titles(), QStringLiteral("Resize, Flip, Crop") + output);
-        // The focus goes along, and at the end nothing happens.
+        // The focus moves with it, and at the end nothing happens.
         QTest::keyClick(m_driver->window().focusWidget(), Qt::Key_Up, Qt::AltModifier);
         QTest::keyClick(m_driver->window().focusWidget(), Qt::Key_Up, Qt::AltModifier);
         QCOMPARE(titles(), QStringLiteral("Flip, Resize, Crop") + output);

@@ -32,7 +32,7 @@ public:
     /** A folder of the person's own for what the program is given; made on first use. */
     QString inputFolder() const;
 
-    /** Ends the program and starts it anew, with the same settings. */
+    /** Ends the program and starts it again, with the same settings. */
     /** @param opening  what the desktop asked for: "recipe", "watch" or nothing */
     void startAgain(const QString &opening = QString());
 

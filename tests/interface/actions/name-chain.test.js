@@ -107,7 +107,7 @@ const COUNTERS = [
 ];
 
 for (const entry of COUNTERS) {
-    test("counts anew for each " + entry[0], () => {
+    test("restarts for each " + entry[0], () => {
         const chain = new NameChain([newStep("text",
                                              { pattern: "{counter:05}", counterStep: 2, counterScope: entry[0] })],
                                              names, () => "");

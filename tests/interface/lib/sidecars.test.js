@@ -50,7 +50,7 @@ const GOING = [
 ];
 
 for (const row of GOING) {
-    test("tells that " + row[2].length + " of " + row[0].join(" ") + " go along with " + row[1].join(" "),
+    test("tells that " + row[2].length + " of " + row[0].join(" ") + " move with " + row[1].join(" "),
          () => equal(goingAlong(row[0], row[1]), row[2]));
 }
 

@@ -311,7 +311,7 @@ void TestSupportFolder::leavesTheFieldAloneWithoutAFolder()
 void TestSupportFolder::saysThatTheFolderHasGone_data()
 {
     QTest::addColumn<QString>("fate");
-    for (const char *fate : {"removed", "moved", "made anew", "no bookmark", "other data"})
+    for (const char *fate : {"removed", "moved", "made again", "no bookmark", "other data"})
         QTest::newRow(fate) << QString::fromLatin1(fate);
 }
 
@@ -329,7 +329,7 @@ void TestSupportFolder::saysThatTheFolderHasGone()
         setUserDefault(rootKey, QByteArray("bookmark"));
     else
         QVERIFY(QDir(path("picked")).removeRecursively());
-    if (fate == QStringLiteral("made anew"))
+    if (fate == QStringLiteral("made again"))
         QVERIFY(QDir().mkpath(path("picked")));
     const QVariant bookmark = userDefault(rootKey);
     m_sheets->hCallPreferencesWw({});

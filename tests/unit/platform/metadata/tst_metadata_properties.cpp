@@ -206,7 +206,7 @@ void MetadataProperties::goesThereAndBack()
         for (auto entry = was.begin(); entry != was.end(); ++entry) {
             static const QStringList others = {
                 QStringLiteral("Compression"), QStringLiteral("PhotometricInterpretation"), // of the old file
-                QStringLiteral("PixelXDimension"), QStringLiteral("PixelYDimension"),       // set anew
+                QStringLiteral("PixelXDimension"), QStringLiteral("PixelYDimension"),       // updated
                 QStringLiteral("MakerNote")}; // goes from file to file, not through a dictionary
             const QVariant is = group(after, name).value(entry.key());
             if (!others.contains(entry.key()) && comparable(is) != comparable(*entry))
