@@ -426,7 +426,7 @@ QVariantList MoveService::recover()
     RecoveredRun swept;
     swept.title = tr("Copying or moving a file");
     for (const QString &path : named)
-        swept.problems.append(tr("%1 had been put aside and has a name again").arg(path));
+        swept.problems.append(tr("%1 had been moved aside and has been restored").arg(path));
     return runs << mapOf(swept);
 }
 

@@ -36,7 +36,7 @@ QStringList lossesOfPixels(const OutputPlan &plan, const RecipeOutput &output, c
                           .arg(name, output.matte.name()));
     if (facts.bits > 8 && !holdsDepth16(plan.type))
         losses.append(
-            sentence(QT_TRANSLATE_NOOP("recipe", "%1 has 8 bits for each channel, the picture more")).arg(name));
+            sentence(QT_TRANSLATE_NOOP("recipe", "%1 has 8 bits per channel, the picture has more")).arg(name));
     if (!end.profile.isEmpty() && !holdsProfileOf(plan.type, end.profile))
         losses.append(
             sentence(QT_TRANSLATE_NOOP("recipe", "%1 cannot hold the colour profile: colours become sRGB")).arg(name));

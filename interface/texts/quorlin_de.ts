@@ -3984,8 +3984,8 @@
         <translation>Kopieren oder Verschieben einer Datei</translation>
     </message>
     <message>
-        <source>%1 had been put aside and has a name again</source>
-        <translation>%1 war beiseitegelegt und hat wieder einen Namen</translation>
+        <source>%1 had been moved aside and has been restored</source>
+        <translation>%1 war verschoben worden und wurde wiederhergestellt</translation>
     </message>
 </context>
 <context>
@@ -7846,7 +7846,7 @@
         <translation>%1 kennt keine Transparenz: Transparente Bereiche werden %2</translation>
     </message>
     <message>
-        <source>%1 has 8 bits for each channel, the picture more</source>
+        <source>%1 has 8 bits per channel, the picture has more</source>
         <translation>%1 hat 8 Bit pro Kanal, das Bild mehr</translation>
     </message>
     <message>

@@ -3984,8 +3984,8 @@
         <translation>Copie ou déplacement d’un fichier</translation>
     </message>
     <message>
-        <source>%1 had been put aside and has a name again</source>
-        <translation>%1 avait été mis de côté et a de nouveau un nom</translation>
+        <source>%1 had been moved aside and has been restored</source>
+        <translation>%1 avait été mis de côté et a été rétabli</translation>
     </message>
 </context>
 <context>
@@ -7846,7 +7846,7 @@
         <translation>%1 n’a pas de transparence : les parties transparentes deviennent %2</translation>
     </message>
     <message>
-        <source>%1 has 8 bits for each channel, the picture more</source>
+        <source>%1 has 8 bits per channel, the picture has more</source>
         <translation>%1 a 8 bits par canal, l’image en a plus</translation>
     </message>
     <message>

@@ -3984,8 +3984,8 @@
         <translation>Een bestand kopiëren of verplaatsen</translation>
     </message>
     <message>
-        <source>%1 had been put aside and has a name again</source>
-        <translation>%1 was opzijgezet en heeft weer een naam</translation>
+        <source>%1 had been moved aside and has been restored</source>
+        <translation>%1 was opzijgezet en is hersteld</translation>
     </message>
 </context>
 <context>
@@ -7846,7 +7846,7 @@
         <translation>%1 kent geen transparantie: transparante delen worden %2</translation>
     </message>
     <message>
-        <source>%1 has 8 bits for each channel, the picture more</source>
+        <source>%1 has 8 bits per channel, the picture has more</source>
         <translation>%1 heeft 8 bits per kanaal, de foto meer</translation>
     </message>
     <message>
