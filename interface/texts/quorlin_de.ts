@@ -3985,7 +3985,7 @@
     </message>
     <message>
         <source>%1 had been moved aside and has been restored</source>
-        <translation>%1 war verschoben worden und wurde wiederhergestellt</translation>
+        <translation>%1 war beiseitegelegt und wurde wiederhergestellt</translation>
     </message>
 </context>
 <context>
