@@ -17,8 +17,10 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QJSEngine>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTest>
 
 namespace {
@@ -303,6 +305,22 @@ private Q_SLOTS:
         // An action that was never used starts as wished.
         m_driver->show("round");
         QCOMPARE(m_driver->control<QComboBox>("ifTaken")->currentData().toString(), QStringLiteral("skip"));
+    }
+
+    // Each with a sentence that explains it; with more than twelve they would need a field to search in.
+    void preferencesAreExplainedAndFew()
+    {
+        m_driver->trigger("preferencesAction");
+        const QWidget &window = *sheet("preferencesWindow");
+        const QList<QWidget *> wishes =
+            window.findChildren<QWidget *>(QRegularExpression(QStringLiteral("^wish[A-Z]")));
+        QVERIFY2(wishes.size() >= 9, qPrintable(QString::number(wishes.size())));
+        QVERIFY(wishes.size() + 1 <= 12 || window.findChild<QLineEdit *>(QStringLiteral("wishSearch")));
+        for (const QWidget *each : wishes) {
+            const QString name = each->objectName().mid(4);
+            auto *note = window.findChild<QLabel *>(name.at(0).toLower() + name.mid(1) + QStringLiteral("Note"));
+            QVERIFY2(note && note->text().endsWith(u'.'), qPrintable(name));
+        }
     }
 
     void printsTheChosenPictures()
