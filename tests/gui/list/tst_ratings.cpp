@@ -1,3 +1,4 @@
+#include "tests/gui/clicks/hand.h"
 #include "tests/gui/support/window_driver.h"
 #include "tests/support/test_pictures.h"
 #include "tests/support/test_program.h"
@@ -21,6 +22,7 @@ private Q_SLOTS:
     void cleanup() { m_driver.reset(); }
 
     void keysRateTheChosenRows();
+    void keysGoThroughTheWindow();
     void sortsByStars();
     void worksOnTheBestOnly();
     void sortsIntoFoldersByStars();
@@ -112,6 +114,19 @@ void Ratings::keysRateTheChosenRows()
     QVERIFY(list.isColumnHidden(PictureModel::Rating));
 }
 
+// A rating shows a column; the arrow keys go on from the row all the same.
+void Ratings::keysGoThroughTheWindow()
+{
+    begin();
+    Hand hand;
+    auto &list = m_driver->pictures();
+    hand.click(*list.viewport(), list.visualRect(list.model()->index(0, PictureModel::Name)).center());
+    for (const char *key : {"3", "Down", "4", "Down", "5"})
+        hand.press(QString::fromLatin1(key));
+    QCOMPARE(ratings().join(u'|'), QStringLiteral("a.png ★★★|b.png ★★★★|c.png ★★★★★"));
+    QCOMPARE(list.currentPlace(), 3);
+}
+
 void Ratings::sortsByStars()
 {
     begin();
@@ -132,7 +147,7 @@ void Ratings::worksOnTheBestOnly()
     QCOMPARE(ratings().join(u'|'), QStringLiteral("a.png ★★|c.png ★★★★★"));
     QVERIFY(m_driver->control<QWidget>("filterBar")->isVisible());
     QVERIFY(!m_driver->control<QWidget>("hiddenBar")->isVisible());
-    QCOMPARE(m_driver->text("filterNote"), QStringLiteral("Only pictures with 2 stars and more are worked on: 2"));
+    QCOMPARE(m_driver->text("filterNote"), QStringLiteral("Only pictures with 2 stars and more are processed: 2"));
     auto *start = m_driver->control<QAbstractButton>("startButton");
     QVERIFY(m_driver->waitFor([start] { return start->text() == QStringLiteral("Resize 2 Pictures"); }));
     rate(0, 1); // it is below now
