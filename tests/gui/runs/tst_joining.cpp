@@ -132,7 +132,7 @@ private Q_SLOTS:
         }
         QVERIFY(m_driver->waitFor([this] {
             return m_driver->control<QAbstractButton>("startButton")->isEnabled() &&
-                   m_driver->cell(39, PictureModel::Status) == QStringLiteral("ready");
+                   m_driver->cell(39, PictureModel::Status) == QStringLiteral("Ready");
         }));
         m_driver->click("startButton");
         QVERIFY(m_driver->waitFor([this] { return m_driver->control<QWidget>("pauseButton")->isVisible(); }));
@@ -151,7 +151,7 @@ private Q_SLOTS:
         QVERIFY2(said.startsWith(summary) && !said.startsWith(QStringLiteral("41")), qPrintable(said));
         QCOMPARE(list().size(), 41);
         QVERIFY(
-            m_driver->waitFor([this] { return m_driver->cell(40, PictureModel::Status) == QStringLiteral("ready"); }));
+            m_driver->waitFor([this] { return m_driver->cell(40, PictureModel::Status) == QStringLiteral("Ready"); }));
         QVERIFY(QFile::exists(picture("q", 0)));
     }
 
