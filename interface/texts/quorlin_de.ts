@@ -12081,6 +12081,10 @@
         <source>not selected</source>
         <translation>nicht ausgewählt</translation>
     </message>
+    <message>
+        <source>not a readable picture</source>
+        <translation>kein lesbares Bild</translation>
+    </message>
 </context>
 <context>
     <name>field-reverting</name>

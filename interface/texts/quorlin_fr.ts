@@ -12081,6 +12081,10 @@
         <source>not selected</source>
         <translation>non sélectionnée</translation>
     </message>
+    <message>
+        <source>not a readable picture</source>
+        <translation>pas une image lisible</translation>
+    </message>
 </context>
 <context>
     <name>field-reverting</name>

@@ -12081,6 +12081,10 @@
         <source>not selected</source>
         <translation>niet geselecteerd</translation>
     </message>
+    <message>
+        <source>not a readable picture</source>
+        <translation>geen leesbare foto</translation>
+    </message>
 </context>
 <context>
     <name>field-reverting</name>

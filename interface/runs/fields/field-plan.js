@@ -41,7 +41,8 @@ function itemOf(window, maker, photo, index, said) {
     const facts = maker.needsFacts ? window.services.facts.of(photo.path) : null;
     const work = maker.make(photo.path, facts, index);
     const stated = said.fields || {};
-    const planned = said.problem === "" ? files.plannedFields(stated, work) : { fields: {}, problem: said.problem };
+    const planned = said.problem === "" ? files.plannedFields(stated, work)
+        : { fields: {}, problem: photo.problem || qsTr("not a readable picture") };
     return { index: index, path: photo.path, name: photo.name, work: work, stated: stated, planned: planned.fields,
              problem: planned.problem, inPlace: said.inPlace === true, sidecar: said.sidecar || "" };
 }
