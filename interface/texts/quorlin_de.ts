@@ -6776,11 +6776,11 @@
         <translation>Stadt</translation>
     </message>
     <message>
-        <source>Color model</source>
+        <source>Colour model</source>
         <translation>Farbmodell</translation>
     </message>
     <message>
-        <source>Color space</source>
+        <source>Colour space</source>
         <translation>Farbraum</translation>
     </message>
     <message>
@@ -7060,7 +7060,7 @@
         <translation>Alphakanal</translation>
     </message>
     <message>
-        <source>Has global color map</source>
+        <source>Has global colour map</source>
         <translation>Globale Farbtabelle</translation>
     </message>
     <message>
@@ -7608,7 +7608,7 @@
         <translation>Titel (Windows)</translation>
     </message>
     <message>
-        <source>X pixels per meter</source>
+        <source>X pixels per metre</source>
         <translation>Pixel pro Meter X</translation>
     </message>
     <message>
@@ -7636,7 +7636,7 @@
         <translation>Dichte Y</translation>
     </message>
     <message>
-        <source>Y pixels per meter</source>
+        <source>Y pixels per metre</source>
         <translation>Pixel pro Meter Y</translation>
     </message>
     <message>
@@ -7716,7 +7716,7 @@
         <translation>Verfasser der Bildunterschrift</translation>
     </message>
     <message>
-        <source>Color mode</source>
+        <source>Colour mode</source>
         <translation>Farbmodus</translation>
     </message>
     <message>

@@ -6776,11 +6776,11 @@
         <translation>Ville</translation>
     </message>
     <message>
-        <source>Color model</source>
+        <source>Colour model</source>
         <translation>Modèle colorimétrique</translation>
     </message>
     <message>
-        <source>Color space</source>
+        <source>Colour space</source>
         <translation>Espace colorimétrique</translation>
     </message>
     <message>
@@ -7060,7 +7060,7 @@
         <translation>Couche alpha</translation>
     </message>
     <message>
-        <source>Has global color map</source>
+        <source>Has global colour map</source>
         <translation>Palette globale</translation>
     </message>
     <message>
@@ -7608,7 +7608,7 @@
         <translation>Titre (Windows)</translation>
     </message>
     <message>
-        <source>X pixels per meter</source>
+        <source>X pixels per metre</source>
         <translation>Pixels par mètre en X</translation>
     </message>
     <message>
@@ -7636,7 +7636,7 @@
         <translation>Densité Y</translation>
     </message>
     <message>
-        <source>Y pixels per meter</source>
+        <source>Y pixels per metre</source>
         <translation>Pixels par mètre en Y</translation>
     </message>
     <message>
@@ -7716,7 +7716,7 @@
         <translation>Auteur de la légende</translation>
     </message>
     <message>
-        <source>Color mode</source>
+        <source>Colour mode</source>
         <translation>Mode colorimétrique</translation>
     </message>
     <message>

@@ -6776,11 +6776,11 @@
         <translation>Plaats</translation>
     </message>
     <message>
-        <source>Color model</source>
+        <source>Colour model</source>
         <translation>Kleurmodel</translation>
     </message>
     <message>
-        <source>Color space</source>
+        <source>Colour space</source>
         <translation>Kleurruimte</translation>
     </message>
     <message>
@@ -7060,7 +7060,7 @@
         <translation>Heeft alfakanaal</translation>
     </message>
     <message>
-        <source>Has global color map</source>
+        <source>Has global colour map</source>
         <translation>Heeft globale kleurentabel</translation>
     </message>
     <message>
@@ -7608,7 +7608,7 @@
         <translation>Titel (Windows)</translation>
     </message>
     <message>
-        <source>X pixels per meter</source>
+        <source>X pixels per metre</source>
         <translation>X-pixels per meter</translation>
     </message>
     <message>
@@ -7636,7 +7636,7 @@
         <translation>Y-dichtheid</translation>
     </message>
     <message>
-        <source>Y pixels per meter</source>
+        <source>Y pixels per metre</source>
         <translation>Y-pixels per meter</translation>
     </message>
     <message>
@@ -7716,7 +7716,7 @@
         <translation>Schrijver van bijschrift</translation>
     </message>
     <message>
-        <source>Color mode</source>
+        <source>Colour mode</source>
         <translation>Kleurmodus</translation>
     </message>
     <message>
