@@ -33,7 +33,13 @@ void saveScreen(WindowDriver &driver, const QString &path)
 
 void choosePreset(WindowDriver &driver, const char *name)
 {
-    driver.choose("preset", QLatin1Char('=') + QCoreApplication::translate("starting-presets", name));
+    // Each action translates its own.
+    QString shown = QString::fromUtf8(name);
+    for (const char *context : {"resize-presets", "crop-presets", "round-presets", "background-presets",
+                                "rename-presets", "sort-presets", "contact-presets", "web-presets"})
+        if (const QString found = QCoreApplication::translate(context, name); found != QString::fromUtf8(name))
+            shown = found;
+    driver.choose("preset", QLatin1Char('=') + shown);
 }
 
 int makeScreenshots(int argc, char **argv,
