@@ -83,7 +83,7 @@ export class MoveRun extends BaseRun {
 
     start() {
         const window = this.window;
-        this.startWith(window.pictures.tickedIds(), window.pictures.tickedPaths());
+        this.startWith(window.pictures.tickedIds(), null);
     }
 
     /** Does the same to these rows alone; counters begin again. */
@@ -106,8 +106,19 @@ export class MoveRun extends BaseRun {
         this.changed();
     }
 
+    // Of very many rows ids and paths are asked for in two steps, between which some may have been added.
+    readPaths() {
+        const list = this.window.pictures;
+        this.paths = list.tickedPaths();
+        this.ids = this.paths.length === this.ids.length ? this.ids : list.tickedIds();
+    }
+
     * plan() {
         const window = this.window;
+        if (this.paths === null) {
+            yield 0;
+            this.readPaths();
+        }
         const plan = yield* showPlan(window, { ids: this.ids, paths: this.paths }, this.settings, () => false);
         plan.ready = yield* readyItems(plan);
         plan.needs = new DiskNeeds((folder) => window.services.files.space(folder));

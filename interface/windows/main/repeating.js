@@ -14,6 +14,7 @@ export class Repeating {
         this.window = window;
         this.last = newestSettings(files);
         this.done = []; // the rows of the last run, and of those that repeated it
+        this.found = { of: "", any: false }; // whether there are others, in a list of that many rows
         this.goesOn = false;
         window.form.control("repeatAction").triggered.connect(guard("repeat", () => this.repeat()));
     }
@@ -26,6 +27,8 @@ export class Repeating {
             this.goesOn = false;
             this.last = run.keptSettings;
             this.done = before.concat(run.ids);
+            const isAll = before.length === 0 && run.ids.length === this.window.pictures.tickedCount;
+            this.found = { of: isAll ? this.listState() : "", any: false };
         }
         this.show();
     }
@@ -41,9 +44,23 @@ export class Repeating {
         return this.window.pictures.tickedIds().filter((id) => !done[id]);
     }
 
+    listState() {
+        const list = this.window.pictures;
+        return list.count + " " + list.tickedCount;
+    }
+
+    // To go through ten thousand rows takes a while, and this is asked after each change of anything.
+    hasLater() {
+        const state = this.listState();
+        if (this.found.of !== state) {
+            this.found = { of: state, any: this.later().length > 0 };
+        }
+        return this.found.any;
+    }
+
     show() {
         const entry = this.window.form.control("repeatAction");
-        entry.enabled = this.maker() !== null && !this.window.isBusy() && this.later().length > 0;
+        entry.enabled = this.maker() !== null && !this.window.isBusy() && this.hasLater();
     }
 
     /** Shows the action of a run, with the settings that it had; false where there is no such action any more. */
