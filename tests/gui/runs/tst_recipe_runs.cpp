@@ -69,7 +69,7 @@ private:
             paths.append(add(QStringLiteral("p%1.jpg").arg(i)));
         use(recipe);
         m_driver->drop(paths);
-        const QStringList planned = {QStringLiteral("ready"), QStringLiteral("replaces original")};
+        const QStringList planned = {QStringLiteral("Ready"), QStringLiteral("Replaces original")};
         QVERIFY(m_driver->waitFor([&] { return planned.contains(m_driver->cell(0, PictureModel::Status)); }));
         if (m_replacesOriginals)
             WindowDriver::answerNextQuestion(QStringLiteral("Replace"));
