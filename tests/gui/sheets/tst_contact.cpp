@@ -237,7 +237,8 @@ void Contact::saysWhatIsWrong()
     m_driver->control<QPlainTextEdit>("caption")->setPlainText(QStringLiteral("{name}"));
     QVERIFY(m_driver->waitFor([&] { return m_driver->control<QAbstractButton>("startButton")->isEnabled(); }));
     m_driver->control<QDoubleSpinBox>("marginTop")->setValue(290);
-    QVERIFY(m_driver->waitFor([&] { return m_driver->text("problemText").startsWith(QStringLiteral("There is no room")); }));
+    QVERIFY(m_driver->waitFor(
+        [&] { return m_driver->text("problemText").startsWith(QStringLiteral("There is no room")); }));
 }
 
 void Contact::keepsPresets()
