@@ -55,8 +55,8 @@ public:
     ~MovePlanning();
 
     /**
-     * Works for about this long, and always gets somewhere; true when the plan is made. Two things are done in one go: the listing
-     * of a folder, and telling whether folders are to go into each other.
+     * Works for about this long, and always gets somewhere; true when the plan is made. The names in a folder are asked of the disk in
+     * one go.
      */
     bool workFor(std::chrono::milliseconds time);
     const std::vector<MoveWish> &wishes() const { return m_wishes; }
