@@ -20,7 +20,17 @@ QString samplePictures(const QString &from, const QString &folder)
 
 void settle(WindowDriver &driver)
 {
-    QTest::qWait(900);
+    // A busy machine takes longer: until the window has looked the same for a while.
+    constexpr int stepMs = 300;
+    constexpr int stepsOfRest = 3;
+    constexpr int mostSteps = 100;
+    QImage before;
+    for (int step = 0, rest = 0; step < mostSteps && rest < stepsOfRest; ++step) {
+        QTest::qWait(stepMs);
+        const QImage now = driver.window().grab().toImage();
+        rest = now == before ? rest + 1 : 0;
+        before = now;
+    }
     driver.waitFor([] { return true; });
 }
 
