@@ -148,9 +148,12 @@ def check_keys(root):
 
 
 def check_sentences(root):
-    """What is said about recipes is said in the window too, in the language of that, if it is marked."""
-    return [f"{path.relative_to(root)}: not marked for translation: {text}" for path in sorted((root / "image/recipe").glob("*.cpp"))
-            for text in re.findall(r'\bsentence\(\s*"([^"]*)', path.read_text(encoding="utf-8"))]
+    """What is said about recipes, and why a file fails, is said in the window too, in the language of that, if it is marked."""
+    marked = [(path, "sentence") for path in sorted((root / "image/recipe").glob("*.cpp"))]
+    marked += [(path, "text") for path in sorted((root / "platform").rglob("*.cpp"))
+               if "QString text(const char *sentence)" in path.read_text(encoding="utf-8")]
+    return [f"{path.relative_to(root)}: not marked for translation: {text}" for path, function in marked
+            for text in re.findall(rf'\b{function}\(\s*"([^"]*)', path.read_text(encoding="utf-8"))]
 
 
 def fault_of(text, forms, has_count):

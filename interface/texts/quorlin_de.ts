@@ -6133,6 +6133,78 @@
         <source>there is not enough room for the metadata</source>
         <translation>für die Metadaten ist nicht genug Platz</translation>
     </message>
+    <message>
+        <source>this is not a picture</source>
+        <translation>dies ist kein Bild</translation>
+    </message>
+    <message>
+        <source>this type of file cannot hold a comment</source>
+        <translation>dieser Dateityp kann keinen Kommentar enthalten</translation>
+    </message>
+    <message>
+        <source>Cannot write the comment into %1: %2</source>
+        <translation>Der Kommentar kann nicht in %1 geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>the picture could not be read afterwards</source>
+        <translation>das Bild konnte danach nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>the comment could not be read afterwards</source>
+        <translation>der Kommentar konnte danach nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>a comment ends where it has a null character</source>
+        <translation>ein Kommentar endet, wo er ein Nullzeichen hat</translation>
+    </message>
+    <message>
+        <source>Cannot change the metadata of %1: %2</source>
+        <translation>Die Metadaten von %1 können nicht geändert werden: %2</translation>
+    </message>
+    <message>
+        <source>it cannot be read</source>
+        <translation>die Datei kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>the metadata could not be read afterwards</source>
+        <translation>die Metadaten konnten danach nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>it was changed since</source>
+        <translation>die Datei wurde seitdem geändert</translation>
+    </message>
+    <message>
+        <source>its sidecar is damaged</source>
+        <translation>die Begleitdatei ist beschädigt</translation>
+    </message>
+    <message>
+        <source>Cannot read %1: %2 x %3 pixels are more than the memory allows</source>
+        <translation>%1 kann nicht gelesen werden: %2 × %3 Pixel sind mehr, als der Arbeitsspeicher erlaubt</translation>
+    </message>
+    <message>
+        <source>its header is damaged</source>
+        <translation>der Dateikopf ist beschädigt</translation>
+    </message>
+    <message>
+        <source>no permission</source>
+        <translation>keine Berechtigung</translation>
+    </message>
+    <message>
+        <source>the file is cut short</source>
+        <translation>die Datei ist unvollständig</translation>
+    </message>
+    <message>
+        <source>There is no image %1</source>
+        <translation>Es gibt kein Bild %1</translation>
+    </message>
+    <message>
+        <source>There is nothing of the picture in that part</source>
+        <translation>In diesem Teil liegt nichts vom Bild</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <translation>keine solche Datei</translation>
+    </message>
 </context>
 <context>
     <name>preferences</name>

@@ -6133,6 +6133,78 @@
         <source>there is not enough room for the metadata</source>
         <translation>il n’y a pas assez de place pour les métadonnées</translation>
     </message>
+    <message>
+        <source>this is not a picture</source>
+        <translation>ce n’est pas une image</translation>
+    </message>
+    <message>
+        <source>this type of file cannot hold a comment</source>
+        <translation>ce type de fichier ne peut pas contenir de commentaire</translation>
+    </message>
+    <message>
+        <source>Cannot write the comment into %1: %2</source>
+        <translation>Le commentaire ne peut pas être écrit dans %1 : %2</translation>
+    </message>
+    <message>
+        <source>the picture could not be read afterwards</source>
+        <translation>l’image n’a pas pu être lue ensuite</translation>
+    </message>
+    <message>
+        <source>the comment could not be read afterwards</source>
+        <translation>le commentaire n’a pas pu être lu ensuite</translation>
+    </message>
+    <message>
+        <source>a comment ends where it has a null character</source>
+        <translation>un commentaire s’arrête à son premier caractère nul</translation>
+    </message>
+    <message>
+        <source>Cannot change the metadata of %1: %2</source>
+        <translation>Les métadonnées de %1 ne peuvent pas être modifiées : %2</translation>
+    </message>
+    <message>
+        <source>it cannot be read</source>
+        <translation>le fichier ne peut pas être lu</translation>
+    </message>
+    <message>
+        <source>the metadata could not be read afterwards</source>
+        <translation>les métadonnées n’ont pas pu être lues ensuite</translation>
+    </message>
+    <message>
+        <source>it was changed since</source>
+        <translation>le fichier a été modifié depuis</translation>
+    </message>
+    <message>
+        <source>its sidecar is damaged</source>
+        <translation>son fichier annexe est endommagé</translation>
+    </message>
+    <message>
+        <source>Cannot read %1: %2 x %3 pixels are more than the memory allows</source>
+        <translation>%1 ne peut pas être lu : %2 × %3 pixels dépassent la mémoire disponible</translation>
+    </message>
+    <message>
+        <source>its header is damaged</source>
+        <translation>son en-tête est endommagé</translation>
+    </message>
+    <message>
+        <source>no permission</source>
+        <translation>accès refusé</translation>
+    </message>
+    <message>
+        <source>the file is cut short</source>
+        <translation>le fichier est incomplet</translation>
+    </message>
+    <message>
+        <source>There is no image %1</source>
+        <translation>Il n’y a pas d’image %1</translation>
+    </message>
+    <message>
+        <source>There is nothing of the picture in that part</source>
+        <translation>Cette partie ne contient rien de l’image</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <translation>fichier introuvable</translation>
+    </message>
 </context>
 <context>
     <name>preferences</name>

@@ -6133,6 +6133,78 @@
         <source>there is not enough room for the metadata</source>
         <translation>er is niet genoeg ruimte voor de metadata</translation>
     </message>
+    <message>
+        <source>this is not a picture</source>
+        <translation>dit is geen afbeelding</translation>
+    </message>
+    <message>
+        <source>this type of file cannot hold a comment</source>
+        <translation>dit bestandstype kan geen opmerking bevatten</translation>
+    </message>
+    <message>
+        <source>Cannot write the comment into %1: %2</source>
+        <translation>De opmerking kan niet in %1 worden geschreven: %2</translation>
+    </message>
+    <message>
+        <source>the picture could not be read afterwards</source>
+        <translation>de afbeelding kon daarna niet worden gelezen</translation>
+    </message>
+    <message>
+        <source>the comment could not be read afterwards</source>
+        <translation>de opmerking kon daarna niet worden gelezen</translation>
+    </message>
+    <message>
+        <source>a comment ends where it has a null character</source>
+        <translation>een opmerking eindigt bij een nulteken</translation>
+    </message>
+    <message>
+        <source>Cannot change the metadata of %1: %2</source>
+        <translation>De metadata van %1 kunnen niet worden gewijzigd: %2</translation>
+    </message>
+    <message>
+        <source>it cannot be read</source>
+        <translation>het bestand kan niet worden gelezen</translation>
+    </message>
+    <message>
+        <source>the metadata could not be read afterwards</source>
+        <translation>de metadata konden daarna niet worden gelezen</translation>
+    </message>
+    <message>
+        <source>it was changed since</source>
+        <translation>het bestand is sindsdien gewijzigd</translation>
+    </message>
+    <message>
+        <source>its sidecar is damaged</source>
+        <translation>het sidecarbestand is beschadigd</translation>
+    </message>
+    <message>
+        <source>Cannot read %1: %2 x %3 pixels are more than the memory allows</source>
+        <translation>%1 kan niet worden gelezen: %2 × %3 pixels zijn meer dan het geheugen toelaat</translation>
+    </message>
+    <message>
+        <source>its header is damaged</source>
+        <translation>de bestandskop is beschadigd</translation>
+    </message>
+    <message>
+        <source>no permission</source>
+        <translation>geen toestemming</translation>
+    </message>
+    <message>
+        <source>the file is cut short</source>
+        <translation>het bestand is onvolledig</translation>
+    </message>
+    <message>
+        <source>There is no image %1</source>
+        <translation>Er is geen afbeelding %1</translation>
+    </message>
+    <message>
+        <source>There is nothing of the picture in that part</source>
+        <translation>In dat deel ligt niets van de afbeelding</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <translation>bestand niet gevonden</translation>
+    </message>
 </context>
 <context>
     <name>preferences</name>

@@ -103,6 +103,13 @@ class Texts(unittest.TestCase):
         self.assertEqual(status, 0, said)
         self.assertIn("5 texts, 1 of them with counts", said)
 
+    def test_finds_sentences_that_are_not_marked(self):
+        helper = 'QString text(const char *sentence) { return QCoreApplication::translate("platform", sentence); }\n'
+        self.write("platform/file.cpp", helper + 'QString f() { return text("it is damaged"); }\n')
+        status, said = self.check()
+        self.assertEqual(status, 1)
+        self.assertIn("platform/file.cpp: not marked for translation: it is damaged", said)
+
     def test_finds_faults_of_tables(self):
         self.table("nl", "Localizable", {})
         self.assert_finds("nl/Localizable.json: no text for isSave")

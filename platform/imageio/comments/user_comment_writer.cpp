@@ -37,9 +37,10 @@ Result<QList<Splice>> splicesFor(QFile &file, Content content, const QString &co
     case Content::Webp:
         return webpCommentSplices(file, comment);
     case Content::Unknown:
-        return failure(ErrorCode::NotAPicture, text("this is not a picture"));
+        return failure(ErrorCode::NotAPicture, text(QT_TRANSLATE_NOOP("platform", "this is not a picture")));
     default:
-        return failure(ErrorCode::Unsupported, text("this type of file cannot hold a comment"));
+        return failure(ErrorCode::Unsupported,
+                       text(QT_TRANSLATE_NOOP("platform", "this type of file cannot hold a comment")));
     }
 }
 
@@ -62,7 +63,7 @@ struct Edit
 
 tl::unexpected<Error> unwritten(const QString &path, ErrorCode code, const QString &reason)
 {
-    return failure(code, text("Cannot write the comment into %1: %2").arg(path, reason));
+    return failure(code, text(QT_TRANSLATE_NOOP("platform", "Cannot write the comment into %1: %2")).arg(path, reason));
 }
 
 /** @param file  open, with the path as its name */
@@ -87,17 +88,20 @@ Result<void> checkEdited(const Edit &edit, const Result<ImageSource> &edited, co
                                edited->orientation() == edit.before.orientation() &&
                                edited->typeIdentifier() == edit.before.typeIdentifier();
     if (!isSamePicture)
-        return unwritten(path, ErrorCode::Unreadable, text("the picture could not be read afterwards"));
+        return unwritten(path, ErrorCode::Unreadable,
+                         text(QT_TRANSLATE_NOOP("platform", "the picture could not be read afterwards")));
     const Result<Metadata> written = edited->metadata();
     if (!written || written->userComment() != comment)
-        return unwritten(path, ErrorCode::Unreadable, text("the comment could not be read afterwards"));
+        return unwritten(path, ErrorCode::Unreadable,
+                         text(QT_TRANSLATE_NOOP("platform", "the comment could not be read afterwards")));
     return {};
 }
 
 Result<void> refuseNull(const QString &path, const QString &comment)
 {
     if (comment.contains(QChar::Null))
-        return unwritten(path, ErrorCode::InvalidValue, text("a comment ends where it has a null character"));
+        return unwritten(path, ErrorCode::InvalidValue,
+                         text(QT_TRANSLATE_NOOP("platform", "a comment ends where it has a null character")));
     return {};
 }
 
@@ -166,7 +170,8 @@ Result<void> writeUserComment(const QString &path, const QString &comment)
     if (edit->splices.isEmpty())
         return {};
     if (::faccessat(AT_FDCWD, encodedPath(path).constData(), W_OK, AT_EACCESS) != 0) // whoever protected it meant it
-        return unwritten(path, ErrorCode::WriteFailed, text("the file is write-protected"));
+        return unwritten(path, ErrorCode::WriteFailed,
+                         text(QT_TRANSLATE_NOOP("platform", "the file is write-protected")));
     return spliceFile(file, edit->splices, [&](const QString &editedPath) {
         return checkEdited(*edit, ImageSource::open(editedPath), path, comment);
     });

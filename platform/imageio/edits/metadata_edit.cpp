@@ -38,7 +38,7 @@ QString text(const char *sentence)
 
 tl::unexpected<Error> unwritten(const QString &path, ErrorCode code, const QString &reason)
 {
-    return failure(code, text("Cannot change the metadata of %1: %2").arg(path, reason));
+    return failure(code, text(QT_TRANSLATE_NOOP("platform", "Cannot change the metadata of %1: %2")).arg(path, reason));
 }
 
 bool openLent(QFile &file, const LentFile &lent)
@@ -56,10 +56,10 @@ template<typename Take> auto mapped(QFile &file, Take take) -> decltype(take(QBy
 {
     const MappedFile map(file);
     if (!map.isThere())
-        return failure(ErrorCode::Unreadable, text("it cannot be read"));
+        return failure(ErrorCode::Unreadable, text(QT_TRANSLATE_NOOP("platform", "it cannot be read")));
     auto taken = take(map.bytes());
     if (map.isSpoilt())
-        return failure(ErrorCode::Unreadable, text("it cannot be read"));
+        return failure(ErrorCode::Unreadable, text(QT_TRANSLATE_NOOP("platform", "it cannot be read")));
     return taken;
 }
 
@@ -108,10 +108,11 @@ Result<QList<Splice>> splicesFor(NamedFile &file, const MetadataEdit &edit, QLis
 {
     const Content content = contentIn(file);
     if (content == Content::Unknown)
-        return failure(ErrorCode::NotAPicture, text("this is not a picture"));
+        return failure(ErrorCode::NotAPicture, text(QT_TRANSLATE_NOOP("platform", "this is not a picture")));
     return mapped(file, [&](const QByteArray &bytes) -> Result<QList<Splice>> {
         if (!changesInPlace(content, bytes))
-            return failure(ErrorCode::Unsupported, text("this type of file cannot hold metadata of its own"));
+            return failure(ErrorCode::Unsupported,
+                           text(QT_TRANSLATE_NOOP("platform", "this type of file cannot hold metadata of its own")));
         const StatedMetadata::Blocks blocks{statedBlocks(content, bytes), true, false};
         const auto change = edit.change(StatedMetadata(blocks));
         if (!change)
@@ -146,11 +147,13 @@ Result<void> checkEdited(const Edit &edit, const Result<ImageSource> &edited,
                                edited->imageCount() == edit.before.imageCount() &&
                                edited->typeIdentifier() == edit.before.typeIdentifier();
     if (!isSamePicture)
-        return unwritten(path, ErrorCode::Unreadable, text("the picture could not be read afterwards"));
+        return unwritten(path, ErrorCode::Unreadable,
+                         text(QT_TRANSLATE_NOOP("platform", "the picture could not be read afterwards")));
     bool done = false;
     const auto read = readMetadata(file, {}, [&](const StatedMetadata &stated) { done = isDone(stated); });
     if (!read || !done)
-        return unwritten(path, ErrorCode::Unreadable, text("the metadata could not be read afterwards"));
+        return unwritten(path, ErrorCode::Unreadable,
+                         text(QT_TRANSLATE_NOOP("platform", "the metadata could not be read afterwards")));
     return {};
 }
 
@@ -234,7 +237,8 @@ Result<EditedMetadata> editMetadata(const QString &path, const MetadataEdit &edi
     if (made->splices.isEmpty())
         return EditedMetadata();
     if (::faccessat(AT_FDCWD, encodedPath(path).constData(), W_OK, AT_EACCESS) != 0) // whoever protected it meant it
-        return unwritten(path, ErrorCode::WriteFailed, text("the file is write-protected"));
+        return unwritten(path, ErrorCode::WriteFailed,
+                         text(QT_TRANSLATE_NOOP("platform", "the file is write-protected")));
     const auto written = spliceFile(file, made->splices, [&](const QString &editedPath) -> Result<void> {
         const auto edited = lentFile(editedPath);
         if (!edited)
@@ -278,11 +282,12 @@ Result<void> revertMetadata(const std::shared_ptr<const LentFile> &picture, int 
 {
     const QString &path = picture->name();
     if (digest.isEmpty() || digestOf(*picture) != digest)
-        return unwritten(path, ErrorCode::InvalidValue, text("it was changed since"));
+        return unwritten(path, ErrorCode::InvalidValue, text(QT_TRANSLATE_NOOP("platform", "it was changed since")));
     if (const int problem = copySpliced(picture->descriptor(), undo, copy); problem != 0)
         return unwritten(path, ErrorCode::WriteFailed, QString::fromLocal8Bit(std::strerror(problem)));
     if (const auto edited = ImageSource::fromLent(copyToRead); !edited)
-        return unwritten(path, ErrorCode::Unreadable, text("the picture could not be read afterwards"));
+        return unwritten(path, ErrorCode::Unreadable,
+                         text(QT_TRANSLATE_NOOP("platform", "the picture could not be read afterwards")));
     return {};
 }
 
@@ -290,7 +295,8 @@ Result<QByteArray> editedSidecar(const std::shared_ptr<const LentFile> &picture,
                                  const MetadataEdit &edit)
 {
     const auto damaged = [&] {
-        return unwritten(picture->name(), ErrorCode::Unreadable, text("its sidecar is damaged"));
+        return unwritten(picture->name(), ErrorCode::Unreadable,
+                         text(QT_TRANSLATE_NOOP("platform", "its sidecar is damaged")));
     };
     if (!isDigestibleXmp(sidecar))
         return damaged();
@@ -317,7 +323,7 @@ Result<bool> hasMetadataInPlace(const LentFile &picture)
         return failure(ErrorCode::Unreadable, file.errorString());
     const Content content = contentIn(file);
     if (content == Content::Unknown)
-        return failure(ErrorCode::NotAPicture, text("this is not a picture"));
+        return failure(ErrorCode::NotAPicture, text(QT_TRANSLATE_NOOP("platform", "this is not a picture")));
     return mapped(file, [&](const QByteArray &bytes) -> Result<bool> { return changesInPlace(content, bytes); });
 }
 

@@ -15,6 +15,7 @@
 #include "platform/imageio/png/png_chunks.h"
 #include "platform/imageio/png/png_exif_text.h"
 
+#include <QCoreApplication>
 #include <QtEndian>
 
 #include <algorithm>
@@ -280,7 +281,8 @@ Splices jpeg2000Splices(const QByteArray &bytes, BlockEditor &editor)
     };
     const auto pixels = has("jp2c");
     if (pixels == boxes.end()) // bare pixels have no place for it
-        return failure(ErrorCode::Unsupported, QStringLiteral("this type of file cannot hold metadata of its own"));
+        return failure(ErrorCode::Unsupported,
+                       QCoreApplication::translate("platform", "this type of file cannot hold metadata of its own"));
     const HeldBox oldExif = boxOfKind(bytes, boxes, exifIdentifier);
     const HeldBox oldXmp = boxOfKind(bytes, boxes, xmpIdentifier);
     const HeldBox oldIptc = boxOfKind(bytes, boxes, iptcIdentifier);
@@ -308,7 +310,8 @@ Splices jpeg2000Splices(const QByteArray &bytes, BlockEditor &editor)
         return splice.at <= pixels->at && splice.removed != splice.inserted.size();
     });
     if (moves && has("ftbl") != boxes.end()) // a table of places in the file
-        return failure(ErrorCode::Unsupported, QStringLiteral("this type of file cannot hold metadata of its own"));
+        return failure(ErrorCode::Unsupported,
+                       QCoreApplication::translate("platform", "this type of file cannot hold metadata of its own"));
     return inOrder(splices, bytes.size());
 }
 

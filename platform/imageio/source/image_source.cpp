@@ -37,10 +37,11 @@ QString text(const char *sentence)
 
 tl::unexpected<Error> tooLarge(const QString &name, QSize size)
 {
-    return failure(ErrorCode::TooLarge, text("Cannot read %1: %2 x %3 pixels are more than the memory allows")
-                                            .arg(name)
-                                            .arg(size.width())
-                                            .arg(size.height()));
+    return failure(ErrorCode::TooLarge,
+                   text(QT_TRANSLATE_NOOP("platform", "Cannot read %1: %2 x %3 pixels are more than the memory allows"))
+                       .arg(name)
+                       .arg(size.width())
+                       .arg(size.height()));
 }
 
 /** The picture in the form that is asked for; only TIFF files hold others than the plain ones. */
@@ -97,7 +98,7 @@ Result<void> readPlainHeader(File &file)
 {
     file.storedSize = claimedSize(file.bytes, file.content);
     if (file.storedSize.isEmpty())
-        return unreadable(file.name(), text("its header is damaged"));
+        return unreadable(file.name(), text(QT_TRANSLATE_NOOP("platform", "its header is damaged")));
     constexpr int deepRgba = 8;
     if (!fitsMemoryBudget(file.storedSize.width(), file.storedSize.height(), deepRgba, 1))
         return tooLarge(file.name(), file.storedSize);
@@ -148,9 +149,10 @@ Result<std::shared_ptr<const File>> opened(PictureBytes bytes)
     const std::unique_ptr<QIODevice> device = file->bytes.device();
     if (!device) {
         const bool exists = ::access(encodedPath(file->bytes.path).constData(), F_OK) == 0;
-        return failure(
-            ErrorCode::NotFound,
-            text("Cannot read %1: %2").arg(file->name(), exists ? text("no permission") : text("no such file")));
+        return failure(ErrorCode::NotFound,
+                       text(QT_TRANSLATE_NOOP("platform", "Cannot read %1: %2"))
+                           .arg(file->name(), exists ? text(QT_TRANSLATE_NOOP("platform", "no permission"))
+                                                     : text(QT_TRANSLATE_NOOP("platform", "no such file"))));
     }
     const QByteArray head = device->read(contentHeadBytes);
     if (const QString problem = readProblemOf(*device); !problem.isEmpty())
@@ -163,10 +165,11 @@ Result<std::shared_ptr<const File>> opened(PictureBytes bytes)
             return tl::unexpected(used.error());
     if (file->content == Content::Unknown && isRawWhole)
         return failure(ErrorCode::NotAPicture,
-                       text("Cannot read %1: %2").arg(file->name(), text("this is not a picture")));
+                       text(QT_TRANSLATE_NOOP("platform", "Cannot read %1: %2"))
+                           .arg(file->name(), text(QT_TRANSLATE_NOOP("platform", "this is not a picture"))));
     const std::unique_ptr<QIODevice> decoded = file->isRaw() ? file->bytes.device() : nullptr;
     if (!isRawWhole || !isWhole(decoded ? *decoded : *device, file->content))
-        return unreadable(file->name(), text("the file is cut short"));
+        return unreadable(file->name(), text(QT_TRANSLATE_NOOP("platform", "the file is cut short")));
     try {
         const Result<void> known = hasPlainHeader(file->content) ? readPlainHeader(*file) : readHeader(*file);
         if (!known)
@@ -224,7 +227,7 @@ LoadOptions loadOptionsFor(const File &file, QSize wanted)
 
 tl::unexpected<Error> unreadable(const QString &name, const QString &reason)
 {
-    return failure(ErrorCode::Unreadable, text("Cannot read %1: %2").arg(name, reason));
+    return failure(ErrorCode::Unreadable, text(QT_TRANSLATE_NOOP("platform", "Cannot read %1: %2")).arg(name, reason));
 }
 
 Result<Metadata> ImageSource::metadata() const
@@ -321,7 +324,8 @@ int ImageSource::orientation() const
 Result<Bitmap> ImageSource::decode(const DecodeOptions &options) const
 {
     if (!m_file || options.index < 0 || options.index >= m_file->imageCount)
-        return failure(ErrorCode::InvalidValue, text("There is no image %1").arg(options.index));
+        return failure(ErrorCode::InvalidValue,
+                       text(QT_TRANSLATE_NOOP("platform", "There is no image %1")).arg(options.index));
     try {
         initVips();
         LoadOptions load;
@@ -346,7 +350,8 @@ Result<Bitmap> ImageSource::decodePart(const QRect &part, Forms forms) const
     const QRect whole(QPoint(0, 0), uprightSize());
     const QRect kept = part.intersected(whole);
     if (!m_file || kept.isEmpty())
-        return failure(ErrorCode::InvalidValue, text("There is nothing of the picture in that part"));
+        return failure(ErrorCode::InvalidValue,
+                       text(QT_TRANSLATE_NOOP("platform", "There is nothing of the picture in that part")));
     if (kept == whole)
         return decode({.forms = forms});
     try {
@@ -377,11 +382,13 @@ Result<Bitmap> ImageSource::decodeAtLeast(QSize size) const
 Result<Bitmap> ImageSource::decodeFor(QSize size, Scaling scaling, Forms forms) const
 {
     if (!m_file)
-        return failure(ErrorCode::InvalidValue, text("There is no picture to scale"));
+        return failure(ErrorCode::InvalidValue, text(QT_TRANSLATE_NOOP("platform", "There is no picture to scale")));
     const QSize wanted = turned(size, m_file->orientation);
     if (wanted.width() < 1 || wanted.height() < 1)
         return failure(ErrorCode::InvalidValue,
-                       text("A picture of %1 × %2 pixels cannot be made").arg(size.width()).arg(size.height()));
+                       text(QT_TRANSLATE_NOOP("platform", "A picture of %1 × %2 pixels cannot be made"))
+                           .arg(size.width())
+                           .arg(size.height()));
     try {
         initVips();
         const LoadOptions load = loadOptionsFor(*m_file, wanted);
@@ -391,7 +398,9 @@ Result<Bitmap> ImageSource::decodeFor(QSize size, Scaling scaling, Forms forms) 
             image = withWholeEdges(image, m_file->storedSize, shrink);
         if (!fitsMemoryBudget(wanted.width(), wanted.height(), image.bands(), bytesPerComponent(image)))
             return failure(ErrorCode::TooLarge,
-                           text("A picture of %1 × %2 pixels cannot be made").arg(size.width()).arg(size.height()));
+                           text(QT_TRANSLATE_NOOP("platform", "A picture of %1 × %2 pixels cannot be made"))
+                               .arg(size.width())
+                               .arg(size.height()));
         const QSize decoded(image.width(), image.height());
         const QSize made = scaling == Scaling::Exact ? wanted : decoded;
         if (const auto left = memoryIsLeftToDecode(*m_file, image, {made, m_file->orientation > 1}); !left)
