@@ -44,14 +44,6 @@ const ResizeOperation *shrinkingResize(const Operation &operation, const Stage &
     return scaled.width() < stage.size.width() && scaled.height() <= stage.size.height() ? resize : nullptr;
 }
 
-/** As many pixels as a decoder that shrinks has to give for a result that shows nothing of it. */
-constexpr int finerTimes = 3;
-
-QSize finerThan(QSize size)
-{
-    return size * finerTimes;
-}
-
 /** The resize, where that is all that happens to the pixels, and nothing but a cut at a known place belongs to it. */
 std::optional<platform::JpegResize> onlyResize(const QList<RecipeStep> &steps, const Stage &stage)
 {
@@ -66,7 +58,7 @@ std::optional<platform::JpegResize> onlyResize(const QList<RecipeStep> &steps, c
     if (fitting.canvas != fitting.cut)
         return std::nullopt;
     const QRect kept(placeOf(resize->position, fitting.cut, fitting.scaled), fitting.cut);
-    return platform::JpegResize{fitting.scaled, kept, finerTimes};
+    return platform::JpegResize{.size = fitting.scaled, .kept = kept, .isFine = true};
 }
 
 /** Decodes a picture for a list of operations, as few pixels as they need. */
@@ -99,21 +91,8 @@ public:
 private:
     Result<Rendition> scaled(const ResizeOperation &resize) const
     {
-        return scaledPixels(fittingOf(resize, m_stage).scaled).and_then([&](const Bitmap &bitmap) {
+        return m_source.decodeScaledFinely(fittingOf(resize, m_stage).scaled).and_then([&](const Bitmap &bitmap) {
             return fittedInto(bitmap, resize, stageLike(bitmap));
-        });
-    }
-
-    /**
-     * A decoder of JPEG shrinks block by block, which a resampling to a third of that makes good again; others hand out rows that are
-     * resampled as they come.
-     */
-    Result<Bitmap> scaledPixels(QSize size) const
-    {
-        if (ownTypeOf(m_source) != OutputType::Jpeg)
-            return m_source.decodeScaled(size);
-        return m_source.decodeAtLeast(finerThan(size)).and_then([size](const Bitmap &bitmap) {
-            return platform::resample(bitmap, size);
         });
     }
 
@@ -218,7 +197,7 @@ private:
         for (const int index : indices)
             needed = needed.expandedTo(neededBy(index));
         const bool shrinks = needed.width() < m_stage.size.width() && needed.height() < m_stage.size.height();
-        const Result<Bitmap> bitmap = shrinks ? m_source.decodeAtLeast(finerThan(needed)) : m_source.decode();
+        const Result<Bitmap> bitmap = shrinks ? m_source.decodeFinely(needed) : m_source.decode();
         const Result<Rendition> start = bitmap.map([this](const Bitmap &pixels) {
             Stage stage = stageOf(pixels);
             stage.size = m_stage.size;

@@ -10,6 +10,7 @@
 #include "platform/imageio/source/opened_file.h"
 #include "platform/planes/plane_scaler.h"
 
+#include <algorithm>
 #include <new>
 
 namespace platform {
@@ -88,6 +89,25 @@ std::optional<JpegPlanes> scaledPlanes(const DecodedPlanes &decoded, const Direc
     return scaled;
 }
 
+int shrinkFor(QSize stored, const JpegResize &resize)
+{
+    return resize.isFine ? std::min(mostFineShrink, jpegShrinkFor(stored, resize.size * finerTimes))
+                         : jpegShrinkFor(stored, resize.size * resize.finer);
+}
+
+/** As isLineArt() has it for pictures. */
+bool isLineArt(const Plane &brightness)
+{
+    constexpr double share = 0.1;
+    constexpr uchar nearly = 2;
+    constexpr uchar most = 255;
+    const auto isPaper = [](uchar sample) { return sample <= nearly || sample >= most - nearly; };
+    qint64 count = 0;
+    for (int y = 0; y < brightness.height(); ++y)
+        count += std::count_if(brightness.row(y), brightness.row(y) + brightness.width(), isPaper);
+    return double(count) > share * brightness.width() * brightness.height();
+}
+
 /** Scales the rows as the decoder gives them, so that planes at full size are never whole. */
 std::optional<JpegPlanes> scaledRows(PlaneRows &decoder, const Directions &directions, QSize sampling)
 {
@@ -113,7 +133,7 @@ std::optional<JpegPlanes> scaledRows(PlaneRows &decoder, const Directions &direc
 
 /** The planes at the new size; none where the file is one for the plain way. */
 std::optional<JpegPlanes> newPlanes(const QByteArray &jpeg, int shrink, const Directions &directions,
-                                    const JpegSettings &settings)
+                                    const JpegSettings &settings, bool isFine)
 {
     if (shrink == 1) {
         PlaneRows decoder(jpeg);
@@ -121,8 +141,10 @@ std::optional<JpegPlanes> newPlanes(const QByteArray &jpeg, int shrink, const Di
             return scaledRows(decoder, directions, jpegSampling(settings, decoder.planes()));
     }
     const std::optional<DecodedPlanes> decoded = decodedPlanes(jpeg, shrink);
-    return decoded ? scaledPlanes(*decoded, directions, jpegSampling(settings, int(decoded->planes.size())))
-                   : std::nullopt;
+    const bool isToBeWhole = decoded && isFine && shrink > 1 && isLineArt(decoded->planes.front());
+    return decoded && !isToBeWhole
+               ? scaledPlanes(*decoded, directions, jpegSampling(settings, int(decoded->planes.size())))
+               : std::nullopt;
 }
 
 std::optional<QByteArray> resizedFile(const ImageSource::File &file, const JpegResize &resize,
@@ -130,7 +152,7 @@ std::optional<QByteArray> resizedFile(const ImageSource::File &file, const JpegR
 {
     const QByteArray jpeg = file.bytes.all();
     const std::optional<PlaneFacts> facts = planeFacts(jpeg);
-    const int shrink = jpegShrinkFor(file.storedSize, resize.size * resize.finer);
+    const int shrink = shrinkFor(file.storedSize, resize);
     if (!facts || facts->stored != file.storedSize || !isMemoryLeft(*facts, jpeg.size(), resize, shrink))
         return std::nullopt;
     const bool statesResolution = options.resolution == WriteResolution::Yes;
@@ -145,7 +167,7 @@ std::optional<QByteArray> resizedFile(const ImageSource::File &file, const JpegR
         newPlanes(jpeg, shrink,
                   {{pixels(facts->stored.width(), resize.size.width()), resize.kept.x(), resize.kept.width()},
                    {pixels(facts->stored.height(), resize.size.height()), resize.kept.y(), resize.kept.height()}},
-                  settings);
+                  settings, resize.isFine);
     if (!planes)
         return std::nullopt;
     EncodeOptions known = options;

@@ -17,6 +17,8 @@ struct JpegResize
      * is more than 0.3 dB further from what Lanczos makes of all pixels than that one's own JPEG; see bench/quality.
      */
     double finer = 1.5;
+    /** Whether the result may show nothing of how the decoder shrinks, as ImageSource::decodeFinely() has it; finer is without a meaning. */
+    bool isFine = false;
 };
 
 /**

@@ -30,23 +30,36 @@ VImage withWholeEdges(const VImage &image, QSize stored, int shrink)
     return enlarged(image, {shrunk(stored.width()), shrunk(stored.height())});
 }
 
-VImage scaledFromShrunk(const VImage &image, QSize stored, int shrink, QSize wanted)
+bool isLineArt(const VImage &image)
+{
+    constexpr double share = 0.1;
+    constexpr double nearly = 2; // ringing dims the paper a little
+    constexpr double isTrue = 255;
+    const VImage paper = (image >= opaqueValue(image) - nearly) | (image <= nearly);
+    return paper.avg() > share * isTrue;
+}
+
+VImage fittingFromShrunk(const VImage &image, QSize stored, int shrink)
 {
     const VImage whole = withWholeEdges(image, stored, shrink);
     const double across = double(whole.width()) * shrink / stored.width();
     const double down = double(whole.height()) * shrink / stored.height();
     if (across == 1 && down == 1)
-        return scaledTo(whole, wanted);
+        return whole;
     // What the last column stands for is less than it shows: all are drawn a little wider, until it ends at the edge.
     const auto offset = [](double scale) { return (scale - 1) / 2; }; // between the centres of the first pixels
-    const VImage fitting = inMemory(whole).affine(
-        {across, 0, 0, down}, VImage::option()
-                                  ->set("oarea", std::vector<int>{0, 0, whole.width(), whole.height()})
-                                  ->set("odx", offset(across))
-                                  ->set("ody", offset(down))
-                                  ->set("extend", VIPS_EXTEND_COPY)
-                                  ->set("interpolate", vips::VInterpolate::new_from_name("bicubic")));
-    return scaledTo(fitting, wanted);
+    return inMemory(whole).affine({across, 0, 0, down},
+                                  VImage::option()
+                                      ->set("oarea", std::vector<int>{0, 0, whole.width(), whole.height()})
+                                      ->set("odx", offset(across))
+                                      ->set("ody", offset(down))
+                                      ->set("extend", VIPS_EXTEND_COPY)
+                                      ->set("interpolate", vips::VInterpolate::new_from_name("bicubic")));
+}
+
+VImage scaledFromShrunk(const VImage &image, QSize stored, int shrink, QSize wanted)
+{
+    return scaledTo(fittingFromShrunk(image, stored, shrink), wanted);
 }
 
 } // namespace platform

@@ -379,6 +379,24 @@ Result<Bitmap> ImageSource::decodeAtLeast(QSize size) const
     return decodeFor(size, Scaling::AtLeast, Forms::Plain);
 }
 
+Result<Bitmap> ImageSource::decodeFinely(QSize size) const
+{
+    const QSize all = uprightSize();
+    const QSize leastAtMostShrink = all / (2 * mostFineShrink) + QSize(1, 1); // the next step gives fewer
+    const QSize wanted = (finerTimes * size).expandedTo(leastAtMostShrink);
+    if (!m_file || m_file->content != Content::Jpeg || jpegShrinkFor(all, wanted) == 1)
+        return decode();
+    const Result<Bitmap> shrunk = decodeFor(wanted, Scaling::Fitting, Forms::Plain);
+    return shrunk && isLineArt(shrunk->pixels().image) ? decode() : shrunk;
+}
+
+Result<Bitmap> ImageSource::decodeScaledFinely(QSize size) const
+{
+    if (!m_file || m_file->content != Content::Jpeg)
+        return decodeScaled(size);
+    return decodeFinely(size).and_then([size](const Bitmap &bitmap) { return resample(bitmap, size); });
+}
+
 Result<Bitmap> ImageSource::decodeFor(QSize size, Scaling scaling, Forms forms) const
 {
     if (!m_file)
@@ -405,6 +423,8 @@ Result<Bitmap> ImageSource::decodeFor(QSize size, Scaling scaling, Forms forms) 
         const QSize made = scaling == Scaling::Exact ? wanted : decoded;
         if (const auto left = memoryIsLeftToDecode(*m_file, image, {made, m_file->orientation > 1}); !left)
             return tl::unexpected<Error>(left.error());
+        if (scaling == Scaling::Fitting)
+            image = fittingFromShrunk(image, m_file->storedSize, shrink);
         if (scaling == Scaling::Exact)
             image = shrink > 1 ? scaledFromShrunk(image, m_file->storedSize, shrink, wanted) : scaledTo(image, wanted);
         if (m_file->orientation > 1)

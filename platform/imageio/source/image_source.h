@@ -104,6 +104,15 @@ public:
      */
     Result<Bitmap> decodeScaled(QSize size, Forms forms = Forms::Plain) const;
 
+    /**
+     * As decodeScaled(), for results that show nothing of how a decoder of JPEG shrinks: it gives many times the size, and of line art,
+     * where that is not enough, all pixels.
+     */
+    Result<Bitmap> decodeScaledFinely(QSize size) const;
+
+    /** What decodeScaledFinely() scales: for several results of one decode, the largest of which has @p size. */
+    Result<Bitmap> decodeFinely(QSize size) const;
+
     /** As decodeScaled(), left at the size that the decoder gives; less than @p size only where the picture is. */
     Result<Bitmap> decodeAtLeast(QSize size) const;
 
@@ -112,7 +121,7 @@ public:
     const File *file() const { return m_file.get(); }
 
 private:
-    enum class Scaling { Exact, AtLeast };
+    enum class Scaling { Exact, AtLeast, Fitting };
     explicit ImageSource(std::shared_ptr<const File> file) : m_file(std::move(file)) {}
     Result<Bitmap> decodeFor(QSize size, Scaling scaling, Forms forms) const;
     std::shared_ptr<const File> m_file;
