@@ -157,7 +157,7 @@ void TestListTools::theListIsExported()
     QCOMPARE(lines.at(1), QStringLiteral("no,a.jpg,%1,2026-08-14T10:20:30,Camera A,30,20,%2,JPEG,,,Left out")
                               .arg(m_driver->inputFolder(), bytes));
     QVERIFY2(lines.at(2).startsWith(QStringLiteral("yes,\"b, \"\"c\"\".jpg\",")), qPrintable(lines.at(2)));
-    QVERIFY2(lines.at(2).endsWith(QStringLiteral(",ready")), qPrintable(lines.at(2)));
+    QVERIFY2(lines.at(2).endsWith(QStringLiteral(",Ready")), qPrintable(lines.at(2)));
     QCOMPARE(lines.size(), 4);
 }
 
