@@ -224,10 +224,10 @@ void MetadataForm::writesIntoTheSelectedOnly()
     Q_EMIT m_driver->control<window::SegmentedControl>("mfScope")->chosen(1);
     line("mfTitle")->setText(QStringLiteral("Only this"));
     QVERIFY(planned(1, QStringLiteral("Only this")));
-    QVERIFY(m_driver->waitFor([this] { return status(0) == QStringLiteral("not selected"); }));
+    QVERIFY(m_driver->waitFor([this] { return status(0) == QStringLiteral("Not selected"); }));
     list.selectId(list.ids().at(2).toInt());
     QVERIFY(planned(2, QStringLiteral("Only this")));
-    QVERIFY(m_driver->waitFor([this] { return status(1) == QStringLiteral("not selected"); }));
+    QVERIFY(m_driver->waitFor([this] { return status(1) == QStringLiteral("Not selected"); }));
     QVERIFY(run().startsWith(QStringLiteral("1 picture changed")));
     QCOMPARE(value("c.png", "title"), QStringList{QStringLiteral("Only this")});
     QCOMPARE(value("b.tif", "title"), QStringList());
