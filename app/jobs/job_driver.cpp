@@ -10,7 +10,7 @@ namespace window {
 
 namespace {
 
-constexpr int sliceMs = 4;
+constexpr int sliceMs = 2;
 
 void reportError(const QJSValue &error)
 {

@@ -10,7 +10,7 @@ import { folderNameProblems, foldersFor, patternProblems, prepared } from "./sor
 import { fill } from "../../lib/wording.js";
 
 // Files are looked into for about this long before the window gets control again.
-const SLICE_MS = 5;
+const SLICE_MS = 3;
 
 export const KINDS = ["move", "copy", "link"];
 
