@@ -9,7 +9,7 @@ function makeDefaults(text) {
 }
 
 const USUAL = { ifTaken: "number", logRows: 100000, memory: 0, destination: "beside", sharesThumbnails: true,
-                processors: 0 };
+                keepsList: false, processors: 0 };
 
 for (const text of [undefined, "", "no JSON", "[]", "{\"ifTaken\":\"burn\",\"logRows\":-5}",
                     "{\"ifTaken\":7,\"logRows\":\"x\"}", "{\"memory\":7,\"destination\":\"moon\"}"]) {
@@ -24,6 +24,10 @@ test("keepsOneWishAndLeavesTheOther", () => {
     equal(wishes(defaults).processors, 3);
     keepWish(defaults, "processors", -1);
     equal(wishes(defaults).processors, 0);
+    keepWish(defaults, "keepsList", true);
+    equal(wishes(defaults).keepsList, true);
+    keepWish(defaults, "keepsList", "yes");
+    equal(wishes(defaults).keepsList, false);
     keepWish(defaults, "memory", 2048);
     keepWish(defaults, "destination", "source");
     equal([wishes(defaults).memory, wishes(defaults).destination], [2048, "source"]);
