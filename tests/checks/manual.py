@@ -3,7 +3,7 @@
 
 Every action of the sidebar has a page of its name, every page can be reached from index.md, and every link leads to a page, a
 heading or a picture that is there; a picture that is light has its dark one too. The folders de, fr and nl hold the same pages with
-the same levels of headings, links to the same headings, and figures of their own language in the same order.
+the same levels of headings, links to the same headings, and the figures of their language in the same order.
 
 A language is held against English as soon as it has its index.md, which is written last, or where it is named as LANGUAGE; its
 pictures as soon as docs/screenshots has its folder, since the window shows English ones until then.

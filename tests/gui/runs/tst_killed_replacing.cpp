@@ -93,7 +93,7 @@ void KilledReplacing::killAt(int call, const QString &answer)
         const Ended undone = home.window(QStringLiteral("undo"));
         told += u'\n' + undone.said.join(QStringLiteral(" | "));
         QVERIFY2(Home::files(home.input()) == before, qPrintable(told));
-        // While it is asked what is to become of the run, nobody is asked whether that was meant.
+        // While the bar of the interrupted run is shown, undoing it needs no further question.
         QVERIFY2(!undone.said.contains(QStringLiteral("asked")) || !undone.has("question"), qPrintable(told));
         return;
     }

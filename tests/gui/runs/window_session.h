@@ -18,7 +18,7 @@
 #include <cstdio>
 
 /**
- * Windows in processes of their own, one after the other in one home, each of which may be killed at any moment. The program of the test
+ * Windows in separate processes, one after the other in one home, each of which may be killed at any moment. The program of the test
  * is started again as `PROGRAM --window HOME DOES CALL`; it ends itself before the CALLth call that changes the disk, or never for 0.
  * To be included once in a program.
  */
