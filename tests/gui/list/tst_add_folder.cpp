@@ -150,7 +150,7 @@ void TestAddFolder::aFilterChooses()
         }
     });
     QVERIFY(m_driver->waitFor([&] { return names() == kept; }));
-    QVERIFY2(m_driver->text("statusText").contains(QLatin1String("not fit the filter")),
+    QVERIFY2(m_driver->text("statusText").contains(QLatin1String("not match the filter")),
              qPrintable(m_driver->text("statusText")));
 }
 
