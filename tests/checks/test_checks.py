@@ -9,6 +9,7 @@ from pathlib import Path
 from unittest import mock
 
 sys.path.insert(0, str(Path(__file__).parent))
+import classes  # noqa: E402
 import format as format_check  # noqa: E402
 import layering  # noqa: E402
 import packages  # noqa: E402
@@ -171,6 +172,25 @@ class Layering(Tree):
 
     def test_fails_on_an_empty_tree(self):
         self.assertEqual(run_main(layering, self.root)[0], 1)
+
+
+class Classes(Tree):
+    def names(self, text):
+        return [name for _, name in classes.classes(text)]
+
+    def test_knows_what_other_files_could_meet(self):
+        text = ("#include <array>\nclass A : public QObject\n{\n    struct Inner {\n    };\n};\nnamespace x {\nstruct B final {\n};\n"
+                "namespace {\nclass Own\n{\n};\n}\nvoid f() { struct Here { }; }\n}\nclass C;\nenum class D { E };\n"
+                "template<typename T> class F {\n};\nclass G\n{\n};\n")
+        self.assertEqual(self.names(text), ["A", "x::B", "G"])
+
+    def test_refuses_one_name_for_two(self):
+        self.write("tests/one.h", "class Hand\n{\n};\n")
+        self.write("tests/two.cpp", "class Hand : public QObject\n{\n};\nnamespace {\nclass Place\n{\n};\n}\n")
+        self.write("tests/three.cpp", "namespace jobs {\nclass Hand\n{\n};\n}\nnamespace {\nclass Place\n{\n};\n}\n")
+        status, said = run_main(classes, self.root)
+        self.assertEqual((status, said.splitlines()[0]),
+                         (1, "Hand is defined more than once: tests/one.h:1, tests/two.cpp:1"))
 
 
 class Sizes(Tree):

@@ -7,6 +7,8 @@
 #include <QTest>
 #include <QWindow>
 
+namespace clicks {
+
 namespace {
 
 /** The window that gets keys. */
@@ -71,3 +73,5 @@ void Hand::type(const QString &text)
         QTest::keyClick(&keyWindow(), each.toLatin1());
     QCoreApplication::processEvents();
 }
+
+} // namespace clicks

@@ -8,6 +8,8 @@
 
 class QComboBox;
 
+namespace clicks {
+
 /**
  * What a person does with mouse and keyboard, counted: one for a click, one for a chord of keys. Events go to the windows of the toolkit's
  * platform, as those of a real mouse do, so that only what can be seen and reached is worked. Main thread only.
@@ -30,3 +32,5 @@ public:
 private:
     int m_count = 0;
 };
+
+} // namespace clicks
