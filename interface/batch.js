@@ -13,7 +13,7 @@ import { pixels, statusText } from "./lib/wording.js";
 import { makeServices } from "./services.js";
 import * as resize from "./actions/resize/resize-step.js";
 
-// A generator is run to its end; each value it yields is handed on.
+// Runs a generator to its end; each yielded value is passed on.
 function carryOut(generator, onValue) {
     let step = generator.next();
     while (!step.done) {

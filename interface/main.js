@@ -1,4 +1,4 @@
-// The one entry of the user-interface scripts: opens the main window.
+// The entry point of the user-interface scripts: opens the main window.
 
 import { openMainWindow } from "./windows/main/main.js";
 

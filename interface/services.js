@@ -1,4 +1,4 @@
-// The services that the steps use, made once for a window or a batch.
+// The services that the steps use, created once for a window or a batch.
 
 import { cNSFileHandling, cNSStringHandling } from "quorlin";
 import { files } from "quorlin/files";
@@ -9,7 +9,7 @@ import { webPages } from "quorlin/web";
 import { KnownFacts } from "./lib/known-facts.js";
 import { emptyTable } from "./lib/names.js";
 
-// As the service of conversions has them, without a picture being opened in this process where others do that.
+// In the form of the conversion service, but without opening a picture in this process if others do that.
 const lengths = {
     getPictureDPI: (path) => pictures.resolution(path),
     convertXtoPixel: (path, _target, unit, value) => pictures.inPixels(value, unit, pictures.resolution(path)),

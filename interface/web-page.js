@@ -21,7 +21,7 @@ function endOf(generator) {
     return step.value;
 }
 
-// One file of a picture: {path, width, height}, or null where it cannot be made.
+// One file of a picture: {path, width, height}, or null if it cannot be made.
 function makeFile(path, index, output, folder, services) {
     const recipe = { quorlin: 1, operations: [], outputs: [output] };
     const told = services.recipes.planOutput(path, recipe);

@@ -1,27 +1,29 @@
 // The actions of the sidebar. A new action is a folder beside this file and two lines in it: its import and its place in a group.
-// CONTRIBUTING.md leads through it. A title or sentence is a function, because texts are translated when they are shown.
+// CONTRIBUTING.md shows how. A title or sentence is a function, because texts are translated when they are shown.
 //
 // Every entry:
-//   name     that of its folder, its icon and its settings too
+//   name     also that of its folder, its icon and its settings
 //   manner   WRITES: writes pictures through the output block (see resize/resize-step.js). MOVES: moves, copies or links files
 //            through the move engine (see rename/rename-step.js). PAGE: owns the centre of the window (see log/log-page.js).
-//   within   the action whose entry in the sidebar shows this one too: another face of it (may be missing)
+//   within   the action whose entry in the sidebar shows this one too: another view of it (optional)
 //   usesList false for a page that does not work on the list: adding pictures then leads back to the action before
 // With a step:
-//   step     plain data in, plain data out: defaults, describe(settings), validate(settings) and what its manner asks for
+//   step     plain data in, plain data out: defaults, describe(settings), validate(settings) and what its manner
+//   requires
 //   pane     the class of its settings
-//   presets  {form, starting}: which setting lies in which column (see presets/preset-forms.js), and what it starts with; may be missing
+//   presets  {form, starting}: which setting is stored in which column (see presets/preset-forms.js), and what it
+//   starts with; optional
 //   lists(settings)  what the rows of the list are: "pictures", "files" of any kind, or "folders" themselves
-//   takes    the extensions of pictures that are taken, in any case of letters
-//   takesAlong(settings)  true if the files that belong to a picture move with it (lib/sidecars.js); may be missing
-//   startText(number, settings)  what the button says
-//   doing()  what a run of it is, at the beginning of a sentence: "Resizing"; the title where it is missing
-//   headings()  other words for the heads of columns than those of the manner (may be missing)
-// MOVES also: done(number, settings, folders) and undone(number, settings) for the summary, with settings null where they are not known;
-// folders is {used: paths that got files, made: how many there were not before} where fillsFolders is true.
-// givesNames is true where the files keep their folders.
-// PAGE also: page, a class made with (window, action) that has form and show(), and may have leave(), mayLeave(), listChanged(),
-// runChanged(). hasUndo is true where Ctrl+Z belongs to the page.
+//   takes    the extensions of pictures that it accepts, in any case of letters
+//   takesAlong(settings)  true if the files that belong to a picture move with it (lib/sidecars.js); optional
+//   startText(number, settings)  the text of the button
+//   doing()  the name of a run of it, at the beginning of a sentence: "Resizing"; if missing, the title
+//   headings()  column titles that differ from those of the manner (optional)
+//   MOVES also: done(number, settings, folders) and undone(number, settings) for the summary, with settings null if
+//   unknown; folders is {used: paths that got files, made: how many of them are new} if fillsFolders is true.
+//   givesNames is true if the files stay in their folders.
+//   PAGE also: page, a class made with (window, action) that has form and show(), and may have leave(), mayLeave(),
+//   listChanged(), runChanged(). hasUndo is true if the page handles Ctrl+Z itself.
 
 import { background } from "./background/background-action.js";
 import { contact } from "./contact/contact-action.js";
@@ -79,7 +81,10 @@ export function allActions() {
     return GROUPS.reduce((actions, group) => actions.concat(group.actions), []);
 }
 
-/** What presets are kept of: {form, starting, standard} by the name of the action; standard is the settings of a new pane. */
+/**
+ * The presets of each action: {form, starting, standard} by the name of the action; standard is the settings of a new
+ * pane.
+ */
 export function presetKinds() {
     const kinds = {};
     allActions().filter((action) => action.presets !== undefined)
@@ -88,7 +93,7 @@ export function presetKinds() {
     return kinds;
 }
 
-/** The action of that name; the first one where there is none. */
+/** The action of that name; the first one if there is none. */
 export function actionNamed(name) {
     const all = allActions();
     return all.find((action) => action.name === name) || all[0];

@@ -7,7 +7,7 @@ export function onProblem(teller) {
     tell = teller;
 }
 
-/** The function, made safe to be called by a signal; `where` names it in the message. */
+/** The function, made safe to be connected to a signal; `where` names it in the message. */
 export function guard(where, handler) {
     return function (...values) {
         try {

@@ -1,5 +1,5 @@
-// Which of the files that were found in a folder are added to the list. Pure; services are handed in.
-// Services used: files (info), facts (of).
+// Which of the files found in a folder are added to the list. Pure; services are passed in. Services used: files
+// (info), facts (of).
 
 import { emptyTable, splitPath } from "./names.js";
 import { typeOfExtension } from "./types.js";
@@ -18,7 +18,7 @@ function isOfSize(path, rule, files) {
     return bytes >= rule.least && (rule.most === 0 || bytes <= rule.most);
 }
 
-// The date taken, or where a file states none, the day on which it was changed.
+// The date taken, or if a file has none, the day on which it was changed.
 function isOfDate(path, rule, facts) {
     if (rule.from === "" && rule.to === "") {
         return true;
@@ -39,8 +39,8 @@ function fits(path, rule, services) {
 }
 
 /**
- * A generator that keeps of what was collected in a folder what a rule asks for; it yields after each file, and returns the same
- * with fewer paths and `filtered`, the number of files that it left out but for those of folders inside.
+ * A generator that filters what was collected in a folder by a rule; it yields after each file, and returns the same
+ * with fewer paths and `filtered`, the number of files left out, not counting those of subfolders.
  *
  * @param rule  subfolders; types: extensions in lower case; name: part of it; least, most: bytes, 0 for no limit; from, to: days
  *              such as "2026-08-14", "" for no limit
@@ -60,7 +60,7 @@ export function* filtered(found, folder, rule, services) {
         yield keptCount + filteredOut;
     }
     const keep = (paths) => paths.filter((path) => kept[path]);
-    // How many other files the folder itself holds is not known where those inside are not wanted.
+    // If subfolders are not wanted, nobody knows how many other files the folder itself contains.
     const others = rule.subfolders ? {} : { leftOut: 0, companions: [], example: "" };
     return Object.assign({}, found, others,
                          { paths: keep(found.paths), listed: keep(found.listed), filtered: filteredOut });

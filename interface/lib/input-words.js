@@ -1,4 +1,5 @@
-// What the list holds, in words: pictures, files of any kind, or folders. Pure but for translation; no service is used.
+// The contents of the list in words: pictures, files of any kind, or folders. Pure but for translation; no service is
+// used.
 
 import { fill, pictures } from "./wording.js";
 

@@ -1,4 +1,4 @@
-// What is known of the files of the list, read once a file. Services used: files (facts), handed in.
+// What is known about the files of the list, read once per file. Services used: files (facts), passed in.
 
 import { emptyTable } from "./names.js";
 
@@ -8,7 +8,7 @@ export class KnownFacts {
         this.forget();
     }
 
-    /** What files.facts says of the file: null where there is none. */
+    /** What files.facts says about the file: null if there is none. */
     of(path) {
         if (this.known[path] === undefined) {
             this.known[path] = this.files.facts(path);

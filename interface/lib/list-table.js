@@ -2,13 +2,13 @@
 
 import { keysOf, splitPath } from "./names.js";
 
-/** The heads of the columns, as every reader's spreadsheet gets them. */
+/** The column titles, as every reader's spreadsheet gets them. */
 export const COLUMNS = ["Ticked", "Name", "Folder", "DateTaken", "Camera", "Width", "Height", "Bytes", "Type",
                         "NewName", "NewSize", "Status"];
 
 /**
  * A generator that makes the rows of all pictures, in the order shown; it yields after each, and returns [[cell ...] ...]. Dates are as in
- * "2026-08-14T10:20:30"; what is not known is empty.
+ * "2026-08-14T10:20:30"; unknown values are empty.
  *
  * @param list   ids(), untickedIds(), photo(id), shown(id)
  * @param facts  of(path)

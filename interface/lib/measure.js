@@ -1,11 +1,11 @@
-// Lengths in units that are printed with, and the pixels that they are in a picture of its own resolution.
-// Services used: units (convertXtoPixel, getPictureDPI); what they say of a file is remembered in unitCache.
+// Lengths in units of printing, and the pixels that they are in a picture of a given resolution. Services used: units
+// (convertXtoPixel, getPictureDPI); what they say about a file is cached in unitCache.
 
 export const PIXEL = "pixel";
-/** As the conversion names them. */
+/** The names that the conversion uses. */
 export const UNITS = [PIXEL, "mm", "cm", "inch", "pica", "punt"];
 
-// Inches per unit, and the decimals that are worth typing.
+// Inches per unit, and the number of useful decimals.
 const INCHES = { mm: 1 / 25.4, cm: 1 / 2.54, inch: 1, pica: 4.2175176 / 25.4, punt: 0.3527777777778 / 25.4 };
 const DECIMALS = { pixel: 0, mm: 1, cm: 2, inch: 2, pica: 1, punt: 0 };
 
@@ -13,7 +13,7 @@ export function decimalsOf(unit) {
     return DECIMALS[unit];
 }
 
-/** The sign of a unit, for menus and behind numbers. */
+/** The symbol of a unit, for menus and after numbers. */
 export function unitSign(unit) {
     return { pixel: qsTr("px"), mm: qsTr("mm"), cm: qsTr("cm"), inch: qsTr("in"), pica: qsTr("pc"),
              punt: qsTr("pt") }[unit];
@@ -27,7 +27,7 @@ function remembered(services, key, find) {
     return cache[key];
 }
 
-/** Whole pixels of a picture for a length in a unit; not a number where the file does not say. */
+/** Whole pixels of a picture for a length in a unit; NaN if the file does not say. */
 export function toPixels(photo, unit, value, services) {
     if (unit === PIXEL) {
         return Math.trunc(value);
@@ -43,19 +43,19 @@ export function dpiOf(photo, services) {
 
 export const MOST_DPI = 10000;
 
-/** The resolution that lengths are taken at in a few words, for the log; nothing where it is each picture's own. */
+/** The resolution for lengths in a few words, for the log; nothing if it is each picture's own. */
 export function dpiWords(dpi) {
     return dpi === 0 ? "" : qsTr(" at %1 dpi").replace("%1", String(dpi));
 }
 
-/** A message where settings have lengths that no resolution makes pixels of. */
+/** A message if settings have lengths that no resolution can convert to pixels. */
 export function dpiMessages(settings) {
     const isSound = Number.isInteger(settings.dpi) && settings.dpi >= 0 && settings.dpi <= MOST_DPI;
     return settings.unit === PIXEL || isSound
         ? [] : [qsTr("Enter a resolution from 1 to %1 dpi.").replace("%1", String(MOST_DPI))];
 }
 
-/** A length in one unit as the nearest one in another that a field can show, at a resolution. */
+/** A length in one unit as the nearest one in another that a field can show, at a given resolution. */
 export function converted(value, from, to, dpi) {
     const inches = from === PIXEL ? value / dpi : value * INCHES[from];
     const result = to === PIXEL ? inches * dpi : inches / INCHES[to];
@@ -63,7 +63,7 @@ export function converted(value, from, to, dpi) {
     return Math.round(result * factor) / factor;
 }
 
-/** Remembers each length as it was typed, with its unit, for as long as nobody changes what was made of it. */
+/** Remembers each length as it was typed, with its unit, until somebody changes the converted value. */
 export class UnitMemory {
     constructor() {
         this.lengths = Object.create(null);

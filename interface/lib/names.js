@@ -1,4 +1,4 @@
-// Paths taken apart and joined. Pure; no service is used.
+// Splits and joins paths. Pure; no service is used.
 
 /** "/a/b.tar.gz" gives {folder: "/a", name: "b.tar.gz", base: "b.tar", extension: "gz"}. */
 export function splitPath(path) {
@@ -18,7 +18,7 @@ export function joinPath(folder, name) {
     return folder.endsWith("/") ? folder + name : folder + "/" + name;
 }
 
-/** The deepest folder that holds all of these, or is one of them. */
+/** The deepest folder that contains all of these, or is one of them. */
 export function commonFolder(folders) {
     let common = folders[0];
     while (common !== "/" && folders.some((folder) => folder !== common && !folder.startsWith(common + "/"))) {
@@ -27,7 +27,7 @@ export function commonFolder(folders) {
     return common;
 }
 
-/** A table without entries of its own, for ten thousand names: the engine's Map and Set take twenty times as long. */
+/** A table without inherited entries, for ten thousand names: the engine's Map and Set are twenty times slower. */
 export function emptyTable() {
     return Object.create(null);
 }

@@ -1,5 +1,5 @@
-// Files that belong to a picture and move with it: settings of other programs, previews and voice notes that bear its name.
-// Services used: files (names), handed in.
+// Files that belong to a picture and move with it: settings of other programs, previews and voice notes that have its
+// name. Services used: files (names), passed in.
 
 import { emptyTable, joinPath, splitPath } from "./names.js";
 
@@ -8,7 +8,9 @@ export const SIDECARS = ["xmp", "aae", "thm", "pp3", "dop", "cos", "on1", "wav"]
 
 const ENDING = new RegExp("[^.]\\.(" + SIDECARS.join("|") + ")$", "i");
 
-/** Those of these files that move with one of the pictures: their extension is one of SIDECARS, and they bear its name. */
+/**
+ * Those of these files that move with one of the pictures: their extension is one of SIDECARS, and they have its name.
+ */
 export function goingAlong(candidates, pictures) {
     const bearers = emptyTable();
     candidates.filter((path) => ENDING.test(path))
@@ -33,7 +35,7 @@ function push(table, key, value) {
     table[key].push(value);
 }
 
-/** The sidecar files of folders, looked up once for each folder. A sidecar is given to one picture only. */
+/** The sidecar files of folders, listed once per folder. Each sidecar belongs to one picture only. */
 export class Sidecars {
     constructor(files) {
         this.files = files;
@@ -41,7 +43,7 @@ export class Sidecars {
         this.given = emptyTable();
     }
 
-    // By what stands before the extension: for "a.xmp" that is "a", for "a.jpg.xmp" it is "a.jpg".
+    // By the part before the extension: for "a.xmp" that is "a", for "a.jpg.xmp" it is "a.jpg".
     inFolder(folder) {
         if (this.folders[folder] === undefined) {
             const found = emptyTable();
@@ -53,7 +55,7 @@ export class Sidecars {
     }
 
     /**
-     * The sidecars of a file that were not given to another one: [{name, ending}]. ending is what stands behind the file's own
+     * The sidecars of a file that do not belong to another one: [{name, ending}]. ending is what follows the file's own
      * name without extension: ".xmp", ".jpg.xmp". A sidecar has none itself.
      */
     of(path) {
@@ -68,7 +70,7 @@ export class Sidecars {
         return own.map((name) => ({ name: name, ending: name.slice(file.base.length) }));
     }
 
-    /** The file that took this sidecar along, or undefined. */
+    /** The file to which this sidecar belongs, or undefined. */
     ownerOf(path) {
         return this.given[path];
     }

@@ -1,4 +1,4 @@
-// Which pictures of a list stand for the others where the size of all results is estimated. Pure; no service is used.
+// Which pictures of a list represent the others when the size of all results is estimated. Pure; no service is used.
 
 export const MOST = 12;
 
@@ -7,9 +7,8 @@ function density(size) {
 }
 
 /**
- * Up to twelve pictures spread over the list: [{size, pixels, bytes: -1}]. Pictures are put in the order of how much detail they have, by
- * the bytes that each of their pixels takes; each sample stands for as many neighbours as any other, and pixels is what the results of
- * all of these have.
+ * Up to twelve pictures spread over the list: [{size, pixels, bytes: -1}]. Pictures are ordered by detail, measured in
+ * bytes per pixel; each sample represents the same number of neighbours, and pixels is the sum over their results.
  *
  * @param sizes  [{id, pixels (of the result), bytes, sourcePixels}]
  */
@@ -26,7 +25,7 @@ export function sampled(sizes) {
     return samples;
 }
 
-/** The bytes of all results, from samples whose bytes are known; -1 where too few are. */
+/** The bytes of all results, from samples whose bytes are known; -1 if too few are. */
 export function estimated(samples) {
     const known = samples.filter((sample) => sample.bytes >= 0 && sample.size.pixels > 0);
     if (known.length * 2 < samples.length || known.length === 0) {

@@ -1,6 +1,6 @@
-// Settings that outlive a run, kept as one text each in the user's defaults, which are handed in.
+// Settings that outlive a run, stored as one text each in the user's defaults, which are passed in.
 
-/** What was kept under the key, laid over a copy of the standard values; fields of another type are passed over. */
+/** What was stored under the key, merged into a copy of the standard values; fields of another type are ignored. */
 export function recall(defaults, key, standard) {
     const text = defaults.get(key);
     let kept = null;
@@ -12,7 +12,7 @@ export function recall(defaults, key, standard) {
     return merged(standard, kept);
 }
 
-/** A copy of the standard values with those of `kept` that have their types. */
+/** A copy of the standard values with those of `kept` that have the same types. */
 export function completed(standard, kept) {
     return merged(standard, kept);
 }
@@ -35,7 +35,7 @@ function merged(standard, kept) {
     return result;
 }
 
-/** The list with the value first, without doubles, at most `most` long. */
+/** The list with the value first, without duplicates, at most `most` long. */
 export function withNewest(list, value, most) {
     return [value].concat(list.filter((entry) => entry !== value)).slice(0, most);
 }

@@ -1,4 +1,4 @@
-// The file types that can be written: what they are called and what each can hold is told by the tables of the program.
+// The file types that can be written: their names and what each can hold come from the tables of the program.
 
 import { pictures } from "quorlin/pictures";
 
@@ -18,43 +18,43 @@ function writtenAs(output) {
 /** What actions write. */
 export const WRITTEN = pictures.outputTypes().filter((output) => !output.isPage).map(writtenAs);
 
-/** What pictures can be converted to besides; no other action writes it. */
+/** A further target of Convert; no other action writes it. */
 export const PDF_PAGE = writtenAs(pictures.outputTypes().find((output) => output.isPage));
 
-/** The codes of quality, and those of conversions, which know no last one. */
+/** The codes of quality, and those of conversions, which do not have the last one. */
 export const QUALITIES = pictures.qualityCodes();
 export const CONVERSION_QUALITIES = QUALITIES.slice(0, -1);
 
-/** Whatever a result can be, in the order in which file types are offered. */
+/** Every possible type of a result, in the order in which file types are offered. */
 export const MADE = pictures.outputTypes().map(writtenAs);
 
-/** What results keep of what a picture says about itself; the words of recipes. */
+/** What results keep of a picture's metadata; the words of recipes. */
 export const METADATA = ["keep", "copyright", "none"];
 
-/** The time of change that results get: that of the run, or that of their pictures; the words of recipes. */
+/** The modification time of results: that of the run, or that of their pictures; the words of recipes. */
 export const DATES = ["now", "keep"];
 
-/** The raw files of cameras, by extension: those that have a preview which can be converted, and the others. */
+/** The raw files of cameras, by extension: those with a preview that can be converted, and the others. */
 export const RAW_WITH_PREVIEW = pictures.rawTypes().filter((type) => type.hasPreview).map((type) => type.extension);
 const RAW = pictures.rawTypes().map((type) => type.extension);
 
 /** The files of written types, by extension. */
 export const PICTURE_INPUT = ["jpg", "jpeg", "tif", "tiff", "png", "jp2", "gif", "bmp"];
 
-// What is drawn first: pages and drawings have no pixels of their own.
+// Types that are rendered first: pages and drawings have no pixels of their own.
 const DRAWN = ["com.adobe.pdf", "public.svg-image"];
 
 function extensionsWhere(isWanted) {
     return FORMATS.filter(isWanted).reduce((all, format) => all.concat(format.extensions), []);
 }
 
-/** The files that actions on pictures take, by extension: all that can be read, of raw files the camera's preview. */
+/** The files that actions on pictures accept, by extension: all readable ones; of raw files the camera's preview. */
 export const READ_INPUT = extensionsWhere((format) => DRAWN.indexOf(format.id) < 0).concat(RAW_WITH_PREVIEW);
 
 /** The files that can be converted. */
 export const CONVERTED_INPUT = READ_INPUT.concat(extensionsWhere((format) => DRAWN.indexOf(format.id) >= 0));
 
-/** The files that actions take which look at no pixels: these, and raw files of any kind. */
+/** The files accepted by actions that look at no pixels: these, and raw files of any kind. */
 export const PHOTO_INPUT = CONVERTED_INPUT.concat(RAW.filter((extension) => CONVERTED_INPUT.indexOf(extension) < 0));
 
 /** The files of a folder that comments are written into, and those that can be chosen for it, by extension. */
@@ -75,7 +75,7 @@ export function madeTypeNamed(keyword) {
     return MADE.find((type) => type.keyword === keyword) || null;
 }
 
-/** The extension of a path's file name names this type; empty where it is unknown. */
+/** The type named by the extension of a path; empty if unknown. */
 export function typeOfExtension(extension) {
     const lower = extension.toLowerCase();
     const format = FORMATS.find((each) => each.extensions.indexOf(lower) >= 0);

@@ -1,12 +1,12 @@
-// What comes of an update check. Pure; no service is used.
+// The outcome of an update check. Pure; no service is used.
 
 export const KEY = "UpdateCheck";
 export const STANDARD = { onStart: false };
 
 /**
  * @param fields   label, and two texts, of a newer version, or null
- * @param problem  why nobody knows whether there is one, or null
- * @return kind: "newer" with version and notes, "current", or "failed" where nobody could be asked or the answer made no sense
+ * @param problem  why it is unknown whether there is one, or null
+ * @return kind: "newer" with version and notes, "current", or "failed" if there was no answer, or it made no sense
  */
 export function outcome(fields, problem) {
     if (fields === null) {

@@ -1,4 +1,4 @@
-// What the user chose in the preferences that no service keeps. The user's defaults are handed in.
+// Preferences of the user that no service stores. The user's defaults are passed in.
 
 import { copyOf } from "./copies.js";
 import { keep, recall } from "./store.js";
@@ -8,20 +8,20 @@ const KEY = "Preferences";
 const STANDARD = { ifTaken: "number", logRows: 100000, processors: 0, memory: 0, destination: "beside",
                    sharesThumbnails: true, keepsList: false };
 
-/** What an action does at first where a name is taken. */
+/** An action's initial choice for names that are taken. */
 export const TAKEN = ["number", "replace", "skip", "current", "ask"];
 /** How many rows of the log may be kept. */
 export const LOG_ROWS = [1000, 10000, 100000];
 /** How much memory runs may take, in MB; 0 is what is free. */
 export const MEMORY = [0, 1024, 2048, 4096, 8192, 16384];
-/** Where results go at first. */
+/** The initial destination of results. */
 export const DESTINATIONS = ["beside", "source"];
 
 function oneOf(values, kept, standard) {
     return values.indexOf(kept) >= 0 ? kept : standard;
 }
 
-/** {ifTaken, logRows, processors, memory, destination, sharesThumbnails, keepsList}; what is not known is as it is for everybody. */
+/** {ifTaken, logRows, processors, memory, destination, sharesThumbnails, keepsList}; unknown values get the default. */
 export function wishes(defaults) {
     const kept = recall(defaults, KEY, STANDARD);
     return {

@@ -1,6 +1,6 @@
 // Sentences with numbers in them. Pure but for translation; no service is used.
 
-/** Puts values into the places %1, %2 ... of a text. What looks like a place within a value stays as it is. */
+/** Puts values into the placeholders %1, %2 ... of a text. A value that looks like a placeholder stays as it is. */
 export function fill(text, ...values) {
     return text.replace(/%([1-9])/g, (place, number) => (number <= values.length ? String(values[number - 1]) : place));
 }
@@ -14,12 +14,12 @@ export function pixels(size) {
     return size.width + "×" + size.height;
 }
 
-/** 10000 gives "10,000" in the reader's own form of numbers. */
+/** 10000 gives "10,000" in the reader's number format. */
 export function numberText(number) {
     return number.toLocaleString();
 }
 
-/** 39.68 gives "39.7 %" in the reader's own form of numbers, with a space that does not break. */
+/** 39.68 gives "39.7 %" in the reader's number format, with a non-breaking space where there is one. */
 export function percent(value) {
     return (Math.round(value * 10) / 10).toLocaleString() + "\u00a0%";
 }

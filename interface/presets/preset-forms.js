@@ -1,14 +1,15 @@
-// How an action says which column of a preset holds which of its settings; docs/presets.md says why they lie where they do. Pure data.
+// How an action says which column of a preset holds which of its settings; docs/presets.md explains the layout. Pure
+// data.
 //
-// Kinds: "text" any text; "word" one that is never empty; "number" any finite number, as text, so that it keeps its form; "whole" a
-// whole number and "flag" true or false, both in the columns that the database keeps as numbers; "color" is "#rrggbb". A setting is named
-// by its path, "output.quality"; where it can only have certain values they stand behind its kind, and behind these the version of the
-// form that brought some of them, where that is not the first.
+// Kinds: "text" any text; "word" one that is never empty; "number" any finite number, as text, so that it keeps its
+// format; "whole" a whole number and "flag" true or false, both in the columns that the database keeps as numbers;
+// "color" is "#rrggbb". A setting is named by its path, "output.quality"; if it can only have certain values, they
+// follow its kind, and after these the version of the form that introduced some of them, if it is not the first.
 
 import { DATES, METADATA, ORIGINAL, QUALITIES, WRITTEN } from "../lib/types.js";
 
 const TYPES = [ORIGINAL].concat(WRITTEN.map((type) => type.id));
-// Those that came later.
+// Those added later.
 const LATER_TYPES = ["org.webmproject.webp", "public.avif", "public.jpeg-xl"];
 
 const OUTPUT = {
@@ -27,14 +28,15 @@ function numbers(from, to) {
     return Array(to - from + 1).fill(0).map((each, i) => from + i);
 }
 
-/** The columns for the parts of a list, each as JSON: its order is theirs, and the first empty one ends it. */
+/** The columns for the parts of a list, each as JSON, in their order; the first empty one ends it. */
 export const PART_COLUMNS = numbers(11, 20).concat(numbers(42, 61)).map((number) => "StrField" + number);
 
-/** Where the folders of a preset that is nothing but folders lie: in all columns, one each. */
+/** The columns of a preset that consists of folders: all columns, one each. */
 export const FIRST_SLOT = 3;
 export const SLOTS = 59;
 
-// The columns of the output block in a form whose version brought the later types; the one after it brought "current".
+// The columns of the output block in a form whose version introduced the later types; the next version introduced
+// "current".
 function outputColumns(version) {
     const [path, kind] = OUTPUT.StrField4;
     const [taken, takenKind, words] = OUTPUT.StrField9;
@@ -46,8 +48,9 @@ function outputColumns(version) {
 
 /**
  * The form of an action that writes pictures: the words for Process, the setting that stands in Action, or "", its values, and the
- * columns. `later` has the versions that brought some words: {types: that of WebP, AVIF and JPEG XL, 2 where nothing is said; modes: those
- * of values of that setting}. A setting that is a list has {path, columns, read}: read(kept) makes a part of what was kept, or null.
+ * columns. `later` has the versions that introduced some words: {types: that of WebP, AVIF and JPEG XL, 2 by default;
+ * modes: those of values of that setting}. A setting that is a list has {path, columns, read}: read(kept) makes a part
+ * from a stored text, or null.
  */
 export function writingForm(process, mode, modes, own, later) {
     const versions = Object.assign({ types: 2, modes: {} }, later);
@@ -55,7 +58,7 @@ export function writingForm(process, mode, modes, own, later) {
              columns: Object.assign(outputColumns(versions.types), own) };
 }
 
-/** The form of an action that moves files: it has no output but a simulation. */
+/** The form of an action that moves files: its only output setting is the dry run. */
 export function movingForm(process, mode, modes, own) {
     return { process: process, mode: mode, modes: modes,
              columns: Object.assign({ StrField21: ["simulation", "flag"] }, own) };

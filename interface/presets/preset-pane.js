@@ -1,4 +1,4 @@
-// The head of every pane: the action's name, and its presets to choose, store, rename, remove, export and import.
+// The head of every pane: the action's name, and its presets to choose, save, rename, remove, export and import.
 
 import { dbViewController } from "quorlin";
 import { defaults } from "quorlin/defaults";
@@ -19,9 +19,9 @@ const FILE_TYPE = "c-action";
 export function presetFilesAmong(paths) {
     return paths.filter((path) => splitPath(path).extension.toLowerCase() === FILE_TYPE && !files.info(path).isFolder);
 }
-// Each waits for the disk: a few are brought in at once, and many while the window goes on.
+// Each waits for the disk: a few are imported at once, many while the window stays responsive.
 const MOST_AT_ONCE = 20;
-// What stands before the name of a preset that can be used, and before the number of one that cannot.
+// What precedes the name of a usable preset, and the number of an unusable one.
 const READY = "=";
 const OTHER = "?";
 
@@ -38,8 +38,8 @@ export class PresetPane {
     /**
      * @param kinds     what presets are kept of: see presetKinds() of actions.js
      * @param take      called with the settings of a preset that was chosen
-     * @param say       called with what there is to tell
-     * @param more      another entry of the menu: {text(), act(), isFor(action)}
+     * @param say       called with messages for the user
+     * @param more      a further entry of the menu: {text(), act(), isFor(action)}
      */
     constructor(kinds, take, say, more) {
         this.more = more;
@@ -54,7 +54,7 @@ export class PresetPane {
         this.chosen = null;
         this.editing = "";
         this.taken = [];
-        this.isReplaced = false; // whether the name that is typed lost a character that the database cannot take
+        this.isReplaced = false; // whether the typed name lost a character that the database does not accept
         this.problem = "";
         this.importing = shell.job();
         this.menuState = "";
@@ -72,7 +72,7 @@ export class PresetPane {
         control("presetEscape").triggered.connect(guard("presetCancel", () => this.cancelEditing()));
     }
 
-    /** Shows the presets of an action, whose settings, those of the pane, are compared with them. */
+    /** Shows the presets of an action and compares them with its settings, those of the pane. */
     use(action, title, pane) {
         this.action = action;
         this.pane = pane;
@@ -98,7 +98,7 @@ export class PresetPane {
         this.showMenu();
     }
 
-    // Reads the presets again; the ready one of that name is the chosen one.
+    // Reads the presets again; the ready one of that name becomes the chosen one.
     look(name) {
         this.presets = this.store.list(this.action);
         this.showChosen(name);
@@ -118,7 +118,7 @@ export class PresetPane {
     }
 
     isChanged() {
-        // A simulation is how a preset is tried, and no change of it.
+        // A dry run is how a preset is tried; it does not change the preset.
         const text = (settings) => rowOf(this.kinds[this.action].form, "", settings)
             .filter((field, i) => i !== SIMULATION).join("|");
         return this.isReady() && text(this.settings) !== text(this.pane.resolved(this.chosen.settings));
@@ -129,11 +129,11 @@ export class PresetPane {
         if (value.startsWith(READY)) {
             this.choose(value.slice(READY.length));
         } else if (value.startsWith(OTHER)) {
-            // It says what it is and can be exported; the settings stay.
+            // A preset that cannot be used says what it is and can be exported; the settings stay.
             this.chosen = this.presets[Number(value.slice(OTHER.length))];
             this.showAll();
         } else {
-            // The settings stay; they belong to no preset any more.
+            // The settings stay, but no longer belong to a preset.
             this.chosen = null;
             this.remember();
             this.showAll();
@@ -162,7 +162,7 @@ export class PresetPane {
     showChoice() {
         const changed = this.isChanged();
         const none = this.chosen === null;
-        // The dot stands before the name, where a long one is not cut off.
+        // The dot precedes the name, so that it is visible even if a long name is cut off.
         const texts = this.presets
             .map((preset) => (changed && preset === this.chosen ? "• " + preset.name : stateWord(preset)));
         const values = this.presets.map((preset) => this.valueOf(preset));
@@ -181,7 +181,7 @@ export class PresetPane {
         this.form.control(name).visible = text !== "";
     }
 
-    // [text, what it does]; an entry that does nothing cannot be chosen now.
+    // [text, what it does]; an entry without a function is disabled.
     menuEntries() {
         const works = this.store.problem === "";
         const ready = works && this.isReady();
@@ -220,7 +220,7 @@ export class PresetPane {
         this.showAll();
     }
 
-    // Shows what came of it: the preset of that name is the chosen one, or the problem is told.
+    // Shows the outcome: the preset of that name is chosen, or the problem is reported.
     ended(problem, name) {
         this.problem = problem;
         this.look(problem === "" || this.chosen === null ? name : this.chosen.name);
@@ -263,7 +263,7 @@ export class PresetPane {
         this.showNameProblem();
     }
 
-    // Shows at once what a name is stored with.
+    // Shows at once the name that will be stored.
     nameTyped() {
         const field = this.form.control("presetName");
         const shown = typedName(field.text);
@@ -290,7 +290,7 @@ export class PresetPane {
         return storedName(this.form.control("presetName").text);
     }
 
-    // Who typed something else than is stored does not meet a name that exists, but gets a number.
+    // A user who typed a name other than the stored one is not asked about an existing preset; the name gets a number.
     newName() {
         const name = this.typedText();
         const own = this.editing === "rename" ? this.chosen.name : null;
@@ -352,7 +352,7 @@ export class PresetPane {
         }
     }
 
-    /** Stores the presets of a file, and chooses the first of the action that is shown. */
+    /** Stores the presets of a file, and chooses the first one of the shown action. */
     importFile(path) {
         if (this.importing.running) {
             return;
@@ -380,7 +380,7 @@ export class PresetPane {
                        ? value : { names: [], renamed: 0, problem: how === "failed" ? String(value) : "" }, read);
     }
 
-    // What was stored is shown; the first of this action becomes the chosen one.
+    // Shows what was stored; the first one of this action becomes the chosen one.
     broughtIn(done, read) {
         this.problem = done.problem || read.problem;
         this.look(this.chosen === null ? "" : this.chosen.name);

@@ -1,5 +1,6 @@
-// The presets of all actions in the presets database: listed, stored, renamed, removed, brought in. Pure: the database service and the
-// files are handed in. Every answer is a fresh one, since the service answers a failed query with the result of the one before.
+// The presets of all actions in the presets database: listed, stored, renamed, removed, imported. Pure: the database
+// service and the files are passed in. Each query uses a new service object, since a failed query returns the result of
+// the previous one.
 
 import { emptyTable, splitPath } from "../lib/names.js";
 import { FIELDS, nameProblem, presetOf, rowOf, storedName, TakenNames } from "./presets.js";
@@ -8,16 +9,16 @@ import { fill } from "../lib/wording.js";
 const TABLE = "Presets";
 const NAME = "NameOfPreset";
 const HEADER = "SQLite format 3";
-// No more rows than this bear one name.
+// No name has more rows than this.
 const MOST_COPIES = 100;
-// And an older row of a name is not looked for further back than this.
+// An older row of a name is searched no further back than this.
 const MOST_LOOKS = 2000;
 
 function textOf(data) {
     return data === null ? "" : String.fromCharCode.apply(null, Array.from(new Uint8Array(data)));
 }
 
-// What a rename noted; null if the text is not such a note.
+// The note of a rename; null if the text is no such note.
 function noteIn(text) {
     try {
         const note = JSON.parse(text);
@@ -39,11 +40,11 @@ export class PresetStore {
         this.kinds = kinds;
         /** Why the presets cannot be read, in a sentence; empty while they can. */
         this.problem = "";
-        /** What happened to the database, to be said once; empty for nothing. */
+        /** What happened to the database, to be reported once; empty for nothing. */
         this.notice = "";
     }
 
-    // The rows that match, as texts; null where the database did not answer.
+    // The rows that match, as texts; null if the database did not answer.
     rows(column, value, table) {
         const db = this.makeDb();
         const found = db.checkForActionType(table || TABLE, column, value);
@@ -53,18 +54,18 @@ export class PresetStore {
         return found === null ? [] : found.slice();
     }
 
-    // Makes the database where there is none yet.
+    // Creates the database if there is none yet.
     link() {
         try {
             this.makeDb().linkToPresetsDB();
         } catch (error) {
-            // What is wrong shows when it is read.
+            // Errors show when it is read.
         }
     }
 
     /**
      * The presets of an action, in the order in which they were stored: presetOf() of each, with its `fields`. Of several ready ones
-     * with one name, which two programs at once can make, the newest.
+     * with one name, which two processes at once can create, the newest.
      */
     list(action) {
         this.link();
@@ -87,7 +88,8 @@ export class PresetStore {
         return all.filter((preset) => preset.state !== "ready" || newest[preset.name] === preset);
     }
 
-    // A database that can hold nothing gives way, so that the service makes a new one; the service itself repairs none.
+    // A database that can hold nothing is moved out of the way, so that the service creates a new one; the service
+    // itself repairs none.
     setAside() {
         const name = this.files.setAsideUnusableDatabase(this.path());
         if (name !== "") {
@@ -97,8 +99,8 @@ export class PresetStore {
         return name !== "";
     }
 
-    // What was cut off between storing a preset again and removing the old row is completed. The service tells the
-    // number of the newest row of a name only: those below it are looked through.
+    // Completes what was interrupted between storing a preset again and removing the old row. The service returns only
+    // the number of the newest row of a name; those below it are searched.
     removeOlder(action, names) {
         for (const name of names.filter((each, i) => names.indexOf(each) === i)) {
             let left = names.filter((each) => each === name).length;
@@ -113,7 +115,7 @@ export class PresetStore {
         }
     }
 
-    // The preset with that number, if it is a ready one; else null.
+    // The preset with that number, if it is ready; else null.
     readyAt(id) {
         const rows = this.rows("ID", id) || [];
         const preset = rows.length === 1 ? presetOf(rows[0], this.kinds) : null;
@@ -128,7 +130,7 @@ export class PresetStore {
         }, []);
     }
 
-    /** What is wrong with a name, in a sentence; also a name that a preset of another program has. */
+    /** What is wrong with a name, in a sentence; also if a preset of another program has it. */
     nameProblem(text, names) {
         const name = storedName(text);
         const problem = nameProblem(name, names);
@@ -145,7 +147,7 @@ export class PresetStore {
         return problem;
     }
 
-    /** Gives a preset another name. Returns a problem, or "". What is cut off in the middle is ended by the next list(). */
+    /** Gives a preset another name. Returns a problem, or "". The next list() completes what is interrupted. */
     rename(preset, name) {
         if (name === preset.name) {
             return "";
@@ -159,12 +161,13 @@ export class PresetStore {
         return problem;
     }
 
-    // A row of the database cannot say that it is to go; a text beside it does, for as long as there may be two.
+    // A row of the database cannot be marked for removal; a text beside it does that while there may be two.
     renamePath() {
         return this.path() + ".renaming";
     }
 
-    // Removes the row of the old name if all of it is there under the new one. Whether there was something to remove.
+    // Removes the row of the old name if all of it exists under the new one. Returns whether there was something to
+    // remove.
     endRename(action) {
         const text = this.files.info(this.renamePath()).exists ? this.files.readText(this.renamePath()) : "";
         const note = text ? noteIn(text) : null;
@@ -196,7 +199,7 @@ export class PresetStore {
         return "";
     }
 
-    /** Stores rows as they stand, under free names: {names, renamed (count), problem}. */
+    /** Stores rows unchanged, under free names: {names, renamed (count), problem}. */
     bringIn(rows) {
         const work = this.bringingIn(rows);
         let step = work.next();
@@ -206,7 +209,7 @@ export class PresetStore {
         return step.value;
     }
 
-    /** The same as a generator that yields how many rows are stored, after each: every one waits for the disk. */
+    /** The same as a generator that yields the number of stored rows after each one: every row waits for the disk. */
     *bringingIn(rows) {
         const taken = new TakenNames(this.names());
         const result = { names: [], renamed: 0, problem: "" };

@@ -1,5 +1,5 @@
-// Presets: an action's settings as the 62 texts of a row of the presets database, and back; names; exported files. Pure but for
-// translation; no service is used. docs/presets.md has the layout.
+// Presets: an action's settings as the 62 texts of a row of the presets database, and vice versa; names; exported
+// files. Pure but for translation; no service is used. docs/presets.md has the layout.
 
 import { copyOf } from "../lib/copies.js";
 import { emptyTable } from "../lib/names.js";
@@ -10,7 +10,7 @@ export const FIELDS = 62;
 export const LONGEST_NAME = 100;
 
 const MARK = "Quorlin ";
-// Of the forms. A form whose columns change their meaning, or get more words, gets a higher version.
+// Of the forms. A form whose columns change their meaning, or get new words, gets a higher version.
 const FIRST_VERSION = 1;
 const FILE_MARK = "Quorlin presets";
 
@@ -39,7 +39,7 @@ function isPair(text, i) {
     return first >= 0xd800 && first <= 0xdbff && second >= 0xdc00 && second <= 0xdfff;
 }
 
-/** Any text without what a value must not hold: an apostrophe, a bar, a control character, half a surrogate pair. */
+/** Any text without what a value must not contain: an apostrophe, a bar, a control character, half a surrogate pair. */
 export function encoded(text) {
     let result = "";
     for (let i = 0; i < text.length; i += 1) {
@@ -56,7 +56,7 @@ export function encoded(text) {
     return result;
 }
 
-/** What encoded() was given; null for a text that it never gives. */
+/** The argument of encoded(); null for a text that it never returns. */
 export function decoded(text) {
     const result = text.replace(/%u([0-9A-F]{4})|%([0-9A-F]{2})/g,
                                 (all, four, two) => String.fromCharCode(parseInt(four || two, 16)));
@@ -93,7 +93,7 @@ function setAt(settings, path, value) {
     owner[last] = value;
 }
 
-// A folder and what it is called, if that is not its own name.
+// A folder and its label, if that is not its own name.
 function slotText(slot) {
     return encoded(slot.path + (slot.label === "" ? "" : "\n" + slot.label));
 }
@@ -110,7 +110,7 @@ function writeSlots(row, slots) {
     slots.forEach((slot, i) => { row[FIRST_SLOT + i] = slotText(slot); });
 }
 
-// The settings of a form that have words of a later version, which stand last in each: {word: version}.
+// The settings of a form with words of a later version, which come last in each: {word: version}.
 function newWordsOf(form) {
     const mode = [form.mode, "text", form.modes, form.laterModes];
     const columns = Object.keys(form.columns).map((column) => form.columns[column]).concat([mode]);
@@ -123,7 +123,7 @@ export function newestVersion(form) {
         (highest, word) => Math.max(highest, words[word]), newest), FIRST_VERSION);
 }
 
-// The lowest version that has words for all these settings: what older programs can read stays readable for them.
+// The lowest version that has words for all these settings: older programs can then still read them.
 function versionFor(form, settings) {
     return newWordsOf(form).reduce(
         (version, [path, , , words]) => Math.max(version, words[valueAt(settings, path)] || FIRST_VERSION),
@@ -131,7 +131,7 @@ function versionFor(form, settings) {
 }
 
 /**
- * The 62 texts for a preset. Settings that the form does not know, or that are of another kind than it says, are an error of the
+ * The 62 texts for a preset. Settings that the form does not list, or of another type than it says, are an error of the
  * program.
  */
 export function rowOf(form, name, settings) {
@@ -185,7 +185,7 @@ function slotSettings(row, form, standard) {
     return form.modes.indexOf(mode) < 0 || settings[form.slots].indexOf(null) >= 0 ? null : settings;
 }
 
-// The list of a row, or null if one of its parts is none.
+// The list of a row, or null if one of its parts is invalid.
 function listIn(row, list) {
     const parts = [];
     for (const column of list.columns.filter((each) => row[placeOf(each)] !== "")) {
@@ -204,12 +204,12 @@ function listIn(row, list) {
     return parts;
 }
 
-// Puts the values of the columns into the settings; false if one of them is none.
+// Puts the values of the columns into the settings; false if one of them is invalid.
 function readColumns(row, form, settings) {
     for (const column of Object.keys(form.columns)) {
         const [path, kind, values] = form.columns[column];
         const text = row[placeOf(column)];
-        // A setting that came later than the preset has an empty column; no word, number or flag is written like that.
+        // A setting newer than the preset has an empty column; no word, number or flag is written like that.
         const value = text === "" && kind !== "text" ? valueAt(settings, path) : READERS[kind](text);
         if (value === null || (values !== undefined && values.indexOf(value) < 0)) {
             return false;
@@ -219,7 +219,7 @@ function readColumns(row, form, settings) {
     return true;
 }
 
-// Puts the list of a row into the settings; false if one of its parts is none.
+// Puts the list of a row into the settings; false if one of its parts is invalid.
 function readList(row, form, settings) {
     const list = form.list === undefined ? null : listIn(row, form.list);
     if (list !== null) {
@@ -228,7 +228,7 @@ function readList(row, form, settings) {
     return form.list === undefined || list !== null;
 }
 
-// Puts what stands in Action into the settings; false if it is none of the values of that setting.
+// Puts the value in Action into the settings; false if it is not one of the values of that setting.
 function readMode(row, form, settings) {
     const mode = decoded(row[2]);
     if (form.mode === "" || mode === "") {
@@ -246,12 +246,12 @@ function settingsIn(row, form, standard) {
 }
 
 /**
- * What a row of the database is: {name, process, action, state, settings, note}. `kinds` has {form, standard} by the action's
- * name, standard
- * being the settings of a new pane; `action` is that name, or "" for a process that is not ours.
+ * A row of the database as an object: {name, process, action, state, settings, note}. `kinds` has {form, standard} by
+ * the action's name, standard being the settings of a new pane; `action` is that name, or "" for a process that is not
+ * ours.
  *
- * state: "ready" with settings; "newer", a form of a later version; "unknown", of another kind; "damaged", with a value that is
- * none. Only a ready one has settings, and none of the others may be changed; note says so in a sentence.
+ * state: "ready" with settings; "newer", a form of a later version; "unknown", of another kind; "damaged", with an
+ * invalid value. Only a ready one has settings, and the others must not be changed; note says so in a sentence.
  */
 export function presetOf(row, kinds) {
     const fields = typeof row === "string" ? row.split("|") : row;
@@ -272,7 +272,7 @@ function stateOf(state, settings) {
     return { state: state, settings: settings, note: notes[state] || "" };
 }
 
-// What a row of ours holds.
+// The contents of one of our rows.
 function readState(fields, version, kind) {
     if (version > newestVersion(kind.form)) {
         return stateOf("newer", null);
@@ -282,12 +282,12 @@ function readState(fields, version, kind) {
     return stateOf(settings === null ? "damaged" : "ready", settings);
 }
 
-/** A name with look-alikes of the two characters that the database cannot take. */
+/** A name with look-alikes of the two characters that the database does not accept. */
 export function typedName(text) {
     return /['|]/.test(text) ? text.replace(/'/g, "\u2019").replace(/\|/g, "\u00a6") : text;
 }
 
-/** A name as it is stored: without blanks around it, accents in one writing. */
+/** A name as it is stored: trimmed, with normalised accents. */
 export function storedName(text) {
     return typedName(text).trim().normalize("NFC");
 }
@@ -302,7 +302,7 @@ export function nameProblem(text, taken) {
     if (name === "") {
         return qsTr("Enter a name.");
     }
-    // All that is left to be written as a code: control characters, and half a character.
+    // The only characters left to escape: control characters, and half a surrogate pair.
     if (encoded(name.replace(/%/g, "")).indexOf("%") >= 0) {
         return qsTr("A name cannot contain line breaks or control characters.");
     }
@@ -313,12 +313,12 @@ export function nameProblem(text, taken) {
     return other === undefined ? "" : fill(qsTr("A preset named %1 already exists."), other);
 }
 
-// What two names have in common that are one.
+// What two names share if they count as the same.
 function keyOf(name) {
     return storedName(name).toLowerCase();
 }
 
-/** Names that are taken, and the free ones nearest to others. Thousands are no matter. */
+/** Taken names, and the nearest free ones. Works for thousands. */
 export class TakenNames {
     constructor(names) {
         this.taken = emptyTable();
@@ -330,7 +330,9 @@ export class TakenNames {
         this.taken[keyOf(name)] = true;
     }
 
-    /** The name with the lowest number behind it that makes it free: "Web", "Web 2" ... A long name loses its end for it. */
+    /**
+     * The name with the lowest number appended that makes it free: "Web", "Web 2" ... A long name is shortened for it.
+     */
     free(text) {
         const name = storedName(text);
         if (!this.taken[keyOf(name)]) {
@@ -348,7 +350,7 @@ export class TakenNames {
     }
 }
 
-// "Web", 2 gives "Web 2", with no more characters than a name may have, and none of them cut in two.
+// "Web", 2 gives "Web 2", no longer than a name may be, and without cutting a character in two.
 function numbered(name, number) {
     const ending = " " + number;
     let kept = name.slice(0, LONGEST_NAME - ending.length);
@@ -358,12 +360,12 @@ function numbered(name, number) {
     return kept + ending;
 }
 
-/** The name with the lowest number behind it that makes it free. */
+/** The name with the lowest number appended that makes it free. */
 export function freeName(text, taken) {
     return new TakenNames(taken).free(text);
 }
 
-/** The text of an exported file with these rows, as they stand, of whatever form. */
+/** The text of an exported file with these rows, unchanged, of whatever form. */
 export function fileText(rows) {
     return JSON.stringify({ format: FILE_MARK, version: 1, presets: rows }, null, 1) + "\n";
 }

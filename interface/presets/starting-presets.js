@@ -1,10 +1,10 @@
-// The presets that an action starts with. They are written once; whoever removes one does not get it back. Pure.
+// The presets that an action starts with. They are written once; if the user removes one, it does not come back. Pure.
 
 import { keep, recall } from "../lib/store.js";
 
 const KEY = "StartingPresets";
 
-// The standard settings with some of them changed.
+// The standard settings with some changes.
 function laidOver(standard, changes) {
     const result = Object.assign({}, standard);
     for (const key of Object.keys(changes)) {
@@ -24,8 +24,8 @@ export function startingPresets(kind, patterns) {
 }
 
 /**
- * Writes the presets that an action starts with, if that was not done before. A name that is taken is left out.
- * Where the database cannot be written it is tried again the next time. Returns whether the presets are to be read again.
+ * Writes the presets that an action starts with, if that was not done before. A name that is taken is skipped. If the
+ * database cannot be written, the next time tries again. Returns whether the presets are to be read again.
  */
 export function writeStartingPresets(action, patterns, store, defaults) {
     const done = recall(defaults, KEY, { actions: [] }).actions;

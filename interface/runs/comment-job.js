@@ -1,4 +1,5 @@
-// A run over the comments of pictures: has workers write or revert them one by one, keeps each edit in the log at once, and sums up.
+// A run over the comments of pictures: has workers write or revert them one by one, logs each edit at once, and sums
+// up.
 
 import { CommentWork, files } from "quorlin/files";
 import { shell } from "quorlin/shell";
@@ -12,7 +13,7 @@ function newWork(action) {
              cancelled: false, edits: [] };
 }
 
-// What comment-run.js reads and writes comments with: workers do it, and wake() is called when there is an answer.
+// Reads and writes comments for comment-run.js: workers do it, and wake() is called when there is an answer.
 class WorkerComments {
     constructor(wake) {
         this.work = new CommentWork();
@@ -60,7 +61,7 @@ export class CommentJob {
         return this.job.running;
     }
 
-    /** Nothing more is written after the picture that is in progress, so that what is done to it is in the log. */
+    /** Nothing more is written after the picture that is in progress, so that its edit is logged. */
     cancel() {
         if (this.isLooking) {
             this.job.cancel();
@@ -85,11 +86,11 @@ export class CommentJob {
     }
 
     /**
-     * Carries out a generator that only looks; one at a time.
+     * Runs a generator that only reads; one at a time.
      *
      * @param make    function(comments) that makes it
      * @param onStep  called with what it yields
-     * @param onEnd   called with what it returned, or null where it was cancelled
+     * @param onEnd   called with what it returned, or null if it was cancelled
      */
     look(make, onStep, onEnd) {
         const comments = new WorkerComments(() => this.job.wake());
@@ -106,7 +107,7 @@ export class CommentJob {
      * Carries out a generator of comment-run; one at a time.
      *
      * @param make    function(comments) that makes it
-     * @param action  how the log calls it
+     * @param action  its name in the log
      * @param onStep  called with {tried, done} after each picture
      * @param onEnd   called with {tried, done, first: the first problem, problem: of the run as a whole, cancelled, edits: that can be
      *                reverted}
@@ -128,7 +129,7 @@ export class CommentJob {
         }));
     }
 
-    /** Carries out a generator of one picture, which does not wait, at once; returns what onEnd() of start() gets. */
+    /** Runs a generator for one picture, which does not wait, at once; returns what onEnd() of start() gets. */
     carryOut(generator, action) {
         const work = newWork(action);
         for (const result of generator) {
@@ -138,12 +139,12 @@ export class CommentJob {
         return work;
     }
 
-    // An edit that is in the file is in the log, whatever happens to this program after it.
+    // An edit that is in the file is logged, whatever happens to this program afterwards.
     take(work, result) {
         work.tried += 1;
         work.done += result.status === "OK" ? 1 : 0;
         work.first = work.first || (result.status === "OK" ? "" : result.reason);
-        // What cannot be reverted as a whole stands apart, as a run beside the other.
+        // What cannot be reverted as a whole is logged as a separate run.
         const lostPages = result.pages > 0;
         const run = lostPages ? work.pagesRun : work.run;
         const action = lostPages ? qsTr("Write comment, keep only the first page") : work.action;
@@ -152,7 +153,7 @@ export class CommentJob {
     }
 }
 
-/** What became of a run, as one line; done says how many pictures it changed. */
+/** The outcome of a run, in one line; done says how many pictures it changed. */
 export function commentSummary(work, done) {
     const left = work.tried - work.done;
     const parts = [done]

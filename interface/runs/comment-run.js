@@ -1,21 +1,21 @@
-// Writing the user comment into pictures and reverting it, with what the file really says afterwards. Pure but for translation; what
-// reads and writes comments is handed in: {look*(path) => {comment, pagesLost, problem}; write*(path, text) => "" or what went wrong;
-// isThere(path)}. Both are generators, which yield null while they wait for an answer; pagesLost counts the pages that writing would
-// take out of a file.
+// Writes the user comment into pictures and reverts it, checking what the file really says afterwards. Pure but for
+// translation; what reads and writes comments is passed in: {look*(path) => {comment, pagesLost, problem}; write*(path,
+// text) => "" or what went wrong; isThere(path)}. Both are generators, which yield null while they wait for an answer;
+// pagesLost counts the pages that a file would lose by writing.
 
 import { tokens, TokenText } from "quorlin/tokens";
 import { splitPath } from "../lib/names.js";
 import { logRow } from "./report.js";
 import { fill } from "../lib/wording.js";
 
-// Stands for any picture where there is none yet.
+// Stands for any picture while there is none.
 const MADE_UP = { path: "/IMG_4711.JPG",
                   facts: { taken: "2026-08-14T10:20:30", created: "2026-08-14T10:20:30", changed: "2026-08-15T09:00:00",
                            width: 4032, height: 3024, bytes: 2440000, size: "2.4 MB", rating: 3 } };
 
 const NO_WAIT = [];
 
-/** Reads and writes comments with the service files, which has its answers at once. */
+/** Reads and writes comments with the service files, which answers at once. */
 export function commentsOf(files) {
     return {
         * look(path) {
@@ -41,19 +41,19 @@ function skipped(path, reason, now) {
 // So many files with several pages are named.
 const MOST_NAMED = 5;
 
-/** What is wrong with the text of a comment that may have tokens in it, as one sentence; "" if nothing is. */
+/** What is wrong with the text of a comment, which may contain tokens, as one sentence; "" if nothing is. */
 export function commentProblem(text) {
     return tokens.problems(text)[0] || "";
 }
 
-/** A function (path, index) => comment for the text of a comment, which may have tokens in it. */
+/** A function (path, index) => comment for a text that may contain tokens. */
 export function commentMaker(text, files) {
     const made = new TokenText({ pattern: text });
     const asks = made.needsFacts;
     return (path, index) => made.expand(path, asks ? files.facts(path) : null, index)[0];
 }
 
-/** What a text with tokens comes to: {name, comment} for the picture at a path, or for one that is made up where path is "". */
+/** What a text with tokens yields: {name, comment} for the picture at a path, or for an invented one if path is "". */
 export function commentExample(text, path, files) {
     if (path !== "") {
         return { name: splitPath(path).name, comment: commentMaker(text, files)(path, 0) };
@@ -65,8 +65,8 @@ export function commentExample(text, path, files) {
              comment: new TokenText({ pattern: text }).expand(MADE_UP.path, facts, 0)[0] };
 }
 
-// What is written was checked before it took the old file's place; what can be read back counts beside that, but a file that cannot be
-// read just then is not one without its comment.
+// Writing was verified before the file was replaced. What can be read back now also counts, but a file that cannot be
+// read just then has not lost its comment.
 function* written(comments, path, before, comment) {
     const problem = yield* comments.write(path, comment);
     const after = yield* comments.look(path);
@@ -80,7 +80,7 @@ function* written(comments, path, before, comment) {
              reason: isThere ? "" : qsTr("The file does not contain what was written.") };
 }
 
-/** What is said of pages that go, or would go. */
+/** The sentence about pages that are lost, or would be. */
 export function pagesGone(pages) {
     return qsTr("%n more pages were removed. This cannot be undone.", "", pages);
 }
@@ -106,8 +106,8 @@ function* writeOne(comments, path, comment, pagesMayGo) {
 }
 
 /**
- * A generator that writes a comment into each file. It yields {path, status, reason, before, after} for each, with pages where a file lost
- * its further ones, and null where it waits.
+ * A generator that writes a comment into each file. It yields {path, status, reason, before, after} for each, with
+ * pages if a file lost its further ones, and null while it waits.
  *
  * @param pagesMayGo  without it files with several pages are left as they are
  */
@@ -118,7 +118,7 @@ export function* writing(comments, paths, comment, pagesMayGo) {
     }
 }
 
-// Why an edit is not reverted; null where it can be.
+// Why an edit is not reverted; null if it can be.
 function* obstacle(comments, edit) {
     if (!comments.isThere(edit.path)) {
         return failed(edit.path, qsTr("The file no longer exists."), "");
@@ -136,8 +136,8 @@ function* obstacle(comments, edit) {
 }
 
 /**
- * A generator that gives pictures their old comments again; yields what writing() does, with undoes, the run of the edit. A
- * comment that somebody changed since stays.
+ * A generator that gives pictures back their old comments; yields what writing() does, with undoes, the run of the
+ * edit. A comment that somebody has changed since is kept.
  *
  * @param edits  each has path, before, after and run; in the order in which they are reverted: the newest first
  */
@@ -150,8 +150,8 @@ export function* reverting(comments, edits) {
 }
 
 /**
- * A generator that looks what files of many pages would lose. It yields how many it has looked at, and null where it waits, and returns
- * {files, pages, words}, words naming the first of them.
+ * A generator that finds out what files with several pages would lose. It yields how many it has checked, and null
+ * while it waits, and returns {files, pages, words}, words naming the first of them.
  *
  * @param paths  of any files
  */

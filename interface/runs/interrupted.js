@@ -1,5 +1,5 @@
-// What a crash or a power cut interrupted, and what is left of it: runs that write pictures and runs that move files. Pure but for
-// translation; the services are handed in.
+// What a crash or a power cut interrupted, and what remains to be done: runs that write pictures and runs that move
+// files. Pure but for translation; the services are passed in.
 
 import { splitPath } from "../lib/names.js";
 import { fill, numberText } from "../lib/wording.js";
@@ -7,7 +7,7 @@ import { settleReplaced } from "./making/replacing.js";
 import { doneCount, doneResults, foldersOfItem, recordFrom, recordsFolder } from "./making/run-record.js";
 import { logRow } from "./report.js";
 
-// What was unfinished is of no use to anybody.
+// Unfinished files are of no use to anybody.
 function sweepFolders(record, files) {
     const folders = new Set([].concat(...record.items.map(foldersOfItem)));
     folders.forEach((folder) => {
@@ -17,7 +17,8 @@ function sweepFolders(record, files) {
     });
 }
 
-// Results that took the place of files are known to the move engine, which copies them there: to the record they are other files.
+// The move engine knows the results that replaced files, because it copied them there: to the record they are other
+// files.
 function notePlaced(record, path, runRecords, files, moves) {
     const placed = new Set(settleReplaced(record.replacing, moves).map((each) => files.identity(each)));
     Object.keys(record.rows).map((index) => record.rows[index]).forEach((row) => {
@@ -29,7 +30,7 @@ function notePlaced(record, path, runRecords, files, moves) {
     });
 }
 
-/** The records of runs that were interrupted: [{path, record}]. Those that are of no use are gone. */
+/** The records of interrupted runs: [{path, record}]. Useless ones are removed. */
 function wholeRecords(runRecords, files) {
     const all = runRecords.interrupted(recordsFolder(files))
         .map((path) => ({ path: path, record: recordFrom(files.readText(path) || "") }));
@@ -42,7 +43,7 @@ function wholeRecords(runRecords, files) {
 
 /**
  * Runs that wrote pictures: {kind: "pictures", action (its name), title, record, path, done, count, places}; places are the paths of their
- * list. What they left unfinished is gone. To be called when the move engine has ended its own runs.
+ * list. Their unfinished files are removed. Call this after the move engine has finished its own runs.
  */
 export function interruptedPictures(runRecords, files, moves) {
     return wholeRecords(runRecords, files).map(({ path, record }) => {
@@ -54,7 +55,7 @@ export function interruptedPictures(runRecords, files, moves) {
     });
 }
 
-// What became of one item, or of one of its outputs.
+// What happened to one item, or to one of its outputs.
 function finalOf(item, planned, result) {
     const photo = { path: item.of, name: splitPath(item.of).name };
     const isReady = planned.status === "ready";
@@ -62,7 +63,9 @@ function finalOf(item, planned, result) {
                                      reason: isReady ? qsTr("interrupted") : planned.reason }, { photo: photo });
 }
 
-/** A generator that gives the rows of the log of a run that is left as it is, one item after the other; process, about: see logRow(). */
+/**
+ * A generator for the log rows of a run that is left as it is, one item after the other; process, about: see logRow().
+ */
 export function* rowsOfLeft(record, files, process, about) {
     const done = doneResults(record, files);
     const date = new Date().toISOString();
@@ -75,7 +78,10 @@ export function* rowsOfLeft(record, files, process, about) {
     }
 }
 
-/** Of the runs with these ids those of which something is left: {kind: "moves" or "undo", id, title, items, places, done, count}. */
+/**
+ * Those of the runs with these ids that are not complete: {kind: "moves" or "undo", id, title, items, places, done,
+ * count}.
+ */
 export function interruptedMoves(moves, ids) {
     const found = [];
     for (const run of moves.runs().filter((each) => ids.indexOf(each.id) >= 0)) {
@@ -105,7 +111,7 @@ export function interruptedText(work, action) {
         : fill(qsTr("%1 was interrupted: %2 of %3 files are done.", "", work.done), doing, done, count);
 }
 
-/** What the button says that does the rest. */
+/** The text of the button that does the rest. */
 export function restText(work, action) {
     return work.kind === "moves" && action !== undefined && action.givesNames
         ? qsTr("Rename the Rest") : qsTr("Continue");

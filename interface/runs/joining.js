@@ -1,4 +1,4 @@
-// Pictures that are added while a run is under way: they are planned, and join its end.
+// Pictures that are added during a run: they are planned, and join its end.
 // Services used: shell (job).
 
 import { shell } from "quorlin/shell";
@@ -6,7 +6,10 @@ import { guard } from "../lib/guard.js";
 import { keysOf } from "../lib/names.js";
 
 export class Joining {
-    /** @param run  planMore(ids), a generator that returns items or null, and joined(ids, items); what the list holds now is its own */
+    /**
+     * @param run  planMore(ids), a generator that returns items or null, and joined(ids, items); the current rows of
+     * the list belong to it
+     */
     constructor(run, list) {
         this.run = run;
         this.list = list;
@@ -17,7 +20,7 @@ export class Joining {
         this.hasEnded = false;
     }
 
-    /** The run is under way now, and others may join it; what was added before does so at once. */
+    /** The run has started, and others may join it; what was added before joins at once. */
     open(flow) {
         this.flow = flow;
         this.look();
@@ -57,7 +60,7 @@ export class Joining {
         this.look();
     }
 
-    /** Nothing joins any more; true where the list has what did not. */
+    /** Nothing joins any more; true if the list contains rows that did not. */
     end() {
         const isLeft = this.isPlanning || this.newIds().length > 0;
         this.hasEnded = true;

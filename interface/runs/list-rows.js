@@ -1,12 +1,12 @@
-// The rows of the list as runs look at them.
+// The rows of the list in the form that runs use.
 
 import { emptyTable } from "../lib/names.js";
 
 const ROWS_AT_ONCE = 200;
 
 /**
- * The rows with these ids as planRun() takes them: {count, at, paths}. Each picture says besides how many come before it in the list
- * (index; those that are not ticked are not counted), and in which added folder it was found (root; "" for one that was added itself).
+ * The rows with these ids as planRun() takes them: {count, at, paths}. Each picture also says how many ticked ones
+ * precede it in the list (index), and in which added folder it was found (root; "" for one that was added itself).
  */
 export function photosOf(window, ids) {
     const list = window.pictures;
@@ -18,7 +18,7 @@ export function photosOf(window, ids) {
     } };
 }
 
-/** Says of the rows that are not ticked that runs leave them out; but of those for which isFinal(id). */
+/** Marks the rows that are not ticked as left out of runs, except those for which isFinal(id). */
 export function showUnticked(list, isFinal) {
     list.untickedIds().filter((id) => !isFinal(id)).forEach((id) => {
         list.setPlan(id, "", "");
@@ -32,7 +32,7 @@ export function* rowsByPathInParts(list) {
     let ids = list.ids();
     yield 0;
     const paths = list.paths();
-    // Some may have been added meanwhile.
+    // Rows may have been added meanwhile.
     ids = ids.length === paths.length ? ids : list.ids();
     for (let i = 0; i < paths.length; i += ROWS_AT_ONCE) {
         paths.slice(i, i + ROWS_AT_ONCE).forEach((path, j) => { table[path] = ids[i + j]; });

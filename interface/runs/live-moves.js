@@ -5,7 +5,7 @@ import { stateOf } from "./move-words.js";
 import { splitPath } from "../lib/names.js";
 import { LivePlan } from "./live-plan.js";
 
-// A plan is made in slices of rows, so that the window answers while ten thousand of them are shown.
+// A plan is made in slices of rows, so that the window stays responsive while ten thousand of them are shown.
 const ROWS_A_SLICE = 20;
 const SETTLE_MS = 15;
 const TELL_MS = 400;
@@ -53,7 +53,7 @@ export function* showPlan(window, rows, settings, isFinal) {
     return plan;
 }
 
-/** {ready, attention, same, along}: how many rows are in which state, and how many files move with those that are ready. */
+/** {ready, attention, same, along}: how many rows are in each state, and how many files move with the ready ones. */
 export function countStates(plan) {
     const sum = { ready: 0, attention: 0, same: 0, along: 0 };
     plan.states.forEach((state, i) => {
@@ -79,7 +79,7 @@ export class LiveMoves extends LivePlan {
 
     work(ids, settings) {
         this.toldMs = Date.now() + TELL_MS;
-        // The engine loses a generator that is returned by the call that makes it.
+        // The engine loses a generator that is returned by the call that creates it.
         const planning = this.planAll(ids, settings);
         return planning;
     }
@@ -95,7 +95,7 @@ export class LiveMoves extends LivePlan {
         return plan;
     }
 
-    // Where files have to be looked into it takes a while, and the window says how far it is.
+    // Reading files takes a while, and the window shows how far it is.
     take(named) {
         const now = Date.now();
         if (now - this.toldMs >= TELL_MS && named < this.ids.length) {
@@ -111,7 +111,7 @@ export class LiveMoves extends LivePlan {
         }
     }
 
-    // Names that no plan stands behind are not left standing.
+    // Names without a plan behind them are removed.
     refused() {
         this.ids.filter((id) => !this.isFinal(id)).forEach((id) => {
             this.window.pictures.setPlan(id, "", "");

@@ -1,5 +1,5 @@
-// Shows in the list what a run with the settings as they are would do. It is worked out from the event loop, whenever
-// things have settled, by the same plan that a run carries out; the classes above say what that plan is.
+// Shows in the list what a run with the current settings would do. It is computed from the event loop, whenever things
+// have settled, by the same plan that a run carries out; subclasses say what that plan is.
 
 import { copyOf } from "../lib/copies.js";
 import { guard } from "../lib/guard.js";
@@ -59,7 +59,7 @@ export class LivePlan {
         this.job.cancel();
     }
 
-    /** Rows that show what a run made of them keep that until the settings change. */
+    /** Rows that show the result of a run keep it until the settings change. */
     keepFinal(id) {
         this.finished[id] = true;
     }
@@ -93,12 +93,12 @@ export class LivePlan {
         }));
     }
 
-    /** The rows that a run would work on. */
+    /** The rows that a run would process. */
     wantedIds() {
         return this.window.pictures.tickedIds();
     }
 
-    /** Called where nothing can be planned with the settings as they are. */
+    /** Called if nothing can be planned with the current settings. */
     refused() {
         return undefined;
     }

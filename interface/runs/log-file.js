@@ -1,15 +1,15 @@
-// The log of all runs: one line of JSON per picture, in the program's own folder. The file service is handed in.
+// The log of all runs: one line of JSON per picture, in the program's own folder. The file service is passed in.
 //
 // A row is {date (ISO), process, action, status, reason, input, output, inputPath, outputPath, bytes, run}; run names the run that it
-// belongs to, the same for all its rows. Rows of a run that takes another one back have undoes, the name of that run; those of
-// comments have before and after. Rows with the keys LogDate, LogProcess, LogAction, LogStatus, LogI, LogO, LogIpath and
-// LogOpath are kept and read as well.
+// belongs to, the same for all its rows. Rows of a run that undoes another one have undoes, the name of that run; those
+// of comments have before and after. Rows with the keys LogDate, LogProcess, LogAction, LogStatus, LogI, LogO, LogIpath
+// and LogOpath are read and preserved as well.
 
 const NAME = "/log.jsonl";
 
-/** So many of the newest rows are kept, for good, where the user wants no other number. */
+/** So many of the newest rows are kept permanently, unless the user wants another number. */
 export const KEPT_ROWS = 100000;
-// The file is cut back when it has grown by this part beyond them.
+// The file is trimmed when it exceeds that number by this share.
 const SLACK = 0.1;
 // No row is shorter than this: a smaller file need not be counted.
 const SHORTEST_ROW = 100;
@@ -17,7 +17,7 @@ const ROWS_AT_ONCE = 50;
 
 let mostRows = KEPT_ROWS;
 
-/** Says how many rows are kept from now on. */
+/** Sets how many rows are kept from now on. */
 export function limitRows(most) {
     mostRows = most;
 }
@@ -30,12 +30,12 @@ export function logPath(files) {
     return files.dataFolder + NAME;
 }
 
-/** Adds rows to the log; returns a message if that failed. The oldest go when the log has grown too large. */
+/** Adds rows to the log; returns a message if that failed. The oldest are removed when the log is too large. */
 export function keepRows(files, rows) {
     return appendRows(files, rows) || (rows.length === 0 ? "" : trimRows(files));
 }
 
-/** A generator that does the same, some rows at a time; stopped, it keeps those that are left all the same. */
+/** A generator that does the same, some rows at a time; if stopped, it still writes the remaining ones. */
 export function* keepRowsInParts(files, rows) {
     let next = 0;
     let problem = "";
@@ -50,7 +50,7 @@ export function* keepRowsInParts(files, rows) {
     return problem || (rows.length === 0 ? "" : trimRows(files));
 }
 
-/** Adds rows to the log and lets it grow: for rows that come one by one, until trimRows() is called. */
+/** Adds rows to the log without trimming: for rows that arrive one by one, until trimRows() is called. */
 export function appendRows(files, rows) {
     return rows.length === 0 ? "" : files.appendLines(logPath(files), rows.map((row) => JSON.stringify(row)).join("\n") + "\n");
 }
@@ -62,19 +62,19 @@ export function countRows(files, runs) {
         .length;
 }
 
-/** Takes the oldest rows away when there are too many; returns a message if that failed. */
+/** Removes the oldest rows if there are too many; returns a message if that failed. */
 export function trimRows(files) {
     const limit = Math.round(mostRows * (1 + SLACK));
     return files.info(logPath(files)).bytes > limit * SHORTEST_ROW
         ? files.keepNewestLines(logPath(files), mostRows, limit) : "";
 }
 
-/** Takes all rows away; returns a message if that failed. */
+/** Removes all rows; returns a message if that failed. */
 export function clearRows(files) {
     return files.writeText(logPath(files), "");
 }
 
-/** A name for a run that starts now, for its rows. Runs that the move engine keeps have names of their own. */
+/** A name for a run that starts now, for its rows. Runs of the move engine have names of their own. */
 export function newRunName() {
     return new Date().toISOString() + "-" + Math.floor(Math.random() * 1e6);
 }

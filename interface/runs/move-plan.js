@@ -1,27 +1,27 @@
-// The plan of a run that moves files: the step says for every row of the list which path it wishes for, the engine says
-// which of the wishes can be had, and both are put together here. Pure; the engine is handed in.
+// The plan of a run that moves files: the step says for every row of the list which path it wants, the engine says
+// which of these are possible, and both are combined here. Pure; the engine is passed in.
 
 import { splitPath } from "../lib/names.js";
 
-// So many wishes are handed to the engine at once, and it works for so long, before the window gets control again.
+// So many requests are passed to the engine at once, and it works for so long, before the window gets control again.
 const AT_ONCE = 50;
 const WORK_MS = 2;
 
 const NONE = Object.freeze([]);
 
 /**
- * What a step's rows() says of one row; see row() for the standard values.
+ * What a step's rows() says about one row; see row() for the defaults.
  *
- *   to       the path that is wished for, or "" where there is none: then status and reason say why
+ *   to       the wanted path, or "" if there is none: then status and reason say why
  *   kind     "move", "copy" or "link"
- *   number   give it a number where the path is taken
- *   skips    staying where the path is taken is what the user chose
- *   isLeft   having no wish is what the user chose
- *   caution  what stands in for a thing that is missing, in words: shown as the status of a row that is ready
- *   notes    what else is to be known, for the tool tip
- *   along    [{from, to}]: files that go with this one; if one of them cannot, this one stays too
- *   goesWith the index of the row that takes this one along, or -1; then it has no wish of its own
- *   shown    what the column of new names shows; the name of `to` where it is ""
+ *   number   give it a number if the path is taken
+ *   skips    the user chose to leave it in place if the path is taken
+ *   isLeft   the user chose to leave it alone
+ *   caution  what replaces a missing value, in words: shown as the status of a row that is ready
+ *   notes    further remarks, for the tooltip
+ *   along    [{from, to}]: files that move with this one; if one of them cannot, this one stays too
+ *   goesWith the index of the row that this one moves with, or -1; then it has no request of its own
+ *   shown    what the column of new names shows; the name of `to` if this is ""
  */
 export function row(changes) {
     const made = Object.assign({ to: "", kind: "move", number: false, skips: false, isLeft: false, caution: "",
@@ -33,8 +33,8 @@ export function row(changes) {
     return made;
 }
 
-// Tells the engine the wishes of all rows that are not left out. {ofRow, count}: ofRow is where the wish of a row stands, and those
-// behind it move with it.
+// Passes the requests of all rows that are not left out to the engine. {ofRow, count}: ofRow is the position of a row's
+// request, and the requests after it move with it.
 function* tellWishes(tell, paths, rows, leftOut, part) {
     const ofRow = [];
     let count = 0;
@@ -58,7 +58,8 @@ function* tellWishes(tell, paths, rows, leftOut, part) {
     return { ofRow: ofRow, count: count };
 }
 
-// Has the engine plan once: {paths, rows, items, ofRow, leftOut}. An item is null where a wish is ready and gets what it asked for.
+// Has the engine plan once: {paths, rows, items, ofRow, leftOut}. An item is null if a request is ready exactly as
+// made.
 function* plannedOnce(paths, rows, leftOut, moves, part) {
     const name = moves.beginPlan();
     try {
@@ -82,7 +83,7 @@ function isReady(item) {
     return item === null || item.status === "ready";
 }
 
-// A file is not parted from those that go with it: the first of its companions that cannot go, or null.
+// A file is not separated from its companions: the first companion that cannot move, or null.
 function stayingCompanion(items, first, count) {
     for (let i = first; i < first + count; i += 1) {
         if (items[i] !== null && items[i].status === "refused" && items[i].code !== "leader") {
@@ -110,14 +111,14 @@ function leaveOutParted(plan) {
 // How often the rest is planned again without those whose companions cannot move with them.
 const MOST_ROUNDS = 5;
 
-/** A generator that settles the wishes of rows, in parts; see planMoves(). */
+/** A generator that settles the requests of rows, in parts; see planMoves(). */
 export function* settled(paths, rows, moves) {
     const leftOut = [];
     const part = { rows: rows, from: rows.length, to: rows.length };
     let plan = null;
     let found = 1;
     const anyAlong = rows.some((each) => each.along.length > 0);
-    // Those that the last round finds are left out too, only without another plan.
+    // Those found in the last round are left out too, but without planning again.
     for (let round = 0; round < MOST_ROUNDS && found > 0; round += 1) {
         plan = yield* plannedOnce(paths, rows, leftOut, moves, part);
         found = anyAlong ? leaveOutParted(plan) : 0;
@@ -125,7 +126,7 @@ export function* settled(paths, rows, moves) {
     return plan;
 }
 
-/** What the engine says of a row: an item, or null where the row has no wish. */
+/** What the engine says about a row: an item, or null if the row has no request. */
 export function itemOf(plan, i) {
     if (plan.leftOut[i] !== undefined) {
         return plan.leftOut[i];
@@ -139,7 +140,7 @@ export function isReadyRow(plan, i) {
     return plan.ofRow[i] >= 0 && plan.leftOut[i] === undefined && isReady(plan.items[plan.ofRow[i]]);
 }
 
-// The items of one row; first is what the first of them is among all.
+// The items of one row; first is the index of the first of them among all.
 function readyOfRow(plan, i, first) {
     const { kind, along } = plan.rows[i];
     const at = plan.ofRow[i];
@@ -163,8 +164,8 @@ function readyOfRow(plan, i, first) {
 }
 
 /**
- * A generator that returns the items that are to be carried out, with the row each belongs to and whether it moves with that
- * row's own file, which is then its leader, by its index among the items; -1 for none.
+ * A generator that returns the items that are to be carried out, with the row of each and the index among the items of
+ * its leader, the row's own file, if it moves with that; -1 for none.
  */
 export function* readyItems(plan) {
     const ready = [];
@@ -183,11 +184,11 @@ export function shownName(wish, item) {
 }
 
 /**
- * A generator that plans. The step's rows(paths, settings, services) is a generator too: it yields {rows, from, to} as the
- * rows from..to-1 are known, which is handed on, and returns all of them.
+ * A generator that plans. The step's rows(paths, settings, services) is a generator too: it yields {rows, from, to}
+ * once the rows from..to-1 are known, which is passed on, and returns all of them.
  *
- * Returns {paths, rows, items (of the wishes, null for one that is ready and gets what it asked for), ofRow (index of a row's wish,
- * or -1), leftOut}. Nothing is touched.
+ * Returns {paths, rows, items (of the requests, null for one that is ready exactly as made), ofRow (index of a row's
+ * request, or -1), leftOut}. Nothing is touched.
  */
 export function* planMoves(paths, step, settings, services) {
     const rows = yield* step.rows(paths, settings, services);

@@ -22,7 +22,7 @@ const ROWS_A_SLICE = 50;
 const ITEMS_AT_ONCE = 50;
 const WORK_MS = 2;
 
-// Has the engine look at everything and write down what is to be done; returns {run} or {problem}.
+// Has the engine check everything and record what is to be done; returns {run} or {problem}.
 function* prepared(moves, title, items) {
     const order = moves.beginOrder(title);
     try {
@@ -40,7 +40,7 @@ function* prepared(moves, title, items) {
     }
 }
 
-// Carries out what was begun; whatever happens the engine is told the end.
+// Carries out what was begun; whatever happens, the engine is told the end.
 function* carriedOut(moves, run) {
     let problem = "";
     try {
@@ -68,7 +68,7 @@ export class MoveRun extends BaseRun {
         this.filled = null;
     }
 
-    /** The folders that got files, where the action is there to fill folders. */
+    /** The folders that got files, if filling folders is what the action does. */
     folders() {
         return this.filled === null ? [] : this.filled.used;
     }
@@ -86,7 +86,7 @@ export class MoveRun extends BaseRun {
         this.startWith(window.pictures.tickedIds(), null);
     }
 
-    /** Does the same to these rows alone; counters begin again. */
+    /** Does the same to these rows alone; counters start again. */
     repeat(ids) {
         const list = this.window.pictures;
         this.startWith(ids, ids.map((id) => list.photo(id).path));
@@ -106,7 +106,7 @@ export class MoveRun extends BaseRun {
         this.changed();
     }
 
-    // Of very many rows ids and paths are asked for in two steps, between which some may have been added.
+    // With very many rows ids and paths are requested in two steps, and rows may have been added in between.
     readPaths() {
         const list = this.window.pictures;
         this.paths = list.tickedPaths();
@@ -133,7 +133,7 @@ export class MoveRun extends BaseRun {
         return plan;
     }
 
-    // More than is free is copied only if somebody insists: the engine stops by itself at what finds no room.
+    // More than the free space is copied only if the user insists: the engine stops by itself when there is no room.
     mayFill(disks) {
         const files = this.window.services.files;
         const problem = roomText(disks, (bytes) => files.byteText(bytes)).problem;
@@ -152,7 +152,7 @@ export class MoveRun extends BaseRun {
         return this.again.map((row) => this.ids[row.of]);
     }
 
-    /** Only what failed once more, under the names that were planned for it: a counter does not begin again. */
+    /** Only what failed before, under the names planned then: a counter does not start again. */
     retry() {
         const again = this.again.filter((row) => this.window.pictures.photo(this.ids[row.of]) !== null);
         const others = this.ids.filter((id) => again.every((row) => this.ids[row.of] !== id));
@@ -253,7 +253,7 @@ export class MoveRun extends BaseRun {
         }
     }
 
-    /** Carries out what is left of a run that was interrupted, as it was planned; items: those of moves.rest(). */
+    /** Carries out the rest of an interrupted run as it was planned; items: those of moves.rest(). */
     finishRest(title, items) {
         this.tellPane("starting");
         this.startPlanning(this.window.pictures.ids());
@@ -289,7 +289,7 @@ export class MoveRun extends BaseRun {
         const item = this.items[result.index];
         const told = { status: result.status, reason: result.message, path: result.path || item.to };
         this.done[result.index] = true;
-        // What belongs to a file that failed waits for it.
+        // Companions of a file that failed wait for it.
         if (result.status === "Failed" || result.code === "leader") {
             this.noteFailed(item, told);
         } else {
@@ -298,7 +298,7 @@ export class MoveRun extends BaseRun {
         this.countOne();
     }
 
-    // One more file is dealt with.
+    // One more file is done.
     countOne() {
         const now = Date.now();
         this.progress.add(1, now - this.steppedMs);
@@ -352,12 +352,12 @@ export class MoveRun extends BaseRun {
         this.noteInLog(parts, this.undone === null ? describe() : undoRow(parts, this.undone, this.id));
     }
 
-    // The row that an item belongs to; in an undo, rows are found by where their files are.
+    // The row of an item; in an undo, rows are found by the location of their files.
     idOf(item) {
         return item.row === undefined ? this.rowAt[item.from] || 0 : this.ids[item.row];
     }
 
-    // A file that went along may have a row of its own.
+    // A file that moved with another may have a row of its own.
     followed(from, to) {
         const id = this.rowAt[from];
         if (id !== undefined) {
@@ -387,7 +387,7 @@ export class MoveRun extends BaseRun {
         this.again = this.undoes === "" && this.wished !== null ? retryRows(this.unfinished, this.wished) : [];
         this.wished = null;
         this.window.planned = {};
-        // Facts are known by path, and other files are at these paths now.
+        // Facts are cached by path, and other files are at these paths now.
         this.window.services.facts.forget();
         yield this.items.length;
         return [this.summaryText(how)].concat(told).join(" · ");
@@ -422,7 +422,7 @@ export class MoveRun extends BaseRun {
         return this.last;
     }
 
-    /** Forgets what it knows of the newest run, because another one was made elsewhere. */
+    /** Forgets the newest run, because another one was made elsewhere. */
     look() {
         this.last = null;
     }
@@ -449,7 +449,7 @@ export class MoveRun extends BaseRun {
         return fill(qsTr("Last run: %1, %2"), words, problemsText(Math.max(0, run.count - run.done)));
     }
 
-    /** Takes back a run of the move engine, or does again what it took back. */
+    /** Undoes a run of the move engine, or redoes what it undid. */
     undo(run) {
         this.startPlanning(this.window.pictures.ids());
         this.title = run.title;
@@ -492,7 +492,7 @@ export class MoveRun extends BaseRun {
         this.countOne();
     }
 
-    /** Takes the summary away; the rows then show what the settings would make of them now. */
+    /** Removes the summary; the rows then show what the settings would make of them now. */
     dismiss() {
         if (this.phase === "ended") {
             super.dismiss();

@@ -23,11 +23,11 @@ const REFUSED = {
                              : qsTr("a sidecar file cannot be moved")),
 };
 
-/** Why a wish cannot be had. */
+/** Why a request cannot be met. */
 export function refusalText(item) {
     const words = REFUSED[item.code];
     const other = nameOf(item.other);
-    // The name itself is what is taken: saying it again would say nothing.
+    // The taken name is the wanted one: repeating it would add nothing.
     return words === undefined
         ? qsTr("not possible") : words(item.code === "taken" && other === nameOf(item.to) ? "" : other);
 }
@@ -74,7 +74,7 @@ function ready(row, item) {
 
 const TAKEN = ["taken", "twice", "case"];
 
-// The rule for names that are taken is to leave such files where they are.
+// The rule for taken names is to leave such files where they are.
 function skipped(item) {
     const text = item.code === "twice"
         ? fill(qsTr("stays: %1 gets this name"), nameOf(item.other)) : qsTr("stays: file already exists");
@@ -83,7 +83,7 @@ function skipped(item) {
 
 /**
  * The state of a row: {state: "ready", "same", "along" or "attention", kind, text, detail}; kind is that of the list's
- * statuses, detail is for the tool tip. leaderName: of the row that takes this one along.
+ * statuses, detail is for the tooltip. leaderName: of the row that this one moves with.
  */
 export function stateOf(row, item, leaderName) {
     if (row.goesWith >= 0) {

@@ -1,9 +1,9 @@
-// The folders that a run fills, and which of them were not there before. Services used: files (info).
+// The folders that a run fills, and which of them are new. Services used: files (info).
 
 import { emptyTable, splitPath } from "../lib/names.js";
 
 export class MovedFolders {
-    /** @param paths  where files are to go; looked at before the run */
+    /** @param paths  destinations of files; checked before the run */
     constructor(files, paths) {
         this.files = files;
         this.seen = emptyTable();
@@ -14,7 +14,7 @@ export class MovedFolders {
         paths.forEach((path) => this.look(splitPath(path).folder));
     }
 
-    // A folder that is there has its parents.
+    // If a folder exists, so do its parents.
     look(folder) {
         let at = folder;
         while (this.seen[at] === undefined && !this.files.info(at).exists) {
@@ -25,7 +25,7 @@ export class MovedFolders {
         this.seen[at] = this.seen[at] === undefined ? true : this.seen[at];
     }
 
-    /** A file came to that path. */
+    /** A file was put at that path. */
     got(path) {
         const folder = splitPath(path).folder;
         if (this.isUsed[folder] === undefined) {
@@ -34,7 +34,7 @@ export class MovedFolders {
         }
     }
 
-    /** {used, made: how many folders there are that were not there before}. */
+    /** {used, made: how many folders now exist that did not before}. */
     sum() {
         return { used: this.used, made: this.missing.filter((folder) => this.files.info(folder).exists).length };
     }

@@ -1,10 +1,12 @@
 // The plan of a run: for every picture what will be written and under which name, before anything is written.
-// Services used: files (names, info, identity ...), ask (optional). The step says what it would write; names are settled here.
+// Services used: files (names, info, identity ...), ask (optional). The step says what it would write; this module
+// settles the names.
 
 import { FolderNames } from "quorlin/files";
 import { emptyTable, joinPath, splitPath } from "../lib/names.js";
 
-// The place of a folder in the added folder that it lies in, from its "/" on; "" for that one itself and for any other.
+// The path of a folder relative to the added folder that contains it, from its "/" on; "" for that one itself and for
+// any other.
 function placeIn(root, folder) {
     const above = root === "/" ? "" : root;
     return root !== undefined && root !== "" && folder.startsWith(above + "/") ? folder.slice(above.length) : "";
@@ -24,12 +26,12 @@ export function targetFolder(photo, output) {
     return destination.kind === "beside" ? joinPath(source, destination.name) : source;
 }
 
-/** True for a name that a folder beside others can have: "." and ".." are not beside, and a path leads anywhere. */
+/** True for a name that a sibling folder can have: not "." or "..", and not a path. */
 export function isPlainName(name) {
     return name !== "" && name !== "." && name !== ".." && name.indexOf("/") < 0 && name.indexOf("\0") < 0;
 }
 
-/** True for a destination that says one folder for each picture. */
+/** True for a destination that means one folder per picture. */
 export function isSound(destination) {
     if (destination.kind === "folder") {
         return destination.path.startsWith("/");
@@ -41,7 +43,7 @@ function foldersOf(services) {
     const known = emptyTable();
     const keys = emptyTable();
     return (folder) => {
-        // One folder may be reached by several paths, and its names are those of one folder all the same.
+        // One folder may be reached by several paths, but its names are those of one folder.
         if (keys[folder] === undefined) {
             keys[folder] = services.files.folderIdentity(folder);
         }
@@ -53,8 +55,8 @@ function foldersOf(services) {
     };
 }
 
-// Which files are still to be read, by what they are and not by how their paths are spelled. Made when it is first needed;
-// most runs replace nothing.
+// Which files are still to be read, identified by the files themselves and not by the spelling of paths. Built when
+// first needed; most runs replace nothing.
 function ownersOf(paths, services) {
     let table = null;
     return (identity) => {
@@ -65,8 +67,8 @@ function ownersOf(paths, services) {
     };
 }
 
-// What of a file may be replaced by a result of this picture: {identity, isOriginal}; null if nothing may. A picture that is
-// still to be read may not, and neither may a folder.
+// What may be replaced at a path by a result of this picture: {identity, isOriginal}; null if nothing may. A picture
+// that is still to be read must not be replaced, nor a folder.
 function replaceable(path, photo, owners, services) {
     const identity = services.files.identity(path);
     const readers = owners(identity);
@@ -110,7 +112,8 @@ function replaceOrNumber(item, names, existing, context) {
     item.replacesOriginal = old.isOriginal;
 }
 
-// Where this program made the same of the same picture before, and nobody changed it since, there is nothing to do.
+// If this program made the same result from the same picture before, and nobody has changed it since, there is nothing
+// to do.
 function isUpToDate(item, step, settings, services) {
     if (settings.output.ifTaken !== "current") {
         return false;
@@ -142,7 +145,7 @@ function settleName(item, names, rule, context) {
     }
 }
 
-// A picture that cannot be read may have been taken away since it was added.
+// A picture that cannot be read may have been removed since it was added.
 function reasonOf(photo, planned, services) {
     return planned.status === "Failed" && !services.files.info(photo.path).exists
         ? qsTr("the picture no longer exists") : planned.reason || "";
@@ -163,7 +166,10 @@ function itemFor(photo, planned, settings, services) {
     return item;
 }
 
-/** The names that a plan has given, and what was answered: handed to planRun() by a run that is planned in several parts. */
+/**
+ * The names that a plan has assigned, and the answers given: passed to planRun() by a run that is planned in several
+ * parts.
+ */
 export function planMemory(services) {
     return { namesIn: foldersOf(services), answers: { forAll: null } };
 }
@@ -173,7 +179,8 @@ export function planMemory(services) {
  *
  * photos: {count, at, paths}: at(i) gives the i-th of `count` pictures as plain data; paths are all input paths. An item has status
  * "ready" or a final one with its reason, and then folder, name, path, width, height, replaces, replaced (the identity of the file that
- * may be replaced), replacesOriginal, numbered, notes. memory: planMemory() of a run of which this is a further part; may be missing.
+ * may be replaced), replacesOriginal, numbered, notes. memory: planMemory() of a run that this is a further part of;
+ * optional.
  */
 export function* planRun(photos, step, settings, services, memory) {
     const { namesIn, answers } = memory || planMemory(services);

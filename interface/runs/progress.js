@@ -1,6 +1,6 @@
-// How far a job is and how long it still takes. Pure; no service is used.
+// How far a job is and how long it will still take. Pure; no service is used.
 
-// A picture costs a fixed part and a part that grows with its pixels.
+// A picture costs a fixed part and a part proportional to its pixels.
 const FIXED_PIXELS = 500000;
 
 export function costOf(photo) {
@@ -29,7 +29,7 @@ export class Progress {
         this.spentMs += ms;
     }
 
-    /** Milliseconds still to go, or null while nothing can be said. */
+    /** Remaining milliseconds, or null while unknown. */
     leftMs() {
         if (this.done === 0 || this.doneCost === 0) {
             return null;

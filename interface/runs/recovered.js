@@ -1,8 +1,8 @@
-// What is said about runs that were interrupted and are ended now. Pure; no service is used.
+// What is said about interrupted runs that are finished now. Pure; no service is used.
 
 import { fill } from "../lib/wording.js";
 
-/** One run in words: what became of its items. */
+/** One run in words: what happened to its items. */
 export function recoveredText(run) {
     const parts = [];
     if (run.done + run.finished > 0) {
@@ -18,7 +18,7 @@ export function recoveredText(run) {
     return (parts.length > 0 ? fill(qsTr("%1: %2"), what, parts.join(", ")) : what) + ".";
 }
 
-/** {text, detail} for all runs, or null where nothing was interrupted. The detail lists what could not be put right. */
+/** {text, detail} for all runs, or null if nothing was interrupted. The detail lists what could not be repaired. */
 export function recoveredWords(runs) {
     if (runs.length === 0) {
         return null;

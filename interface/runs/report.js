@@ -4,10 +4,10 @@ const COLUMNS = ["Date", "Process", "Action", "Status", "Reason", "Input", "Outp
                  "Bytes"];
 const EDIT_COLUMNS = ["Before", "After"];
 
-// Spreadsheets take a file without this mark for one in some older set of letters.
+// Without this mark spreadsheets assume an older encoding.
 const MARK = "\uFEFF";
 
-// A cell that a spreadsheet would take for a formula is made plain text by an apostrophe.
+// An apostrophe turns a cell that a spreadsheet would take for a formula into plain text.
 function cell(value) {
     const text = String(value === null || value === undefined ? "" : value);
     const plain = /^[=+\-@\t\r]/.test(text) && isNaN(Number(text)) ? "'" + text : text;
@@ -25,12 +25,12 @@ export function logRow(result, process, action, date, run) {
 
 const LINE_END = "\r\n";
 
-/** What a CSV file begins with: the mark of its letters, and the names of the columns. Edits have two more. */
+/** The beginning of a CSV file: the byte order mark, and the names of the columns. Edits have two more. */
 export function csvHead(areEdits) {
     return MARK + COLUMNS.concat(areEdits ? EDIT_COLUMNS : []).join(",") + LINE_END;
 }
 
-/** Rows as lines of a CSV file; lines end as the format wants it, in CR and LF. */
+/** Rows as lines of a CSV file, with the required line ends CR LF. */
 export function csvLines(rows, areEdits) {
     return rows.map((row) =>
         [row.date, row.process, row.action, row.status, row.reason, row.input, row.output, row.inputPath,

@@ -1,4 +1,4 @@
-// What of a run that moved files could not be carried out, to be wished for once more. Pure; no service is used.
+// The part of a file-moving run that failed, to be requested once more. Pure; no service is used.
 
 import { row } from "./move-plan.js";
 import { emptyTable } from "../lib/names.js";
@@ -6,9 +6,11 @@ import { emptyTable } from "../lib/names.js";
 /**
  * @param unfinished  the items that failed, and those that waited for them: see readyItems() of move-plan.js
  * @param wished      the rows of the plan that they come from
- * @return [{from, wish (a row as steps make them), of (the index of the row it comes from), isAlong}]: the same wishes as before, each
- *         with those of its companions that are still where they were. A companion whose leader went is wished for by itself, under
- *         the name that it was to have.
+ * @return [{from, wish (a row as steps make them), of (the index of the row it comes from), isAlong}]: the same
+ * requests as before, each
+ *         with those of its companions that are still where they were. A companion whose leader was moved is requested
+ *         by itself,
+ *         under the name planned for it.
  */
 export function retryRows(unfinished, wished) {
     const waiting = emptyTable();

@@ -1,5 +1,5 @@
 // Whether there is room for what is to be written: how many bytes each file system gets, and how many it has free. Pure but for
-// translation; the services are handed in.
+// translation; the services are passed in.
 
 import { itemOf } from "./move-plan.js";
 import { emptyTable } from "../lib/names.js";
@@ -44,7 +44,7 @@ export class DiskNeeds {
     }
 }
 
-/** What is to be said about room: {note, problem}. */
+/** A message about room: {note, problem}. */
 export function roomText(disks, byteText) {
     const tight = disks.filter((each) => each.free >= 0 && each.bytes > each.free);
     const sum = disks.reduce((bytes, each) => bytes + each.bytes, 0);
@@ -62,8 +62,8 @@ export function roomText(disks, byteText) {
 }
 
 /**
- * Why a file finds no room in a folder, in words; "" where it does. kind: "move", "copy" or "link". Services used: files (space,
- * info, byteText).
+ * Why a file does not fit in a folder, in words; "" if it does. kind: "move", "copy" or "link". Services used: files
+ * (space, info, byteText).
  */
 export function roomProblem(path, folder, kind, files) {
     const target = files.space(folder);

@@ -15,7 +15,7 @@ import { fill, problemsText } from "../lib/wording.js";
 const ROWS_AT_ONCE = 50;
 
 export class BaseRun {
-    /** @param window  the main window's parts; changed() is called when buttons and texts should be looked at again */
+    /** @param window  the main window's parts; changed() is called when buttons and texts should be updated */
     constructor(window, changed) {
         this.window = window;
         this.changed = changed;
@@ -32,15 +32,15 @@ export class BaseRun {
         this.results = [];
         this.problems = 0;
         this.rows = [];
-        /** So many of them are in the log already, of a run that was interrupted while they were written. */
+        /** So many of them are in the log already, from a run that was interrupted while they were written. */
         this.keptRows = 0;
         this.paused = false;
         this.isEnding = false;
         this.isAbandoned = false;
         this.endWork = null;
-        /** The list has what is no part of this run, and gets its plan at the end. */
+        /** The list contains rows that are not part of this run; they are planned when it ends. */
         this.hasOthers = false;
-        /** Whether it came to its end by itself, and did more than plan. */
+        /** Whether it ended by itself, and did more than plan. */
         this.isComplete = false;
         /** {run, action, settings}, once they are in the log. */
         this.keptSettings = null;
@@ -48,11 +48,11 @@ export class BaseRun {
         this.detail = "";
         this.progress = new Progress([]);
         this.startedMs = Date.now();
-        // Rows of the log say to which run they belong.
+        // Rows of the log name their run.
         this.id = new Date(this.startedMs).toISOString();
     }
 
-    /** Where all rows of the list begin again: planning, with the settings as they are. */
+    /** Where all runs over the list begin: planning, with the current settings. */
     startPlanning(ids) {
         const window = this.window;
         window.livePlan.stop();
@@ -72,12 +72,12 @@ export class BaseRun {
         return this.phase === "planning" || this.phase === "running";
     }
 
-    /** Whether what is added to the list now joins the run. */
+    /** Whether pictures added to the list now join the run. */
     takesMore() {
         return false;
     }
 
-    /** Called when something was added to the list while the run is under way. */
+    /** Called when something was added to the list during the run. */
     listGrew() {
         this.hasOthers = true;
     }
@@ -86,7 +86,10 @@ export class BaseRun {
         return this.problems > 0;
     }
 
-    /** Notes the final result of one file and its row of the log; index: its place where results come in another order. */
+    /**
+     * Records the final result of one file and its row of the log; index: its position if results arrive in another
+     * order.
+     */
     noteInLog(result, row, index) {
         const place = index === undefined ? this.results.length : index;
         this.results[place] = result;
@@ -103,17 +106,17 @@ export class BaseRun {
         return [];
     }
 
-    /** What can be undone now: {id, text} or null; text stands on the button. */
+    /** What can be undone now: {id, text} or null; text is the label of the button. */
     undoOffer() {
         return null;
     }
 
-    /** Called when the action is shown, for runs may have been made elsewhere. */
+    /** Called when the action is shown, since runs may have been made elsewhere. */
     look() {
         return undefined;
     }
 
-    /** What to say while nothing runs; "" for nothing. */
+    /** The message while nothing runs; "" for nothing. */
     idleText() {
         return "";
     }
@@ -132,7 +135,10 @@ export class BaseRun {
         this.changed();
     }
 
-    /** A generator that writes the rows of the run into the log, some of them at a time; returns what to say if that failed. */
+    /**
+     * A generator that writes the rows of the run into the log, some of them at a time; returns a message if that
+     * failed.
+     */
     * keepLog() {
         let problem = "";
         for (let i = this.keptRows; i < this.rows.length && problem === ""; i += ROWS_AT_ONCE) {
@@ -144,7 +150,7 @@ export class BaseRun {
         return problem || (this.rows.length === 0 ? "" : trimRows(files)) || this.keepSettings();
     }
 
-    // A run that takes another one back has no settings.
+    // A run that undoes another one has no settings.
     keepSettings() {
         if (this.rows.length === 0 || this.undoes) {
             return "";
@@ -153,7 +159,7 @@ export class BaseRun {
         return keepSettings(files, this.id, this.window.action.name, this.settings);
     }
 
-    /** Carries out the end of the run, a generator that returns what to say: it can be neither paused nor stopped. */
+    /** Runs the generator of the run's end, which returns a message: it can be neither paused nor stopped. */
     endWith(work) {
         this.isEnding = true;
         this.endWork = work;
@@ -189,7 +195,7 @@ export class BaseRun {
         this.workEnded(step.value);
     }
 
-    // Whoever hears of the end may begin the next run, which the job could not while it is in a step of this one.
+    // A listener may start the next run when this one ends, which the job could not do during a step of this one.
     workEnded(value) {
         if (this.isBusy()) {
             this.finish(String(value));
@@ -215,7 +221,7 @@ export class BaseRun {
         this.showProgress();
     }
 
-    /** It is answered at once, however long the end takes. */
+    /** The request is acknowledged at once, however long the end takes. */
     cancel() {
         if (this.isEnding) {
             return;
@@ -228,7 +234,7 @@ export class BaseRun {
         }
     }
 
-    /** Ends the run at once; what is in progress is given up. */
+    /** Ends the run at once; pictures in progress are abandoned. */
     abandon() {
         this.isAbandoned = true;
         if (this.isEnding) {
@@ -237,7 +243,7 @@ export class BaseRun {
         this.job.cancel();
     }
 
-    /** Takes the summary away; it stays in the log. */
+    /** Removes the summary; it stays in the log. */
     dismiss() {
         if (this.phase === "ended") {
             this.phase = "idle";
@@ -245,7 +251,7 @@ export class BaseRun {
         }
     }
 
-    /** Writes the rows of this run where the user wants them; returns what to say about it. */
+    /** Writes the rows of this run to a file that the user chooses; returns a message about it. */
     saveReport() {
         const path = shell.chooseNewFile(qsTr("Save the report"), "", qsTr("Report") + ".csv", "csv");
         if (path === null) {

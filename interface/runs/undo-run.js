@@ -1,14 +1,15 @@
-// Undoing a run from the log: what can be said of it, and carrying it out. Pure but for translation; the move engine is handed in.
+// Undoing a run from the log: what can be said about it, and carrying it out. Pure but for translation; the move engine
+// is passed in.
 
 import { splitPath } from "../lib/names.js";
 import { logRow } from "./report.js";
 
 
-// What is done in one step.
+// The size of one step.
 const WORK_MS = 2;
 const ITEMS_AT_ONCE = 50;
 
-// Runs that write new files give themselves such a name; those that move files have theirs from the move engine.
+// Runs that write new files give themselves such a name; those that move files get theirs from the move engine.
 const WRITES = /^\d{4}-\d\d-\d\dT/;
 
 function sentence(text) {
@@ -32,7 +33,7 @@ export function undoWords(moves, run) {
     return { can: false, button: button, isRedo: isRedo, note: sentence(undoable.reason) };
 }
 
-/** The same of a run that wrote comments; chosen is what the list of runs tells of it. */
+/** The same for a run that wrote comments; chosen is what the list of runs says about it. */
 export function revertWords(chosen) {
     const left = chosen.edits - chosen.undone;
     return { can: left > 0, button: qsTr("Revert This Run"), isRedo: false, note: revertNote(chosen, left) };
@@ -50,7 +51,7 @@ function revertNote(chosen, left) {
     return chosen.undone > 0 ? now + " " + before : now;
 }
 
-/** How the log calls the taking back of a run: one that took back another is done again. */
+/** The name in the log of undoing a run: undoing an undo is a redo. */
 export function undoAction(isRedo) {
     return isRedo ? qsTr("Redo") : qsTr("Undo");
 }
@@ -61,7 +62,7 @@ export function undoRow(result, undone, run) {
                          { undoes: undone.id });
 }
 
-/** What becomes of the files that an undo cannot even begin with, as undoing() yields it. */
+/** What happens to the files with which an undo cannot even begin, as undoing() yields it. */
 export function unableSteps(begun, undone) {
     return begun.problems.map((problem) => {
         const photo = { name: splitPath(problem.path).name, path: problem.path };
@@ -70,7 +71,7 @@ export function unableSteps(begun, undone) {
     });
 }
 
-// The items of a run that was begun, some of them at a time.
+// The items of a started run, some of them at a time.
 function* itemsOf(moves, begun) {
     const items = [];
     for (let i = 0; i < begun.count; i += ITEMS_AT_ONCE) {
@@ -81,8 +82,8 @@ function* itemsOf(moves, begun) {
 }
 
 /**
- * A generator that begins what takes a run back and returns {run, items, problems}, or {problem, problems}. Nothing moves meanwhile;
- * stopped before its end it begins nothing.
+ * A generator that starts undoing a run and returns {run, items, problems}, or {problem, problems}. Nothing moves
+ * meanwhile; if stopped before its end it has started nothing.
  */
 export function* beginUndo(moves, run) {
     const order = moves.beginUndo(run);
@@ -105,10 +106,10 @@ export function* beginUndo(moves, run) {
 }
 
 /**
- * A generator that carries out an undo that was begun ({run, items, problems}), one file after the other. Yields {index of the item, from,
- * to, result, row}, the row being that of the log. Returns a message, or "". Stopping it ends the run properly.
+ * A generator that carries out a started undo ({run, items, problems}), one file after the other. Yields {index of the
+ * item, from, to, result, row}, row being that of the log. Returns a message, or "". Stopping it ends the run properly.
  *
- * @param undone  the run that is taken back, see undoRow()
+ * @param undone  the run that is undone, see undoRow()
  */
 export function* undoing(moves, begun, undone) {
     let problem = "";

@@ -47,7 +47,7 @@ export class WritePlan extends LivePlan {
     work(ids, settings) {
         const window = this.window;
         this.sizes = [];
-        // The engine loses a generator that is returned by the call that makes it.
+        // The engine loses a generator that is returned by the call that creates it.
         const planning = planRun(photosOf(window, ids), window.action.step, settings, window.services);
         return planning;
     }

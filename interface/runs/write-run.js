@@ -1,4 +1,4 @@
-// A run that writes pictures: plan, carry out or only show, and what came of it.
+// A run that writes pictures: plan, carry out or only show, and the outcome.
 
 import { files } from "quorlin/files";
 import { runRecords } from "quorlin/records";
@@ -19,7 +19,7 @@ import { photosOf, rowsByPath } from "./list-rows.js";
 import { showItem } from "./write-plan.js";
 import { Joining } from "./joining.js";
 
-/** Asks what becomes of a file whose name is taken: {rule, forAll}. */
+/** Asks what to do with a file whose name is taken: {rule, forAll}. */
 export function askAboutName(question) {
     const answer = shell.ask({
         title: qsTr("File exists"),
@@ -33,7 +33,8 @@ export function askAboutName(question) {
     return { rule: ["number", "replace", "skip", "cancel"][answer.button], forAll: answer.checked };
 }
 
-// The button said so already; it is said again, with the number, before originals are gone; tell(bytes) says where they go.
+// The button said so already; the question repeats it, with the number, before originals are replaced; tell(bytes) says
+// where they go.
 function mayReplace(items, tell) {
     const originals = items.filter((item) => item.replacesOriginal).length;
     if (originals === 0) {
@@ -49,17 +50,17 @@ function mayReplace(items, tell) {
     return answer.button === 0;
 }
 
-// Results come quickly where many workers make small ones.
+// Results arrive quickly if many workers make small ones.
 const TELL_MS = 100;
 
 export class WriteRun extends BaseRun {
     reset(ids) {
         super.reset(ids);
-        this.flow = null; // of a run by workers
+        this.flow = null; // of a run with workers
         this.replacing = null;
         this.record = null; // of what is done so far
         this.joining = null; // of pictures that are added meanwhile
-        this.interrupted = ""; // the record of a run that this one goes on with
+        this.interrupted = ""; // the record of a run that this one continues
         this.earlierReplacing = ""; // the run of the move engine that it had
         this.inWork = 0;
         this.toldMs = 0;
@@ -80,7 +81,7 @@ export class WriteRun extends BaseRun {
         this.begin(this.window.pictures.tickedIds());
     }
 
-    /** Does to these rows what was done to others. */
+    /** Does the same to these rows as was done to others. */
     repeat(ids) {
         this.begin(ids);
     }
@@ -116,7 +117,7 @@ export class WriteRun extends BaseRun {
         showItem(this.window.pictures, this.ids[this.items.length - 1], item, this.simulated);
     }
 
-    // The list was planned with the settings as they are: what the button says holds until they change.
+    // The list was planned with the current settings: what the button says is valid until they change.
     notePlan() {
         const count = (is) => this.items.filter(is).length;
         this.window.planned = {
@@ -148,7 +149,7 @@ export class WriteRun extends BaseRun {
         return qsTr("Cancelled before the first picture. Nothing was written.");
     }
 
-    /** What becomes of originals that are replaced. */
+    /** What happens to originals that are replaced. */
     replacedText(bytes) {
         return fill(qsTr("The replaced files (%1) go to the trash. Undo brings them back."), bytes);
     }
@@ -194,7 +195,7 @@ export class WriteRun extends BaseRun {
     }
 
     /**
-     * A generator that plans pictures which were added; it returns their items, or null where they stay out.
+     * A generator that plans added pictures; it returns their items, or null if they are not included.
      *
      * @return {Generator<number, any[], any>}
      */
@@ -232,7 +233,7 @@ export class WriteRun extends BaseRun {
         this.replacing = new Replacing(this.window.services, this.window.action.title(), this.earlierReplacing);
         this.flow = new Flow(() => this.job.wake());
         const services = Object.assign({}, this.window.services, { replacing: this.replacing });
-        // The engine loses a generator that is returned by the call that makes it.
+        // The engine loses a generator that is returned by the call that creates it.
         const work = this.recorded(services);
         return work;
     }
@@ -242,7 +243,7 @@ export class WriteRun extends BaseRun {
         yield* runByWorkers(this.items, this.window.action.step, this.settings, services, this.flow);
     }
 
-    /** All inputs, where names depend on those that are not made too. */
+    /** All inputs, if names also depend on those that are not made. */
     inputPaths() {
         return [];
     }
@@ -262,7 +263,7 @@ export class WriteRun extends BaseRun {
         }
     }
 
-    // Where this process ends before the run, the next one knows how far it was.
+    // If this process ends before the run, the next one knows how far it got.
     * recorded(services) {
         const record = new RunRecord(runRecords, files);
         const action = this.window.action;
@@ -273,12 +274,12 @@ export class WriteRun extends BaseRun {
         for (const part of record.begin(head, this.items, this.inputPaths())) {
             yield { kind: "recorded", index: part, item: this.items[part] };
         }
-        runRecords.end(this.interrupted); // what it said is in this one
+        runRecords.end(this.interrupted); // its contents are in this one
         this.joining.open(this.flow);
         yield* this.makeAll(Object.assign({}, services, { record: record }));
     }
 
-    /** It is part of one that was interrupted, with the same name in the log; path: of the record of that. */
+    /** It continues an interrupted run, with the same name in the log; path: of the record of that. */
     takeOver(record, path) {
         this.interrupted = path;
         this.id = record.head.id || this.id;
@@ -289,8 +290,8 @@ export class WriteRun extends BaseRun {
     }
 
     /**
-     * Goes on with a run that was interrupted, as it was planned; done: the results that are there, by index; path: of the record, which
-     * ends when this run has its own.
+     * Continues an interrupted run as it was planned; done: the existing results, by index; path: of the record, which
+     * is removed when this run has its own.
      */
     continueRun(record, done, path) {
         const window = this.window;
@@ -339,7 +340,7 @@ export class WriteRun extends BaseRun {
         }
     }
 
-    // Of several workers none takes as long as all of them together.
+    // With several workers none takes as long as all of them together.
     countOne(item) {
         const now = Date.now();
         this.progress.add(costOf(item.photo), now - this.steppedMs);
@@ -370,7 +371,7 @@ export class WriteRun extends BaseRun {
         this.showProgress();
     }
 
-    // Said once, the pictures in progress are finished; said again, they are given up.
+    // Called once, pictures in progress are finished; called again, they are abandoned.
     cancel() {
         if (this.flow === null || this.phase !== "running" || this.flow.isStopping) {
             super.cancel();
@@ -409,7 +410,7 @@ export class WriteRun extends BaseRun {
         this.endWith(work);
     }
 
-    // Each picture has one final state, also those whose turn never came.
+    // Each picture has one final state, including those that were never started.
     * ending(how, value) {
         const reason = how === "failed" ? String(value) : qsTr("cancelled");
         const isStopped = this.flow !== null && this.flow.isStopping;
@@ -436,7 +437,7 @@ export class WriteRun extends BaseRun {
         return problem;
     }
 
-    // Until its rows are in the log it is not over.
+    // It is not over until its rows are in the log.
     endRecord() {
         if (this.record !== null) {
             this.record.end();
@@ -449,14 +450,14 @@ export class WriteRun extends BaseRun {
         }
     }
 
-    // What came too late gets its plan as after any other change.
+    // Pictures that came too late are planned as after any other change.
     finish(text) {
         this.hasOthers = (this.joining !== null && this.joining.end()) || this.hasOthers;
         this.joining = null;
         super.finish(text);
     }
 
-    // The rows of the log belong to the run that can be undone, where there is one.
+    // The rows of the log belong to the run that can be undone, if there is one.
     endReplacing() {
         const problem = this.replacing.end();
         this.id = this.replacing.undoable() || this.id;

@@ -4,7 +4,7 @@ import { fill } from "../lib/wording.js";
 import { WritePlan } from "./write-plan.js";
 import { WriteRun } from "./write-run.js";
 
-// What will be written; all pictures of the list until that is known of the list as it is.
+// What will be written; all pictures of the list until the present list has been planned.
 function countOf(window) {
     const total = window.pictures.tickedCount;
     return window.planned.all === total ? window.planned.ready : total;
@@ -25,7 +25,7 @@ function startText(window) {
         : window.action.startText(total, window.settings);
 }
 
-// With how much of the disk is needed, once that is known.
+// With the required disk space, once that is known.
 function withSize(window, note) {
     const size = window.estimate === undefined ? "" : window.estimate.text;
     return [note, size].filter((text) => text !== "").join(" · ");

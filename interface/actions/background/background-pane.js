@@ -54,7 +54,7 @@ export class BackgroundPane extends Pane {
 
     showPatterns() {
         const found = foundPatterns();
-        // A copy in the user's folder takes the place of the supplied one.
+        // A copy in the user's folder replaces the supplied one.
         this.supplied = suppliedPatterns().map((path) => named(found, path) || path);
         this.settings.pattern = this.patternFor(this.settings.pattern);
         const supplied = this.supplied;
@@ -67,7 +67,7 @@ export class BackgroundPane extends Pane {
         this.form.chooseValue("pattern", this.settings.pattern);
     }
 
-    // The pattern itself; for one that is gone, or has a copy in the user's folder, the one of that name.
+    // The pattern itself; if it is gone, or has a copy in the user's folder, the one of that name.
     patternFor(path) {
         if (path !== "" && suppliedPatterns().indexOf(path) < 0 && files.info(path).exists) {
             return path;

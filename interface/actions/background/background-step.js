@@ -1,5 +1,5 @@
-// Lays pictures on a colour or a pattern, and puts a frame round them or a band inside their edge, as operations of a recipe.
-// Services used: recipes (planOutput, make), files. Plain data in, plain data out.
+// Lays pictures on a colour or a pattern, and puts a frame around them or a band inside their edge, as operations of a
+// recipe. Services used: recipes (planOutput, make), files. Plain data in, plain data out.
 
 import { files } from "quorlin/files";
 import { splitPath } from "../../lib/names.js";
@@ -10,7 +10,7 @@ import { ownName } from "../shared/own-name.js";
 import { mayBeTransparent, outputMessages, unreadable } from "../shared/written.js";
 
 export const MOST_BAND = 10000;
-/** What can lie under a picture. */
+/** What can be put under a picture. */
 export const GROUNDS = ["color", "pattern"];
 export const FRAMES = ["none", "white", "band"];
 
@@ -40,7 +40,7 @@ function patternMessages(path) {
         ? [fill(qsTr("“%1” cannot be read as a picture."), splitPath(path).name)] : [];
 }
 
-/** Messages on what is wrong with the settings; empty if a run can start. */
+/** Messages about invalid settings; empty if a run can start. */
 export function validate(settings) {
     const messages = settings.under === "pattern" ? patternMessages(settings.pattern) : [];
     if (settings.frame === "band"
@@ -55,7 +55,7 @@ export function recipe(settings) {
     return recipeOf("Background and Border", settings);
 }
 
-/** The same for one of them: workers are given it with the picture. */
+/** The same for one picture: workers receive it with the picture. */
 export function recipeFor(_photo, settings) {
     return recipe(settings);
 }

@@ -1,4 +1,4 @@
-// The settings of the Contact Sheet action, and the pages that they make.
+// The settings of the Contact Sheet action, and the pages that result from them.
 
 import { recipes } from "quorlin/recipes";
 import { shell } from "quorlin/shell";
@@ -14,7 +14,7 @@ const NUMBERS = ["paperWidth", "paperHeight", "rows", "columns", "gap", "marginT
                  "marginLeft", "captionSize", "lineSize", "dpi", "quality"];
 const CHECKS = ["turn", "repeat", "cropMarks", "frames"];
 const LINES = ["header", "footer"];
-// Controls that stand for something else elsewhere have another name here.
+// Controls whose names mean something else elsewhere have another name here.
 const CONTROLS = { quality: "pageQuality", dpi: "pageDpi", font: "pageFont", paper: "pagePaper" };
 const RARE = ["pageFont", "lineSize", "paperColor", "pageDpi", "pageQuality", "pageProfile"];
 
@@ -162,7 +162,7 @@ export class ContactPane extends Pane {
         this.above.control("pagesOn").enabled = last < pages;
     }
 
-    /** The pages stand in place of the preview; there is nothing to say of one picture. */
+    /** The pages replace the preview; there is nothing to say about a single picture. */
     show(photo, _services) {
         this.photo = photo;
         this.say("problemText", contact.validate(this.settings).join("\n"));

@@ -10,16 +10,16 @@ export const FITS = ["fit", "fill", "size"];
 export const SIDES = ["left", "center", "right"];
 export const CUSTOM = "custom";
 export const PROFILES = ["sRGB", "Display P3", "Adobe RGB", "gray"];
-/** The words for papers, in the order in which they are offered. */
+/** The names of papers, in the order in which they are offered. */
 export const PAPERS = new PageWork().papers.map((paper) => paper.word);
-/** What of the settings says how pages look. */
+/** The settings that determine how pages look. */
 export const LAYOUT = [
     "paper", "paperWidth", "paperHeight", "landscape", "marginTop", "marginRight", "marginBottom", "marginLeft", "gap",
     "rows", "columns", "fit", "turn", "repeat", "cropMarks", "frames", "caption", "captionSize", "header", "headerSide",
     "footer", "footerSide", "lineSize", "font", "paperColor", "dpi", "quality", "profile",
 ];
 
-/** What a new pane shows. Lengths are millimetres, sizes of texts points; an empty font is the usual one. */
+/** What a new pane shows. Lengths are millimetres, sizes of texts points; an empty font is the default. */
 export const defaults = {
     paper: "A4", paperWidth: 210, paperHeight: 297, landscape: false,
     marginTop: 12, marginRight: 12, marginBottom: 12, marginLeft: 12, gap: 5, rows: 5, columns: 4, fit: "fit",
@@ -32,14 +32,14 @@ export const defaults = {
 /** What the output block offers: there is one type, and its quality is that of the pages. */
 export const offer = { types: [], quality: false, oneFile: true };
 
-/** The settings as the service of pages takes them. */
+/** The settings in the form of the page service. */
 export function layoutOf(settings) {
     const layout = {};
     LAYOUT.forEach((name) => { layout[name] = settings[name]; });
     return layout;
 }
 
-/** A PDF of these pictures that nobody has begun. */
+/** Work on a PDF of these pictures, not started yet. */
 export function workFor(settings, paths) {
     return new PageWork({ settings: layoutOf(settings), paths: paths });
 }

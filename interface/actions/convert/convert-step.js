@@ -13,7 +13,7 @@ export const defaults = {
     output: usualOutput(ORIGINAL, "10", qsTr("Converted")),
 };
 
-/** The output block offers no type and no quality, for these are what the pane is about. */
+/** The output block offers no type and no quality, since the pane itself is about these. */
 export const offer = { types: [], quality: false, byRecipe: true };
 
 /** The settings in a few words, for the log. */

@@ -1,4 +1,4 @@
-// What pictures can be converted to, and what becomes of them.
+// What pictures can be converted to, and what each target does to them.
 
 import { splitPath } from "../../lib/names.js";
 import { MADE, typeOfExtension } from "../../lib/types.js";
@@ -16,13 +16,13 @@ export function isTarget(keyword) {
     return KEYWORDS.indexOf(keyword) >= 0;
 }
 
-/** A code of quality, as it is offered. */
+/** A quality code, as it is offered. */
 export function qualityText(code) {
     const texts = { 1: qsTr("1 – smallest file"), 9: qsTr("9 – best") };
     return texts[code] || code;
 }
 
-/** What a file of this target holds of a picture, in sentences. */
+/** What a file of this target preserves of a picture, in sentences. */
 export function targetText(keyword) {
     return {
         jpeg: () => qsTr("Small files for sharing. The lower the quality, the more detail is lost. Transparent parts get a colour and 16 bits become 8. Colour profile and metadata are kept."),
@@ -38,7 +38,7 @@ export function targetText(keyword) {
     }[keyword]();
 }
 
-/** What is to be known of a source, in sentences. lossless: no pixel of it is encoded again. */
+/** What the user should know about a source, in sentences. lossless: no pixel of it is encoded again. */
 export function sourceNotes(photo, target, lossless) {
     const extension = splitPath(photo.path).extension.toLowerCase();
     const notes = [];

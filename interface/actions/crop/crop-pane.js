@@ -9,7 +9,7 @@ import { ResolutionRow } from "../shared/resolution-row.js";
 
 const LENGTHS = ["width", "height", "offsetX", "offsetY"];
 const CENTRE = 4;
-// What a new frame by ratio has.
+// Initial values for a new frame by ratio.
 const USUAL_RATIO = "3:2";
 
 export class CropPane extends Pane {
@@ -85,7 +85,7 @@ export class CropPane extends Pane {
         this.filling = before;
     }
 
-    // A frame that is found in each picture is moved by nothing.
+    // A frame that is found in each picture has no offset.
     showPlace() {
         const isFound = this.settings.position === crop.ATTENTION;
         this.form.control("position").selectedSegment = isFound ? -1 : this.settings.position;
@@ -118,7 +118,7 @@ export class CropPane extends Pane {
         this.showState();
     }
 
-    // "Free" and "Original" are none that pictures could be cut to; they are back when nobody chose another one meanwhile.
+    // Pictures cannot be cropped to "Free" and "Original"; these return when nobody has chosen another one meanwhile.
     adjustRatio() {
         if (this.settings.mode === "ratio") {
             this.replaced = crop.RATIOS.indexOf(this.settings.ratio) < 0 ? this.settings.ratio : "";
@@ -129,14 +129,14 @@ export class CropPane extends Pane {
         }
     }
 
-    /** Width by height as it is held on the picture that is shown; 0 for none. */
+    /** Width by height to which the frame on the shown picture is held; 0 for none. */
     heldRatio() {
         const isOfPhoto = this.settings.ratio === "original" && this.photo !== null && this.photo.width > 0;
         const numbers = isOfPhoto ? this.photo : crop.numbersOf(this.settings);
         return numbers !== null && numbers.height > 0 ? numbers.width / numbers.height : 0;
     }
 
-    // The height follows the width, unless it is the height that was typed.
+    // The height follows the width, unless the height was typed.
     holdRatio(field) {
         const ratio = this.heldRatio();
         if (ratio > 0 && field !== "unit" && field !== "offsetX" && field !== "offsetY") {
@@ -158,7 +158,7 @@ export class CropPane extends Pane {
         return this.planned;
     }
 
-    // Where the frame would lie if nothing moved it; null where there would be none.
+    // Where the frame would be without offset; null if there would be none.
     unmovedFrame() {
         const unmoved = Object.assign({}, this.settings, { offsetX: 0, offsetY: 0 });
         const planned = crop.plan(this.photo, unmoved, this.services);
@@ -166,8 +166,8 @@ export class CropPane extends Pane {
     }
 
     /**
-     * Takes a frame that was dragged in the preview. The position stays, so that it makes sense for other sizes too; and so does what the
-     * frame is given by, where it was moved only.
+     * Adopts a frame that was dragged in the preview. The position stays, so that it makes sense for other sizes too;
+     * so does the kind of size, if the frame was only moved.
      */
     takeFrame(rectangle) {
         if (this.photo === null || this.services === null) {
@@ -189,7 +189,7 @@ export class CropPane extends Pane {
         this.changed();
     }
 
-    // What the frame is held to while it is sized.
+    // The ratio that the frame keeps while it is resized.
     drawnRatio(cut) {
         if (this.settings.mode === "ratio") {
             const numbers = crop.numbersOf(this.settings);
@@ -200,8 +200,8 @@ export class CropPane extends Pane {
     }
 
     /**
-     * The frame on a picture, for the view: whole pixels, the ratio that is kept while it is sized (0: none), and whether the view knows
-     * better where it lies.
+     * The frame on a picture, for the view: whole pixels, the ratio that is kept while it is resized (0: none), and
+     * whether the view knows its position better.
      */
     frame(planned) {
         const cut = planned.cut;

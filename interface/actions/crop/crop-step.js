@@ -1,5 +1,5 @@
-// Cuts a rectangle out of a picture, as an operation of a recipe: how large it is and where it lies the plan of that says.
-// Services used: recipes (planOutput, make), units, files. Plain data in, plain data out.
+// Cuts a rectangle out of a picture, as an operation of a recipe, whose plan says how large it is and where. Services
+// used: recipes (planOutput, make), units, files. Plain data in, plain data out.
 
 import { dpiMessages, dpiWords, inPixels, PIXEL, UNITS } from "../../lib/measure.js";
 import { ORIGINAL, WRITTEN } from "../../lib/types.js";
@@ -7,19 +7,21 @@ import { fill } from "../../lib/wording.js";
 import { makeBy, planBy, recipeOf, showBy, statedQuality, usualOutput } from "../shared/by-recipe.js";
 import { outputMessages } from "../shared/written.js";
 
-/** What the frame is given by. */
+/** How the size of the frame is given. */
 export const MODES = ["ratio", "size", "percent", "pixels"];
 export const MOST = 100000;
 /** Ratios of width to height; "custom" is one that is typed. */
 export const RATIOS = ["1:1", "5:4", "4:3", "7:5", "3:2", "16:9", "4:5", "3:4", "2:3", "9:16", "custom"];
-/** What width and height are held to while they are typed and drawn: "free" for nothing, "original" for the picture's ratio. */
+/**
+ * What width and height keep while they are typed and drawn: "free" for nothing, "original" for the picture's ratio.
+ */
 export const HELD_RATIOS = ["free", "original"].concat(RATIOS);
 const MOST_OF_RATIO = 1000;
-/** The position of a frame that lies where the eye is drawn to; the other nine go row by row. */
+/** The position of a frame placed where the eye is drawn to; the other nine go row by row. */
 export const ATTENTION = 9;
 export const PLACES = [0, 1, 2, 3, 4, 5, 6, 7, 8, ATTENTION];
 
-/** What a new pane shows. dpi is what lengths are taken at, 0 for each picture's own. */
+/** What a new pane shows. dpi is the resolution for lengths, 0 for each picture's own. */
 export const defaults = {
     mode: "percent", width: 1200, height: 800, unit: PIXEL, dpi: 0, percent: 20, pixels: 200, position: 4, offsetX: 0,
     offsetY: 0,
@@ -30,7 +32,7 @@ export const defaults = {
 /** What the output block offers; see the Resize step. */
 export const offer = { types: WRITTEN.map((type) => type.id), quality: true, byRecipe: true };
 
-/** The two numbers of a ratio; null where there are none to be had without a picture. */
+/** The two numbers of a ratio; null if they depend on the picture. */
 export function numbersOf(settings) {
     if (settings.ratio === "custom") {
         return { width: settings.ratioWidth, height: settings.ratioHeight };
@@ -105,13 +107,13 @@ export function validate(settings) {
 
 /** What is done to one picture. */
 export function recipe(photo, settings, services) {
-    // What is cut away is in pixels, so that an operation has no place for another unit.
+    // Offsets are in pixels, since an operation has no unit for them.
     const isMixed = settings.mode === "pixels" && settings.unit !== PIXEL;
     const moved = isMixed ? inPixels(photo, settings, ["offsetX", "offsetY"], services) : settings;
     return recipeOf("Crop", moved);
 }
 
-/** The same: workers are given it with the picture. */
+/** The same: workers receive it with the picture. */
 export function recipeFor(photo, settings, services) {
     return recipe(photo, settings, services);
 }

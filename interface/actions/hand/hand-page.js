@@ -10,7 +10,7 @@ import { Sidecars } from "../../lib/sidecars.js";
 import { fill } from "../../lib/wording.js";
 import { shell } from "quorlin/shell";
 
-// So many pictures are decoded before they are asked for.
+// So many pictures are decoded in advance.
 const AHEAD = 3;
 
 export class HandPage {
@@ -43,7 +43,7 @@ export class HandPage {
         join(control("handAddPictureFolder").clicked, "add", () => this.window.input.addFolder());
         join(this.view.largePreviewRequested, "large", () => this.window.form.control("largeAction").trigger());
         join(this.view.pictureShown, "ahead", () => this.prepare());
-        // The same part of the next pictures.
+        // The same part of the following pictures.
         join(this.view.partShown, "ahead", () => this.prepare());
         join(this.view.zoomChanged, "zoom", () => this.showZoom());
         join(control("handActualButton").clicked, "actual", () => {
@@ -72,7 +72,7 @@ export class HandPage {
         this.view.prepare([]);
     }
 
-    // What is in the trash is no picture of the list any more.
+    // A picture in the trash is no longer in the list.
     finish() {
         if (this.sorting === null || !this.sorting.isOpen()) {
             return;
@@ -139,7 +139,7 @@ export class HandPage {
         this.view.accessibleName = fill(qsTr("%1, %2"), photo.name, control("handPlace").text);
     }
 
-    // When it was taken; else when the file was made.
+    // When it was taken; otherwise when the file was created.
     dateOf(photo) {
         const path = this.sorting.placeOf(photo);
         const facts = path === "" ? null : files.facts(path);
@@ -175,7 +175,7 @@ export class HandPage {
         }
     }
 
-    // What the keys of the folders do from now on; said, since nobody looks at the pane while working by keys.
+    // What the keys of the folders do from now on; announced, since nobody looks at the pane while working with keys.
     chooseMode(mode) {
         this.window.pane.chooseMode(mode);
         const words = { move: qsTr("Keys now move pictures."), copy: qsTr("Keys now copy pictures."),
@@ -189,7 +189,7 @@ export class HandPage {
 
     put(slot, row) {
         const photo = this.current();
-        // A folder that is gone is not created again by a key.
+        // A key does not recreate a folder that is gone.
         const problem = slotProblem(slot.path, files) || this.roomProblem(photo, slot);
         if (problem !== "") {
             this.window.pane.look();
@@ -211,7 +211,7 @@ export class HandPage {
         }
     }
 
-    // Shows what came of an act, and the next picture.
+    // Shows the outcome of an act, and the next picture.
     tell(photo, result, row) {
         if (result.status !== "OK") {
             this.window.pane.look();
@@ -239,7 +239,7 @@ export class HandPage {
                    qsTr("%n were skipped.", "", open));
     }
 
-    // The row of the list follows the file, and says what was done with it.
+    // The row of the list follows the file, and says what was done to it.
     showState(photo) {
         const words = this.sorting.wordsFor(photo);
         const place = this.sorting.placeOf(photo);

@@ -25,7 +25,10 @@ export class HandPane extends Pane {
         this.fill();
     }
 
-    /** @param countIn  how many pictures went into a folder; @param chosen  called with {path, label} of a slot and its row */
+    /**
+     * @param countIn  how many pictures were put into a folder; @param chosen  called with {path, label} of a slot and
+     * its row
+     */
     use(countIn, chosen) {
         this.countIn = countIn;
         this.chosen = chosen;
@@ -127,7 +130,7 @@ export class HandPane extends Pane {
         }
     }
 
-    // A new folder lies beside the last one of the list, or beside the picture.
+    // A new folder is suggested beside the last one of the list, or beside the picture.
     parentFolder() {
         const last = this.settings.slots[this.settings.slots.length - 1];
         const beside = last !== undefined ? last.path : this.picture;
@@ -175,7 +178,7 @@ export class HandPane extends Pane {
         }
     }
 
-    // The folders of a preset take the place of all that are here.
+    // The folders of a preset replace all present ones.
     take(settings) {
         this.settings.mode = settings.mode;
         this.settings.slots = settings.slots.map((slot) => ({ path: slot.path, label: slot.label }));
@@ -188,13 +191,13 @@ export class HandPane extends Pane {
         this.showSlots();
     }
 
-    /** Looks at the folders again: one may have come or gone. */
+    /** Checks the folders again: one may have appeared or disappeared. */
     look() {
         this.problems = this.settings.slots.map((slot) => slotProblem(slot.path, files));
         this.showSlots();
     }
 
-    /** Shows the folders and how many pictures went there. */
+    /** Shows the folders and how many pictures were put there. */
     showSlots() {
         const slots = this.settings.slots;
         this.list.setSlots(slots
@@ -216,7 +219,7 @@ export class HandPane extends Pane {
         this.form.control("handMore").enabled = this.settings.slots.length > 0;
     }
 
-    /** Sets what the keys do, as somebody did who pressed Alt and a digit. */
+    /** Sets what the keys do, as if the user had pressed Alt and a digit. */
     chooseMode(mode) {
         this.form.control("handMode").selectedSegment = MODES.indexOf(mode);
         this.set("mode", mode);

@@ -3,6 +3,6 @@
 import { MODES } from "./hand-sorting.js";
 
 export const presets = {
-    // All other columns are folders, so that the mark stands in Action, between the sub-mode of the process and the mode.
+    // All other columns are folders, so the mark is in Action, between the sub-mode of the process and the mode.
     form: { process: "Sorting", subMode: "ByHand", mode: "mode", modes: MODES, slots: "slots", columns: {} },
 };

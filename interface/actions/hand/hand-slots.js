@@ -12,12 +12,12 @@ const LETTERS = "ABCDEFGHIJKLMNOPQRSTUVWXYZ";
 export const KEYS = Array.from(DIGITS + LETTERS)
     .concat(Array.from(LETTERS).map((letter) => "Shift+" + letter)).slice(0, MOST_SLOTS);
 
-/** What a folder is called until somebody calls it otherwise. */
+/** The name of a folder until the user gives it a label. */
 export function labelOf(slot) {
     return slot.label || splitPath(slot.path).name || slot.path;
 }
 
-/** Why nothing can go into a folder, in words; "" where something can. */
+/** Why nothing can be put into a folder, in words; "" if something can. */
 export function slotProblem(path, files) {
     const info = files.info(path);
     if (!info.exists) {
@@ -29,12 +29,12 @@ export function slotProblem(path, files) {
     return info.writable ? "" : qsTr("read-only");
 }
 
-// Folders are the same ones whether or not they are written with a slash at their end.
+// A trailing slash makes no difference to a folder's path.
 function clean(path) {
     return path.length > 1 && path.endsWith("/") ? path.slice(0, -1) : path;
 }
 
-/** Adds folders that are not among the slots yet: {slots, added, known, full}, the last three being counts of folders. */
+/** Adds folders that have no slot yet: {slots, added, known, full}, the last three being counts of folders. */
 export function withFolders(slots, paths) {
     const result = { slots: slots.slice(), added: 0, known: 0, full: 0 };
     for (const path of paths.map(clean)) {
@@ -54,7 +54,7 @@ export function withoutSlot(slots, row) {
     return slots.filter((slot, i) => i !== row);
 }
 
-/** The slots with one of them at another place. */
+/** The slots with one of them moved. */
 export function withMoved(slots, from, to) {
     const result = slots.slice();
     const moved = result.splice(from, 1);
@@ -62,7 +62,7 @@ export function withMoved(slots, from, to) {
     return result;
 }
 
-/** The slots with another label; the folder's own name is no label. */
+/** The slots with one label changed; the folder's own name is stored as no label. */
 export function withLabel(slots, row, text) {
     const label = text.replace(/[\u0000-\u001f\u007f]/g, " ").trim();
     return slots

@@ -1,4 +1,4 @@
-// Sorting one picture after the other into folders: what was done with which picture, where it is now, and taking it back.
+// Sorting one picture after the other into folders: what was done with which picture, where it is now, and undoing it.
 // Pure but for translation; the move engine, the file service and the log are handed in.
 
 import { emptyTable, joinPath, splitPath } from "../../lib/names.js";
@@ -30,7 +30,7 @@ export class HandSorting {
     /**
      * @param moves   the move engine: open, add, takeBack, end
      * @param along   function(path): the files that move with a picture, [{name, ending}, ...]
-     * @param keep    function(rows): adds rows to the log; returns a message where that failed
+     * @param keep    function(rows): adds rows to the log; returns a message if that failed
      */
     constructor(moves, along, keep) {
         this.moves = moves;
@@ -65,27 +65,27 @@ export class HandSorting {
         return this.placeOf(photo) === "";
     }
 
-    /** All that was done with a picture and stands, oldest first: [{kind, label, from}, ...]. */
+    /** Everything that was done to a picture and is still in effect, oldest first: [{kind, label, from}, ...]. */
     doneWith(photo) {
         return this.byPicture[photo.id] || [];
     }
 
-    /** The ids of the pictures with which something was done. */
+    /** The ids of the pictures to which something was done. */
     decided() {
         return Object.keys(this.byPicture).filter((id) => this.byPicture[id].length > 0).map(Number);
     }
 
-    /** The last act that stands, or null. */
+    /** The last act that is in effect, or null. */
     last() {
         return this.acts.length > 0 ? this.acts[this.acts.length - 1] : null;
     }
 
-    /** What was done with it, in words; "" for nothing. */
+    /** What was done to it, in words; "" for nothing. */
     wordsFor(photo) {
         return this.doneWith(photo).map((act) => actWords(act.kind, act.label)).join(" · ");
     }
 
-    /** How many pictures of this session are in a folder, by what was done here. */
+    /** How many pictures of this session are in a folder, counting what was done here. */
     countIn(folder) {
         return this.counts[folder] || 0;
     }
@@ -95,8 +95,8 @@ export class HandSorting {
     }
 
     /**
-     * Puts a picture {id, name, path as it was at first} into the folder of a slot {path, label}: {status, message, act}. What is
-     * there is never replaced: a name that is taken gets a number.
+     * Puts a picture {id, name, original path} into the folder of a slot {path, label}: {status, message, act}.
+     * Existing files are never replaced: a name that is taken gets a number.
      */
     put(photo, kind, slot) {
         const from = this.placeOf(photo);
@@ -142,7 +142,7 @@ export class HandSorting {
         return result;
     }
 
-    // The folder is looked through once for a picture, not at every key.
+    // The folder is searched once per picture, not at every key.
     alongOf(path) {
         if (this.companions[path] === undefined) {
             this.companions[path] = this.along(path);
@@ -150,7 +150,7 @@ export class HandSorting {
         return this.companions[path];
     }
 
-    // Companion files take the name that the picture got.
+    // Companion files get the name that the picture got.
     addAlong(act, from) {
         if (act.kind === "link") {
             return;
@@ -173,7 +173,7 @@ export class HandSorting {
         }
     }
 
-    /** Takes back the last act that stands: {status, message, act}, or null where there is none. */
+    /** Undoes the last act that is in effect: {status, message, act}, or null if there is none. */
     takeBack() {
         const act = this.last();
         if (act === null) {
@@ -204,7 +204,7 @@ export class HandSorting {
         return { status: "Failed", message: message, act: act };
     }
 
-    /** Ends the session: what was done can then be undone as a whole, from the log. Returns a message, or "". */
+    /** Ends the session: from then on everything can be undone as a whole, from the log. Returns a message, or "". */
     end() {
         if (!this.isOpen()) {
             return "";
@@ -224,7 +224,7 @@ export class HandSorting {
         return opened.problem || "";
     }
 
-    // The folder into which an earlier act of this session brought the picture: it leaves it now.
+    // The folder into which an earlier act of this session put the picture, and which it leaves now.
     sessionFolder(photo) {
         const act = this.lastOf(photo, (each) => each.kind === "move");
         return act === null ? "" : act.folder;

@@ -1,4 +1,4 @@
-// What can be done in the log with runs that wrote fields of metadata: revert them, and forget what reverting needs.
+// What the log can do with runs that wrote metadata fields: revert them, and delete the data that reverting needs.
 // Services used: files, shell (ask, job).
 
 import { files } from "quorlin/files";
@@ -25,7 +25,7 @@ export class LogFields {
         return this.asker !== null;
     }
 
-    /** What the run changed in the picture of an entry, in a line; "" where that is not kept. */
+    /** What the run changed in the picture of an entry, in one line; "" if that is not stored. */
     changesOf(run, entry) {
         const kept = entry === null ? null : valuesAt(files, run, entry.inputPath);
         return kept === null ? "" : Object.keys(kept.after)
@@ -37,7 +37,7 @@ export class LogFields {
         this.isStopping = true;
     }
 
-    /** Deletes what reverting a run needs, if that is meant. */
+    /** Deletes what reverting a run needs, after a question. */
     forget(run) {
         const answer = shell.ask({
             title: qsTr("Forget old values"),
@@ -53,7 +53,7 @@ export class LogFields {
         }
     }
 
-    /** Gives pictures the metadata again that a run replaced. */
+    /** Gives pictures back the metadata that a run replaced. */
     revert(run) {
         this.isStopping = false;
         this.done = 0;

@@ -19,7 +19,7 @@ import { LogFields } from "./log-fields.js";
 import { beginUndo, revertWords, undoAction, undoing, undoWords, unableSteps } from "../../runs/undo-run.js";
 
 const STATES = ["OK", "Failed", "Not Supported", "Skipped"];
-// So many rows are written at a time, and the window answers in between.
+// So many rows are written at a time; the window stays responsive in between.
 const BATCH = 400;
 const COLUMNS = "LogColumns";
 const COMMENTS = "comments";
@@ -33,7 +33,7 @@ function shownStates() {
     return shown;
 }
 
-// The entries that are shown, as CSV, worked out in batches.
+// The shown entries as CSV, produced in batches.
 function* csvOf(table) {
     const parts = [csvHead(table.comments)];
     for (let first = 0; first < table.shownCount; first += BATCH) {
@@ -151,7 +151,7 @@ export class LogPage {
                         this.form.value("logKind") === COMMENTS);
     }
 
-    // Old and new comments are shown where there are such.
+    // Old and new comments are shown if there are any.
     showColumns() {
         const chosen = this.runs.chosen();
         this.table.comments = this.form.value("logKind") === COMMENTS || (chosen !== null && chosen.areEdits);
@@ -178,7 +178,7 @@ export class LogPage {
         this.showChosenEdits();
     }
 
-    // The bar below the table is that of the chosen run, or of the chosen edits.
+    // The bar below the table is about the chosen run, or the chosen edits.
     showChosenEdits() {
         const control = (name) => this.form.control(name);
         const edits = this.table.chosenEditCount;
@@ -202,7 +202,7 @@ export class LogPage {
         return this.words !== null && this.words.isOfFields === true;
     }
 
-    // Of a run that wrote fields it is said what became of those of the chosen picture.
+    // For a run that wrote fields the bar says what happened to those of the chosen picture.
     showFieldChanges(busy) {
         if (this.isOfFields() && !busy) {
             const entry = this.table.chosenCount === 1 ? this.table.chosen() : null;
@@ -234,7 +234,7 @@ export class LogPage {
         return run.areEdits ? revertWords(run) : undoWords(this.window.services.moves, this.runs.run);
     }
 
-    // The run that is chosen, and whether it can be undone.
+    // The chosen run, and whether it can be undone.
     showRun() {
         const control = (name) => this.form.control(name);
         const chosen = this.runs.chosen();
@@ -260,7 +260,7 @@ export class LogPage {
         return entry === null ? "" : entry.outputPath || entry.inputPath;
     }
 
-    // The first of result and source that is still there.
+    // The first of result and source that still exists.
     picturePath() {
         const entry = this.table.chosen();
         const paths = entry === null ? [] : [entry.outputPath, entry.inputPath];
@@ -323,7 +323,7 @@ export class LogPage {
         }
     }
 
-    // Gives pictures their old comments again.
+    // Gives pictures back their old comments.
     revert(edits) {
         this.reverting.start((comments) => {
             const work = reverting(comments, edits);

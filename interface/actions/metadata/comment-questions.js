@@ -1,4 +1,4 @@
-// What is asked before comments are written, and before one that was typed goes.
+// What is asked before comments are written, and before a typed comment is dropped.
 // Services used: shell (ask), files (holdsComment).
 
 import { files } from "quorlin/files";
@@ -7,7 +7,7 @@ import { splitPath } from "../../lib/names.js";
 import { PICTURE_INPUT } from "../../lib/types.js";
 import { fill } from "../../lib/wording.js";
 
-// Of these the name says already that they can hold a comment.
+// The name alone says that these can hold a comment.
 const HOLDING = PICTURE_INPUT.filter((extension) => extension !== "gif" && extension !== "bmp")
     .concat(["jpe", "webp", "dng"]);
 
@@ -25,7 +25,7 @@ function pagesText(lost, isOne) {
     return fill(words, pages, lost.words);
 }
 
-// What whoever writes into pictures must know before.
+// What users must know before they write into pictures.
 function warnings(paths, lost) {
     const without = paths.filter((path) => !mayHold(path)).length;
     return [
@@ -55,7 +55,7 @@ export function mayWrite(paths, comment, lost) {
     return { goesOn: answer.button === 0, pagesMayGo: isOne || answer.checked };
 }
 
-/** What becomes of a comment that was typed for a file and is not in it: "write", "discard" or, where that can be, "stay". */
+/** What to do with a typed comment that is not in its file: "write", "discard" or, if possible, "stay". */
 export function askAboutTyped(path, canStay) {
     const answer = shell.ask({
         title: qsTr("Comment not written"),

@@ -1,4 +1,4 @@
-// Metadata: fields of many pictures, with tokens. The other face of the action shows properties and comments.
+// Metadata: fields of many pictures, with tokens. The other view of the action shows properties and comments.
 
 import { PHOTO_INPUT } from "../../lib/types.js";
 import { FIELDS } from "../../runs/fields/fields.js";

@@ -1,5 +1,6 @@
-// The form of metadata fields: what is typed is written, what is empty stays, and × clears. Empty fields show what the pictures say.
-// Services used: defaults (which groups are open), files and shell (the list of keywords).
+// The form of metadata fields: typed fields are written, empty ones stay unchanged, and × clears. Empty fields show the
+// current values of the pictures. Services used: defaults (which groups are open), files and shell (the list of
+// keywords).
 
 import { defaults } from "quorlin/defaults";
 import { files } from "quorlin/files";
@@ -19,7 +20,7 @@ const OTHERS = ["removedKeywords", "shift", "zone"];
 const SCOPES = ["all", "selected"];
 const MODES = [step.ADD, step.REPLACE];
 const CLEAR = "clear";
-// The groups of the form with the settings that lie in each.
+// The groups of the form with the settings in each.
 const SECTIONS = [
     { name: "Description", fields: step.GROUPS[0].fields.concat(["removedKeywords"]),
       title: () => qsTr("Description") },
@@ -146,7 +147,7 @@ export class FieldsPane extends Pane {
         }
     }
 
-    /** Called when the settings were written: keywords that were typed are offered from now on. */
+    /** Called when the settings were written: typed keywords are offered from now on. */
     written(settings) {
         addKeywords(files, step.keywordsOf(settings.keywords).filter((word) => word.indexOf("{") < 0));
         this.showKeywordList();
@@ -156,7 +157,7 @@ export class FieldsPane extends Pane {
         this.set("removed", step.withWord(this.settings.removed, group, isOn));
     }
 
-    // What is cleared is not written too.
+    // A cleared field is not written as well.
     cleared(name, isOn) {
         if (this.filling || step.isCleared(this.settings, name) === isOn) {
             return;
@@ -183,7 +184,7 @@ export class FieldsPane extends Pane {
         this.showState();
     }
 
-    // The field that has the keyboard, else the one that was typed in last.
+    // The field with the keyboard focus, else the one typed in last.
     insert(text) {
         const focused = step.TYPED.find((name) => this.form.control(controlOf(name)).focus);
         const name = focused || this.last;
@@ -199,7 +200,7 @@ export class FieldsPane extends Pane {
         }
     }
 
-    // Which rows are chosen is a setting like any other while only these are written.
+    // While only the chosen rows are written, the selection is a setting like any other.
     currentMoved() {
         if (this.settings.scope === "selected" && this.form.shown) {
             this.parts.planAgain();
@@ -244,7 +245,7 @@ export class FieldsPane extends Pane {
         });
     }
 
-    // How many of its settings say something.
+    // How many of its settings are not empty.
     usedIn(section) {
         const says = (name) => this.settings[name] !== "" || step.isCleared(this.settings, name);
         return section.name === "Private"
@@ -259,7 +260,7 @@ export class FieldsPane extends Pane {
         this.form.control(controlOf(name) + "Clear").checked = isCleared;
     }
 
-    // What the pictures say of a field now.
+    // The current values of a field in the pictures.
     statedText(name) {
         const stated = this.together === null ? { several: false, value: [] } : this.together.of(name);
         return stated.several ? qsTr("(several values)") : valueText(name, stated.value);
@@ -273,14 +274,14 @@ export class FieldsPane extends Pane {
         this.form.chooseValue(controlOf(name), step.isCleared(this.settings, name) ? CLEAR : this.settings[name]);
     }
 
-    /** Called when it is known what the pictures say: together, and each by its path (see FieldPlan). */
+    /** Called when the values of the pictures are known: together, and each by its path (see FieldPlan). */
     showStated(together, statedOf) {
         this.together = together;
         this.statedOf = statedOf;
         this.showState();
     }
 
-    /** What stands in the way, and what the current picture says in three ways. */
+    /** What prevents a run, and where the current picture disagrees with itself. */
     show(photo, _services) {
         this.photo = photo;
         const known = photo === null ? null : this.statedOf(photo.path);

@@ -1,5 +1,5 @@
-// Changes fields of metadata, and takes private data out. Plain data in, plain data out. An empty setting leaves its field as it is; what
-// is cleared stands in a setting of its own.
+// Changes fields of metadata, and removes private data. Plain data in, plain data out. An empty setting leaves its
+// field as it is; cleared fields are listed in a setting of their own.
 // Services used: tokens, files (plannedFields).
 
 import { files } from "quorlin/files";
@@ -17,7 +17,7 @@ export const GROUPS = [
 ];
 export const PRIVATE = files.privateDataNames();
 export const FIELDS = GROUPS.reduce((all, group) => all.concat(group.fields), []);
-/** Those that are typed, with tokens where no form is asked for. */
+/** The typed ones, which may contain tokens unless a format is required. */
 export const TYPED = FIELDS.filter((name) => name !== "rating" && name !== "label");
 const PLAIN = ["dateTaken"];
 export const ADD = "add";
@@ -47,12 +47,12 @@ export function withWord(text, word, isOn) {
     return (isOn ? others.concat([word]) : others).join(" ");
 }
 
-/** Keywords as they are typed: parted by commas, semicolons or lines. */
+/** Keywords as they are typed: separated by commas, semicolons or line breaks. */
 export function keywordsOf(text) {
     return text.split(/[,;\n]/).map((word) => word.trim()).filter((word) => word !== "");
 }
 
-// Names are parted by semicolons or lines: one may have a comma in it.
+// Names are separated by semicolons or line breaks: one may contain a comma.
 function namesOf(text) {
     return text.split(/[;\n]/).map((word) => word.trim()).filter((word) => word !== "");
 }
@@ -74,7 +74,7 @@ function textsOf(name, text) {
     return name === "creator" ? namesOf(text) : [text];
 }
 
-// What the settings say of the keywords before tokens are filled in: {set} or {add, remove}.
+// What the settings do to the keywords before tokens are filled in: {set} or {add, remove}.
 function keywordsEdit(settings) {
     const words = keywordsOf(settings.keywords);
     const removed = keywordsOf(settings.removedKeywords);
@@ -106,7 +106,7 @@ function editOf(name, settings) {
     return settings[name].trim() === "" ? null : { set: textsOf(name, settings[name]) };
 }
 
-/** What is to be done to each field that does not stay as it is, by its name, before tokens are filled in. */
+/** What is to be done to each changed field, by its name, before tokens are filled in. */
 export function editsOf(settings) {
     const edits = {};
     FIELDS.forEach((name) => {
@@ -118,7 +118,7 @@ export function editsOf(settings) {
     return edits;
 }
 
-// A text whose tokens have no value for a picture leaves the field as it is there.
+// A text whose tokens have no value for a picture leaves the field there unchanged.
 function filledIn(edit, expand) {
     if (edit.set === undefined && edit.add === undefined) {
         return edit;
@@ -140,8 +140,8 @@ function makersOf(edits) {
 }
 
 /**
- * What the settings come to for each picture: {needsFacts, make(path, facts, index)}, which gives the work that workers do, {fields,
- * remove}.
+ * What the settings mean for each picture: {needsFacts, make(path, facts, index)}, which gives the work that workers
+ * do, {fields, remove}.
  */
 export function workMaker(settings) {
     const edits = editsOf(settings);
@@ -163,7 +163,7 @@ export function workMaker(settings) {
     };
 }
 
-/** The settings in a few words, for the log: never what is written, since that can be forgotten. */
+/** The settings in a few words, for the log: never the values themselves, since users can delete those. */
 export function describe(settings) {
     const edits = editsOf(settings);
     const words = (name) => (edits[name].clear ? fill(qsTr("%1 cleared"), fieldTitle(name)) : fieldTitle(name));
@@ -222,7 +222,7 @@ export function changeWords(item) {
         .concat(item.inPlace ? item.work.remove.map((name) => fill(qsTr("without %1"), privateTitle(name))) : []);
 }
 
-/** What EXIF, IPTC and XMP of a picture say differently, all three values, in a line each. */
+/** Where EXIF, IPTC and XMP of a picture disagree, all three values, in a line each. */
 export function disputeWords(stated) {
     return FIELDS.filter((name) => stated[name] !== undefined && stated[name].disputed)
         .map((name) => disputeText(name, stated[name]));

@@ -1,4 +1,5 @@
-// The list of keywords that the form completes: a line each, in a file of the data folder. Pure; the file service is handed in.
+// The list of keywords that the form completes: one per line, in a file of the data folder. Pure; the file service is
+// handed in.
 
 const NAME = "/keywords.txt";
 
@@ -11,7 +12,7 @@ function sorted(words) {
     return words.slice().sort((a, b) => (keyOf(a) < keyOf(b) ? -1 : 1));
 }
 
-/** The words of a text: a line each, or with commas or semicolons between them; each once. */
+/** The words of a text, separated by line breaks, commas or semicolons; each once. */
 export function keywordsIn(text) {
     const words = text.split(/[\r\n,;]+/).map((word) => word.trim()).filter((word) => word !== "");
     return words.filter((word, i) => words.indexOf(word) === i);
@@ -22,7 +23,7 @@ export function listedKeywords(files) {
     return sorted(keywordsIn(files.readText(pathOf(files)) || ""));
 }
 
-/** Makes these the list; returns a message if that failed. */
+/** Replaces the list; returns a message if that failed. */
 export function keepKeywords(files, words) {
     return files.writeText(pathOf(files), keywordsText(words));
 }

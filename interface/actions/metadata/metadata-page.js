@@ -17,7 +17,7 @@ import { askAboutTyped, mayWrite } from "./comment-questions.js";
 const KEPT = "Comments";
 const ONE = 0;
 const MANY = 1;
-// So many pictures have room beside one another.
+// So many pictures fit beside one another.
 const MOST_TOGETHER = 4;
 
 export class MetadataPage {
@@ -28,7 +28,7 @@ export class MetadataPage {
         this.comments = commentsOf(files);
         this.job = new CommentJob();
         this.shown = false;
-        // What was read from the picture that is shown, to tell whether the field was changed.
+        // What was read from the shown picture, to tell whether the field was changed.
         this.read = "";
         this.id = 0;
         this.path = "";
@@ -37,7 +37,7 @@ export class MetadataPage {
         this.moved = shell.timer(guard("metadata.moved", () => this.goOn()));
         // The edits of the last run, which can be reverted.
         this.edits = [];
-        // The field shows the comment of one picture, or what is written into many.
+        // The field shows the comment of one picture, or the text to be written into many.
         this.scope = ONE;
         this.wanted = ONE;
         this.texts = ["", recall(defaults, KEPT, { text: "" }).text ];
@@ -112,7 +112,7 @@ export class MetadataPage {
         this.currentMoved();
     }
 
-    // A question cannot stand in the middle of what moved the list: a press of the mouse, for one.
+    // A question cannot be asked in the middle of what moved the list, such as a mouse press.
     currentMoved() {
         if (this.shown && this.isUnwritten() && this.list.currentId !== this.id) {
             this.moved.start(0);
@@ -165,7 +165,7 @@ export class MetadataPage {
         this.texts[ONE] = "";
     }
 
-    // What is typed for the picture stays when its file is read again.
+    // A comment typed for the picture is kept when its file is read again.
     showPicture(photo) {
         const control = (name) => this.form.control(name);
         const typed = photo.id === this.id && this.isUnwritten() ? this.typedText() : null;
@@ -187,7 +187,7 @@ export class MetadataPage {
         this.showCopyMenu();
     }
 
-    // The pictures that are chosen in the list, where these are a few: they are shown beside one another, the current one first.
+    // The pictures selected in the list, if they are few: they are shown beside one another, the current one first.
     chosenTogether(photo) {
         const ids = this.list.selectedIds();
         const others = ids.length <= MOST_TOGETHER && ids.indexOf(photo.id) >= 0
@@ -252,7 +252,7 @@ export class MetadataPage {
         return this.form.control("metaComment").plainText;
     }
 
-    // What the field says, or would say, of the one picture.
+    // The comment of the one picture, as it is or would be.
     typedText() {
         return this.scope === ONE ? this.text() : this.texts[ONE];
     }
@@ -261,7 +261,7 @@ export class MetadataPage {
         return this.id > 0 && this.holds && this.typedText() !== this.read;
     }
 
-    // Asks what becomes of a comment that was typed and is not in its file; false where the picture is to stay.
+    // Asks what to do with a typed comment that is not in its file; false if the picture is to stay.
     settle() {
         if (!this.isUnwritten()) {
             return true;
@@ -277,7 +277,7 @@ export class MetadataPage {
         return answer === "discard";
     }
 
-    // What stands under the field while nothing runs.
+    // The line under the field while nothing runs.
     note(problem) {
         if (this.scope === ONE) {
             return this.holds ? "" : qsTr("Files of this type cannot hold a comment.");
@@ -313,7 +313,7 @@ export class MetadataPage {
         control("metaCancel").enabled = busy;
     }
 
-    // Which picture it is, and how much of it is shown.
+    // Which picture it is, and how many of its properties are shown.
     showPlace() {
         this.form.control("metaPlace").text = fill(qsTr("%1 of %2"), this.list.currentPlace, this.list.count);
         const found = qsTr("%n properties", "", this.tree.shownCount);
@@ -334,7 +334,7 @@ export class MetadataPage {
         this.form.control("metaRevert").text = qsTr("Revert %n", "", Math.max(1, many));
     }
 
-    // What writes into several pictures.
+    // The controls that write into several pictures.
     showWriting(on, enabled) {
         const pictures = this.list.tickedCount;
         for (const name of ["metaApplyAll", "metaChooseFiles", "metaChooseFolder"]) {
@@ -345,7 +345,7 @@ export class MetadataPage {
         this.form.control("metaApplyAll").text = qsTr("Write into All %n…", "", pictures);
     }
 
-    // What it would cost is found out first.
+    // First finds out what would be lost.
     write(paths, comment, maker) {
         this.job.look((comments) => {
             const looking = pagesAtStake(comments, paths);
@@ -387,7 +387,7 @@ export class MetadataPage {
         return step.value;
     }
 
-    // One picture that loses nothing is written without a question. False where it was not written.
+    // One picture that loses nothing is written without a question. False if it was not written.
     applyOne() {
         const paths = [this.path];
         const comment = this.typedText();
@@ -411,7 +411,7 @@ export class MetadataPage {
         this.form.control("metaComment").setFocus();
     }
 
-    // From picture to picture without leaving the field.
+    // Moves from picture to picture without leaving the field.
     applyAndStep() {
         if (this.job.running || this.scope !== ONE || this.id <= 0) {
             return;

@@ -10,7 +10,7 @@ import { allRecipes } from "./recipe-files.js";
 const NEW = "";
 
 export class AddToRecipe {
-    /** @param add  called with the recipe of the settings, and the path of the own recipe that it is added to or "" */
+    /** @param add  called with the recipe of the settings, and the path of the user's recipe to extend, or "" */
     constructor(add) {
         this.add = add;
         this.action = null;
@@ -40,7 +40,7 @@ export class AddToRecipe {
 
     close() {
         this.form.shown = false;
-        // Escape belongs to the window again.
+        // The window handles Escape again.
         this.form.control("addToEscape").enabled = false;
     }
 

@@ -1,4 +1,4 @@
-// A column of cards: as many as there are entries, in their order. Cards are made when they are first needed and used again.
+// A column of cards, one per entry, in their order. Cards are created when first needed and reused.
 
 import { RecipeCard } from "./recipe-card.js";
 

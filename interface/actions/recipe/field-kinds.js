@@ -1,14 +1,15 @@
-// How one setting of a recipe is edited: a field is {kind, label, get(), set(value)} and what its kind asks for besides. Kinds: "number"
-// (least, most, decimals, suffix), "text" and "lines" (tokens: values of the picture can be inserted), "choice" (choices: [value, words]),
-// "color", "position" (one of the nine), "check", "file" (types: extensions) and "folder". Pure but for translation.
+// How one setting of a recipe is edited: a field is {kind, label, get(), set(value)} and what its kind needs besides.
+// Kinds: "number" (least, most, decimals, suffix), "text" and "lines" (tokens: values of the picture can be inserted),
+// "choice" (choices: [value, words]), "color", "position" (one of the nine), "check", "file" (types: extensions) and
+// "folder". Pure but for translation.
 
 /** The nine places of recipes, row by row as the pad counts them. */
 export const PLACES =
     ["top left", "top", "top right", "left", "center", "right", "bottom left", "bottom", "bottom right"];
-/** The part that draws the eye, in place of one of the nine. */
+/** The part that draws the eye, instead of one of the nine. */
 export const ATTENTION = "attention";
 
-/** A key of an object, which is left out where it has its usual value. */
+/** A key of an object, which is omitted if it has its default value. */
 export function keyed(object, key, usual) {
     return {
         get: () => (object[key] === undefined ? usual : object[key]),
@@ -26,7 +27,7 @@ function field(kind, label, access, more) {
     return Object.assign({ kind: kind, label: label }, access, more);
 }
 
-/** range: the least and the most. */
+/** range: the minimum and maximum. */
 export function number(label, access, range, decimals, suffix) {
     return field("number", label, access, { least: range[0], most: range[1], decimals: decimals, suffix: suffix });
 }
@@ -55,7 +56,7 @@ export function folder(label, access) {
     return field("folder", label, access, { tokens: true });
 }
 
-/** Colours with an opacity keep it: what is chosen is the colour. */
+/** Colours with an opacity keep it: only the colour is chosen. */
 export function color(label, access) {
     const bare = (value) => value.slice(0, 7);
     return field("color", label, {
@@ -72,7 +73,7 @@ export function position(label, access) {
     }, {});
 }
 
-/** A position that may also be where the eye is drawn to: the switch and, without it, the pad. */
+/** A position that may also be where the eye is drawn to: the switch and, when it is off, the pad. */
 export function positionOrAttention(object) {
     const place = keyed(object, "position", "center");
     const isDrawn = place.get() === ATTENTION;
@@ -81,7 +82,7 @@ export function positionOrAttention(object) {
     return isDrawn ? [drawn] : [drawn, position(qsTr("Position"), place)];
 }
 
-/** Something that is there or not, such as a band: a switch, and its own fields where it is on. */
+/** Something optional, such as a band: a switch, and its own fields while it is on. */
 export function optional(label, object, key, standard, fieldsOf) {
     const isThere = object[key] !== undefined;
     const onOff = check(label, {

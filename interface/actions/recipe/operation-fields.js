@@ -13,18 +13,18 @@ const MOST_PERCENT = 1000;
 export const PIXEL = "pixel";
 const WHITE = "#ffffff";
 
-/** The lengths of a resize, and what else gives a size. */
+/** The lengths of a resize, and what else determines a size. */
 const SIDES = ["width", "height", "longest", "shortest"];
 const RESIZE_BY = SIDES.concat(["percent", "megapixels", "box"]);
 const FIRST_SIZE = { width: 1600, height: 1200, longest: 2048, shortest: 1200, percent: 50, megapixels: 2,
                      box: [1600, 1200] };
 
-/** Which of several keys an operation has. */
+/** Which one of several alternative keys an operation has. */
 export function keyAmong(object, keys) {
     return keys.find((key) => object[key] !== undefined) || keys[0];
 }
 
-/** Another of several keys takes the place of the one that is there. */
+/** Replaces one of several alternative keys by another. */
 function oneOf(object, keys, first) {
     return {
         get: () => keyAmong(object, keys),
@@ -104,7 +104,7 @@ function resizeFields(operation) {
     };
     const hasLengths = sizes[key] === undefined || key === "box";
     const forget = (value) => {
-        // Another kind of size has no use for the rest.
+        // Another kind of size does not use the rest.
         ["fit", "position", "color", "unit", "dpi"].forEach((each) => { delete operation[each]; });
         by.set(value);
     };
@@ -195,7 +195,7 @@ function frameFields(operation) {
             color(qsTr("Colour"), keyed(operation, "color", WHITE))].concat(unitFields(operation));
 }
 
-// A font that is not there stays chosen, so that the message about it can be understood.
+// A font that is not installed stays chosen, so that the message about it can be understood.
 function fontWords(own) {
     const there = recipes.fonts();
     const fonts = own === "" || there.indexOf(own) >= 0 ? there : [own].concat(there);
@@ -234,7 +234,9 @@ function sharpenFields(operation) {
                    [["low", qsTr("Low")], ["standard", qsTr("Standard")], ["high", qsTr("High")]])];
 }
 
-/** The choice of a colour profile, and the field of its file. none: the words for no conversion, where that can be chosen. */
+/**
+ * The choice of a colour profile, and the field for its file. none: the text for no conversion, if that can be chosen.
+ */
 export function profileFields(object, key, none) {
     const known = ["sRGB", "Display P3", "Adobe RGB", "gray"];
     const value = object[key];
@@ -263,7 +265,7 @@ const FIELDS = {
     profile: (operation) => profileFields(operation, "to", ""),
 };
 
-/** The fields of an operation, as it is now; it is changed in place. None for one that is not known. */
+/** The fields of an operation, in its present state; it is changed in place. None for an unknown one. */
 export function operationFields(operation) {
     return FIELDS[operation.do] === undefined ? [] : FIELDS[operation.do](operation);
 }

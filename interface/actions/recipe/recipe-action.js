@@ -1,4 +1,4 @@
-// Recipe: several operations one after the other from one decoding, one or more outputs.
+// Recipe: several operations in sequence from one decoding, one or more outputs.
 
 import { recipes } from "quorlin/recipes";
 import { onPictures } from "../shared/on-pictures.js";

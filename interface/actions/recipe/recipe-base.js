@@ -1,5 +1,5 @@
-// The folder in which the folders of a recipe's outputs begin: that of each picture, or one for all, with or without the tree of the added
-// folders. The recipe does not have it.
+// The folder in which the folders of a recipe's outputs begin: that of each picture, or one for all, with or without
+// the tree of the added folders. It is not part of the recipe.
 // Services used: shell, files.
 
 import { files } from "quorlin/files";

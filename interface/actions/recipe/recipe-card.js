@@ -7,7 +7,7 @@ import { outputFields } from "./output-fields.js";
 import { RecipeField } from "./recipe-field.js";
 import { operationSummary, operationWords, outputSummary, outputTitle } from "./recipe-words.js";
 
-// After these the fields are others.
+// After a change of these the card has other fields.
 const DECIDES = ["choice", "check"];
 
 /** What a card shows: an operation {list, index, isNested}, or an output {list, index, isOutput}; the thing is list[index]. */
@@ -91,7 +91,7 @@ export class RecipeCard {
         this.filling = false;
     }
 
-    /** Shows the picture at that path as it is behind the operations; nothing for "". */
+    /** Shows the picture at that path after the operations; nothing for "". */
     showPicture(path, operations) {
         this.control("cardPicture").showEdits(path, path === "" ? [] : [
             { do: "recipe", operations: operations, path: path }
@@ -110,7 +110,7 @@ export class RecipeCard {
         this.control("cardSummary").setParts([summary], [false]);
     }
 
-    /** A sentence about what is wrong with it. */
+    /** A sentence about what is wrong with the operation or output. */
     say(problem) {
         this.control("cardProblem").text = problem;
         this.control("cardProblem").visible = problem !== "";
@@ -137,7 +137,7 @@ export class RecipeCard {
         this.handlers.changed(this);
     }
 
-    /** Puts the cursor into the first field, or on the title where there is none. */
+    /** Puts the cursor into the first field, or on the title if there is none. */
     focusFirst() {
         const first = this.fields.find((field) => field.field !== null);
         if (first === undefined) {

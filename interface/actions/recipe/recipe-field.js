@@ -20,7 +20,9 @@ function placeNames() {
 }
 
 export class RecipeField {
-    /** @param handlers  changed(field): the value of a field is another; offerTokens(taker, button): a value is to be inserted */
+    /**
+     * @param handlers  changed(field): a field has a new value; offerTokens(taker, button): a value is to be inserted
+     */
     constructor(handlers) {
         this.handlers = handlers;
         this.field = null;
@@ -70,7 +72,7 @@ export class RecipeField {
         }
     }
 
-    /** Inserts a value of the picture where the cursor is. */
+    /** Inserts a token where the cursor is. */
     insert(text) {
         const name = CONTROLS[this.field.kind];
         if (this.field.kind === "lines") {
@@ -126,7 +128,7 @@ export class RecipeField {
         }
     }
 
-    // What is typed stays as it is typed, and so does the cursor.
+    // Text being typed is left alone, and so is the cursor.
     showText(control, property, value) {
         const text = typeof value === "string" ? value : "";
         if (control[property] !== text) {

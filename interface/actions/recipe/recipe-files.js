@@ -1,5 +1,5 @@
-// The recipes that can be chosen: those that come with the program, and the user's own, each a file in the folder for this program's data.
-// Services used: files, recipes (supplied), cNSFileHandling (hTrashFile).
+// The available recipes: those that come with the program, and the user's own, each a file in the program's data
+// folder. Services used: files, recipes (supplied), cNSFileHandling (hTrashFile).
 
 import { cNSFileHandling } from "quorlin";
 import { files, FolderNames } from "quorlin/files";
@@ -16,7 +16,7 @@ function suppliedNames() {
              "Web gallery": qsTr("Web gallery") };
 }
 
-/** Where the user's own recipes lie. */
+/** Where the user's own recipes are. */
 export function ownFolder() {
     return joinPath(files.dataFolder, "Recipes");
 }
@@ -30,7 +30,7 @@ export function recipesAmong(paths) {
     return paths.filter((path) => isRecipe(splitPath(path).name) && !files.info(path).isFolder);
 }
 
-/** {name, path, isOwn}: first the supplied ones, then the user's own, each by the alphabet. */
+/** {name, path, isOwn}: first the supplied ones, then the user's own, each in alphabetical order. */
 export function allRecipes() {
     const words = suppliedNames();
     const supplied = recipes.supplied().map(
@@ -45,7 +45,10 @@ export function ownPath(name) {
     return joinPath(ownFolder(), name + "." + RECIPE_TYPE);
 }
 
-/** What is wrong with a name for an own recipe, in a sentence; `kept` is the path of the one that may have it. */
+/**
+ * What is wrong with a name for an own recipe, in a sentence; `kept` is the path of the recipe that may already have
+ * it.
+ */
 export function nameProblem(name, kept) {
     if (name === "") {
         return qsTr("Enter a name.");
@@ -58,13 +61,13 @@ export function nameProblem(name, kept) {
         ? "" : fill(qsTr("A recipe named “%1” already exists."), name);
 }
 
-/** The name itself, or with a number where it is taken. */
+/** The name itself, or with a number if it is taken. */
 export function freeName(name) {
     const names = new FolderNames({ names: allRecipes().map((recipe) => recipe.name) });
     return names.isFree(name) ? name : names.giveNumbered(name);
 }
 
-/** Reads a file: {text, problem}; the text can be shown where problem is empty. */
+/** Reads a file: {text, problem}; the text is valid if problem is empty. */
 export function readRecipe(path) {
     const text = files.readText(path);
     if (text === null) {
@@ -77,14 +80,14 @@ export function readRecipe(path) {
     return { text: text, problem: "" };
 }
 
-/** Writes a recipe whose relative paths begin in `from`. What is there is replaced. Answers the problem. */
+/** Writes a recipe whose relative paths start at `from`, replacing an existing file. Answers the problem. */
 export function writeRecipe(path, recipe, from) {
     const folder = splitPath(path).folder;
     const problem = files.info(folder).exists ? "" : files.makeFolder(folder);
     return problem || files.writeText(path, textOf(folder === from ? recipe : withAbsolutePaths(recipe, from)));
 }
 
-/** Into the user's trash. Answers the problem. */
+/** Moves a recipe to the user's trash. Answers the problem. */
 export function trashRecipe(path) {
     return cNSFileHandling.hTrashFile(path) === "OK"
         ? "" : fill(qsTr("%1 could not be moved to the trash."), splitPath(path).name);

@@ -38,7 +38,7 @@ export class RecipeHead {
         control("recipeEscape").triggered.connect(guard("recipeCancel", () => this.cancelEditing()));
     }
 
-    /** Reads which recipes there are, and shows all. */
+    /** Reads which recipes there are, and lists them. */
     look() {
         this.all = allRecipes();
         const path = this.pane.settings.path;
@@ -78,7 +78,7 @@ export class RecipeHead {
         const groups = [other, own, supplied].filter((group) => group.length > 0);
         const entries = groups.reduce(
             (all, group) => (all.length === 0 ? group : all.concat([{ name: "-", path: "-" }], group)), []);
-        // The dot stands before the name, where a long one is not cut off.
+        // The dot precedes the name, so that it is visible even if a long name is cut off.
         const text = (recipe) => (recipe.path === path && this.isChanged() ? "• " + recipe.name : recipe.name);
         this.form.setItems("recipeChoice", entries.map(text), entries.map((recipe) => recipe.path));
         this.form.chooseValue("recipeChoice", path);
@@ -95,7 +95,7 @@ export class RecipeHead {
         this.form.control(name).visible = text !== "";
     }
 
-    // [text, what it does]; an entry that does nothing cannot be chosen now.
+    // [text, what it does]; an entry without a function is disabled.
     menuEntries() {
         const current = this.current();
         const isOwn = current !== null && current.isOwn;
@@ -132,7 +132,7 @@ export class RecipeHead {
         this.show();
     }
 
-    /** Shows the recipe of a file; what it reads and writes elsewhere is to be allowed first. Nothing is run. */
+    /** Shows the recipe of a file; paths that it reads or writes elsewhere must be allowed first. Nothing is run. */
     choose(path) {
         const read = readRecipe(path);
         this.problem = read.problem;
@@ -249,7 +249,7 @@ export class RecipeHead {
         }
     }
 
-    // A copy among the user's own, in which no path depends on where it came from.
+    // A copy among the user's own recipes; its paths do not depend on where it came from.
     bringIn() {
         const from = shell.chooseFile(qsTr("Import a recipe"), "", [RECIPE_TYPE]);
         if (from === null) {

@@ -13,7 +13,7 @@ import { newRecipe, parsed, textOf, withAbsolutePaths } from "./recipe-text.js";
 import { operationMenu } from "./recipe-words.js";
 import * as step from "./recipe-step.js";
 
-// About the height of a closed card and the gap behind it.
+// About the height of a closed card and the gap after it.
 const CARD_PX = 78;
 
 export class RecipePane extends Pane {
@@ -38,12 +38,12 @@ export class RecipePane extends Pane {
         this.fill();
     }
 
-    /** What there is to tell beside the settings. */
+    /** A message to show beside the settings. */
     tell(text) {
         this.sayBeside(text);
     }
 
-    // The recipe of the session before, or the first of all.
+    // The recipe of the last session, or the first of all.
     begin() {
         this.recipe = parsed(this.settings.text);
         if (this.recipe === null) {
@@ -98,7 +98,7 @@ export class RecipePane extends Pane {
         this.changed();
     }
 
-    /** What is shown was written to a file, or belongs to none any more. What was allowed stays so. */
+    /** The shown recipe was written to a file, or no longer belongs to one. Its permissions stay. */
     takeFile(path, text) {
         const isFree = isAllowed(this.settings);
         Object.assign(this.settings, {
@@ -115,12 +115,14 @@ export class RecipePane extends Pane {
         this.changed();
     }
 
-    /** Opens the file of a recipe, which runs nothing. Answers the problem. */
+    /** Opens a recipe file without running it. Answers the problem. */
     openFile(path) {
         return this.head.choose(path);
     }
 
-    /** Adds what another action does to the own recipe of that path, or to a new one for "". It is not saved. */
+    /**
+     * Adds the operations of another action to the own recipe of that path, or to a new one for "". It is not saved.
+     */
     addFrom(recipe, path) {
         if (path === "") {
             this.head.fileText = null;
@@ -191,7 +193,7 @@ export class RecipePane extends Pane {
         return planned;
     }
 
-    // On each card of an operation the picture as it is behind it.
+    // On each card of an operation the picture after it.
     showPictures(path) {
         const recipe = withAbsolutePaths(this.recipe, this.settings.folder);
         const upTo = (list, entry) => list.slice(0, entry.index + 1);
@@ -226,7 +228,7 @@ export class RecipePane extends Pane {
         return this.operations.cardOf(thing) || this.outputs.cardOf(thing);
     }
 
-    // What a person does to the recipe here is allowed as it is done.
+    // What the user does to the recipe here is allowed without asking.
     note() {
         const before = reachOf(this.settings);
         this.settings.text = textOf(this.recipe);
@@ -324,7 +326,7 @@ export class RecipePane extends Pane {
         return true;
     }
 
-    // The card that was pressed keeps the pointer; what it showed wanders from card to card, one for each height of a closed card.
+    // The pressed card keeps the pointer; its content moves from card to card, one for each height of a closed card.
     drag(card, by) {
         if (this.dragged === null) {
             this.dragged = { list: card.entry.list, from: card.entry.index, at: card.entry.index };

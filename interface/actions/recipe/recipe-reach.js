@@ -1,5 +1,5 @@
-// What a recipe touches beyond its own folder and those of the pictures, and what of that a person has allowed. A recipe may come from
-// a stranger: nothing is read or written there before it was shown.
+// What a recipe accesses beyond its own folder and those of the pictures, and what the user has allowed of that. A
+// recipe may come from a stranger: nothing is read or written there until the user has seen it.
 // Services used: recipes (reachOf), defaults.
 
 import { defaults } from "quorlin/defaults";
@@ -18,7 +18,7 @@ export function reachOf(settings) {
     return recipes.reachOf(settings.text, settings.folder);
 }
 
-// One text for each thing that is touched.
+// One text for each path that is accessed.
 function things(reach) {
     return reach.reads.map((path) => "read " + path).concat(reach.writes.map((path) => "write " + path));
 }
@@ -27,7 +27,7 @@ function allowed() {
     return recall(defaults, KEY, { things: [] }).things;
 }
 
-/** Whether everything that the recipe touches was allowed. */
+/** Whether everything that the recipe accesses was allowed. */
 export function isAllowed(settings) {
     const wanted = things(reachOf(settings));
     if (wanted.length === 0) {
@@ -43,12 +43,12 @@ function note(settings, whats) {
     keep(defaults, KEY, { things: keys.concat(others).slice(0, MOST_KEPT) });
 }
 
-/** Allows all that the recipe touches. */
+/** Allows everything that the recipe accesses. */
 export function allow(settings) {
     note(settings, things(reachOf(settings)));
 }
 
-/** Allows what a person has chosen: all that the recipe touches now and did not before. */
+/** Allows what the user has chosen: everything that the recipe accesses now and did not before. */
 export function allowChanges(before, settings) {
     const old = things(before);
     const news = things(reachOf(settings)).filter((what) => old.indexOf(what) < 0);

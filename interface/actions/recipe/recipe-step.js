@@ -1,5 +1,5 @@
-// Carries out a recipe: several operations and one or more outputs. The run is that of recipes (runs/recipes/recipe-run.js); here is what
-// the pane and the preview ask about one picture and one output.
+// Carries out a recipe: several operations and one or more outputs. The run is that of recipes
+// (runs/recipes/recipe-run.js); this file answers what the pane and the preview ask about one picture and one output.
 // Services used: recipes (problemOf, planOutput), defaults. Plain data in, plain data out.
 
 import { recipes } from "quorlin/recipes";

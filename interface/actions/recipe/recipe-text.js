@@ -3,18 +3,18 @@
 import { copyOf } from "../../lib/copies.js";
 import { joinPath } from "../../lib/names.js";
 
-/** What the file of a recipe ends in, without the dot. */
+/** The file extension of recipes, without the dot. */
 export const RECIPE_TYPE = "quorlin";
 
 const VERSION = 1;
 const PROFILES = ["sRGB", "Display P3", "Adobe RGB", "gray"];
 
-/** A recipe without operations, whose results lie in that folder beside the originals. */
+/** A recipe without operations, whose results go to that folder beside the originals. */
 export function newRecipe(folder) {
     return { quorlin: VERSION, name: "", operations: [], outputs: [{ type: "original", folder: folder }] };
 }
 
-/** The recipe of a text; null where it is none. Whether it can be carried out is another matter. */
+/** The recipe in a text; null if it is none. Whether it can be carried out is another matter. */
 export function parsed(text) {
     let recipe = null;
     try {
@@ -43,7 +43,7 @@ export function allOperations(recipe) {
     return recipe.outputs.reduce((all, output) => all.concat(output.operations || []), recipe.operations.slice());
 }
 
-/** A copy in which no path depends on where the recipe lies. */
+/** A copy whose paths do not depend on where the recipe is. */
 export function withAbsolutePaths(recipe, folder) {
     const copy = copyOf(recipe);
     const absolute = (object, field) => {
@@ -70,7 +70,7 @@ export function operationsFor(recipe, index) {
     return recipe.operations.concat(output.operations || [], profile);
 }
 
-/** The recipe of one output alone, which says nothing of names and folders. */
+/** The recipe of one output alone, without names and folders. */
 export function oneOutput(recipe, index) {
     const output = Object.assign({}, recipe.outputs[index]);
     ["name", "folder", "ifTaken", "dates"].forEach((field) => { delete output[field]; });

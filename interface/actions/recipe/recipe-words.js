@@ -1,4 +1,5 @@
-// Operations and outputs of recipes in words: titles, what is found in the menu, and their settings in a line. Pure but for translation.
+// Operations and outputs of recipes in words: titles, search words of the menu, and their settings in a line. Pure but
+// for translation.
 
 import { splitPath } from "../../lib/names.js";
 import { fill } from "../../lib/wording.js";
@@ -70,7 +71,7 @@ const NEW = {
     profile: { to: "sRGB" },
 };
 
-/** What the menu of operations offers, in its order: [{title, explanation, words, operation}]. */
+/** What the menu of operations offers, in order: [{title, explanation, words, operation}]. */
 export function operationMenu() {
     const words = operationWords();
     return Object.keys(words).map(
@@ -130,7 +131,7 @@ function typeWord(type) {
     return found === undefined ? type : found[1];
 }
 
-/** What comes out, in a line: the type and its quality, and where it goes. */
+/** The result in a line: the type and its quality, and where it goes. */
 export function outputSummary(output) {
     const parts = [];
     if (output.lossless === true) {

@@ -1,13 +1,13 @@
-// A chain of steps that makes new names of old ones. Pure; the operations on texts are handed in.
+// A chain of steps that makes new names from old ones. Pure; text operations are passed in.
 
 import { splitPath } from "../../lib/names.js";
 import { prepared } from "./name-steps.js";
 
 export class NameChain {
     /**
-     * @param steps    those of name-steps.js; the ones that are off are passed over
+     * @param steps    those of name-steps.js; disabled ones are skipped
      * @param names    the operations (cNSStringHandling)
-     * @param missing  what stands for values that a file does not have: {standIns, standIn} of TokenText
+     * @param missing  replacements for values that a file does not have: {standIns, standIn} of TokenText
      */
     constructor(steps, names, missing) {
         this.steps = steps
@@ -19,10 +19,10 @@ export class NameChain {
 
     /**
      * The new name of one file or folder: {name, base, extension, missing: tokens without a value, short: indices of the steps
-     * that could not change it because it is too short, cut: "half" or "mark" if a character was parted, trace: the name after
-     * each step that was applied, by the step's index, if it is asked for}.
+     * that could not change it because it is too short, cut: "half" or "mark" if a character was split, trace: the name
+     * after each step that was applied, by the step's index, if it is asked for}.
      *
-     * Files are to be given in their order, for the counters count.
+     * Files must be passed in order, because of the counters.
      */
     apply(path, isFolder, facts, wantsTrace) {
         const file = splitPath(path);
@@ -47,7 +47,7 @@ export class NameChain {
         return told;
     }
 
-    /** By the index of a step: how many digits its counter needs for all names made so far, where it has fewer. */
+    /** By the index of a step: how many digits its counter needs for all names made so far, if it has fewer. */
     digits() {
         return this.steps.map((each) => ({ index: each.index, digits: each.ready.digits() }))
             .filter((each) => each.digits > 0);
@@ -58,7 +58,7 @@ export class NameChain {
         if (each.part === "both" && !isFolder) {
             const made = each.ready.apply(joined(now), context);
             const file = splitPath("/" + made.text);
-            // A text with a slash in it is no path: it is told as it is.
+            // Text with a slash is not treated as a path but reported as it is.
             now.base = made.text.indexOf("/") < 0 ? file.base : made.text;
             now.extension = made.text.indexOf("/") < 0 ? file.extension : "";
             return made;
@@ -73,7 +73,7 @@ export class NameChain {
     }
 }
 
-// An empty name is empty, whatever its extension.
+// An empty name stays empty, whatever its extension.
 function joined(now) {
     return now.base === "" || now.extension === "" ? now.base : now.base + "." + now.extension;
 }

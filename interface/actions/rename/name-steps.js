@@ -1,5 +1,5 @@
-// The steps that a chain of names is made of: what each is called, which settings it has and what it does to a text. The
-// operations on texts are handed in. Pure but for translation; only texts with tokens are left to their module.
+// The steps that a chain of names is made of: what each is called, which settings it has and what it does to a text.
+// Text operations are passed in. Pure but for translation; texts with tokens are left to their module.
 
 import { tokens, TokenText } from "quorlin/tokens";
 import { cutAt } from "./text-cuts.js";
@@ -7,18 +7,18 @@ import { cutAt } from "./text-cuts.js";
 /** What a step can work on. */
 export const PARTS = ["name", "extension", "both"];
 
-/** Whether a counter goes on, or restarts with each folder or each day. */
+/** Whether a counter continues, or restarts with each folder or each day. */
 export const SCOPES = ["run", "folder", "date"];
 
-// Marks a text that the step could not change: it stays as it is, and the step says so.
+// Marks a text that the step could not change: it stays as it is, and the step reports it.
 function unchanged(text) {
     return { text: text, short: true };
 }
 
-// Letters below these are never a part of another one.
+// Characters below these never combine with another one.
 const MAY_BELONG = /[\u0300-\uffff]/;
 
-// The first harm that a cut at one of the positions does.
+// The first damage that a cut at one of the positions does.
 function harm(text, positions) {
     return !MAY_BELONG.test(text)
         ? "" : positions.map((position) => cutAt(text, position)).find((each) => each !== "") || "";
@@ -47,7 +47,7 @@ function insert(step, text, names) {
                                           cut: harm(text, [at]) };
 }
 
-// The question marks that were there are not those that stand for letters without a plain form.
+// Question marks of the original text differ from those that replace letters without a plain form.
 function fold(step, text, names) {
     const pieces = names.hSplitString(text, "?").map((piece) => {
         const folded = names.hConvertAccentLetters(piece);
@@ -74,7 +74,7 @@ function split(step, text, names) {
     return { text: chosen.reduce((joined, piece) => names.hConcatString(joined, step.joiner, piece)) };
 }
 
-// Only what is outside ASCII can be written in two ways or be damaged.
+// Only characters outside ASCII can be written in two ways or be damaged.
 function utf8(step, text, names) {
     return { text: /^[\x00-\x7f]*$/.test(text) ? text : names.hUTF8toNSString(text.normalize(step.form)) };
 }
@@ -86,14 +86,14 @@ function fits(step, text, names) {
     if (step.where === "begins") {
         return names.hStringBeginsWith(text, step.text) === "YES";
     }
-    // The operation raises for an ending that is longer than the text.
+    // The operation raises an error for an ending that is longer than the text.
     return step.text.length <= text.length && names.hStringEndWith(text, step.text) === "YES";
 }
 
 /**
- * By the name of the kind: standard, what a new step has; parts, whether it can be told what to work on; apply(step, text, names)
- * gives {text, short: it stayed as it was because it is too short, cut: "half" or "mark" if a character was parted, stop: the
- * steps behind are passed over}. names has the operations.
+ * By the name of the kind: standard, the settings of a new step; parts, whether it can be restricted to a part of the
+ * name; apply(step, text, names) gives {text, short: unchanged because it is too short, cut: "half" or "mark" if a
+ * character was split, stop: the following steps are skipped}. names has the operations.
  */
 const STEPS = {
     text: { standard: { pattern: "{name}", counterStep: 1, counterScope: "run" }, parts: false },
@@ -119,14 +119,14 @@ const STEPS = {
 
 export const KINDS = Object.keys(STEPS);
 
-/** Settings of steps that can only be one of a few words. */
+/** Settings of steps that have a fixed set of values. */
 export const WORDS = {
     part: PARTS, mode: ["1", "2", "3"], side: ["fLeft", "fRight"], from: ["start", "end"], keep: ["NA", "OL"],
     form: ["NFC", "NFD"],
     where: ["contains", "begins", "ends"], counterScope: SCOPES,
 };
 
-/** A new step of a kind, with some settings of its own. */
+/** A new step of a kind, with some settings given. */
 export function newStep(kind, changes) {
     return Object.assign({ kind: kind, on: true }, STEPS[kind].parts ? { part: "name" } : {}, STEPS[kind].standard,
                          changes || {});
@@ -143,7 +143,7 @@ function isValue(field, value, standard) {
     return typeof value !== "number" || (Number.isInteger(value) && Math.abs(value) <= 999999);
 }
 
-/** The step that was kept somewhere, or null if it is none: kinds and words that are not known are not guessed at. */
+/** A step that was stored somewhere, or null if it is invalid: unknown kinds and values are not guessed at. */
 export function stepFrom(kept) {
     if (kept === null || typeof kept !== "object" || STEPS[kept.kind] === undefined) {
         return null;
@@ -187,8 +187,8 @@ function nextIndex(step, counters, context) {
 }
 
 /**
- * A step, made ready to be applied to many names: apply(text, context) as in STEPS; see NameChain. A slash or a zero in a value
- * is no part of a name; one that the user typed is told.
+ * A step, prepared to be applied to many names: apply(text, context) as in STEPS; see NameChain. A slash or a NUL in a
+ * value cannot be part of a name; one that the user typed is reported.
  */
 export function prepared(step, names, missing) {
     if (step.kind !== "text") {
@@ -210,14 +210,14 @@ export function prepared(step, names, missing) {
              apply: apply, digits: () => digitsFor(step.pattern, most) };
 }
 
-/** The digits that the counters of a pattern need where they go on by that much; 0 where all of them are wide enough. */
+/** The digits that the counters of a pattern need if they advance by that much; 0 if all of them are wide enough. */
 function digitsFor(pattern, most) {
     const widths = tokens.parts(pattern).filter((part) => part.token === "counter" && part.form.length > 1)
         .map((part) => ({ has: part.form.length, needs: String(Number(part.form) + most).length }));
     return widths.reduce((digits, each) => (each.needs > each.has ? Math.max(digits, each.needs) : digits), 0);
 }
 
-/** The pattern with counters of so many digits; those without zeros before them stay as they are. */
+/** The pattern with counters of so many digits; those without leading zeros stay as they are. */
 export function withDigits(pattern, digits) {
     return tokens.parts(pattern).reduce((text, part) => {
         const isShort = part.token === "counter" && part.form.length > 1 && part.form.length < digits;

@@ -6,7 +6,7 @@ import { guard } from "../../lib/guard.js";
 import { hasParts, PARTS, stepProblems } from "./name-steps.js";
 import { kindWords, summaryOf } from "./step-words.js";
 
-// Which field of the form is which setting, by kind: [field, setting, label, texts of the choices].
+// Which field of the form shows which setting, by kind: [field, setting, label, texts of the choices].
 function fieldsOf(step) {
     const text = (setting, label) => ["firstText", setting, label];
     const counter = step.kind === "text" && tokens.parts(step.pattern).some((part) => part.token === "counter");
@@ -44,7 +44,7 @@ function fieldsOf(step) {
     return tables[step.kind]();
 }
 
-// Numbers that count places begin with 1.
+// Numbers that count positions start at 1.
 const LEAST = { start: 1, counterStep: 1 };
 const ALL_FIELDS = ["firstText", "secondText", "thirdText", "firstChoice", "firstNumber", "secondNumber"];
 const PLACEHOLDERS = { pieces: () => qsTr("all, or 2,1 or -1"), pattern: () => qsTr("{taken} lake {counter:001}") };
@@ -191,7 +191,7 @@ export class RenameCard {
         this.control(name).visible = text !== "";
     }
 
-    /** Puts the cursor into the first field, or on the title where there is none. */
+    /** Puts the cursor into the first field, or on the title if there is none. */
     focusFirst() {
         const first = this.shownFields.length > 0 ? this.shownFields[0][0] : "cardTitle";
         this.control(first).setFocus();

@@ -13,7 +13,7 @@ import { RenameCard } from "./rename-card.js";
 import { insertAtCursor } from "../shared/token-menu.js";
 
 const WHAT = ["files", "folders"];
-// What stands for a file where the list is empty.
+// The example file if the list is empty.
 const SAMPLE = { path: "/IMG_2041.JPG",
                  facts: { taken: "2026-08-14T10:20:30", created: "2026-08-14T10:20:30", changed: "2026-08-15T09:00:00",
                                                  camera: "Canon EOS 40D", lens: "EF 50mm f/1.4", type: "JPEG",
@@ -21,7 +21,7 @@ const SAMPLE = { path: "/IMG_2041.JPG",
                                                  width: 4032, height: 3024 } };
 // Enough for ten thousand pictures and more.
 const OFFERED_DIGITS = 5;
-// About the height of a closed card and the gap behind it.
+// About the height of a closed card and the gap after it.
 const CARD_PX = 84;
 const SAMPLE_FOLDER = "/" + qsTr("Holiday 2026");
 
@@ -59,7 +59,7 @@ export class RenamePane extends Pane {
         this.joinTokens(control("tokenMenu"));
     }
 
-    // A counter that runs past its width sorts wrongly: 999, 1000 and 1001 come before 99.
+    // A counter that outgrows its width sorts wrongly: 999, 1000 and 1001 come before 99.
     showWidth() {
         const most = this.narrow.reduce((digits, each) => Math.max(digits, each.digits), 0);
         this.form.control("widthBar").visible = most > 0;
@@ -98,7 +98,7 @@ export class RenamePane extends Pane {
         };
     }
 
-    /** The chain is a list: it is taken over as it is, not laid over the one that is here. */
+    /** The chain is a list: it is taken as a whole, not merged into the current one. */
     take(settings) {
         this.settings.steps = rename.stepsOf(settings).map(copyOf);
         const others = Object.assign({}, settings);
@@ -199,7 +199,7 @@ export class RenamePane extends Pane {
         return true;
     }
 
-    // The card that was pressed keeps the pointer; its step wanders from card to card, one for each height of a closed card.
+    // The pressed card keeps the pointer; its step moves from card to card, one for each height of a closed card.
     drag(index, by) {
         if (this.dragged === null) {
             this.dragged = { from: index, at: index };
@@ -219,7 +219,7 @@ export class RenamePane extends Pane {
         insertAtCursor(this.cards[this.tokensFor].control("firstText"), text);
     }
 
-    /** Shows what becomes of a file, step by step; photo may be null. */
+    /** Shows what each step makes of a file; photo may be null. */
     show(photo) {
         this.photo = photo;
         const messages = rename.validate(this.settings);
@@ -233,7 +233,7 @@ export class RenamePane extends Pane {
         return this.photo === null ? SAMPLE.facts : this.services.facts.of(path);
     }
 
-    // A counter shows its first number, on the first file.
+    // A counter shows its first number, as on the first file.
     explain() {
         const areFolders = this.settings.what === "folders";
         const sample = areFolders ? SAMPLE_FOLDER : SAMPLE.path;
@@ -250,9 +250,9 @@ export class RenamePane extends Pane {
         this.form.control("exampleNew").text = this.plannedName() || made.name || "–";
     }
 
-    // The plan knows the counters; before it is made the example counts from the first number.
+    // The plan knows the counters; before that the example shows the first number.
     plannedName() {
-        // What was planned with other settings says nothing.
+        // A plan made with other settings is useless.
         const isOld = this.plan === null || this.plannedFor !== JSON.stringify(this.settings);
         const at = this.photo === null || isOld ? -1 : this.plan.paths.indexOf(this.photo.path);
         return at < 0 ? "" : this.plan.rows[at].shown;

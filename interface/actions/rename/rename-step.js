@@ -1,5 +1,5 @@
 // Renames files or folders by a chain of steps. Services used: names (cNSStringHandling), files (names), facts (lib/known-facts.js).
-// Plain data in, plain data out; the run that moves files carries out what rows() wishes for.
+// Plain data in, plain data out; the run that moves files carries out what rows() requests.
 
 import { tokens } from "quorlin/tokens";
 import { row } from "../../runs/move-plan.js";
@@ -29,7 +29,7 @@ export function describe(settings) {
     return fill({ files: qsTr("files: %1"), folders: qsTr("folders: %1") }[settings.what], steps.join(", "));
 }
 
-/** The steps that can be understood. */
+/** The steps that are valid. */
 export function stepsOf(settings) {
     return settings.steps.map(stepFrom).filter((step) => step !== null);
 }
@@ -47,13 +47,13 @@ function missingWords(token) {
     return dates[token] || fill(qsTr("no value for “%1”"), tokens.words(token));
 }
 
-/** What stands in for values that a file does not have: {standIns: by the names of tokens, standIn: for all others}. */
+/** Replacements for values that a file does not have: {standIns: by the names of tokens, standIn: for all others}. */
 export function missingValues() {
     const undated = qsTr("undated");
     return { standIns: { taken: undated, created: undated, changed: undated }, standIn: qsTr("unknown") };
 }
 
-/** The chain of the settings, made ready; see name-chain.js. */
+/** The chain of the settings, prepared; see name-chain.js. */
 export function chainOf(settings, services) {
     return new NameChain(stepsOf(settings), services.names, missingValues());
 }
@@ -76,7 +76,7 @@ function notesOf(made, oldName) {
     return risk === "" ? notes : notes.concat([risk]);
 }
 
-// A sidecar bears the new name with its own ending; "a.JPG.xmp" goes with the extension of its picture.
+// A sidecar gets the new name with its own ending; "a.JPG.xmp" keeps the extension of its picture.
 function companion(folder, other, old, made) {
     const doubled = "." + old.extension + ".";
     const ending = old.extension !== "" && other.ending.startsWith(doubled)
@@ -94,7 +94,7 @@ function wish(path, made, companions) {
                  along: companions.map((other) => companion(old.folder, other, old, made)) });
 }
 
-// The sidecars of every file, and for each sidecar that is in the list itself the row of its picture. Looked up in slices.
+// The sidecars of every file, and for each sidecar that is in the list itself the row of its picture. Built in slices.
 function* companionsOf(paths, services) {
     const sidecars = new Sidecars(services.files);
     const found = [];
@@ -134,8 +134,8 @@ function nameFollowers(found, paths) {
 }
 
 /**
- * A generator that makes the new names: see move-plan.js. The array also has `short`: by the index of a step of stepsOf(), how
- * many names it could not change because they are too short; and `digits`, see NameChain.digits().
+ * A generator that makes the new names: see move-plan.js. The array also has `short`: by index in stepsOf(), how many
+ * names a step could not change because they are too short; and `digits`, see NameChain.digits().
  */
 export function* rows(paths, settings, services) {
     const areFolders = settings.what === "folders";

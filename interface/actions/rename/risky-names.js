@@ -1,4 +1,4 @@
-// Names that this system takes and others do not. Pure but for translation; no service is used.
+// Names that this system accepts and others do not. Pure but for translation; no service is used.
 
 import { fill } from "../../lib/wording.js";
 
@@ -7,7 +7,7 @@ const DEVICES = /^(con|prn|aux|nul|com[1-9]|lpt[1-9])(\..*)?$/i;
 
 const RISKY = /[\\:*?"<>|\x00-\x1f\x7f]|^ |[ .]$/;
 
-/** What other systems do not take of a name, in a few words; "" if nothing. */
+/** What other systems reject in a name, in a few words; "" if nothing. */
 export function riskOf(name) {
     const found = RISKY.exec(name);
     if (found === null) {

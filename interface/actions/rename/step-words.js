@@ -1,5 +1,5 @@
-// The steps of a chain of names in words: titles, what each does, what it is found by in the menu, and its settings in a line.
-// Pure but for translation; only tokens are asked for their words.
+// The steps of a chain of names in words: titles, explanations, search words of the menu, and their settings in a line.
+// Pure but for translation; tokens supply their own words.
 
 import { tokens } from "quorlin/tokens";
 import { newStep } from "./name-steps.js";
@@ -38,7 +38,7 @@ export function kindWords() {
     };
 }
 
-/** What the menu of steps offers, in its order: [{title, explanation, words, step}]; some are texts that are ready to use. */
+/** What the menu of steps offers, in order: [{title, explanation, words, step}]; some are ready-made texts. */
 export function menuEntries() {
     const words = kindWords();
     const own = (kind, changes) => Object.assign({}, words[kind], { step: newStep(kind, changes) });

@@ -1,7 +1,7 @@
-// Where a text may be cut: not between the halves of a character that takes two places, and not before a mark that belongs to the
-// letter in front of it. Positions are in UTF-16, as the operations on names count them. Pure; no service is used.
+// Where a text may be cut: not between the halves of a surrogate pair, and not before a mark that belongs to the
+// preceding letter. Positions are in UTF-16, as the text operations count them. Pure; no service is used.
 
-// Marks that stand over, under or in the letter before them, and what joins or colours the sign before it.
+// Combining marks, joiners, and modifiers of the preceding character.
 const MARKS = [
     [0x300, 0x36f], [0x483, 0x489], [0x591, 0x5bd], [0x610, 0x61a], [0x64b, 0x65f], [0x6d6, 0x6dc], [0x900, 0x903],
     [0x93a, 0x94f],
@@ -24,7 +24,10 @@ function isMark(code) {
     return code >= MARKS[0][0] && MARKS.some((range) => code >= range[0] && code <= range[1]);
 }
 
-/** What a cut before the character at that position would do: "" nothing, "half" part a pair, "mark" part a letter and its mark. */
+/**
+ * What a cut before the character at that position would do: "" nothing, "half" split a pair, "mark" separate a letter
+ * from its mark.
+ */
 export function cutAt(text, position) {
     if (position <= 0 || position >= text.length) {
         return "";
@@ -38,7 +41,7 @@ export function cutAt(text, position) {
 
 const HALVES = /[\ud800-\udfff]/;
 
-/** True for a text with half of a pair in it, which no file system takes. */
+/** True for a text with half of a pair in it, which no file system accepts. */
 export function hasHalf(text) {
     for (let i = HALVES.test(text) ? 0 : text.length; i < text.length; i += 1) {
         const code = text.charCodeAt(i);

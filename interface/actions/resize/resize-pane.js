@@ -59,7 +59,8 @@ export class ResizePane extends Pane {
         }
     }
 
-    // The new width as a share of the old one; a box that is filled cuts some of it away, one that is padded has more around it.
+    // The new width as a share of the old one; a box that is filled crops some of the picture, one that is padded adds
+    // to it.
     scalePercent(photo, planned) {
         const across = planned.width / photo.width;
         const down = planned.height / photo.height;

@@ -7,7 +7,7 @@ import { fill } from "../../lib/wording.js";
 import { makeBy, planBy, recipeOf, showBy, statedQuality, usualOutput } from "../shared/by-recipe.js";
 import { outputMessages } from "../shared/written.js";
 
-/** What is given; the others follow from it. */
+/** What is given; the rest follows from it. */
 export const MODES = ["width", "height", "longest", "percent", "box"];
 
 export const MOST_PIXELS = 100000;
@@ -15,10 +15,13 @@ export const MOST_PERCENT = 1000;
 /** The settings that are lengths in the unit. */
 export const LENGTHS = ["width", "height", "longest", "boxWidth", "boxHeight"];
 
-/** What is done where a picture has not the shape of the box; the words of recipes. */
+/** What is done if a picture does not have the shape of the box; the words of recipes. */
 export const BOX_FITS = ["inside", "fill", "stretch", "pad"];
 
-/** What a new pane shows. padColor is laid around pictures that are padded; dpi is what lengths are taken at, 0 for each picture's own. */
+/**
+ * What a new pane shows. padColor surrounds padded pictures; dpi is the resolution for lengths, 0 for each picture's
+ * own.
+ */
 export const defaults = {
     mode: "longest", width: 1600, height: 1200, longest: 1600, percent: 50, boxWidth: 1600, boxHeight: 1200,
     boxFit: "fill", padColor: "#ffffff", neverEnlarge: true, unit: PIXEL, dpi: 0,
@@ -26,8 +29,8 @@ export const defaults = {
 };
 
 /**
- * What the output block offers: types to write, and a quality for those that have one. byRecipe: what of the metadata is kept can be
- * chosen, and the plan of each picture says what that one loses.
+ * What the output block offers: types to write, and a quality for those that have one. byRecipe: the metadata to keep
+ * can be chosen, and the plan of each picture says what it loses.
  */
 export const offer = { types: WRITTEN.map((type) => type.id), quality: true, byRecipe: true };
 
@@ -83,16 +86,16 @@ export function plan(photo, settings, services) {
 }
 
 /**
- * Writes the resized copy as settings.prefix + name, where plan() tells the name; what is there is replaced.
- * Returns {status, reason, outputs: [path], width, height}.
+ * Writes the resized copy as settings.prefix + name, where plan() gives the name; an existing file is replaced. Returns
+ * {status, reason, outputs: [path], width, height}.
  */
 export function run(photo, settings, services) {
     return makeBy(photo, settings, recipe(settings), plan(photo, settings, services), services);
 }
 
 /**
- * What the preview does to the upright picture to show the result: {edits, width, height, type, quality}. Edits are done in
- * their order, lengths are pixels of the full picture, origin top left.
+ * What the preview does to the upright picture to show the result: {edits, width, height, type, quality}. Edits are
+ * applied in order, lengths are pixels of the full picture, origin top left.
  */
 export function preview(photo, settings, planned) {
     return showBy(photo, recipe(settings), planned, statedQuality(settings.output));

@@ -1,5 +1,5 @@
-// What the steps have in common that are carried out as a recipe: plan, preview and result come of the same one.
-// Services used: recipes (recipeFor, planOutput, nameFor, make), files (storedSize). Plain data in, plain data out.
+// What the steps share that are carried out as a recipe: plan, preview and result come from the same one. Services
+// used: recipes (recipeFor, planOutput, nameFor, make), files (storedSize). Plain data in, plain data out.
 
 import { recipes } from "quorlin/recipes";
 import { splitPath } from "../../lib/names.js";
@@ -11,12 +11,12 @@ const WHITE = "#ffffff";
 const FINEST = "10";
 // The word for the raw files of cameras.
 const RAW = "RAW";
-// The pattern of names that leaves them as they are.
+// The name pattern that keeps names as they are.
 const OWN_NAME = "{name}";
 
 /**
- * The output settings of a new pane; name is that of the folder beside the originals. Without a quality results get that of their
- * pictures, until a person chooses one.
+ * The output settings of a new pane; name is that of the folder beside the originals. Without a quality, results get
+ * that of their originals until the user chooses one.
  */
 export function usualOutput(fileType, quality, name) {
     return { fileType: fileType, quality: quality || FINEST, ownQuality: quality === "", matte: WHITE,
@@ -24,7 +24,7 @@ export function usualOutput(fileType, quality, name) {
              keepSubfolders: false, namePattern: OWN_NAME, dates: "now", ifTaken: "number", simulation: false };
 }
 
-/** What of the settings says what a picture becomes; where it lies is another matter. */
+/** The settings that determine what a picture becomes, but not where it goes. */
 export function recipeOf(process, settings) {
     const recipe = recipes.recipeFor(process, settings);
     return { quorlin: recipe.quorlin, operations: recipe.operations,
@@ -36,7 +36,7 @@ export function recipeOf(process, settings) {
              }) };
 }
 
-// ownName: what the result is called where the pattern asks for nothing else.
+// ownName: the name of the result if the pattern does not change it.
 function nameOf(photo, pattern, told, ownName, services) {
     if (pattern === OWN_NAME) {
         return ownName;
@@ -46,13 +46,13 @@ function nameOf(photo, pattern, told, ownName, services) {
                                     extension === "" ? "" : "." + extension);
 }
 
-// Whether less is left than the frame asks for.
+// Whether the result is smaller than the frame asks for.
 function isCutOff(cut) {
     return cut.frame !== undefined
         && (cut.part.width < cut.frame.width || cut.part.height < cut.frame.height);
 }
 
-// What of the file the result is made from, where that is not all of it, and whether it is what was asked for.
+// Which part of the file the result is made from, if not all of it, and whether that is what was asked for.
 function remarksOn(photo, told) {
     const preview = photo.type === RAW ? [fill(qsTr("preview of %1"), pixels(photo))] : [];
     const smaller = qsTr("smaller than asked for: the frame extends past the edge of the picture");
@@ -62,11 +62,11 @@ function remarksOn(photo, told) {
 
 /**
  * What a run would write for one picture, or a final status with its reason. With a ready plan: lossless, no pixel is encoded again;
- * losses, sentences on what this picture has and its result will not have; remarks, a few words each, on results that are not what one may
- * expect.
+ * losses, sentences about what this picture has and its result will not have; remarks, a few words each, about results
+ * that may surprise.
  *
- * @param answer   what the recipe service plans; a function, so that it is asked only where something can be made
- * @param ownName  the name of the result, where that is not the picture's own with the usual extension of its type
+ * @param answer   plans with the recipe service; a function, so that it is called only if something can be made
+ * @param ownName  the name of the result, if it is not the picture's own with the usual extension of its type
  */
 export function planBy(photo, settings, services, answer, ownName) {
     const told = unreadable(photo) === null ? answer() : null;
@@ -83,8 +83,8 @@ export function planBy(photo, settings, services, answer, ownName) {
                            remarks: remarksOn(photo, told) });
 }
 
-// The size that the file has as it is stored, where that need not be the one of the plan: a picture that is not encoded again may go on
-// lying on its side, and a page is measured in points.
+// The size of the file as stored, if it may differ from the plan: a picture that is not encoded again may stay stored
+// sideways, and a page is measured in points.
 function storedAs(path, planned, services) {
     const isPage = planned.type === PDF_PAGE.id;
     const stored = planned.lossless || isPage ? services.files.storedSize(path) : null;
@@ -92,7 +92,10 @@ function storedAs(path, planned, services) {
     return stored !== null && (lies || isPage) ? stored : planned;
 }
 
-/** Writes the result of a plan as settings.prefix + its name; what is there is replaced. Returns what every step's run() does. */
+/**
+ * Writes the result of a plan as settings.prefix + its name; an existing file is replaced. Returns what every step's
+ * run() does.
+ */
 export function makeBy(photo, settings, recipe, planned, services) {
     if (planned.status !== "ready") {
         return refused(planned);
@@ -104,12 +107,12 @@ export function makeBy(photo, settings, recipe, planned, services) {
     return outcome("OK", result.path, planned, services, storedAs(result.path, planned, services));
 }
 
-/** What the settings of the output block say of quality; "" where results get that of their pictures. */
+/** The quality in the settings of the output block; "" if results get that of their originals. */
 export function statedQuality(output) {
     return output.ownQuality ? "" : output.quality;
 }
 
-/** What the preview does to the upright picture to show the result; quality is said of types that have one. */
+/** What the preview does to the upright picture to show the result; quality is given for types that have one. */
 export function showBy(photo, recipe, planned, quality) {
     /** @type {any[]} */
     const edits = [{ do: "recipe", operations: recipe.operations, path: photo.path }];

@@ -1,8 +1,8 @@
-// Fields of metadata in the reader's words: what they are called, what they say, what becomes of them. Pure but for translation.
+// Metadata fields in the reader's words: their names, their values, their changes. Pure but for translation.
 
 import { fill } from "../../lib/wording.js";
 
-/** What a field is called. */
+/** The name of a field. */
 export function fieldTitle(name) {
     const titles = {
         title: qsTr("Title"), headline: qsTr("Headline"), caption: qsTr("Caption"), keywords: qsTr("Keywords"),
@@ -17,7 +17,7 @@ export function fieldTitle(name) {
     return titles[name] || name;
 }
 
-/** What a group of private data is called. */
+/** The name of a group of private data. */
 export function privateTitle(name) {
     const titles = {
         places: qsTr("Places"), serialNumbers: qsTr("Serial numbers"), names: qsTr("Owner and computer names"),
@@ -26,7 +26,7 @@ export function privateTitle(name) {
     return titles[name] || name;
 }
 
-/** The colour labels that are offered: what is written into files, in English as other programs do, and what it is called. */
+/** The colour labels on offer: what is written into files, in English as other programs do, and their names. */
 export function labels() {
     return [["Red", qsTr("Red")], ["Yellow", qsTr("Yellow")], ["Green", qsTr("Green")], ["Blue", qsTr("Blue")],
             ["Purple", qsTr("Purple")]];
@@ -44,19 +44,19 @@ function oneText(name, text) {
     return label === undefined ? text.replace(/\s+/g, " ") : label[1];
 }
 
-/** What a field says, in a line; "" for nothing. */
+/** The value of a field, in a line; "" for nothing. */
 export function valueText(name, texts) {
     const joined = texts.map((text) => oneText(name, text)).join(name === "creator" ? "; " : ", ");
     return name === "dateTaken" ? joined.replace("T", " ") : joined;
 }
 
-// What comes to a list of keywords and what goes from it.
+// What is added to and removed from a list of keywords.
 function listChange(before, after) {
     const gone = before.filter((word) => after.indexOf(word) < 0).map((word) => "−" + word);
     return after.filter((word) => before.indexOf(word) < 0).map((word) => "+" + word).concat(gone).join(", ");
 }
 
-/** What becomes of a field, in a line. */
+/** What happens to a field, in a line. */
 export function changeText(name, before, after) {
     const title = fieldTitle(name);
     const old = valueText(name, before);
@@ -71,7 +71,7 @@ export function changeText(name, before, after) {
         ? fill(qsTr("%1: “%2”"), title, now) : fill(qsTr("%1: “%2” → “%3”"), title, old, now);
 }
 
-/** What EXIF, IPTC and XMP say of a field where they do not agree: all three. */
+/** The values of a field in EXIF, IPTC and XMP if they disagree: all three. */
 export function disputeText(name, said) {
     const quoted = (texts) => (texts.length === 0 ? qsTr("nothing") : "“" + valueText(name, texts) + "”");
     return fill(qsTr("%1: EXIF %2, IPTC %3, XMP %4"), fieldTitle(name), quoted(said.exif), quoted(said.iptc),

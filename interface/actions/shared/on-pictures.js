@@ -1,4 +1,4 @@
-// What the actions have in common that write a new picture for each of the list.
+// What actions share that write a new picture for each one of the list.
 
 import { READ_INPUT } from "../../lib/types.js";
 import { WRITES } from "../../runs/writes.js";

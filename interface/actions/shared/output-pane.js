@@ -1,5 +1,6 @@
-// Where results go and what they are: file type, quality, metadata, folder, name, date, taken names, simulation. Every action that
-// writes pictures has this block. What is seldom changed is shown on demand, and by itself where it is not as usual.
+// Where results go and what they are: file type, quality, metadata, folder, name, date, existing files, dry run. Every
+// action that writes pictures has this block. Rarely changed settings are shown on demand, and always if they differ
+// from the default.
 
 import { shell } from "quorlin/shell";
 import { files } from "quorlin/files";
@@ -11,15 +12,15 @@ import { fill, shortPath } from "../../lib/wording.js";
 import { insertAtCursor, joinTokens } from "./token-menu.js";
 
 const KEPT_FOLDERS = 5;
-// What is offered where a picture cannot be written as what it is.
+// The type on offer for pictures that cannot be written in their own type.
 const OFFERED_TYPE = "public.jpeg";
 const FOLDER = "folder:";
-// In place of a number: results get the quality that their pictures have.
+// Shown instead of a number: results get the quality of their originals.
 const OWN = "own";
-// Controls that are named as their setting is.
+// Controls that have the name of their setting.
 const CHOICES = ["fileType", "metadata", "ifTaken"];
 const CHECKS = ["removeLocation", "keepSubfolders", "simulation"];
-// What is shown on demand, by setting: {setting: [value as usual, controls]}.
+// What is shown on demand, by setting: {setting: [default value, controls]}.
 const RARE = {
     matte: ["#ffffff", ["matteLabel", "matteHost"]], namePattern: ["{name}", ["namePatternLabel", "namePatternHost"]],
     dates: ["now", ["keepDates"]],
@@ -59,7 +60,7 @@ export class OutputPane {
         this.showType();
     }
 
-    // Nobody knows whether one file of many pictures is up to date.
+    // Nobody can tell whether one file made of many pictures is up to date.
     showTaken(offer) {
         const texts = [qsTr("Keep both (add a number)"), qsTr("Replace"), qsTr("Skip"), qsTr("Skip if up to date"),
                        qsTr("Ask")];
@@ -106,7 +107,7 @@ export class OutputPane {
         }));
     }
 
-    // While the controls are filled there is no output that they could change.
+    // While the controls are filled they must not change any output.
     set(name, value) {
         if (this.output !== null && this.output[name] !== value) {
             this.output[name] = value;
@@ -123,7 +124,7 @@ export class OutputPane {
         this.changed();
     }
 
-    // A chosen type starts with its usual quality: pictures of other types have no quality that it could take over.
+    // A chosen type starts with its default quality: pictures of other types have no quality that it could adopt.
     showQuality(type) {
         const own = type === null ? qsTr("Same as the picture") : qsTr("Standard");
         this.form.setItems("quality", [own].concat(QUALITIES), [OWN].concat(QUALITIES));
@@ -203,7 +204,7 @@ export class OutputPane {
         this.form.control("removeLocation").visible = this.offer.byRecipe === true && this.output.metadata !== "none";
     }
 
-    /** Offers another type where so many pictures of the list cannot be written as what they are. */
+    /** Offers another type if so many pictures of the list cannot be written in their own type. */
     offerType(unwritable) {
         this.unwritable = unwritable;
         this.showOffer();

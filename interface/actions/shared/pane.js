@@ -6,7 +6,7 @@ import { guard } from "../../lib/guard.js";
 import { decimalsOf, dpiOf, PIXEL, UNITS, unitSign, UnitMemory } from "../../lib/measure.js";
 import { pixels } from "../../lib/wording.js";
 
-// Where no picture says otherwise.
+// If no picture says otherwise.
 const USUAL_DPI = 300;
 
 // Assign into nested objects in place: other code keeps references to them.
@@ -37,7 +37,7 @@ export class Pane {
         this.dpi = USUAL_DPI;
     }
 
-    /** Sets one of the settings, as a person did. */
+    /** Sets one of the settings, as if the user had. */
     set(field, value) {
         if (!this.filling && this.settings[field] !== value) {
             this.settings[field] = value;
@@ -46,7 +46,7 @@ export class Pane {
         }
     }
 
-    /** Called after a person changed one of the settings, before anybody is told: what else does that change? */
+    /** Called after the user changed a setting, before anybody is told: changes whatever depends on it. */
     adjust(_field) {
         this.showState();
     }
@@ -59,13 +59,13 @@ export class Pane {
         this.showState();
     }
 
-    /** Takes over other settings and shows them. */
+    /** Adopts other settings and shows them. */
     take(settings) {
         layOver(this.settings, settings);
         this.fill();
     }
 
-    /** What settings become when they are shown here: files that are gone are replaced by others. */
+    /** Adjusts settings that are shown here: files that are gone are replaced by others. */
     resolved(settings) {
         return settings;
     }
@@ -75,7 +75,7 @@ export class Pane {
         return undefined;
     }
 
-    /** Shows, hides and names controls as the settings ask for it. */
+    /** Shows, hides and labels controls as the settings require. */
     showState() {
         return undefined;
     }
@@ -104,8 +104,8 @@ export class Pane {
     }
 
     /**
-     * The menu of units, for the settings that are lengths. A length stays about as long when the unit changes, and is what
-     * it was when its own unit comes back: converting there and back would take 1600 px for 1599.
+     * The menu of units, for the settings that are lengths. A length stays about the same when the unit changes, and is
+     * exact again when its own unit returns: converting there and back would take 1600 px for 1599.
      */
     units(name, lengths) {
         this.form.setItems(name, UNITS.map((unit) => unitSign(unit)), UNITS);
@@ -119,7 +119,7 @@ export class Pane {
         }));
     }
 
-    /** Shows a length in a field with the decimals of its unit, and its sign where no menu stands beside it. */
+    /** Shows a length in a field with the decimals of its unit, and with its symbol if there is no menu beside it. */
     showLength(name, value, unit, sign) {
         const box = this.form.control(name);
         const before = this.filling;
@@ -134,7 +134,7 @@ export class Pane {
         names.forEach((name) => { this.form.control(name).visible = on; });
     }
 
-    /** What comes out, in a line. */
+    /** The result, in a line. */
     resultText(photo, planned) {
         return pixels(photo) + " → " + pixels(planned);
     }
@@ -150,7 +150,7 @@ export class Pane {
         return planned;
     }
 
-    // The resolution that the picture states.
+    // The resolution stated by the picture.
     ownDpi(photo, services) {
         const isNeeded = this.settings.unit !== undefined && Boolean(services.units);
         return isNeeded && photo !== null && photo.width > 0 ? dpiOf(photo, services) : USUAL_DPI;
@@ -160,7 +160,7 @@ export class Pane {
         const ready = planned !== null && planned.status === "ready";
         const reason = planned === null ? "–" : planned.reason;
         const losses = ready && planned.losses !== undefined ? planned.losses : [];
-        // What gets lost stands at the foot of the result.
+        // What gets lost is shown below the result.
         this.say("planNote", ready ? planned.notes.filter((note) => losses.indexOf(note) < 0).join(" ") : "");
         this.form.control("resultText").text = ready ? this.resultText(photo, planned) : reason;
     }
@@ -171,7 +171,7 @@ export class Pane {
         label.visible = text !== "";
     }
 
-    /** " (300 dpi)" where a length is given in a unit that depends on it. */
+    /** " (300 dpi)" if a length is given in a unit that depends on it. */
     dpiText() {
         return this.settings.unit === PIXEL ? "" : qsTr(" at %1 dpi").replace("%1", String(this.dpi));
     }

@@ -1,4 +1,4 @@
-// The row of a pane that says which resolution makes pixels of lengths: that of each picture, 300 dpi, or one that is typed.
+// The row of a pane that sets the resolution for lengths: that of each picture, 300 dpi, or a typed one.
 
 import { guard } from "../../lib/guard.js";
 import { PIXEL } from "../../lib/measure.js";
@@ -20,7 +20,7 @@ export class ResolutionRow {
     choose(choice) {
         const settings = this.pane.settings;
         this.isTyped = choice === "typed";
-        // What is typed over is what counted so far.
+        // A typed number starts from the resolution in use so far.
         const typed = settings.dpi > 0 ? settings.dpi : Math.max(1, Math.round(this.pane.dpi));
         this.pane.set("dpi", { own: 0, print: PRINT_DPI, typed: typed }[choice]);
         this.pane.showState();

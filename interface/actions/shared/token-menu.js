@@ -1,11 +1,11 @@
-// The searchable menu of values that a text in braces stands for, and the button that opens it.
+// The searchable menu of tokens, and the button that opens it.
 
 import { tokens } from "quorlin/tokens";
 import { guard } from "../../lib/guard.js";
 
 /**
- * Fills a menu with the tokens that isOffered takes; insert is called with "{taken:yyyy}", once one is chosen. `more` come before them, as
- * tokens.offered() has them; it may be missing.
+ * Fills a menu with the tokens that isOffered accepts; insert is called with "{taken:yyyy}", once one is chosen. `more`
+ * precede them, in the form of tokens.offered(); optional.
  */
 export function fillTokens(menu, isOffered, insert, more) {
     const offered = [];
@@ -23,7 +23,7 @@ export function fillTokens(menu, isOffered, insert, more) {
  * Fills the menu of a form.
  *
  * @param names      of its controls: {menu, button}
- * @param isOffered  says of each token whether it can stand there
+ * @param isOffered  whether a token makes sense there
  * @param insert     is called with "{taken:yyyy}", once one is chosen
  * @param more       see fillTokens()
  */
@@ -33,7 +33,7 @@ export function joinTokens(form, names, isOffered, insert, more) {
     button.clicked.connect(guard(names.button, () => form.control(names.menu).popUp(button)));
 }
 
-/** Puts a text where the cursor of a field of one line is. */
+/** Inserts a text at the cursor of a one-line field. */
 export function insertAtCursor(field, text) {
     const at = field.cursorPosition;
     field.text = field.text.slice(0, at) + text + field.text.slice(at);

@@ -1,4 +1,4 @@
-// What the steps that write pictures have in common: what cannot be read or written, and a look at the file that came out.
+// What the steps share that write pictures: unreadable and unwritable pictures, and a check of the written file.
 // Services used: files (storedSize), tokens.
 
 import { tokens } from "quorlin/tokens";
@@ -24,7 +24,7 @@ function folderMessages(destination) {
         : [fill(qsTr("“%1” is not a valid folder name."), destination.name)];
 }
 
-/** Messages on output settings that no run can start with. */
+/** Messages about output settings that prevent a run. */
 export function outputMessages(output) {
     return folderMessages(output.destination).concat(nameMessages(output.namePattern));
 }
@@ -63,8 +63,8 @@ export function refused(planned) {
 }
 
 /**
- * The final result: what the service answered, and whether the file is there in the planned size.
- * stored: the size of its pixels as stored, where it is not that of the plan.
+ * The final result: what the service answered, and whether the file exists in the planned size. stored: the size of its
+ * pixels as stored, if it differs from the plan.
  */
 export function outcome(status, path, planned, services, stored) {
     if (status !== "OK") {
@@ -72,7 +72,7 @@ export function outcome(status, path, planned, services, stored) {
             ? qsTr("this type cannot be written") : qsTr("the file could not be written");
         return { status: status === "Not Supported" ? status : "Failed", reason: reason, outputs: [] };
     }
-    // An operation also answers "OK" where no bitmap could be made and no file was written.
+    // An operation also answers "OK" if no bitmap could be made and no file was written.
     const written = services.files.storedSize(path);
     if (written === null) {
         return failed(qsTr("not a readable picture"));

@@ -1,12 +1,12 @@
 // The folders that a run will sort into: as they are on the disk, as they will be, and how many files each gets.
-// Services used: files (folders, info), handed in.
+// Services used: files (folders, info), passed in.
 
 import { FolderNames } from "quorlin/files";
 import { emptyTable, joinPath, splitPath } from "../../lib/names.js";
 
 const NONE = Object.freeze([]);
 
-// Ten thousand folders are many: lists are made when something goes into them.
+// Ten thousand folders are many: lists are created when something is put into them.
 function nodeAt(path, name, parent, exists) {
     return { path: path, name: name, parent: parent, exists: exists, inTheWay: "", children: NONE, count: 0, total: 0,
              rows: NONE };
@@ -19,9 +19,9 @@ function added(list, value) {
 }
 
 /**
- * Folders below one or more bases. Two names that differ in case or in the writing of an accent only are one folder: the one on
- * the disk, else the first that was asked for. A node: {path, name, parent (node or null), exists, inTheWay: path of a file that
- * has its name, or "", count and rows: of the files that go into it, total: of those below it too}.
+ * Folders below one or more bases. Two names that differ only in case or in the encoding of an accent are one folder:
+ * the one on the disk, else the first one requested. A node: {path, name, parent (node or null), exists, inTheWay: path
+ * of a file that has its name, or "", count and rows: of the files that go into it, total: of those below it too}.
  */
 export class FolderBook {
     constructor(files) {
@@ -46,7 +46,7 @@ export class FolderBook {
         return node;
     }
 
-    // The folder at a path that was asked for below a base, or null.
+    // The folder at a path that was requested below a base, or null.
     below(path) {
         const parts = splitPath(path);
         const known = this.byKey[joinPath(parts.folder, FolderNames.keyOf(parts.name))];
@@ -58,7 +58,7 @@ export class FolderBook {
         return this.bases[path] || this.below(path);
     }
 
-    // The folder of that name as it is written on the disk; "" where there is none.
+    // The folder of that name as it is written on the disk; "" if there is none.
     folderIn(node, wanted) {
         if (!node.exists) {
             return "";
@@ -99,7 +99,7 @@ export class FolderBook {
         return names.reduce((node, name) => this.child(node, name), this.base(base));
     }
 
-    /** Counts a file into a folder, when all were placed; row is what rowsBelow() gives back. */
+    /** Counts a file into a folder, once all are placed; row is what rowsBelow() returns. */
     count(node, row) {
         node.count += 1;
         node.rows = added(node.rows, row);
@@ -110,8 +110,8 @@ export class FolderBook {
 }
 
 /**
- * The folders that get files, for the tree: [{path, above (path, "" for a base), name, count, total, isNew}], each behind the one
- * above it, in no order that means anything.
+ * The folders that get files, for the tree: [{path, above (path, "" for a base), name, count, total, isNew}], parents
+ * before children, in no particular order.
  */
 export function treeRows(book) {
     return everyRow(treeParts(book));
@@ -127,7 +127,7 @@ function everyRow(parts) {
 
 const AT_ONCE = 100;
 
-/** A generator that gives the same in parts, lists of about a hundred. */
+/** A generator that returns the same in parts, lists of about a hundred. */
 export function* treeParts(book) {
     const open = Object.keys(book.bases).map((path) => book.bases[path]).filter((node) => node.parent === null);
     let rows = [];
@@ -149,7 +149,7 @@ export function* treeParts(book) {
     yield rows;
 }
 
-/** The rows of all files that go into the folder at the path or below it; none for a folder that is not in the book. */
+/** The rows of all files that go into the folder at the path or below it; none for an unknown folder. */
 export function rowsBelow(book, path) {
     const rows = [];
     const add = (node) => {
@@ -163,7 +163,7 @@ export function rowsBelow(book, path) {
     return rows;
 }
 
-/** True if a folder's path ends with these names: then what would be sorted there lies there already. */
+/** True if a folder's path ends with these names: then what would be sorted into it is there already. */
 export function endsWithFolders(folder, names) {
     const parts = folder.split("/");
     const end = parts.slice(Math.max(0, parts.length - names.length));

@@ -16,7 +16,7 @@ function startText(number, settings) {
     }[settings.kind]();
 }
 
-// "24 files moved into 12 folders · 22 folders made"; of an earlier run folders are not known.
+// "24 files moved into 12 folders · 22 folders made"; for an earlier run the folders are unknown.
 function done(number, settings, folders) {
     if (settings !== null && folders !== undefined && folders.used.length > 0) {
         const files = {

@@ -18,7 +18,7 @@ const FOLDER = "folder:";
 const KEPT_FOLDERS = 5;
 const KEY = "SortFolders";
 
-// The forms of a token that its menu offers.
+// The formats of a token that its menu offers.
 const MOST_FORMS = 3;
 
 function tokenEntries() {
@@ -88,7 +88,7 @@ export class SortPane extends Pane {
         this.showExample();
     }
 
-    // A pattern that cannot be chosen level by level says so in the first box.
+    // A pattern that cannot be chosen level by level is described in the first box.
     showLevels() {
         const chosen = levelsOf(this.settings.pattern);
         const texts = [];
@@ -121,7 +121,7 @@ export class SortPane extends Pane {
         this.setPattern(patternOf(levels[1] === "" ? levels.slice(0, 1) : levels));
     }
 
-    // A long pattern is shown from its beginning; tokens are still put behind it.
+    // A long pattern is shown from its beginning; tokens are still appended.
     showPattern(pattern) {
         const field = this.form.control("sortPattern");
         const before = this.filling;
@@ -219,7 +219,7 @@ export class SortPane extends Pane {
         return showing;
     }
 
-    /** Called when a run begins: it works on the whole list, with what the files are now. */
+    /** Called when a run begins: it works on the whole list, with current facts about the files. */
     starting() {
         this.tree.showAll();
         this.services.facts.forget();
@@ -229,7 +229,7 @@ export class SortPane extends Pane {
         this.tree.lookAgain();
     }
 
-    /** Called when another action takes the list. */
+    /** Called when the list belongs to another action. */
     left() {
         this.tree.clear();
     }

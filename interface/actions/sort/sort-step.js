@@ -1,6 +1,6 @@
 // Sorts files into folders by what is known of them: dates, type, size, orientation, camera, name.
-// Services used: files (folders, info, names), facts (lib/known-facts.js). Plain data in, plain data out; the run that moves files
-// carries out what rows() wishes for.
+// Services used: files (folders, info, names), facts (lib/known-facts.js). Plain data in, plain data out; the run that
+// moves files carries out what rows() requests.
 
 import { endsWithFolders, FolderBook } from "./folder-tree.js";
 import { row } from "../../runs/move-plan.js";
@@ -9,12 +9,12 @@ import { Sidecars } from "../../lib/sidecars.js";
 import { folderNameProblems, foldersFor, patternProblems, prepared } from "./sorting.js";
 import { fill } from "../../lib/wording.js";
 
-// Files are looked into for about this long before the window gets control again.
+// Files are read for about this long before the window gets control again.
 const SLICE_MS = 3;
 
 export const KINDS = ["move", "copy", "link"];
 
-/** What a new pane shows. `pattern` is one of sorting.js; undated says what becomes of files without a date taken. */
+/** What a new pane shows. `pattern` is one of sorting.js; undated says what happens to files without a date taken. */
 export const defaults = {
     pattern: "{taken:yyyy}/{taken:yyyy-MM-dd}", undated: "folder", undatedName: qsTr("Undated"),
     kind: "move", destination: { kind: "beside", path: "" }, ifTaken: "number", simulation: false,
@@ -39,12 +39,12 @@ export function validate(settings) {
     return messages;
 }
 
-/** The folder that the folders of a file are made in. */
+/** The folder in which the folders of a file are made. */
 export function baseOf(path, destination) {
     return destination.kind === "folder" ? destination.path : splitPath(path).folder;
 }
 
-// Short, for it stands in a column; which folder that is stands in the one before.
+// Short, because it is shown in a column; the column before says which folder it is.
 function undatedText(settings) {
     return { folder: qsTr("no date taken"), created: qsTr("by date created"), changed: qsTr("by date changed"),
              leave: qsTr("no date taken: not moved") }[settings.undated];
@@ -54,7 +54,7 @@ function sizeOf(path, facts, services) {
     return facts === null ? Math.max(0, services.files.info(path).bytes) : Math.max(0, facts.bytes);
 }
 
-// The wish of one file that is to go into a folder of the book.
+// The request of one file that is to go into a folder of the book.
 function wish(path, node, sorted, settings, context) {
     if (node.inTheWay !== "") {
         return row({ status: "Skipped", reason: fill(qsTr("a file already has this folder name: %1"), node.inTheWay) });
@@ -93,7 +93,8 @@ function rowFor(path, index, settings, context) {
 
 /**
  * A generator that works out where each file goes: see move-plan.js. The rows also have base, the folder that their folders
- * are in, node, that of their folder, and bytes where these may have to be copied; the array has `book`, the folders (folder-tree.js).
+ * are in, node, that of their folder, and bytes if these may have to be copied; the array has `book`, the folders
+ * (folder-tree.js).
  */
 export function* rows(paths, settings, services) {
     const context = { ready: prepared(settings.pattern), book: new FolderBook(services.files),

@@ -1,5 +1,5 @@
-// The folders that will come to be, beside the list: counts, what is new, and whether there is room for copies. Choosing a
-// folder shows only the files that will go there.
+// The folders that a run will create, beside the list: counts, what is new, and whether there is room for copies.
+// Choosing a folder shows only the files that will go there.
 
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
@@ -9,7 +9,7 @@ import { isReadyRow } from "../../runs/move-plan.js";
 import { DiskNeeds, roomText } from "../../runs/room.js";
 import { fill, shortPath } from "../../lib/wording.js";
 
-// Rows are looked at in parts, so that the window answers.
+// Rows are processed in parts, so that the window stays responsive.
 const AT_ONCE = 200;
 
 /** "240 files into 12 folders (22 folders will be made, counting parents)". */
@@ -24,7 +24,7 @@ export function summaryText(ready, folders, fresh) {
 }
 
 export class SortTree {
-    /** @param list  the list of the window, of which the files of a folder are shown */
+    /** @param list  the list of the window, in which the files of a folder are shown */
     constructor(list) {
         this.list = list;
         this.form = shell.loadForm("actions/sort/sort-tree.ui");
@@ -35,7 +35,7 @@ export class SortTree {
         this.form.control("sortShowAll").clicked.connect(guard("tree.all", () => this.showAll()));
     }
 
-    /** A generator that shows what a plan makes of the folders; ids are those of its rows. */
+    /** A generator that shows a plan's effect on the folders; ids are those of its rows. */
     * show(plan, ids) {
         const book = plan.rows.book;
         const needs = new DiskNeeds((path) => files.space(path));
@@ -84,7 +84,7 @@ export class SortTree {
         this.form.control(name).visible = text !== "";
     }
 
-    /** Folders were made or taken away; what would happen is over. */
+    /** Folders were created or removed; the plan no longer holds. */
     lookAgain() {
         this.say("", []);
         const rows = this.book === null ? [] : treeRows(this.book);
@@ -99,7 +99,7 @@ export class SortTree {
         this.tree.chosenFolder = "";
     }
 
-    /** There is no plan, since something is wrong with the settings. */
+    /** There is no plan because the settings are invalid. */
     clear() {
         this.book = null;
         this.tree.setFolders([]);
@@ -107,7 +107,7 @@ export class SortTree {
         this.showChosen();
     }
 
-    /** The list shows the files that go into the chosen folder; all of them where none is chosen. */
+    /** The list shows the files that go into the chosen folder; all of them if none is chosen. */
     showChosen() {
         const chosen = this.book === null ? "" : this.tree.chosenFolder;
         this.form.control("sortShowAll").visible = chosen !== "";

@@ -1,10 +1,10 @@
-// Where a file is sorted to: the folders that a pattern of tokens gives it. Pure but for translation.
+// Where a file is sorted to: the folders that result from a pattern of tokens. Pure but for translation.
 //
 // A pattern is a text with tokens and "/" between its levels: "{taken:yyyy}/{taken:yyyy-MM-dd}".
 
 import { tokens, TokenText } from "quorlin/tokens";
 
-/** What becomes of a file without a date taken. */
+/** What happens to a file without a date taken. */
 export const UNDATED = ["folder", "created", "changed", "leave"];
 
 export const MOST_LEVELS = 3;
@@ -34,7 +34,7 @@ function isChoice(value) {
     return levelChoices().some((group) => group.some((choice) => choice.value === value));
 }
 
-/** The levels that make up a pattern, as many as there can be chosen, "" for none; null where they cannot be chosen. */
+/** The levels that make up a pattern, as many as can be chosen, "" for none; null if they cannot be chosen. */
 export function levelsOf(pattern) {
     const levels = pattern.split("/");
     if (pattern === "" || levels.length > MOST_LEVELS || !levels.every(isChoice)) {
@@ -55,7 +55,7 @@ function utf8Length(text) {
     return encodeURIComponent(text).replace(/%../g, "x").length;
 }
 
-/** What is wrong with a pattern of folders, as sentences; empty if nothing is. */
+/** What is wrong with a folder pattern, as sentences; empty if nothing is. */
 export function patternProblems(pattern) {
     const levels = tokens.levels(pattern);
     if (levels.length === 0) {
@@ -87,7 +87,9 @@ export function folderNameProblems(name) {
         ? [] : [qsTr("“%1” is not a valid folder name.").replace("%1", name)];
 }
 
-/** What stands for missing values, in words that name folders: {standIns: by the names of tokens, standIn: for all others}. */
+/**
+ * Replacements for missing values, as names of folders: {standIns: by the names of tokens, standIn: for all others}.
+ */
 export function missingValues() {
     const words = {
         taken: qsTr("Undated"), created: qsTr("Undated"), changed: qsTr("Undated"), camera: qsTr("Unknown camera"),
@@ -100,13 +102,13 @@ export function missingValues() {
     return { standIns: words, standIn: qsTr("Other") };
 }
 
-// The names of the folders that one level of a pattern gives.
+// The folder names that one level of a pattern yields.
 function levelOf(pattern) {
     return { text: new TokenText(Object.assign({ pattern: pattern, values: "folder" }, missingValues())),
              isDated: tokens.parts(pattern).some((part) => part.token === "taken") };
 }
 
-/** A pattern made ready for many files. */
+/** A pattern prepared for many files. */
 export function prepared(pattern) {
     const levels = tokens.levels(pattern).map(levelOf);
     return {
@@ -134,7 +136,7 @@ function withoutLaterDates(levels) {
  * @param rule   has undated, one of UNDATED, and undatedName
  * @param index  how many files came before this one
  *
- * A file without a date has one folder for all the levels that name one. Where it is to be left, `stays` is true.
+ * A file without a date gets one folder for all the levels with dates. If it is to be left, `stays` is true.
  */
 export function foldersFor(ready, path, facts, rule, index) {
     const isUndated = ready.isDated && (facts === null || facts.taken === "");
@@ -143,7 +145,7 @@ export function foldersFor(ready, path, facts, rule, index) {
     }
     const dated = isUndated ? withDate(facts, rule) : facts;
     const hasNoDate = isUndated && (dated === null || dated.taken === "");
-    // The levels that name a date are one folder where there is none.
+    // The levels with a date become one folder if there is none.
     const levels = hasNoDate ? withoutLaterDates(ready.levels) : ready.levels;
     const folderOf = (each) => (each.isDated && hasNoDate ? tokens.folderName(rule.undatedName) || qsTr("Undated")
                                                           : each.text.expand(path, dated, index)[0]);

@@ -1,4 +1,4 @@
-// Rotate & Flip: turns pictures by any angle and mirrors them.
+// Rotate & Flip: rotates pictures by any angle and mirrors them.
 
 
 import { onPictures } from "../shared/on-pictures.js";
@@ -6,7 +6,7 @@ import { TurnPane } from "./turn-pane.js";
 import { presets } from "./turn-presets.js";
 import * as step from "./turn-step.js";
 
-// What is done to them, in words.
+// The operation in words.
 function startText(number, settings) {
     const flips = settings.flipHorizontal || settings.flipVertical;
     if (settings.angle !== 0 && flips) {

@@ -8,7 +8,7 @@ import { Pane } from "../shared/pane.js";
 
 const QUARTERS = { turnLeft: 90, turnRight: -90, turnHalf: 180 };
 
-// Which way an angle turns, anticlockwise being positive.
+// The direction of an angle; anticlockwise is positive.
 function senseText(angle) {
     if (angle === 0) {
         return qsTr("No rotation");
@@ -39,7 +39,7 @@ export class TurnPane extends Pane {
         shell.theme.changed.connect(guard("turn.theme", () => this.showIcons()));
     }
 
-    // Redrawn in the colours of the appearance.
+    // Drawn again in the colours of the appearance.
     showIcons() {
         const icons = { turnLeft: "turn-left", turnRight: "turn-right", turnHalf: "turn-half",
                         flipHorizontal: "flip-across",

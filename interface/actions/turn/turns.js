@@ -1,6 +1,6 @@
-// Turns and flips put together. Pure functions; no service is used.
+// Combinations of rotations and flips. Pure functions; no service is used.
 //
-// An element {mirror, angle} mirrors left to right first, where mirror is true, and then turns by the angle in degrees,
+// An element {mirror, angle} first mirrors left to right, if mirror is true, and then rotates by the angle in degrees,
 // anticlockwise.
 
 /** The angle as 0 up to, but not including, 360; kept to tenths. */
@@ -15,13 +15,13 @@ export function shortestTurn(angle) {
     return turn > 180 ? Math.round((turn - 360) * 10) / 10 : turn;
 }
 
-/** First one element, then the other, as one. */
+/** Combines two elements; the first is applied first. */
 export function then(first, second) {
     return { mirror: first.mirror !== second.mirror,
              angle: wholeTurn(second.angle + (second.mirror ? -first.angle : first.angle)) };
 }
 
-/** What the settings do to the upright picture: flips first, then the turn. */
+/** What the settings do to the upright picture: flips first, then the rotation. */
 export function wanted(settings) {
     const across = { mirror: settings.flipHorizontal, angle: 0 };
     const down = { mirror: settings.flipVertical, angle: settings.flipVertical ? 180 : 0 };

@@ -43,12 +43,12 @@ export class WatermarkPane extends Pane {
         const text = control("markText");
         text.textChanged.connect(guard("markText", () => this.set("text", text.plainText)));
         control("markPicture").activated.connect(guard("markPicture", () => this.pictureChosen()));
-        // Everything but a number that counts.
+        // Everything except a number that affects the result.
         joinTokens(this.form, { menu: "markTokenMenu", button: "markTokens" }, (token) => token.name !== "counter",
                    (value) => { text.insertPlainText(value); text.setFocus(); });
     }
 
-    // A font that is not there stays chosen, so that the message about it can be understood.
+    // A font that is not installed stays chosen, so that the message about it can be understood.
     showFonts() {
         const own = this.settings.font;
         const there = recipes.fonts();
@@ -68,7 +68,7 @@ export class WatermarkPane extends Pane {
         this.form.chooseValue("markPicture", this.settings.picture);
     }
 
-    // The picture itself; for one that is gone the one of that name in the user's folder, and the first there for none.
+    // The picture itself; if it is gone, the one of that name in the user's folder; the first there for none.
     pictureFor(path) {
         if (path !== "" && files.info(path).exists) {
             return path;

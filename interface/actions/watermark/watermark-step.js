@@ -10,7 +10,7 @@ import { fill } from "../../lib/wording.js";
 import { makeBy, planBy, recipeOf, showBy, statedQuality, usualOutput } from "../shared/by-recipe.js";
 import { outputMessages } from "../shared/written.js";
 
-/** What lies over the picture. */
+/** What is put over the picture. */
 export const MARKS = ["text", "picture"];
 /** The nine positions, row by row. */
 export const PLACES = [0, 1, 2, 3, 4, 5, 6, 7, 8];
@@ -18,8 +18,8 @@ export const MOST_PERCENT = 100;
 export const MOST_DEGREES = 180;
 
 /**
- * What a new pane shows. Sizes are per cent of a picture: of its height for text, of its width for a picture; the margin is per
- * cent of its shorter side. The angle is in degrees, anticlockwise. An empty font is the usual one.
+ * What a new pane shows. Sizes are percentages of a picture: of its height for text, of its width for a picture; the
+ * margin is a percentage of its shorter side. The angle is in degrees, anticlockwise. An empty font is the default.
  */
 export const defaults = {
     mark: "text", text: "© {date:yyyy}", picture: "", font: "", color: "#ffffff", size: 4, pictureSize: 20, position: 8,
@@ -42,7 +42,7 @@ function textMessages(settings) {
         return [qsTr("Enter a text.")];
     }
     const messages = tokens.problems(settings.text);
-    // A run may be taken up again with some of its pictures, whose numbers would be others.
+    // A resumed run may have only some of its pictures, whose numbers would change.
     if (tokens.parts(settings.text).some((part) => part.token === "counter")) {
         messages.push(qsTr("A watermark cannot contain {counter}."));
     }
@@ -91,7 +91,7 @@ export function recipeFor(_photo, settings) {
     return recipe(settings);
 }
 
-// What a picture becomes does not depend on the text, and each key that is typed asks again about all pictures.
+// What a picture becomes does not depend on the text, and each typed key asks again about all pictures.
 function answerFor(photo, settings, services) {
     const cache = services.unitCache;
     const work = recipe(settings);

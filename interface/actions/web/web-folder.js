@@ -1,18 +1,21 @@
-// The folder of a page: made beside its place and put there when it is whole; an earlier page of ours is brought up to date. Pure but for
-// translation; the services are handed in.
+// The folder of a page: made beside its destination and moved there when complete; an earlier page of ours is updated.
+// Pure but for translation; the services are passed in.
 // Services used: files, webPages, fileHandling (hWritHTMLFile).
 
 import { emptyTable, joinPath } from "../../lib/names.js";
 import { fill } from "../../lib/wording.js";
 
 export const PAGE = "index.html";
-/** Says which files of a folder are those of its page, and what is in them: {quorlinPage: 1, files: {path: [fingerprint ...]}}. */
+/**
+ * Lists which files of a folder belong to its page, and their content: {quorlinPage: 1, files: {path: [fingerprint
+ * ...]}}.
+ */
 export const MARKER = "quorlin-page.json";
 const VERSION = 1;
 const PICTURES = "pictures";
 const MOST_NUMBERS = 10000;
 
-/** The files of the page in a folder, by their paths below it; null where that is no page of ours. */
+/** The files of the page in a folder, by their relative paths; null if it is no page of ours. */
 export function ownFiles(folder, services) {
     const text = services.files.info(joinPath(folder, MARKER)).exists
         ? services.files.readText(joinPath(folder, MARKER)) : null;
@@ -30,7 +33,7 @@ function isListOfTexts(value) {
     return Array.isArray(value) && value.every((each) => typeof each === "string");
 }
 
-// Nobody gets a file removed elsewhere by what stands in a marker.
+// A forged marker must not get files elsewhere removed.
 function isInside(path) {
     return path !== "" && !path.startsWith("/") && path.split("/").every((part) => part !== ".." && part !== "");
 }
@@ -39,7 +42,7 @@ function markerText(known) {
     return JSON.stringify({ quorlinPage: VERSION, files: known }, null, 1) + "\n";
 }
 
-/** Both; a file may have been either. */
+/** Both; a file may be the result of either. */
 function joined(one, other) {
     const all = Object.assign(emptyTable(), one);
     Object.keys(other).forEach((path) => { all[path] = (all[path] || []).concat(other[path]); });
@@ -47,17 +50,17 @@ function joined(one, other) {
 }
 
 export class PageFolder {
-    /** @param place  where it goes: parent, absolute; name, of the folder; ifTaken, "number" or "update" */
+    /** @param place  the destination: parent, absolute; name, of the folder; ifTaken, "number" or "update" */
     constructor(services, place) {
         this.services = services;
         this.place = place;
         this.staging = null;
         /** Of the unfinished page, once it is open. */
         this.folder = "";
-        /** Where its pictures go, below it. */
+        /** Where its pictures go, relative to it. */
         this.pictures = PICTURES;
         this.target = joinPath(place.parent, place.name);
-        this.earlier = null; // the files of the page that is brought up to date
+        this.earlier = null; // the files of the page that is being updated
     }
 
     /** Makes the unfinished folder; returns a problem, or "". */
@@ -77,7 +80,7 @@ export class PageFolder {
         return files.makeFolder(this.folder);
     }
 
-    // Only where the user wants it, and only a page of ours that nobody wrote on.
+    // Only if the user wants it, and only a page of ours that nobody has changed.
     lookAtTarget() {
         const files = this.services.files;
         if (this.place.ifTaken !== "update" || !files.info(this.target).exists) {
@@ -115,8 +118,8 @@ export class PageFolder {
     }
 
     /**
-     * A generator that puts the finished folder into its place, some files at a time: {problem, path}. paths are those of all pictures,
-     * below the folder.
+     * A generator that moves the finished folder to its destination, some files at a time: {problem, path}. paths are
+     * those of all pictures, relative to the folder.
      */
     * finish(paths) {
         const known = emptyTable();
@@ -136,7 +139,7 @@ export class PageFolder {
         return problem === "" ? this.putInPlace() : { problem: problem, path: "" };
     }
 
-    // One rename; a folder that is there stays.
+    // One rename; an existing folder is not replaced.
     putInPlace() {
         for (let number = 1; number < MOST_NUMBERS; number += 1) {
             const path = this.target + (number === 1 ? "" : " (" + number + ")");
@@ -148,8 +151,8 @@ export class PageFolder {
         return { problem: qsTr("no free name was found"), path: "" };
     }
 
-    // The pictures first, then the page that shows them, in one step each; at every moment the page that is there has its pictures. The
-    // marker knows all of them meanwhile, so that what is cut off here is cleaned up by the next update.
+    // The pictures first, then the page that shows them, in one step each; at every moment the current page has its
+    // pictures. The marker lists all of them meanwhile, so that the next update cleans up after an interruption.
     * update(known) {
         const files = this.services.files;
         const marker = joinPath(this.target, MARKER);
@@ -179,7 +182,7 @@ export class PageFolder {
         return put.status === "OK" ? "" : put.message;
     }
 
-    // What is as it was written, and no part of the page any more.
+    // Files unchanged since they were written that are no longer part of the page.
     * removeOld(known) {
         const folders = emptyTable();
         for (const path of Object.keys(this.earlier).filter((each) => known[each] === undefined)) {
@@ -191,7 +194,7 @@ export class PageFolder {
             .forEach((folder) => this.services.files.removeEmptyFolder(joinPath(this.target, folder)));
     }
 
-    /** What is unfinished is gone afterwards. */
+    /** Afterwards the unfinished folder is gone. */
     close() {
         if (this.staging !== null) {
             this.services.files.removeStaging(this.staging);

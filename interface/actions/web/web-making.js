@@ -1,11 +1,11 @@
-// What a page is made of: its pictures, as the recipe made them, with their captions. Plain data in, plain data out; the services are
-// handed in.
+// What a page is made of: its pictures, as the recipe made them, with their captions. Plain data in, plain data out;
+// the services are passed in.
 // Services used: files (facts), webPages.
 
 import { fill } from "../../lib/wording.js";
 import { isFromRight, languageOf, templateOf, titleOf } from "./web-step.js";
 
-/** The caption of a picture: the one that was typed, or what the pattern says. */
+/** The caption of a picture: the typed one, or the result of the pattern. */
 export function captionOf(path, index, settings, services) {
     const typed = settings.captions.find((each) => each[0] === path);
     if (typed !== undefined) {
@@ -20,7 +20,8 @@ export function captionOf(path, index, settings, services) {
 }
 
 /**
- * A generator that writes the page into its unfinished folder and puts that into its place: {problem, path of the folder}.
+ * A generator that writes the page into its unfinished folder and moves that to its destination: {problem, path of the
+ * folder}.
  *
  * @param folder    a PageFolder that is open
  * @param pictures  each with path, of the input, index, in the list, and files: [{path: below the folder, width, height}], smallest first

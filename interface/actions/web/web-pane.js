@@ -22,7 +22,7 @@ const CHECKS = { webThree: "threeSizes", webSharpen: "sharpen", webLocation: "lo
 const CHOICES = { webType: "type", webMetadata: "metadata", webTaken: "ifTaken", webLanguage: "language",
                   webDirection: "direction" };
 const COLORS = { webLight: "lightPaper", webDark: "darkPaper", webAccent: "accent" };
-// So many pictures are in the sketch.
+// The sketch has so many pictures.
 const SKETCHED = 14;
 
 export class WebPane extends Pane {
@@ -58,7 +58,7 @@ export class WebPane extends Pane {
         this.setItems();
     }
 
-    // What stands in the metadata.
+    // The title in the metadata.
     ownTokens() {
         return webPages.captionTokens().map((token) => ({ name: token.name, words: token.words, forms: [""],
                                                           example: "" }));
@@ -210,7 +210,7 @@ export class WebPane extends Pane {
         return planned;
     }
 
-    // Not while it is being typed.
+    // Not while the user is typing it.
     showCaption(photo, services) {
         const field = this.form.control("webOwn");
         const isSound = this.step.validate(this.settings).length === 0;
@@ -222,7 +222,7 @@ export class WebPane extends Pane {
         }
     }
 
-    // Of the pictures whose sizes are known anyway.
+    // For the pictures whose sizes are known anyway.
     showRatios() {
         const list = this.window.list;
         const ratios = list.tickedIds().slice(0, SKETCHED).map((id) => list.photo(id))
@@ -234,7 +234,7 @@ export class WebPane extends Pane {
         return web.sizesOf(this.settings).map((size) => pixels(this.fitted(photo, size[1], planned))).join(", ");
     }
 
-    // As the recipe fits a picture into a longest side.
+    // As the recipe fits a picture to a longest side.
     fitted(photo, longest, planned) {
         const scale = Math.min(1, longest / Math.max(photo.width, photo.height));
         return longest === this.settings.large

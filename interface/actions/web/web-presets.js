@@ -1,5 +1,5 @@
-// The columns of its presets, and those that it starts with; docs/presets.md has the layout. Captions that were typed, and the folder that
-// a page is made in, belong to the pictures and not to a preset. Pure but for translation.
+// The columns of its presets, and those that it starts with; docs/presets.md has the layout. Typed captions, and the
+// folder in which a page is made, belong to the pictures and not to a preset. Pure but for translation.
 
 import { DIRECTIONS, METADATA, STYLES, TAKEN, TYPES } from "./web-step.js";
 

@@ -1,5 +1,5 @@
-// The preview of a page in the browser: its first pictures, made in a temporary folder that goes with the program.
-// Services used: shell, recipes (the batch), what pages are made with.
+// The preview of a page in the browser: its first pictures, made in a temporary folder that is removed when the program
+// ends. Services used: shell, recipes (the batch), what pages are made with.
 
 import { program } from "quorlin/program";
 import { shell } from "quorlin/shell";
@@ -37,7 +37,7 @@ export class WebPreview {
         this.job.start(work, () => undefined, guard("web.preview", (how, value) => this.ended(how, value)));
     }
 
-    /** Gives up what is being made. */
+    /** Cancels the preview that is being made. */
     stop() {
         this.job.cancel();
     }

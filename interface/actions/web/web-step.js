@@ -17,7 +17,10 @@ const SMALLEST = 16;
 const LARGEST = 20000;
 const LARGEST_QUALITY = 100;
 
-/** captions are those that were typed: [path, text] each; they count before the pattern. parent "" is the folder of the first picture. */
+/**
+ * captions are the typed ones: [path, text] each; they take precedence over the pattern. parent "" is the folder of the
+ * first picture.
+ */
 export const defaults = {
     title: "", text: "", style: "rows", captionPattern: "{caption}", captions: [],
     lightPaper: "#ffffff", darkPaper: "#16181b", accent: "#1f5fbf",
@@ -50,7 +53,7 @@ export function recipeOf(settings, folder) {
              outputs: sizesOf(settings).map((size) => outputOf(settings, size[0], size[1], folder)) };
 }
 
-/** The title of the page; that of its folder where none was given. */
+/** The title of the page; the name of its folder if none was given. */
 export function titleOf(settings) {
     return settings.title.trim() || settings.name.trim() || qsTr("Web Page");
 }
@@ -60,7 +63,7 @@ export function folderNameOf(settings) {
     return settings.name.trim() || titleOf(settings).replace(/\//g, "-");
 }
 
-/** The code of the language of the page; own is that of the program, which counts where none was chosen. */
+/** The code of the language of the page; own is that of the program, used if none was chosen. */
 export function languageOf(settings, own) {
     return settings.language === "" ? own : settings.language;
 }
@@ -143,7 +146,7 @@ export function preview(photo, settings, planned) {
              width: planned.width, height: planned.height, type: planned.type, quality: String(output.quality) };
 }
 
-/** Why no recipe can be made of the settings, by the program itself; empty where it can. */
+/** Why the program cannot make a recipe of the settings; empty if it can. */
 export function recipeProblem(settings) {
     return recipes.problemOf(JSON.stringify(recipeOf(settings, "pictures")), "/", false);
 }

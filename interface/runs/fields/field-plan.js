@@ -1,5 +1,5 @@
-// What a run over the metadata of pictures would change: read by workers, worked out by the same functions that write, and shown row by
-// row before anything is written.
+// What a run over the metadata of pictures would change: read by workers, computed by the same functions that write,
+// and shown row by row before anything is written.
 // Services used: those of the step, files (plannedFields).
 
 import { files } from "quorlin/files";
@@ -20,8 +20,8 @@ export function idsInScope(window, settings) {
 }
 
 /**
- * A generator that says of each of the pictures what would change. It yields {id, index, path, work, stated, planned: {name: texts},
- * problem, inPlace, sidecar}, and null while it waits; stated is what each field says now.
+ * A generator that says what would change in each of the pictures. It yields {id, index, path, work, stated, planned:
+ * {name: texts}, problem, inPlace, sidecar}, and null while it waits; stated is the current value of each field.
  *
  * @param look  a generator function(path): {fields, inPlace, sidecar, problem}
  */
@@ -47,13 +47,13 @@ function itemOf(window, maker, photo, index, said) {
              problem: planned.problem, inPlace: said.inPlace === true, sidecar: said.sidecar || "" };
 }
 
-/** Whether a run has something to do with a picture. */
+/** Whether a run would do anything to a picture. */
 export function isReady(item) {
     return item.problem === ""
         && (Object.keys(item.planned).length > 0 || (item.inPlace && item.work.remove.length > 0));
 }
 
-// What is said of a picture beside what changes.
+// What is said about a picture besides its changes.
 function notesOf(item, disputes) {
     const isBeside = isReady(item) && !item.inPlace;
     const staysPrivate = !item.inPlace && item.work.remove.length > 0;
@@ -80,7 +80,7 @@ export function showItem(window, item) {
                    changes.concat(disputes).join("\n"));
 }
 
-/** What all pictures say of a field together: {text} where it is one, {several: true}, or {none: true}. */
+/** The common value of a field in all pictures: {text} if it is the same, {several: true}, or {none: true}. */
 export class StatedTogether {
     constructor() {
         this.count = 0;
@@ -111,7 +111,7 @@ export class StatedTogether {
 export class FieldPlan extends LivePlan {
     constructor(window, planned) {
         super(window, planned);
-        // What was read of files, until a run changed them.
+        // What was read from files, until a run changes them.
         this.known = emptyTable();
         this.asker = null;
         this.together = new StatedTogether();
@@ -149,7 +149,7 @@ export class FieldPlan extends LivePlan {
         return planning;
     }
 
-    // What was asked for a plan that was given up is nobody's answer.
+    // Answers to requests of an abandoned plan are dropped.
     askAfresh() {
         if (this.asker !== null) {
             this.asker.end();
@@ -157,7 +157,7 @@ export class FieldPlan extends LivePlan {
         this.asker = new FieldAsker(() => this.job.wake());
     }
 
-    // Rows that are ticked and not chosen, where the chosen ones are worked on.
+    // Rows that are ticked but not selected, when only the selected ones are processed.
     leaveOthersOut(ids) {
         const list = this.window.pictures;
         if (ids.length === list.tickedCount) {
@@ -181,7 +181,7 @@ export class FieldPlan extends LivePlan {
         }
     }
 
-    /** What is known of the fields of a file; null where nothing is yet. */
+    /** What is known about the fields of a file; null if nothing is yet. */
     statedOf(path) {
         return this.known[path] === undefined ? null : this.known[path];
     }

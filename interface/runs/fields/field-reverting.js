@@ -1,4 +1,5 @@
-// Gives pictures the metadata again that a run replaced. Pure but for translation; what asks workers and the file service are handed in.
+// Gives pictures back the metadata that a run replaced. Pure but for translation; what asks workers and the file
+// service are passed in.
 
 import { splitPath } from "../../lib/names.js";
 import { fill } from "../../lib/wording.js";
@@ -6,15 +7,15 @@ import { appendRows, newRunName } from "../log-file.js";
 import { logRow } from "../report.js";
 import { noteReverted, valuesOf, valuesSize } from "./kept-values.js";
 
-/** How the log calls it. */
+/** Its name in the log. */
 export function revertAction() {
     return qsTr("Revert metadata");
 }
 
 /**
- * Whether a run of metadata can be reverted, as undoWords() says it of others; null for any other run.
+ * Whether a metadata run can be reverted, in the form of undoWords(); null for any other run.
  *
- * @param chosen  what the log says of it
+ * @param chosen  what the log says about it
  */
 export function revertFieldsWords(files, run, chosen) {
     const bytes = valuesSize(files, run);
@@ -40,11 +41,11 @@ function rowOf(kept, said, run, undone) {
 }
 
 /**
- * A generator that reverts a run, the newest picture first. It yields {path, status, reason, row} for each, whose row is in the log then,
- * and null while it waits; it returns a message, or "".
+ * A generator that reverts a run, newest picture first. It yields {path, status, reason, row} for each, after its row
+ * was logged, and null while it waits; it returns a message, or "".
  *
  * @param asker   see FieldAsker
- * @param goesOn  false where it is to stop after the current picture
+ * @param goesOn  false if it is to stop after the current picture
  */
 export function* revertingFields(asker, files, undone, goesOn) {
     const run = newRunName();
@@ -62,7 +63,7 @@ export function* revertingFields(asker, files, undone, goesOn) {
     return problem;
 }
 
-/** What became of it, in a line. */
+/** The outcome, in a line. */
 export function revertSummary(done, failed, problem) {
     return [qsTr("%n pictures reverted", "", done)]
         .concat(failed > 0 ? [qsTr("%n problems", "", failed)] : [], problem ? [problem] : []).join(" · ");

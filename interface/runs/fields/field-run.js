@@ -1,4 +1,4 @@
-// A run that changes what pictures say about themselves, and the revert of one.
+// A run that changes the metadata of pictures, and the revert of one.
 
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
@@ -16,7 +16,7 @@ import { FieldAsker } from "./field-work.js";
 import { forgetUnlogged, keepValues, valuesOf } from "./kept-values.js";
 
 const TELL_MS = 100;
-// So many pictures that disagree with themselves are named in the question.
+// The question names so many pictures that disagree with themselves.
 const MOST_NAMED = 4;
 
 // The fields that a run changed, with their texts.
@@ -40,7 +40,7 @@ export class FieldRun extends BaseRun {
         this.steppedMs = 0;
     }
 
-    // Other actions may have changed files since.
+    // Other actions may have changed files meanwhile.
     look() {
         if (!this.isBusy()) {
             this.filesChanged();
@@ -100,7 +100,7 @@ export class FieldRun extends BaseRun {
         this.finish(text);
     }
 
-    // What EXIF, IPTC and XMP say differently is shown before they all say the same.
+    // Disagreements between EXIF, IPTC and XMP are shown before they all get the same value.
     mayWrite(ready) {
         const step = this.window.action.step;
         const disputed = this.items.filter((item) => isReady(item) && step.disputeWords(item.stated).length > 0);
@@ -140,7 +140,7 @@ export class FieldRun extends BaseRun {
         }
     }
 
-    // An edit that is in the file is in the log, whatever happens to this program after it.
+    // An edit that is in the file is logged, whatever happens to this program afterwards.
     takeResult(event) {
         const { said } = event;
         const item = this.items[event.index];
@@ -228,7 +228,7 @@ export class FieldRun extends BaseRun {
         return isThere ? { id: this.id, text: qsTr("Revert") } : null;
     }
 
-    /** Gives pictures the metadata again that a run replaced. */
+    /** Gives pictures back the metadata that a run replaced. */
     revert(undone) {
         const { window } = this;
         const ids = rowsByPath(window.pictures);

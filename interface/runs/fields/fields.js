@@ -1,4 +1,4 @@
-// The manner of actions that change what pictures say about themselves: in the files, or in sidecars.
+// The manner of actions that change the metadata of pictures: in the files, or in sidecars.
 
 import { fill } from "../../lib/wording.js";
 import { FieldPlan } from "./field-plan.js";

@@ -1,8 +1,8 @@
-// What runs wrote into the metadata of pictures: old and new values and what makes the old file again, in a file of its own for each
-// run, beside the log. The run's name in the log leads to it. The file service is handed in.
+// What runs wrote into the metadata of pictures: old and new values and what restores the old file, in a separate file
+// for each run, beside the log. The run's name in the log leads to it. The file service is passed in.
 //
-// A line is {path, file, before, after, undo} for a picture that was written, or {reverted: number of its line} for one that has its
-// old values again; before and after have the fields that changed, each a list of texts.
+// A line is {path, file, before, after, undo} for a picture that was written, or {reverted: number of its line} for one
+// whose old values were restored; before and after have the fields that changed, each a list of texts.
 
 import { logPath } from "../log-file.js";
 
@@ -27,12 +27,12 @@ export function valuesPath(files, run) {
     return folderOf(files) + "/" + nameOf(run);
 }
 
-/** Keeps what was written into one picture; returns a message if that failed. */
+/** Stores what was written into one picture; returns a message if that failed. */
 export function keepValues(files, run, values) {
     return files.appendPrivate(valuesPath(files, run), JSON.stringify(values) + "\n");
 }
 
-/** Notes that the picture of a line has its old values again; returns a message if that failed. */
+/** Records that the picture of a line has its old values again; returns a message if that failed. */
 export function noteReverted(files, run, line) {
     return files.appendPrivate(valuesPath(files, run), JSON.stringify({ reverted: line }) + "\n");
 }
@@ -46,7 +46,7 @@ function read(line) {
     }
 }
 
-/** What was written by a run and is not reverted, the newest first: {line, path, file, before, after, undo}. */
+/** What a run wrote and was not reverted, newest first: {line, path, file, before, after, undo}. */
 export function valuesOf(files, run) {
     const lines = (files.readText(valuesPath(files, run)) || "").split("\n").map(read);
     const reverted = lines.map((each) => each.reverted);
@@ -59,20 +59,22 @@ export function valuesOf(files, run) {
     return kept.reverse();
 }
 
-/** What a run wrote into the picture at a path, reverted or not: {before, after}; null where nothing is kept of it. */
+/**
+ * What a run wrote into the picture at a path, reverted or not: {before, after}; null if nothing is stored about it.
+ */
 export function valuesAt(files, run, path) {
     const lines = valuesSize(files, run) === 0 ? [] : (files.readText(valuesPath(files, run)) || "").split("\n");
     const found = lines.filter((line) => line.startsWith("{\"path\":" + JSON.stringify(path) + ",")).map(read).pop();
     return found === undefined || found.after === undefined ? null : found;
 }
 
-/** Bytes of what is kept of a run; 0 where nothing is. */
+/** Bytes stored for a run; 0 if nothing is. */
 export function valuesSize(files, run) {
     const info = run === "" ? { exists: false } : files.info(valuesPath(files, run));
     return info.exists ? info.bytes : 0;
 }
 
-/** Removes what is kept of a run; returns a message if that failed. */
+/** Removes what is stored for a run; returns a message if that failed. */
 export function forgetValues(files, run) {
     return files.removePrivate(valuesPath(files, run));
 }
@@ -85,12 +87,12 @@ function forgetThose(files, runs) {
     return runs.map((run) => forgetValues(files, run)).find((problem) => problem !== "") || "";
 }
 
-/** Removes what is kept of all runs; returns a message if that failed. */
+/** Removes what is stored for all runs; returns a message if that failed. */
 export function forgetAllValues(files) {
     return forgetThose(files, runsKept(files));
 }
 
-/** Removes what is kept of runs that are no longer in the log; returns a message if that failed. */
+/** Removes what is stored for runs that are no longer in the log; returns a message if that failed. */
 export function forgetUnlogged(files) {
     const runs = runsKept(files);
     const log = runs.length === 0 ? "" : files.readText(logPath(files)) || "";

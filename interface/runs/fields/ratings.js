@@ -1,5 +1,5 @@
-// Writes the stars of the list into the files of its pictures, on request, and takes them out again. Marks of the list until then.
-// Services used: files, shell (ask, job).
+// Writes the stars of the list into the files of its pictures, on request, and removes them again. Until then they are
+// marks of the list only. Services used: files, shell (ask, job).
 
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
@@ -26,7 +26,7 @@ export class Ratings {
         this.asker = null;
         this.run = "";
         this.sum = NOTHING;
-        // What files were given, so that stars which are taken away later are taken out of them too.
+        // The ratings that files were given, so that stars removed later are removed from the files too.
         this.written = emptyTable();
         window.form.control("writeRatingsAction").triggered.connect(guard("ratings.write", () => this.write()));
     }
@@ -37,7 +37,7 @@ export class Ratings {
         this.window.form.control("writeRatingsAction").enabled = open && any;
     }
 
-    // Those that are shown and ticked: whoever shows three stars and more means these.
+    // Those that are shown and ticked: a user who shows three stars and more means these.
     toWrite() {
         return this.window.pictures.ratings().filter((photo) => this.differs(photo));
     }
@@ -119,7 +119,7 @@ export class Ratings {
                                              after: ratingOf(said.after), undo: said.undo });
     }
 
-    // What is in a file is in the log, whatever happens to this program after it.
+    // What is in a file is logged, whatever happens to this program afterwards.
     log(photo, said) {
         const ok = said.problem === "";
         const result = { status: ok ? "OK" : "Failed", reason: said.problem, photo: photo,
@@ -136,7 +136,7 @@ export class Ratings {
             .concat(sum.failed > 0 ? [problemsText(sum.failed)] : [], sum.problem ? [sum.problem] : []).join(" · "));
     }
 
-    /** Makes the files again as they were before a run; the stars in the list stay. */
+    /** Restores the files as they were before a run; the stars in the list stay. */
     revert(run) {
         if (this.job.running) {
             return;

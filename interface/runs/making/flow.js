@@ -1,8 +1,8 @@
-// Pause and stop of a run whose pictures others make. Pure; no service is used.
+// Pause and stop of a run whose pictures are made elsewhere. Pure; no service is used.
 
-/** What a run wants of the job that carries it out; asked between two pictures. */
+/** What a run wants from the job that carries it out; checked between two pictures. */
 export class Flow {
-    /** @param wake  called when something has changed, or a result has come */
+    /** @param wake  called when something has changed, or a result has arrived */
     constructor(wake) {
         this.wake = wake;
         this.isPaused = false;
@@ -12,7 +12,7 @@ export class Flow {
         this.folder = "";
     }
 
-    /** No further picture is begun until resume(). */
+    /** No further picture is started until resume(). */
     pause() {
         this.isPaused = true;
         this.wake();
@@ -23,13 +23,13 @@ export class Flow {
         this.wake();
     }
 
-    /** No further picture is begun; those in progress are finished. */
+    /** No further picture is started; those in progress are finished. */
     stop() {
         this.isStopping = true;
         this.wake();
     }
 
-    /** There may be room now, in another folder where one is named, else where it was wanted. */
+    /** There may be room now, in another folder if one is named, else in the planned one. */
     answerRoom(folder) {
         this.isFull = false;
         this.folder = folder || "";

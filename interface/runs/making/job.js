@@ -1,7 +1,7 @@
-// Carries out a plan, one picture after the other. A generator: whoever runs it may stop after any picture, and what is
-// unfinished is then removed. The same runner serves the windows and the command line.
-// Services used: files (info, makeFolder, makeStaging, place, ...), pictures (takeMemoryRefusal), replacing, and what the
-// step uses.
+// Carries out a plan, one picture after the other. A generator: its caller may stop after any picture, and unfinished
+// files are then removed. The same runner serves the windows and the command line.
+// Services used: files (info, makeFolder, makeStaging, place, ...), pictures (takeMemoryRefusal), replacing, and what
+// the step uses.
 
 import { FolderNames } from "quorlin/files";
 import { emptyTable, joinPath, splitPath } from "../../lib/names.js";
@@ -9,7 +9,7 @@ import { emptyTable, joinPath, splitPath } from "../../lib/names.js";
 const MOST_NUMBERS = 10000;
 const MOST_OPEN = 64;
 
-/** The folders that a run writes to: made when they are first needed, each with a hidden folder for unfinished files. */
+/** The folders that a run writes to: created when first needed, each with a hidden folder for unfinished files. */
 export class Workshop {
     constructor(files) {
         this.files = files;
@@ -18,7 +18,7 @@ export class Workshop {
         this.made = [];
     }
 
-    /** What is unfinished in a folder stays there until leave() was called as often. */
+    /** Unfinished files in a folder stay there until leave() was called as often. */
     enter(folder) {
         this.users[folder] = (this.users[folder] || 0) + 1;
     }
@@ -50,7 +50,7 @@ export class Workshop {
         return { staging: staging };
     }
 
-    // The folders that are to be made for this one to be there, itself first.
+    // The folders to be created so that this one exists, itself first.
     missing(folder) {
         const missing = [];
         for (let each = folder; each.length > 1 && !this.files.info(each).exists; each = splitPath(each).folder) {
@@ -72,7 +72,7 @@ export class Workshop {
         for (const staging of this.stagings.values()) {
             this.files.removeStaging(staging);
         }
-        // A folder in which nothing came to be is taken away again, the innermost first.
+        // A folder in which nothing was written is removed again, innermost first.
         for (const folder of this.made) {
             this.files.removeEmptyFolder(folder);
         }
@@ -84,9 +84,9 @@ export function failed(reason) {
 }
 
 /**
- * The name was free when the run was planned. If it was taken since, the rule for taken names holds again.
+ * The name was free when the run was planned. If it has been taken since, the rule for taken names applies again.
  *
- * @param services  files and, perhaps, replacing (see replacing.js), without which the files that are replaced are gone
+ * @param services  files and, optionally, replacing (see replacing.js), without which replaced files are gone
  */
 export function placeResult(from, item, rule, services) {
     const files = services.files;
@@ -132,7 +132,7 @@ function makeOne(item, step, settings, services, workshop) {
              bytes: bytes, width: made.width, height: made.height };
 }
 
-// A step that throws has met a mistake of ours; the other pictures are not affected.
+// An exception in a step is a bug of ours; the other pictures are not affected.
 function finalResult(item, step, settings, services, workshop) {
     const started = Date.now();
     let result;
@@ -154,7 +154,7 @@ function finalResult(item, step, settings, services, workshop) {
  * {kind: "end", index, item, result}; exactly one end per picture. Returns the list of all results.
  *
  * A result has status "OK", "Failed", "Not Supported" or "Skipped", reason, photo, ms, and if OK name, path, folder, bytes,
- * width, height. Stopping it (return) removes what is unfinished.
+ * width, height. Stopping it (return) removes unfinished files.
  */
 export function* runItems(items, step, settings, services) {
     const workshop = new Workshop(services.files);

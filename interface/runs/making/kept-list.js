@@ -1,5 +1,5 @@
-// Keeps the list on the disk while the program runs, so that it comes back after a crash. An end in order takes that away, unless the
-// preferences say otherwise.
+// Keeps the list on disk while the program runs, so that it is restored after a crash. A normal exit removes it, unless
+// the preferences say otherwise.
 // Services used: records (begin, add, endWithProgram, end, interrupted), files (readText, info).
 
 import { defaults } from "quorlin/defaults";
@@ -25,7 +25,7 @@ function parsed(line) {
     }
 }
 
-/** The paths that the text of a kept list says; null where it was not written to its end. */
+/** The paths in the text of a saved list; null if it was not written completely. */
 export function pathsFrom(text) {
     const lines = text.split("\n").map(parsed).filter((line) => line !== null && typeof line === "object");
     const last = lines.pop();
@@ -42,7 +42,7 @@ export class KeptList {
         this.timer = shell.timer(guard("list.keep", () => this.keep()));
     }
 
-    /** Once, at start: brings back what a program had that did not end in order. */
+    /** Once, at start: restores the list of a program that did not exit normally. */
     look() {
         const found = runRecords.interrupted(listsFolder());
         const whole = found.map((path) => pathsFrom(files.readText(path) || "")).filter((paths) => paths !== null);
@@ -64,7 +64,7 @@ export class KeptList {
         this.job.start(work, () => undefined, () => undefined);
     }
 
-    /** The window is about to close in order: the list stays where the user wants it back. */
+    /** The window is about to close normally: the list is kept if the user wants it back. */
     close() {
         this.timer.stop();
         this.job.cancel();
@@ -75,7 +75,7 @@ export class KeptList {
         }
     }
 
-    // The old one stays until the new one is whole.
+    // The old one is kept until the new one is complete.
     * keeping(paths, isPassing) {
         const path = paths.length === 0 ? "" : runRecords.begin(listsFolder());
         let isWhole = paths.length === 0;

@@ -1,5 +1,5 @@
-// Results that take the place of files: what they replace goes to the trash first, or, where there is none, into a folder beside it, so
-// that the run can be undone. Pure but for translation; the services are handed in.
+// Results that replace files: the replaced file goes to the trash first, or, if there is none, into a folder beside it,
+// so that the run can be undone. Pure but for translation; the services are passed in.
 // Services used: moves (open, reopen, add, takeBack, end), files (identity, realFolder, copyPermissions).
 
 import { joinPath } from "../../lib/names.js";
@@ -10,14 +10,14 @@ function dayText(date) {
 
 export class Replacing {
     /**
-     * @param title    what the run is called that can be undone
-     * @param earlier  the run that was interrupted, which is gone on with then, or ""
+     * @param title    the name of the run that can be undone
+     * @param earlier  the interrupted run to be continued, or ""
      */
     constructor(services, title, earlier) {
         this.services = services;
         this.title = title;
         this.earlier = earlier || "";
-        /** Where the name of the run is noted before anything is put aside; null for nowhere. */
+        /** Where the name of the run is recorded before anything is moved aside; null for nowhere. */
         this.record = null;
         this.run = "";
         this.count = 0;
@@ -55,12 +55,12 @@ export class Replacing {
     }
 
     /**
-     * Puts the finished file `from` in the place of what the item replaces: {status: "OK", "Taken" or "Failed", message}. Taken: something
-     * else is there by now, which stays. Where it fails the old file is in its place again.
+     * Puts the finished file `from` in place of the file that the item replaces: {status: "OK", "Taken" or "Failed",
+     * message}. Taken: another file is there by now, which stays. If it fails, the old file is back in its place.
      */
     put(from, item) {
         const files = this.services.files;
-        // The move engine wants to know where things are, not how somebody came there.
+        // The move engine works with real locations, not with the links that led there.
         const folder = files.realFolder(item.folder) || item.folder;
         const path = joinPath(folder, item.name);
         if (files.identity(path) !== item.replaced) {
@@ -80,7 +80,7 @@ export class Replacing {
             this.services.moves.takeBack(this.run);
             return { status: "Failed", message: put.message };
         }
-        files.copyPermissions(from, path); // where new files get other ones from the folder
+        files.copyPermissions(from, path); // if new files get other permissions from the folder
         this.count += 1;
         return { status: "OK", message: "" };
     }
@@ -92,8 +92,8 @@ export class Replacing {
 }
 
 /**
- * Once after a run was interrupted: what was put aside for a result that did not come to take its place goes back. Returns the paths of the
- * results that took theirs.
+ * Once after a run was interrupted: files that were moved aside for a result which never arrived go back. Returns the
+ * paths of the results that did arrive.
  */
 export function settleReplaced(run, moves) {
     const opened = run === "" ? {} : moves.reopen(run);

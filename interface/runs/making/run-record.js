@@ -1,8 +1,9 @@
-// What a run leaves behind where it is interrupted: its plan, and for each picture a line before its result takes its place and one after
-// it. Lines are JSON: {run: {action, title, settings, startedMs, id, replacing, continues}}, {item: index, path, status, ...},
-// {paths: all inputs, in parts}, {begun: count} (again where items joined), {about: index, path, identity},
-// {placed: index, path, identity, bytes}, {replacing: run of the move engine}, {logging: true}. Where a picture has several outputs its
-// lines have the number of one besides, as `output`. Pure but for the services that are handed in.
+// The record of a run, in case it is interrupted: its plan, and for each picture a line before its result is put into
+// place and one after it. Lines are JSON: {run: {action, title, settings, startedMs, id, replacing, continues}}, {item:
+// index, path, status, ...}, {paths: all inputs, in parts}, {begun: count} (again where items joined), {about: index,
+// path, identity}, {placed: index, path, identity, bytes}, {replacing: run of the move engine}, {logging: true}. If a
+// picture has several outputs, its lines also have the number of the output, as `output`. Pure but for the services
+// that are passed in.
 // Services used: records (begin, add, end), files (identity).
 
 import { emptyTable, joinPath, splitPath } from "../../lib/names.js";
@@ -35,7 +36,8 @@ export class RunRecord {
 
     /**
      * Writes what is planned, some of it at a time; head: {action, title, settings, startedMs, id: of its rows in the log,
-     * replacing: the run of the move engine of an earlier part, continues: the record of that part}; paths: see addPaths(), may be missing.
+     * replacing: the run of the move engine of an earlier part, continues: the record of that part}; paths: see
+     * addPaths(), optional.
      */
     * begin(head, items, paths) {
         this.path = this.records.begin(recordsFolder(this.files));
@@ -75,7 +77,7 @@ export class RunRecord {
         this.add({ begun: first + items.length }, true);
     }
 
-    /** Notes all inputs of a run whose names depend on those that it does not make; some of them at a time. */
+    /** Records all inputs of a run whose names depend on pictures that it does not make; some of them at a time. */
     * addPaths(paths) {
         for (let i = 0; i < paths.length && this.path !== ""; i += ITEMS_A_SLICE) {
             this.add({ paths: paths.slice(i, i + ITEMS_A_SLICE) }, false);
@@ -83,7 +85,7 @@ export class RunRecord {
         }
     }
 
-    // A run that cannot be recorded is carried out all the same.
+    // A run is carried out even if it cannot be recorded.
     add(value, isKept) {
         this.addAll([value], isKept);
     }
@@ -102,7 +104,7 @@ export class RunRecord {
         return { placed: index, path: path, identity: this.files.identity(path), bytes: bytes };
     }
 
-    /** The finished file `from` is about to be put at `path`. */
+    /** The finished file `from` is about to be moved to `path`. */
     about(index, from, path) {
         this.add(this.aboutLine(index, from, path), true);
     }
@@ -111,7 +113,7 @@ export class RunRecord {
         this.add(this.placedLine(index, path, bytes), true);
     }
 
-    /** The same of all outputs of a picture that are about to be placed: [{output, file, path}]. */
+    /** The same for all outputs of a picture that are about to be placed: [{output, file, path}]. */
     aboutOutputs(index, whole) {
         this.addAll(whole.map((each) => Object.assign(this.aboutLine(index, each.file, each.path),
                                                       { output: each.output })), true);
@@ -157,7 +159,7 @@ function rowKey(index, output) {
     return output === undefined ? String(index) : index + ":" + output;
 }
 
-// Takes one line of a record in; how many items it says were begun, or -1.
+// Processes one line of a record; returns how many items it says were begun, or -1.
 function takeLine(record, line) {
     const index = line.placed === undefined ? line.about : line.placed;
     if (line.run !== undefined) {
@@ -178,9 +180,9 @@ function takeLine(record, line) {
 }
 
 /**
- * What the text of a record says: {head, items, paths, rows, replacing, isLogging}, or null where the run had not begun. Items are those of
- * the plan with `of`, the path of their picture; rows have the last line about a picture, by index, or about one of its outputs, by
- * "index:output".
+ * The contents of a record: {head, items, paths, rows, replacing, isLogging}, or null if the run had not begun. Items
+ * are those of the plan with `of`, the path of their picture; rows have the last line about a picture, by index, or
+ * about one of its outputs, by "index:output".
  */
 export function recordFrom(text) {
     const record = { head: null, items: [], paths: [], rows: emptyTable(), replacing: "", isLogging: false };
@@ -196,8 +198,8 @@ export function recordFrom(text) {
 }
 
 /**
- * The results that are done, by index, or "index:output": {status: "OK", name, path, folder, bytes ...}. What stands on the disk decides: a
- * result that was about to be placed and is there is done, and one that is not there any more is not.
+ * The results that are done, by index, or "index:output": {status: "OK", name, path, folder, bytes ...}. The disk
+ * decides: a result that was about to be placed and exists is done, and one that no longer exists is not.
  */
 export function doneResults(record, files) {
     const done = emptyTable();
@@ -214,7 +216,7 @@ export function doneResults(record, files) {
     return done;
 }
 
-/** The outputs of an item as they are now: those that are done have their results, the others are as they were planned. */
+/** The present outputs of an item: those that are done have their results, the others are as planned. */
 export function outputsNow(item, index, done) {
     return item.outputs.map((output) => {
         const result = done[rowKey(index, output.output)];
@@ -223,7 +225,7 @@ export function outputsNow(item, index, done) {
     });
 }
 
-/** How many pictures of a record are done, with all that was to be made of them. */
+/** How many pictures of a record are complete, with all their outputs. */
 export function doneCount(record, files) {
     const done = doneResults(record, files);
     return record.items.filter((item, i) => {

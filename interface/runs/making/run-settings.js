@@ -1,5 +1,5 @@
-// The settings of runs, kept with their log: one line of JSON for each run, {run, action, settings}, the newest at the end. The file
-// service is handed in.
+// The settings of runs, stored beside their log: one line of JSON for each run, {run, action, settings}, newest last.
+// The file service is passed in.
 
 const NAME = "/run-settings.jsonl";
 const MOST = 500;
@@ -13,7 +13,7 @@ function lines(files) {
     return (files.readText(pathOf(files)) || "").split("\n").filter((line) => line !== "");
 }
 
-// A line that something else wrote into is none.
+// A line that something else wrote into is ignored.
 function read(line) {
     try {
         const kept = JSON.parse(line);
@@ -25,13 +25,13 @@ function read(line) {
     }
 }
 
-/** Keeps the settings of a run under its name in the log; returns a message if that failed. */
+/** Stores the settings of a run under its name in the log; returns a message if that failed. */
 export function keepSettings(files, run, action, settings) {
     const line = JSON.stringify({ run: run, action: action, settings: settings }) + "\n";
     return files.appendLines(pathOf(files), line) || files.keepNewestLines(pathOf(files), MOST, MOST + SLACK);
 }
 
-/** {run, action, settings} of a run; null where they were not kept. */
+/** {run, action, settings} of a run; null if they were not stored. */
 export function settingsOf(files, run) {
     const start = "{\"run\":" + JSON.stringify(run) + ",";
     const found = run === "" ? undefined : lines(files).reverse().find((line) => line.startsWith(start));
@@ -44,7 +44,7 @@ export function newestSettings(files) {
     return all.length === 0 ? null : read(all[all.length - 1]);
 }
 
-/** Forgets them all; returns a message if that failed. */
+/** Deletes them all; returns a message if that failed. */
 export function clearSettings(files) {
     return files.info(pathOf(files)).exists ? files.writeText(pathOf(files), "") : "";
 }

@@ -1,6 +1,7 @@
-// Carries out a plan by workers, many pictures at a time: they make the files, here each is put into its place. For steps that say
-// with recipeFor(photo, settings, services) what is done to a picture; a generator, as that of job.js is.
-// Services used: recipes (work), files (info, makeFolder, makeStaging, place, ...), replacing and record (both may be missing).
+// Carries out a plan with workers, many pictures at a time: they make the files, and this module puts each into its
+// place. For steps that describe the work on a picture with recipeFor(photo, settings, services); a generator like that
+// of job.js. Services used: recipes (work), files (info, makeFolder, makeStaging, place, ...), replacing and record
+// (both optional).
 
 import { guard } from "../../lib/guard.js";
 import { emptyTable, joinPath } from "../../lib/names.js";
@@ -24,10 +25,10 @@ class WorkerJob {
         this.workshop = new Workshop(services.files);
         this.work = services.recipes.work();
         this.next = 0;
-        this.again = []; // indices that were taken back
+        this.again = []; // indices that were withdrawn
         this.targets = [];
         this.full = emptyTable(); // why there was no room, by index
-        this.open = 0; // handed over, and not taken yet
+        this.open = 0; // handed to workers, and not collected yet
     }
 
     close() {
@@ -47,7 +48,7 @@ class WorkerJob {
         return this.next - 1;
     }
 
-    /** What is not begun is not begun now; the indices of that. */
+    /** Whatever has not been started is not started now; answers the indices. */
     hold() {
         const numbers = this.work.takeBack();
         numbers.forEach((index) => this.workshop.leave(this.items[index].folder));
@@ -56,7 +57,7 @@ class WorkerJob {
         return numbers;
     }
 
-    /** A final result where there is nothing for workers to do, or null. */
+    /** A final result if there is nothing for workers to do, or null. */
     give(index) {
         const item = this.items[index];
         if (item.done !== undefined) {
@@ -80,7 +81,7 @@ class WorkerJob {
         return null;
     }
 
-    // A step that throws has met a mistake of ours; the other pictures are not affected.
+    // An exception in a step is a bug of ours; the other pictures are not affected.
     tryGive(index) {
         try {
             return this.give(index);
@@ -89,7 +90,7 @@ class WorkerJob {
         }
     }
 
-    /** What came back from a worker: its event. */
+    /** An answer from a worker: its event. */
     take(made, flow) {
         this.workshop.leave(this.items[made.number].folder);
         this.open -= 1;
@@ -111,7 +112,7 @@ class WorkerJob {
         });
     }
 
-    /** The disk is full, and nothing is in work: what now? Said once, however many pictures found no room. */
+    /** The disk is full, and nothing is in progress: asks what to do. Once, however many pictures found no room. */
     * askAboutRoom(flow) {
         const first = this.again.find((index) => this.full[index] !== undefined);
         flow.answerRoom(null);
@@ -159,7 +160,7 @@ class WorkerJob {
         return { kind: "end", index: index, item: this.items[index], result: result };
     }
 
-    /** Whether each picture that was begun has its end, and no other one is to be begun. */
+    /** Whether each started picture has ended, and none is to be started. */
     isOver(flow) {
         return this.open === 0 && !flow.isFull && (flow.isStopping || !(this.hasNext() || flow.isGrowing));
     }
@@ -186,11 +187,12 @@ class WorkerJob {
 }
 
 /**
- * A generator that carries out the items of a plan, of which there may become more meanwhile, and yields what runItems() of job.js does,
- * the ends in the order in which the pictures are ready; null where it waits for flow.wake(), and {kind: "back", index, item} for a
- * picture that is not begun after all, since the flow is paused or stopped, or the disk is full; and then {kind: "full", index, item}
- * once, after which the flow has an answer or is stopped. Returns when each picture that was begun has its end: all of them, or, once
- * the flow is stopped, those that were in progress. Stopping it (return) gives these up and removes what is unfinished.
+ * A generator that carries out the items of a plan, to which more may be added meanwhile, and yields what runItems() of
+ * job.js does, the ends in the order in which the pictures are ready; null while it waits for flow.wake(), and {kind:
+ * "back", index, item} for a picture that is not started after all, because the flow is paused or stopped, or the disk
+ * is full; in the last case then {kind: "full", index, item} once, after which the flow has an answer or is stopped.
+ * Returns when each started picture has ended: all of them, or, once the flow is stopped, those in progress. Stopping
+ * it (return) abandons these and removes unfinished files.
  */
 export function* runByWorkers(items, step, settings, services, flow) {
     const job = new WorkerJob(items, step, settings, services);
@@ -208,7 +210,7 @@ export function* runByWorkers(items, step, settings, services, flow) {
             } else if (job.mayGive(flow)) {
                 yield* job.handOver();
             } else if (!job.isOver(flow)) {
-                yield null; // held, or everything is with the workers
+                yield null; // paused, or the workers have everything
             }
         }
     } finally {

@@ -1,13 +1,13 @@
-// Carries out a plan of a recipe by workers, several pictures at a time: each makes all files of a picture, which the batch puts into
-// their places; what replaces something is put there here, so that the run can be undone. A generator that says what runByWorkers() of
-// ../making/worker-job.js does.
-// Services used: the batch, files, replacing, record (may be missing).
+// Carries out a plan of a recipe with workers, several pictures at a time: each makes all files of a picture, which the
+// batch puts into their places; results that replace something are put there by this module, so that the run can be
+// undone. A generator that yields what runByWorkers() of ../making/worker-job.js does.
+// Services used: the batch, files, replacing, record (optional).
 
 import { guard } from "../../lib/guard.js";
 import { emptyTable, joinPath, splitPath } from "../../lib/names.js";
 import { placeResult } from "../making/job.js";
 
-/** Where a picture is gone, that is the reason of what could not be made of it. */
+/** If a picture is gone, that is the reason for its missing results. */
 export function vanishedInWords(outputs, photo, files) {
     const isGone = outputs.some((output) => output.status === "Failed") && !files.info(photo.path).exists;
     return isGone ? outputs.map((output) => (output.status === "Failed"
@@ -21,12 +21,12 @@ class Making {
         this.services = services;
         this.full = emptyTable(); // why there was no room, by index
         this.next = 0;
-        this.again = []; // indices that were taken back
+        this.again = []; // indices that were withdrawn
         this.indices = Object.create(null); // by the numbers of the batch
         this.known = 0;
     }
 
-    // Others may have joined since it was asked last.
+    // Others may have joined since the last call.
     indexOf(number) {
         for (; this.known < this.items.length; this.known += 1) {
             this.indices[this.items[this.known].number] = this.known;
@@ -50,7 +50,7 @@ class Making {
         return this.batch.inWork === 0 && !flow.isFull && (flow.isStopping || !(this.hasNext() || flow.isGrowing));
     }
 
-    // In the place of what is there, which goes to the trash.
+    // Replaces the existing file, which goes to the trash.
     placed(output) {
         const parts = splitPath(output.path);
         const item = { folder: parts.folder, name: parts.name, path: output.path, replaces: true,
@@ -60,7 +60,7 @@ class Making {
         return Object.assign({}, output, { status: put.status, reason: put.reason || "", path: path });
     }
 
-    // Puts what was made of a picture into its places, with a line in the record before and after.
+    // Puts the results of a picture into their places, with a line in the record before and after.
     placeAll(index, made) {
         const { record } = this.services;
         if (record !== undefined) {
@@ -80,7 +80,7 @@ class Making {
         return outputs;
     }
 
-    /** What came back from a worker: its event. */
+    /** An answer from a worker: its event. */
     take(made, flow) {
         const index = this.indexOf(made.number);
         if (made.full !== undefined && !flow.isStopping) {
@@ -92,14 +92,14 @@ class Making {
         if (made.full !== undefined) {
             return this.failed(index, made.full);
         }
-        // What was refused, or done before, is so still.
+        // What was refused, or done before, stays so.
         const outputs = this.placeAll(index, made);
         const all = this.items[index].outputs
             .map((output) => outputs.find((each) => each.output === output.output) || output);
         return this.event("end", index, all, made.ms);
     }
 
-    // Those that were to be made; what was refused before is so still.
+    // Those that were to be made; what was refused before stays so.
     failed(index, reason) {
         const outputs = this.items[index].outputs.map((output) => (output.status === "ready"
             ? Object.assign({}, output, { status: "Failed", reason: reason, path: "" }) : output));
@@ -112,7 +112,7 @@ class Making {
         rest.forEach((index) => this.batch.moveTo(this.items[index].number, folder));
     }
 
-    /** The disk is full, and nothing is in work: what now? Said once, however many pictures found no room. */
+    /** The disk is full, and nothing is in progress: asks what to do. Once, however many pictures found no room. */
     * askAboutRoom(flow) {
         const first = this.again.find((index) => this.full[index] !== undefined);
         flow.answerRoom(null);
@@ -154,7 +154,7 @@ class Making {
     }
 }
 
-/** items: those that are wanted, each with its number in the batch; more may join. */
+/** items: the wanted ones, each with its number in the batch; more may join. */
 export function* makeByWorkers(batch, items, services, flow) {
     const making = new Making(batch, items, services);
     batch.arrived.connect(guard("run.arrived", () => flow.wake()));
@@ -171,7 +171,7 @@ export function* makeByWorkers(batch, items, services, flow) {
             } else if (making.hasNext() && !flow.holds() && batch.room > 0) {
                 yield* making.handOver();
             } else if (!making.isOver(flow)) {
-                yield null; // held, or everything is with the workers
+                yield null; // paused, or the workers have everything
             }
         }
     } finally {

@@ -1,5 +1,5 @@
-// What a run of a recipe would write: for every picture one or more outputs, each with its name, its size and what it replaces. Names are
-// planned by the program as for its command line, so that both make the same files.
+// What a run of a recipe would write: for every picture one or more outputs, each with its name, its size and what it
+// replaces. The program plans names as its command line does, so that both make the same files.
 
 import { RecipeBatch } from "quorlin/recipes";
 import { splitPath } from "../../lib/names.js";
@@ -7,7 +7,7 @@ import { fill, pixels, statusKind, statusText } from "../../lib/wording.js";
 import { LivePlan } from "../live-plan.js";
 import { vanishedInWords } from "./recipe-making.js";
 
-// Of several outputs the first of these is what is said of all.
+// Of several outputs the first of these statuses applies to the whole picture.
 const ORDER = ["ready", "Failed", "Not Supported", "Skipped"];
 
 /** A batch of the recipe in the settings over pictures of the list. */
@@ -20,7 +20,7 @@ function isReady(output) {
     return output.status === "ready";
 }
 
-// The reasons that are given, each once.
+// The distinct reasons.
 function reasonsOf(outputs) {
     return outputs.map((output) => output.reason).filter((reason, i, all) => reason !== "" && all.indexOf(reason) === i)
         .join(" · ");
@@ -41,7 +41,7 @@ export function itemOf(photo, outputs) {
              replacesOriginal: outputs.some((output) => output.replacesOriginal) };
 }
 
-// What cannot be read at all is said as everywhere in the list.
+// Unreadable pictures are described as everywhere in the list.
 function inWords(photo, outputs) {
     return photo.width > 0 && photo.height > 0
         ? outputs
@@ -49,7 +49,10 @@ function inWords(photo, outputs) {
             ? Object.assign({}, output, { reason: qsTr("not a readable picture") }) : output));
 }
 
-/** A generator that plans pictures of a batch, one after the other: see itemOf(); first: what number the first of them is there. */
+/**
+ * A generator that plans pictures of a batch, one after the other: see itemOf(); first: the number of the first of them
+ * there.
+ */
 export function* planOfBatch(window, batch, ids, first) {
     const problem = batch.problem();
     for (let i = 0; i < ids.length; i += 1) {
@@ -84,7 +87,7 @@ export function itemAgain(batch, item, photo, outputs) {
     return Object.assign({}, item, { photo: photo, outputs: now, status: isReadyNow ? "ready" : "done" });
 }
 
-/** "a.jpg, a-small.jpg"; a dash where there is none. */
+/** "a.jpg, a-small.jpg"; a dash if there is none. */
 export function namesOf(outputs) {
     return outputs.filter((output) => output.path !== "").map((output) => splitPath(output.path).name).join(", ") ||
            "–";
@@ -128,12 +131,12 @@ export class RecipePlan extends LivePlan {
     }
 
     work(ids, settings) {
-        // The engine loses a generator that is returned by the call that makes it.
+        // The engine loses a generator that is returned by the call that creates it.
         const planning = recipePlan(this.window, ids, settings);
         return planning;
     }
 
-    // What was planned with another recipe does not hold.
+    // What was planned with another recipe is no longer valid.
     refused() {
         this.ids.filter((id) => !this.isFinal(id)).forEach((id) => {
             this.window.pictures.setPlan(id, "–", "–");

@@ -1,5 +1,5 @@
-// A run of a recipe: plan, carry out or only show, and what came of it. Each picture is decoded once and makes all its outputs; each
-// output has its line in the log.
+// A run of a recipe: plan, carry out or only show, and the outcome. Each picture is decoded once and makes all its
+// outputs; each output has its line in the log.
 
 import { files } from "quorlin/files";
 import { guard } from "../../lib/guard.js";
@@ -15,7 +15,7 @@ import { makeByWorkers } from "./recipe-making.js";
 import { batchOf, countItem, itemAgain, namesOf, planOfBatch, recipePlan, showRecipeItem,
          sizesOf } from "./recipe-plan.js";
 
-// Of several outputs the first of these is what is said of all.
+// Of several outputs the first of these statuses applies to the whole picture.
 const ORDER = ["Failed", "Not Supported", "OK", "Skipped"];
 
 function finalOf(photo, output) {
@@ -33,11 +33,11 @@ function joined(lists) {
 export class RecipeRun extends WriteRun {
     reset(ids) {
         super.reset(ids);
-        this.finals = []; // of each picture the results of its outputs
+        this.finals = []; // the results of each picture's outputs
         this.batch = null;
     }
 
-    /** Whether pictures may join, and the next start goes on where this process ends before the run. */
+    /** Whether pictures may join, and whether the next start continues if this process ends before the run. */
     canGrow() {
         return true;
     }
@@ -50,7 +50,7 @@ export class RecipeRun extends WriteRun {
         return joined(this.finals).filter((final) => final.status === "OK").map((final) => final.path);
     }
 
-    // All are planned, so that names and numbers are those of the whole list; those that are wanted are made.
+    // All are planned, so that names and numbers are those of the whole list; the wanted ones are made.
     begin(wanted) {
         const all = this.window.pictures.tickedIds();
         const isWanted = emptyTable();
@@ -103,7 +103,7 @@ export class RecipeRun extends WriteRun {
         return this.batch.paths;
     }
 
-    /** Goes on with a run that was interrupted; done: the results that are there, see doneResults(). */
+    /** Continues an interrupted run; done: the existing results, see doneResults(). */
     continueRun(record, done, path) {
         const rows = rowsByPath(this.window.pictures);
         this.startPlanning(record.items.map((item) => rows[item.of] || 0));
@@ -115,7 +115,7 @@ export class RecipeRun extends WriteRun {
         this.changed();
     }
 
-    // As it was planned, whatever the list holds now.
+    // As it was planned, whatever the list contains now.
     * planRest(record, done) {
         const batch = batchOf(this.planned(this.settings), record.paths);
         const problem = batch.problem();
@@ -128,7 +128,7 @@ export class RecipeRun extends WriteRun {
         return { batch: batch, problem: problem };
     }
 
-    // Where it does not go on it is asked about again.
+    // If it does not continue, the user is asked about it again.
     restPlanned(how, value) {
         if (how !== "done" || value.problem !== "") {
             this.finish(how === "done" ? value.problem : this.nothingText());
@@ -154,7 +154,7 @@ export class RecipeRun extends WriteRun {
         return mayJoin ? items : null;
     }
 
-    // A picture whose turn never came has no outputs.
+    // A picture that was never started has no outputs.
     takeResult(index, result) {
         const item = this.items[index];
         const outputs = result.outputs ||

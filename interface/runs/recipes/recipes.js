@@ -1,4 +1,5 @@
-// The manner of actions that carry out a recipe: several operations and outputs, whose names and folders the recipe says.
+// The manner of actions that carry out a recipe: several operations and outputs, with names and folders given by the
+// recipe.
 
 import { fill } from "../../lib/wording.js";
 import { RecipePlan } from "./recipe-plan.js";

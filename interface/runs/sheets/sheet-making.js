@@ -1,6 +1,6 @@
-// Makes the file of a plan: workers make the pictures ready, the pages are put together beside the place of the file, and then it takes
-// that place. A generator that yields {index, result} for each picture, and null while it waits; it returns {status, reason, name, path,
-// folder, bytes}. Stopping it leaves nothing behind.
+// Makes the file of a plan: workers prepare the pictures, the pages are assembled beside the destination, and then the
+// file is moved there. A generator that yields {index, result} for each picture, and null while it waits; it returns
+// {status, reason, name, path, folder, bytes}. Stopping it leaves nothing behind.
 // Services used: files (makeFolder, makeStaging, place ...), replacing, recipes (noteResult).
 
 import { guard } from "../../lib/guard.js";
@@ -8,10 +8,10 @@ import { joinPath } from "../../lib/names.js";
 import { failed, placeResult, Workshop } from "../making/job.js";
 
 /**
- * Carries out work of "quorlin/pages" into a new file: yields as above, and returns what it said last.
+ * Carries out work of "quorlin/pages" into a new file: yields as above, and returns its last message.
  *
  * @param order  which pages, see PageWork
- * @param wake   called when something has come
+ * @param wake   called when something has arrived
  */
 export function* makePages(work, target, order, wake) {
     work.arrived.connect(guard("pages.arrived", wake));
@@ -30,7 +30,7 @@ export function* makePages(work, target, order, wake) {
     }
 }
 
-/** @param item  of the plan; @param rule  what happens where its name has been taken since */
+/** @param item  of the plan; @param rule  what happens if its name has been taken meanwhile */
 export function* makeSheet(work, item, rule, services, wake) {
     const workshop = new Workshop(services.files);
     try {

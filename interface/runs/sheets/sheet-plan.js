@@ -1,4 +1,4 @@
-// What a run over pages would write: one file, with how many pages, and which pictures stand on them.
+// What a run over pages would write: one file, with how many pages, and which pictures are on them.
 
 import { statusKind, statusText } from "../../lib/wording.js";
 import { photosOf } from "../list-rows.js";
@@ -7,7 +7,10 @@ import { planRun } from "../plan.js";
 
 const ROWS_A_SLICE = 100;
 
-/** The settings with a rule for a taken name that goes for a file of many pictures: nobody knows whether such a file is up to date. */
+/**
+ * The settings with a rule for taken names that suits a file made of many pictures: nobody can tell whether such a file
+ * is up to date.
+ */
 export function forOneFile(settings) {
     const rule = settings.output.ifTaken === "current" ? "number" : settings.output.ifTaken;
     return Object.assign({}, settings, { output: Object.assign({}, settings.output, { ifTaken: rule }) });
@@ -15,7 +18,7 @@ export function forOneFile(settings) {
 
 /**
  * A generator that plans the file of all pictures with these ids. It yields how far it is, and returns {item, paths, pages, cancelled}; the
- * item is that of planRun(), by the first picture, or null where there is none.
+ * item is that of planRun() for the first picture, or null if there is none.
  */
 export function* sheetPlan(window, ids, settings, services) {
     const paths = window.pictures.tickedPaths();

@@ -1,4 +1,4 @@
-// A run that lays all pictures of the list on pages: one file, and a line in the log for each picture on it.
+// A run that puts all pictures of the list on pages: one file, and a line in the log for each picture on it.
 
 import { files } from "quorlin/files";
 import { guard } from "../../lib/guard.js";
@@ -109,7 +109,7 @@ export class SheetRun extends BaseRun {
         this.endWith(this.ending());
     }
 
-    // Pictures that were ready are on no page where there is no file.
+    // Finished pictures are on no page if there is no file.
     resultOf(index) {
         const own = this.results[index];
         const { made } = this;
@@ -147,7 +147,7 @@ export class SheetRun extends BaseRun {
         return this.summaryText() + (problem ? " · " + problem : "");
     }
 
-    // The rows of the log belong to the run that can be undone, where there is one.
+    // The rows of the log belong to the run that can be undone, if there is one.
     endReplacing() {
         const { run } = this.replacing;
         const problem = this.replacing.end();

@@ -1,4 +1,4 @@
-// The manner of actions that lay all pictures of the list on pages, as one file.
+// The manner of actions that put all pictures of the list on pages, as one file.
 
 import { fill } from "../../lib/wording.js";
 import { SheetPlan } from "./sheet-plan.js";

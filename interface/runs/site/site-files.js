@@ -1,10 +1,10 @@
-// What a batch made for a page, as the page wants it. Pure; no service is used.
+// The results of a batch in the form that the page needs. Pure; no service is used.
 
 /**
- * The pictures of a page: {path: of the input, index, files: [{path: below the folder, width, height}], smallest first}; those of which
- * nothing could be made are left out.
+ * The pictures of a page: {path: of the input, index, files: [{path: below the folder, width, height}], smallest
+ * first}; those without results are left out.
  *
- * @param made    of each picture its outputs, or undefined; see RecipeBatch.take()
+ * @param made    the outputs of each picture, or undefined; see RecipeBatch.take()
  * @param folder  of the unfinished page
  */
 export function picturesOf(items, made, folder) {
@@ -17,7 +17,7 @@ export function picturesOf(items, made, folder) {
     })).filter((picture) => picture.files.length > 0);
 }
 
-/** The paths of outputs as they are once the folder is in its place. */
+/** The paths of outputs once the folder is at its destination. */
 export function movedTo(outputs, from, to) {
     return outputs.map((output) => (output.path.startsWith(from + "/")
         ? Object.assign({}, output, { path: to + output.path.slice(from.length) }) : output));

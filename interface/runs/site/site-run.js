@@ -1,6 +1,7 @@
-// A run that makes a page: its pictures by workers in an unfinished folder, then the page, and then the folder takes its place. Before that
-// no picture is done; where the page cannot be written, none is. The action says with `site` how the page is made: folder(services, place),
-// finish(folder, pictures, settings, services, language), page: the name of its file.
+// A run that makes a page: workers make its pictures in an unfinished folder, then the page is written, and then the
+// folder is moved to its destination. Before that no picture counts as done; if the page cannot be written, none does.
+// The `site` of the action says how the page is made: folder(services, place), finish(folder, pictures, settings,
+// services, language), page: the name of its file.
 
 import { defaults } from "quorlin/defaults";
 import { files } from "quorlin/files";
@@ -18,18 +19,18 @@ export class SiteRun extends RecipeRun {
     reset(ids) {
         super.reset(ids);
         this.folder = null;
-        this.made = []; // of each picture what the batch says, until the page is there
+        this.made = []; // what the batch says about each picture, until the page exists
         this.isSettled = true;
         this.pagePath = "";
         this.page = { status: "OK", reason: "" };
     }
 
-    // A page is planned as a whole, and its folder takes its place at the end.
+    // A page is planned as a whole, and its folder is moved into place at the end.
     canGrow() {
         return false;
     }
 
-    // What is unfinished is gone at the next start, and with it all that was made.
+    // The next start removes the unfinished folder, and with it everything made so far.
     * recorded(services) {
         yield* this.makeAll(services);
     }
@@ -38,7 +39,7 @@ export class SiteRun extends RecipeRun {
         return this.pagePath === "" ? [] : [this.pagePath];
     }
 
-    // What failed comes onto the page only with all the others.
+    // Failed pictures can only be added to the page together with all the others.
     failedIds() {
         return [];
     }
@@ -71,7 +72,7 @@ export class SiteRun extends RecipeRun {
         this.isSettled = this.folder === null;
     }
 
-    // The recipe that the settings stand for; names are those of a new folder.
+    // The recipe that the settings imply; names are those of a new folder.
     planned(settings) {
         const step = this.window.action.step;
         const below = this.folder === null ? "new" : this.folder.pictures;
@@ -136,7 +137,7 @@ export class SiteRun extends RecipeRun {
         return ended;
     }
 
-    // Now it is known what became of each.
+    // Now the outcome of each is known.
     * settle(page, isCancelled) {
         this.isSettled = true;
         this.pagePath = page.path;

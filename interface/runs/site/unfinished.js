@@ -1,5 +1,5 @@
-// The folders in which pages are being made, kept so that a start after a crash removes what is unfinished there. The defaults and the
-// files are handed in.
+// The folders in which pages are being made, recorded so that a start after a crash removes them. The defaults and the
+// files are passed in.
 
 import { keep, recall } from "../../lib/store.js";
 
@@ -17,7 +17,7 @@ export function forgetUnfinished(defaults, folder) {
     keep(defaults, KEY, { folders: noted(defaults).filter((each) => each !== folder) });
 }
 
-/** Removes what processes that have ended left; what another one is still at stays, as in every sweep. */
+/** Removes what ended processes left; folders of running processes stay, as in every sweep. */
 export function removeUnfinished(defaults, files) {
     const folders = noted(defaults);
     folders.forEach((folder) => files.sweep(folder));

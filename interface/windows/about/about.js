@@ -1,4 +1,4 @@
-// The About sheet: what the program is, and what it stands on.
+// The About sheet: what the program is, and which libraries it is built with.
 
 import { program } from "quorlin/program";
 import { recipes } from "quorlin/recipes";
@@ -11,7 +11,7 @@ function row(library) {
     return "<tr>" + cells.map((text) => "<td style=\"padding-right: 24px\">" + text + "</td>").join("") + "</tr>";
 }
 
-// Pictures come from anywhere, and what reads them may have faults.
+// Pictures come from anywhere, and their decoders may have bugs.
 function guardText(active) {
     if (active.callRules === undefined) {
         return qsTr("No process that reads pictures is running.");
@@ -25,7 +25,7 @@ function guardText(active) {
 }
 
 export class About {
-    /** @param host  the main window, as sheets know it */
+    /** @param host  the main window, in the form that sheets need */
     constructor(host) {
         this.host = host;
         this.form = shell.loadForm("windows/about/about.ui");
@@ -35,7 +35,7 @@ export class About {
         this.form.control("aboutClose").clicked.connect(guard("about", () => this.form.close()));
     }
 
-    // What a report of a fault needs.
+    // What a bug report needs.
     copy() {
         const versions = program.libraries.map((library) => library.name + " " + library.version);
         const lines = ["Quorlin " + program.version].concat(versions, [this.form.control("aboutGuard").text]);

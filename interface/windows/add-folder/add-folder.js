@@ -1,10 +1,10 @@
-// The panel for folders, with the choice of what of them is added.
+// The panel for folders, with the choice of which files are added.
 
 import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";
 
 const MEGABYTE = 1000000;
-// What a filter that leaves nothing out says.
+// A filter that leaves nothing out.
 const ALL = { types: [], name: "", least: 0, most: 0, from: "", to: "" };
 const FIELDS = ["addTypes", "addName"];
 
@@ -28,7 +28,7 @@ export class AddFolder {
         control("addTo").enabled = control("addDated").checked;
     }
 
-    // A filter of another day would leave out what nobody thinks of any more.
+    // A filter of an earlier day would leave out files when the user has long forgotten it.
     reset(today) {
         const control = (name) => this.form.control(name);
         control("addSubfolders").checked = true;
@@ -41,7 +41,7 @@ export class AddFolder {
     }
 
     /**
-     * Asks for a folder: {folder, rule}, or null. The rule is that of filtered(); null where all of the folder is added.
+     * Asks for a folder: {folder, rule}, or null. The rule is that of filtered(); null if the whole folder is added.
      */
     choose(title, start) {
         this.reset(isoDay(new Date()));

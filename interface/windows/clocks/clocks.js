@@ -1,4 +1,4 @@
-// Sets the clocks of cameras right: the order of the list, new names and folders follow, and no file is changed.
+// Sets the clocks of cameras: the order of the list, new names and folders follow, and no file is changed.
 
 import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";
@@ -62,7 +62,7 @@ export class Clocks {
         const found = this.cameras.find((each) => each.camera === camera);
         const seconds = found === undefined ? 0 : Math.abs(found.shift);
         const control = (name) => this.form.control(name);
-        this.chosen = null; // what is shown now is not taken
+        this.chosen = null; // what is shown now is not accepted
         this.form.chooseValue("clockCamera", camera);
         this.form.chooseValue("clockDirection", found !== undefined && found.shift < 0 ? -1 : 1);
         control("clockHours").value = Math.floor(seconds / HOUR);

@@ -3,7 +3,7 @@
 import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";
 
-// Name of the button: the operation that shows its text.
+// Names of buttons and the operations that show their texts.
 export const INFO_BUTTONS = {
     infoSimulation: (sheets) => sheets.mySimulationMode(null),
     infoMoveSimulation: (sheets) => sheets.mySimulationMode(null),
@@ -24,7 +24,7 @@ export class Info {
         this.form.control("infoClose").clicked.connect(guard("info", () => sheets.closeApplicationInfoSheetObjC(null)));
     }
 
-    /** Shows what belongs to an info button. */
+    /** Shows the text of an info button. */
     open(button) {
         // The service replaces only as much of the old text as the title is long.
         this.form.control("infoDescription").plainText = "";

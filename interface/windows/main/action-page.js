@@ -1,5 +1,5 @@
-// The action that is shown: its settings, its pane, and the output block under it. Panes are made when they are first shown;
-// each action keeps settings of its own.
+// The action that is shown: its settings, its pane, and the output block under it. Panes are created when first shown;
+// each action has settings of its own.
 
 import { defaults } from "quorlin/defaults";
 import { shell } from "quorlin/shell";
@@ -65,7 +65,7 @@ export class ActionPage {
         keep(defaults, SHOWN, { name: action.name });
     }
 
-    // What of the window the action uses.
+    // Which parts of the window the action uses.
     showParts(page) {
         const window = this.window;
         const action = page.action;
@@ -86,7 +86,7 @@ export class ActionPage {
         if (action.presets !== undefined) {
             this.presets.use(action.name, action.title(), page.pane);
         }
-        // Where pictures are looked at one by one, keys belong to what is done with them.
+        // While pictures are viewed one by one, keys belong to what is done with them.
         window.pictures.keysRate = manner.columns.length > 0;
         if (manner.columns.length > 0) {
             const own = action.headings === undefined ? {} : action.headings();
@@ -96,12 +96,12 @@ export class ActionPage {
         this.showInput();
     }
 
-    /** Called after a change of what the rows of the list are. */
+    /** Called when rows of the list change their kind. */
     showInput() {
         const action = this.window.action;
         const kind = action.lists(this.window.settings);
         const taken = kind === "pictures" ? action.takes : ["*"];
-        // The whole list is looked through: not at every key that is typed.
+        // The whole list is searched: not at every typed key.
         const now = JSON.stringify([kind, taken]);
         if (now !== this.input) {
             this.input = now;
@@ -128,7 +128,7 @@ export class ActionPage {
         }
     }
 
-    /** Shows other settings of the action; they are worked on from now on. */
+    /** Shows other settings of the action, which are used from now on. */
     take(settings) {
         const window = this.window;
         window.pane.take(settings);
@@ -136,7 +136,7 @@ export class ActionPage {
         this.changed();
     }
 
-    /** Opens the file of a recipe in its action; nothing is run. */
+    /** Opens a recipe file in its action; nothing is run. */
     openRecipe(path) {
         this.window.chooseAction("recipe");
         this.window.form.control("sideBar").currentAction = "recipe";
@@ -150,7 +150,7 @@ export class ActionPage {
         this.window.say(qsTr("Added. The recipe is not saved yet."));
     }
 
-    /** Called when files that a pane offers may have changed. */
+    /** Called when files offered by a pane may have changed. */
     filesChanged() {
         const before = JSON.stringify(this.window.settings);
         Object.keys(this.made).filter((name) => this.made[name].pane !== null)
@@ -203,7 +203,7 @@ export function fillSideBar(window, chosen) {
     bar.actionChosen.connect(guard("sidebar", chosen));
 }
 
-/** While a run is under way only its own action and pages that do not use the list can be shown. */
+/** During a run only its own action and pages that do not use the list can be shown. */
 export function lockSideBar(window, locked) {
     const bar = window.form.control("sideBar");
     const mayShow = (action) => !locked || !action.usesList || action.name === window.action.name;

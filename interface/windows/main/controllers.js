@@ -1,8 +1,9 @@
-// The services that stand for the window and its views: mainWindowClass, mainViewController, myMainPhotoView, my2ndPhotoView.
+// The services that represent the window and its views: mainWindowClass, mainViewController, myMainPhotoView,
+// my2ndPhotoView.
 
 import { mainViewController, mainWindowClass, my2ndPhotoView, myMainPhotoView } from "quorlin";
 
-/** What a window and its views are told when they come out of their form; they are kept as long as the window. */
+/** What a window and its views receive when they are created from their form; kept as long as the window. */
 export class Controllers {
     constructor(form) {
         this.window = new mainWindowClass();

@@ -1,9 +1,9 @@
-// Says once, at start, that the window before ended by a fault, and gives away what it left for whoever mends it.
+// Says once, at start, that the previous window crashed, and offers its report.
 
 import { program } from "quorlin/program";
 import { shell } from "quorlin/shell";
 
-/** Asks nothing where the window before was closed. */
+/** Asks nothing if the previous window was closed normally. */
 export function tellCrash() {
     const report = program.crashReport();
     if (report === "") {

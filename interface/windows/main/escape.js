@@ -1,4 +1,4 @@
-// What the key Esc does: it closes what was opened last, of all that is open just now.
+// What the Esc key does: of everything that is open, it closes what was opened last.
 
 import { shell } from "quorlin/shell";
 
@@ -12,7 +12,7 @@ export class Escape {
                       close: () => window.showAllRows() },
             fullScreen: { isOpen: () => shell.fullScreen, close: () => shell.toggleFullScreen() },
         };
-        this.open = []; // the latest at the end
+        this.open = []; // the latest last
     }
 
     /** Called when something may have been opened or closed; returns whether there is something to close. */

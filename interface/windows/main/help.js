@@ -1,4 +1,4 @@
-// What the main window says about itself: the Help menu, the info buttons of the panes, and new versions.
+// What the main window says about the program: the Help menu, the info buttons of the panes, and new versions.
 
 import { cSheetControl } from "quorlin";
 import { defaults } from "quorlin/defaults";
@@ -14,7 +14,7 @@ import { NewVersion } from "../new-version/new-version.js";
 
 const AFTER_START_MS = 1500;
 
-// The faces of an action share a page.
+// The views of an action share a page.
 function pageOf(action) {
     return action.within || action.name;
 }
@@ -28,7 +28,7 @@ export class Help {
         this.sheets = new cSheetControl();
         this.sheets.wwMainWindow = this.host;
         this.parts = {};
-        this.found = null; // what a look came to that nobody was told of yet
+        this.found = null; // the outcome of a check that nobody has been told yet
         this.asked = false;
         this.join(window.form);
         const handlers = { about: () => this.about(), update: () => this.check(true), manual: () => this.manual() };
@@ -60,7 +60,7 @@ export class Help {
         }
     }
 
-    /** Joins the info buttons of a pane. */
+    /** Connects the info buttons of a pane. */
     join(form) {
         form.names().filter((name) => INFO_BUTTONS[name] !== undefined).forEach((name) => {
             form.control(name).clicked.connect(guard("info",
@@ -68,7 +68,9 @@ export class Help {
         });
     }
 
-    /** Looks for a new version; only who asked is told that there is none, or that nobody answers. */
+    /**
+     * Checks for a new version; only a user who asked is told that there is none, or that the server does not answer.
+     */
     check(asked) {
         this.asked = this.asked || asked;
         if (asked) {
@@ -80,7 +82,7 @@ export class Help {
         }));
     }
 
-    /** Tells what the look came to; after the run where there is one. */
+    /** Reports the outcome of the check; after the run if there is one. */
     tell() {
         const found = this.found;
         if (found === null || (this.window.run !== null && this.window.run.isBusy())) {

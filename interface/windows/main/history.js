@@ -1,5 +1,5 @@
-// What was done since the start and can be undone, the latest first: edits of the list, and runs that moved files. A run of an
-// earlier start is undone too, but only after a question.
+// What was done since the start and can be undone, newest first: edits of the list, and runs that moved files. A run of
+// an earlier session can be undone too, but only after a question.
 // Services used: moves (runs, undoable), files (dateText), shell (ask).
 
 import { files } from "quorlin/files";
@@ -33,7 +33,7 @@ function newestRun() {
     return run === undefined || run.state === "open" || run.done === 0 ? null : run;
 }
 
-// Nothing is undone without a question that was done when nobody may remember it.
+// Anything old enough to have been forgotten is undone only after a question.
 function mayUndoEarlier(run) {
     const answer = shell.ask({
         title: qsTr("Undo an earlier run"),
@@ -55,10 +55,10 @@ export class History {
         this.lookForEarlier();
     }
 
-    /** What there is now was made before. */
+    /** What exists now was made before. */
     lookForEarlier() {
         this.newest = newestRun();
-        // The newest run of an earlier start, while it can be undone.
+        // The newest run of an earlier session, while it can be undone.
         this.earlier = this.newest;
         this.forgetEarlier();
     }
@@ -76,7 +76,7 @@ export class History {
         }
     }
 
-    /** Ratings were written into so many files. Once they are taken out, the command writes them again. */
+    /** Ratings were written into so many files. Once removed, the command writes them again. */
     wroteRatings(run, count) {
         this.keep({ kind: "ratings", count: count, title: "", id: run });
     }
@@ -88,7 +88,7 @@ export class History {
         this.show();
     }
 
-    /** Called after whatever may have moved files: a run, or the undo of one. */
+    /** Called after anything that may have moved files: a run, or the undo of one. */
     lookForRun() {
         const run = newestRun();
         if (run !== null && (this.newest === null || run.id !== this.newest.id)) {
@@ -106,7 +106,7 @@ export class History {
         this.show();
     }
 
-    // A run that was interrupted was gone on with.
+    // An interrupted run was continued.
     grown(run) {
         this.newest = run;
         const step = this.done.find((each) => each.id === run.id);
@@ -118,7 +118,7 @@ export class History {
         }
     }
 
-    // A run took another one back: that goes to the other side, under the name of what takes it back in turn.
+    // A run undid another one: that moves to the other stack, under the name of the run that undoes it in turn.
     turned(run) {
         const take = (steps) => {
             const at = steps.findIndex((step) => step.id === run.undoes);
@@ -132,7 +132,7 @@ export class History {
         }
     }
 
-    /** A run of an earlier start is undone as if it were of this one: nobody is asked. */
+    /** A run of an earlier session is undone as if it were of this one: without a question. */
     adopt(id) {
         const run = moves.runs().find((each) => each.id === id);
         this.own.push(id);
@@ -142,7 +142,7 @@ export class History {
         this.show();
     }
 
-    /** It is one of an earlier start again. */
+    /** It belongs to an earlier session again. */
     disown(id) {
         const others = (steps) => steps.filter((step) => step.kind !== "run" || step.id !== id);
         this.own = this.own.filter((each) => each !== id);
@@ -162,7 +162,7 @@ export class History {
         return !this.window.run.isBusy() && (page === null || page.hasUndo !== true);
     }
 
-    // The last of the steps. One whose files went elsewhere since stands in nobody's way.
+    // The last of the steps. One whose files have moved elsewhere since does not block the others.
     lastOf(steps) {
         while (steps.length > 0) {
             const step = steps[steps.length - 1];
@@ -174,7 +174,7 @@ export class History {
         return null;
     }
 
-    /** Shows in the menu what can be undone and done again. */
+    /** Shows in the menu what can be undone and redone. */
     show() {
         const open = this.isOpen();
         const undo = open ? this.lastOf(this.done) || (this.earlier === null ? null : stepOf(this.earlier)) : null;
@@ -216,7 +216,7 @@ export class History {
         this.show();
     }
 
-    /** Takes a run back, or does again what it took back: under the action that made it, where that is there. */
+    /** Undoes a run, or redoes what it undid: under the action that made it, if that exists. */
     takeBack(id) {
         const run = moves.runs().find((each) => each.id === id);
         if (run === undefined || (!this.isOwn(id) && !mayUndoEarlier(run))) {

@@ -1,4 +1,4 @@
-// Adding pictures to the list: panels, drops, paste, recent folders; and saying what was left out.
+// Adding pictures to the list: panels, drops, paste, recent folders; and a message about what was left out.
 
 import { defaults } from "quorlin/defaults";
 import { files } from "quorlin/files";
@@ -48,7 +48,7 @@ function convertTakes(path) {
     return convert.takes.indexOf(splitPath(path).extension.toLowerCase()) >= 0;
 }
 
-// Folders are the items themselves: files among what was dropped are left out.
+// The items are folders: files among what was dropped are left out.
 function foldersAmong(paths) {
     const isFolder = (path) => files.info(path).isFolder;
     const others = paths.filter((path) => !isFolder(path));
@@ -63,7 +63,7 @@ export class Input {
         this.window = window;
         this.recentFolders = new Recent(window, "recentMenu", KEY, (folder) => this.addPaths([folder]));
         this.recent = this.recentFolders.paths;
-        // Whoever has added something needs no samples any more.
+        // A user who has added something no longer needs the samples.
         this.hasAdded = this.recent.length > 0 || recall(defaults, HAS_ADDED, { on: false }).on;
         this.hidden = null;
         this.convertible = false;
@@ -76,13 +76,13 @@ export class Input {
         this.window.pictures.countChanged.connect(guard("input.count", () => { this.hidden = null; }));
     }
 
-    // Do files that belong to a picture move with it?
+    // Whether files that belong to a picture move with it.
     takesAlong() {
         const action = this.window.action;
         return action.takesAlong !== undefined && action.takesAlong(this.window.settings);
     }
 
-    // Rows of the list that the action leaves out. Looked through when the list changes, not at every step of a run.
+    // Rows of the list that the action leaves out. Computed when the list changes, not at every step of a run.
     hiddenCount() {
         const along = this.takesAlong();
         if (this.hidden === null || this.hidden.along !== along) {
@@ -111,7 +111,7 @@ export class Input {
         return wordsFor(this.window.action.lists(this.window.settings));
     }
 
-    /** Says what can be added now. */
+    /** Shows what can be added now. */
     showWords() {
         const words = this.words();
         const control = (name) => this.window.form.control(name);
@@ -136,7 +136,7 @@ export class Input {
         this.recentFolders.add(folder);
     }
 
-    // Pictures that only another action takes come into the list too, hidden until that action is chosen.
+    // Pictures that only another action accepts are added too, hidden until that action is chosen.
     addFound(found, paths) {
         const list = this.window.pictures;
         const before = list.count;
@@ -158,7 +158,7 @@ export class Input {
         }
     }
 
-    // What belongs to a picture of the list was not left out.
+    // Files that belong to a picture of the list do not count as left out.
     withoutCompanions(found) {
         const going = this.takesAlong() ? goingAlong(found.companions, this.window.pictures.paths()) : [];
         const left = found.companions.find((path, i) => path !== going[i]);
@@ -166,7 +166,7 @@ export class Input {
                                           example: found.example || (left === undefined ? "" : splitPath(left).name) });
     }
 
-    /** The outermost of the added folders that a file lies in; "" for none. */
+    /** The outermost added folder that contains a file; "" for none. */
     rootOf(path) {
         const around = this.roots.filter((root) => path.startsWith(root.endsWith("/") ? root : root + "/"));
         return around.reduce((outer, root) => (outer === "" || root.length < outer.length ? root : outer), "");
@@ -180,10 +180,10 @@ export class Input {
         this.roots = this.roots.concat(folders.filter((folder) => this.roots.indexOf(folder) < 0));
     }
 
-    /** Files and folders, as they were dropped, pasted or named at start-up. Of recipes the first is opened, and nothing is run;
-     *  presets are imported. */
+    /** Files and folders that were dropped, pasted or named at start-up. The first recipe is opened, and nothing is
+     * run; presets are imported. */
     addPaths(paths) {
-        // The settings of a run that is under way stay as they are.
+        // The settings of a running run stay as they are.
         const named = this.window.isBusy() ? [] : recipesAmong(paths);
         const problem = named.length === 0 ? "" : this.window.actionPage.openRecipe(files.absolute(named[0]));
         const takes = this.takes() || ["*"]; // folders are of no kind
@@ -257,7 +257,7 @@ export class Input {
         }
     }
 
-    // Dates are read from the pictures, which takes a while where they are many.
+    // Dates are read from the pictures, which takes a while if there are many.
     addSome(folder, rule) {
         const found = this.collected([folder]);
         const work = filtered(found, folder, rule, { files: files, facts: this.window.services.facts });
@@ -270,7 +270,7 @@ export class Input {
         }));
     }
 
-    /** Pictures to try things with, as files of the user's. */
+    /** Sample pictures, copied to files of the user's. */
     addSamples() {
         const folder = program.copySamples();
         if (folder === "") {

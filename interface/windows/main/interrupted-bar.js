@@ -1,5 +1,5 @@
-// The bar that says at start what a crash or a power cut interrupted, one run after the other, and what can be done about it. Their lists
-// come back with it.
+// The bar that says at start what a crash or a power cut interrupted, one run at a time, and what can be done about it.
+// The lists of the runs are restored.
 
 import { defaults } from "quorlin/defaults";
 import { files } from "quorlin/files";
@@ -16,7 +16,7 @@ import { doneResults } from "../../runs/making/run-record.js";
 import { recoveredWords } from "../../runs/recovered.js";
 import { removeUnfinished } from "../../runs/site/unfinished.js";
 
-// Runs that moved files have been ended by then: whoever does not answer is asked again.
+// Runs that moved files have been completed by then: a user who does not answer is asked again.
 const ASKED = "InterruptedRuns";
 const ROWS_AT_ONCE = 50;
 
@@ -25,7 +25,7 @@ export class InterruptedBar {
     constructor(window) {
         this.window = window;
         this.waiting = [];
-        this.jobs = []; // that write what is left into the log
+        this.jobs = []; // that log the remaining pictures
         const join = (name, answer) =>
             window.form.control(name).clicked.connect(guard(name, () => answer.call(this, this.waiting[0])));
         join("interruptedGo", this.go);
@@ -34,7 +34,7 @@ export class InterruptedBar {
         this.show();
     }
 
-    /** Once, at start: ends what was in the middle, brings the lists back and asks. */
+    /** Once, at start: completes interrupted steps, restores the lists and asks. */
     look() {
         removeUnfinished(defaults, files);
         const recovered = moves.recover();
@@ -52,7 +52,7 @@ export class InterruptedBar {
         }
     }
 
-    // What asks nothing is said; what could not be put right has to be read.
+    // What asks nothing is announced briefly; what could not be repaired has to be read.
     tellEnded(recovered) {
         const isAsked = (run) => this.waiting.some((work) => work.id === run.id || work.title === run.title);
         const all = recoveredWords(recovered);
@@ -65,7 +65,7 @@ export class InterruptedBar {
         }
     }
 
-    // While the bar is shown these are undone as if they were of this start: nobody is asked.
+    // While the bar is shown these are undone as if they were of this session: without a question.
     own(recovered, written) {
         const replaced = written.map((work) => work.record.replacing).filter((id) => id !== "");
         recovered.filter((run) => written.some((work) => work.title === run.title)).map((run) => run.id)
@@ -113,7 +113,7 @@ export class InterruptedBar {
         this.forget(work);
     }
 
-    // What was done is in the log, as that of every run is.
+    // What was done is logged, as for every run.
     leavePictures(work) {
         const job = shell.job();
         const rows = this.logging(work);
@@ -138,7 +138,7 @@ export class InterruptedBar {
         keepRows(files, rows);
     }
 
-    /** A run was undone some other way. */
+    /** A run was undone in some other way. */
     undone(id) {
         this.waiting.filter((work) => work.id === id && id !== "").forEach((work) => this.forget(work));
     }

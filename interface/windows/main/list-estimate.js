@@ -1,4 +1,4 @@
-// About how large all results of a run will be together: a few of them are made by workers and nothing is written.
+// The approximate size of all results of a run: workers make a few of them and nothing is written.
 
 import { shell } from "quorlin/shell";
 import { files } from "quorlin/files";
@@ -22,7 +22,7 @@ export class ListEstimate {
         this.service.measured.connect(guard("estimate.measured", (number, bytes) => this.take(number, bytes)));
     }
 
-    /** What is known is not so any more: sizes are those of results that a plan promises, [{id, pixels, bytes (of the source)}]. */
+    /** What is known is out of date: sizes are those of the planned results, [{id, pixels, bytes (of the source)}]. */
     begin(sizes) {
         this.forget();
         this.sizes = sizes;
@@ -38,7 +38,7 @@ export class ListEstimate {
         this.text = "";
     }
 
-    // Of each chosen picture the result is made as a run would.
+    // The result of each sample is made as a run would.
     measure() {
         const window = this.window;
         const { step } = window.action;

@@ -1,4 +1,5 @@
-// What can be done with the list as a whole, from the menus: the clocks of cameras, the list as a file, and what was used last.
+// What can be done with the list as a whole, from the menus: the clocks of cameras, exporting the list, and recently
+// used items.
 
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
@@ -41,7 +42,7 @@ export class ListTools {
         this.recipes.open(!busy);
     }
 
-    /** Called after each change of the settings, with which other folders and recipes may have come. */
+    /** Called after each change of the settings, which may introduce new folders and recipes. */
     settingsChanged() {
         const settings = this.window.settings;
         if (this.window.action.name === "recipe" && settings.path) {
@@ -50,7 +51,7 @@ export class ListTools {
         this.destinations.show();
     }
 
-    // The folder that results go to stays in the list to choose from.
+    // The folder that results go to stays available in the list.
     keepChosen() {
         const chosen = this.window.settings.output.destination;
         if (chosen.kind === "folder") {
@@ -67,14 +68,14 @@ export class ListTools {
         this.clocks.open();
     }
 
-    // Facts are remembered with the dates by the clocks as they were.
+    // Facts are cached with the dates of the old clocks.
     clocksChanged() {
         this.window.services.facts.forget();
         this.window.livePlan.refresh();
         this.window.showCurrent();
     }
 
-    // Names and folders may be made of ratings.
+    // Names and folders may depend on ratings.
     ratingsChanged() {
         this.window.services.facts.forget();
         if (JSON.stringify(this.window.settings).indexOf("{rating") >= 0) {

@@ -117,7 +117,7 @@ function connectAppearance(window) {
     show();
 }
 
-/** Joins all controls of the window to what they do. */
+/** Connects all controls of the window to their functions. */
 export function connect(window) {
     connectControls(window);
     connectViews(window);

@@ -31,15 +31,15 @@ import { SupportBar } from "./support-bar.js";
 import { Watching } from "./watching.js";
 
 const SAID_MS = 8000;
-// More folders than these are opened in the one that holds them all.
+// If there are more folders than these, the one that contains them all is opened.
 const MOST_OPENED = 3;
-// What adds to the list, and what changes settings.
+// Controls that add to the list or change settings.
 const ADDING = [
     "addPicturesButton", "addFolderButton", "addPicturesAction", "addFolderAction", "pasteAction", "emptyAddPictures",
     "emptyAddFolder", "emptyAddSamples",
 ];
 const SETTINGS = ["renameAction", "headHost", "actionHost", "outputHost", "moveSimulation"];
-// What is done with rows.
+// Controls that act on rows.
 const ROWS = ["removeAction", "selectAllAction", "tickAction", "tickAllAction", "moveUpAction", "moveDownAction"];
 
 export class MainWindow {
@@ -53,7 +53,7 @@ export class MainWindow {
         this.action = null;
         this.settings = null;
         this.pane = null;
-        /** Of the manner of that action: what runs it and what shows its plan. */
+        /** Of the manner of that action: the object that runs it and the one that shows its plan. */
         this.manner = null;
         this.run = null;
         this.livePlan = null;
@@ -63,7 +63,7 @@ export class MainWindow {
         this.planned = {};
         /** The action whose page is shown instead of list and settings, or null. */
         this.shownPage = null;
-        /** What is said for a while in the status bar; "" for nothing. */
+        /** A temporary message in the status bar; "" for nothing. */
         this.said = "";
         this.saidTimer = shell.timer(guard("said", () => this.endSaying()));
         this.saving = null;
@@ -72,7 +72,7 @@ export class MainWindow {
         this.makeParts();
     }
 
-    // In an order in which each finds those that it needs.
+    // Ordered so that each finds those that it needs.
     makeParts() {
         this.escape = new Escape(this);
         this.pageHost = new PageHost(this);
@@ -98,14 +98,14 @@ export class MainWindow {
         this.form.control("fitFill").segments = [qsTr("Fit"), qsTr("Fill"), "1:1"];
     }
 
-    /** What a pane gets of the window: the list, the services, sayBeside(), showAction(name) and planAgain(). */
+    /** What a pane gets from the window: the list, the services, sayBeside(), showAction(name) and planAgain(). */
     forPanes() {
         return { list: this.pictures, services: this.services, sayBeside: (text) => this.sayBeside(text),
                  showAction: (name) => { this.form.control("sideBar").currentAction = name; },
                  planAgain: () => this.livePlan.refresh() };
     }
 
-    /** Shows all as it is kept in the settings, and the window itself. */
+    /** Shows everything as stored in the settings, and the window itself. */
     open() {
         this.setFill(recall(defaults, "Preview", { fill: false }).fill);
         this.form.onClose(guard("close", () => this.mayClose()));
@@ -119,7 +119,10 @@ export class MainWindow {
         this.showAll();
     }
 
-    /** Takes the run and the plan of a manner. Actions of one manner share them; they are made when the first of these is shown. */
+    /**
+     * Adopts the run and the plan of a manner. Actions of one manner share them; they are created when the first of
+     * these is shown.
+     */
     use(manner) {
         let parts = this.madeParts.find((each) => each.manner === manner);
         if (parts === undefined) {
@@ -201,17 +204,17 @@ export class MainWindow {
         }
     }
 
-    /** Whether list and settings are left as they are: a run is under way, or a folder is watched. */
+    /** Whether list and settings are locked: a run is in progress, or a folder is watched. */
     isBusy() {
         return this.run.isBusy() || this.watching.isOn();
     }
 
-    /** Whether something can be added to the list: it joins the end of a run that is under way, or waits for the next one. */
+    /** Whether something can be added to the list: it joins the end of a running run, or waits for the next one. */
     mayAdd() {
         return !this.isBusy() || (this.shownPage === null && !this.watching.isOn());
     }
 
-    /** What is to be said of what is added now; "" where nothing is. */
+    /** The message about what is added now; "" if there is none. */
     addingNote() {
         return this.run.isBusy() && !this.run.takesMore() ? qsTr("What you add now is not part of this run.") : "";
     }
@@ -259,7 +262,7 @@ export class MainWindow {
         this.repeating.runChanged();
     }
 
-    // What a run made of the pictures is the past now: the list shows what the settings would make of them.
+    // The results of a run are history now: the list shows what the settings would make of the pictures.
     planAgain() {
         this.livePlan.forgetFinal();
         this.run.dismiss();
@@ -286,7 +289,7 @@ export class MainWindow {
         this.showAll();
     }
 
-    // Counters count in the order shown. Nothing starts before that is known.
+    // Counters follow the order shown. Nothing starts before that is known.
     orderChanged() {
         if (!this.run.isBusy()) {
             this.livePlan.refresh();
@@ -294,14 +297,14 @@ export class MainWindow {
         this.showStart();
     }
 
-    // What runs made of the other rows stays in sight.
+    // Results of a run in the other rows stay visible.
     ticksChanged() {
         this.livePlan.refresh();
         this.showStart();
         showStatusBar(this);
     }
 
-    /** Says something for a while; it takes the place of the summary of a run. */
+    /** Shows a temporary message instead of the summary of a run. */
     say(text) {
         this.said = text;
         this.saidTimer.start(SAID_MS);
@@ -311,14 +314,14 @@ export class MainWindow {
         showStatusBar(this);
     }
 
-    /** Says something for a while, beside the summary of a run. */
+    /** Shows a temporary message beside the summary of a run. */
     sayBeside(text) {
         this.said = text;
         this.saidTimer.start(SAID_MS);
         showStatusBar(this);
     }
 
-    /** What the desktop offers beside the program itself. */
+    /** What the desktop offers besides the program itself. */
     openWith(opening) {
         if (opening === "recipe") {
             this.form.control("sideBar").currentAction = "recipe";
@@ -326,7 +329,7 @@ export class MainWindow {
             if (this.shownPage !== null || !this.action.manner.watches) {
                 this.form.control("sideBar").currentAction = "resize";
             }
-            // Once the window is there to be asked in front of.
+            // Once the window exists and can be the parent of questions.
             this.openingTimer = shell.timer(guard("opening", () => this.watching.choose()));
             this.openingTimer.start(0);
         }
@@ -340,8 +343,8 @@ export class MainWindow {
             ? "Quorlin" : fill(qsTr("%1%"), share) + " – " + this.action.title() + " – Quorlin";
     }
 
-    // A page takes the place of list and settings. The list stays when another action is chosen; adding to it leads back from
-    // a page that does not work on it.
+    // A page replaces list and settings. The list stays when another action is chosen; adding to it leads back from a
+    // page that does not use it.
     chooseAction(name) {
         const action = actionNamed(name);
         if (action === (this.shownPage || this.action)) {
@@ -394,7 +397,7 @@ export class MainWindow {
         keep(defaults, "Preview", { fill: on });
     }
 
-    /** Shows how close pictures are looked at. */
+    /** Shows the zoom of the pictures. */
     showZoom() {
         const view = this.preview.view;
         const fitted = view.fill ? 1 : 0;
@@ -407,7 +410,7 @@ export class MainWindow {
         showStatusBar(this);
     }
 
-    /** Shows whether some of the list is not. */
+    /** Shows whether part of the list is hidden. */
     showFiltered() {
         showStatusBar(this);
     }
@@ -451,7 +454,7 @@ export class MainWindow {
         showStatusBar(this);
     }
 
-    /** Closes what was opened last: the large preview, a run, the list of what failed, the full screen. */
+    /** Closes what was opened last: the large preview, a run, the list of failures, full screen. */
     closeLast() {
         this.escape.close();
         showStatusBar(this);

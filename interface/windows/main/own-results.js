@@ -1,5 +1,5 @@
-// Results of earlier runs in folders that are added: they are left out, which is said with a button that adds them all the same.
-// Services used: recipes (resultsAmong).
+// Results of earlier runs in folders that are added: they are left out, and a message says so, with a button that adds
+// them anyway. Services used: recipes (resultsAmong).
 
 import { recipes } from "quorlin/recipes";
 import { keysOf } from "../../lib/names.js";
@@ -12,7 +12,7 @@ export class OwnResults {
         this.show();
     }
 
-    /** What was found without those of its paths that runs wrote; `named` are those that somebody chose by themselves. */
+    /** What was found without the paths written by runs; `named` are those that the user chose individually. */
     without(found, named) {
         const chosen = keysOf(named);
         const walked = found.listed.filter((path) => !chosen[path]);
@@ -27,7 +27,7 @@ export class OwnResults {
         return Object.assign({}, found, { paths: rest(found.paths), listed: rest(found.listed) });
     }
 
-    /** What was left out last: {paths, folders}; it is not left out any more. */
+    /** What was left out last: {paths, folders}; from now on it is not left out. */
     take() {
         const found = this.found;
         this.found = { paths: [], folders: [] };

@@ -1,4 +1,4 @@
-// Where the pages of the window stand, each made when it is first shown.
+// The container of the window's pages, each created when first shown.
 
 /** The pages of the window: [action's name] = page. */
 export class PageHost {
@@ -31,7 +31,7 @@ export class PageHost {
         return this.pages[action.name];
     }
 
-    /** May the window be closed, or another page be shown? */
+    /** Whether the window may be closed, or another page shown. */
     mayLeave() {
         return this.shown === null || this.shown.mayLeave === undefined || this.shown.mayLeave();
     }

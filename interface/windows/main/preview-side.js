@@ -1,4 +1,4 @@
-// The preview of the current picture and what the settings make of it.
+// The preview of the current picture and of what the settings make of it.
 
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
@@ -20,7 +20,7 @@ function originalCaption(photo) {
     return parts.concat(profile ? [profile] : []).join(" · ");
 }
 
-// bytes: what the file will have, -1 while that is not known.
+// bytes: the expected size of the file, -1 while unknown.
 function resultCaption(planned, shown, bytes) {
     const type = madeType(planned.type);
     const parts = [pixelsText(planned), type.word];
@@ -59,7 +59,7 @@ export class PreviewSide {
         }));
     }
 
-    /** The view that is looked at: the large one, that of a page, or the one beside the settings. */
+    /** The view in use: the large one, that of a page, or the one beside the settings. */
     looked() {
         const page = this.window.pageHost === undefined ? null : this.window.pageHost.shown;
         const paged = page !== null && page.view !== undefined && page.view.zoom !== undefined ? page.view : this.view;
@@ -143,7 +143,7 @@ export class PreviewSide {
         }
     }
 
-    // The result, where the picture has one; pages show pictures as they are.
+    // The result, if the picture has one; pages show pictures as they are.
     showLargeResult() {
         const hasResult = this.window.manner.preview && this.window.pageHost.shown === null && this.shown !== null;
         this.large.showsResult = hasResult;
@@ -151,7 +151,7 @@ export class PreviewSide {
         this.large.setNotes(hasResult ? (this.shown.planned.losses || []).join(" · ") : "");
     }
 
-    /** Shows a file that is not in the list; `from` is the control that has the focus again afterwards. */
+    /** Shows a file that is not in the list; `from` is the control that gets the focus back afterwards. */
     showFile(path, from) {
         const photo = files.picture(path);
         this.from = from;

@@ -26,7 +26,7 @@ export class Printing {
         }
     }
 
-    /** Shows the chosen pictures on pages; without any the one that is shown. */
+    /** Shows the selected pictures on pages; if there are none, the current one. */
     open() {
         const paths = this.paths();
         if (paths.length === 0) {

@@ -1,4 +1,4 @@
-// A menu of what was used last: it can be cleared, and forgets what is gone.
+// A menu of recently used items: it can be cleared, and drops entries that are gone.
 
 import { defaults } from "quorlin/defaults";
 import { files } from "quorlin/files";
@@ -12,9 +12,9 @@ export class Recent {
     /**
      * @param window  the main window's parts: form, say(text)
      * @param menu    the name of the menu
-     * @param key     under which paths are kept
-     * @param choose  called with the path of a chosen entry, which is there
-     * @param paths   the list itself, where somebody else has it already
+     * @param key     under which paths are stored
+     * @param choose  called with the path of a chosen entry, which exists
+     * @param paths   the list itself, if it exists elsewhere
      */
     constructor(window, menu, key, choose, paths) {
         this.window = window;
@@ -40,13 +40,13 @@ export class Recent {
     }
 
     set(paths) {
-        // Others look at the same list.
+        // Others use the same list.
         this.paths.splice(0, this.paths.length, ...paths);
         keep(defaults, this.key, { folders: this.paths });
         this.show();
     }
 
-    /** Without entries to choose while nothing can be done with them. */
+    /** Its entries are disabled while nothing can be done with them. */
     open(on) {
         if (on !== this.isOpen) {
             this.isOpen = on;

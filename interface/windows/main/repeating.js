@@ -1,4 +1,4 @@
-// The settings of earlier runs: taken over again from the log, or at once for the pictures that were added since the last run.
+// The settings of earlier runs: restored from the log, or applied at once to the pictures added since the last run.
 // Services used: files.
 
 import { files } from "quorlin/files";
@@ -49,7 +49,7 @@ export class Repeating {
         return list.count + " " + list.tickedCount;
     }
 
-    // To go through ten thousand rows takes a while, and this is asked after each change of anything.
+    // Checking ten thousand rows takes a while, and this is called after each change of anything.
     hasLater() {
         const state = this.listState();
         if (this.found.of !== state) {
@@ -63,7 +63,7 @@ export class Repeating {
         entry.enabled = this.maker() !== null && !this.window.isBusy() && this.hasLater();
     }
 
-    /** Shows the action of a run, with the settings that it had; false where there is no such action any more. */
+    /** Shows the action of a run with its settings; false if the action no longer exists. */
     take(kept) {
         const window = this.window;
         const action = allActions().find((each) => each.name === kept.action);
@@ -78,7 +78,7 @@ export class Repeating {
         return true;
     }
 
-    // The list may be another one when the action is, so that its rows are asked for behind that.
+    // Another action may have another list, so its rows are requested afterwards.
     repeat() {
         const window = this.window;
         if (this.maker() === null || window.isBusy() || !this.take(this.last)) {

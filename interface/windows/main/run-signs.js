@@ -1,5 +1,5 @@
-// What is told of a run outside of its window, and what the user wants when it has ended: the machine stays awake while it goes on,
-// the task bar shows how far it is, and a notification says what came of it where the window is in the background.
+// What is reported about a run outside its window, and what the user wants at its end: the machine stays awake while it
+// runs, the task bar shows its progress, and a notification gives the outcome if the window is in the background.
 
 import { defaults } from "quorlin/defaults";
 import { shell } from "quorlin/shell";
@@ -12,7 +12,7 @@ const NOTHING = "nothing";
 const OPEN = "open";
 const CLOSE = "close";
 
-/** How much of a run is done, 0 to 100; -1 where nothing can be said. */
+/** The progress of a run, 0 to 100; -1 if unknown. */
 export function percentDone(run) {
     return run.phase === "running" && run.progress.count > 0
         ? Math.floor((100 * run.progress.done) / run.progress.count) : -1;
@@ -27,7 +27,7 @@ export class RunSigns {
         form.setItems("whenDone",
                       [qsTr("When done: nothing"), qsTr("When done: open folder"), qsTr("When done: close")],
                       [NOTHING, OPEN, CLOSE]);
-        // A window that closes by itself is a surprise the next time.
+        // A window that closes by itself would be a surprise the next time.
         form.chooseValue("whenDone", recall(defaults, KEY, { what: NOTHING }).what === OPEN ? OPEN : NOTHING);
         form.control("whenDone").activated.connect(guard("whenDone", () => {
             keep(defaults, KEY, { what: form.value("whenDone") });
@@ -50,7 +50,7 @@ export class RunSigns {
         }
     }
 
-    // Counting along would be no news to those who hear it.
+    // Reading out every number would be no news to those who hear it.
     announce(text) {
         const label = this.window.form.control("statusText");
         if (label.accessibleName !== text) {
@@ -58,7 +58,7 @@ export class RunSigns {
         }
     }
 
-    // In a watched folder one run follows the other.
+    // In a watched folder one run follows another.
     ended(run) {
         this.announce(run.text);
         const watched = this.window.watching.isOn();
@@ -67,7 +67,7 @@ export class RunSigns {
         if (wanted === OPEN && run.folders().length > 0) {
             this.window.openFolders();
         } else if (wanted === CLOSE) {
-            this.closing.start(0); // what follows the end of a run has to be done first
+            this.closing.start(0); // what follows the end of a run must happen first
         }
     }
 }

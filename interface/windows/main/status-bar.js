@@ -1,5 +1,5 @@
-// The bar at the foot of the window, and the entries of the menu that do the same: how far a run is, what came of it, and
-// what can be done about it.
+// The bar at the foot of the window, and the menu entries that do the same: how far a run is, its outcome, and what can
+// be done about it.
 
 import { wordsFor } from "../../lib/input-words.js";
 import { fill, numberText } from "../../lib/wording.js";
@@ -17,7 +17,7 @@ function showTexts(window, busy, ended) {
     window.form.control("statusText").text = busy || ended ? run.text : idleText;
     window.form.control("statusDetail").text = (busy || ended) && window.said ? window.said : run.detail;
     if (!busy && !ended) {
-        window.form.control("statusText").accessibleName = ""; // what is read out is the text itself
+        window.form.control("statusText").accessibleName = ""; // screen readers read the text itself
     }
 }
 
@@ -32,7 +32,7 @@ function endButtons(run, ended) {
     };
 }
 
-// Says over the list that it shows a part of itself.
+// Says above the list that only part of it is shown.
 function showFilter(window) {
     const stars = window.pictures.leastRating;
     const notes = [];

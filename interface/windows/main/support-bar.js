@@ -1,4 +1,4 @@
-// The bar of Background & Border that offers to choose the support folder, until it was chosen or put off.
+// The bar of Background & Border that offers to choose the support folder, until it was chosen or declined.
 
 import { defaults } from "quorlin/defaults";
 import { guard } from "../../lib/guard.js";
@@ -19,7 +19,7 @@ export class SupportBar {
         this.show();
     }
 
-    // A panel that was cancelled changes nothing: the bar stays.
+    // A cancelled panel changes nothing: the bar stays.
     folderChosen() {
         this.show();
         this.window.actionPage.filesChanged();
@@ -30,7 +30,7 @@ export class SupportBar {
         this.show();
     }
 
-    /** Only where a pattern can be chosen. */
+    /** Only if a pattern can be chosen. */
     show() {
         const isAsked = defaults.get("SupportFilesDestination") === null
             && !recall(defaults, PUT_OFF, { on: false }).on;

@@ -1,5 +1,5 @@
-// A watched folder: pictures that arrive in it are added to the list and worked on at once, with the settings that are shown. These
-// cannot be changed until it ends.
+// A watched folder: pictures that arrive in it are added to the list and processed at once, with the shown settings.
+// These cannot be changed until watching ends.
 
 import { shell } from "quorlin/shell";
 import { watch } from "quorlin/watch";
@@ -7,16 +7,16 @@ import { guard } from "../../lib/guard.js";
 import { emptyTable, splitPath } from "../../lib/names.js";
 import { fill, pictures } from "../../lib/wording.js";
 
-// Rows of pictures that are done; older ones leave the list.
+// Rows of finished pictures; older ones are removed from the list.
 const MOST_ROWS = 1000;
 
-// Why this work cannot go on unattended; "" where it can.
+// Why this work cannot run unattended; "" if it can.
 function obstacle(action, settings) {
     const problems = action.step.validate(settings);
     if (problems.length > 0) {
         return problems[0];
     }
-    const output = settings.output; // recipes say themselves where results go
+    const output = settings.output; // recipes specify the destination of results themselves
     if (output === undefined ? settings.simulation : output.simulation) {
         return qsTr("Pictures in a watched folder are written at once: turn the dry run off first.");
     }
@@ -96,7 +96,7 @@ export class Watching {
         this.work();
     }
 
-    // What came while a run was under way waits for its end, which tells its own results.
+    // Pictures that arrived during a run wait for its end, so as not to be taken for its own results.
     work() {
         const window = this.window;
         if (!this.isOn() || window.run.isBusy()) {
@@ -114,7 +114,7 @@ export class Watching {
         window.showAll();
     }
 
-    // The rows of these pictures. One that came again, under the same name, is read again.
+    // The rows of these pictures. One that arrived again under the same name is read again.
     added(paths) {
         const list = this.window.pictures;
         const known = list.ids();

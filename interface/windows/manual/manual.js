@@ -1,4 +1,4 @@
-// The window of the manual: pages at the left, the page at the right.
+// The window of the manual: contents at the left, the page at the right.
 
 import { program } from "quorlin/program";
 import { shell } from "quorlin/shell";
@@ -37,7 +37,7 @@ export class Manual {
         shell.theme.changed.connect(guard("manual", () => this.view.redraw()));
     }
 
-    /** Shows the page of that name; the first where there is none. */
+    /** Shows the page of that name; the first if there is none. */
     open(name) {
         this.view.open(this.pages.some((page) => page.name === name) ? name : this.pages[0].name, "");
         this.form.show();

@@ -19,7 +19,7 @@ export class NewVersion {
     }
 
     open(version, notes) {
-        // The service adds notes to those that are there; each check has its own.
+        // The service appends to existing notes; each check has its own.
         this.form.control("whatsNew").plainText = "";
         this.sheets.hCallApplicationUpdate(qsTr("Quorlin"), version, notes);
         this.form.control(program.productPage === "" ? "newVersionClose" : "productPage").setFocus();

@@ -11,11 +11,12 @@ import { KEY as UPDATE, STANDARD as UPDATE_STANDARD } from "../../lib/update.js"
 import { fill } from "../../lib/wording.js";
 import { DESTINATIONS, keepWish, LOG_ROWS, MEMORY, TAKEN, wishes } from "../../lib/wishes.js";
 
-// The key that services look at as well. Languages are called as their speakers call them.
+// The key that services read as well. Languages have the names that their speakers use.
 const LANGUAGE = "Language";
 const LANGUAGES = [["en", "English"], ["nl", "Nederlands"], ["de", "Deutsch"], ["fr", "Français"]];
 
-// So many of the processors that this process may use; all of them where the user did not choose, or chose on a larger machine.
+// So many of the processors that this process may use; all of them if the user did not choose, or chose on a larger
+// machine.
 function processorsOf(chosen) {
     return chosen >= 1 && chosen <= recipes.processors() ? chosen : recipes.processors();
 }

@@ -1,6 +1,6 @@
-// Prints pictures on pages: how they are laid out, with the pages as they will be, and the print itself, which can be cancelled. The
-// pages are those of the action Contact Sheet; they are made into a PDF, which the print system gets, or which is kept where that was
-// chosen.
+// Prints pictures on pages: their layout, with a preview of the pages, and the print itself, which can be cancelled.
+// The pages are those of the action Contact Sheet; they become a PDF that goes to the print system, or is kept if that
+// was chosen.
 
 import { defaults } from "quorlin/defaults";
 import { files } from "quorlin/files";
@@ -16,11 +16,11 @@ import { Workshop } from "../../runs/making/job.js";
 import { makePages } from "../../runs/sheets/sheet-making.js";
 
 const KEY = "PrintedPages";
-// Rows of the pane that belong to a file with a name.
+// Rows of the pane that apply only to a named file.
 const OF_FILES = ["contactNameLabel", "contactName"];
 const NEAR_MM = 1;
 
-/** A picture to a page, as large as its resolution says, in the middle and without margins. */
+/** One picture per page, at the size of its resolution, centred and without margins. */
 function usual() {
     return Object.assign({}, contact.defaults, {
         rows: 1, columns: 1, fit: "size", caption: "", footer: "", gap: 0,
@@ -98,7 +98,7 @@ export class Print {
         this.form.control("printText").text = text;
     }
 
-    // Where the panel is cancelled nothing has happened.
+    // If the panel is cancelled, nothing has happened.
     start() {
         const work = contact.workFor(this.settings, this.paths);
         const choice = program.choosePrinter(work.pages, work.pageWidth, work.pageHeight);
@@ -114,7 +114,7 @@ export class Print {
         this.showAll();
     }
 
-    // Returns what to say.
+    // Returns a message.
     * printing(work, choice) {
         const workshop = new Workshop(files);
         const folder = choice.file === "" ? files.dataFolder : splitPath(choice.file).folder;
@@ -138,7 +138,7 @@ export class Print {
         }
     }
 
-    // The panel has asked about a file that is there.
+    // The panel has asked about an existing file.
     keepFile(target, path, made) {
         const placed = files.place(target, path, files.info(path).exists ? files.identity(path) : "");
         return placed.status === "OK" ? fill(qsTr("%1: %2"), splitPath(path).name, qsTr("%n pages", "", made.pages))
@@ -187,7 +187,7 @@ export class Print {
         }
     }
 
-    // Closing the window is no way to go on.
+    // Closing the window does not start anything.
     mayClose() {
         if (this.job.running) {
             this.job.cancel();

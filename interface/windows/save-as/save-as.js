@@ -1,5 +1,5 @@
-// Saves the current picture under another name, type and quality, through a panel with a view of what comes out. A worker makes the
-// file, as it does in a run of Convert.
+// Saves the current picture under another name, type and quality, through a panel with a preview of the result. A
+// worker makes the file, as in a run of Convert.
 
 import { defaults } from "quorlin/defaults";
 import { files } from "quorlin/files";
@@ -18,7 +18,7 @@ import { runByWorkers } from "../../runs/making/worker-job.js";
 
 const KEY = "SaveAs";
 const USUAL = { type: convert.defaults.target, quality: convert.defaults.quality, folder: "" };
-// The version of the system, as the services have it, whose panels ask for tags.
+// The system version, in the services' form, whose panels ask for tags.
 const WITH_TAGS = "109+";
 
 export class SaveAs {
@@ -53,7 +53,7 @@ export class SaveAs {
         this.view.resultEstimated.connect(guard("saveAs.estimate", (bytes) => this.showSize(bytes)));
     }
 
-    /** What is chosen, as the settings of Convert. */
+    /** The choice, as settings of Convert. */
     settings() {
         return Object.assign(copyOf(convert.defaults), { target: this.form.value("pubFileType"),
                                                          quality: this.form.value("pubJPEGcompression") });
@@ -64,7 +64,7 @@ export class SaveAs {
         return this.job.running;
     }
 
-    /** Gives that up. */
+    /** Abandons that. */
     abandon() {
         this.job.cancel();
     }
@@ -109,14 +109,15 @@ export class SaveAs {
                               [targetNamed(this.settings().target).word].concat(size ? [size] : []).join(" · "));
     }
 
-    // One picture, as a run has it. What the panel asked about may be replaced, and nothing that came there since.
+    // One picture, in the form of a run. The file that the panel asked about may be replaced, but nothing that appeared
+    // there since.
     itemFor(path) {
         const place = splitPath(path);
         const replaced = files.identity(path);
         return { photo: this.photo, status: "ready", reason: "", folder: place.folder, name: place.name, path: path,
                  width: this.photo.width, height: this.photo.height, replaces: replaced !== "", replaced: replaced,
                  replacesOriginal: replaced !== "" && replaced === files.identity(this.photo.path),
-                 isNoted: false }; // who saves it somewhere may well add it there
+                 isNoted: false }; // the user saving it there may well add that folder
     }
 
     save(chosen) {
@@ -132,7 +133,7 @@ export class SaveAs {
         this.window.say(fill(qsTr("Saving %1…"), item.name));
         this.job.start(work, guard("saveAs.step", (event) => {
             if (event.kind === "full") {
-                flow.stop(); // which is said as any other reason
+                flow.stop(); // reported like any other reason
             }
             result = event.kind === "end" ? event.result : result;
         }), guard("saveAs.end", (how, problem) => {
