@@ -123,7 +123,7 @@ def cost(command, watches=False):
 
 
 class Workshop:
-    """A folder with photographs, copies of each other where there are too few."""
+    """A folder with photographs, copies of each other if there are too few."""
 
     def __init__(self, folder):
         self.folder = folder
@@ -140,7 +140,7 @@ class Workshop:
         return place
 
     def run(self, command, count, watches=False):
-        """Costs of a command; it has to make a file of each picture."""
+        """Costs of a command, which must make a file of each picture."""
         out, pictures = self.folder / "out", self.pictures(count)
         shutil.rmtree(out, ignore_errors=True)
         out.mkdir()
@@ -225,7 +225,7 @@ def row_of(shop, name, task, verdict):
 
 
 def comment_row(shop, verdict):
-    """Task i: 200 files are changed where they stand, copies each time."""
+    """Task i: 200 files are changed in place, copies each time."""
     originals, count = sorted(CORPUS.glob("*.jpg")), 5 * COUNT
     place = shop.folder / "comments"
 

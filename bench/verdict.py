@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
 """verdict.py RESULT.md: Quorlin's row of each table in ratios to the others, and whether it keeps to the bounds.
 
-Bounds: CPU time for a picture below that of the program named for its task, or of every program that took part; for some
-within a multiple of a program that does nothing else, or does less; and less memory at the peak than stands there. Pictures are made smaller in bands, 24 megapixels included; to be turned, they have to be in memory as a whole.
+Bounds: CPU time per picture below that of the program named for its task, or of every program that took part; for some
+tasks within a multiple of a program that does nothing else, or does less; and a peak of memory below the stated one.
+Pictures are reduced in bands, including those of 24 megapixels; to be rotated, they must be in memory as a whole.
 """
 import re
 import sys

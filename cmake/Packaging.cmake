@@ -12,7 +12,7 @@ install(DIRECTORY ${CMAKE_SOURCE_DIR}/interface DESTINATION ${CMAKE_INSTALL_DATA
   PATTERN "*.qrc" EXCLUDE PATTERN "CMakeLists.txt" EXCLUDE PATTERN "quorlin_*.ts" EXCLUDE)
 install(DIRECTORY ${CMAKE_BINARY_DIR}/texts DESTINATION ${CMAKE_INSTALL_DATADIR}/quorlin/interface
   FILES_MATCHING PATTERN "quorlin_*.qm")
-# The manual stands beside the interface as in the source tree, with the pictures that it shows.
+# The manual is beside the interface as in the source tree, with the pictures that it shows.
 install(DIRECTORY ${CMAKE_SOURCE_DIR}/docs/manual ${CMAKE_SOURCE_DIR}/docs/screenshots
   DESTINATION ${CMAKE_INSTALL_DATADIR}/quorlin/docs FILES_MATCHING PATTERN "*.md" PATTERN "*.png")
 set(packaging ${CMAKE_SOURCE_DIR}/packaging)

@@ -77,7 +77,7 @@ function(quorlin_tests program)
       quorlin_test_program(${name} SOURCES ${source} LINKS ${arg_LINKS} DEFINITIONS ${arg_DEFINITIONS})
     else()
       list(APPEND shared ${source})
-      # The name of the test stands for the program that holds it: for make, and as a command.
+      # The name of the test is an alias of the program that contains it: for make, and as a command.
       add_custom_target(${name} DEPENDS ${program})
       file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
       file(CREATE_LINK ${program} ${CMAKE_BINARY_DIR}/tests/${name} SYMBOLIC)

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""results.py passed|skipped FILE...: what the files that ctest --output-junit wrote come to, in one line.
-   results.py demand FILE NAME...: fails where one of these tests was skipped or is not there.
+"""results.py passed|skipped FILE...: sums up the files that ctest --output-junit wrote, in one line. results.py demand
+   FILE NAME...: fails if one of these tests was skipped or is missing.
 
 passed:  how many programs passed, failed and were skipped.
 skipped: how many tests were skipped because the corpus of real pictures is not there: whole programs, and single functions

@@ -1,9 +1,10 @@
 #!/usr/bin/env python3
 """formats.py [--check] FILE: what a conversion by the services keeps, as docs/formats.md shows it. Writes FILE, or compares it.
 
-Beside FILE, which lies in docs/, it does the same with the tables in manual/convert.md and manual/output.md, which say what the
-actions of the window keep: these make recipes. What a format keeps, and what the product calls it, is read from the program's own
-tables; PROMISES adds what a conversion makes of it. A test converts real pictures and holds programs that are not ours against it.
+Beside FILE, which is in docs/, it does the same with the tables in manual/convert.md and manual/output.md, which say
+what the actions of the window keep: these make recipes. What a format keeps, and what the product calls it, is read
+from the program's own tables; PROMISES adds what a conversion makes of it. A test converts real pictures and compares
+the results with it, using programs that are not ours.
 """
 import re
 import sys
@@ -15,9 +16,9 @@ PROPERTIES = {
 }
 KEPT = "kept"
 NOT = "-"
-# What becomes of each property. "stored": the pixels as they are stored, with the tag that turns them. "upright": turned
-# upright, since no tag would do it. "srgb": colours are converted to sRGB. "matrix": kept where it is a profile of grey, or
-# of three colours by a matrix, else converted. "black": laid on black. "page": the page's size in points.
+# What happens to each property. "stored": the pixels as they are stored, with the tag that turns them. "upright":
+# turned upright, since no tag would do it. "srgb": colours are converted to sRGB. "matrix": kept if it is a grey or
+# matrix RGB profile, else converted. "black": flattened onto black. "page": the page's size in points.
 ROOT = Path(__file__).resolve().parents[1]
 TABLE = ROOT / "platform/imageio/formats/formats.cpp"
 OUTPUTS = ROOT / "image/types/output_types.cpp"
@@ -46,7 +47,7 @@ def kept_by_format():
 
 
 def promises(target, kept):
-    """What becomes of each property in a file of one type."""
+    """What happens to each property in a file of one type."""
     metadata = KEPT if target in CARRYING else NOT
     return {"size": "stored" if target in CARRYING else "upright", "depth": KEPT if "depth16" in kept else NOT,
             "profile": {"Yes": KEPT, "IfItFits": "matrix"}.get(kept.get("profile"), "srgb"),
@@ -61,7 +62,8 @@ PROMISES = {target: promises(target, _KEPT[name]) for target, name in TARGETS.it
 # The same of all that the window writes, in the order of its lists.
 IN_WINDOW = {keyword: promises(keyword, _KEPT[name]) for keyword, (name, *_) in _OUTPUTS.items()}
 # How far the pixels of a target may be off on average, of 255. GIF has 256 colours, and mixes others by dots of these, each of
-# which is off though what is seen of them is not: its bound is measured on photographs and only tells a wrong picture.
+# which differs although the overall impression does not: its bound is measured on photographs and only reveals a wrong
+# picture.
 BOUNDS = {"png": 0.5, "tiff": 0.5, "bmp": 0.5, "pdf": 0.5, "jpeg": 3, "jp2": 3, "gif": 12}
 # What a source can hold, by the name that exiftool has for its type.
 SOURCES = {
@@ -71,7 +73,7 @@ SOURCES = {
     "JP2": "depth profile alpha resolution orientation exif gps iptc xmp", "GIF": "alpha", "BMP": "profile resolution", "PDF": "alpha",
     "SVG": "alpha",
 }
-# What results of recipes, and of all actions of the window, hold of each kind of metadata; None where that is no question.
+# What results of recipes, and of all actions of the window, keep of each kind of metadata; None if not applicable.
 IN_XMP = "as XMP"
 KINDS = {"exif": "EXIF", "maker": "Maker notes", "gps": "GPS", "iptc": "IPTC", "xmp": "XMP", "comment": "Comment", "resolution": "Resolution"}
 _BLOCKS = dict.fromkeys(KINDS, KEPT)
@@ -97,8 +99,8 @@ def lost(source, target):
 
 def becomes(kind, source, target):
     """
-    What becomes of one kind of metadata in a file of the target's type; source has how a file has each of them. XMP is not read as a
-    resolution.
+    What happens to one kind of metadata in a file of the target's type; source says how a file has each of them. XMP is
+    not read as a resolution.
     """
     held = HELD[target][kind]
     if held is None or held == KEPT and source[kind] != IN_XMP:
@@ -180,7 +182,7 @@ OF_THE_WEB = ("webp", "avif", "jxl")
 
 
 def in_manual(target, name):
-    """What becomes of a property in a recipe, in the few words of the manual."""
+    """What happens to a property in a recipe, in the few words of the manual."""
     words = {KEPT: "yes", NOT: "no", "matrix": "if it fits", "srgb": "sRGB", "black": "a colour", "page": "page size"}
     if name in ("exif", "resolution") and IN_WINDOW[target][name] in (KEPT, NOT):
         held = HELD[target][name]
@@ -228,7 +230,7 @@ def actions_table():
 
 
 def with_table(page, before, table):
-    """The page of the manual with that table in place of the first one behind the text `before`."""
+    """The page of the manual with that table replacing the first one after the text `before`."""
     head, mark, rest = page.partition(before)
     if not re.match(r"\|", rest):
         raise SystemExit(f"formats.py: no table stands behind {before!r}")

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """make-samples.py OUTDIR: draws the sample pictures of samples/ from nothing, the same pixels each time.
 
-Landscapes of ridges, haze and water, as a stand-in for photographs that nobody has to ask for. Needs the commands vips
-and exiftool. They are under the licence of Quorlin.
+Landscapes of ridges, haze and water, as a substitute for photographs, free of other people's rights. Needs the commands
+vips and exiftool. They are under the licence of Quorlin.
 """
 import math
 import random

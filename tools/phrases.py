@@ -9,7 +9,7 @@ import re
 import xml.etree.ElementTree as ElementTree
 from pathlib import Path
 
-# Whole phrases: "date taken", "Sort by Hand" and "becomes" are none of these.
+# Whole phrases: "date taken", "Sort by Hand" and "becomes" do not count.
 PHRASES = {
     "en": [r"deeds?", r"anew", r"(go|goes|going|went|gone) along", r"(take|takes|taking|took) back", r"taken back", r"put back",
            r"(its|their|his) turn", r"(lying|standing) (pictures?|photos?|ones?)", r"stored lying", r"(pictures|photos) that stand",
@@ -83,7 +83,7 @@ def faults_of_translations(language, forms):
 
 
 def title_case_fault(text):
-    """The first word of the text of a button that lacks its capital; None where none does."""
+    """The first word of the text of a button that lacks its capital; None if all have it."""
     words = re.findall(r"(?<![\w’{])[^\W\d_][\w’]*", text.replace("&", ""))
     return next((word for i, word in enumerate(words) if word[0].islower() and (i == 0 or word not in SMALL)), None)
 
@@ -108,7 +108,7 @@ def check_buttons(root):
 
 
 def without_code(text):
-    """A page without what is typed as it stands: code, links, tables of formats."""
+    """A page without anything that is typed literally: code, links, tables of formats."""
     return re.sub(r"`[^`]*`|\]\([^)]*\)|^    .*$|^\.\w+.*$", "", text, flags=re.M)
 
 

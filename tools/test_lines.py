@@ -2,8 +2,8 @@
 """test_lines.py [ROOT] [--least RATIO FOLDER...]: lines of unit test per line of product, folder by folder.
 
 A test belongs to the folder of the source that it is named for (tst_move_plan to move_plan.h), otherwise to that of the
-first header of the product that it includes. Lines are those with more than blanks. With --least, fails when one of the
-folders has fewer than RATIO lines of test per line, or when a folder holds no source at all.
+first header of the product that it includes. Blank lines do not count. With --least, fails when one of the folders has
+fewer than RATIO lines of test per line, or when a folder holds no source at all.
 """
 import argparse
 import re

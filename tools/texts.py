@@ -7,7 +7,7 @@ check    holds the translations, interface/texts/quorlin_*.ts, against the texts
          not used, and sentences that are too long, are found by phrases.py.
 update   adds the texts that a translation lacks, unfinished, and takes away those that nobody uses.
 
-Needs lupdate of Qt, which cannot read modules: it gets copies of the scripts with "import" and "export" blanked.
+Needs lupdate of Qt, which cannot read modules: it gets copies of the scripts with "import" and "export" blanked out.
 """
 import json
 import re
@@ -23,7 +23,7 @@ import phrases
 LANGUAGES = ("en", "nl", "de", "fr")
 ROOMS = ("app", "views", "image", "jobs", "files", "meta", "presets", "text", "platform")
 MODULE_WORDS = re.compile(r"^(\s*)(import\b[^;]*;|export\s+default\b|export\b)", re.M)
-# What lupdate says of C++ that it need not understand.
+# Messages of lupdate about C++ that it need not understand.
 HARMLESS = ("Ignoring definition of undeclared qualified class", "Discarding unconsumed meta data")
 # %1, %2 ..., %n, and the %@ of keys that services fill.
 PLACES = re.compile(r"%(?:L?[1-9]|L?n|@)")
@@ -31,7 +31,7 @@ COUNTS = ("%n", "%Ln")
 
 
 def without_modules(text):
-    """A module as a plain script: the same lines, the same columns behind what is blanked."""
+    """A module as a plain script: the same lines, the same columns after what is blanked out."""
     return MODULE_WORDS.sub(lambda m: m.group(1) + re.sub(r"[^\n]", " ", m.group(2)), text)
 
 
@@ -157,7 +157,8 @@ def check_sentences(root):
 
 
 def fault_of(text, forms, has_count):
-    """What is wrong with a finished translation. Each of our languages has two forms; the one for 1 need not tell the number."""
+    """What is wrong with a finished translation. Each of our languages has two forms; the one for 1 may omit the
+    number."""
     if len(forms) != (2 if has_count else 1):
         return "lacks a form" if len(forms) < 2 else "has a form too many"
     if not all(forms):

@@ -44,7 +44,7 @@ class BatchTest(unittest.TestCase):
         return self.recipe({"quorlin": 1, "outputs": [{"type": "png", **output}]})
 
     def start(self, *arguments, before=(), **options):
-        """The program, started by the command `before` where one is given."""
+        """The program, started by the command `before` if one is given."""
         options = {"stdin": subprocess.DEVNULL, "stdout": subprocess.PIPE, "stderr": subprocess.PIPE, **options}
         environment = {"PATH": os.environ["PATH"], "XDG_CACHE_HOME": str(self.folder / "cache"), **options.pop("env", {})}
         return subprocess.Popen([*before, PROGRAM, *arguments], cwd=self.folder, env=environment, **options)

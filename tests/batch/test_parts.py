@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""test_parts.py PROGRAM PICTURE: what lies beside a picture stays where the file does, else it goes with what announces it and is named;
-and what a picture says of itself leads no result out of its folder.
+"""test_parts.py PROGRAM PICTURE: parts beside a picture stay while the file does; otherwise they are dropped together
+with what announces them, and the report names them. A picture's own statements cannot lead a result out of its folder.
 
 PICTURE is a JPEG.
 """

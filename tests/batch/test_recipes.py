@@ -31,7 +31,7 @@ GOOD = {
 
 GONE = object()
 
-# Where, what stands there instead, and the place that the sentence begins with where that is another one.
+# The place, what is there instead, and the place that the sentence begins with if that differs.
 MUTATIONS = [
     ("quorlin", 2), ("quorlin", "1"), ("quorlin", GONE), ("quorlin", 1.5), ("quorlin", 0),
     ("name", 7), ("extra", 1), ("outputs", GONE), ("outputs", []), ("outputs", {}), ("operations", "none"),

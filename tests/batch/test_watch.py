@@ -132,7 +132,7 @@ class Watching(BatchTest):
             for i in range(12):
                 png(self.path(f"in/day {i}/a.png"))
             self.until(lambda: len(self.lines_now()) == 12)
-            png(self.path("in/day 11/b.png"))  # where nothing tells of it
+            png(self.path("in/day 11/b.png"))  # if nothing mentions it
             png(self.path("in/day 12/c.png"))
             self.until(lambda: len(self.lines_now()) == 14)
             time.sleep(5)  # results would have been taken by now

@@ -1,4 +1,4 @@
-// What is wrong with how the page lies: sentences. Siblings that hold a text or a picture and can be seen do not lie on one another.
+// What is wrong with the layout of the page: sentences. Visible siblings with a text or a picture must not overlap.
 (function () {
     const found = [];
     const wide = document.scrollingElement.scrollWidth;

@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 """test_pages.py SCRIPT_RUNNER WEB_PAGE PICTURES SAMPLES CACHE: web pages as a browser shows them, and as people reach them.
 
-Skipped, with status 77, where there is no browser. The rules of axe-core are asked too where the registry of packages can be reached.
+Skipped, with status 77, if there is no browser. The rules of axe-core are checked too if the package registry can be
+reached.
 """
 import base64
 import hashlib
@@ -34,7 +35,7 @@ LONG = "An unbreakableunbreakableunbreakableunbreakableunbreakableunbreakableunb
 
 
 def axe(cache):
-    """The source of axe-core, fetched once; None where it cannot be had."""
+    """The source of axe-core, fetched once; None if it is not available."""
     kept = cache / "axe.min.js"
     if kept.exists():
         return kept.read_text()

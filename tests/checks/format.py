@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""format.py ROOT: every C++ file as clang-format 14 writes it. Ends with status 77 where that is not installed."""
+"""format.py ROOT: every C++ file as clang-format 14 writes it. Ends with status 77 if that is not installed."""
 import re
 import shutil
 import subprocess

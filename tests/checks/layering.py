@@ -11,8 +11,8 @@ from pathlib import Path
 
 import source_tree as tree
 
-# Room: the rooms that it may enter beside its own. The product's rooms do not know each other, but for the lines
-# where a date stamp, a collection of files or what is said of a picture's file is made with another room's help.
+# Room: the rooms that it may include besides its own. The product's rooms are independent of each other, except for the
+# lines where a date stamp, a collection of files or the facts of a picture's file need another room's help.
 MAY_ENTER = {
     "platform": set(),
     "text": {"platform"},
@@ -27,9 +27,9 @@ MAY_ENTER = {
     "tests": set(tree.ROOMS) | {"tools"},
     "bench": set(tree.ROOMS) | {"tools"},
 }
-# Sub-rooms: the folders of a room by their paths below it, in an order in which each enters none that stands behind it, and
-# which of them each may enter beside its own ("*" stands for all above it). A room that is listed here lists all folders in
-# which it has sources, the room itself as "" where it has some.
+# Sub-rooms: the folders of a room by their paths below it, in an order in which each includes only earlier ones, and
+# which of these each may include besides its own ("*" means all above it). A room that is listed here lists all folders
+# in which it has sources, the room itself as "" if it has some.
 SUB_ROOMS = {
     "platform": {
         "foundation": "",
@@ -44,7 +44,7 @@ SUB_ROOMS = {
         "planes": "",
         "graphics": "foundation descriptors planes",
         "effects": "foundation descriptors graphics",
-        # Pictures as files: bytes first, then one folder for each kind of file, then what is said and done about all of them.
+        # Pictures as files: bytes first, then one folder for each kind of file, then what is common to all of them.
         "imageio/bytes": "foundation file",
         "imageio/formats": "foundation graphics imageio/bytes",
         "imageio/jpeg": "foundation planes graphics imageio/bytes",
@@ -123,7 +123,7 @@ SUB_ROOMS = {
 SERVICE_QT = {"QtCore", "QtGui", "QtQml"}
 QT_MODULES = {room: SERVICE_QT for room in ("image", "files", "meta", "presets", "jobs")}
 QT_MODULES.update({"text": {"QtCore"}, "platform": {"QtCore", "QtGui"}, "views": SERVICE_QT})
-# The same for sub-rooms of the room that has windows, and for the library that is linked where there are none.
+# The same for sub-rooms of the room that has windows, and for the library that is linked if there are none.
 WITHOUT_WIDGETS = ("setup", "network", "printing", "services", "seam", "jobs", "script", "modules", "preview", "models")
 QT_MODULES.update({f"app/{name}": SERVICE_QT | {"QtNetwork"} for name in WITHOUT_WIDGETS})
 QT_OF_TARGET = {"quorlin_script": SERVICE_QT | {"QtNetwork"}}
@@ -178,7 +178,7 @@ def check_own_include(room, name, path, root):
 
 
 def sub_room(room, name):
-    """The folder of a file below its room, "" for one that lies in the room itself."""
+    """The folder of a file below its room, "" for a file in the room itself."""
     return "/".join(name.split("/")[1:-1])
 
 

@@ -5,8 +5,8 @@ Every action of the sidebar has a page of its name, every page can be reached fr
 heading or a picture that is there; a picture that is light has its dark one too. The folders de, fr and nl hold the same pages with
 the same levels of headings, links to the same headings, and the figures of their language in the same order.
 
-A language is held against English as soon as it has its index.md, which is written last, or where it is named as LANGUAGE; its
-pictures as soon as docs/screenshots has its folder, since the window shows English ones until then.
+A language is compared with English as soon as it has its index.md, which is written last, or if it is named as
+LANGUAGE; its pictures as soon as docs/screenshots has its folder, since the window shows English ones until then.
 """
 import re
 import sys
@@ -27,7 +27,7 @@ def action_names(folder):
 
 
 def anchor(heading):
-    """As the window of the manual makes it: small letters and digits, hyphens for blanks."""
+    """As in the window of the manual: lower-case letters and digits, hyphens for spaces."""
     kept = re.sub(r"[^\w\s-]", "", re.sub(r"[*`]", "", heading).lower())
     return re.sub(r"\s", "-", kept.strip())
 
@@ -45,7 +45,7 @@ def figures_of(text):
 
 
 def place_of(page, target, pages):
-    """The page and the number of the heading that a link leads to; None where there is no such place."""
+    """The page and the number of the heading that a link leads to; None if there is no such place."""
     path, _, name = target.partition("#")
     to = path.removesuffix(".md") or page
     if to not in pages or path and not path.endswith(".md"):

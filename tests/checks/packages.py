@@ -2,8 +2,8 @@
 """packages.py ROOT: packaging/packages.txt against what the build and the tests really use.
 
 A package that everybody here happens to have installed hides from every other test. So each pkg-config module, each
-component of Qt, each command of a script or a test and each such header must be given by a package of the list, and
-where dpkg is at hand the package must really hold it.
+component of Qt, each command of a script or a test and each such header must come from a package of the list, and if
+dpkg is available the package must really contain it.
 """
 import re
 import shutil

@@ -16,7 +16,7 @@ FILE_MARK, FILE_LIMIT = 400, 600
 FOLDER_LIMIT = 25
 
 CONTROL = re.compile(r"\b(if|for|while|switch|catch|do|else|try|return|namespace|class|struct|union|enum|extern)\b")
-# What may stand between the parentheses of a signature and its body.
+# What may come between the parentheses of a signature and its body.
 AFTER_SIGNATURE = re.compile(r"\)\s*((const|noexcept|override|final|mutable|&&?|->\s*[\w:<>,\s*&]+|:[^;{}]*(\{[^{}]*\}[^;{}]*)*)\s*)*$")
 SCRIPT_SIGNATURE = re.compile(r"(\bfunction\b[^{}]*\)|[\w$]+\s*\([^{}]*\)|=>)\s*$")
 

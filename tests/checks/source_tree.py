@@ -34,12 +34,12 @@ def _blank(text):
 
 
 def without_comments(text):
-    """C++ or JavaScript text with its comments blanked, line for line."""
+    """C++ or JavaScript text with its comments blanked out, line by line."""
     return _TOKENS.sub(lambda m: _blank(m.group()) if m.group().startswith(("//", "/*")) else m.group(), text)
 
 
 def code_only(text):
-    """Text with comments and the insides of literals blanked, line for line."""
+    """Text with comments and the contents of literals blanked out, line by line."""
     return _TOKENS.sub(lambda m: _blank(m.group()), text)
 
 

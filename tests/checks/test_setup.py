@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""tools/setup.sh on machines that are not this one: made of stand-ins for apt-get, dpkg-query, id and sudo."""
+"""tools/setup.sh on other machines: simulated by stand-ins for apt-get, dpkg-query, id and sudo."""
 import os
 import shutil
 import subprocess
@@ -10,7 +10,7 @@ from pathlib import Path
 SETUP = Path(__file__).resolve().parents[2] / "tools/setup.sh"
 TOOLS = "bash env cat comm sort sed tail tr dirname mktemp rm printf touch".split()
 DPKG_QUERY = """#!/bin/bash
-# Says of each asked package that a file of its name lies in the folder of installed ones.
+# Says of each requested package that a file of its name is in the folder of installed ones.
 for package in "${@:3}"; do [ ! -e "$INSTALLED/$package" ] || echo "$package installed"; done
 """
 APT_GET = """#!/bin/bash

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""texts.py finds what it is there for in a small tree with faults, and reads modules as they stand."""
+"""texts.py finds the faults in a small tree, and reads modules as they are."""
 import contextlib
 import io
 import json

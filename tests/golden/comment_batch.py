@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
 """comment_batch.py SCRIPT_RUNNER own|CORPUS WORK_FOLDER: the comment of every picture is changed, and nothing else.
 
-Copies of all pictures get one comment after the other. Then programs that are not ours look at them: exiftool must read the
-comment back and find every other tag, embedded pictures and maker notes included, as it was before; vips must decode the
-same pixels. The bytes of a JPEG outside its EXIF segments are compared one by one, and files that cannot hold a comment as
-a whole. Ends with 77 where there is no corpus.
+Copies of all pictures get one comment after the other. Then programs that are not ours check them: exiftool must read
+the comment back and find every other tag, embedded pictures and maker notes included, as it was before; vips must
+decode the same pixels. The bytes of a JPEG outside its EXIF segments are compared one by one, and files that cannot
+hold a comment as a whole. Ends with 77 if there is no corpus.
 """
 import hashlib
 import json
@@ -22,7 +22,7 @@ FOLDERS = ("exif-real", "metadata", "formats", "orientation", "dpi", "broken")
 WRITABLE = ("JPEG", "TIFF", "PNG", "JP2", "WEBP", "Extended WEBP", "DNG", "BigTIFF")
 COMMENTS = ["Plain words, 1 to 9", "Grüße aus Århus: ça va à l'œil", "Ελληνικά: Καλημέρα κόσμε", "写真の説明、東京にて。한국어 설명",
             "On the beach 🏖️ 😀 👩‍👩‍👧", "short", "Ж" * 3000, "", "x"]
-# What tells where in the file something lies, or when and how large the file is.
+# Tags with positions in the file, or the dates and size of the file.
 PLACES = re.compile(r"^(System:|ExifTool:Warning|.*:UserComment$|.*:MPImageStart$|File:FileSize|Composite:)")
 SCRIPT = """
 import { mMeta } from "quorlin";

@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
 """conversion_matrix.py SCRIPT_RUNNER own|CORPUS WORK_FOLDER: pictures of every readable type to every target, read by others.
 
-One run of the script runner converts them all. exiftool, ImageMagick, poppler, libtiff and OpenJPEG then look at what was
-written, and what they find is held against the table of promises in tools/formats.py. Ends with 77 where there is no corpus.
+One run of the script runner converts them all. exiftool, ImageMagick, poppler, libtiff and OpenJPEG then check what was
+written, and their findings are compared with the table of promises in tools/formats.py. Ends with 77 if there is no
+corpus.
 """
 import json
 import re
@@ -25,7 +26,7 @@ PHOTOS = ("formats/flower.jpg", "formats/photo.jpg")
 MOST_PIXELS = 1_300_000
 # Two of 255, which nobody sees.
 TWO_LEVELS = 2 / 255
-# Pictures of a series of which a few say all.
+# A few representatives of each series of similar pictures.
 SOME = {"orientation": re.compile(r"landscape_[368]|portrait_5|exif_imagemagick|g4_|webp|avif|turned|container"),
         "exif-real": re.compile(r"DSCN|Pentax|Reagan|uc-unicode|i18n|bug528|Canon_40D|Paint"), "dpi": re.compile(""), "metadata": re.compile(""),
         "formats": re.compile("")}
@@ -55,7 +56,7 @@ def run(*words, check=True):
 
 
 def tags_of(paths):
-    """{path: {group: {tag: value}}} as exiftool tells."""
+    """{path: {group: {tag: value}}} as reported by exiftool."""
     text = run("exiftool", "-json", "-G1", "-n", "-a", "-struct", "-charset", "filename=utf8", *paths, check=False)
     found = {}
     for entry in json.loads(text):
@@ -67,7 +68,7 @@ def tags_of(paths):
 
 
 def pixels_of(paths):
-    """{path: {depth, alpha, signature}} as ImageMagick tells of the first picture in each."""
+    """{path: {depth, alpha, signature}} as reported by ImageMagick for the first picture in each."""
     found = {}
     text = run("identify", "-format", r"%i|%m|%w|%h|%z|%A|%[colorspace]|%Q|%#\n", *[f"{path}[0]" for path in paths], check=False)
     for line in text.split("\n"):
@@ -78,7 +79,7 @@ def pixels_of(paths):
 
 
 def page_of(path):
-    """The one page of a PDF file and the images on it, as poppler tells."""
+    """The one page of a PDF file and the images on it, as reported by poppler."""
     info = run("pdfinfo", path)
     size = re.search(r"Page size:\s+([\d.]+) x ([\d.]+)", info)
     images = [line.split() for line in run("pdfimages", "-list", path).split("\n")[2:] if line]
@@ -87,7 +88,8 @@ def page_of(path):
 
 
 def others_in(groups):
-    """What a TIFF file says of the channels behind its colours: "1" and "2" are transparency, "0" is something else."""
+    """What a TIFF file says about the channels after its colours: "1" and "2" are transparency, "0" is something else.
+    """
     return str(groups.get("IFD0", {}).get("ExtraSamples", "")).split()
 
 
@@ -164,7 +166,7 @@ class Matrix:
         # Floating point stays in TIFF, and becomes 16 bits elsewhere.
         most = 32 if row["bit_depth"] == "32" and target == "tiff" else 16
         depth = int(page["images"][0]["bpc"]) if page is not None and page["images"] else int(self.pixels.get(path, {}).get("depth", 0))
-        # ImageMagick tells the depth that the pixels need, not the file's.
+        # ImageMagick reports the depth that the pixels need, not the file's.
         right = depth == (most if deep else 8) or (page is None and not deep and 1 <= depth <= 8)
         self.expect(right, row, target, f"{depth} bits instead of {most if deep else 8}")
 
@@ -230,13 +232,13 @@ class Matrix:
             self.expect(tags.get("IFD0", {}).get("Make") == source["IFD0"]["Make"], row, target, "the camera is lost")
 
     def colours_of(self, path):
-        """A signature of the colours alone where there are other channels."""
+        """A signature of the colours alone if there are other channels."""
         if others_in(self.tags.get(path, {})):
             return run("convert", f"{path}[0]", "-alpha", "off", "-format", "%#", "info:")
         return self.pixels.get(path, {}).get("signature")
 
     def check_signatures(self):
-        """Targets without loss hold the same pixels, whoever reads them."""
+        """Lossless targets have the same pixels, whichever program reads them."""
         for number, row in enumerate(self.rows):
             plain = row["icc_profile"] == "-" and row["has_alpha"] == "no" and row["orientation"] in ("-", "1")
             if row["path"] in UNREAD or not plain or row["bit_depth"] != "8" or row["colour_model"] not in ("rgb", "gray"):

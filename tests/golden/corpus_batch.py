@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
 """corpus_batch.py SCRIPT_RUNNER own|CORPUS WORK_FOLDER FOLDER...: a batch over folders of pictures, read back by others.
 
-One run of the script runner resizes every picture in nine ways. Then programs that are not ours (exiftool, vips) look at
-what was written: exactly the files that had to come, each of the right size and type, each decodable to its last byte,
-upright, with the colour profile of its source; and no source has changed by a bit. Ends with 77 where there is no corpus.
+One run of the script runner resizes every picture in nine ways. Then programs that are not ours (exiftool, vips) check
+what was written: exactly the expected files, each of the right size and type, each decodable to its last byte, upright,
+with the colour profile of its source; and no source has changed by a bit. Ends with 77 if there is no corpus.
 """
 import hashlib
 import json
@@ -28,7 +28,7 @@ WRITTEN_AS = {"png": "public.png", "tif": "public.tiff", "tiff": "public.tiff", 
 NOT_SUPPORTED = {"psd", "pdf"}
 # Its second component is smaller than the first, which no decoder here reads; it may come out unread, not wrong.
 MAY_BE_UNREAD = {"formats/00r1_graya_la.jp2"}
-# Where a header promises pixels that the rest of the file does not give, the size may be told all the same.
+# If a header promises pixels that the rest of the file does not contain, the size may be reported nevertheless.
 UNREADABLE = ("no", "partial")
 
 
@@ -56,7 +56,7 @@ def wanted_size(operation, width, height):
 
 
 def written_type(operation, source):
-    """Type identifier of the new file; the status word instead where none is written."""
+    """Type identifier of the new file; the status word if none is written."""
     if operation != "half":
         return {"fill": "public.png", "stretch": "public.jpeg"}.get(operation, operation)
     extension = source.suffix[1:].lower()

@@ -2,10 +2,10 @@
 """corpus_recipes.py QUORLIN_BATCH PICTURES...: 30 recipes over all pictures that can be read, beside what is worked out here and what
 ImageMagick makes of the same pixels.
 
-The size of every result is that of the arithmetic below, planned and made. Of pictures that are not large the results are made: each
-tells what its picture tells (metadata.py). Turns, flips, cuts, frames and backgrounds are the same as ImageMagick's to the bit, what is
-scaled or has other colours is on average at most 1 of 255 away. What both begin with is the picture as this program reads it, which
-pixel_matrix.py holds against other readers.
+The size of every result is that of the arithmetic below, planned and made. For pictures that are not large the results
+are made: each has the metadata of its picture (metadata.py). Turns, flips, crops, frames and backgrounds are
+bit-identical with ImageMagick's; scaled or recoloured pixels differ on average by at most 1 of 255. Both start from the
+picture as this program reads it, which pixel_matrix.py compares with other readers.
 """
 import json
 import math
@@ -20,7 +20,8 @@ from metadata import NOT_COMPARED, problems_of, tags  # noqa: E402 (a program wi
 
 BATCH, FOLDERS = sys.argv[1], sys.argv[2:]
 EXACT, NEAR = 0.0, 1.0
-# CMYK is scaled as it is and becomes RGB after that, where ImageMagick begins with our RGB: these are compared with vips instead.
+# CMYK is scaled as it is and becomes RGB after that, whereas ImageMagick starts from our RGB: these are compared with
+# vips instead.
 IN_OWN_COLOURS = ("tiff_strip_cmyk_jpeg.tif", "pil_sample_cmyk.jpg")
 LARGEST = 300_000  # pixels of a picture whose results are made
 PARTS = 4          # ImageMagick does every recipe with one in so many pictures, another one each time
@@ -140,8 +141,8 @@ def each(*steps):
     return of
 
 
-# The name, what is done, what becomes of the size, the same for ImageMagick (none where only size and metadata are looked at), and how far
-# apart pixels may be.
+# The name, the operation, its effect on the size, the same for ImageMagick (none if only size and metadata are
+# checked), and how far apart pixels may be.
 RECIPES = [
     ("turn", [TURN], swapped, does("-rotate", "90"), EXACT),
     ("turn left", [LEFT], swapped, does("-rotate", "-90"), EXACT),
@@ -205,7 +206,7 @@ def size_of(line):
 
 
 def far_apart(ours, picture, arguments):
-    """How far our result is from ImageMagick's of the same start, of 255; none where that could not be told."""
+    """How far our result is from ImageMagick's of the same start, of 255; none if unknown."""
     told = run(["convert", "-alpha", "on", "(", picture, *arguments, "+repage", "-strip", ")", "(", ours, "-strip", ")", "-metric", "MAE",
                 "-compare", "-format", "%[distortion]", "info:"])
     try:
@@ -237,7 +238,8 @@ def wrong_pixels(name, arguments, most, starts, lines):
 
 
 def wrong_own_colours(base, starts):
-    """Pictures that are scaled in colours that are not RGB, beside those that vips has scaled before they became RGB."""
+    """Pictures that are scaled in colours other than RGB, compared with those that vips has scaled before converting to
+    RGB."""
     for number, path in enumerate(path for path in starts if Path(path).name in IN_OWN_COLOURS):
         scaled_first = base / f"scaled{number}.tif"
         done = run(["vips", "resize", path, scaled_first, "0.5"])
@@ -271,7 +273,7 @@ def over_all(base):
     sources = {path: entry for folder in FOLDERS for path, entry in tags(folder).items()}
     problems = []
     for number, (name, operations, becomes, arguments, most) in enumerate(RECIPES):
-        # A crop that lies outside of a picture leaves nothing.
+        # A crop that is outside a picture leaves nothing.
         big = {path: line for path, line in every.items() if min(size_of(line)) >= LEAST_SIDE}
         problems += wrong_sizes(name, becomes, big, planned(base, operations, big, "--dry-run"))
         wanted = {path: line for path, line in starts.items() if min(size_of(line)) >= LEAST_SIDE}

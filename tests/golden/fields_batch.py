@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
 """fields_batch.py SCRIPT_RUNNER own|CORPUS WORK_FOLDER: the fields of every picture are set, and nothing else changes.
 
-Copies of all pictures get every field. Then programs that are not ours look at them: exiftool must read each field where the metadata
-working group has it, IPTC's digest included, and find every other tag, embedded pictures and maker notes as they were; exif, which is
-libexif, must read what EXIF has of them. Vips must decode the same pixels. Files that
-are not changed themselves are compared as a whole, and exiftool reads their sidecars. Ends with 77 where there is no corpus.
+Copies of all pictures get every field. Then programs that are not ours check them: exiftool must read each field where
+the metadata working group has it, IPTC's digest included, and find every other tag, embedded pictures and maker notes
+as they were; exif, which is libexif, must read what EXIF has of them. Vips must decode the same pixels. Files that are
+not changed themselves are compared as a whole, and exiftool reads their sidecars. Ends with 77 if there is no corpus.
 """
 import json
 import os
@@ -57,7 +57,7 @@ EXIF = {
 }
 # What libexif is asked by number, and says as text.
 LIBEXIF = {"0x010e": FIELDS["caption"][0], "0x013b": "Zoë Müller; A. N. Other", "0x9003": "2019:03:31 14:05:09"}
-# What tells where in the file something lies, how large it is, or belongs to a field.
+# Tags with positions in the file, its size, or values of a field.
 PLACES = re.compile(r"^(SourceFile$|System:|ExifTool:|.*:MPImageStart$|File:(FileSize|CurrentIPTCDigest|FileType|MIMEType)$|Composite:"
                     r"|Photoshop:IPTCDigest$|IPTC:ApplicationRecordVersion$|IFD0:(Rating|RatingPercent)$|XMP-exif:DateTimeOriginal$"
                     r"|XMP-x:XMPToolkit$|RIFF:VP8XFlags$|File:ExifByteOrder$|.*:ThumbnailOffset$|.*Offset$|.*StripOffsets$|.*:PreviewImageStart$"

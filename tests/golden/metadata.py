@@ -2,7 +2,7 @@
 """metadata.py QUORLIN_BATCH FOLDER PICTURES...: what exiftool reads in pictures and in the results that a recipe makes of them.
 
 Each picture is made small and written as six types. Every tag of the source is in each result with its value, or it is one that
-the result cannot have for a reason which stands here, or the report names it as a loss.
+the result cannot have for a reason given here, or the report names it as a loss.
 """
 import json
 import re
@@ -30,9 +30,9 @@ OF_PIXELS = set("""ImageWidth ImageHeight BitsPerSample Compression PhotometricI
 CHANGED = {"ExifImageWidth", "ExifImageHeight", "Orientation"} | OF_PIXELS
 # What says that the file holds raw data, which no result does.
 OF_RAW_FILES = {"DNGVersion", "DNGBackwardVersion", "UniqueCameraModel"}
-# exiftool tells places in maker notes from the beginning of the file.
+# exiftool reports offsets in maker notes from the beginning of the file.
 PLACES = re.compile(r".*(Start|Offset)$")
-# Types without IPTC have it in XMP where that has a name for it; exiftool then tells it under that name.
+# Types without IPTC have it in XMP if that has a name for it; exiftool then reports it under that name.
 IPTC_AS_XMP = {"webp", "avif", "jxl"}
 # What a reader calls the block itself, not what it says.
 OF_BLOCKS = {"XMPToolkit", "CodedCharacterSet", "ApplicationRecordVersion", "EnvelopeRecordVersion"}
@@ -92,7 +92,7 @@ def main(batch, folder, pictures):
     shutil.rmtree(folder, ignore_errors=True)
     folder.mkdir(parents=True)
     (folder / "all.quorlin").write_text(json.dumps(RECIPE), encoding="utf-8")
-    # Some of the pictures are broken, which is told by the status.
+    # Some of the pictures are broken, which their status says.
     subprocess.run([batch, "--quiet", "--keep-tree", "--to", folder / "made", "--report", folder / "report.jsonl", folder / "all.quorlin",
                     *pictures], capture_output=True, check=False, timeout=1500)
     sources = {path: entry for each in pictures for path, entry in tags(each).items()}

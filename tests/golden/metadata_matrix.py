@@ -2,7 +2,8 @@
 """metadata_matrix.py QUORLIN_BATCH PICTURE TOOLS: what results keep of the metadata, every type to every type, read by exiftool.
 
 PICTURE, which has maker notes, gets all other kinds of metadata and becomes a file of every type that is written; each of these becomes
-one of every type. What is in a result is what its source has and its type holds, as the table of tools/formats.py says.
+one of every type. A result contains what its source has and its type can hold, according to the table of
+tools/formats.py.
 """
 import json
 import shutil

@@ -2,8 +2,8 @@
 """own_results.py QUORLIN_BATCH FOLDER [--write]: sharpening, round edges, marks and text, by what is true of them and beside results of
 our own that are kept in FOLDER, which --write makes.
 
-The picture is made here: flat areas, a hard edge, a ramp and some noise. Levels may differ by one from what is kept. Text is not kept,
-since fonts differ: its ink lies in the box that the recipe states, and nothing else changes.
+The picture is made here: flat areas, a hard edge, a ramp and some noise. Levels may differ by one from what is kept.
+Text is not compared, since fonts differ: its ink is inside the box that the recipe states, and nothing else changes.
 """
 import json
 import subprocess

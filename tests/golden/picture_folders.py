@@ -6,7 +6,8 @@ OWN = Path(__file__).resolve().parents[1] / "pictures"
 
 
 def named(word):
-    """The folder for "own", or for the path of the corpus, which QUORLIN_TEST_CORPUS overrides; nothing where it is not there."""
+    """The folder for "own", or for the path of the corpus, which QUORLIN_TEST_CORPUS overrides; nothing if it does not
+    exist."""
     folder = OWN if word == "own" else Path(os.environ.get("QUORLIN_TEST_CORPUS") or word).resolve()
     if (folder / "EXPECT.tsv").exists():
         return folder

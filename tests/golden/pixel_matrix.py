@@ -198,7 +198,7 @@ def on_page(path, work, inks):
 
 
 def is_scan(path):
-    """A JPEG file stands on the page as it was."""
+    """A JPEG file is on the page unchanged."""
     return " jpeg " in run("pdfimages", "-list", path).stdout
 
 
@@ -207,7 +207,8 @@ def chunk(kind, data):
 
 
 def as_png_files(path, work):
-    """The pictures in a PDF file as they stand there: rows that are filtered and compressed as in a PNG are one but for its head."""
+    """The pictures as stored in a PDF file: rows that are filtered and compressed as in a PNG are one without its
+    header."""
     data, made = path.read_bytes(), []
     for found in re.finditer(rb"/Subtype /Image /Width (\d+) /Height (\d+) .*/Predictor 15 /Colors (\d) /BitsPerComponent (\d+) .*"
                              rb"/Length (\d+) >>\s*stream\r?\n", data):
@@ -216,7 +217,7 @@ def as_png_files(path, work):
         made.append(work / f"image-{len(made):03}.png")
         made[-1].write_bytes(b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", head) + chunk(b"IDAT", data[found.end():found.end() + length])
                              + chunk(b"IEND", b""))
-    return made[::-1] # a mask stands in front of what it masks
+    return made[::-1] # a mask precedes what it masks
 
 
 def srgb_of_lab(lightness, a, b):
@@ -311,7 +312,8 @@ def of_ground(one, other, picture, promise):
 
 
 def lost_by_another(picture):
-    """What ImageMagick loses with the same quality: noise and dithered colours suffer more than photographs, whoever writes them."""
+    """What ImageMagick loses with the same quality: noise and dithered colours suffer more than photographs in any
+    encoder."""
     made = picture.work / "theirs.jpg"
     on_black = ["-background", "black", "-alpha", "remove", "-alpha", "off"]
     run("convert", "-quiet", picture.raw, *on_black, "-quality", "90", "-sampling-factor", "1x1", made)

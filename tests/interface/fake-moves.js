@@ -1,5 +1,5 @@
-// Stands for the move engine: paths that are taken, paths whose wish is refused with a code, and wishes of which the first gets
-// a place; no swaps.
+// Simulates the move engine: paths that are taken, paths whose request is refused with a code, and requests of which
+// the first gets a place; no swaps.
 
 export class FakeMoves {
     /** @param refused  {path that is wished for: code} */

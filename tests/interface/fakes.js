@@ -61,7 +61,7 @@ export class FakeFiles {
             .forEach((path) => { delete this.entries[path]; });
     }
 
-    // Folders that are other spellings of one are told in `same`: {spelling: folder}.
+    // Folders that are other spellings of one are listed in `same`: {spelling: folder}.
     folderIdentity(folder) {
         return (this.same || {})[folder] || folder;
     }
@@ -192,7 +192,7 @@ export class FakePicture {
 }
 FakePicture.all = [];
 
-/** Services of which every file that a step asks for has that size; status is what the image service answers. */
+/** Services for which every file has that size; status is the answer of the image service. */
 export function fakeServices(written, status) {
     const files = new FakeFiles({});
     const outlets = {

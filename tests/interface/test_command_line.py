@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""test_command_line.py PROGRAM: what the program answers where there is no display, and when it aborts (never)."""
+"""test_command_line.py PROGRAM: what the program answers without a display, and that it never aborts."""
 import os
 import subprocess
 import sys

@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 """test_full_disk.py SCRIPT_RUNNER SCRIPT PICTURE: a conversion that did not fit on the disk does not say that all is well.
 
-A limit on the size of files stands for the disk: the picture alone fits, the picture with its metadata does not. Nothing half stays.
+A limit on the size of files simulates a full disk: the picture alone fits, the picture with its metadata does not. No
+partial file remains.
 """
 import json
 import os

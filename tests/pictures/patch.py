@@ -7,7 +7,7 @@ from pathlib import Path
 
 
 def orientation(value, path):
-    """Another value in the orientation entry, which stands there as 6."""
+    """Another value in the orientation entry, which is 6."""
     data = bytearray(Path(path).read_bytes())
     for little, entry in ((True, b"\x12\x01\x03\x00\x01\x00\x00\x00\x06\x00"), (False, b"\x01\x12\x00\x03\x00\x00\x00\x01\x00\x06")):
         at = data.find(entry)
@@ -54,7 +54,7 @@ def box(data, kind):
 
 
 def container_turn(quarters, source, target):
-    """A turn by the container itself: a property "irot" of the primary picture, behind all other properties."""
+    """A rotation by the container itself: a property "irot" of the primary picture, after all other properties."""
     data = bytearray(Path(source).read_bytes())
     properties_at, properties_size = box(data, b"ipco")
     end, number, at = properties_at + properties_size, 0, properties_at + 8
@@ -62,7 +62,7 @@ def container_turn(quarters, source, target):
         at += struct.unpack(">I", data[at:at + 4])[0]
         number += 1
     primary = data[box(data, b"pitm")[0] + 12:][:2]
-    entry = box(data, b"ipma")[0] + 16  # behind size, kind, version, flags and the number of entries
+    entry = box(data, b"ipma")[0] + 16  # after size, kind, version, flags and the number of entries
     while data[entry:entry + 2] != primary:
         entry += 3 + data[entry + 2]
     data[entry + 2] += 1
@@ -77,7 +77,7 @@ def container_turn(quarters, source, target):
 
 
 def shift_items(data, by):
-    """What lies behind the boxes lies further back; "iloc" of version 0 or 1 says where, with four bytes a place."""
+    """What follows the boxes moves further back; "iloc" of version 0 or 1 says where, with four bytes per offset."""
     at, _ = box(data, b"iloc")
     version, base = data[at + 8], data[at + 13] >> 4
     place = at + 16

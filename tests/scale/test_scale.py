@@ -96,7 +96,7 @@ class World:
 
     def shared(self):
         self.run(block("shared"), statuses=(0, 1), I="1")
-        # Another host, killed in the midst and begun again.
+        # Another host, killed half-way and started again.
         command = block("shared")
         process = subprocess.Popen(["sh", "-c", command], cwd=self.folder, start_new_session=True,
                                    env={**self.environment, "I": "2"}, stderr=subprocess.DEVNULL)

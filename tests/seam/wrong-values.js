@@ -1,5 +1,5 @@
 // Calls every operation, and sets every field, of every service, stand-in and desk with values of every wrong kind.
-// It prints what breaks the contract: an answer that is undefined, or an error of a kind that no operation raises.
+// It prints violations of the contract: an answer that is undefined, or an error of a kind that no operation raises.
 //
 // Arguments: a folder of its own, and "pairs" for two wrong values at a time as well.
 

@@ -53,7 +53,7 @@ test("asksForNameDateAndColourWhereTheyAreNotAsUsual", () => {
     equal(output({ namePattern: "{name}-{counter:01}" }), { name: "{name}-{counter:01}", type: "tiff" });
     equal(output({ dates: "keep" }), { dates: "keep", type: "tiff" });
     equal(output({ matte: "#102030" }), { matte: "#102030", type: "tiff" });
-    // Where results lie is another matter.
+    // The destination of results is another matter.
     equal(output({ keepSubfolders: true, destination: { kind: "folder", name: "", path: "/out" } }), { type: "tiff" });
 });
 
@@ -96,7 +96,7 @@ test("makesTheFileThatItPlanned", () => {
 
 test("failsWhereTheFileIsNotAsPlanned", () => {
     equal(resize.run(lake, settings({}), recipeServices({ width: 401 })).status, "Failed");
-    // A picture that is not encoded again may lie on its side, and no other may.
+    // A picture that is not encoded again may stay stored sideways, but no other.
     const turned = (isLossless) => resize.run(lake, settings({}), recipeServices({ width: 300, height: 400,
                                                                                    lossless: isLossless }));
     equal([turned(true).status, turned(true).width, turned(true).height], ["OK", 300, 400]);

@@ -1,4 +1,4 @@
-// What the preferences keep, with a stand-in for the user's defaults.
+// What the preferences store, with a stand-in for the user's defaults.
 
 import { equal, finish, test } from "../check.js";
 import { firstSettings, keepWish, wishes } from "../../../interface/lib/wishes.js";

@@ -1,6 +1,7 @@
 // Makes pictures by settings that no supplied preset has, as the window does, and prints their presets:
 //     quorlin-script make-by-presets.js FOLDER PICTURE...
-// Results lie in a folder beside each picture, which is named after the preset; those of the preset "Tree" in the folder FOLDER-tree.
+//     Results go to a folder beside each picture, named after the preset; those of the preset "Tree" to the folder
+//     FOLDER-tree.
 
 import { files } from "quorlin/files";
 import { copyOf } from "../../../interface/lib/copies.js";

@@ -325,7 +325,7 @@ test("saysWhyAPresetCannotBeWrittenAndKeepsTheOldOne", () => {
     equal([file.rows.length, store.list("resize")[0].settings.longest], [1, 1]);
 });
 
-// The engine does not tell a module where it lies, but a stack does.
+// The engine does not tell a module its path, but a stack does.
 const PATTERNS = new Error("").stack.match(/(?:file:\/\/)?(\/[^\n]*)\/tests\/interface\/presets\//)[1]
     + "/interface/patterns";
 

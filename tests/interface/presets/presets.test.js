@@ -178,7 +178,7 @@ test("needsALaterVersionForLaterTypes", () => {
         equal(["public.jp2", "org.webmproject.webp", "public.avif", "public.jpeg-xl"].map((type) => mark(action, type)),
               ["Quorlin 1", "Quorlin 2", "Quorlin 2", "Quorlin 2"]);
     }
-    // Each has a version of its own for what is left as it is where nothing changed.
+    // Each has a separate version for what is left unchanged.
     const current = (action) => {
         const settings = copyOf(STANDARD[action]);
         settings.output.ifTaken = "current";

@@ -128,7 +128,7 @@ test("writesAllAndRevertsThemFromTheLastOn", () => {
     equal(comments.texts, { "/p/a.jpg": "one", "/p/b.jpg": "two", "/p/locked.jpg": "three" });
 });
 
-// What stands in the file when an edit from "one" to "new" is reverted, and what becomes of it.
+// The content of the file when an edit from "one" to "new" is reverted, and the outcome.
 const REVERTS = [
     ["as it was written", "/p/a.jpg", "new", "OK", ""],
     ["changed since", "/p/a.jpg", "somebody else's", "Skipped", "“somebody else's”"],

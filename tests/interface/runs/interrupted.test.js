@@ -2,7 +2,7 @@ import { interruptedPictures } from "../../../interface/runs/interrupted.js";
 import { equal, finish, test } from "../check.js";
 import { FakeFiles } from "../fakes.js";
 
-// Records by their paths, and what became of them.
+// Records by their paths, and their outcome.
 class FakeRecords {
     constructor(texts) {
         this.texts = texts;

@@ -1,7 +1,7 @@
 import { revertWords, undoAction, undoing, undoWords, unableSteps } from "../../../interface/runs/undo-run.js";
 import { drain, equal, finish, isTrue, test } from "../check.js";
 
-// Runs as the move engine tells of them, and an undo of three files of which the second fails.
+// Runs as the move engine reports them, and an undo of three files of which the second fails.
 function engine(changes) {
     const results = [{ index: 0, status: "OK", message: "", path: "/p/a.jpg" },
                      { index: 1, status: "Failed", message: "locked", path: "" },
@@ -27,7 +27,7 @@ const BEGUN = {
 
 const UNDONE = { id: "r1", process: "Rename", action: undoAction(false) };
 
-// Comments that a run changed, how many of them were reverted since, and what is said of it.
+// Comments that a run changed, how many of them were reverted since, and the message about it.
 const REVERTS = [
     [3, 0, true, "3 comments can be reverted."], [1, 0, true, "1 comment can be reverted."],
     [3, 1, true, "2 comments can be reverted. 1 has already been reverted."],

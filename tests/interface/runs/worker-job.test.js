@@ -19,7 +19,7 @@ const step = {
     },
 };
 
-// Makes what it is told to, when it is told to: begin() takes what waits, make(number) finishes one.
+// Makes results on request: begin() queues, make(number) finishes one.
 class FakeWork {
     constructor(files, room) {
         this.files = files;
