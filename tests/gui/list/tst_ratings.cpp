@@ -118,7 +118,7 @@ void Ratings::keysRateTheChosenRows()
 void Ratings::keysGoThroughTheWindow()
 {
     begin();
-    Hand hand;
+    clicks::Hand hand;
     auto &list = m_driver->pictures();
     hand.click(*list.viewport(), list.visualRect(list.model()->index(0, PictureModel::Name)).center());
     for (const char *key : {"3", "Down", "4", "Down", "5"})
