@@ -5,7 +5,7 @@ import { runRecords } from "quorlin/records";
 import { shell } from "quorlin/shell";
 import { guard } from "../lib/guard.js";
 import { Flow } from "./making/flow.js";
-import { Replacing } from "./making/replacing.js";
+import { replacedFolder, Replacing } from "./making/replacing.js";
 import { RunRecord } from "./making/run-record.js";
 import { runByWorkers } from "./making/worker-job.js";
 import { emptyTable, splitPath } from "../lib/names.js";
@@ -151,7 +151,8 @@ export class WriteRun extends BaseRun {
 
     /** What happens to originals that are replaced. */
     replacedText(bytes) {
-        return fill(qsTr("The replaced files (%1) go to the trash. Undo brings them back."), bytes);
+        return fill(qsTr("The replaced files (%1) go to the trash. Undo brings them back."), bytes) + "\n"
+            + fill(qsTr("On a disk without a trash they are kept in the folder “%1”."), replacedFolder());
     }
 
     endSimulation() {

@@ -1292,7 +1292,7 @@
     </message>
     <message>
         <source>Show the picture large, if it still exists (Return)</source>
-        <translation>Bild groß zeigen, falls es noch da ist (Eingabe)</translation>
+        <translation>Bild groß zeigen, falls es noch da ist (Eingabetaste)</translation>
     </message>
     <message>
         <source>Show in Folder</source>
@@ -11914,6 +11914,10 @@
     <message>
         <source>Undo</source>
         <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>On a disk without a trash they are kept in the folder “%1”.</source>
+        <translation>Auf Datenträgern ohne Papierkorb bleiben sie im Ordner „%1“ erhalten.</translation>
     </message>
 </context>
 <context>

@@ -7923,7 +7923,7 @@
     </message>
     <message>
         <source>%1 cannot hold the colour profile: colours become sRGB</source>
-        <translation>%1 ne peut pas contenir le profil colorimétrique&amp;#x202f;: les couleurs passent en sRGB</translation>
+        <translation>%1 ne peut pas contenir le profil colorimétrique&#x202f;: les couleurs passent en sRGB</translation>
     </message>
     <message>
         <source>%1 has at most 256 colours</source>
@@ -11914,6 +11914,10 @@
     <message>
         <source>Undo</source>
         <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>On a disk without a trash they are kept in the folder “%1”.</source>
+        <translation>Sur un disque sans corbeille, ils sont conservés dans le dossier «&#x202f;%1&#x202f;».</translation>
     </message>
 </context>
 <context>

@@ -11915,6 +11915,10 @@
         <source>Undo</source>
         <translation>Ongedaan maken</translation>
     </message>
+    <message>
+        <source>On a disk without a trash they are kept in the folder “%1”.</source>
+        <translation>Op een schijf zonder prullenbak blijven ze bewaard in de map “%1”.</translation>
+    </message>
 </context>
 <context>
     <name>writes</name>

@@ -4,8 +4,9 @@
 
 import { joinPath } from "../../lib/names.js";
 
-function dayText(date) {
-    return date.toISOString().slice(0, 10);
+/** The name of the folder, beside a replaced file, that keeps it if its disk has no trash. */
+export function replacedFolder() {
+    return qsTr("Replaced") + " " + new Date().toISOString().slice(0, 10);
 }
 
 export class Replacing {
@@ -21,7 +22,7 @@ export class Replacing {
         this.record = null;
         this.run = "";
         this.count = 0;
-        this.folder = qsTr("Replaced") + " " + dayText(new Date());
+        this.folder = replacedFolder();
     }
 
     begin() {

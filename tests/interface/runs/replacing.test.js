@@ -1,4 +1,4 @@
-import { Replacing, settleReplaced } from "../../../interface/runs/making/replacing.js";
+import { replacedFolder, Replacing, settleReplaced } from "../../../interface/runs/making/replacing.js";
 import { equal, finish, isTrue, test } from "../check.js";
 import { FakeFiles } from "../fakes.js";
 
@@ -15,6 +15,7 @@ class World {
             add: (run, wish) => {
                 this.told.push(wish.kind);
                 this.last = wish;
+                this.moved = wish.kind === "move" ? wish.to : this.moved;
                 return answers[wish.kind] || { status: "OK", message: "", path: "" };
             },
             takeBack: (run) => { this.told.push("takeBack " + run); },
@@ -51,6 +52,8 @@ test("movesTheOldFileAsideWhereThereIsNoTrash", () => {
     const other = new World({ trash: NO });
     equal(other.put().status, "OK");
     equal(other.replacing.count, 1);
+    // The folder that the question before the run names.
+    equal(other.moved, "/out/" + replacedFolder() + "/a.jpg");
 });
 
 test("putsTheOldFileBackWhereTheResultCannotTakeItsPlace", () => {
