@@ -47,8 +47,12 @@ LITERAL = re.compile(r'"((?:[^"\\\n]|\\.)*)"')
 ROOMS = ("app", "views", "image", "jobs", "files", "meta", "presets", "text", "platform", "tools")
 
 
+# An entity that was escaped once more is read as it is typed.
+ESCAPED = re.compile(r"&(?:#\w+|amp|lt|gt|quot|nbsp);")
+
+
 def patterns(language):
-    return [re.compile(rf"(?<![\w’]){phrase}(?![\w])", re.I) for phrase in PHRASES[language]]
+    return [re.compile(rf"(?<![\w’]){phrase}(?![\w])", re.I) for phrase in PHRASES[language]] + [ESCAPED]
 
 
 def sentences(text):

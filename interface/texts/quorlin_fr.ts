@@ -10531,11 +10531,11 @@
     </message>
     <message>
         <source>Nothing is lost: pixels, transparency, 16 bits, colour profile and metadata are kept.</source>
-        <translation>Aucune perte&amp;amp;#x202f;: pixels, transparence, 16 bits, profil colorimétrique et métadonnées sont conservés.</translation>
+        <translation>Aucune perte&#x202f;: pixels, transparence, 16 bits, profil colorimétrique et métadonnées sont conservés.</translation>
     </message>
     <message>
         <source>Nothing is lost: pixels, transparency, 16 bits, CMYK, colour profile and metadata are kept. Large files.</source>
-        <translation>Aucune perte&amp;amp;#x202f;: pixels, transparence, 16 bits, CMJN, profil colorimétrique et métadonnées sont conservés. Gros fichiers.</translation>
+        <translation>Aucune perte&#x202f;: pixels, transparence, 16 bits, CMJN, profil colorimétrique et métadonnées sont conservés. Gros fichiers.</translation>
     </message>
     <message>
         <source>One page of the size of the picture. A JPEG is included unchanged, other types without loss. Metadata is kept as far as XMP can hold it.</source>

@@ -179,7 +179,8 @@ class Texts(unittest.TestCase):
 
     def test_finds_phrases_of_each_language(self):
         for translation, language in (("Bitte warten", "de"), ("Das Bild geht mit", "de"), ("Veuillez patienter", "fr"),
-                                      ("5 pour cent", "fr"), ("Foto gaat mee", "nl"), ("In de prullenmand", "nl")):
+                                      ("5 pour cent", "fr"), ("Type&amp;#x202f;: JPEG", "fr"), ("Foto gaat mee", "nl"),
+                                      ("In de prullenmand", "nl")):
             self.say("Wait", translation)
             self.assert_finds(f"quorlin_{language}.ts: says ")
         self.table("nl", "Localizable", {"isSave": "%1, alstublieft"})
