@@ -105,7 +105,7 @@ def groups_for(where):
         return GROUPS
     if where in ("tools/bare", "tools/minimal-root.sh"):
         return {"build", "run", "test", "bare"}
-    if where in ("tools/package", "tools/try-package"):
+    if where in ("tools/package", "tools/try-package", "tools/compare-packages"):
         return {"build", "package", "bare"}
     if where == "tests/checks/format.py" or where.endswith("Lint.cmake"):
         return {"build", "run", "test", "lint"}
