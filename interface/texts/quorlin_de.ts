@@ -5198,7 +5198,7 @@
     </message>
     <message>
         <source>Cancelled. Nothing was moved.</source>
-        <translation>Abgebrochen. Nichts wurde verschoben.</translation>
+        <translation>Abgebrochen. Es wurde nichts verschoben.</translation>
     </message>
     <message>
         <source>Dry run: %1</source>
@@ -9575,7 +9575,7 @@
     <name>settings-watch</name>
     <message>
         <source>Settings cannot be saved. Your changes apply until you quit.</source>
-        <translation>Einstellungen können nicht gespeichert werden. Änderungen gelten bis zum Beenden.</translation>
+        <translation>Einstellungen können nicht gespeichert werden. Ihre Änderungen gelten bis zum Beenden.</translation>
     </message>
 </context>
 <context>
@@ -10182,10 +10182,10 @@
         <translation>Nur Bilder mit %1 werden verarbeitet: %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n stars and more</source>
+        <source>%n stars or more</source>
         <translation>
-            <numerusform>%n Stern und mehr</numerusform>
-            <numerusform>%n Sternen und mehr</numerusform>
+            <numerusform>%n Stern oder mehr</numerusform>
+            <numerusform>%n Sternen oder mehr</numerusform>
         </translation>
     </message>
 </context>
@@ -10578,7 +10578,7 @@
         <translation>Sehr kleine Dateien für Webseiten, deren Schreiben am längsten dauert. Je niedriger die Qualität, desto mehr Details gehen verloren. Aus 16 Bit werden 8. Transparenz, Farbprofil und Metadaten bleiben erhalten.</translation>
     </message>
     <message>
-        <source>Small files for archives. The lower the quality, the more detail is lost. Transparency, 16 bits, colour profile and metadata are kept. Few programs can open it.</source>
+        <source>Small files for archives. The lower the quality, the more detail is lost. Transparency, 16 bits, colour profile and metadata are kept. Few programs can open them.</source>
         <translation>Kleine Dateien für Archive. Je niedriger die Qualität, desto mehr Details gehen verloren. Transparenz, 16 Bit, Farbprofil und Metadaten bleiben erhalten. Nur wenige Programme können sie öffnen.</translation>
     </message>
 </context>
@@ -10908,8 +10908,8 @@
         <translation>vertikal spiegeln</translation>
     </message>
     <message>
-        <source>Enter an angle from -180 to 180 degrees.</source>
-        <translation>Geben Sie einen Winkel von -180 bis 180 Grad ein.</translation>
+        <source>Enter an angle from −180 to 180 degrees.</source>
+        <translation>Geben Sie einen Winkel von −180 bis 180 Grad ein.</translation>
     </message>
     <message>
         <source>Choose an angle or a flip.</source>
@@ -11182,8 +11182,8 @@
         <translation>Geben Sie eine Deckkraft von 1 % bis 100 % ein.</translation>
     </message>
     <message>
-        <source>Enter an angle from -180 to 180 degrees.</source>
-        <translation>Geben Sie einen Winkel von -180 bis 180 Grad ein.</translation>
+        <source>Enter an angle from −180 to 180 degrees.</source>
+        <translation>Geben Sie einen Winkel von −180 bis 180 Grad ein.</translation>
     </message>
 </context>
 <context>
@@ -11591,10 +11591,10 @@
         <translation>Alle Bewertungen zeigen</translation>
     </message>
     <message numerus="yes">
-        <source>Only %n stars and more</source>
+        <source>Only %n stars or more</source>
         <translation>
-            <numerusform>Nur %n Stern und mehr</numerusform>
-            <numerusform>Nur %n Sterne und mehr</numerusform>
+            <numerusform>Nur %n Stern oder mehr</numerusform>
+            <numerusform>Nur %n Sterne oder mehr</numerusform>
         </translation>
     </message>
 </context>
@@ -11819,7 +11819,7 @@
     </message>
     <message>
         <source>Cancelled. Nothing was written.</source>
-        <translation>Abgebrochen. Nichts wurde geschrieben.</translation>
+        <translation>Abgebrochen. Es wurde nichts geschrieben.</translation>
     </message>
     <message numerus="yes">
         <source>Dry run: %n pictures would be written</source>
@@ -12049,7 +12049,7 @@
     </message>
     <message>
         <source>Cancelled. Nothing was written.</source>
-        <translation>Abgebrochen. Nichts wurde geschrieben.</translation>
+        <translation>Abgebrochen. Es wurde nichts geschrieben.</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -12232,7 +12232,7 @@
     </message>
     <message>
         <source>originals are changed, can be reverted</source>
-        <translation>Originale werden geändert, kann zurückgesetzt werden</translation>
+        <translation>Originale werden geändert, lässt sich zurücksetzen</translation>
     </message>
     <message>
         <source>Change</source>
@@ -12841,7 +12841,7 @@
     </message>
     <message>
         <source>EXIF, IPTC and XMP of %1 disagree. What is written makes them agree.</source>
-        <translation>EXIF, IPTC und XMP von %1 widersprechen sich. Was geschrieben wird, steht danach in allen gleich.</translation>
+        <translation>EXIF, IPTC und XMP von %1 widersprechen sich. Was Sie schreiben, steht danach überall gleich.</translation>
     </message>
     <message>
         <source>Import…</source>

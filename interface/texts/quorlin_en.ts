@@ -950,10 +950,10 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n stars and more</source>
+        <source>%n stars or more</source>
         <translation>
-            <numerusform>%n star and more</numerusform>
-            <numerusform>%n stars and more</numerusform>
+            <numerusform>%n star or more</numerusform>
+            <numerusform>%n stars or more</numerusform>
         </translation>
     </message>
 </context>
@@ -1058,10 +1058,10 @@
 <context>
     <name>window::PictureTable</name>
     <message numerus="yes">
-        <source>Only %n stars and more</source>
+        <source>Only %n stars or more</source>
         <translation>
-            <numerusform>Only %n star and more</numerusform>
-            <numerusform>Only %n stars and more</numerusform>
+            <numerusform>Only %n star or more</numerusform>
+            <numerusform>Only %n stars or more</numerusform>
         </translation>
     </message>
 </context>

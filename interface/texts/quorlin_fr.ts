@@ -861,7 +861,7 @@
     </message>
     <message>
         <source>A picture is taking a long time to read.</source>
-        <translation>La lecture d’une image est longue.</translation>
+        <translation>La lecture d’une image prend du temps.</translation>
     </message>
     <message>
         <source>Do Not Wait</source>
@@ -5198,7 +5198,7 @@
     </message>
     <message>
         <source>Cancelled. Nothing was moved.</source>
-        <translation>Arrêté. Rien n’a été déplacé.</translation>
+        <translation>Annulé. Rien n’a été déplacé.</translation>
     </message>
     <message>
         <source>Dry run: %1</source>
@@ -9624,7 +9624,7 @@
     </message>
     <message>
         <source>Cancelled. Nothing was written.</source>
-        <translation>Arrêté. Rien n’a été écrit.</translation>
+        <translation>Annulé. Rien n’a été écrit.</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -10089,7 +10089,7 @@
     </message>
     <message>
         <source>A folder name cannot consist of spaces only.</source>
-        <translation>Le nom d’un dossier ne peut pas être fait d’espaces seulement.</translation>
+        <translation>Le nom d’un dossier ne peut pas se composer uniquement d’espaces.</translation>
     </message>
     <message>
         <source>A folder name is too long.</source>
@@ -10182,7 +10182,7 @@
         <translation>Seules les images avec %1 sont traitées&#x202f;: %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n stars and more</source>
+        <source>%n stars or more</source>
         <translation>
             <numerusform>%n étoile et plus</numerusform>
             <numerusform>%n étoiles et plus</numerusform>
@@ -10543,7 +10543,7 @@
     </message>
     <message>
         <source>Visually lossless. Transparency, 16 bits and metadata are kept, and most colour profiles. Few programs can open it.</source>
-        <translation>Sans perte visible. Transparence, 16 bits, métadonnées et la plupart des profils colorimétriques sont conservés. Peu de programmes peuvent l’ouvrir.</translation>
+        <translation>Sans perte visible. Transparence, 16 bits, métadonnées et la plupart des profils colorimétriques sont conservés. Peu de programmes peuvent ouvrir ce format.</translation>
     </message>
     <message>
         <source>At most 256 colours. A pixel is either transparent or not. Colours become sRGB. Metadata is kept as far as XMP can hold it.</source>
@@ -10578,8 +10578,8 @@
         <translation>Très petits fichiers pour les pages web. C’est le type le plus long à écrire. Plus la qualité est basse, plus les détails se perdent. Les 16 bits sont réduits à 8. Transparence, profil colorimétrique et métadonnées sont conservés.</translation>
     </message>
     <message>
-        <source>Small files for archives. The lower the quality, the more detail is lost. Transparency, 16 bits, colour profile and metadata are kept. Few programs can open it.</source>
-        <translation>Petits fichiers pour les archives. Plus la qualité est basse, plus les détails se perdent. Transparence, 16 bits, profil colorimétrique et métadonnées sont conservés. Peu de programmes peuvent l’ouvrir.</translation>
+        <source>Small files for archives. The lower the quality, the more detail is lost. Transparency, 16 bits, colour profile and metadata are kept. Few programs can open them.</source>
+        <translation>Petits fichiers pour les archives. Plus la qualité est basse, plus les détails se perdent. Transparence, 16 bits, profil colorimétrique et métadonnées sont conservés. Peu de programmes peuvent les ouvrir.</translation>
     </message>
 </context>
 <context>
@@ -10908,8 +10908,8 @@
         <translation>miroir vertical</translation>
     </message>
     <message>
-        <source>Enter an angle from -180 to 180 degrees.</source>
-        <translation>Saisissez un angle de -180 à 180 degrés.</translation>
+        <source>Enter an angle from −180 to 180 degrees.</source>
+        <translation>Saisissez un angle de −180 à 180 degrés.</translation>
     </message>
     <message>
         <source>Choose an angle or a flip.</source>
@@ -11182,8 +11182,8 @@
         <translation>Saisissez une opacité de 1 % à 100 %.</translation>
     </message>
     <message>
-        <source>Enter an angle from -180 to 180 degrees.</source>
-        <translation>Saisissez un angle de -180 à 180 degrés.</translation>
+        <source>Enter an angle from −180 to 180 degrees.</source>
+        <translation>Saisissez un angle de −180 à 180 degrés.</translation>
     </message>
 </context>
 <context>
@@ -11591,7 +11591,7 @@
         <translation>Afficher toutes les notes</translation>
     </message>
     <message numerus="yes">
-        <source>Only %n stars and more</source>
+        <source>Only %n stars or more</source>
         <translation>
             <numerusform>Seulement %n étoile et plus</numerusform>
             <numerusform>Seulement %n étoiles et plus</numerusform>
@@ -11819,7 +11819,7 @@
     </message>
     <message>
         <source>Cancelled. Nothing was written.</source>
-        <translation>Arrêté. Rien n’a été écrit.</translation>
+        <translation>Annulé. Rien n’a été écrit.</translation>
     </message>
     <message numerus="yes">
         <source>Dry run: %n pictures would be written</source>

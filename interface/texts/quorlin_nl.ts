@@ -37,7 +37,7 @@
     </message>
     <message>
         <source>Copy the versions for a bug report</source>
-        <translation>De versies kopiëren voor een foutmelding</translation>
+        <translation>De versies kopiëren voor een foutrapport</translation>
     </message>
 </context>
 <context>
@@ -557,7 +557,7 @@
     </message>
     <message>
         <source>Percentage to trim from width and height</source>
-        <translation>Percentage dat van breedte en hoogte af gaat</translation>
+        <translation>Percentage dat van breedte en hoogte wordt afgesneden</translation>
     </message>
     <message>
         <source>Pixels to trim from width and height</source>
@@ -2262,7 +2262,7 @@
     </message>
     <message>
         <source>Otherwise it is empty. After a crash or an interrupted run it always comes back.</source>
-        <translation>Anders is de lijst leeg. Na een crash of een onderbroken opdracht komt ze altijd terug.</translation>
+        <translation>Anders is de lijst leeg. Na een crash of een onderbroken opdracht komt hij altijd terug.</translation>
     </message>
 </context>
 <context>
@@ -3833,7 +3833,7 @@
     </message>
     <message>
         <source>Enter two numbers above 0 for the ratio.</source>
-        <translation>Voer twee getallen boven 0 in voor de verhouding.</translation>
+        <translation>Geef voor de verhouding twee getallen boven 0 op.</translation>
     </message>
 </context>
 <context>
@@ -5019,7 +5019,7 @@
     </message>
     <message>
         <source>Enter a resolution from 1 to %1 dpi.</source>
-        <translation>Voer een resolutie in van 1 tot %1 dpi.</translation>
+        <translation>Geef een resolutie op van 1 tot %1 dpi.</translation>
     </message>
 </context>
 <context>
@@ -5272,7 +5272,7 @@
     </message>
     <message>
         <source>name in use by %1, which keeps its name</source>
-        <translation>naam in gebruik door %1, dat de naam houdt</translation>
+        <translation>naam in gebruik door %1, dat zijn naam behoudt</translation>
     </message>
     <message>
         <source>name in use by a file that is not in this list</source>
@@ -5324,7 +5324,7 @@
     </message>
     <message>
         <source>ready, only the case changes</source>
-        <translation>gereed, alleen hoofdletters wijzigen</translation>
+        <translation>gereed, alleen hoofdletters veranderen</translation>
     </message>
     <message>
         <source>ready</source>
@@ -5891,31 +5891,31 @@
     </message>
     <message>
         <source>Enter a paper width and height from 20 to 2000 mm.</source>
-        <translation>Voer een breedte en hoogte van het papier in van 20 tot 2000 mm.</translation>
+        <translation>Geef een breedte en hoogte van het papier op van 20 tot 2000 mm.</translation>
     </message>
     <message>
         <source>Enter margins from 0 mm.</source>
-        <translation>Voer marges vanaf 0 mm in.</translation>
+        <translation>Geef marges vanaf 0 mm op.</translation>
     </message>
     <message>
         <source>Enter a gap from 0 mm.</source>
-        <translation>Voer een tussenruimte vanaf 0 mm in.</translation>
+        <translation>Geef een tussenruimte vanaf 0 mm op.</translation>
     </message>
     <message>
         <source>Enter 1 to 20 rows and columns.</source>
-        <translation>Voer 1 tot 20 rijen en kolommen in.</translation>
+        <translation>Geef 1 tot 20 rijen en kolommen op.</translation>
     </message>
     <message>
         <source>Enter text sizes from 3 to 72 points.</source>
-        <translation>Voer tekstgroottes van 3 tot 72 punten in.</translation>
+        <translation>Geef tekstgroottes van 3 tot 72 punten op.</translation>
     </message>
     <message>
         <source>Enter a resolution from 36 to 1200 pixels per inch.</source>
-        <translation>Voer een resolutie van 36 tot 1200 pixels per inch in.</translation>
+        <translation>Geef een resolutie van 36 tot 1200 pixels per inch op.</translation>
     </message>
     <message>
         <source>Enter a quality from 1 to 100.</source>
-        <translation>Voer een kwaliteit van 1 tot 100 in.</translation>
+        <translation>Geef een kwaliteit van 1 tot 100 op.</translation>
     </message>
     <message>
         <source>There is no room for pictures. Use fewer rows or columns, or smaller margins or gaps.</source>
@@ -6425,7 +6425,7 @@
     </message>
     <message>
         <source>The presets database has no table for presets. It was not changed.</source>
-        <translation>De database met voorinstellingen heeft geen tabel voor voorinstellingen. Die is niet gewijzigd.</translation>
+        <translation>De database met voorinstellingen heeft geen tabel voor voorinstellingen. De database is niet gewijzigd.</translation>
     </message>
     <message>
         <source>The presets database is in use by another program or damaged. It was not changed.</source>
@@ -6437,7 +6437,7 @@
     </message>
     <message>
         <source>The presets database is in use by another program, or the disk is full. It was not changed.</source>
-        <translation>De database met voorinstellingen is in gebruik door een ander programma, of de schijf is vol. Die is niet gewijzigd.</translation>
+        <translation>De database met voorinstellingen is in gebruik door een ander programma, of de schijf is vol. De database is niet gewijzigd.</translation>
     </message>
 </context>
 <context>
@@ -6600,7 +6600,7 @@
     </message>
     <message>
         <source>turn right to see it upright</source>
-        <translation>naar rechts draaien voor rechtop</translation>
+        <translation>rechtsom draaien om rechtop te zien</translation>
     </message>
     <message>
         <source>on its right side, mirrored</source>
@@ -6608,7 +6608,7 @@
     </message>
     <message>
         <source>turn left to see it upright</source>
-        <translation>naar links draaien voor rechtop</translation>
+        <translation>linksom draaien om rechtop te zien</translation>
     </message>
     <message>
         <source>fired</source>
@@ -7133,7 +7133,7 @@
     </message>
     <message>
         <source>Has global colour map</source>
-        <translation>Heeft globale kleurentabel</translation>
+        <translation>Globale kleurentabel</translation>
     </message>
     <message>
         <source>Headline</source>
@@ -10182,10 +10182,10 @@
         <translation>Alleen foto’s met %1 worden verwerkt: %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n stars and more</source>
+        <source>%n stars or more</source>
         <translation>
-            <numerusform>%n ster en meer</numerusform>
-            <numerusform>%n sterren en meer</numerusform>
+            <numerusform>%n ster of meer</numerusform>
+            <numerusform>%n sterren of meer</numerusform>
         </translation>
     </message>
 </context>
@@ -10543,7 +10543,7 @@
     </message>
     <message>
         <source>Visually lossless. Transparency, 16 bits and metadata are kept, and most colour profiles. Few programs can open it.</source>
-        <translation>Zonder zichtbaar verlies. Transparantie, 16 bits, metadata en de meeste kleurprofielen blijven behouden. Weinig programma’s kunnen het openen.</translation>
+        <translation>Zonder zichtbaar verlies. Transparantie, 16 bits, metadata en de meeste kleurprofielen blijven behouden. Weinig programma’s kunnen dit type openen.</translation>
     </message>
     <message>
         <source>At most 256 colours. A pixel is either transparent or not. Colours become sRGB. Metadata is kept as far as XMP can hold it.</source>
@@ -10578,8 +10578,8 @@
         <translation>Zeer kleine bestanden voor webpagina’s, die het langst duren om te schrijven. Hoe lager de kwaliteit, hoe meer detail verloren gaat. 16 bits worden 8. Transparantie, kleurprofiel en metadata blijven behouden.</translation>
     </message>
     <message>
-        <source>Small files for archives. The lower the quality, the more detail is lost. Transparency, 16 bits, colour profile and metadata are kept. Few programs can open it.</source>
-        <translation>Kleine bestanden voor archieven. Hoe lager de kwaliteit, hoe meer detail verloren gaat. Transparantie, 16 bits, kleurprofiel en metadata blijven behouden. Weinig programma’s kunnen het openen.</translation>
+        <source>Small files for archives. The lower the quality, the more detail is lost. Transparency, 16 bits, colour profile and metadata are kept. Few programs can open them.</source>
+        <translation>Kleine bestanden voor archieven. Hoe lager de kwaliteit, hoe meer detail verloren gaat. Transparantie, 16 bits, kleurprofiel en metadata blijven behouden. Weinig programma’s kunnen ze openen.</translation>
     </message>
 </context>
 <context>
@@ -10908,8 +10908,8 @@
         <translation>verticaal spiegelen</translation>
     </message>
     <message>
-        <source>Enter an angle from -180 to 180 degrees.</source>
-        <translation>Geef een hoek op van -180 tot 180 graden.</translation>
+        <source>Enter an angle from −180 to 180 degrees.</source>
+        <translation>Geef een hoek op van −180 tot 180 graden.</translation>
     </message>
     <message>
         <source>Choose an angle or a flip.</source>
@@ -11182,8 +11182,8 @@
         <translation>Geef een dekking op van 1% tot 100%.</translation>
     </message>
     <message>
-        <source>Enter an angle from -180 to 180 degrees.</source>
-        <translation>Geef een hoek op van -180 tot 180 graden.</translation>
+        <source>Enter an angle from −180 to 180 degrees.</source>
+        <translation>Geef een hoek op van −180 tot 180 graden.</translation>
     </message>
 </context>
 <context>
@@ -11591,10 +11591,10 @@
         <translation>Alle waarderingen tonen</translation>
     </message>
     <message numerus="yes">
-        <source>Only %n stars and more</source>
+        <source>Only %n stars or more</source>
         <translation>
-            <numerusform>Alleen %n ster en meer</numerusform>
-            <numerusform>Alleen %n sterren en meer</numerusform>
+            <numerusform>Alleen %n ster of meer</numerusform>
+            <numerusform>Alleen %n sterren of meer</numerusform>
         </translation>
     </message>
 </context>
@@ -11981,7 +11981,7 @@
     </message>
     <message>
         <source>Enter a name for the results.</source>
-        <translation>Voer een naam voor de resultaten in.</translation>
+        <translation>Geef een naam voor de resultaten op.</translation>
     </message>
     <message>
         <source>A name cannot contain “/”.</source>
@@ -12232,7 +12232,7 @@
     </message>
     <message>
         <source>originals are changed, can be reverted</source>
-        <translation>originelen worden gewijzigd, kan worden teruggedraaid</translation>
+        <translation>originelen worden gewijzigd, is terug te draaien</translation>
     </message>
     <message>
         <source>Change</source>
@@ -12421,7 +12421,7 @@
     </message>
     <message>
         <source>%1: “%2” → “%3”</source>
-        <translation>%1: ‘%2’ → ‘%3’</translation>
+        <translation>%1: “%2” → “%3”</translation>
     </message>
     <message>
         <source>%1: cleared, was “%2”</source>
@@ -12841,7 +12841,7 @@
     </message>
     <message>
         <source>EXIF, IPTC and XMP of %1 disagree. What is written makes them agree.</source>
-        <translation>EXIF, IPTC en XMP van %1 spreken elkaar tegen. Wat wordt geschreven, staat daarna in alle gelijk.</translation>
+        <translation>EXIF, IPTC en XMP van %1 spreken elkaar tegen. Wat u schrijft, is daarna overal gelijk.</translation>
     </message>
     <message>
         <source>Import…</source>

@@ -131,7 +131,7 @@ void PictureTable::addRatingEntries(QMenu &menu)
         return;
     for (int stars = 0; stars <= jobs::PictureRatings::most; ++stars) {
         QAction *entry =
-            menu.addAction(stars == 0 ? tr("Show All Ratings") : tr("Only %n stars and more", nullptr, stars));
+            menu.addAction(stars == 0 ? tr("Show All Ratings") : tr("Only %n stars or more", nullptr, stars));
         entry->setCheckable(true);
         entry->setChecked(stars == leastRating());
         entry->setEnabled(!m_busy);

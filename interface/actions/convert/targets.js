@@ -30,7 +30,7 @@ export function targetText(keyword) {
         tiff: () => qsTr("Nothing is lost: pixels, transparency, 16 bits, CMYK, colour profile and metadata are kept. Large files."),
         webp: () => qsTr("Small files for web pages. The lower the quality, the more detail is lost. 16 bits become 8. Transparency, colour profile and metadata are kept."),
         avif: () => qsTr("Very small files for web pages, which take the longest to write. The lower the quality, the more detail is lost. 16 bits become 8. Transparency, colour profile and metadata are kept."),
-        jxl: () => qsTr("Small files for archives. The lower the quality, the more detail is lost. Transparency, 16 bits, colour profile and metadata are kept. Few programs can open it."),
+        jxl: () => qsTr("Small files for archives. The lower the quality, the more detail is lost. Transparency, 16 bits, colour profile and metadata are kept. Few programs can open them."),
         pdf: () => qsTr("One page of the size of the picture. A JPEG is included unchanged, other types without loss. Metadata is kept as far as XMP can hold it."),
         jp2: () => qsTr("Visually lossless. Transparency, 16 bits and metadata are kept, and most colour profiles. Few programs can open it."),
         gif: () => qsTr("At most 256 colours. A pixel is either transparent or not. Colours become sRGB. Metadata is kept as far as XMP can hold it."),

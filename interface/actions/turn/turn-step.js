@@ -31,7 +31,7 @@ export function describe(settings) {
 export function validate(settings) {
     const messages = [];
     if (!(settings.angle >= -180 && settings.angle <= 180)) {
-        messages.push(qsTr("Enter an angle from -180 to 180 degrees."));
+        messages.push(qsTr("Enter an angle from −180 to 180 degrees."));
     } else if (isNothing(wanted(settings))) {
         messages.push(qsTr("Choose an angle or a flip."));
     }

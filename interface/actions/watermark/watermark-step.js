@@ -77,7 +77,7 @@ export function validate(settings) {
                              qsTr("Enter a size from 0.1% to 100%.")),
                 rangeMessage(settings.margin, 0, qsTr("Enter a margin from 0% to 100%.")),
                 rangeMessage(settings.opacity, 1, qsTr("Enter an opacity from 1% to 100%.")),
-                Math.abs(settings.angle) <= MOST_DEGREES ? [] : [qsTr("Enter an angle from -180 to 180 degrees.")],
+                Math.abs(settings.angle) <= MOST_DEGREES ? [] : [qsTr("Enter an angle from −180 to 180 degrees.")],
                 outputMessages(settings.output));
 }
 

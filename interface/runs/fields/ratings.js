@@ -37,7 +37,7 @@ export class Ratings {
         this.window.form.control("writeRatingsAction").enabled = open && any;
     }
 
-    // Those that are shown and ticked: a user who shows three stars and more means these.
+    // Those that are shown and ticked: a user who shows three stars or more means these.
     toWrite() {
         return this.window.pictures.ratings().filter((photo) => this.differs(photo));
     }

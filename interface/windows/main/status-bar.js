@@ -40,7 +40,7 @@ function showFilter(window) {
         notes.push(qsTr("Only failed pictures are shown: %n", "", window.run.problems));
     }
     if (stars > 0) {
-        notes.push(fill(qsTr("Only pictures with %1 are processed: %2"), qsTr("%n stars and more", "", stars),
+        notes.push(fill(qsTr("Only pictures with %1 are processed: %2"), qsTr("%n stars or more", "", stars),
                         numberText(window.pictures.count)));
     }
     window.form.control("filterBar").visible = notes.length > 0;

@@ -147,7 +147,7 @@ void Ratings::worksOnTheBestOnly()
     QCOMPARE(ratings().join(u'|'), QStringLiteral("a.png ★★|c.png ★★★★★"));
     QVERIFY(m_driver->control<QWidget>("filterBar")->isVisible());
     QVERIFY(!m_driver->control<QWidget>("hiddenBar")->isVisible());
-    QCOMPARE(m_driver->text("filterNote"), QStringLiteral("Only pictures with 2 stars and more are processed: 2"));
+    QCOMPARE(m_driver->text("filterNote"), QStringLiteral("Only pictures with 2 stars or more are processed: 2"));
     auto *start = m_driver->control<QAbstractButton>("startButton");
     QVERIFY(m_driver->waitFor([start] { return start->text() == QStringLiteral("Resize 2 Pictures"); }));
     rate(0, 1); // it is below now

@@ -102,7 +102,7 @@ const MISTAKES = [
     [{ size: 101 }, "size from 0.1% to 100%"],
     [{ margin: -1 }, "margin from 0% to 100%"],
     [{ opacity: 0 }, "opacity from 1% to 100%"],
-    [{ angle: 181 }, "angle from -180 to 180"],
+    [{ angle: 181 }, "angle from −180 to 180"],
     [{ mark: "picture" }, "Choose a picture."],
     [{ mark: "picture", picture: "/no/such.png" }, "“such.png” no longer exists"],
     [{ mark: "picture", picture: "/etc/hostname" }, "“hostname” cannot be read as a picture"],
