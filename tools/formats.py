@@ -126,19 +126,19 @@ def given_up(source, target):
 def recipe_tables():
     """What results of recipes keep of the metadata."""
     names = {keyword: _OUTPUTS[keyword][1] for keyword in HELD}
-    lines = ["", "## What recipes keep", "", "Recipes, `quorlin-batch` and all actions of the window carry metadata into every type that has a place for it. A test makes",
-             "a file of every type, and of each of these one of every type, and reads them with exiftool. A result has what its source",
-             "has and its own type holds:", "", row([""] + list(names.values())), "|---" * (len(names) + 1) + "|"]
+    lines = ["", "## What recipes keep", "", "Recipes, `quorlin-batch` and all actions of the window keep metadata in every type that can hold it. A test makes a file",
+             "of every type, and from each of these one of every type, and reads them with exiftool. A result has what its source has and",
+             "its own type can hold:", "", row([""] + list(names.values())), "|---" * (len(names) + 1) + "|"]
     for kind, words in KINDS.items():
         lines.append(row([words] + [{NOT: "no", None: "size of the page"}.get(HELD[target][kind], HELD[target][kind]) for target in HELD]))
-    lines += ["", "So this is given up on the way from one type to another, where the source has it:", "",
+    lines += ["", "So this is lost between one type and another, if the source has it:", "",
               row(["from"] + ["to " + name for name in names.values()]), "|---" * (len(names) + 1) + "|"]
     for source in HELD:
         if source != "pdf":  # whose pages are drawn
             lines.append(row([names[source]] + [given_up(source, target) for target in HELD]))
-    lines += ["", "HEIC, AVIF and PSD files of others, and raw files by their previews, have what a JPEG has but for comments. Orientation, size in",
-              "pixels and thumbnail are made true, or go. What lies beside the picture goes with the tags that announce it, and the plan says",
-              "so: further pictures (MPF), gain maps, motion, signed credentials, camera makers’ segments, and bytes after the end of the picture.",
+    lines += ["", "HEIC, AVIF and PSD files from elsewhere, and the previews of raw files, have what a JPEG has except comments. Orientation, size in",
+              "pixels and thumbnail are corrected or removed. Other data in the file is removed together with the tags that announce it, and the plan",
+              "says so: further pictures (MPF), gain maps, motion, signed credentials, camera makers’ segments, and bytes after the picture.",
               ""]
     return lines
 
@@ -156,24 +156,24 @@ def text():
     for name, words in PROPERTIES.items():
         lines.append(row([words] + [WORDS[PROMISES[target][name]] for target in targets]))
     lines += ["", "CMYK stays in TIFF, JPEG and PDF; elsewhere it becomes sRGB. Lab, floating point, CMYK with transparency and channels that",
-              "are neither colour nor transparency stay from TIFF to TIFF; elsewhere the first three become RGB and the last are left out.",
-              "Signed and long samples, and those of less than 8 bits, are brought to the full range of 8 or 16 bits. Of files with several",
-              "pictures, pages or frames the first one is converted. A JPEG goes into a PDF page byte for byte where it is upright, with",
-              "whatever it holds in itself; one that lies on its side is turned first, without loss where that can be done. What a PNG says",
-              "in texts, and its gamma, goes along into a PNG. PDF and SVG are drawn at 72 pixels per inch.", "",
+              "are neither colour nor transparency are kept from TIFF to TIFF; elsewhere the first three become RGB and the last are dropped.",
+              "Signed and long samples, and those of less than 8 bits, are scaled to the full range of 8 or 16 bits. Of files with several",
+              "pictures, pages or frames the first one is converted. An upright JPEG is copied into a PDF page byte for byte, with everything",
+              "in it; one that is stored sideways is rotated first, without loss if possible. The texts and the gamma of a PNG are",
+              "copied into a PNG. PDF and SVG are drawn at 72 pixels per inch.", "",
               "## What gets lost", "", row(["from"] + ["to " + NAMES[name] for name in targets]),
               "|---" * (len(targets) + 1) + "|"]
     for source in SOURCES:
         lines.append(row([source] + [lost(source, target) for target in targets]))
-    lines += ["", "## How near the pixels are", "", "The mean difference to what another program reads in the source, of 255, is at most this. A test converts pictures of",
-              "every kind and has other programs compare them; the differences that are there come of rounding 16 bits to 8, of lossy",
-              "types, and of the 256 colours of a GIF, which mixes others by dots of these: each dot is off, what is seen of them is not.",
-              "The best JPEG of a conversion has quality 90 of 100, with colours at full resolution. What that loses is the rounding of its",
-              "coefficients: most of the time less than 2, up to 5.2 of dithered colours and 6.4 of noise, whoever writes it. Beyond 3 a JPEG is",
-              "therefore held against that of another program at this quality, which may lose two hundredths less.",
-              "What Lab of 8 bits is in sRGB is calculated by its formula.", "",
+    lines += ["", "## How close the pixels are", "", "The mean difference from what another program reads in the source, out of 255, is at most this. A test converts pictures of",
+              "every kind and has other programs compare them; the differences come from rounding 16 bits to 8, from lossy types, and from",
+              "the 256 colours of a GIF, which mixes other colours from dots of these: each dot differs, the overall impression does not.",
+              "The best JPEG of a conversion has quality 90 of 100, with colours at full resolution. It loses only the rounding of its",
+              "coefficients: usually less than 2, up to 5.2 for dithered colours and 6.4 for noise, in any encoder. Beyond 3 a JPEG is",
+              "therefore compared with that of another program at this quality, which may lose two hundredths less.",
+              "The sRGB values of 8-bit Lab are calculated by its formula.", "",
               row([NAMES[target] for target in targets]), "|---" * len(targets) + "|", row([f"{BOUNDS[target]:g}" for target in targets])]
-    lines += ["", "A PDF page has the picture's size in points, so that its resolution is told by its pixels."] + recipe_tables()[:-1]
+    lines += ["", "A PDF page has the picture's size in points, so that its pixels determine its resolution."] + recipe_tables()[:-1]
     return "\n".join(lines) + "\n"
 
 
