@@ -97,9 +97,9 @@ Result<QByteArray> makeBookmark(const QString &path)
     const QByteArray name = QFile::encodeName(path);
     const std::optional<Identity> identity = path.startsWith(u'/') ? identityOf(name) : std::nullopt;
     if (!identity)
-        return failure(ErrorCode::NotFound, QStringLiteral("Cannot remember %1: there is nothing").arg(path));
+        return failure(ErrorCode::NotFound, QStringLiteral("Cannot bookmark %1: no such file").arg(path));
     if (!mayBeRead(name))
-        return failure(ErrorCode::Unreadable, QStringLiteral("Cannot remember %1: it may not be read").arg(path));
+        return failure(ErrorCode::Unreadable, QStringLiteral("Cannot bookmark %1: it cannot be read").arg(path));
     QByteArray bookmark;
     QDataStream stream(&bookmark, QIODevice::WriteOnly);
     stream.setVersion(QDataStream::Qt_6_0);
