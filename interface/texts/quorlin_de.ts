@@ -3393,8 +3393,12 @@
         </translation>
     </message>
     <message>
-        <source>smaller than asked for: the frame extends past the edge of the picture</source>
-        <translation>kleiner als verlangt: der Ausschnitt reicht über den Bildrand hinaus</translation>
+        <source>smaller than asked for</source>
+        <translation>kleiner als verlangt</translation>
+    </message>
+    <message>
+        <source>The frame extends past the edge of the picture</source>
+        <translation>Der Ausschnitt reicht über den Bildrand hinaus</translation>
     </message>
 </context>
 <context>
@@ -5818,8 +5822,8 @@
         <translation>Typ des Originals</translation>
     </message>
     <message>
-        <source>“%1” folder next to each picture</source>
-        <translation>Ordner „%1“ neben jedem Bild</translation>
+        <source>Next to each picture</source>
+        <translation>Ordner neben jedem Bild</translation>
     </message>
     <message>
         <source>Folder of the original</source>

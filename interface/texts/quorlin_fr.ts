@@ -3393,8 +3393,12 @@
         </translation>
     </message>
     <message>
-        <source>smaller than asked for: the frame extends past the edge of the picture</source>
-        <translation>plus petit que demandé : le cadre dépasse le bord de l’image</translation>
+        <source>smaller than asked for</source>
+        <translation>plus petit que demandé</translation>
+    </message>
+    <message>
+        <source>The frame extends past the edge of the picture</source>
+        <translation>Le cadre dépasse le bord de l’image</translation>
     </message>
 </context>
 <context>
@@ -5818,8 +5822,8 @@
         <translation>Format d’origine</translation>
     </message>
     <message>
-        <source>“%1” folder next to each picture</source>
-        <translation>Dossier « %1 » à côté de chaque image</translation>
+        <source>Next to each picture</source>
+        <translation>Dossier à côté de l’image</translation>
     </message>
     <message>
         <source>Folder of the original</source>

@@ -3393,8 +3393,12 @@
         </translation>
     </message>
     <message>
-        <source>smaller than asked for: the frame extends past the edge of the picture</source>
-        <translation>kleiner dan gevraagd: het kader valt deels buiten de foto</translation>
+        <source>smaller than asked for</source>
+        <translation>kleiner dan gevraagd</translation>
+    </message>
+    <message>
+        <source>The frame extends past the edge of the picture</source>
+        <translation>Het kader valt deels buiten de foto</translation>
     </message>
 </context>
 <context>
@@ -5818,8 +5822,8 @@
         <translation>Type van het origineel</translation>
     </message>
     <message>
-        <source>“%1” folder next to each picture</source>
-        <translation>Map “%1” naast elke foto</translation>
+        <source>Next to each picture</source>
+        <translation>Map naast elke foto</translation>
     </message>
     <message>
         <source>Folder of the original</source>

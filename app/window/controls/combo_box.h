@@ -20,6 +20,8 @@ public:
     QSize sizeHint() const override { return withBearing(QComboBox::sizeHint()); }
     QSize minimumSizeHint() const override;
     void showPopup() override;
+    /** The widest text that can be read while the box is closed, in pixels. */
+    int roomForText() const;
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -29,7 +31,6 @@ protected:
 private:
     /** The toolkit measures the ink of the entries; what is drawn is a little wider. */
     static QSize withBearing(QSize ink) { return {ink.width() + 8, ink.height()}; }
-    int roomForText() const;
     int widthOf(int entry) const;
 
     QLabel *m_label = nullptr; ///< says what the box is for where no label beside it does

@@ -185,8 +185,10 @@ void PictureDelegate::paintText(QPainter &painter, const QStyleOptionViewItem &o
         column == PictureModel::Name || column == PictureModel::NewName ? Qt::ElideMiddle : Qt::ElideRight;
     painter.setFont(font);
     painter.setPen(color);
-    painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter,
-                     QFontMetrics(font).elidedText(text, elide, place.width()));
+    // A picture may have several results.
+    const QString shown = column == PictureModel::NewSize ? inTwoLines(text, QFontMetrics(font), place.width())
+                                                          : QFontMetrics(font).elidedText(text, elide, place.width());
+    painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter, shown);
 }
 
 } // namespace window

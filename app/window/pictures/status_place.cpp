@@ -42,11 +42,11 @@ PictureModel::Column statusColumn(const PictureRow &row, const QHeaderView &head
                                   int paddingPx)
 {
     PictureModel::Column first = PictureModel::Status;
-    if (!isReason(row.kind))
-        return first;
     int width = header.sectionSize(first) - paddingPx;
     for (const PictureModel::Column before : {PictureModel::NewSize, PictureModel::NewName}) {
-        if (fitsInTwoLines(row.status, metrics, width))
+        // What will be made has a name that is wanted.
+        const bool mayCover = before == PictureModel::NewSize || isReason(row.kind);
+        if (!mayCover || fitsInTwoLines(row.status, metrics, width))
             break;
         if (header.isSectionHidden(before))
             continue;

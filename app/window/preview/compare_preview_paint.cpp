@@ -51,9 +51,9 @@ void ComparePreview::paintOriginal(QPainter &painter, const QRect &area) const
     else
         paintFitted(painter, area);
     const bool isFocused = hasFocus() && area == originalArea();
-    paintBadge(painter, area, Qt::TopLeftCorner, 0, titled(m_originalTitle, m_zoom.scale()),
-               isFocused ? BadgeLook::Focused : BadgeLook::Plain);
-    paintBadge(painter, area, Qt::TopLeftCorner, 1, m_zoom.isOn() ? m_partProblem : QString());
+    const int below = paintBadge(painter, area, Qt::TopLeftCorner, 0, titled(m_originalTitle, m_zoom.scale()),
+                                 isFocused ? BadgeLook::Focused : BadgeLook::Plain);
+    paintBadge(painter, area, Qt::TopLeftCorner, below, m_zoom.isOn() ? m_partProblem : QString());
     paintBadge(painter, area, Qt::BottomRightCorner, 0, m_originalCaption);
     painter.restore();
 }
@@ -93,8 +93,8 @@ void ComparePreview::paintResult(QPainter &painter) const
     const bool isFocused = hasFocus() && m_isSingle;
     paintBadge(painter, area, Qt::TopLeftCorner, 0, titled(m_resultTitle, m_zoom.isOn() ? resultScale() : 0),
                isFocused ? BadgeLook::Focused : BadgeLook::Plain);
-    paintBadge(painter, area, Qt::BottomRightCorner, m_notes.isEmpty() ? 0 : 1, m_resultCaption);
-    paintBadge(painter, area, Qt::BottomRightCorner, 0, m_notes);
+    const int above = paintBadge(painter, area, Qt::BottomRightCorner, 0, m_notes);
+    paintBadge(painter, area, Qt::BottomRightCorner, above, m_resultCaption);
     painter.restore();
 }
 

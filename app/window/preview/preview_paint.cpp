@@ -10,14 +10,29 @@ namespace {
 
 constexpr int badgePaddingPx = 20;
 
-QRect placedBadge(const QRect &area, Qt::Corner corner, int line, int width)
+/** The text in lines that have room in so many pixels, broken between words; a word that is wider than a line is elided, no line begins with a dot. */
+QStringList linesOf(const QString &text, const QFontMetrics &metrics, int widthPx)
 {
-    QRect badge(0, 0, width, badgeHeightPx);
+    QStringList lines;
+    const QString bound = QString(text).replace(QStringLiteral(" · "), QStringLiteral("\u00a0· "));
+    for (const QString &word : bound.split(u' ')) {
+        const QString longer = lines.isEmpty() ? word : lines.last() + u' ' + word;
+        if (!lines.isEmpty() && metrics.horizontalAdvance(longer) <= widthPx)
+            lines.last() = longer;
+        else
+            lines.append(metrics.elidedText(word, Qt::ElideRight, widthPx));
+    }
+    return lines;
+}
+
+QRect placedBadge(const QRect &area, Qt::Corner corner, int from, QSize size)
+{
+    QRect badge(QPoint(0, 0), size);
     const bool isTop = corner == Qt::TopLeftCorner || corner == Qt::TopRightCorner;
     const bool isLeft = corner == Qt::TopLeftCorner || corner == Qt::BottomLeftCorner;
-    const int fromEdge = badgeMarginPx + line * badgeStepPx;
-    badge.moveLeft(isLeft ? area.left() + badgeMarginPx : area.right() + 1 - badgeMarginPx - width);
-    badge.moveTop(isTop ? area.top() + fromEdge : area.bottom() + 1 - fromEdge - badgeHeightPx);
+    const int fromEdge = badgeMarginPx + from;
+    badge.moveLeft(isLeft ? area.left() + badgeMarginPx : area.right() + 1 - badgeMarginPx - size.width());
+    badge.moveTop(isTop ? area.top() + fromEdge : area.bottom() + 1 - fromEdge - size.height());
     return badge;
 }
 
@@ -49,16 +64,20 @@ void paintCheckerboard(QPainter &painter, const QRectF &picture)
     painter.drawTiledPixmap(picture, tile);
 }
 
-void paintBadge(QPainter &painter, const QRect &area, Qt::Corner corner, int line, const QString &text, BadgeLook look)
+int paintBadge(QPainter &painter, const QRect &area, Qt::Corner corner, int from, const QString &text, BadgeLook look)
 {
     if (text.isEmpty())
-        return;
+        return 0;
     painter.save();
     QFont small = painter.font();
     small.setPixelSize(Theme::scaled(11));
     const QFontMetrics metrics(small);
-    const QString fitting = metrics.elidedText(text, Qt::ElideRight, area.width() - 2 * badgeMarginPx - badgePaddingPx);
-    const QRect badge = placedBadge(area, corner, line, metrics.horizontalAdvance(fitting) + badgePaddingPx);
+    const QStringList lines = linesOf(text, metrics, area.width() - 2 * badgeMarginPx - badgePaddingPx);
+    int width = 0;
+    for (const QString &line : lines)
+        width = qMax(width, metrics.horizontalAdvance(line));
+    const int height = badgeHeightPx + int(lines.size() - 1) * metrics.lineSpacing();
+    const QRect badge = placedBadge(area, corner, from, {width + badgePaddingPx, height});
     QColor ground = Theme::color(QStringLiteral("badge"));
     ground.setAlpha(210);
     const bool isFocused = look == BadgeLook::Focused;
@@ -67,8 +86,9 @@ void paintBadge(QPainter &painter, const QRect &area, Qt::Corner corner, int lin
     painter.drawRoundedRect(badge, badgeHeightPx / 2.0, badgeHeightPx / 2.0);
     painter.setPen(Theme::color(QStringLiteral("badgeText")));
     painter.setFont(small);
-    painter.drawText(badge, Qt::AlignCenter, fitting);
+    painter.drawText(badge.adjusted(badgePaddingPx / 2, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, lines.join(u'\n'));
     painter.restore();
+    return height + badgeStepPx - badgeHeightPx;
 }
 
 } // namespace window

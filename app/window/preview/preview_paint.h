@@ -21,8 +21,12 @@ void paintCheckerboard(QPainter &painter, const QRectF &picture);
 
 enum class BadgeLook { Plain, Focused };
 
-/** A line of text in the corner of @p area that @p corner names, @p line lines away from its edge; elided to fit. */
-void paintBadge(QPainter &painter, const QRect &area, Qt::Corner corner, int line, const QString &text,
-                BadgeLook look = BadgeLook::Plain);
+/**
+ * A text in the corner of @p area that @p corner names, @p from pixels away from its edge. It has as many lines as it needs.
+ *
+ * @return how far the next text has to be away from this one's edge; 0 where there is no text
+ */
+int paintBadge(QPainter &painter, const QRect &area, Qt::Corner corner, int from, const QString &text,
+               BadgeLook look = BadgeLook::Plain);
 
 } // namespace window

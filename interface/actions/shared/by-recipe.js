@@ -55,9 +55,13 @@ function isCutOff(cut) {
 // Which part of the file the result is made from, if not all of it, and whether that is what was asked for.
 function remarksOn(photo, told) {
     const preview = photo.type === RAW ? [fill(qsTr("preview of %1"), pixels(photo))] : [];
-    const smaller = qsTr("smaller than asked for: the frame extends past the edge of the picture");
     return preview.concat(told.leftOut > 0 ? [qsTr("%n more pictures left out", "", told.leftOut)] : [],
-                          isCutOff(told.cut) ? [smaller] : []);
+                          isCutOff(told.cut) ? [qsTr("smaller than asked for")] : []);
+}
+
+// What the result lacks, in sentences.
+function notesOn(told) {
+    return told.losses.concat(isCutOff(told.cut) ? [qsTr("The frame extends past the edge of the picture")] : []);
 }
 
 /**
@@ -78,8 +82,9 @@ export function planBy(photo, settings, services, answer, ownName) {
     }
     const usual = ownName === undefined ? splitPath(photo.path).base + told.extension : ownName;
     const name = nameOf(photo, settings.output.namePattern, told, usual, services);
-    return Object.assign(ready(name, madeTypeNamed(told.type), told, told.losses),
-                         { lossless: told.lossless, losses: told.losses, cut: told.cut,
+    const notes = notesOn(told);
+    return Object.assign(ready(name, madeTypeNamed(told.type), told, notes),
+                         { lossless: told.lossless, losses: notes, cut: told.cut,
                            remarks: remarksOn(photo, told) });
 }
 

@@ -8,7 +8,7 @@ import { guard } from "../../lib/guard.js";
 import { withNewest } from "../../lib/store.js";
 import { TAKEN } from "../../lib/wishes.js";
 import { METADATA, ORIGINAL, QUALITIES, writtenType } from "../../lib/types.js";
-import { fill, shortPath } from "../../lib/wording.js";
+import { shortPath } from "../../lib/wording.js";
 import { insertAtCursor, joinTokens } from "./token-menu.js";
 
 const KEPT_FOLDERS = 5;
@@ -147,7 +147,8 @@ export class OutputPane {
 
     showDestinations() {
         const chosen = this.output.destination;
-        const texts = [fill(qsTr("“%1” folder next to each picture"), chosen.name), qsTr("Folder of the original")];
+        // The field below has the name, which may be long.
+        const texts = [qsTr("Next to each picture"), qsTr("Folder of the original")];
         const values = ["beside", "source"];
         for (const folder of this.recent) {
             texts.push(shortPath(folder, files.home));

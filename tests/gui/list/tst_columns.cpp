@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QHeaderView>
 #include <QImage>
+#include <QScopeGuard>
 #include <QTest>
 #include <QXmlStreamReader>
 
@@ -89,6 +90,30 @@ QStringList reasonsIn(const QString &language, const QString &action)
     return reasons;
 }
 
+/** What the list can say of a picture that will be written, each with one of the remarks on its result. */
+QStringList plansIn(const QString &language)
+{
+    QStringList plans;
+    QStringList remarks;
+    for (const Text &text : textsIn(language)) {
+        if (!text.source.at(0).isLower() && !text.source.startsWith(u'%'))
+            continue;
+        // Of counts the form of many.
+        QString own = text.translation.simplified().section(QStringLiteral("%n"), -1);
+        own = text.source.contains(QLatin1String("%n")) ? QStringLiteral("12") + own : text.translation;
+        own.replace(QLatin1String("%1"), QStringLiteral("4000×3000"));
+        if (text.context == QLatin1String("write-plan"))
+            plans.append(own);
+        if (text.context == QLatin1String("by-recipe"))
+            remarks.append(own);
+    }
+    QStringList all = plans;
+    for (const QString &plan : plans)
+        for (const QString &remark : remarks)
+            all.append(plan + QStringLiteral(", ") + remark);
+    return all;
+}
+
 } // namespace
 
 /** The columns of the list: what they show, whether their texts can be read, and what is kept of them. */
@@ -101,6 +126,8 @@ private Q_SLOTS:
     void cleanup() { m_driver.reset(); }
     void everyReasonCanBeRead_data();
     void everyReasonCanBeRead();
+    void everyPlanCanBeRead_data();
+    void everyPlanCanBeRead();
     void theFolderIsShownWherePicturesLieInSeveral();
     void whatTheUserDidIsKept();
     void aWrongLayoutIsNoLayout();
@@ -156,6 +183,41 @@ void TestColumns::everyReasonCanBeRead()
     QVERIFY2(cut.isEmpty(), qPrintable(cut.join(u'\n')));
     list.setStatus(id, QStringLiteral("bad"), QStringLiteral("word ").repeated(200), {});
     QVERIFY(list.isStatusCut(id));
+}
+
+void TestColumns::everyPlanCanBeRead_data()
+{
+    QTest::addColumn<QString>("language");
+    for (const char *language : {"en", "de", "fr", "nl"})
+        QTest::addRow("%s", language) << QString::fromLatin1(language);
+}
+
+// The name that a result will have is not covered by it.
+void TestColumns::everyPlanCanBeRead()
+{
+    QFETCH(QString, language);
+    const QStringList plans = plansIn(language);
+    QVERIFY2(plans.size() >= 20, qPrintable(QString::number(plans.size())));
+    qputenv("QUORLIN_LANGUAGE", language.toLatin1());
+    const auto usual = qScopeGuard([] { qunsetenv("QUORLIN_LANGUAGE"); });
+    m_driver->startAgain();
+    picture(QStringLiteral("a.png"));
+    picture(QStringLiteral("b/b.png"));
+    m_driver->window().resize(1280, 720);
+    m_driver->show("crop");
+    m_driver->drop({m_driver->inputFolder()});
+    QCoreApplication::processEvents();
+    window::PictureTable &list = m_driver->pictures();
+    QVERIFY(!header().isSectionHidden(PictureModel::Folder)); // the narrowest case
+    QStringList cut;
+    for (const QString &plan : plans) {
+        list.setStatus(list.currentId(), QStringLiteral("waiting"), plan, {});
+        if (list.isStatusCut(list.currentId()))
+            cut.append(plan);
+    }
+    QVERIFY2(cut.isEmpty(), qPrintable(cut.join(u'\n')));
+    list.setStatus(list.currentId(), QStringLiteral("waiting"), QStringLiteral("word ").repeated(60), {});
+    QVERIFY(list.isStatusCut(list.currentId()));
 }
 
 void TestColumns::theFolderIsShownWherePicturesLieInSeveral()

@@ -118,11 +118,9 @@ private Q_SLOTS:
         m_driver->control<QDoubleSpinBox>("cropHeight")->setValue(250);
         QVERIFY(m_driver->waitFor([this] { return m_driver->cell(1, PictureModel::NewSize) == u"200×250"; }));
         QCOMPARE(m_driver->cell(0, PictureModel::Status), QStringLiteral("Ready"));
-        QCOMPARE(m_driver->cell(1, PictureModel::Status),
-                 QStringLiteral("Ready, smaller than asked for: the frame extends past the edge of the picture"));
+        QCOMPARE(m_driver->cell(1, PictureModel::Status), QStringLiteral("Ready, smaller than asked for"));
         run(QStringLiteral("2 pictures done"));
-        QCOMPARE(m_driver->cell(1, PictureModel::Status),
-                 QStringLiteral("OK, smaller than asked for: the frame extends past the edge of the picture"));
+        QCOMPARE(m_driver->cell(1, PictureModel::Status), QStringLiteral("OK, smaller than asked for"));
     }
 
     void theEyeIsDrawnToTheDotWhereverItIs()
