@@ -6,6 +6,7 @@
 #include "platform/foundation/human_texts.h"
 #include "platform/foundation/natural_order.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QElapsedTimer>
 #include <QLocale>
@@ -328,7 +329,8 @@ QString LogModel::statusOf(const LogEntry &entry) const
     const QString shown = m_statusWords.value(word, word);
     const bool tells = m_tellsEdits && entry.reason == 0 && m_entries.isRevertible(entry);
     const QString reason = tells ? editWords(entry) : m_entries.texts().text(entry.reason);
-    return reason.isEmpty() ? shown : shown + QStringLiteral(": ") + reason;
+    // Languages differ in what stands before a colon; the list has the same words.
+    return reason.isEmpty() ? shown : QCoreApplication::translate("wording", "%1: %2").arg(shown, reason);
 }
 
 QString LogModel::cell(const LogEntry &entry, int column) const

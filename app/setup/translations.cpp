@@ -8,6 +8,21 @@
 
 namespace app {
 
+namespace {
+
+/** A table whose counts have the reader's own separators. */
+class CountsTable : public QTranslator
+{
+public:
+    QString translate(const char *context, const char *text, const char *disambiguation, int count) const override
+    {
+        QString found = QTranslator::translate(context, text, disambiguation, count);
+        return count < 0 ? found : found.replace(QLatin1String("%n"), QLatin1String("%Ln"));
+    }
+};
+
+} // namespace
+
 // The toolkit asks the table that was installed last first.
 Translations::Translations(const QString &language)
 {
@@ -24,7 +39,7 @@ Translations::~Translations() = default;
 
 void Translations::install(const QString &path)
 {
-    auto table = std::make_unique<QTranslator>();
+    auto table = std::make_unique<CountsTable>();
     if (table->load(path) && QCoreApplication::installTranslator(table.get()))
         m_tables.push_back(std::move(table));
 }

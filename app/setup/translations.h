@@ -13,7 +13,7 @@ namespace app {
 /**
  * The texts of windows, scripts and classes in one language, and the toolkit's own, for as long as this object lives. What a
  * language lacks is English. English has a table too, of the texts with numbers in them: which of their forms belongs to a
- * number is known to tables alone.
+ * number is known to tables alone. Numbers of "%n" have the separators of QLocale().
  *
  * Main thread only; one object at a time.
  */

@@ -19,6 +19,11 @@ export function numberText(number) {
     return number.toLocaleString();
 }
 
+/** fill() for numbers, in the reader's number format. */
+export function fillNumbers(text, ...numbers) {
+    return fill(text, ...numbers.map(numberText));
+}
+
 /** 39.68 gives "39.7 %" in the reader's number format, with a non-breaking space where there is one. */
 export function percent(value) {
     return (Math.round(value * 10) / 10).toLocaleString() + "\u00a0%";

@@ -11,7 +11,7 @@ import { logRow } from "./report.js";
 import { retryRows } from "./retry.js";
 import { DiskNeeds, roomText } from "./room.js";
 import { beginUndo, undoAction, undoing, undoRow, unableSteps } from "./undo-run.js";
-import { fill, problemsText, statusKind, statusText } from "../lib/wording.js";
+import { fill, fillNumbers, problemsText, statusKind, statusText } from "../lib/wording.js";
 import { showPlan } from "./live-moves.js";
 import { BaseRun } from "./run-base.js";
 import { shell } from "quorlin/shell";
@@ -223,7 +223,7 @@ export class MoveRun extends BaseRun {
         const ready = plan.states.filter((state) => state === "ready").length;
         const parts = [fill(qsTr("Dry run: %1"), this.window.action.startText(ready, this.settings))];
         if (this.leftOut > 0) {
-            parts.push(fill(qsTr("%1 left out"), this.leftOut));
+            parts.push(fillNumbers(qsTr("%1 left out"), this.leftOut));
         }
         this.finish(parts.concat([qsTr("nothing was moved")]).join(" · "));
     }
@@ -405,7 +405,7 @@ export class MoveRun extends BaseRun {
             ? action.done(this.moved, this.settings, folders) : action.undone(this.moved, this.settings);
         const parts = [done + ", " + problemsText(this.problems)];
         if (this.undoes === "" && this.leftOut > 0) {
-            parts.push(fill(qsTr("%1 left out"), this.leftOut));
+            parts.push(fillNumbers(qsTr("%1 left out"), this.leftOut));
         }
         parts.push(clockText(Date.now() - this.startedMs));
         return (how === "done" ? "" : qsTr("Cancelled:") + " ") + parts.join(" · ");

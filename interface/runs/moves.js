@@ -1,6 +1,6 @@
 // The manner of actions that move files through the move engine, and can be undone.
 
-import { fill } from "../lib/wording.js";
+import { fill, fillNumbers } from "../lib/wording.js";
 import { LiveMoves } from "./live-moves.js";
 import { MoveRun } from "./move-run.js";
 
@@ -16,13 +16,13 @@ function startText(window) {
 function startNote(window) {
     const planned = window.planned;
     if (planned.named !== undefined) {
-        return fill(qsTr("Planning: %1 of %2…"), planned.named, planned.all);
+        return fillNumbers(qsTr("Planning: %1 of %2…"), planned.named, planned.all);
     }
     // After a run there is no plan until something changes.
     if (window.pictures.tickedCount === 0 || planned.ready === undefined) {
         return "";
     }
-    const parts = [fill(qsTr("%1 ready"), planned.ready)];
+    const parts = [fillNumbers(qsTr("%1 ready"), planned.ready)];
     if (planned.attention > 0) {
         parts.push(qsTr("%n need attention", "", planned.attention));
     }

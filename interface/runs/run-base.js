@@ -10,7 +10,7 @@ import { appendRows, trimRows } from "./log-file.js";
 import { clockText, Progress } from "./progress.js";
 import { toCsv } from "./report.js";
 import { keepSettings } from "./making/run-settings.js";
-import { fill, problemsText } from "../lib/wording.js";
+import { fill, fillNumbers, problemsText } from "../lib/wording.js";
 
 const ROWS_AT_ONCE = 50;
 
@@ -129,7 +129,7 @@ export class BaseRun {
 
     showProgress() {
         const time = this.timeText();
-        this.text = fill(qsTr("%1 of %2"), this.progress.done, this.progress.count);
+        this.text = fillNumbers(qsTr("%1 of %2"), this.progress.done, this.progress.count);
         this.detail = (time ? [time] : [])
             .concat([this.problems === 0 ? qsTr("no problems") : problemsText(this.problems)]).join(" · ");
         this.changed();

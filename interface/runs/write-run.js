@@ -13,7 +13,7 @@ import { planMemory, planRun } from "./plan.js";
 import { clockText, costOf, Progress } from "./progress.js";
 import { countRows } from "./log-file.js";
 import { logRow, summaryOf } from "./report.js";
-import { fill, pixels, statusKind, statusText } from "../lib/wording.js";
+import { fill, fillNumbers, pixels, statusKind, statusText } from "../lib/wording.js";
 import { BaseRun } from "./run-base.js";
 import { photosOf, rowsByPath } from "./list-rows.js";
 import { showItem } from "./write-plan.js";
@@ -159,7 +159,7 @@ export class WriteRun extends BaseRun {
         const ready = this.items.filter((item) => item.status === "ready").length;
         const parts = [qsTr("Dry run: %n pictures would be written", "", ready)];
         if (ready < this.items.length) {
-            parts.push(fill(qsTr("%1 left out"), this.items.length - ready));
+            parts.push(fillNumbers(qsTr("%1 left out"), this.items.length - ready));
         }
         this.finish(parts.concat([qsTr("nothing was written")]).join(" · "));
     }
@@ -473,7 +473,7 @@ export class WriteRun extends BaseRun {
     summaryText(how) {
         const sum = summaryOf(this.results);
         const parts = [qsTr("%n pictures done", "", sum.done)];
-        const add = (number, text) => number > 0 && parts.push(fill(text, number));
+        const add = (number, text) => number > 0 && parts.push(fillNumbers(text, number));
         add(sum.failed, qsTr("%1 failed"));
         add(sum.unsupported, qsTr("%1 not supported"));
         add(sum.skipped, qsTr("%1 skipped"));

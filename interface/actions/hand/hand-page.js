@@ -7,7 +7,7 @@ import { slotProblem } from "./hand-slots.js";
 import { appendRows, trimRows } from "../../runs/log-file.js";
 import { roomProblem } from "../../runs/room.js";
 import { Sidecars } from "../../lib/sidecars.js";
-import { fill } from "../../lib/wording.js";
+import { fill, fillNumbers } from "../../lib/wording.js";
 import { shell } from "quorlin/shell";
 
 // So many pictures are decoded in advance.
@@ -132,7 +132,7 @@ export class HandPage {
         const date = this.dateOf(photo);
         control("handName").text = photo.name;
         control("handName").toolTip = photo.path;
-        control("handPlace").text = fill(qsTr("%1 of %2"), this.list.currentPlace, this.list.count);
+        control("handPlace").text = fillNumbers(qsTr("%1 of %2"), this.list.currentPlace, this.list.count);
         control("handDone").text = done;
         control("handDone").visible = done !== "";
         control("handFacts").text = (date === "" ? [] : [date]).concat(parts, photo.bytes >= 0 ? [files.byteText(photo.bytes)] : []).join(" · ");

@@ -13,7 +13,7 @@ import { rowsByPathInParts } from "../../runs/list-rows.js";
 import { clearSettings, settingsOf } from "../../runs/making/run-settings.js";
 import { csvHead, csvLines } from "../../runs/report.js";
 import { keep, recall } from "../../lib/store.js";
-import { fill, problemsText, statusText } from "../../lib/wording.js";
+import { fill, fillNumbers, problemsText, statusText } from "../../lib/wording.js";
 import { CommentJob, commentsReverted, commentSummary } from "../../runs/comment-job.js";
 import { LogFields } from "./log-fields.js";
 import { beginUndo, revertWords, undoAction, undoing, undoWords, unableSteps } from "../../runs/undo-run.js";
@@ -329,7 +329,7 @@ export class LogPage {
             const work = reverting(comments, edits);
             return work;
         }, qsTr("Revert comment"), (work) => {
-            this.form.control("logRunTitle").text = fill(qsTr("Reverting: %1 of %2"), work.tried, edits.length);
+            this.form.control("logRunTitle").text = fillNumbers(qsTr("Reverting: %1 of %2"), work.tried, edits.length);
             this.form.control("logRunNote").text = "";
         }, (work) => {
             this.window.sayBeside(commentSummary(work, commentsReverted(work.done)));
@@ -376,7 +376,8 @@ export class LogPage {
         if (step.row.status === "OK" && id !== undefined && step.to !== "") {
             this.window.pictures.setPath(id, step.to);
         }
-        this.form.control("logRunTitle").text = fill(qsTr("Undoing: %1 of %2"), this.undo.rows.length, this.undo.count);
+        const done = this.undo.rows.length;
+        this.form.control("logRunTitle").text = fillNumbers(qsTr("Undoing: %1 of %2"), done, this.undo.count);
         this.form.control("logRunNote").text = "";
     }
 

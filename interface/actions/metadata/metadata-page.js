@@ -10,7 +10,7 @@ import { commentExample, commentMaker, commentProblem, commentsOf, pagesAtStake,
 import { guard } from "../../lib/guard.js";
 import { keep, recall } from "../../lib/store.js";
 import { COMMENT_INPUT } from "../../lib/types.js";
-import { fill } from "../../lib/wording.js";
+import { fill, fillNumbers } from "../../lib/wording.js";
 import { CommentJob, commentsReverted, commentSummary, commentsWritten } from "../../runs/comment-job.js";
 import { askAboutTyped, mayWrite } from "./comment-questions.js";
 
@@ -315,7 +315,7 @@ export class MetadataPage {
 
     // Which picture it is, and how many of its properties are shown.
     showPlace() {
-        this.form.control("metaPlace").text = fill(qsTr("%1 of %2"), this.list.currentPlace, this.list.count);
+        this.form.control("metaPlace").text = fillNumbers(qsTr("%1 of %2"), this.list.currentPlace, this.list.count);
         const found = qsTr("%n properties", "", this.tree.shownCount);
         const differ = this.together.length > 1
             ? fill(qsTr("%n pictures, differences: %1", "", this.together.length), this.tree.differenceCount()) : "";
@@ -368,13 +368,13 @@ export class MetadataPage {
     // Nothing is written yet.
     showLooking(looked, of) {
         this.form.control("metaProgress").maximum = 0;
-        this.form.control("metaNote").text = fill(qsTr("%1 of %2"), looked, of);
+        this.form.control("metaNote").text = fillNumbers(qsTr("%1 of %2"), looked, of);
     }
 
     showProgress(tried, done, of) {
         this.form.control("metaProgress").maximum = of;
         this.form.control("metaProgress").value = done;
-        this.form.control("metaNote").text = fill(qsTr("%1 of %2"), tried, of);
+        this.form.control("metaNote").text = fillNumbers(qsTr("%1 of %2"), tried, of);
     }
 
     // What one file would lose, at once.

@@ -4,7 +4,7 @@
 import { files } from "quorlin/files";
 import { guard } from "../../lib/guard.js";
 import { emptyTable, splitPath } from "../../lib/names.js";
-import { fill, statusKind, statusText } from "../../lib/wording.js";
+import { fill, fillNumbers, statusKind, statusText } from "../../lib/wording.js";
 import { Joining } from "../joining.js";
 import { rowsByPath } from "../list-rows.js";
 import { outputsNow } from "../making/run-record.js";
@@ -209,7 +209,7 @@ export class RecipeRun extends WriteRun {
     summaryText(how) {
         const sum = summaryOf(joined(this.finals));
         const parts = [qsTr("%n files made", "", sum.done)];
-        const add = (number, text) => number > 0 && parts.push(fill(text, number));
+        const add = (number, text) => number > 0 && parts.push(fillNumbers(text, number));
         add(sum.failed, qsTr("%1 failed"));
         add(sum.unsupported, qsTr("%1 not supported"));
         add(sum.skipped, qsTr("%1 skipped"));

@@ -3,7 +3,7 @@
 import { files } from "quorlin/files";
 import { guard } from "../../lib/guard.js";
 import { splitPath } from "../../lib/names.js";
-import { fill, statusKind, statusText } from "../../lib/wording.js";
+import { fill, fillNumbers, statusKind, statusText } from "../../lib/wording.js";
 import { Replacing } from "../making/replacing.js";
 import { clockText, Progress } from "../progress.js";
 import { logRow } from "../report.js";
@@ -168,7 +168,7 @@ export class SheetRun extends BaseRun {
         }
         const parts = [fill(qsTr("%1: %2"), made.name, qsTr("%n pages", "", made.pages))];
         if (this.problems > 0) {
-            parts.push(fill(qsTr("%1 failed"), this.problems));
+            parts.push(fillNumbers(qsTr("%1 failed"), this.problems));
         }
         return parts.concat([fill(qsTr("%1 written"), files.byteText(made.bytes)),
                              clockText(Date.now() - this.startedMs)]).join(" · ");

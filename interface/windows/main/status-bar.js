@@ -2,12 +2,12 @@
 // be done about it.
 
 import { wordsFor } from "../../lib/input-words.js";
-import { fill, numberText } from "../../lib/wording.js";
+import { fill, fillNumbers, numberText } from "../../lib/wording.js";
 
 function listText(window) {
     const words = wordsFor(window.action.lists(window.settings));
     const out = window.pictures.count - window.pictures.tickedCount;
-    const parts = [words.count(window.pictures.count)].concat(out > 0 ? [fill(qsTr("%1 left out"), out)] : []);
+    const parts = [words.count(window.pictures.count)].concat(out > 0 ? [fillNumbers(qsTr("%1 left out"), out)] : []);
     return window.pictures.count > 0 ? parts.join(" · ") : words.none();
 }
 

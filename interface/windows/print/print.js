@@ -11,7 +11,7 @@ import * as contact from "../../actions/contact/contact-step.js";
 import { guard } from "../../lib/guard.js";
 import { splitPath } from "../../lib/names.js";
 import { keep, recall } from "../../lib/store.js";
-import { fill } from "../../lib/wording.js";
+import { fill, fillNumbers } from "../../lib/wording.js";
 import { Workshop } from "../../runs/making/job.js";
 import { makePages } from "../../runs/sheets/sheet-making.js";
 
@@ -167,7 +167,7 @@ export class Print {
         const control = (name) => this.form.control(name);
         control("printProgress").maximum = Math.max(1, this.paths.length);
         control("printProgress").value = this.done;
-        this.say(fill(qsTr("%1 of %2"), this.done, this.paths.length));
+        this.say(fillNumbers(qsTr("%1 of %2"), this.done, this.paths.length));
     }
 
     ended(how, value) {

@@ -8,7 +8,9 @@
 #include <QDir>
 #include <QFile>
 #include <QLibraryInfo>
+#include <QLocale>
 #include <QProcess>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -60,6 +62,7 @@ private Q_SLOTS:
 
     void findsTheFormForACount_data();
     void findsTheFormForACount();
+    void countsHaveTheReadersSeparators();
     void translatesScriptsByTheNameOfTheirFile();
     void countsInEveryLanguage_data();
     void countsInEveryLanguage();
@@ -119,6 +122,20 @@ void TestTranslations::findsTheFormForACount()
     const auto said = scripts.call(module->property(QStringLiteral("files")), {QJSValue(count)});
     QVERIFY(said.has_value());
     QTEST(said->toString(), "text");
+}
+
+void TestTranslations::countsHaveTheReadersSeparators()
+{
+    qputenv("QUORLIN_INTERFACE", m_folder.path().toLocal8Bit());
+    const app::Translations translations(QStringLiteral("pl"));
+    const auto usual = qScopeGuard([before = QLocale()] { QLocale::setDefault(before); });
+    for (const auto &[language, text] : {std::pair{QLocale::English, "1,234,567 plików w %1"},
+                                         {QLocale::German, "1.234.567 plików w %1"},
+                                         {QLocale::Dutch, "1.234.567 plików w %1"},
+                                         {QLocale::French, "1\u202F234\u202F567 plików w %1"}}) {
+        QLocale::setDefault(language);
+        QCOMPARE(QCoreApplication::translate("some-pane", "%n files in %1", nullptr, 1234567), QString::fromUtf8(text));
+    }
 }
 
 void TestTranslations::translatesScriptsByTheNameOfTheirFile()
