@@ -42,6 +42,17 @@ void whenOpen(const std::function<void(window::SaveDialog &)> &work)
     });
 }
 
+/** Looks at the next message, which it must close. */
+void whenTold(const std::function<void(QMessageBox &)> &look)
+{
+    QTimer::singleShot(30, [look] {
+        if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget()))
+            look(*box);
+        else
+            whenTold(look);
+    });
+}
+
 /** All of its text can be read. */
 bool isWhole(const QLabel &label)
 {
@@ -119,8 +130,22 @@ private Q_SLOTS:
         QCOMPARE(typeOf("Desktop/a.b.pdf"), QStringLiteral("com.adobe.pdf"));
     }
 
+    void offersWhatConvertOffers_data()
+    {
+        QTest::addColumn<QString>("best");
+        QTest::newRow("en") << QStringLiteral("9 – best");
+        QTest::newRow("de") << QStringLiteral("9 – beste Qualität");
+        QTest::newRow("fr") << QStringLiteral("9 – meilleure qualité");
+        QTest::newRow("nl") << QStringLiteral("9 – beste");
+    }
+
+    // In the same order and words, in every language.
     void offersWhatConvertOffers()
     {
+        QFETCH(QString, best);
+        qputenv("QUORLIN_LANGUAGE", QTest::currentDataTag());
+        m_driver->startAgain();
+        qunsetenv("QUORLIN_LANGUAGE");
         m_driver->show("convert");
         const auto entries = [](const QComboBox &menu) {
             QStringList texts;
@@ -131,6 +156,7 @@ private Q_SLOTS:
         const QStringList types = entries(*m_driver->control<QComboBox>("target"));
         const QStringList qualities = entries(*m_driver->control<QComboBox>("convertQuality"));
         QVERIFY(types.contains(QStringLiteral("JPEG 2000")));
+        QVERIFY2(qualities.contains(best), qPrintable(qualities.join(u'|')));
         QList<QStringList> offered;
         save([&](window::SaveDialog &panel) {
             offered = {entries(*inPanel<QComboBox>("pubFileType")), entries(*inPanel<QComboBox>("pubJPEGcompression"))};
@@ -390,11 +416,9 @@ private Q_SLOTS:
         bool wasTold = false;
         save([&](window::SaveDialog &panel) {
             QFile::remove(m_driver->folder() + QStringLiteral("/a.b.png"));
-            QTimer::singleShot(200, [&wasTold] {
-                auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-                wasTold = box != nullptr && box->text().contains(QStringLiteral("could not be written"));
-                if (box)
-                    box->close();
+            whenTold([&wasTold](QMessageBox &box) {
+                wasTold = box.text().contains(QStringLiteral("could not be written"));
+                box.close();
             });
             confirm(panel);
         });
