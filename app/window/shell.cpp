@@ -18,6 +18,8 @@
 #include <QClipboard>
 #include <QDesktopServices>
 #include <QFileInfo>
+#include <QFontMetrics>
+#include <QGridLayout>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
@@ -31,6 +33,18 @@ namespace window {
 namespace {
 
 const QVariant nothing = QVariant::fromValue(nullptr);
+
+// The toolkit makes a box as wide as its text, and the frame cuts off a title that is wider.
+void makeRoomForTitle(QMessageBox &box)
+{
+    constexpr int besidePx = 120; // the buttons of the frame
+    auto *grid = qobject_cast<QGridLayout *>(box.layout());
+    QFont bold = box.font();
+    bold.setBold(true);
+    const int needed = QFontMetrics(bold).horizontalAdvance(box.windowTitle()) + besidePx;
+    if (grid)
+        grid->addItem(new QSpacerItem(needed, 0), grid->rowCount(), 0, 1, grid->columnCount());
+}
 
 QVariant firstPath(const platform::PanelRequest &request)
 {
@@ -180,6 +194,7 @@ QVariantMap Shell::ask(const QVariantMap &question)
     auto *checkBox = asked.check.isEmpty() ? nullptr : new QCheckBox(asked.check, &box);
     if (checkBox)
         box.setCheckBox(checkBox);
+    makeRoomForTitle(box);
     box.exec();
     const int clicked = int(buttons.indexOf(box.clickedButton()));
     return {{QStringLiteral("button"), clicked < 0 ? asked.escape : clicked},

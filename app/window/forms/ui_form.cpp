@@ -109,12 +109,22 @@ void takeFurtherKeys(const QWidget &root)
             action->setShortcuts(action->shortcuts() + QKeySequence::listFromString(more));
 }
 
+// Labels whose form says for how many lines they have room, so that nothing moves when their text takes more than one.
+void keepLines(const QWidget &root)
+{
+    const QList<QLabel *> labels = root.findChildren<QLabel *>();
+    for (QLabel *label : labels)
+        if (const int lines = label->property("lines").toInt(); lines > 0)
+            label->setMinimumHeight(lines * label->fontMetrics().lineSpacing());
+}
+
 } // namespace
 
 Form::Form(QWidget *root, const QString &file, QObject *parent) : QObject(parent), m_root(root), m_file(file)
 {
     root->installEventFilter(this);
     takeFurtherKeys(*root);
+    keepLines(*root);
     // In a dialog Return presses the button that has the focus, whatever else is the button for Return elsewhere in it.
     const QList<QPushButton *> buttons =
         qobject_cast<QDialog *>(root) ? root->findChildren<QPushButton *>() : QList<QPushButton *>();

@@ -1,0 +1,289 @@
+#include "tests/gui/support/window_driver.h"
+#include "tests/support/test_pictures.h"
+#include "tests/support/test_program.h"
+
+#include "app/window/controls/combo_box.h"
+#include "app/window/controls/segmented_control.h"
+#include "app/window/preview/compare_preview.h"
+
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QFontMetrics>
+#include <QGridLayout>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QSet>
+#include <QTest>
+#include <QTimer>
+
+namespace {
+
+const char *const actionNames[] = {"resize",  "crop",   "turn", "round", "background", "watermark",
+                                   "convert", "rename", "sort", "web",   "contact"};
+
+QRect placeIn(const QWidget &window, const QWidget &widget)
+{
+    return {widget.mapTo(&window, QPoint(0, 0)), widget.size()};
+}
+
+/** A control of one line, as texts stand beside it. */
+bool isOneLine(const QWidget &widget)
+{
+    return qobject_cast<const QComboBox *>(&widget) || qobject_cast<const QAbstractSpinBox *>(&widget) ||
+           qobject_cast<const QLineEdit *>(&widget);
+}
+
+/** What lies beside the label of a field: the field, or the row of controls that it is in. */
+const QWidget &rowOf(const QWidget &field)
+{
+    const QWidget *row = &field;
+    while (row->parentWidget() && !qobject_cast<QGridLayout *>(row->parentWidget()->layout()))
+        row = row->parentWidget();
+    return row->parentWidget() ? *row : field;
+}
+
+/** A folder that the user chose. */
+bool isPath(const QString &text)
+{
+    return text.startsWith(u'~') || text.startsWith(u'/');
+}
+
+/** Names that others gave, or can give: the box of presets shows them in its list and its tooltip. */
+bool isNamedByOthers(const QComboBox &box)
+{
+    return box.objectName() == QLatin1String("preset") || box.objectName() == QLatin1String("markFont") ||
+           box.objectName() == QLatin1String("markPicture") || box.objectName() == QLatin1String("pattern");
+}
+
+} // namespace
+
+/** Where things stand in the panes at 1280 x 720: labels beside their fields, and nothing that moves or is cut off. */
+class PaneLayout : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup()
+    {
+        m_driver.reset();
+        qunsetenv("QUORLIN_LANGUAGE");
+    }
+
+    void labelsAndFieldsLineUp_data() { languages(); }
+    void labelsAndFieldsLineUp();
+    void everyChoiceCanBeRead_data() { languages(); }
+    void everyChoiceCanBeRead();
+    void theUnitsOfACropStandBesideItsSizes();
+    void nothingMovesWhenTheResultTakesTwoLines_data();
+    void nothingMovesWhenTheResultTakesTwoLines();
+    void titlesOfQuestionsHaveRoom();
+    void allOfANoteUnderAResultIsSeen();
+
+private:
+    static void languages()
+    {
+        QTest::addColumn<QString>("language");
+        for (const char *language : {"en", "de", "fr", "nl"})
+            QTest::addRow("%s", language) << QString::fromLatin1(language);
+    }
+
+    void begin(const QString &language)
+    {
+        qputenv("QUORLIN_LANGUAGE", language.toLatin1());
+        m_driver = WindowDriver::started();
+        m_driver->window().resize(1280, 720);
+        QVERIFY(pictures::plain(600, 400, Qt::darkCyan).save(m_driver->inputFolder() + QStringLiteral("/a.png")));
+        m_driver->drop({m_driver->inputFolder()});
+        QCOMPARE(m_driver->pictures().count(), 1);
+    }
+
+    void show(const char *action)
+    {
+        m_driver->show(action);
+        settle();
+    }
+
+    static void settle()
+    {
+        for (int i = 0; i < 5; ++i)
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+        constexpr int deepest = 8;
+        for (int i = 0; i < deepest; ++i)
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    }
+
+    QWidget &settings() { return *m_driver->control<QWidget>("settings"); }
+    QRect placeOf(const char *name) { return placeIn(m_driver->window(), *m_driver->control<QWidget>(name)); }
+
+    /** Labels of the settings that stand before a field of one line. */
+    QList<QLabel *> labels()
+    {
+        QList<QLabel *> found;
+        for (QLabel *label : settings().findChildren<QLabel *>())
+            if (label->isVisible() && label->property("role") == QStringLiteral("field") && label->buddy() &&
+                label->buddy()->isVisible() && isOneLine(*label->buddy()))
+                found.append(label);
+        return found;
+    }
+
+    QStringList misplaced(const QString &action);
+
+    std::unique_ptr<WindowDriver> m_driver;
+};
+
+QStringList PaneLayout::misplaced(const QString &action)
+{
+    QStringList found;
+    const QWidget &window = m_driver->window();
+    QSet<int> ends;
+    for (const QLabel *label : labels()) {
+        const QRect place = placeIn(window, *label);
+        const QRect field = placeIn(window, rowOf(*label->buddy()));
+        ends.insert(place.right());
+        if (qAbs(place.center().y() - field.center().y()) > 1 || !(label->alignment() & Qt::AlignVCenter))
+            found.append(QStringLiteral("%1: %2 is %3 px above its field")
+                             .arg(action, label->objectName())
+                             .arg(field.center().y() - place.center().y()));
+        if (field.left() <= place.right() || field.left() - place.right() > 16)
+            found.append(QStringLiteral("%1: %2 is not beside its field").arg(action, label->objectName()));
+    }
+    if (ends.size() > 1)
+        found.append(action + QStringLiteral(": the labels do not end in one line"));
+    return found;
+}
+
+void PaneLayout::labelsAndFieldsLineUp()
+{
+    QFETCH(QString, language);
+    begin(language);
+    QStringList problems;
+    int seen = 0;
+    for (const char *action : actionNames) {
+        show(action);
+        problems += misplaced(QString::fromLatin1(action));
+        seen += int(labels().size());
+    }
+    QVERIFY2(problems.isEmpty(), qPrintable(problems.join(u'\n')));
+    QVERIFY2(seen > 40, qPrintable(QString::number(seen)));
+}
+
+// What was chosen is not all: the others are read as well when the box is open, and are as wide.
+void PaneLayout::everyChoiceCanBeRead()
+{
+    QFETCH(QString, language);
+    begin(language);
+    QStringList problems;
+    int seen = 0;
+    for (const char *action : actionNames) {
+        show(action);
+        for (const auto *box : settings().findChildren<window::ComboBox *>())
+            for (int i = 0; i < box->count() && box->isVisible() && !isNamedByOthers(*box); ++i) {
+                const QString text = box->itemText(i);
+                ++seen;
+                if (!isPath(text) && box->fontMetrics().horizontalAdvance(text) > box->roomForText())
+                    problems.append(QStringLiteral("%1, %2: %3 (%4 of %5)")
+                                        .arg(QString::fromLatin1(action), box->objectName(), text)
+                                        .arg(box->roomForText())
+                                        .arg(box->fontMetrics().horizontalAdvance(text)));
+            }
+    }
+    problems.removeDuplicates();
+    QVERIFY2(problems.isEmpty(), qPrintable(problems.join(u'\n')));
+    QVERIFY2(seen > 200, qPrintable(QString::number(seen)));
+}
+
+void PaneLayout::theUnitsOfACropStandBesideItsSizes()
+{
+    begin(QStringLiteral("de"));
+    show("crop");
+    auto *mode = m_driver->control<window::SegmentedControl>("cropMode");
+    mode->setSelectedSegment(1);
+    Q_EMIT mode->chosen(1);
+    settle();
+    const QRect height = placeOf("cropHeight");
+    const QRect unit = placeOf("unit");
+    QVERIFY(m_driver->control<QWidget>("unit")->isVisible());
+    QVERIFY2(qAbs(unit.center().y() - height.center().y()) <= 1, qPrintable(QString::number(unit.center().y())));
+    QVERIFY(unit.left() > height.right() && unit.left() - height.right() < 20);
+    QCOMPARE(placeOf("cropWidth").center().y(), height.center().y());
+}
+
+void PaneLayout::nothingMovesWhenTheResultTakesTwoLines_data()
+{
+    QTest::addColumn<QString>("action");
+    for (const char *action : {"resize", "crop", "turn", "round", "background", "watermark", "convert", "web"})
+        QTest::addRow("%s", action) << QString::fromLatin1(action);
+}
+
+void PaneLayout::nothingMovesWhenTheResultTakesTwoLines()
+{
+    QFETCH(QString, action);
+    begin(QStringLiteral("en"));
+    show(qPrintable(action));
+    auto *result = m_driver->control<QLabel>("resultText");
+    QVERIFY(result->isVisible());
+    const auto placesWith = [&](const QString &text) {
+        result->setText(text);
+        settle();
+        QList<QRect> places;
+        for (const QWidget *each : settings().findChildren<QWidget *>())
+            if (each->isVisible())
+                places.append(placeIn(m_driver->window(), *each));
+        return places;
+    };
+    const QString line = QStringLiteral("4000 × 3000 px");
+    QString lines = line;
+    while (result->fontMetrics().horizontalAdvance(lines) < result->width() + 10)
+        lines += u' ' + line;
+    const QList<QRect> before = placesWith(line);
+    QCOMPARE(placesWith(lines), before);
+    QVERIFY(result->heightForWidth(result->width()) <= result->height());
+}
+
+// The text of a question may be shorter than its title, which the frame of the window shows.
+void PaneLayout::titlesOfQuestionsHaveRoom()
+{
+    begin(QStringLiteral("en"));
+    const QString title = QStringLiteral("Umbenennung von zwölftausend Dateien rückgängig machen");
+    int width = 0;
+    QTimer look;
+    connect(&look, &QTimer::timeout, this, [&width] {
+        if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+            width = box->width();
+            box->reject();
+        }
+    });
+    look.start(20);
+    m_driver->startUp().shell().ask(
+        {{QStringLiteral("title"), title},
+         {QStringLiteral("text"), QStringLiteral("Go on?")},
+         {QStringLiteral("detail"), QString()},
+         {QStringLiteral("check"), QString()},
+         {QStringLiteral("initial"), 0},
+         {QStringLiteral("escape"), 1},
+         {QStringLiteral("buttons"), QVariantList{QStringLiteral("A"), QStringLiteral("B")}}});
+    QFont bold = QApplication::font("QMessageBox");
+    bold.setBold(true);
+    const int needed = QFontMetrics(bold).horizontalAdvance(title);
+    QVERIFY2(width >= needed + 100, qPrintable(QStringLiteral("%1 of %2").arg(width).arg(needed)));
+}
+
+// What differs at the end of a long note is painted, and the caption above it makes room.
+void PaneLayout::allOfANoteUnderAResultIsSeen()
+{
+    begin(QStringLiteral("en"));
+    auto *preview = m_driver->control<window::ComparePreview>("preview");
+    const auto seenWith = [&](const QString &caption, const QString &notes) {
+        preview->setCaptions(QString(), caption);
+        preview->setNotes(notes);
+        return preview->grab().toImage();
+    };
+    const QString note = QStringLiteral("JPEG has no transparency: transparent parts become #ff8800 · ").repeated(3);
+    QVERIFY(preview->fontMetrics().horizontalAdvance(note) > preview->width());
+    QVERIFY(seenWith(QString(), note + QStringLiteral("white")) != seenWith(QString(), note + QStringLiteral("black")));
+    QVERIFY(seenWith(QStringLiteral("1 px"), note) != seenWith(QStringLiteral("9 px"), note));
+}
+
+QUORLIN_GUI_TEST(PaneLayout)
+
+#include "tst_pane_layout.moc"
