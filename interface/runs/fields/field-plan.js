@@ -19,20 +19,34 @@ export function idsInScope(window, settings) {
     return ticked.filter((id) => chosen[id] === true);
 }
 
-/**
- * A generator that says what would change in each of the pictures. It yields {id, index, path, work, stated, planned:
- * {name: texts}, problem, inPlace, sidecar}, and null while it waits; stated is the current value of each field.
- *
- * @param look  a generator function(path): {fields, inPlace, sidecar, problem}
- */
-export function* planningFields(window, ids, settings, look) {
-    const maker = window.action.step.workMaker(settings);
+// What each picture says of itself is asked; known(path) says what is known of it, or null.
+function* tasksFor(window, ids, known) {
     for (let i = 0; i < ids.length; i += 1) {
         const photo = window.pictures.photo(ids[i]);
+        const said = photo === null ? null : known(photo.path);
         if (photo !== null) {
-            const said = yield* look(photo.path);
-            const item = itemOf(window, maker, photo, i, said);
-            yield Object.assign(item, { id: ids[i] });
+            yield { id: ids[i], index: i, photo: photo, file: "", said: said === null ? undefined : said,
+                    ask: (work) => work.look(photo.path) };
+        }
+    }
+}
+
+/**
+ * A generator that says what would change in each of the pictures, in their order. It yields {id, index, path, work, stated, planned:
+ * {name: texts}, problem, inPlace, sidecar}, and null while it waits; stated is the current value of each field.
+ *
+ * @param asker  see FieldAsker
+ * @param memory  known(path): {fields, inPlace, sidecar, problem} or null, keep(path, said)
+ */
+export function* planningFields(window, ids, settings, asker, memory) {
+    const maker = window.action.step.workMaker(settings);
+    for (const answer of asker.inOrder(tasksFor(window, ids, (path) => memory.known(path)))) {
+        if (answer !== null) {
+            const { task, said } = answer;
+            memory.keep(task.photo.path, said);
+            yield Object.assign(itemOf(window, maker, task.photo, task.index, said), { id: task.id });
+        } else {
+            yield null;
         }
     }
 }
@@ -130,23 +144,16 @@ export class FieldPlan extends LivePlan {
         this.known = emptyTable();
     }
 
-    * look(path) {
-        if (this.known[path] === undefined) {
-            const said = yield* this.asker.look(path);
-            this.known[path] = said;
-        }
-        return this.known[path];
-    }
-
     work(ids, settings) {
         this.together = new StatedTogether();
         this.leaveOthersOut(ids);
         this.askAfresh();
-        const planning = planningFields(this.window, ids, settings, (path) => {
-            const looking = this.look(path);
-            return looking;
+        const known = this.known;
+        const planning = planningFields(this.window, ids, settings, this.asker, {
+            known: (path) => this.statedOf(path),
+            keep: (path, said) => { known[path] = said; },
         });
-        return planning;
+        return planning; // the engine loses a generator that is called where it is returned
     }
 
     // Answers to requests of an abandoned plan are dropped.

@@ -40,23 +40,30 @@ function rowOf(kept, said, run, undone) {
                          { undoes: undone });
 }
 
+function* tasksOf(files, undone) {
+    for (const kept of valuesOf(files, undone)) {
+        yield { kept: kept, file: kept.file, ask: (work) => work.revert(kept.path, kept.undo) };
+    }
+}
+
 /**
  * A generator that reverts a run, newest picture first. It yields {path, status, reason, row} for each, after its row
  * was logged, and null while it waits; it returns a message, or "".
  *
  * @param asker   see FieldAsker
- * @param goesOn  false if it is to stop after the current picture
+ * @param goesOn  false if it is to stop after the pictures that are in work
  */
 export function* revertingFields(asker, files, undone, goesOn) {
     const run = newRunName();
     let problem = "";
-    for (const kept of valuesOf(files, undone)) {
-        if (!goesOn()) {
-            return problem;
+    for (const answer of asker.each(tasksOf(files, undone), goesOn)) {
+        if (answer === null) {
+            yield null;
+            continue;
         }
-        const said = yield* asker.revert(kept.path, kept.undo);
-        const row = rowOf(kept, said, run, undone);
-        problem = problem || (said.problem === "" ? noteReverted(files, undone, kept.line) : "");
+        const { kept } = answer.task;
+        const row = rowOf(kept, answer.said, run, undone);
+        problem = problem || (answer.said.problem === "" ? noteReverted(files, undone, kept.line) : "");
         problem = problem || appendRows(files, [row]);
         yield { path: kept.path, status: row.status, reason: row.reason, row: row };
     }

@@ -59,11 +59,8 @@ export class FieldRun extends BaseRun {
         const { window } = this;
         this.startPlanning(ids);
         this.asker = new FieldAsker(() => this.job.wake());
-        const asker = this.asker;
-        const work = planningFields(window, ids, this.settings, (path) => {
-            const looking = asker.look(path);
-            return looking;
-        });
+        const work = planningFields(window, ids, this.settings, this.asker,
+                                    { known: () => null, keep: () => undefined });
         this.job.start(work, guard("run.plan", (item) => this.takeItem(item)),
                        guard("run.planEnd", (how, value) => this.planEnded(how, value)));
         this.changed();
@@ -132,11 +129,18 @@ export class FieldRun extends BaseRun {
         this.showProgress();
     }
 
-    * writing() {
-        for (let i = 0; i < this.items.length && !this.isStopping; i += 1) {
+    * tasks() {
+        for (let i = 0; i < this.items.length; i += 1) {
             const item = this.items[i];
-            yield { index: i, said: isReady(item) ? yield* this.asker.write(item.path, item.work)
-                : { problem: item.problem, changed: false, file: item.path } };
+            yield { index: i, file: isReady(item) ? item.sidecar || item.path : "",
+                    said: isReady(item) ? undefined : { problem: item.problem, changed: false, file: item.path },
+                    ask: (work) => work.write(item.path, item.work) };
+        }
+    }
+
+    * writing() {
+        for (const answer of this.asker.each(this.tasks(), () => !this.isStopping)) {
+            yield answer === null ? null : { index: answer.task.index, said: answer.said };
         }
     }
 

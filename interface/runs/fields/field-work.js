@@ -1,47 +1,115 @@
-// Asks workers for the fields of pictures and has them write, one file at a time. Generators that yield null while they wait.
-// Services used: files (FieldWork).
+// Asks workers for the fields of pictures and has them write, as many files at a time as there are processors. Generators that yield null
+// while they wait.
+// Services used: files (FieldWork), recipes (processors).
 
 import { FieldWork } from "quorlin/files";
+import { recipes } from "quorlin/recipes";
 import { guard } from "../../lib/guard.js";
+
+// A worker need not wait for its next file while the answer to another is written down.
+function mostAtOnce() {
+    return recipes.processors() + 1;
+}
 
 export class FieldAsker {
     /** @param wake  called when there is an answer */
     constructor(wake) {
-        this.work = new FieldWork();
-        this.work.arrived.connect(guard("fields.arrived", wake));
+        this.wake = wake;
+        this.works = [];
+        this.idle = [];
+        this.most = mostAtOnce();
     }
 
     end() {
-        this.work.close();
+        this.works.forEach((work) => work.close());
+        this.works = [];
+        this.idle = [];
     }
 
-    * answer() {
-        let said = this.work.take();
-        while (said.problem === undefined) {
-            yield null;
-            said = this.work.take();
+    work() {
+        if (this.idle.length > 0) {
+            return this.idle.pop();
         }
-        return said;
+        const made = new FieldWork();
+        made.arrived.connect(guard("fields.arrived", () => this.wake()));
+        this.works.push(made);
+        return made;
     }
 
-    /** {fields, inPlace, sidecar, problem} */
-    * look(path) {
-        this.work.look(path);
-        const said = yield* this.answer();
-        return said;
+    /**
+     * Yields {task, said} for each task, as answers come, and null while it waits. Tasks that write the same file follow one another.
+     *
+     * @param tasks   their generator: {ask(work), which asks something of a FieldWork, or said where that is known; file that is written,
+     *                "" for none}
+     * @param goesOn  false where no more are to be begun; those that are begun are answered
+     */
+    * each(tasks, goesOn) {
+        const open = [];
+        let next = tasks.next();
+        while (open.length > 0 || (!next.done && goesOn())) {
+            while (!next.done && goesOn() && this.mayBegin(next.value, open)) {
+                open.push(this.begun(next.value));
+                next = tasks.next();
+            }
+            const found = this.answered(open);
+            if (found === null) {
+                yield null;
+            } else {
+                open.splice(open.indexOf(found.begun), 1);
+                yield { task: found.begun.task, said: found.said };
+            }
+        }
     }
 
-    /** {problem, changed, file, undo, before, after} */
-    * write(path, work) {
-        this.work.write(path, work);
-        const said = yield* this.answer();
-        return said;
+    /** The same in the order of the tasks. */
+    * inOrder(tasks) {
+        const early = [];
+        let expected = 0;
+        let count = 0;
+        const numbered = function* () {
+            for (const task of tasks) {
+                task.number = count;
+                count += 1;
+                yield task;
+            }
+        };
+        for (const answer of this.each(numbered(), () => true)) {
+            if (answer === null) {
+                yield null;
+                continue;
+            }
+            early[answer.task.number] = answer;
+            while (early[expected] !== undefined) {
+                const first = early[expected];
+                delete early[expected];
+                expected += 1;
+                yield first;
+            }
+        }
     }
 
-    /** {problem} */
-    * revert(path, undo) {
-        this.work.revert(path, undo);
-        const said = yield* this.answer();
-        return said;
+    mayBegin(task, open) {
+        return open.length < this.most && (task.file === "" || open.every((each) => each.task.file !== task.file));
+    }
+
+    begun(task) {
+        if (task.said !== undefined) {
+            return { task: task, work: null };
+        }
+        const work = this.work();
+        task.ask(work);
+        return { task: task, work: work };
+    }
+
+    // The first of them whose answer is there: what a file was given is written down at once, whatever another one takes.
+    answered(open) {
+        for (const begun of open) {
+            const said = begun.work === null ? begun.task.said : begun.work.take();
+            if (said.problem !== undefined) {
+                this.idle = this.idle.concat(begun.work === null ? [] : [begun.work]);
+                return { begun: begun, said: said };
+            }
+        }
+        return null;
     }
 }

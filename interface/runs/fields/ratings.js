@@ -18,6 +18,15 @@ function ratingOf(fields) {
     return { rating: fields === undefined || fields.rating === undefined ? [] : fields.rating.value };
 }
 
+// Two pictures may have one sidecar.
+function* writesOf(photos) {
+    for (const photo of photos) {
+        const change = photo.rating > 0 ? { set: [String(photo.rating)] } : { clear: true };
+        yield { photo: photo, file: splitPath(photo.path).folder + "/" + splitPath(photo.path).base,
+                ask: (work) => work.write(photo.path, { fields: { rating: change } }) };
+    }
+}
+
 export class Ratings {
     /** @param window  the main window's parts: form, pictures, history, livePlan, services, isBusy(), sayBeside() */
     constructor(window) {
@@ -89,12 +98,11 @@ export class Ratings {
     }
 
     * writing(photos) {
-        const asker = this.newAsker();
-        for (const photo of photos) {
-            const change = photo.rating > 0 ? { set: [String(photo.rating)] } : { clear: true };
-            const said = yield* asker.write(photo.path, { fields: { rating: change } });
-            this.take(photo, said);
-            yield photo.id;
+        for (const answer of this.newAsker().each(writesOf(photos), () => true)) {
+            if (answer !== null) {
+                this.take(answer.task.photo, answer.said);
+            }
+            yield answer;
         }
         return "";
     }

@@ -44,6 +44,9 @@ private Q_SLOTS:
     void templatesKeepEveryCharacter();
     void offersKeywordsOfTheList();
     void bothFacesShareTheirEntry();
+    void manyAreWrittenAndReverted();
+    void picturesOfOneSidecarFollowOneAnother();
+    void whatIsWrittenWhenARunStopsIsKept();
 
 private:
     QString path(const char *name) const { return m_pictures + u'/' + QString::fromLatin1(name); }
@@ -62,6 +65,7 @@ private:
     }
     QStringList value(const char *file, const char *field) { return said(file, field, "value"); }
     QStringList said(const char *file, const char *field, const char *where);
+    void addMany(int count);
     void openGroup(const char *head)
     {
         if (!button(head)->isChecked())
@@ -78,6 +82,7 @@ private:
     static inline const QString kept = QStringLiteral("/.local/share/quorlin/metadata-values");
     std::unique_ptr<WindowDriver> m_driver;
     QString m_pictures;
+    std::unique_ptr<QTemporaryDir> m_more;
 };
 
 void MetadataForm::init()
@@ -434,6 +439,86 @@ void MetadataForm::bothFacesShareTheirEntry()
     QVERIFY(line("mfTitle")->isVisible());
     m_driver->startAgain();
     QVERIFY(line("mfTitle")->isVisible());
+}
+
+void MetadataForm::addMany(int count)
+{
+    m_more = std::make_unique<QTemporaryDir>();
+    for (int i = 0; i < count; ++i)
+        QVERIFY(QFile::copy(path("a.jpg"), m_more->filePath(QStringLiteral("m%1.jpg").arg(i, 3, 10, QChar(u'0')))));
+    m_driver->drop({m_more->path()});
+    QVERIFY(m_driver->waitFor([this, count] { return m_driver->pictures().count() == count + 4; }));
+}
+
+void MetadataForm::manyAreWrittenAndReverted()
+{
+    addMany(60);
+    line("mfTitle")->setText(QStringLiteral("{name}"));
+    QVERIFY(planned(63, QStringLiteral("m059")));
+    QVERIFY2(run().startsWith(QStringLiteral("64 pictures changed")), qPrintable(m_driver->text("statusText")));
+    const QByteArray old = pictures::bytesOf(path("d.bmp")); // which has a sidecar now
+    for (const QFileInfo &each : QDir(m_more->path()).entryInfoList(QDir::Files))
+        QCOMPARE(meta::readFields(each.filePath())
+                     ->value(QStringLiteral("fields"))
+                     .toMap()
+                     .value(QStringLiteral("title"))
+                     .toMap()
+                     .value(QStringLiteral("value"))
+                     .toStringList(),
+                 QStringList{each.completeBaseName()}); // each its own
+    m_driver->click("undoButton");
+    QVERIFY(m_driver->waitFor(
+        [this] { return m_driver->text("statusText").startsWith(QStringLiteral("64 pictures reverted")); }, 60000));
+    for (const QFileInfo &each : QDir(m_more->path()).entryInfoList(QDir::Files))
+        QCOMPARE(pictures::bytesOf(each.filePath()), pictures::bytesOf(path("a.jpg")));
+    QCOMPARE(pictures::bytesOf(path("d.bmp")), old);
+}
+
+void MetadataForm::picturesOfOneSidecarFollowOneAnother()
+{
+    // "one.xmp" is that of both, and each adds its word to it.
+    m_more = std::make_unique<QTemporaryDir>();
+    for (const char *name : {"one.bmp", "one.BMP"})
+        QVERIFY(QFile::copy(path("d.bmp"), m_more->filePath(QString::fromLatin1(name))));
+    const QString shared = m_more->filePath(QStringLiteral("one.xmp"));
+    QVERIFY(meta::writeFields(m_more->filePath(QStringLiteral("one.bmp")), meta::workOfRating(3)));
+    QVERIFY(QFile::rename(m_more->filePath(QStringLiteral("one.bmp.xmp")), shared));
+    const QByteArray before = pictures::bytesOf(shared);
+    m_driver->drop({m_more->path()});
+    QVERIFY(m_driver->waitFor([this] { return m_driver->pictures().count() >= 5; }));
+    const int count = m_driver->pictures().count();
+    line("mfKeywords")->setText(QStringLiteral("of {name}.{extension}"));
+    QVERIFY(planned(count - 1, QStringLiteral("of one")));
+    QVERIFY2(run().startsWith(QStringLiteral("%1 pictures changed").arg(count)),
+             qPrintable(m_driver->text("statusText")));
+    m_driver->click("undoButton");
+    QVERIFY(m_driver->waitFor(
+        [&] { return m_driver->text("statusText").startsWith(QStringLiteral("%1 pictures reverted").arg(count)); }));
+    QCOMPARE(pictures::bytesOf(shared), before);
+}
+
+void MetadataForm::whatIsWrittenWhenARunStopsIsKept()
+{
+    addMany(200);
+    line("mfTitle")->setText(QStringLiteral("Stopped"));
+    QVERIFY(planned(203, QStringLiteral("Stopped")));
+    QVERIFY(isReady());
+    WindowDriver::answerNextQuestion(QStringLiteral("Write"));
+    m_driver->click("startButton");
+    QVERIFY(m_driver->waitFor([this] { return status(3).startsWith(QStringLiteral("OK")); }));
+    m_driver->click("cancelButton");
+    QVERIFY(m_driver->waitForSummary().startsWith(QStringLiteral("Stopped:")));
+    int written = 0;
+    for (const QFileInfo &each : QDir(m_more->path()).entryInfoList(QDir::Files))
+        written += pictures::bytesOf(each.filePath()).contains("Stopped") ? 1 : 0;
+    QVERIFY(written < 200);
+    // What is in a file is in the log too, so that it can be reverted.
+    m_driver->click("undoButton");
+    QVERIFY(m_driver->waitFor([&] {
+        return m_driver->text("statusText").startsWith(QStringLiteral("%1 pictures reverted").arg(written + 4));
+    }));
+    for (const QFileInfo &each : QDir(m_more->path()).entryInfoList(QDir::Files))
+        QVERIFY(!pictures::bytesOf(each.filePath()).contains("Stopped"));
 }
 
 QUORLIN_GUI_TEST(MetadataForm)

@@ -1,0 +1,122 @@
+import { FieldAsker } from "../../../interface/runs/fields/field-work.js";
+import { equal, finish, isTrue, test } from "../check.js";
+
+// Stand-ins for what workers do: each is told to answer, in whatever order.
+class Work {
+    constructor() {
+        this.asked = [];
+        this.said = {};
+    }
+
+    write(path) {
+        this.asked.push(path);
+    }
+
+    answer() {
+        this.said = { problem: "", path: this.asked[this.asked.length - 1] };
+    }
+
+    take() {
+        const said = this.said;
+        this.said = {};
+        return said;
+    }
+
+    close() {
+        this.asked = [];
+    }
+}
+
+function askerOf(most) {
+    const asker = new FieldAsker(() => undefined);
+    const made = [];
+    asker.most = most;
+    asker.work = () => {
+        if (asker.idle.length > 0) {
+            return asker.idle.pop();
+        }
+        made.push(new Work());
+        return made[made.length - 1];
+    };
+    return { asker: asker, made: made };
+}
+
+function* tasks(names, files) {
+    for (let i = 0; i < names.length; i += 1) {
+        const name = names[i];
+        yield { name: name, file: files[i], ask: (work) => work.write(name) };
+    }
+}
+
+const always = () => true;
+
+function at(made, path) {
+    return made.find((work) => work.asked[work.asked.length - 1] === path);
+}
+
+test("asks as many at a time as it may, and takes answers as they come", () => {
+    const { asker, made } = askerOf(3);
+    const steps = asker.each(tasks(["a", "b", "c", "d"], ["a", "b", "c", "d"]), always);
+    equal(steps.next().value, null);
+    equal(made.map((work) => work.asked.join("")).join(" "), "a b c");
+    at(made, "c").answer();
+    equal(steps.next().value.task.name, "c");
+    equal(steps.next().value, null);
+    equal(made.length, 3); // the one that is free is asked again
+    at(made, "d").answer();
+    at(made, "a").answer();
+    equal(steps.next().value.task.name, "a");
+    equal(steps.next().value.task.name, "d");
+    at(made, "b").answer();
+    equal(steps.next().value.task.name, "b");
+    isTrue(steps.next().done);
+});
+
+test("gives answers in the order of asking where that is wanted", () => {
+    const { asker, made } = askerOf(3);
+    const steps = asker.inOrder(tasks(["a", "b", "c"], ["", "", ""]));
+    equal(steps.next().value, null);
+    at(made, "b").answer();
+    at(made, "c").answer();
+    equal(steps.next().value, null);
+    at(made, "a").answer();
+    equal([steps.next(), steps.next(), steps.next()].map((step) => step.value.task.name).join(""), "abc");
+    isTrue(steps.next().done);
+});
+
+test("never has two write one file", () => {
+    const { asker, made } = askerOf(4);
+    const steps = asker.each(tasks(["a.bmp", "a.gif", "b.gif"], ["a.xmp", "a.xmp", "b.xmp"]), always);
+    equal(steps.next().value, null);
+    equal(made.length, 1);
+    at(made, "a.bmp").answer();
+    equal(steps.next().value.task.name, "a.bmp");
+    equal(steps.next().value, null);
+    isTrue(at(made, "a.gif") !== undefined && at(made, "b.gif") !== undefined);
+});
+
+test("begins nothing more when it is stopped, and waits for what is begun", () => {
+    const { asker, made } = askerOf(2);
+    let goesOn = true;
+    const steps = asker.each(tasks(["a", "b", "c", "d"], ["a", "b", "c", "d"]), () => goesOn);
+    equal(steps.next().value, null);
+    goesOn = false;
+    at(made, "b").answer();
+    equal(steps.next().value.task.name, "b");
+    equal(steps.next().value, null);
+    at(made, "a").answer();
+    equal(steps.next().value.task.name, "a");
+    isTrue(steps.next().done);
+    equal(made.map((work) => work.asked.length).join(" "), "1 1");
+});
+
+test("passes on what is known without asking", () => {
+    const { asker, made } = askerOf(2);
+    const known = function* () {
+        yield { name: "a", file: "", said: { problem: "it cannot be read" } };
+    };
+    equal(asker.each(known(), always).next().value.said.problem, "it cannot be read");
+    equal(made.length, 0);
+});
+
+finish();
