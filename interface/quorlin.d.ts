@@ -2219,6 +2219,10 @@ declare module "quorlin/shell" {
         sharesThumbnails: boolean;
         /** False while it is sorted by something that is still being read. */
         readonly settled: boolean;
+        /** The properties that stand in columns: fields of metadata, or paths such as "{Exif}|FNumber"; at most eight. */
+        propertyColumns: texts;
+        /** Whether setFilter() hides any pictures that it does not take. */
+        readonly filtered: boolean;
         /** What the user did to the columns, as a text to be kept. */
         layout: string;
         /** A column by its name, with a minus sign before it where the last comes first; empty for the order of adding. */
@@ -2231,6 +2235,12 @@ declare module "quorlin/shell" {
         readonly clocksChanged: Signal<() => any>;
         readonly currentPictureChanged: Signal<(id: whole) => any>;
         readonly largePreviewRequested: Signal<() => any>;
+        readonly propertyColumnsChanged: Signal<() => any>;
+        readonly filterChanged: Signal<() => any>;
+        /** Columns and filters are to be chosen. */
+        readonly propertiesRequested: Signal<() => any>;
+        /** Of so many pictures those properties were read that the list is sorted or filtered by. */
+        readonly propertiesProgress: Signal<(done: whole, count: whole) => any>;
         readonly copied: Signal<(count: whole) => any>;
         readonly layoutChanged: Signal<() => any>;
         /** Files with one of the extensions, or any file for "*", or folders and no files. */
@@ -2240,6 +2250,12 @@ declare module "quorlin/shell" {
         hiddenPaths(): texts;
         /** "thumbnail", "name", "folder", "taken", "camera", "rating", "pixels", "size", "type", "newName", "newSize", "status"; headings by the same names. */
         setColumns(columns: texts, headings: dictionary, stressed: boolean): null;
+        /** What fields of metadata are called, by their names. */
+        setFieldNames(words: dictionary): null;
+        /** What columns and filters can have, [{name, words}]: what is usual, and what the current picture says. */
+        offeredProperties(): list;
+        /** Shows those that fit only: {join: "all" or "any", rules: [{property, comparison, value}], text}; an empty one shows all. */
+        setFilter(filter: dictionary): null;
         /** How many were not in the list yet. The roots are the folders that were added. */
         addPaths(paths: texts, roots: texts): whole;
         /** How many those were. */

@@ -70,6 +70,11 @@ Result<QByteArray> packetOf(const Sidecar &sidecar)
     return platform::readFile(sidecar.path);
 }
 
+QByteArray packetBeside(const QString &picturePath)
+{
+    return packetOf(sidecarOf(picturePath)).value_or(QByteArray());
+}
+
 Result<QVariantMap> readFields(const std::shared_ptr<const LentFile> &picture, const QByteArray &packet)
 {
     QVariantMap map;

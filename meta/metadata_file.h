@@ -27,6 +27,8 @@ Sidecar sidecarOf(const QString &picturePath);
 
 /** The packet of a sidecar; empty where there is none. Fails as platform::readFile() does, and with TooLarge for more than 16 MB. */
 platform::Result<QByteArray> packetOf(const Sidecar &sidecar);
+/** That of a picture; empty also where it cannot be read. */
+QByteArray packetBeside(const QString &picturePath);
 
 /** {fields: see fieldMap(), inPlace: whether they stand in the file itself}. @param packet  of its sidecar */
 platform::Result<QVariantMap> readFields(const std::shared_ptr<const platform::LentFile> &picture,

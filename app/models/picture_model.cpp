@@ -2,6 +2,7 @@
 
 #include "image/services/format_words.h"
 #include "jobs/camera_clocks.h"
+#include "jobs/reading/field_errand.h"
 #include "jobs/records/picture_ratings.h"
 
 #include "platform/foundation/human_texts.h"
@@ -33,6 +34,11 @@ QString folderText(const PictureRow &row)
     const QString folder = row.path.left(row.path.lastIndexOf(u'/'));
     const QString top = row.root.isEmpty() ? folder : row.root;
     return folder.mid(top.lastIndexOf(u'/') + 1);
+}
+
+bool isProperty(int column)
+{
+    return column >= PictureModel::FirstProperty && column <= PictureModel::LastProperty;
 }
 
 QString cellText(const PictureRow &row, int column)
@@ -98,12 +104,17 @@ QVariant PictureModel::data(const QModelIndex &index, int role) const
     const PictureRow &row = m_rows[size_t(index.row())];
     switch (role) {
     case Qt::DisplayRole:
-        return cellText(row, index.column());
+        return isProperty(index.column()) ? row.properties.value(propertyOf(index.column())).words
+                                          : cellText(row, index.column());
     case Qt::AccessibleTextRole:
+        if (isProperty(index.column()))
+            return data(index, Qt::DisplayRole);
         if (index.column() == Rating)
             return row.rating == 0 ? QString() : tr("%n stars", nullptr, row.rating);
         return index.column() == Thumbnail ? thumbnailWords(row) : cellText(row, index.column());
     case Qt::ToolTipRole:
+        if (isProperty(index.column()))
+            return data(index, Qt::DisplayRole);
         if (index.column() == Pixels && !row.problem.isEmpty())
             return row.problem;
         if (index.column() == Taken && row.taken != row.stated)
@@ -159,6 +170,8 @@ QVariant PictureModel::headerData(int section, Qt::Orientation orientation, int 
     // A heading that is cut off can be read in its tooltip.
     if (role != Qt::DisplayRole && role != Qt::ToolTipRole)
         return {};
+    if (isProperty(section))
+        return m_propertyHeadings.value(propertyOf(section));
     if (m_headings.contains(section))
         return m_headings.value(section);
     switch (section) {
@@ -249,6 +262,7 @@ std::vector<PlacedRow> PictureModel::takeWhere(const std::function<bool(const Pi
         m_idOfPath.remove(m_rows[i].path);
         m_thumbnails.remove(m_rows[i].id);
         dropReading(m_rows[i].id);
+        forgetProperties(m_rows[i]);
         taken.push_back({int(i), std::move(m_rows[i])});
     }
     m_rows = std::move(kept);
@@ -447,6 +461,61 @@ void PictureModel::takeThumbnail(int id, const jobs::ReadResult &result, const T
     changed(index, Thumbnail, Thumbnail);
 }
 
+void PictureModel::forgetProperties(PictureRow &row)
+{
+    m_propertiesRead -= row.propertiesRead ? 1 : 0;
+    row.propertiesRead = false;
+    row.propertiesOld = false;
+    row.properties.clear();
+}
+
+void PictureModel::setWantedProperties(const QStringList &names)
+{
+    if (names == m_wantedProperties)
+        return;
+    m_wantedProperties = names;
+    const QList<int> asked = m_propertyAsks.keys();
+    for (const int id : asked)
+        m_reader.drop(m_propertyAsks.take(id));
+    for (PictureRow &row : m_rows)
+        forgetProperties(row);
+}
+
+void PictureModel::setPropertyColumns(const QStringList &names, const QHash<QString, QString> &headings)
+{
+    m_propertyColumns = names.mid(0, LastProperty - FirstProperty + 1);
+    m_propertyHeadings = headings;
+    Q_EMIT headerDataChanged(Qt::Horizontal, FirstProperty, LastProperty);
+}
+
+void PictureModel::wantProperties(int index, jobs::Urgency urgency)
+{
+    const PictureRow &row = m_rows[size_t(index)];
+    const int id = row.id;
+    if ((row.propertiesRead && !row.propertiesOld) || row.isFolder || m_wantedProperties.isEmpty() ||
+        m_propertyAsks.contains(id))
+        return;
+    QVariantMap asked = jobs::askingFields(row.path);
+    asked.insert(QStringLiteral("names"), m_wantedProperties);
+    m_propertyAsks.insert(id, m_reader.ask({jobs::Reading::Values, row.path, asked}, urgency,
+                                           [this, id](const jobs::ReadResult &result) { takeProperties(id, result); }));
+}
+
+void PictureModel::takeProperties(int id, const jobs::ReadResult &result)
+{
+    m_propertyAsks.remove(id);
+    const int index = indexOfId(id);
+    if (index < 0)
+        return;
+    PictureRow &row = m_rows[size_t(index)];
+    row.properties = listedValues(result.value("values").toMap());
+    m_propertiesRead += row.propertiesRead ? 0 : 1;
+    row.propertiesOld = false;
+    row.propertiesRead = true; // of one that cannot be read too: it says nothing
+    changed(index, FirstProperty, LastProperty);
+    Q_EMIT propertiesArrived(id);
+}
+
 void PictureModel::dropThumbnailsBut(const QSet<int> &ids)
 {
     const QList<int> asked = m_thumbnailAsks.keys();
@@ -459,6 +528,7 @@ void PictureModel::dropReading(int id)
 {
     m_reader.drop(m_headers.take(id));
     m_reader.drop(m_thumbnailAsks.take(id));
+    m_reader.drop(m_propertyAsks.take(id));
 }
 
 void PictureModel::forget(int index)
@@ -467,6 +537,7 @@ void PictureModel::forget(int index)
     dropReading(row.id);
     row.headerRead = false;
     row.thumbnailTried = false;
+    row.propertiesOld = true; // and they count until they are read again: a row does not go and come
     m_thumbnails.remove(row.id);
     changed(index, Thumbnail, Type);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/models/property_filter.h"
 #include "app/reading/known_pictures.h"
 #include "app/reading/thumbnails.h"
 
@@ -39,8 +40,11 @@ struct PictureRow
     QDateTime taken;             ///< the same by the corrected clock
     QString camera;              ///< empty where the file states none
     int rating = 0;              ///< stars, 1 to 5; 0 for none
-    bool isTicked = true;        ///< runs work on it
-    QStringList results;         ///< the files that a run made of it, while the row says so
+    ListedValues properties;     ///< of those that are wanted
+    bool propertiesRead = false;
+    bool propertiesOld = false; ///< the file was written since
+    bool isTicked = true;       ///< runs work on it
+    QStringList results;        ///< the files that a run made of it, while the row says so
     QString newName;
     QString newSize;
     StatusKind kind = StatusKind::None;
@@ -62,10 +66,15 @@ struct InputRule
     bool anyFile = true;      ///< files of whatever kind
     QSet<QString> extensions; ///< in lower case, where not any file is taken
     int leastRating = 0;      ///< the user wants to see no others
+    PropertyFilter filter;    ///< nor those that it does not take; what is not read yet is not taken
 
     /** The kind of file is one that the action works on. */
     bool takesKindOf(const PictureRow &row) const;
-    bool takes(const PictureRow &row) const { return takesKindOf(row) && row.rating >= leastRating; }
+    bool takes(const PictureRow &row) const
+    {
+        return takesKindOf(row) && row.rating >= leastRating &&
+               (filter.isEmpty() || ((row.isFolder || row.propertiesRead) && filter.takes(row.name, row.properties)));
+    }
 };
 
 /** The input list. Cells are plain text; thumbnails are held for a few hundred rows only. */
@@ -84,6 +93,8 @@ public:
         Pixels,
         Bytes,
         Type,
+        FirstProperty, ///< properties that the user chose
+        LastProperty = FirstProperty + 7,
         NewName,
         NewSize,
         Status,
@@ -119,6 +130,19 @@ public:
     const PictureRow &withHeader(int index);
     /** Has them read; headerArrived() tells of it, out of the event loop where they are not known already. */
     void wantHeader(int index, jobs::Urgency urgency);
+    /** Which properties are read of rows, by their names; what was read of others is forgotten. */
+    void setWantedProperties(const QStringList &names);
+    const QStringList &wantedProperties() const { return m_wantedProperties; }
+    /** Which of them stand in columns, at most as many as there are, and what these are called. */
+    void setPropertyColumns(const QStringList &names, const QHash<QString, QString> &headings);
+    /** The property of a column; empty where it has none. */
+    QString propertyOf(int column) const { return m_propertyColumns.value(column - FirstProperty); }
+    /** Has the wanted ones read; propertiesArrived() tells of it, out of the event loop. */
+    void wantProperties(int index, jobs::Urgency urgency);
+    int propertiesInWork() const { return int(m_propertyAsks.size()); }
+    /** Of how many rows they were read. */
+    int propertiesRead() const { return m_propertiesRead; }
+
     /** The file of the row is at another path now; all that is known of it stays. */
     void setPath(int index, const QString &path);
     void setPlan(int index, const QString &newName, const QString &newSize);
@@ -156,12 +180,15 @@ public:
 Q_SIGNALS:
     void headerArrived(int id);
     void thumbnailArrived(int id);
+    void propertiesArrived(int id);
 
 private:
     static QString thumbnailWords(const PictureRow &row);
     void takeHeader(int id, const KnownPicture &picture);
     void askForThumbnail(int id, const ThumbnailAsk &ask);
     void takeThumbnail(int id, const jobs::ReadResult &result, const ThumbnailAsk &ask);
+    void takeProperties(int id, const jobs::ReadResult &result);
+    void forgetProperties(PictureRow &row);
     void dropReading(int id);
     void changed(int index, Column first, Column last);
     void rebuildIndex();
@@ -173,6 +200,11 @@ private:
     QCache<int, QPixmap> m_thumbnails;
     QHash<int, jobs::Reader::Number> m_headers; ///< being read, by id
     QHash<int, jobs::Reader::Number> m_thumbnailAsks;
+    QHash<int, jobs::Reader::Number> m_propertyAsks;
+    QStringList m_wantedProperties;
+    QStringList m_propertyColumns;
+    QHash<QString, QString> m_propertyHeadings;
+    int m_propertiesRead = 0;
     bool m_sharesThumbnails = false;
     QHash<int, QString> m_headings;
     bool m_stressesNewNames = false;

@@ -56,9 +56,10 @@ void PictureOrder::setOnly(const std::optional<QSet<int>> &ids)
 
 void PictureOrder::setInput(const InputRule &rule)
 {
-    const int leastRating = m_input.leastRating;
+    const InputRule before = m_input;
     m_input = rule;
-    m_input.leastRating = leastRating;
+    m_input.leastRating = before.leastRating;
+    m_input.filter = before.filter;
     invalidateFilter();
 }
 
@@ -68,10 +69,33 @@ void PictureOrder::setLeastRating(int stars)
     invalidateFilter();
 }
 
+void PictureOrder::setFilter(const PropertyFilter &filter)
+{
+    m_input.filter = filter;
+    invalidateFilter();
+}
+
+/** Numbers before texts, and what is not stated last. */
+bool PictureOrder::isStatedBefore(const PictureRow &a, const PictureRow &b, const QString &property) const
+{
+    const ListedValue first = a.properties.value(property);
+    const ListedValue second = b.properties.value(property);
+    if (first.words.isEmpty() || second.words.isEmpty())
+        return second.words.isEmpty() && !first.words.isEmpty();
+    if (first.number && second.number)
+        return *first.number < *second.number;
+    if (first.number || second.number)
+        return bool(first.number);
+    return m_order.compare(first.stated.isEmpty() ? first.words : first.stated,
+                           second.stated.isEmpty() ? second.words : second.stated) < 0;
+}
+
 bool PictureOrder::lessThan(const QModelIndex &left, const QModelIndex &right) const
 {
     const PictureRow &a = m_model.row(left.row());
     const PictureRow &b = m_model.row(right.row());
+    if (const QString property = m_model.propertyOf(left.column()); !property.isEmpty())
+        return isStatedBefore(a, b, property);
     if (left.column() == PictureModel::Bytes)
         return a.bytes < b.bytes;
     if (left.column() == PictureModel::Pixels)

@@ -25,6 +25,8 @@ public:
     void setInput(const InputRule &rule);
     /** Pictures with fewer stars are not shown, and no action works on them; 0: all are. */
     void setLeastRating(int stars);
+    /** Pictures that it does not take are not shown, and no action works on them. */
+    void setFilter(const PropertyFilter &filter);
     const InputRule &input() const { return m_input; }
 
 protected:
@@ -32,6 +34,8 @@ protected:
     bool filterAcceptsRow(int row, const QModelIndex &parent) const override;
 
 private:
+    bool isStatedBefore(const PictureRow &a, const PictureRow &b, const QString &property) const;
+
     PictureModel &m_model;
     QCollator m_order;
     InputRule m_input;

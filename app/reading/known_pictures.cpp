@@ -1,5 +1,8 @@
 #include "app/reading/known_pictures.h"
 
+#include "jobs/reading/field_errand.h"
+#include "meta/metadata_file.h"
+
 #include "platform/foundation/paths.h"
 
 #include <sys/stat.h>
@@ -35,7 +38,7 @@ KnownPicture pictureFrom(const jobs::ReadResult &result)
 
 jobs::ReadRequest requestFor(const QString &path)
 {
-    return {jobs::Reading::Facts, path, {}};
+    return {jobs::Reading::Facts, path, jobs::askingFields(path)};
 }
 
 } // namespace
@@ -52,7 +55,12 @@ KnownPictures::Stamp KnownPictures::stampOf(const QString &path)
     struct stat status = {};
     if (::stat(platform::encodedPath(path).constData(), &status) != 0)
         return {};
-    return {status.st_dev, status.st_ino, status.st_size, status.st_mtim.tv_sec * nanoseconds + status.st_mtim.tv_nsec};
+    Stamp stamp = {status.st_dev, status.st_ino, status.st_size,
+                   status.st_mtim.tv_sec * nanoseconds + status.st_mtim.tv_nsec};
+    const meta::Sidecar sidecar = meta::sidecarOf(path);
+    if (sidecar.isThere && ::stat(platform::encodedPath(sidecar.path).constData(), &status) == 0)
+        stamp.sidecarChangedNs = status.st_mtim.tv_sec * nanoseconds + status.st_mtim.tv_nsec;
+    return stamp;
 }
 
 std::optional<KnownPicture> KnownPictures::find(const QString &path) const

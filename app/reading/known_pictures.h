@@ -49,6 +49,7 @@ private:
         quint64 number = 0;
         qint64 bytes = -1; ///< none is there
         qint64 changedNs = 0;
+        qint64 sidecarChangedNs = 0; ///< what a sidecar says counts too
         bool operator==(const Stamp &other) const = default;
     };
     struct Entry

@@ -1813,6 +1813,14 @@
         <source>Write the stars of the list into the files of its pictures, where other programs read them</source>
         <translation>Die Sterne der Liste in die Dateien der Bilder schreiben, wo andere Programme sie lesen</translation>
     </message>
+    <message>
+        <source>&amp;Properties and Filter…</source>
+        <translation>&amp;Eigenschaften und Filter …</translation>
+    </message>
+    <message>
+        <source>Show metadata as columns of the list, and only the pictures that match</source>
+        <translation>Metadaten als Spalten der Liste zeigen, und nur passende Bilder</translation>
+    </message>
 </context>
 <context>
     <name>Manual</name>
@@ -4720,6 +4728,10 @@
             <numerusform>%n Datei kopiert</numerusform>
             <numerusform>%n Dateien kopiert</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Reading properties: %1 of %2</source>
+        <translation>Eigenschaften werden gelesen: %1 von %2</translation>
     </message>
 </context>
 <context>
@@ -10192,6 +10204,10 @@
             <numerusform>%n Sternen oder mehr</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Only pictures that match the filter are processed: %1</source>
+        <translation>Nur Bilder, die dem Filter entsprechen, werden bearbeitet: %1</translation>
+    </message>
 </context>
 <context>
     <name>step-words</name>
@@ -11600,6 +11616,10 @@
             <numerusform>Nur %n Stern oder mehr</numerusform>
             <numerusform>Nur %n Sterne oder mehr</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Properties and Filter…</source>
+        <translation>Eigenschaften und Filter …</translation>
     </message>
 </context>
 <context>
@@ -13017,6 +13037,148 @@
     <message>
         <source>the picture no longer exists</source>
         <translation>das Bild ist nicht mehr vorhanden</translation>
+    </message>
+</context>
+<context>
+    <name>list-properties</name>
+    <message>
+        <source>is</source>
+        <translation>ist</translation>
+    </message>
+    <message>
+        <source>is not</source>
+        <translation>ist nicht</translation>
+    </message>
+    <message>
+        <source>contains</source>
+        <translation>enthält</translation>
+    </message>
+    <message>
+        <source>above</source>
+        <translation>größer als</translation>
+    </message>
+    <message>
+        <source>below</source>
+        <translation>kleiner als</translation>
+    </message>
+    <message>
+        <source>is empty</source>
+        <translation>ist leer</translation>
+    </message>
+    <message>
+        <source>is not empty</source>
+        <translation>ist nicht leer</translation>
+    </message>
+    <message>
+        <source>All conditions apply</source>
+        <translation>Alle Bedingungen treffen zu</translation>
+    </message>
+    <message>
+        <source>At least one condition applies</source>
+        <translation>Mindestens eine Bedingung trifft zu</translation>
+    </message>
+    <message>
+        <source>Search properties</source>
+        <translation>Eigenschaften suchen</translation>
+    </message>
+    <message>
+        <source>Choose Property…</source>
+        <translation>Eigenschaft wählen …</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Shown: %1</source>
+        <translation>Angezeigt: %1</translation>
+    </message>
+    <message>
+        <source>All pictures are shown</source>
+        <translation>Alle Bilder werden angezeigt</translation>
+    </message>
+</context>
+<context>
+    <name>ListProperties</name>
+    <message>
+        <source>Properties and filter</source>
+        <translation>Eigenschaften und Filter</translation>
+    </message>
+    <message>
+        <source>&amp;Kept filter</source>
+        <translation>&amp;Gespeicherter Filter</translation>
+    </message>
+    <message>
+        <source>Name of the filter</source>
+        <translation>Name des Filters</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Keep the conditions below under this name</source>
+        <translation>Die Bedingungen darunter unter diesem Namen speichern</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>&amp;Suchen</translation>
+    </message>
+    <message>
+        <source>Part of a name or a value</source>
+        <translation>Teil eines Namens oder Werts</translation>
+    </message>
+    <message>
+        <source>S&amp;how</source>
+        <translation>&amp;Anzeigen, wenn</translation>
+    </message>
+    <message>
+        <source>Choose the property</source>
+        <translation>Eigenschaft wählen</translation>
+    </message>
+    <message>
+        <source>Comparison</source>
+        <translation>Vergleich</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Remove this condition</source>
+        <translation>Diese Bedingung entfernen</translation>
+    </message>
+    <message>
+        <source>Add Condition</source>
+        <translation>Bedingung hinzufügen</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Spalten</translation>
+    </message>
+    <message>
+        <source>Add &amp;Column…</source>
+        <translation>S&amp;palte hinzufügen …</translation>
+    </message>
+    <message>
+        <source>Remove All</source>
+        <translation>Alle entfernen</translation>
+    </message>
+    <message>
+        <source>Show All</source>
+        <translation>Alle zeigen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
     </message>
 </context>
 </TS>

@@ -1813,6 +1813,14 @@
         <source>Write the stars of the list into the files of its pictures, where other programs read them</source>
         <translation>Écrire les étoiles de la liste dans les fichiers des images, où d’autres programmes les lisent</translation>
     </message>
+    <message>
+        <source>&amp;Properties and Filter…</source>
+        <translation>&amp;Propriétés et filtre…</translation>
+    </message>
+    <message>
+        <source>Show metadata as columns of the list, and only the pictures that match</source>
+        <translation>Afficher des métadonnées en colonnes, et seulement les images qui correspondent</translation>
+    </message>
 </context>
 <context>
     <name>Manual</name>
@@ -4720,6 +4728,10 @@
             <numerusform>%n fichier copié</numerusform>
             <numerusform>%n fichiers copiés</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Reading properties: %1 of %2</source>
+        <translation>Lecture des propriétés : %1 sur %2</translation>
     </message>
 </context>
 <context>
@@ -10192,6 +10204,10 @@
             <numerusform>%n étoiles et plus</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Only pictures that match the filter are processed: %1</source>
+        <translation>Seules les images qui correspondent au filtre sont traitées : %1</translation>
+    </message>
 </context>
 <context>
     <name>step-words</name>
@@ -11600,6 +11616,10 @@
             <numerusform>Seulement %n étoile et plus</numerusform>
             <numerusform>Seulement %n étoiles et plus</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Properties and Filter…</source>
+        <translation>Propriétés et filtre…</translation>
     </message>
 </context>
 <context>
@@ -13017,6 +13037,148 @@
     <message>
         <source>the picture no longer exists</source>
         <translation>l’image n’existe plus</translation>
+    </message>
+</context>
+<context>
+    <name>list-properties</name>
+    <message>
+        <source>is</source>
+        <translation>est</translation>
+    </message>
+    <message>
+        <source>is not</source>
+        <translation>n’est pas</translation>
+    </message>
+    <message>
+        <source>contains</source>
+        <translation>contient</translation>
+    </message>
+    <message>
+        <source>above</source>
+        <translation>supérieur à</translation>
+    </message>
+    <message>
+        <source>below</source>
+        <translation>inférieur à</translation>
+    </message>
+    <message>
+        <source>is empty</source>
+        <translation>est vide</translation>
+    </message>
+    <message>
+        <source>is not empty</source>
+        <translation>n’est pas vide</translation>
+    </message>
+    <message>
+        <source>All conditions apply</source>
+        <translation>Toutes les conditions sont remplies</translation>
+    </message>
+    <message>
+        <source>At least one condition applies</source>
+        <translation>Au moins une condition est remplie</translation>
+    </message>
+    <message>
+        <source>Search properties</source>
+        <translation>Rechercher une propriété</translation>
+    </message>
+    <message>
+        <source>Choose Property…</source>
+        <translation>Choisir une propriété…</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucun</translation>
+    </message>
+    <message>
+        <source>Shown: %1</source>
+        <translation>Affichées : %1</translation>
+    </message>
+    <message>
+        <source>All pictures are shown</source>
+        <translation>Toutes les images sont affichées</translation>
+    </message>
+</context>
+<context>
+    <name>ListProperties</name>
+    <message>
+        <source>Properties and filter</source>
+        <translation>Propriétés et filtre</translation>
+    </message>
+    <message>
+        <source>&amp;Kept filter</source>
+        <translation>Filtre &amp;enregistré</translation>
+    </message>
+    <message>
+        <source>Name of the filter</source>
+        <translation>Nom du filtre</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Keep the conditions below under this name</source>
+        <translation>Enregistrer les conditions ci-dessous sous ce nom</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>&amp;Rechercher</translation>
+    </message>
+    <message>
+        <source>Part of a name or a value</source>
+        <translation>Partie d’un nom ou d’une valeur</translation>
+    </message>
+    <message>
+        <source>S&amp;how</source>
+        <translation>A&amp;fficher si</translation>
+    </message>
+    <message>
+        <source>Choose the property</source>
+        <translation>Choisir la propriété</translation>
+    </message>
+    <message>
+        <source>Comparison</source>
+        <translation>Comparaison</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <source>Remove this condition</source>
+        <translation>Retirer cette condition</translation>
+    </message>
+    <message>
+        <source>Add Condition</source>
+        <translation>Ajouter une condition</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Colonnes</translation>
+    </message>
+    <message>
+        <source>Add &amp;Column…</source>
+        <translation>Ajouter une &amp;colonne…</translation>
+    </message>
+    <message>
+        <source>Remove All</source>
+        <translation>Tout retirer</translation>
+    </message>
+    <message>
+        <source>Show All</source>
+        <translation>Tout afficher</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
     </message>
 </context>
 </TS>

@@ -1813,6 +1813,14 @@
         <source>Write the stars of the list into the files of its pictures, where other programs read them</source>
         <translation>De sterren van de lijst in de bestanden van de foto’s schrijven, waar andere programma’s ze lezen</translation>
     </message>
+    <message>
+        <source>&amp;Properties and Filter…</source>
+        <translation>&amp;Eigenschappen en filter…</translation>
+    </message>
+    <message>
+        <source>Show metadata as columns of the list, and only the pictures that match</source>
+        <translation>Metadata als kolommen van de lijst tonen, en alleen passende foto’s</translation>
+    </message>
 </context>
 <context>
     <name>Manual</name>
@@ -4720,6 +4728,10 @@
             <numerusform>%n bestand gekopieerd</numerusform>
             <numerusform>%n bestanden gekopieerd</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Reading properties: %1 of %2</source>
+        <translation>Eigenschappen lezen: %1 van %2</translation>
     </message>
 </context>
 <context>
@@ -10192,6 +10204,10 @@
             <numerusform>%n sterren of meer</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Only pictures that match the filter are processed: %1</source>
+        <translation>Alleen foto’s die bij het filter passen, worden verwerkt: %1</translation>
+    </message>
 </context>
 <context>
     <name>step-words</name>
@@ -11600,6 +11616,10 @@
             <numerusform>Alleen %n ster of meer</numerusform>
             <numerusform>Alleen %n sterren of meer</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Properties and Filter…</source>
+        <translation>Eigenschappen en filter…</translation>
     </message>
 </context>
 <context>
@@ -13017,6 +13037,148 @@
     <message>
         <source>the picture no longer exists</source>
         <translation>de foto bestaat niet meer</translation>
+    </message>
+</context>
+<context>
+    <name>list-properties</name>
+    <message>
+        <source>is</source>
+        <translation>is</translation>
+    </message>
+    <message>
+        <source>is not</source>
+        <translation>is niet</translation>
+    </message>
+    <message>
+        <source>contains</source>
+        <translation>bevat</translation>
+    </message>
+    <message>
+        <source>above</source>
+        <translation>hoger dan</translation>
+    </message>
+    <message>
+        <source>below</source>
+        <translation>lager dan</translation>
+    </message>
+    <message>
+        <source>is empty</source>
+        <translation>is leeg</translation>
+    </message>
+    <message>
+        <source>is not empty</source>
+        <translation>is niet leeg</translation>
+    </message>
+    <message>
+        <source>All conditions apply</source>
+        <translation>Alle voorwaarden kloppen</translation>
+    </message>
+    <message>
+        <source>At least one condition applies</source>
+        <translation>Minstens één voorwaarde klopt</translation>
+    </message>
+    <message>
+        <source>Search properties</source>
+        <translation>Eigenschappen zoeken</translation>
+    </message>
+    <message>
+        <source>Choose Property…</source>
+        <translation>Eigenschap kiezen…</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Geen</translation>
+    </message>
+    <message>
+        <source>Shown: %1</source>
+        <translation>Getoond: %1</translation>
+    </message>
+    <message>
+        <source>All pictures are shown</source>
+        <translation>Alle foto’s worden getoond</translation>
+    </message>
+</context>
+<context>
+    <name>ListProperties</name>
+    <message>
+        <source>Properties and filter</source>
+        <translation>Eigenschappen en filter</translation>
+    </message>
+    <message>
+        <source>&amp;Kept filter</source>
+        <translation>&amp;Bewaard filter</translation>
+    </message>
+    <message>
+        <source>Name of the filter</source>
+        <translation>Naam van het filter</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Bewaren</translation>
+    </message>
+    <message>
+        <source>Keep the conditions below under this name</source>
+        <translation>De voorwaarden hieronder onder deze naam bewaren</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Verwijderen</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>&amp;Zoeken</translation>
+    </message>
+    <message>
+        <source>Part of a name or a value</source>
+        <translation>Deel van een naam of waarde</translation>
+    </message>
+    <message>
+        <source>S&amp;how</source>
+        <translation>&amp;Tonen als</translation>
+    </message>
+    <message>
+        <source>Choose the property</source>
+        <translation>Eigenschap kiezen</translation>
+    </message>
+    <message>
+        <source>Comparison</source>
+        <translation>Vergelijking</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Waarde</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Weghalen</translation>
+    </message>
+    <message>
+        <source>Remove this condition</source>
+        <translation>Deze voorwaarde weghalen</translation>
+    </message>
+    <message>
+        <source>Add Condition</source>
+        <translation>Voorwaarde toevoegen</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Kolommen</translation>
+    </message>
+    <message>
+        <source>Add &amp;Column…</source>
+        <translation>&amp;Kolom toevoegen…</translation>
+    </message>
+    <message>
+        <source>Remove All</source>
+        <translation>Alles weghalen</translation>
+    </message>
+    <message>
+        <source>Show All</source>
+        <translation>Alles tonen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
     </message>
 </context>
 </TS>

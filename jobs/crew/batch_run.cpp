@@ -1,6 +1,7 @@
 #include "jobs/crew/batch_run.h"
 
 #include "image/recipe/sentence.h"
+#include "meta/metadata_file.h"
 #include "platform/foundation/memory_left.h"
 
 #include <QTimer>
@@ -239,7 +240,7 @@ bool BatchRun::send(Id worker, int number)
         failWhole(number, file.error().message);
         return true;
     }
-    Message message = toMessage(PictureMessage{work.facts, m_needsFacts});
+    Message message = toMessage(PictureMessage{work.facts, m_needsFacts, meta::packetBeside(work.input.path)});
     message.files.push_back(file->takeDescriptor());
     m_idle.erase(worker);
     m_fresh.erase(worker);

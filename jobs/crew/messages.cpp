@@ -191,6 +191,7 @@ Message toMessage(const PictureMessage &picture)
     MessageWriter writer;
     writeTokenFacts(writer, picture.facts);
     writer.flag(picture.wantsFacts);
+    writer.bytes(picture.packet);
     return message(MessageKind::Picture, writer);
 }
 
@@ -202,6 +203,7 @@ template<> std::optional<PictureMessage> fromMessage(const Message &message)
     PictureMessage picture;
     picture.facts = readTokenFacts(reader);
     picture.wantsFacts = reader.flag();
+    picture.packet = reader.bytes();
     return ifAll(reader, picture);
 }
 

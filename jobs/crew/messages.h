@@ -65,6 +65,7 @@ struct PictureMessage
 {
     text::TokenFacts facts; ///< what is known without looking into the picture
     bool wantsFacts = false;
+    QByteArray packet = {}; ///< of its sidecar, see packetBeside(); empty where there is none
 };
 
 /** What a picture will become, one plan an output; only what the other side needs of each. */

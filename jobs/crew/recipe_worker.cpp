@@ -6,6 +6,7 @@
 #include "jobs/crew/messages.h"
 #include "jobs/names.h"
 #include "jobs/reading/picture_reader.h"
+#include "meta/sidecar_metadata.h"
 #include "platform/descriptors/write_all.h"
 #include "platform/file/lent_file.h"
 
@@ -98,7 +99,7 @@ private:
         const Result<ImageSource> source = ImageSource::fromLent(file);
         PlannedMessage planned;
         if (told->wantsFacts)
-            planned.facts = platform::pictureFacts(file);
+            planned.facts = meta::withSidecar(platform::pictureFacts(file), file, told->packet);
         m_facts = withPictureFacts(m_facts, planned.facts);
         if (source) {
             m_source = *source;

@@ -1,5 +1,6 @@
 #include "jobs/desk/batch_errand.h"
 
+#include "meta/metadata_file.h"
 #include "platform/file/lent_file.h"
 
 #include <utility>
@@ -29,7 +30,8 @@ std::vector<Message> BatchErrand::begin(Hand &hand)
     std::vector<Message> messages;
     if (std::exchange(hand.recipe, m_recipe->number()) != m_recipe->number())
         messages = m_recipe->messages();
-    messages.push_back(toMessage(PictureMessage{m_task.facts, m_task.wantsFacts}));
+    messages.push_back(
+        toMessage(PictureMessage{m_task.facts, m_task.wantsFacts, meta::packetBeside(m_task.facts.path)}));
     messages.back().files.push_back(picture->takeDescriptor());
     for (size_t first = 0; first < files.size(); first += platform::mostFiles) {
         OutputsMessage outputs;

@@ -1,6 +1,7 @@
 #include "jobs/desk/plan_errand.h"
 
 #include "image/recipe/sentence.h"
+#include "meta/metadata_file.h"
 #include "platform/file/lent_file.h"
 
 #include <utility>
@@ -39,6 +40,7 @@ std::vector<Message> PlanErrand::begin(Hand &hand)
         answer(problemOnly(picture.error().message));
         return {};
     }
+    m_picture.packet = meta::packetBeside(m_picture.facts.path);
     messages.push_back(toMessage(m_picture));
     messages.back().files.push_back(picture->takeDescriptor());
     return messages;

@@ -8,6 +8,7 @@
 #include "jobs/report.h"
 #include "jobs/result_files.h"
 #include "jobs/result_mark.h"
+#include "meta/metadata_file.h"
 #include "platform/file/regular_file.h"
 #include "platform/foundation/paths.h"
 
@@ -148,7 +149,8 @@ std::vector<Message> RecipeErrand::begin(Hand &hand)
     if (std::exchange(hand.recipe, m_recipe->number()) != m_recipe->number())
         messages = m_recipe->messages();
     const bool isNeeded = needsFacts(m_recipe->recipe());
-    messages.push_back(toMessage(PictureMessage{factsOfFile(m_task.path, m_task.index, isNeeded), isNeeded}));
+    messages.push_back(toMessage(
+        PictureMessage{factsOfFile(m_task.path, m_task.index, isNeeded), isNeeded, meta::packetBeside(m_task.path)}));
     messages.back().files.push_back(picture->takeDescriptor());
     messages.push_back(toMessage(OutputsMessage{{0}}));
     messages.back().files.push_back(std::move(*target));

@@ -140,7 +140,7 @@ QVariantMap writeFieldsNow(const QString &path, const QVariantMap &work)
 
 QVariantMap askingFields(const QString &path)
 {
-    return {{key("packet"), meta::packetOf(meta::sidecarOf(path)).value_or(QByteArray())}};
+    return {{key("packet"), meta::packetBeside(path)}};
 }
 
 QVariantMap fieldsAnswer(const QString &path, const QString &problem, const QVariantMap &values)

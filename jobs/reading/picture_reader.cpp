@@ -8,7 +8,9 @@
 #include "jobs/names.h"
 #include "jobs/reading/field_copies.h"
 #include "jobs/reading/preview_edits.h"
+#include "jobs/reading/property_values.h"
 #include "jobs/services/recipe_service.h"
+#include "meta/sidecar_metadata.h"
 #include "platform/file/lent_file.h"
 #include "platform/foundation/memory_left.h"
 #include "platform/graphics/resample.h"
@@ -115,7 +117,8 @@ public:
         facts.created = value("created").toString();
         facts.changed = value("changed").toString();
         facts.bytes = value("bytes").toLongLong();
-        return withPictureFacts(facts, platform::pictureFacts(file()));
+        return withPictureFacts(
+            facts, meta::withSidecar(platform::pictureFacts(file()), file(), value("packet").toByteArray()));
     }
 
     double scale() const { return value("scale").toDouble(); }
@@ -181,9 +184,9 @@ QVariantMap statedIn(const platform::PictureFacts &facts)
             {key("statedType"), facts.typeIdentifier}};
 }
 
-ReadAnswer factsOf(const std::shared_ptr<const LentFile> &file)
+ReadAnswer factsOf(const std::shared_ptr<const LentFile> &file, const QByteArray &packet)
 {
-    ReadAnswer answer = answerWith(statedIn(platform::pictureFacts(file)));
+    ReadAnswer answer = answerWith(statedIn(meta::withSidecar(platform::pictureFacts(file), file, packet)));
     const Result<ImageSource> source = ImageSource::fromLent(file);
     if (!source) {
         answer.message.problem = source.error().message;
@@ -424,7 +427,7 @@ ReadAnswer PictureReader::answer(const ReadMessage &read, std::vector<platform::
     };
     switch (read.what) {
     case Reading::Facts:
-        return factsOf(request.file());
+        return factsOf(request.file(), request.value("packet").toByteArray());
     case Reading::Thumbnail:
         return thumbnail(request);
     case Reading::Rendition:
@@ -441,6 +444,8 @@ ReadAnswer PictureReader::answer(const ReadMessage &read, std::vector<platform::
         return {fieldsOf(request.file(), read.values), {}};
     case Reading::FieldsCopy:
         return {fieldsCopy(request.file(), request.other(1), request.other(2), read.values), {}};
+    case Reading::Values:
+        return {propertyValues(request.file(), read.values), {}};
     case Reading::Profile:
         return withSource(profileOf);
     case Reading::Plan:

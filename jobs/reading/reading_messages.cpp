@@ -41,7 +41,7 @@ template<> std::optional<ReadMessage> fromMessage(const Message &message)
 {
     MessageReader reader(message.body);
     ReadMessage read;
-    read.what = Reading(reader.number(int(Reading::Facts), int(Reading::FieldsCopy)));
+    read.what = Reading(reader.number(int(Reading::Facts), int(Reading::Values)));
     read.values = platform::readFields(reader);
     read.paths = reader.texts();
     const bool isSound = message.kind == quint16(MessageKind::Read) && reader.isAll() && !read.paths.isEmpty() &&

@@ -62,6 +62,8 @@ enum class Reading {
      * along: as above. Answer: {changes, undo, before, after}, and the new {packet} where the picture itself is not changed.
      */
     FieldsCopy,
+    /** {values} of properties with {names}: see propertyValues(), with the {packet} of a sidecar. */
+    Values,
 };
 
 /** Files come along, in the order of the paths; the picture is the first. */

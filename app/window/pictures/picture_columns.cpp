@@ -42,18 +42,12 @@ struct ColumnKind
 constexpr std::array<PictureModel::Column, 4> dispensable = {PictureModel::Camera, PictureModel::Taken,
                                                              PictureModel::Type, PictureModel::Bytes};
 
-constexpr std::array<ColumnKind, PictureModel::ColumnCount> kinds = {{{"thumbnail", 82, 0, 0, 0},
-                                                                      {"name", 0, 4, 3, 130},
-                                                                      {"folder", 0, 2, 2, 90},
-                                                                      {"taken", 128, 0, 0, 0},
-                                                                      {"camera", 118, 0, 0, 0},
-                                                                      {"rating", 76, 0, 0, 0},
-                                                                      {"pixels", 92, 0, 0, 0},
-                                                                      {"size", 76, 0, 0, 0},
-                                                                      {"type", 86, 0, 0, 0},
-                                                                      {"newName", 0, 2, 4, 110},
-                                                                      {"newSize", 92, 0, 0, 0},
-                                                                      {"status", 0, 5, 4, 120}}};
+constexpr std::array<ColumnKind, PictureModel::ColumnCount> kinds = {
+    {{"thumbnail", 82, 0, 0, 0},  {"name", 0, 4, 3, 130},      {"folder", 0, 2, 2, 90},     {"taken", 128, 0, 0, 0},
+     {"camera", 118, 0, 0, 0},    {"rating", 76, 0, 0, 0},     {"pixels", 92, 0, 0, 0},     {"size", 76, 0, 0, 0},
+     {"type", 86, 0, 0, 0},       {"property1", 116, 0, 0, 0}, {"property2", 116, 0, 0, 0}, {"property3", 116, 0, 0, 0},
+     {"property4", 116, 0, 0, 0}, {"property5", 116, 0, 0, 0}, {"property6", 116, 0, 0, 0}, {"property7", 116, 0, 0, 0},
+     {"property8", 116, 0, 0, 0}, {"newName", 0, 2, 4, 110},   {"newSize", 92, 0, 0, 0},    {"status", 0, 5, 4, 120}}};
 
 // The texts of a kept layout.
 const QLatin1String orderKey("order");
@@ -66,6 +60,11 @@ int columnNamed(const QString &name)
         if (name == QLatin1String(kinds[i].name))
             return int(i);
     return -1;
+}
+
+bool isProperty(int column)
+{
+    return column >= PictureModel::FirstProperty && column <= PictureModel::LastProperty;
 }
 
 QStringList columnNames()
@@ -122,6 +121,8 @@ void PictureTable::prepareHeader()
 /** Whether all that the list is sorted by is known of each row. */
 bool PictureTable::isReadFor(int column) const
 {
+    if (!m_model.propertyOf(column).isEmpty() && !arePropertiesRead())
+        return false;
     const bool isRead =
         column == PictureModel::Pixels || column == PictureModel::Taken || column == PictureModel::Camera;
     return !isRead || (m_headersUpTo >= m_model.rowCount() && m_model.headersInWork() == 0);
@@ -152,14 +153,15 @@ void PictureTable::showColumnMenu()
 void PictureTable::addColumnEntries(QMenu &menu)
 {
     for (size_t column = 0; column < kinds.size(); ++column) {
-        if (!m_columnShown[column] || column == PictureModel::Thumbnail || column == PictureModel::Name ||
-            column == PictureModel::Status)
+        if (!m_columnShown[column] || isProperty(int(column)) || column == PictureModel::Thumbnail ||
+            column == PictureModel::Name || column == PictureModel::Status)
             continue;
         QAction *entry = menu.addAction(m_model.headerData(int(column), Qt::Horizontal, Qt::DisplayRole).toString());
         entry->setCheckable(true);
         entry->setChecked(isShown(column));
         connect(entry, &QAction::triggered, this, [this, column](bool on) { chooseColumn(column, on); });
     }
+    addPropertyEntries(menu);
     menu.addSeparator();
     addRatingEntries(menu);
     menu.addAction(tr("Reset Columns"), this, [this] {
@@ -267,7 +269,7 @@ void PictureTable::setColumns(const QStringList &columns, const QVariantMap &hea
     m_model.setHeadings(words);
     m_model.setStressesNewNames(stressed);
     for (size_t column = 0; column < kinds.size(); ++column)
-        m_columnShown[column] = columns.contains(QLatin1String(kinds[column].name));
+        m_columnShown[column] = isProperty(int(column)) || columns.contains(QLatin1String(kinds[column].name));
     m_columnsChosen = false;
     m_wanted.clear();
     showColumns();
@@ -287,6 +289,8 @@ void PictureTable::showColumns()
 
 bool PictureTable::isShown(size_t column) const
 {
+    if (isProperty(int(column)))
+        return !m_model.propertyOf(int(column)).isEmpty();
     if (!m_columnShown[column] || m_wanted.contains(int(column)))
         return m_columnShown[column] && m_wanted.value(int(column));
     return (column != PictureModel::Folder || m_hasFolders) && (column != PictureModel::Rating || m_hasRatings) &&

@@ -132,6 +132,7 @@ void PictureTable::rowsChanged()
 {
     countTaken();
     m_headersUpTo = 0;
+    m_propertiesUpTo = 0;
     noteSorting(horizontalHeader()->sortIndicatorSection());
     chooseSomeRow();
     if (m_order.rowCount() == 0)

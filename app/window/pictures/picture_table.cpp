@@ -5,7 +5,6 @@
 
 #include "platform/foundation/raised.h"
 
-#include <QElapsedTimer>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScrollBar>
@@ -60,6 +59,7 @@ PictureTable::PictureTable(QWidget *parent) : QTableView(parent), m_order(m_mode
     connect(&m_loader, &QTimer::timeout, this, &PictureTable::loadSlice);
     connect(&m_model, &PictureModel::headerArrived, this, &PictureTable::wakeLoader);
     connect(&m_model, &PictureModel::thumbnailArrived, this, &PictureTable::wakeLoader);
+    connect(&m_model, &PictureModel::propertiesArrived, this, &PictureTable::wakeLoader);
 }
 
 int PictureTable::count() const
@@ -232,6 +232,7 @@ void PictureTable::forget(int id)
         return;
     m_model.forget(index);
     m_headersUpTo = qMin(m_headersUpTo, index);
+    m_propertiesUpTo = qMin(m_propertiesUpTo, index);
     noteSorting(horizontalHeader()->sortIndicatorSection());
     wakeLoader();
 }
@@ -301,10 +302,11 @@ void PictureTable::wakeLoader()
 void PictureTable::loadSlice()
 {
     loadVisible();
-    if (!m_busy)
+    if (!m_busy) {
         loadHeaders();
-    const bool isAllKnown = m_headersUpTo >= m_model.rowCount() && m_model.headersInWork() == 0;
-    if (isAllKnown && std::exchange(m_resortPending, false)) {
+        loadProperties();
+    }
+    if (isReadFor(horizontalHeader()->sortIndicatorSection()) && std::exchange(m_resortPending, false)) {
         m_order.sort(horizontalHeader()->sortIndicatorSection(), horizontalHeader()->sortIndicatorOrder());
         Q_EMIT orderChanged();
     }
@@ -326,6 +328,7 @@ void PictureTable::loadVisible()
     for (int i = first; i <= last; ++i) {
         const int row = m_order.mapToSource(m_order.index(i, 0)).row();
         m_model.wantHeader(row, jobs::Urgency::Now);
+        m_model.wantProperties(row, jobs::Urgency::Now);
         const bool isKnown = m_model.row(row).headerRead && !m_model.row(row).pixels.isEmpty();
         if (isKnown && !m_model.hasThumbnail(row) && m_model.thumbnailsInWork() < mostThumbnails)
             m_model.wantThumbnail(row, thumbnail);

@@ -3,6 +3,7 @@
 #include "app/models/picture_order.h"
 #include "app/window/pictures/list_edits.h"
 
+#include <QElapsedTimer>
 #include <QTableView>
 #include <QTimer>
 #include <QVariant>
@@ -39,6 +40,10 @@ class PictureTable : public QTableView
     Q_PROPERTY(bool sharesThumbnails READ sharesThumbnails WRITE setSharesThumbnails)
     /** False while the list is sorted by something that is still being read of some files. */
     Q_PROPERTY(bool settled READ isSettled NOTIFY orderChanged)
+    /** The properties that stand in columns, by their names: those of offeredProperties(), or paths. At most eight; others are left out. */
+    Q_PROPERTY(QStringList propertyColumns READ propertyColumns WRITE setPropertyColumns NOTIFY propertyColumnsChanged)
+    /** Whether setFilter() hides any pictures that it does not take. */
+    Q_PROPERTY(bool filtered READ isFiltered NOTIFY filterChanged)
     /** What the user did to the columns, as a text to be kept: their order and widths. Empty where nothing was done. */
     Q_PROPERTY(QString layout READ columnLayout WRITE setColumnLayout NOTIFY layoutChanged)
     /** The column by which the list is sorted, with a minus sign before it where the last comes first; empty for the order of adding. */
@@ -58,12 +63,15 @@ public:
     bool hasRatings() const { return m_hasRatings; }
     bool keysRate() const { return m_keysRate; }
     void setKeysRate(bool on) { m_keysRate = on; }
-    bool isSettled() const { return !m_resortPending; }
+    bool isSettled() const { return !m_resortPending && !m_isReadingProperties; }
     bool sharesThumbnails() const { return m_model.sharesThumbnails(); }
     void setSharesThumbnails(bool shares) { m_model.setSharesThumbnails(shares); }
     bool isBusy() const { return m_busy; }
     /** While busy (a job runs) nothing is read in the background for rows that are not visible, and ticks stay as they are. */
     void setBusy(bool busy);
+    QStringList propertyColumns() const { return m_propertyColumns; }
+    void setPropertyColumns(const QStringList &names);
+    bool isFiltered() const { return !m_order.input().filter.isEmpty(); }
     QString columnLayout() const;
     void setColumnLayout(const QString &layout);
     QString sorting() const;
@@ -89,6 +97,19 @@ public:
      */
     Q_INVOKABLE void setColumns(const QStringList &columns, const QVariantMap &headings, bool stressed);
 
+    /** What fields of metadata are called, by their names; what is not named there is a path, see jobs::propertyValues(). */
+    Q_INVOKABLE void setFieldNames(const QVariantMap &words);
+    /**
+     * The properties that columns and filters can have: fields, what cameras usually say, and all that the current picture says: {name,
+     * words}. Waits for the current picture.
+     */
+    Q_INVOKABLE QVariantList offeredProperties();
+    /**
+     * Shows pictures that fit only, and no action works on the others: {join: "all" or "any", rules: [{property, comparison, value}],
+     * text}; an empty one shows all. The comparison is one of comparisonNamed(). Parts of the text, between blanks, have each to be in the
+     * name or in one of the values. Pictures that nobody has read yet are not shown until they are.
+     */
+    Q_INVOKABLE void setFilter(const QVariantMap &filter);
     /** Adds the paths that are not in the list yet; returns how many those were. @p roots: the folders that were added. */
     Q_INVOKABLE int addPaths(const QStringList &paths, const QStringList &roots);
     /** Takes the chosen rows out; returns how many those were. */
@@ -178,6 +199,12 @@ Q_SIGNALS:
     void clocksChanged();
     void currentPictureChanged(int id);
     void largePreviewRequested();
+    void propertyColumnsChanged();
+    void filterChanged();
+    /** Columns and filters are to be chosen. */
+    void propertiesRequested();
+    /** Properties that the list is sorted or filtered by were read of so many pictures; the same number twice at the end. */
+    void propertiesProgress(int done, int count);
     /** Files of so many rows were put on the clipboard. */
     void copied(int count);
     void layoutChanged();
@@ -204,6 +231,13 @@ private:
     void columnsChanged();
     void addColumnEntries(QMenu &menu);
     void addRatingEntries(QMenu &menu);
+    void addPropertyEntries(QMenu &menu);
+    bool arePropertiesRead() const;
+    bool needsAllProperties() const;
+    void wantProperties();
+    void loadProperties();
+    void filterAgain();
+    QString propertyHeading(const QString &name) const;
     void rated();
     void chooseColumn(size_t column, bool on);
     void choose(const QModelIndex &index);
@@ -227,6 +261,11 @@ private:
     ListEdits m_edits;
     QTimer m_loader;
     int m_headersUpTo = 0;
+    int m_propertiesUpTo = 0;
+    QStringList m_propertyColumns;
+    QVariantMap m_fieldNames;
+    QElapsedTimer m_sinceProgress; ///< was told, and the list was filtered
+    bool m_isReadingProperties = false;
     bool m_busy = false;
     bool m_resortPending = false;
     bool m_arranging = false;

@@ -8,7 +8,8 @@ export class Escape {
         this.parts = {
             large: { isOpen: () => window.preview.large.visible, close: () => window.preview.closeLarge() },
             run: { isOpen: () => window.run !== null && window.run.isBusy(), close: () => window.run.cancel() },
-            filter: { isOpen: () => window.pictures.problemsOnly || window.pictures.leastRating > 0,
+            filter: { isOpen: () => window.pictures.problemsOnly || window.pictures.leastRating > 0
+                          || window.pictures.filtered,
                       close: () => window.showAllRows() },
             fullScreen: { isOpen: () => shell.fullScreen, close: () => shell.toggleFullScreen() },
         };

@@ -5,9 +5,10 @@ import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";
 import { COLUMNS, tableOf } from "../../lib/list-table.js";
-import { fill } from "../../lib/wording.js";
+import { fill, numberText } from "../../lib/wording.js";
 import { tableCsv } from "../../runs/report.js";
 import { Clocks } from "../clocks/clocks.js";
+import { ListProperties, restoreColumns } from "../list-properties/list-properties.js";
 import { Recent } from "./recent.js";
 
 const DESTINATIONS = "SaveFolders";
@@ -18,6 +19,7 @@ export class ListTools {
     constructor(window) {
         this.window = window;
         this.clocks = null;
+        this.properties = null;
         this.job = shell.job();
         this.destinations = new Recent(window, "destinationsMenu", DESTINATIONS,
                                        (folder) => window.actionPage.output.useFolder(folder),
@@ -27,6 +29,15 @@ export class ListTools {
         const control = (name) => window.form.control(name);
         control("clocksAction").triggered.connect(guard("clocks", () => this.setClocks()));
         control("exportListAction").triggered.connect(guard("export", () => this.exportList()));
+        restoreColumns(window.pictures);
+        control("listPropertiesAction").triggered.connect(guard("properties", () => this.showProperties()));
+        window.pictures.propertiesRequested.connect(guard("properties.asked", () => this.showProperties()));
+        window.pictures.filterChanged.connect(guard("properties.filter", () => window.showFiltered()));
+        window.pictures.propertiesProgress.connect(guard("properties.read", (done, count) => {
+            window.sayBeside(done < count ? fill(qsTr("Reading properties: %1 of %2"), numberText(done),
+                                                 numberText(count)) : "");
+            window.showStart();
+        }));
         window.pictures.copied.connect(guard("copied", (count) => this.copied(count)));
         window.pictures.ratingsChanged.connect(guard("ratings.changed", () => this.ratingsChanged()));
         window.pictures.leastRatingChanged.connect(guard("ratings.shown", () => window.showFiltered()));
@@ -66,6 +77,13 @@ export class ListTools {
             this.clocks = new Clocks(this.window.pictures);
         }
         this.clocks.open();
+    }
+
+    showProperties() {
+        if (this.properties === null) {
+            this.properties = new ListProperties(this.window);
+        }
+        this.properties.open();
     }
 
     // Facts are cached with the dates of the old clocks.

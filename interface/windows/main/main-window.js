@@ -417,6 +417,7 @@ export class MainWindow {
 
     showAllRows() {
         this.pictures.leastRating = 0;
+        this.pictures.setFilter({});
         this.showProblemsOnly(false);
     }
 

@@ -43,6 +43,10 @@ function showFilter(window) {
         notes.push(fill(qsTr("Only pictures with %1 are processed: %2"), qsTr("%n stars or more", "", stars),
                         numberText(window.pictures.count)));
     }
+    if (window.pictures.filtered) {
+        notes.push(fill(qsTr("Only pictures that match the filter are processed: %1"),
+                        numberText(window.pictures.count)));
+    }
     window.form.control("filterBar").visible = notes.length > 0;
     window.form.control("filterNote").text = notes.join(" · ");
 }

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "jobs/reading/reading_messages.h"
+
+#include <memory>
+
+namespace platform {
+class LentFile;
+}
+
+namespace jobs {
+
+/**
+ * What a picture says under the names of properties: those of meta::fields(), which count the sidecar, and paths through the nested
+ * dictionaries of platform::ImageSource::properties(), such as "{Exif}|FNumber" and "|PixelWidth". Answer: {values: {name: {value,
+ * reference}}}, of those that are stated; a reference is what stands beside a coordinate.
+ *
+ * @param asked  {names, packet}: the packet is that of the sidecar, which may be empty
+ */
+AnswerMessage propertyValues(const std::shared_ptr<const platform::LentFile> &picture, const QVariantMap &asked);
+
+/** The names of all properties of a dictionary, as paths. */
+QStringList propertyNames(const QVariantMap &properties);
+
+/** What stands between the parts of a path. */
+inline constexpr char16_t propertySeparator = u'|';
+
+} // namespace jobs

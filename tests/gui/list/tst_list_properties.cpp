@@ -1,0 +1,310 @@
+#include "tests/gui/support/window_driver.h"
+#include "tests/support/test_program.h"
+
+#include "meta/metadata_file.h"
+#include "platform/imageio/metadata/metadata.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QHeaderView>
+#include <QImage>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QSignalSpy>
+#include <QTest>
+
+using window::PictureModel;
+
+/** Properties of pictures as columns of the list, the order by them, and filters of what is shown and processed. */
+class TestListProperties : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup() { m_driver.reset(); }
+    void anyPropertyIsAColumn();
+    void columnsAreKept();
+    void sortsNumbersAsNumbers();
+    void showsHowFarReadingIs();
+    void filtersByPropertyComparisonAndValue();
+    void joinsRulesByAllOrAny();
+    void typedTextIsSearchedInNamesAndValues();
+    void filtersAreKeptUnderNames();
+    void aRunWorksOnWhatIsShown();
+    void escapeShowsAll();
+    void sidecarsCount();
+
+private:
+    void picture(const QString &name, int iso, const QString &copyright);
+    QString path(const QString &name) const { return m_driver->inputFolder() + u'/' + name; }
+    window::PictureTable &list() { return m_driver->pictures(); }
+    QStringList shownNames();
+    bool shows(const QStringList &names)
+    {
+        return m_driver->waitFor([&] { return list().isSettled() && shownNames() == names; });
+    }
+    QStringList column(int column);
+    template<typename T> T *part(const char *name)
+    {
+        auto *found = m_window->findChild<T *>(QString::fromLatin1(name));
+        if (!found)
+            qFatal("no control %s", name);
+        return found;
+    }
+    void open();
+    void chooseProperty(const char *button, const QString &words);
+    void rule(int row, const QString &words, const QString &comparison, const QString &value);
+
+    std::unique_ptr<WindowDriver> m_driver;
+    QWidget *m_window = nullptr;
+};
+
+void TestListProperties::picture(const QString &name, int iso, const QString &copyright)
+{
+    QImage image(40, 30, QImage::Format_RGB32);
+    image.fill(Qt::darkGreen);
+    QBuffer buffer;
+    QVERIFY(buffer.open(QIODevice::WriteOnly));
+    QVERIFY(image.save(&buffer, "jpeg"));
+    QByteArray bytes = buffer.data();
+    if (iso > 0) {
+        const QVariantMap exif = {{QStringLiteral("ISOSpeedRatings"), QVariantList{iso}}};
+        const auto written = platform::Metadata::fromProperties({{QStringLiteral("{Exif}"), exif}}).writtenInto(bytes);
+        QVERIFY(written);
+        bytes = *written;
+    }
+    QFile file(path(name));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    file.close();
+    if (copyright.isEmpty())
+        return;
+    meta::MetadataWork work;
+    work.fields.insert(QStringLiteral("copyright"), {meta::FieldEdit::What::Set, {copyright}});
+    QVERIFY(meta::writeFields(path(name), work));
+}
+
+void TestListProperties::init()
+{
+    m_driver = WindowDriver::showing("resize");
+    picture(QStringLiteral("a.jpg"), 800, QStringLiteral("Ann"));
+    picture(QStringLiteral("b.jpg"), 6400, {});
+    picture(QStringLiteral("c.jpg"), 12800, QStringLiteral("Bob"));
+    picture(QStringLiteral("d.jpg"), 0, QStringLiteral("Ann & Bob"));
+    m_driver->drop({m_driver->inputFolder()});
+    QCOMPARE(list().count(), 4);
+    open();
+}
+
+void TestListProperties::open()
+{
+    m_driver->trigger("listPropertiesAction");
+    m_window = nullptr;
+    QVERIFY(m_driver->waitFor([this] {
+        for (QWidget *each : QApplication::topLevelWidgets())
+            if (each->objectName() == QLatin1String("listPropertiesWindow") && each->isVisible())
+                m_window = each;
+        return m_window != nullptr;
+    }));
+}
+
+QStringList TestListProperties::shownNames()
+{
+    return column(PictureModel::Name);
+}
+
+QStringList TestListProperties::column(int column)
+{
+    QStringList cells;
+    const QAbstractItemModel &model = *list().model();
+    for (int row = 0; row < model.rowCount(); ++row)
+        cells << model.index(row, column).data().toString();
+    return cells;
+}
+
+/** As a person chooses it from the menu. */
+void TestListProperties::chooseProperty(const char *button, const QString &words)
+{
+    part<QAbstractButton>(button)->click();
+    auto *entries = part<QWidget>("propMenu")->findChild<QListWidget *>();
+    for (int i = 0; i < entries->count(); ++i) {
+        if (entries->item(i)->text() != words)
+            continue;
+        entries->setCurrentRow(i);
+        QTest::keyClick(part<QWidget>("propMenu")->findChild<QLineEdit *>(), Qt::Key_Return);
+        return;
+    }
+    QFAIL(qPrintable(words + QStringLiteral(" is not offered")));
+}
+
+void TestListProperties::rule(int row, const QString &words, const QString &comparison, const QString &value)
+{
+    const auto named = [row](const char *name) { return QByteArray(name) + QByteArray::number(row); };
+    chooseProperty(named("propProperty").constData(), words);
+    auto *box = part<QComboBox>(named("propComparison").constData());
+    box->setCurrentIndex(box->findText(comparison));
+    Q_EMIT box->activated(box->currentIndex());
+    part<QLineEdit>(named("propValue").constData())->setText(value);
+}
+
+void TestListProperties::anyPropertyIsAColumn()
+{
+    chooseProperty("propAddColumn", QStringLiteral("Copyright"));
+    chooseProperty("propAddColumn", QStringLiteral("ISO speed ratings"));
+    // Only the current picture's own properties tell of this one.
+    chooseProperty("propAddColumn", QStringLiteral("JFIF: X density"));
+    QVERIFY(m_driver->waitFor([this] {
+        return column(PictureModel::FirstProperty) ==
+               QStringList({QStringLiteral("Ann"), QString(), QStringLiteral("Bob"), QStringLiteral("Ann & Bob")});
+    }));
+    QCOMPARE(column(PictureModel::FirstProperty + 1),
+             QStringList({QStringLiteral("800"), QStringLiteral("6,400"), QStringLiteral("12,800"), QString()}));
+    QVERIFY(!column(PictureModel::FirstProperty + 2).contains(QString()));
+    const QHeaderView &header = *list().horizontalHeader();
+    QVERIFY(!header.isSectionHidden(PictureModel::FirstProperty));
+    QVERIFY(header.isSectionHidden(PictureModel::FirstProperty + 3));
+    QCOMPARE(list().model()->headerData(PictureModel::FirstProperty, Qt::Horizontal).toString(),
+             QStringLiteral("Copyright"));
+    part<QAbstractButton>("propNoColumns")->click();
+    QVERIFY(header.isSectionHidden(PictureModel::FirstProperty));
+}
+
+void TestListProperties::columnsAreKept()
+{
+    chooseProperty("propAddColumn", QStringLiteral("Copyright"));
+    m_driver->startAgain();
+    QCOMPARE(list().propertyColumns(), QStringList(QStringLiteral("copyright")));
+    QCOMPARE(list().model()->headerData(PictureModel::FirstProperty, Qt::Horizontal).toString(),
+             QStringLiteral("Copyright"));
+}
+
+void TestListProperties::sortsNumbersAsNumbers()
+{
+    chooseProperty("propAddColumn", QStringLiteral("ISO speed ratings"));
+    list().horizontalHeader()->setSortIndicator(PictureModel::FirstProperty, Qt::DescendingOrder);
+    // As texts 800 comes before 6400 and 12800.
+    QVERIFY(m_driver->waitFor([this] { return shownNames().indexOf(QStringLiteral("a.jpg")) > 1; }));
+    list().horizontalHeader()->setSortIndicator(PictureModel::FirstProperty, Qt::AscendingOrder);
+    QVERIFY(
+        shows({QStringLiteral("a.jpg"), QStringLiteral("b.jpg"), QStringLiteral("c.jpg"), QStringLiteral("d.jpg")}));
+}
+
+void TestListProperties::showsHowFarReadingIs()
+{
+    QTemporaryDir more;
+    for (int i = 0; i < 300; ++i)
+        QVERIFY(QFile::copy(path(QStringLiteral("a.jpg")), more.filePath(QStringLiteral("m%1.jpg").arg(i))));
+    m_driver->drop({more.path()});
+    QVERIFY(m_driver->waitFor([this] { return list().count() == 304; }));
+    QSignalSpy progress(&list(), &window::PictureTable::propertiesProgress);
+    chooseProperty("propAddColumn", QStringLiteral("ISO speed ratings"));
+    list().horizontalHeader()->setSortIndicator(PictureModel::FirstProperty, Qt::AscendingOrder);
+    QVERIFY(!list().isSettled()); // nothing starts before the order is known
+    QVERIFY(m_driver->waitFor([this] { return list().isSettled(); }, 60000));
+    QVERIFY(!progress.isEmpty());
+    QCOMPARE(progress.constLast().at(0).toInt(), 304);
+    QCOMPARE(progress.constLast().at(1).toInt(), 304);
+    for (const QList<QVariant> &told : std::as_const(progress))
+        QVERIFY(told.at(0).toInt() <= told.at(1).toInt());
+}
+
+void TestListProperties::filtersByPropertyComparisonAndValue()
+{
+    rule(1, QStringLiteral("ISO speed ratings"), QStringLiteral("above"), QStringLiteral("3200"));
+    QVERIFY(shows({QStringLiteral("b.jpg"), QStringLiteral("c.jpg")}));
+    QCOMPARE(list().count(), 2);
+    QVERIFY(m_driver->control<QWidget>("filterBar")->isVisible());
+    rule(1, QStringLiteral("Copyright"), QStringLiteral("is empty"), {});
+    QVERIFY(shows({QStringLiteral("b.jpg")}));
+    rule(1, QStringLiteral("Copyright"), QStringLiteral("contains"), QStringLiteral("bob"));
+    QVERIFY(shows({QStringLiteral("c.jpg"), QStringLiteral("d.jpg")}));
+    m_driver->click("filterShowAll");
+    QCOMPARE(list().count(), 4);
+    QVERIFY(!list().isFiltered());
+    QVERIFY(part<QLineEdit>("propValue1")->text().isEmpty()); // the window says so too
+}
+
+void TestListProperties::joinsRulesByAllOrAny()
+{
+    rule(1, QStringLiteral("ISO speed ratings"), QStringLiteral("above"), QStringLiteral("3200"));
+    part<QAbstractButton>("propAdd")->click();
+    rule(2, QStringLiteral("Copyright"), QStringLiteral("is not empty"), {});
+    QVERIFY(shows({QStringLiteral("c.jpg")}));
+    auto *join = part<QComboBox>("propJoin");
+    join->setCurrentIndex(1);
+    Q_EMIT join->activated(1);
+    QVERIFY(
+        shows({QStringLiteral("a.jpg"), QStringLiteral("b.jpg"), QStringLiteral("c.jpg"), QStringLiteral("d.jpg")}));
+    part<QAbstractButton>("propRemove2")->click();
+    QVERIFY(shows({QStringLiteral("b.jpg"), QStringLiteral("c.jpg")}));
+}
+
+void TestListProperties::typedTextIsSearchedInNamesAndValues()
+{
+    part<QLineEdit>("propText")->setText(QStringLiteral("ann"));
+    QVERIFY(shows({QStringLiteral("a.jpg"), QStringLiteral("d.jpg")}));
+    part<QLineEdit>("propText")->setText(QStringLiteral("d. ann"));
+    QVERIFY(shows({QStringLiteral("d.jpg")}));
+    part<QLineEdit>("propText")->setText(QStringLiteral("Copyright")); // what a property is called is no value
+    QVERIFY(shows({}));
+    part<QLineEdit>("propText")->setText({});
+    QVERIFY(m_driver->waitFor([this] { return list().count() == 4; }));
+}
+
+void TestListProperties::filtersAreKeptUnderNames()
+{
+    rule(1, QStringLiteral("ISO speed ratings"), QStringLiteral("below"), QStringLiteral("1000"));
+    part<QLineEdit>("propName")->setText(QStringLiteral("Day’s light"));
+    part<QAbstractButton>("propKeep")->click();
+    QVERIFY(shows({QStringLiteral("a.jpg")}));
+    m_driver->startAgain();
+    m_driver->drop({m_driver->inputFolder()});
+    QVERIFY(m_driver->waitFor([this] { return list().count() == 4; }));
+    open();
+    auto *kept = part<QComboBox>("propKept");
+    QVERIFY(kept->findText(QStringLiteral("Day’s light")) > 0);
+    kept->setCurrentIndex(kept->findText(QStringLiteral("Day’s light")));
+    Q_EMIT kept->activated(kept->currentIndex());
+    QVERIFY(shows({QStringLiteral("a.jpg")}));
+    QCOMPARE(part<QAbstractButton>("propProperty1")->text(), QStringLiteral("ISO speed ratings"));
+    QCOMPARE(part<QLineEdit>("propValue1")->text(), QStringLiteral("1000"));
+    part<QAbstractButton>("propForget")->click();
+    QCOMPARE(part<QComboBox>("propKept")->count(), 1);
+}
+
+void TestListProperties::aRunWorksOnWhatIsShown()
+{
+    rule(1, QStringLiteral("Copyright"), QStringLiteral("is"), QStringLiteral("ann"));
+    QVERIFY(shows({QStringLiteral("a.jpg")}));
+    auto *start = m_driver->control<QAbstractButton>("startButton");
+    QVERIFY(m_driver->waitFor([start] { return start->isEnabled() && start->text().contains(u'1'); }));
+    start->click();
+    QVERIFY2(m_driver->waitForSummary().startsWith(QLatin1String("1 ")), qPrintable(m_driver->text("statusText")));
+}
+
+void TestListProperties::escapeShowsAll()
+{
+    rule(1, QStringLiteral("Copyright"), QStringLiteral("is"), QStringLiteral("Ann"));
+    QVERIFY(shows({QStringLiteral("a.jpg")}));
+    m_window->close();
+    m_driver->trigger("cancelAction");
+    QCOMPARE(list().count(), 4);
+}
+
+void TestListProperties::sidecarsCount()
+{
+    QImage image(40, 30, QImage::Format_RGB32);
+    image.fill(Qt::darkBlue);
+    QVERIFY(image.save(path(QStringLiteral("e.bmp"))));
+    meta::MetadataWork work;
+    work.fields.insert(QStringLiteral("copyright"), {meta::FieldEdit::What::Set, {QStringLiteral("Cleo")}});
+    QVERIFY(meta::writeFields(path(QStringLiteral("e.bmp")), work));
+    QVERIFY(QFile::exists(path(QStringLiteral("e.bmp.xmp"))));
+    m_driver->drop({m_driver->inputFolder()});
+    QVERIFY(m_driver->waitFor([this] { return list().count() == 5; }));
+    rule(1, QStringLiteral("Copyright"), QStringLiteral("is"), QStringLiteral("Cleo"));
+    QVERIFY(shows({QStringLiteral("e.bmp")}));
+}
+
+QUORLIN_GUI_TEST(TestListProperties)
+#include "tst_list_properties.moc"
