@@ -2,7 +2,6 @@
 
 #include "image/recipe/encoding.h"
 #include "image/recipe/output_kind.h"
-#include "platform/graphics/resample.h"
 
 #include <algorithm>
 
@@ -234,7 +233,7 @@ private:
             return rendered(steps, start, m_fill);
         const First first = firstOf(steps, start.stage);
         const auto &resize = std::get<ResizeOperation>(steps[first.index].operation);
-        return platform::resample(start.bitmap, fittingOf(resize, start.stage).scaled)
+        return m_source.scaledFinely(start.bitmap, fittingOf(resize, start.stage).scaled)
             .and_then([&](const Bitmap &scaled) { return fittedInto(scaled, resize, start.stage); })
             .and_then([&](const Rendition &fitted) { return rendered(steps.mid(first.index + 1), fitted, m_fill); });
     }

@@ -221,17 +221,33 @@ static VImage enlarged(const VImage &image, double horizontal, double vertical)
                             ->set("interpolate", vips::VInterpolate::new_from_name("bicubic")));
 }
 
+/** What is left for the full filter after means of blocks were taken: at least this many times the size. */
+constexpr double leftByBlocks = 2;
+
+/** Blocks are only for shrinks so strong that the full filter would cost too much. */
+static bool isPureShrink(double horizontal, double vertical)
+{
+    constexpr double strongestPureShrink = 8;
+    return std::min(horizontal, vertical) >= 1.0 / strongestPureShrink;
+}
+
+QSize blocksOf(QSize from, QSize to)
+{
+    if (isPureShrink(double(to.width()) / from.width(), double(to.height()) / from.height()))
+        return {1, 1};
+    const auto along = [](int had, int wanted) { return std::max(1, int(double(had) / wanted / leftByBlocks)); };
+    return {along(from.width(), to.width()), along(from.height(), to.height())};
+}
+
 static VImage resized(const VImage &image, double horizontal, double vertical)
 {
-    // Box pre-shrinking (the gap) is only for shrinks so strong that the full filter would cost too much.
-    constexpr double strongestPureShrink = 8;
-    const bool isPure = std::min(horizontal, vertical) >= 1.0 / strongestPureShrink;
+    const bool isPure = isPureShrink(horizontal, vertical);
     const VImage fewer = horizontal >= 1 && vertical >= 1
                              ? image
                              : image.resize(std::min(horizontal, 1.0), VImage::option()
                                                                            ->set("vscale", std::min(vertical, 1.0))
                                                                            ->set("kernel", VIPS_KERNEL_LANCZOS3)
-                                                                           ->set("gap", isPure ? 0.0 : 2.0));
+                                                                           ->set("gap", isPure ? 0.0 : leftByBlocks));
     return horizontal > 1 || vertical > 1 ? enlarged(fewer, std::max(horizontal, 1.0), std::max(vertical, 1.0)) : fewer;
 }
 

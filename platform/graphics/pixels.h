@@ -64,6 +64,12 @@ vips::VImage turnedUpright(const vips::VImage &image, int orientation);
 vips::VImage scaledTo(const vips::VImage &image, QSize size);
 
 /**
+ * Of how many pixels scaledTo() takes the mean before it scales what these are, from the top left corner on; 1 x 1 where it does not.
+ * Fine patterns come out as what the blocks make of them, so whatever is to give the same has to have the same blocks.
+ */
+QSize blocksOf(QSize from, QSize to);
+
+/**
  * An image in a plain form in sRGB: converted from its profile, or from CMYK. RGB and grey without a profile stay as they are,
  * and so do the pixels where the profile means sRGB, whatever its name; see isSrgb().
  */

@@ -38,6 +38,8 @@ struct PlaneSpan
     double start = 0; ///< where the first new sample begins among the old ones
     double step = 1;  ///< how many old samples a new one stands for; at most mostPlaneStep
     int count = 0;    ///< of new samples
+    /** So many old samples become their mean first, from the edge of the first one on; 1 where each counts by itself. */
+    double block = 1;
 };
 
 /** Beyond this a weight is too small a number for the arithmetic. */

@@ -11,7 +11,7 @@ namespace {
 
 bool isPart(const PlaneSpan &span, int samples)
 {
-    return span.step == 1 && span.start == std::floor(span.start) && span.start >= 0 &&
+    return span.step == 1 && span.block == 1 && span.start == std::floor(span.start) && span.start >= 0 &&
            int(span.start) + span.count <= samples;
 }
 

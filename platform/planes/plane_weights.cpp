@@ -61,31 +61,44 @@ private:
     Angle m_lobeStep;
 };
 
+/** Adds the weight of a block to those of the samples that it is the mean of; @p start is that of the first weight. */
+void addBlock(std::vector<double> &weights, int start, double begin, double length, int samples, double weight)
+{
+    const double end = std::min(begin + length, double(samples)); // nothing lies behind the last block
+    const int last = int(std::ceil(end)) - 1;
+    for (int at = int(std::floor(begin)); at <= last; ++at) {
+        const double reached = at == last ? begin + length : at + 1.0;
+        weights[size_t(at - start)] += weight * (reached - std::max(begin, double(at))) / length;
+    }
+}
+
 } // namespace
 
 PlaneWeights::PlaneWeights(const PlaneSpan &span, int samples)
 {
-    const double scale = std::max(1.0, span.step);
+    const double step = span.step / span.block;
+    const double scale = std::max(1.0, step);
     const int reach = int(std::ceil(Lanczos::lobes * scale)) + 1;
-    m_taps = wholeUnits(2 * reach + 1, planeTapUnit);
+    m_taps = wholeUnits(int(std::ceil((2 * reach + 1) * span.block)), planeTapUnit);
     const int count = wholeUnits(span.count, planeOutputUnit); // those behind the last weigh nothing
     m_starts.assign(size_t(count), 0);
     m_values.assign(size_t(count) * size_t(m_taps), 0);
-    std::vector<double> exact(static_cast<size_t>(m_taps));
+    std::vector<double> exact(static_cast<size_t>(m_taps) + 1);
     for (int i = 0; i < span.count; ++i)
-        weigh(i, span.start + (i + 0.5) * span.step, scale, reach, samples, exact);
+        weigh(i, span.start / span.block + (i + 0.5) * step, {span.block, scale, reach, samples}, exact);
 }
 
-void PlaneWeights::weigh(int index, double centre, double scale, int reach, int samples, std::vector<double> &exact)
+void PlaneWeights::weigh(int index, double centre, const Blocks &blocks, std::vector<double> &exact)
 {
     std::fill(exact.begin(), exact.end(), 0);
-    const int first = int(std::floor(centre)) - reach;
-    const int start = std::clamp(first, 0, samples - 1);
+    const int last = int(std::ceil(blocks.samples / blocks.length)) - 1;
+    const int first = int(std::floor(centre)) - blocks.reach;
+    const int start = int(std::floor(std::clamp(first, 0, last) * blocks.length));
     double sum = 0;
-    Lanczos kernel((first + 0.5 - centre) / scale, 1 / scale);
-    for (int at = first; at <= first + 2 * reach; ++at) {
+    Lanczos kernel((first + 0.5 - centre) / blocks.scale, 1 / blocks.scale);
+    for (int at = first; at <= first + 2 * blocks.reach; ++at) {
         const double weight = kernel.next();
-        exact[size_t(std::max(0, std::min(at, samples - 1) - start))] += weight;
+        addBlock(exact, start, std::clamp(at, 0, last) * blocks.length, blocks.length, blocks.samples, weight);
         sum += weight;
     }
     m_starts[size_t(index)] = start;

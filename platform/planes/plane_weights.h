@@ -25,7 +25,16 @@ public:
     const int *starts() const { return m_starts.data(); }
 
 private:
-    void weigh(int index, double centre, double scale, int reach, int samples, std::vector<double> &exact);
+    /** How the blocks lie that are weighed, and the samples that they are the means of. */
+    struct Blocks
+    {
+        double length; ///< in samples
+        double scale;  ///< blocks for a new sample, or 1 where that is less than a block
+        int reach;     ///< blocks on either side
+        int samples;   ///< in all
+    };
+
+    void weigh(int index, double centre, const Blocks &blocks, std::vector<double> &exact);
 
     int m_taps = 0;
     std::vector<int> m_starts;

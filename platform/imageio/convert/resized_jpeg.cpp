@@ -11,6 +11,7 @@
 #include "platform/planes/plane_scaler.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <new>
 
 namespace platform {
@@ -43,13 +44,14 @@ bool isMemoryLeft(const PlaneFacts &facts, qsizetype fileBytes, const JpegResize
 struct Direction
 {
     double pixels; ///< decoded pixels for a new one
+    double block;  ///< decoded pixels whose mean is taken first, or 1
     int first;     ///< new pixel that is kept
     int count;
 
     /** Of a plane with one sample for @p had pixels that becomes one with a sample for @p made. */
     PlaneSpan of(int had, int made) const
     {
-        return {first * pixels / had, pixels * made / had, (count + made - 1) / made};
+        return {first * pixels / had, pixels * made / had, (count + made - 1) / made, block > 1 ? block / had : 1};
     }
 };
 
@@ -91,13 +93,34 @@ std::optional<JpegPlanes> scaledPlanes(const DecodedPlanes &decoded, const Direc
 
 int shrinkFor(QSize stored, const JpegResize &resize)
 {
+    const bool hasHalves = stored.width() % mostFineShrink == 0 && stored.height() % mostFineShrink == 0;
+    if (resize.isFine && !hasHalves)
+        return 1;
     return resize.isFine ? std::min(mostFineShrink, jpegShrinkFor(stored, resize.size * finerTimes))
                          : jpegShrinkFor(stored, resize.size * resize.finer);
 }
 
-/** As isLineArt() has it for pictures. */
-bool isLineArt(const Plane &brightness)
+/** How much neighbours differ on average, one step to the right or down. */
+double detailOf(const Plane &plane)
 {
+    qint64 across = 0;
+    qint64 down = 0;
+    for (int y = 0; y + 1 < plane.height(); ++y) {
+        const uchar *row = plane.row(y);
+        const uchar *below = plane.row(y + 1);
+        for (int x = 0; x + 1 < plane.width(); ++x) {
+            across += std::abs(row[x + 1] - row[x]);
+            down += std::abs(below[x] - row[x]);
+        }
+    }
+    return double(std::max(across, down)) / (double(plane.width()) * plane.height());
+}
+
+/** As showsShrinking() has it for pictures. */
+bool showsShrinking(const std::vector<Plane> &planes)
+{
+    constexpr double mostDetail = 24;
+    const Plane &brightness = planes.front();
     constexpr double share = 0.1;
     constexpr uchar nearly = 2;
     constexpr uchar most = 255;
@@ -105,7 +128,8 @@ bool isLineArt(const Plane &brightness)
     qint64 count = 0;
     for (int y = 0; y < brightness.height(); ++y)
         count += std::count_if(brightness.row(y), brightness.row(y) + brightness.width(), isPaper);
-    return double(count) > share * brightness.width() * brightness.height();
+    return double(count) > share * brightness.width() * brightness.height() ||
+           std::any_of(planes.begin(), planes.end(), [](const Plane &each) { return detailOf(each) > mostDetail; });
 }
 
 /** Scales the rows as the decoder gives them, so that planes at full size are never whole. */
@@ -141,10 +165,19 @@ std::optional<JpegPlanes> newPlanes(const QByteArray &jpeg, int shrink, const Di
             return scaledRows(decoder, directions, jpegSampling(settings, decoder.planes()));
     }
     const std::optional<DecodedPlanes> decoded = decodedPlanes(jpeg, shrink);
-    const bool isToBeWhole = decoded && isFine && shrink > 1 && isLineArt(decoded->planes.front());
+    const bool isToBeWhole = decoded && isFine && shrink > 1 && showsShrinking(decoded->planes);
     return decoded && !isToBeWhole
                ? scaledPlanes(*decoded, directions, jpegSampling(settings, int(decoded->planes.size())))
                : std::nullopt;
+}
+
+Directions directionsOf(QSize stored, const JpegResize &resize, int shrink)
+{
+    const QSize blocks = resize.isFine ? blocksOf(stored, resize.size) : QSize(1, 1);
+    const double each = shrink;
+    return {
+        {stored.width() / each / resize.size.width(), blocks.width() / each, resize.kept.x(), resize.kept.width()},
+        {stored.height() / each / resize.size.height(), blocks.height() / each, resize.kept.y(), resize.kept.height()}};
 }
 
 std::optional<QByteArray> resizedFile(const ImageSource::File &file, const JpegResize &resize,
@@ -162,12 +195,7 @@ std::optional<QByteArray> resizedFile(const ImageSource::File &file, const JpegR
     settings.resolution = writtenResolution(resolution, options);
     if (const auto header = settings.quality ? std::nullopt : jpegHeaderOf(file.bytes, file.content))
         settings.sourceTables = header->quantisation;
-    const auto pixels = [shrink](int had, int made) { return double(had) / shrink / made; };
-    auto planes =
-        newPlanes(jpeg, shrink,
-                  {{pixels(facts->stored.width(), resize.size.width()), resize.kept.x(), resize.kept.width()},
-                   {pixels(facts->stored.height(), resize.size.height()), resize.kept.y(), resize.kept.height()}},
-                  settings, resize.isFine);
+    auto planes = newPlanes(jpeg, shrink, directionsOf(facts->stored, resize, shrink), settings, resize.isFine);
     if (!planes)
         return std::nullopt;
     EncodeOptions known = options;

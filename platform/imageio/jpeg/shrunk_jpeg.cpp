@@ -1,5 +1,6 @@
 #include "platform/imageio/jpeg/shrunk_jpeg.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace platform {
@@ -12,6 +13,25 @@ VImage enlarged(const VImage &image, QSize size)
     if (size == QSize(image.width(), image.height()))
         return image;
     return image.embed(0, 0, size.width(), size.height(), VImage::option()->set("extend", VIPS_EXTEND_COPY));
+}
+
+/** The picture with all columns and rows standing for as much, which the decoder is done with. */
+VImage fittingFromShrunk(const VImage &image, QSize stored, int shrink)
+{
+    const VImage whole = withWholeEdges(image, stored, shrink);
+    const double across = double(whole.width()) * shrink / stored.width();
+    const double down = double(whole.height()) * shrink / stored.height();
+    if (across == 1 && down == 1)
+        return whole;
+    // What the last column stands for is less than it shows: all are drawn a little wider, until it ends at the edge.
+    const auto offset = [](double scale) { return (scale - 1) / 2; }; // between the centres of the first pixels
+    return inMemory(whole).affine({across, 0, 0, down},
+                                  VImage::option()
+                                      ->set("oarea", std::vector<int>{0, 0, whole.width(), whole.height()})
+                                      ->set("odx", offset(across))
+                                      ->set("ody", offset(down))
+                                      ->set("extend", VIPS_EXTEND_COPY)
+                                      ->set("interpolate", vips::VInterpolate::new_from_name("bicubic")));
 }
 
 } // namespace
@@ -30,7 +50,8 @@ VImage withWholeEdges(const VImage &image, QSize stored, int shrink)
     return enlarged(image, {shrunk(stored.width()), shrunk(stored.height())});
 }
 
-bool isLineArt(const VImage &image)
+/** Whether much of the picture is paper or ink, at the limits of what samples can be. */
+static bool isLineArt(const VImage &image)
 {
     constexpr double share = 0.1;
     constexpr double nearly = 2; // ringing dims the paper a little
@@ -39,22 +60,29 @@ bool isLineArt(const VImage &image)
     return paper.avg() > share * isTrue;
 }
 
-VImage fittingFromShrunk(const VImage &image, QSize stored, int shrink)
+/** How much neighbours differ on average, one step to the right or down, where they do so most; of a few rows and columns. */
+static double detailOf(const VImage &image)
 {
-    const VImage whole = withWholeEdges(image, stored, shrink);
-    const double across = double(whole.width()) * shrink / stored.width();
-    const double down = double(whole.height()) * shrink / stored.height();
-    if (across == 1 && down == 1)
-        return whole;
-    // What the last column stands for is less than it shows: all are drawn a little wider, until it ends at the edge.
-    const auto offset = [](double scale) { return (scale - 1) / 2; }; // between the centres of the first pixels
-    return inMemory(whole).affine({across, 0, 0, down},
-                                  VImage::option()
-                                      ->set("oarea", std::vector<int>{0, 0, whole.width(), whole.height()})
-                                      ->set("odx", offset(across))
-                                      ->set("ody", offset(down))
-                                      ->set("extend", VIPS_EXTEND_COPY)
-                                      ->set("interpolate", vips::VInterpolate::new_from_name("bicubic")));
+    constexpr int few = 8;
+    if (image.width() <= few || image.height() <= few)
+        return 0;
+    const auto difference = [](const VImage &from, int across, int down) {
+        const int width = from.width() - across;
+        const int height = from.height() - down;
+        return (from.extract_area(across, down, width, height) - from.extract_area(0, 0, width, height)).abs().avg();
+    };
+    double most = 0;
+    for (int band = 0; band < image.bands(); ++band) {
+        const VImage one = image.extract_band(band);
+        most = std::max({most, difference(one.subsample(1, few), 1, 0), difference(one.subsample(few, 1), 0, 1)});
+    }
+    return most;
+}
+
+bool showsShrinking(const VImage &image)
+{
+    constexpr double mostDetail = 24;
+    return isLineArt(image) || detailOf(image) > mostDetail * opaqueValue(image) / 255;
 }
 
 VImage scaledFromShrunk(const VImage &image, QSize stored, int shrink, QSize wanted)

@@ -384,17 +384,34 @@ Result<Bitmap> ImageSource::decodeFinely(QSize size) const
     const QSize all = uprightSize();
     const QSize leastAtMostShrink = all / (2 * mostFineShrink) + QSize(1, 1); // the next step gives fewer
     const QSize wanted = (finerTimes * size).expandedTo(leastAtMostShrink);
-    if (!m_file || m_file->content != Content::Jpeg || jpegShrinkFor(all, wanted) == 1)
+    const bool hasHalves = all.width() % mostFineShrink == 0 && all.height() % mostFineShrink == 0;
+    if (!m_file || m_file->content != Content::Jpeg || !hasHalves || jpegShrinkFor(all, wanted) == 1)
         return decode();
-    const Result<Bitmap> shrunk = decodeFor(wanted, Scaling::Fitting, Forms::Plain);
-    return shrunk && isLineArt(shrunk->pixels().image) ? decode() : shrunk;
+    const Result<Bitmap> shrunk = decodeFor(wanted, Scaling::AtLeast, Forms::Plain);
+    return shrunk && showsShrinking(shrunk->pixels().image) ? decode() : shrunk;
+}
+
+Result<Bitmap> ImageSource::scaledFinely(const Bitmap &decoded, QSize size) const
+{
+    if (decoded.isNull() || decoded.size() == uprightSize())
+        return resample(decoded, size);
+    try {
+        // Each pixel stands where the ones that it was made of did, so that blocks are those of the whole picture.
+        const Bitmap::Pixels &pixels = decoded.pixels();
+        return bitmapFromImage(scaledTo(pixels.image.zoom(mostFineShrink, mostFineShrink), size), pixels.resolution,
+                               pixels.quantisation);
+    } catch (const vips::VError &error) {
+        return failure(ErrorCode::TooLarge, takeVipsError(error));
+    }
 }
 
 Result<Bitmap> ImageSource::decodeScaledFinely(QSize size) const
 {
-    if (!m_file || m_file->content != Content::Jpeg)
+    const bool isDrawing = m_file && (m_file->content == Content::Pdf || m_file->content == Content::Svg);
+    const bool isTurned = m_file && m_file->orientation > 1; // blocks count from the corner of the upright picture
+    if (!m_file || isDrawing || (m_file->content != Content::Jpeg && !isTurned))
         return decodeScaled(size);
-    return decodeFinely(size).and_then([size](const Bitmap &bitmap) { return resample(bitmap, size); });
+    return decodeFinely(size).and_then([&](const Bitmap &bitmap) { return scaledFinely(bitmap, size); });
 }
 
 Result<Bitmap> ImageSource::decodeFor(QSize size, Scaling scaling, Forms forms) const
@@ -423,8 +440,6 @@ Result<Bitmap> ImageSource::decodeFor(QSize size, Scaling scaling, Forms forms) 
         const QSize made = scaling == Scaling::Exact ? wanted : decoded;
         if (const auto left = memoryIsLeftToDecode(*m_file, image, {made, m_file->orientation > 1}); !left)
             return tl::unexpected<Error>(left.error());
-        if (scaling == Scaling::Fitting)
-            image = fittingFromShrunk(image, m_file->storedSize, shrink);
         if (scaling == Scaling::Exact)
             image = shrink > 1 ? scaledFromShrunk(image, m_file->storedSize, shrink, wanted) : scaledTo(image, wanted);
         if (m_file->orientation > 1)

@@ -110,8 +110,14 @@ public:
      */
     Result<Bitmap> decodeScaledFinely(QSize size) const;
 
-    /** What decodeScaledFinely() scales: for several results of one decode, the largest of which has @p size. */
+    /**
+     * What decodeScaledFinely() scales: for several results of one decode, the largest of which has @p size. It has all pixels, or a JPEG
+     * that the decoder has halved.
+     */
     Result<Bitmap> decodeFinely(QSize size) const;
+
+    /** What decodeFinely() gave, at no more than its @p size: as resample() of all pixels has it. */
+    Result<Bitmap> scaledFinely(const Bitmap &decoded, QSize size) const;
 
     /** As decodeScaled(), left at the size that the decoder gives; less than @p size only where the picture is. */
     Result<Bitmap> decodeAtLeast(QSize size) const;
@@ -121,7 +127,7 @@ public:
     const File *file() const { return m_file.get(); }
 
 private:
-    enum class Scaling { Exact, AtLeast, Fitting };
+    enum class Scaling { Exact, AtLeast };
     explicit ImageSource(std::shared_ptr<const File> file) : m_file(std::move(file)) {}
     Result<Bitmap> decodeFor(QSize size, Scaling scaling, Forms forms) const;
     std::shared_ptr<const File> m_file;

@@ -1,0 +1,184 @@
+#include "image/recipe/encoding.h"
+#include "image/recipe/make.h"
+#include "platform/graphics/resample.h"
+#include "tests/support/scratch_folder.h"
+#include "tests/support/test_program.h"
+
+#include <QDirIterator>
+#include <QImage>
+#include <QTest>
+
+#include <cmath>
+
+using namespace image;
+using platform::Bitmap;
+using platform::ImageSource;
+
+/** However few pixels a recipe has decoded for a result: it is as if all of them had been there. */
+class TestRecipeScaling : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void isAsIfAllPixelsWereThere_data();
+    void isAsIfAllPixelsWereThere();
+    void isSoWhicheverWayAPictureIsStored_data();
+    void isSoWhicheverWayAPictureIsStored();
+};
+
+namespace {
+
+enum class Pattern { Checks, Upright, Level, Slanted, Colours };
+
+/** A fine pattern in middle tones, so that it is no line art, of cells of so many pixels. */
+QImage patterned(Pattern pattern, int cell, QSize size)
+{
+    const QRgb light = pattern == Pattern::Colours ? qRgb(210, 120, 60) : qRgb(208, 208, 208);
+    const QRgb dark = pattern == Pattern::Colours ? qRgb(60, 110, 200) : qRgb(48, 48, 48);
+    QImage image(size, QImage::Format_RGB32);
+    for (int y = 0; y < size.height(); ++y)
+        for (int x = 0; x < size.width(); ++x) {
+            const int across = pattern == Pattern::Level ? 0 : x / cell;
+            const int down = pattern == Pattern::Upright ? 0 : y / cell;
+            const bool isLight = (pattern == Pattern::Slanted ? (x + 2 * y) / cell : across + down) % 2 == 0;
+            image.setPixel(x, y, isLight ? light : dark);
+        }
+    return image;
+}
+
+Recipe withSides(const QList<int> &longest, OutputType type)
+{
+    Recipe recipe;
+    for (const int each : longest) {
+        ResizeOperation resize;
+        resize.number = each;
+        RecipeOutput output;
+        output.type = type;
+        output.operations.append({resize, false});
+        recipe.outputs.append(output);
+    }
+    return recipe;
+}
+
+QList<QImage> madeFrom(const Recipe &recipe, const ImageSource &source)
+{
+    QList<QImage> all(recipe.outputs.size());
+    makeOutputs(recipe, source, planOf(recipe, source), {}, [&](int index, const platform::Result<MadeOutput> &made) {
+        const auto file = made ? ImageSource::fromData(made->bytes) : platform::Result<ImageSource>(ImageSource());
+        const auto bitmap = file.and_then([](const ImageSource &opened) { return opened.decode(); });
+        if (bitmap)
+            all[index] = bitmap->toRawImage().convertToFormat(QImage::Format_RGBA8888);
+    });
+    return all;
+}
+
+/** The same from all pixels, by one operation after the other. */
+QImage plainly(const Recipe &recipe, int index, const ImageSource &source)
+{
+    const auto made = source.decode().and_then([&](const Bitmap &all) {
+        return rendered(recipe.outputs[index].operations, {all, stageOf(all)}, {});
+    });
+    if (!made)
+        return {};
+    const auto file = encodedFile(made->bitmap, source, recipe.outputs[index], planOf(recipe, source)[index])
+                          .and_then([](const QByteArray &bytes) { return ImageSource::fromData(bytes); });
+    const auto bitmap = file.and_then([](const ImageSource &opened) { return opened.decode(); });
+    return bitmap ? bitmap->toRawImage().convertToFormat(QImage::Format_RGBA8888) : QImage();
+}
+
+/** A sentence where they are further from each other than they may be. */
+QString tooFar(const QImage &one, const QImage &other)
+{
+    constexpr double mostMean = 1;
+    constexpr int mostOfOne = 8;
+    if (one.isNull() || one.size() != other.size())
+        return QStringLiteral("%1 × %2 pixels, not %3 × %4")
+            .arg(one.width())
+            .arg(one.height())
+            .arg(other.width())
+            .arg(other.height());
+    double sum = 0;
+    int most = 0;
+    for (int y = 0; y < one.height(); ++y)
+        for (int i = 0; i < 4 * one.width(); ++i) {
+            const int each = std::abs(one.constScanLine(y)[i] - other.constScanLine(y)[i]);
+            sum += each;
+            most = std::max(most, each);
+        }
+    const double mean = sum / (4.0 * one.width() * one.height());
+    return mean > mostMean || most > mostOfOne ? QStringLiteral("%1 on average, %2 at most").arg(mean).arg(most)
+                                               : QString();
+}
+
+} // namespace
+
+void TestRecipeScaling::isAsIfAllPixelsWereThere_data()
+{
+    QTest::addColumn<int>("pattern");
+    QTest::addColumn<int>("cell");
+    QTest::addColumn<QSize>("size");
+    const char *names[] = {"checks", "upright", "level", "slanted", "colours"};
+    for (int pattern = 0; pattern < 5; ++pattern)
+        for (const int cell : tests::isSlowRun() ? QList<int>{3, 5, 8, 11, 16} : QList<int>{3, 11})
+            for (const QSize size : {QSize(1203, 905), QSize(1204, 906)}) // a decoder can halve the second
+                QTest::addRow("%s of %d, %d", names[pattern], cell, size.width()) << pattern << cell << size;
+}
+
+void TestRecipeScaling::isAsIfAllPixelsWereThere()
+{
+    QFETCH(int, pattern);
+    QFETCH(int, cell);
+    QFETCH(QSize, size);
+    const ScratchFolder folder;
+    const QString path = folder.path("a.jpg");
+    constexpr int good = 92;
+    QVERIFY(patterned(Pattern(pattern), cell, size).save(path, nullptr, good));
+    const ImageSource source = ImageSource::open(path).value();
+    QStringList problems;
+    const auto compare = [&](const Recipe &recipe, const char *way) {
+        const QList<QImage> made = madeFrom(recipe, source);
+        for (int i = 0; i < made.size(); ++i)
+            if (const QString problem = tooFar(made[i], plainly(recipe, i, source)); !problem.isEmpty())
+                problems.append(
+                    QStringLiteral("%1 %2: %3").arg(QLatin1String(way), QString::number(made[i].width()), problem));
+    };
+    const QList<double> all = {2.3, 4.0, 6.5, 8.0, 8.3, 9.0, 10.0, 10.4, 12.0, 15.0, 17.7, 21.0, 25.5, 33.0, 50.0};
+    for (const double times : tests::isSlowRun() ? all : QList<double>{4.0, 8.3, 10.0, 15.0, 25.5}) {
+        const int side = int(std::lround(size.width() / times));
+        compare(withSides({side}, OutputType::Png), "one");
+        compare(withSides({side, side * 2 / 3}, OutputType::Png), "two");
+    }
+    QVERIFY2(problems.isEmpty(), qPrintable(problems.join(u'\n')));
+}
+
+void TestRecipeScaling::isSoWhicheverWayAPictureIsStored_data()
+{
+    QTest::addColumn<QString>("path");
+    const QString pictures = QString::fromUtf8(QUORLIN_TEST_DATA) + QStringLiteral("/../pictures/");
+    for (const char *folder : {"formats", "orientation"})
+        for (const QFileInfo &file : QDir(pictures + QLatin1String(folder)).entryInfoList(QDir::Files))
+            if (ImageSource::canOpen(file.filePath()))
+                QTest::newRow(qPrintable(file.fileName())) << file.filePath();
+}
+
+void TestRecipeScaling::isSoWhicheverWayAPictureIsStored()
+{
+    QFETCH(QString, path);
+    const ImageSource source = ImageSource::open(path).value();
+    if (source.typeIdentifier() == QLatin1String("com.adobe.pdf") ||
+        source.typeIdentifier() == QLatin1String("public.svg-image"))
+        QSKIP("a drawing is drawn at the size that is wanted");
+    const QSize all = source.uprightSize();
+    const int longest = std::max(all.width(), all.height());
+    QStringList problems;
+    for (const int part : {2, 3, 5, 9, 13}) {
+        const Recipe recipe = withSides({std::max(1, longest / part)}, OutputType::Png);
+        const QString problem = tooFar(madeFrom(recipe, source).first(), plainly(recipe, 0, source));
+        if (!problem.isEmpty())
+            problems.append(QStringLiteral("a %1th: %2").arg(part).arg(problem));
+    }
+    QVERIFY2(problems.isEmpty(), qPrintable(problems.join(u'\n')));
+}
+
+QUORLIN_TEST(TestRecipeScaling)
+#include "tst_recipe_scaling.moc"
