@@ -94,7 +94,7 @@ QSize renditionSize(QSize pixels, QSizeF room, bool covers)
 QRect partInView(QSize pixels, QSizeF room, QPointF center, double zoom)
 {
     constexpr double around = 1.25;
-    const QSizeF wide = room * around / std::max(1.0, zoom);
+    const QSizeF wide = (room * around / std::max(1.0, zoom)).expandedTo({1, 1});
     const auto along = [](double middle, double length, int all) {
         const double begin = length >= all ? 0 : std::clamp(middle - length / 2, 0.0, all - length);
         return std::pair(int(std::floor(begin)), std::min(all, int(std::ceil(begin + std::min(length, double(all))))));
