@@ -99,13 +99,14 @@ def lost(source, target):
 
 def becomes(kind, source, target):
     """
-    What happens to one kind of metadata in a file of the target's type; source says how a file has each of them. XMP is
-    not read as a resolution.
+    What happens to one kind of metadata in a file of the target's type; source says how a file has each of them. A resolution
+    that only XMP states is read like any other.
     """
     held = HELD[target][kind]
-    if held is None or held == KEPT and source[kind] != IN_XMP:
-        return held and source[kind]
-    if NOT in (held, source[kind]) or source[kind] == IN_XMP and HELD[target]["xmp"] == NOT:
+    has = KEPT if kind == "resolution" and source[kind] == IN_XMP else source[kind]
+    if held is None or held == KEPT and has != IN_XMP:
+        return held and has
+    if NOT in (held, has) or has == IN_XMP and HELD[target]["xmp"] == NOT:
         return NOT
     return IN_XMP
 

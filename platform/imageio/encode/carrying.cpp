@@ -24,6 +24,14 @@ bool statesResolutionInMetadata(FileFormat format)
     return false;
 }
 
+/** Whether the header of a JPEG can state it, which has whole numbers per inch. */
+bool fitsHeaderOfJpeg(QSizeF resolution)
+{
+    constexpr double nearly = 0.02;
+    const auto isWhole = [](double density) { return std::abs(density - std::round(density)) < nearly; };
+    return isWhole(resolution.width()) && isWhole(resolution.height());
+}
+
 } // namespace
 
 Resolution writtenResolution(Resolution known, const EncodeOptions &options)
@@ -52,7 +60,8 @@ Metadata carriedMetadata(Resolution ofPixels, FileFormat format, const EncodeOpt
     const Resolution resolution = writtenResolution(ofPixels, options);
     const QSizeF stated = upright.resolution();
     const QSizeF known(resolution.horizontal, resolution.vertical > 0 ? resolution.vertical : resolution.horizontal);
-    const bool isSaid = !stated.isEmpty() || statesResolutionInMetadata(format);
+    const bool isSaid = !stated.isEmpty() || statesResolutionInMetadata(format) ||
+                        (format == FileFormat::Jpeg && !fitsHeaderOfJpeg(known));
     constexpr double tolerance = 0.01;
     const bool isSame =
         std::abs(stated.width() - known.width()) < tolerance && std::abs(stated.height() - known.height()) < tolerance;

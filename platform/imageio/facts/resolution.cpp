@@ -143,8 +143,11 @@ Resolution resolutionOf(const PictureBytes &bytes, Content content)
         return plausible(ofMetadata(bytes, content));
     case Content::Pdf:
     case Content::Svg:
-    case Content::Gif:
         return {};
+    case Content::Gif: {
+        const QSizeF stated = metadataOf(bytes, content).resolutionInXmp();
+        return plausible({stated.width(), stated.height()});
+    }
     default:
         break;
     }

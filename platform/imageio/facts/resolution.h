@@ -14,7 +14,8 @@ std::optional<JpegHeader> jpegHeaderOf(const PictureBytes &bytes, Content conten
 
 /**
  * The resolution a file states, in dots per inch; 0 where it states none or gives a number without a unit.
- * Order of trust: the container's own statement (PNG, bitmap, Photoshop), then EXIF or TIFF, then JFIF. Decodes nothing.
+ * Order of trust: the container's own statement (PNG, bitmap, Photoshop), then EXIF or TIFF, then JFIF. A GIF has a place for it in XMP
+ * alone. Decodes nothing.
  */
 Resolution resolutionOf(const PictureBytes &bytes, Content content);
 

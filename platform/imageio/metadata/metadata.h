@@ -95,6 +95,9 @@ public:
     /** What EXIF states, in dots per inch; empty where it states none. */
     QSizeF resolution() const;
 
+    /** The same that XMP states, for files that hold no EXIF. */
+    QSizeF resolutionInXmp() const;
+
     /** The same with another resolution, in dots per inch, above 0; EXIF states one from now on. */
     Metadata withResolution(double horizontal, double vertical) const;
 

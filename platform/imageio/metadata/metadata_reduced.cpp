@@ -191,19 +191,38 @@ Metadata Metadata::reduced(MetadataScope scope, PlaceTaken place) const
     return metadata;
 }
 
+constexpr double centimetres = 3; // the unit of a resolution
+constexpr double centimetresPerInch = 2.54;
+
+/** A resolution that can be calculated with; empty for any other. */
+static QSizeF usable(QSizeF stated)
+{
+    return stated.isValid() && std::isfinite(stated.width()) && std::isfinite(stated.height()) ? stated : QSizeF();
+}
+
 QSizeF Metadata::resolution() const
 {
     if (!m_blocks)
         return {};
-    constexpr long centimetres = 3;
-    constexpr double perInch = 2.54;
     const auto number = [&](const char *key) {
         const Exiv2::Exifdatum *tag = findTag(m_blocks->exif, key);
         return tag && tag->count() > 0 ? double(tag->toFloat()) : 0.0;
     };
-    const double scale = long(number("Exif.Image.ResolutionUnit")) == centimetres ? perInch : 1;
-    const QSizeF stated(number("Exif.Image.XResolution") * scale, number("Exif.Image.YResolution") * scale);
-    return stated.isValid() && std::isfinite(stated.width()) && std::isfinite(stated.height()) ? stated : QSizeF();
+    const double scale = number("Exif.Image.ResolutionUnit") == centimetres ? centimetresPerInch : 1;
+    return usable(QSizeF(number("Exif.Image.XResolution"), number("Exif.Image.YResolution")) * scale);
+}
+
+QSizeF Metadata::resolutionInXmp() const
+{
+    if (!m_blocks)
+        return {};
+    const auto number = [&](const char *key) {
+        const auto found = m_blocks->xmp.findKey(Exiv2::XmpKey(key));
+        return found == m_blocks->xmp.end() ? 0.0 : double(found->toFloat());
+    };
+    const QSizeF stated(number("Xmp.tiff.XResolution"), number("Xmp.tiff.YResolution"));
+    const double scale = number("Xmp.tiff.ResolutionUnit") == centimetres ? centimetresPerInch : 1;
+    return usable(stated * scale);
 }
 
 Metadata Metadata::withResolution(double horizontal, double vertical) const
