@@ -185,7 +185,7 @@ export class MainWindow {
         const any = this.pictures.count > 0;
         const onList = this.shownPage === null || this.shownPage.usesList;
         const enable = (names, on) => names.forEach((name) => { this.form.control(name).enabled = on; });
-        this.showCentre(any);
+        this.showCentre(any || this.pictures.filtered); // a filter that nothing matches has its bar over the list
         const inList = any && !busy && this.shownPage === null;
         enable(ADDING, this.mayAdd());
         enable(SETTINGS, !busy);
