@@ -13105,7 +13105,7 @@
         <translation>Eigenschaften und Filter</translation>
     </message>
     <message>
-        <source>&amp;Kept filter</source>
+        <source>Sa&amp;ved filter</source>
         <translation>&amp;Gespeicherter Filter</translation>
     </message>
     <message>
@@ -13113,11 +13113,11 @@
         <translation>Name des Filters</translation>
     </message>
     <message>
-        <source>Keep</source>
+        <source>Save</source>
         <translation>Speichern</translation>
     </message>
     <message>
-        <source>Keep the conditions below under this name</source>
+        <source>Save the conditions below under this name</source>
         <translation>Die Bedingungen darunter unter diesem Namen speichern</translation>
     </message>
     <message>

@@ -13087,7 +13087,7 @@
     </message>
     <message>
         <source>None</source>
-        <translation>Aucun</translation>
+        <translation>Aucune</translation>
     </message>
     <message>
         <source>Shown: %1</source>
@@ -13105,7 +13105,7 @@
         <translation>Propriétés et filtre</translation>
     </message>
     <message>
-        <source>&amp;Kept filter</source>
+        <source>Sa&amp;ved filter</source>
         <translation>Filtre &amp;enregistré</translation>
     </message>
     <message>
@@ -13113,11 +13113,11 @@
         <translation>Nom du filtre</translation>
     </message>
     <message>
-        <source>Keep</source>
+        <source>Save</source>
         <translation>Enregistrer</translation>
     </message>
     <message>
-        <source>Keep the conditions below under this name</source>
+        <source>Save the conditions below under this name</source>
         <translation>Enregistrer les conditions ci-dessous sous ce nom</translation>
     </message>
     <message>

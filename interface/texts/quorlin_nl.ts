@@ -13105,7 +13105,7 @@
         <translation>Eigenschappen en filter</translation>
     </message>
     <message>
-        <source>&amp;Kept filter</source>
+        <source>Sa&amp;ved filter</source>
         <translation>&amp;Bewaard filter</translation>
     </message>
     <message>
@@ -13113,11 +13113,11 @@
         <translation>Naam van het filter</translation>
     </message>
     <message>
-        <source>Keep</source>
+        <source>Save</source>
         <translation>Bewaren</translation>
     </message>
     <message>
-        <source>Keep the conditions below under this name</source>
+        <source>Save the conditions below under this name</source>
         <translation>De voorwaarden hieronder onder deze naam bewaren</translation>
     </message>
     <message>
