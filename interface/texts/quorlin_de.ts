@@ -13087,7 +13087,7 @@
     </message>
     <message>
         <source>None</source>
-        <translation>Keine</translation>
+        <translation>Keiner</translation>
     </message>
     <message>
         <source>Shown: %1</source>

@@ -13087,7 +13087,7 @@
     </message>
     <message>
         <source>None</source>
-        <translation>Aucune</translation>
+        <translation>Aucun</translation>
     </message>
     <message>
         <source>Shown: %1</source>
