@@ -13086,8 +13086,12 @@
         <translation>Eigenschaft wählen …</translation>
     </message>
     <message>
-        <source>None</source>
-        <translation>Keiner</translation>
+        <source>No columns</source>
+        <translation>Keine Spalten</translation>
+    </message>
+    <message>
+        <source>No filter</source>
+        <translation>Kein Filter</translation>
     </message>
     <message>
         <source>Shown: %1</source>

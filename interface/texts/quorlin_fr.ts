@@ -13086,8 +13086,12 @@
         <translation>Choisir une propriété…</translation>
     </message>
     <message>
-        <source>None</source>
-        <translation>Aucun</translation>
+        <source>No columns</source>
+        <translation>Aucune colonne</translation>
+    </message>
+    <message>
+        <source>No filter</source>
+        <translation>Aucun filtre</translation>
     </message>
     <message>
         <source>Shown: %1</source>

@@ -13086,8 +13086,12 @@
         <translation>Eigenschap kiezen…</translation>
     </message>
     <message>
-        <source>None</source>
-        <translation>Geen</translation>
+        <source>No columns</source>
+        <translation>Geen kolommen</translation>
+    </message>
+    <message>
+        <source>No filter</source>
+        <translation>Geen filter</translation>
     </message>
     <message>
         <source>Shown: %1</source>

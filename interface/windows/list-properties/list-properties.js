@@ -222,7 +222,7 @@ export class ListProperties {
 
     showColumns() {
         const names = this.list.propertyColumns;
-        this.control("propColumns").text = names.length === 0 ? qsTr("None")
+        this.control("propColumns").text = names.length === 0 ? qsTr("No columns")
             : names.map((name) => this.wordsOf(name)).join(", ");
         this.control("propNoColumns").enabled = names.length > 0;
     }
@@ -230,7 +230,7 @@ export class ListProperties {
     showKept() {
         const names = keptFilters().map((each) => each.name);
         const now = this.control("propName").text;
-        this.form.setItems("propKept", [qsTr("None")].concat(names), [""].concat(names));
+        this.form.setItems("propKept", [qsTr("No filter")].concat(names), [""].concat(names));
         this.form.chooseValue("propKept", names.indexOf(now) >= 0 ? now : "");
     }
 
