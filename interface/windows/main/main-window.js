@@ -186,13 +186,12 @@ export class MainWindow {
         const onList = this.shownPage === null || this.shownPage.usesList;
         const enable = (names, on) => names.forEach((name) => { this.form.control(name).enabled = on; });
         this.showCentre(any || this.pictures.filtered); // a filter that nothing matches has its bar over the list
-        const inList = any && !busy && this.shownPage === null;
+        const listed = any && this.shownPage === null;
         enable(ADDING, this.mayAdd());
         enable(SETTINGS, !busy);
-        enable(ROWS, inList);
-        enable(["copyFilesAction"], any && this.shownPage === null);
+        enable(ROWS, listed && !busy);
+        enable(["copyFilesAction", "columnsAction"], listed);
         enable(["clearButton", "clearAction", "saveAsAction"], any && !busy && onList);
-        this.form.control("columnsAction").enabled = any && this.shownPage === null;
         enable(["nextAction", "previousAction", "largeAction"], any && onList);
         this.drop.open = this.mayAdd();
         this.repeating.show();
