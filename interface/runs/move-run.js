@@ -305,7 +305,7 @@ export class MoveRun extends BaseRun {
         this.steppedMs = now;
         if (now - this.toldMs >= TELL_MS) {
             this.toldMs = now;
-            this.showProgress();
+            this.showShare();
         }
     }
 

@@ -19,6 +19,8 @@ export class BaseRun {
     constructor(window, changed) {
         this.window = window;
         this.changed = changed;
+        /** Called where nothing but how far it is has changed; as often as that is shown. */
+        this.progressed = changed;
         this.job = shell.job();
         this.phase = "idle";
         /** The run that this one undoes, or "". */
@@ -127,12 +129,22 @@ export class BaseRun {
         return this.paused ? qsTr("paused") : leftText;
     }
 
-    showProgress() {
+    noteProgress() {
         const time = this.timeText();
         this.text = fillNumbers(qsTr("%1 of %2"), this.progress.done, this.progress.count);
         this.detail = (time ? [time] : [])
             .concat([this.problems === 0 ? qsTr("no problems") : problemsText(this.problems)]).join(" · ");
+    }
+
+    showProgress() {
+        this.noteProgress();
         this.changed();
+    }
+
+    /** The same while it goes on as before. */
+    showShare() {
+        this.noteProgress();
+        this.progressed();
     }
 
     /**

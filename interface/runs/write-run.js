@@ -337,7 +337,7 @@ export class WriteRun extends BaseRun {
         const now = Date.now();
         if (now - this.toldMs >= TELL_MS || this.inWork === 0) {
             this.toldMs = now;
-            this.showProgress();
+            this.showShare();
         }
     }
 

@@ -187,7 +187,7 @@ export class FieldRun extends BaseRun {
         }
         if (now - this.toldMs >= TELL_MS) {
             this.toldMs = now;
-            this.showProgress();
+            this.showShare();
         }
     }
 

@@ -97,7 +97,7 @@ export class SheetRun extends BaseRun {
         this.window.pictures.setStatus(id, statusKind(result.status), statusText(result.status, result.reason), "");
         if (now - this.toldMs >= TELL_MS) {
             this.toldMs = now;
-            this.showProgress();
+            this.showShare();
         }
     }
 

@@ -26,7 +26,7 @@ import { PreviewSide } from "./preview-side.js";
 import { Printing } from "./printing.js";
 import { Repeating } from "./repeating.js";
 import { percentDone, RunSigns } from "./run-signs.js";
-import { showStatusBar } from "./status-bar.js";
+import { showProgress, showStatusBar } from "./status-bar.js";
 import { SupportBar } from "./support-bar.js";
 import { Watching } from "./watching.js";
 
@@ -128,6 +128,7 @@ export class MainWindow {
         if (parts === undefined) {
             parts = { manner: manner, run: null, livePlan: null };
             parts.run = manner.makeRun(this, () => this.runChanged());
+            parts.run.progressed = () => this.runProgressed();
             parts.livePlan = manner.makePlan(this, (summary) => { this.planned = summary; this.showStart(); });
             this.madeParts.push(parts);
         }
@@ -259,6 +260,13 @@ export class MainWindow {
         this.showAll();
         this.signs.runChanged();
         this.repeating.runChanged();
+    }
+
+    // Ten times a second: what only a beginning, a pause or an end changes is not looked at.
+    runProgressed() {
+        this.showTitle();
+        showProgress(this);
+        this.signs.runChanged();
     }
 
     // The results of a run are history now: the list shows what the settings would make of the pictures.

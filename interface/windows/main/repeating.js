@@ -26,7 +26,7 @@ export class Repeating {
             const before = this.goesOn ? this.done : [];
             this.goesOn = false;
             this.last = run.keptSettings;
-            this.done = before.concat(run.ids);
+            this.done = before.length === 0 ? run.ids : before.concat(run.ids);
             const isAll = before.length === 0 && run.ids.length === this.window.pictures.tickedCount;
             this.found = { of: isAll ? this.listState() : "", any: false };
         }

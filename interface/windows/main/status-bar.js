@@ -13,8 +13,8 @@ function listText(window) {
 
 function showTexts(window, busy, ended) {
     const run = window.run;
-    const idleText = window.said || run.idleText() || listText(window);
-    window.form.control("statusText").text = busy || ended ? run.text : idleText;
+    const idleText = () => window.said || run.idleText() || listText(window);
+    window.form.control("statusText").text = busy || ended ? run.text : idleText();
     window.form.control("statusDetail").text = (busy || ended) && window.said ? window.said : run.detail;
     if (!busy && !ended) {
         window.form.control("statusText").accessibleName = ""; // screen readers read the text itself
@@ -51,6 +51,20 @@ function showFilter(window) {
     window.form.control("filterNote").text = notes.join(" · ");
 }
 
+function showBar(window, busy) {
+    const bar = window.form.control("progress");
+    const { phase, progress } = window.run;
+    bar.visible = busy;
+    bar.maximum = phase === "planning" ? 0 : Math.max(1, progress.count);
+    bar.value = progress.done;
+}
+
+/** Shows how far a run is that is under way. */
+export function showProgress(window) {
+    showTexts(window, true, false);
+    showBar(window, true);
+}
+
 export function showStatusBar(window) {
     const control = (name) => window.form.control(name);
     const run = window.run;
@@ -58,9 +72,7 @@ export function showStatusBar(window) {
     const ended = run.phase === "ended";
     const offer = run.undoOffer();
     showTexts(window, busy, ended);
-    control("progress").visible = busy;
-    control("progress").maximum = run.phase === "planning" ? 0 : Math.max(1, run.progress.count);
-    control("progress").value = run.progress.done;
+    showBar(window, busy);
     const visible = Object.assign(endButtons(run, ended), {
         whenDone: run.phase === "running" && !window.watching.isOn(),
         pauseButton: run.phase === "running", cancelButton: busy, undoButton: offer !== null && !window.said,
