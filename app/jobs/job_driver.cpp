@@ -10,7 +10,7 @@ namespace window {
 
 namespace {
 
-constexpr int sliceMs = 2;
+constexpr qint64 sliceNs = 1'500'000;
 
 void reportError(const QJSValue &error)
 {
@@ -88,7 +88,7 @@ void JobDriver::slice()
     QElapsedTimer clock;
     clock.start();
     while (isRunning() && !m_paused && step()) {
-        if (clock.elapsed() >= sliceMs) {
+        if (clock.nsecsElapsed() >= sliceNs) {
             m_timer.start(0);
             return;
         }

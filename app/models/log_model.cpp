@@ -18,7 +18,7 @@ namespace window {
 
 namespace {
 
-constexpr int sliceMs = 8;
+constexpr int sliceMs = 2;
 constexpr int headBytes = 256;
 
 QString dateText(qint64 time)

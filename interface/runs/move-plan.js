@@ -5,7 +5,7 @@ import { splitPath } from "../lib/names.js";
 
 // So many requests are passed to the engine at once, and it works for so long, before the window gets control again.
 const AT_ONCE = 50;
-const WORK_MS = 2;
+const WORK_MS = 1;
 
 const NONE = Object.freeze([]);
 

@@ -20,7 +20,7 @@ import { shell } from "quorlin/shell";
 const TELL_MS = 100;
 const ROWS_A_SLICE = 50;
 const ITEMS_AT_ONCE = 50;
-const WORK_MS = 2;
+const WORK_MS = 1;
 
 // Has the engine check everything and record what is to be done; returns {run} or {problem}.
 function* prepared(moves, title, items) {

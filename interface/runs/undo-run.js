@@ -6,7 +6,7 @@ import { logRow } from "./report.js";
 
 
 // The size of one step.
-const WORK_MS = 2;
+const WORK_MS = 1;
 const ITEMS_AT_ONCE = 50;
 
 // Runs that write new files give themselves such a name; those that move files get theirs from the move engine.

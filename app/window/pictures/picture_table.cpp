@@ -15,9 +15,9 @@ namespace window {
 
 namespace {
 
-constexpr int sliceMs = 8;
+constexpr int sliceMs = 2;
 /** Between slices the event loop is left alone this long, so that reading ahead takes a part of one processor only. */
-constexpr int pauseMs = 4;
+constexpr int pauseMs = 1;
 /** So many are asked for at a time: enough for all workers, and few enough that what is scrolled to comes soon. */
 constexpr int mostHeaders = 32;
 constexpr int mostThumbnails = 4;

@@ -13,7 +13,7 @@ import { hasHalf } from "./text-cuts.js";
 import { fill } from "../../lib/wording.js";
 
 // Names are made for about this long before the window gets control again.
-const SLICE_MS = 4;
+const SLICE_MS = 1;
 const LOOKED_UP = 250;
 
 export const MOST_STEPS = 30;

@@ -10,7 +10,7 @@ import { folderNameProblems, foldersFor, patternProblems, prepared } from "./sor
 import { fill } from "../../lib/wording.js";
 
 // Files are read for about this long before the window gets control again.
-const SLICE_MS = 3;
+const SLICE_MS = 1;
 
 export const KINDS = ["move", "copy", "link"];
 
