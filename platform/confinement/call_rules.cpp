@@ -14,7 +14,7 @@
 namespace platform {
 namespace {
 
-/** Harmless with any arguments: they work on memory, on time, on threads of this process, and on what is open. */
+/** Harmless with any arguments: they affect only memory, time, threads of this process, and open files. */
 constexpr const char *harmless[] = {
     "read",
     "write",
@@ -148,10 +148,10 @@ constexpr const char *harmless[] = {
     "getrandom",
 };
 
-/** What no library tries in good faith. */
+/** Calls that no library makes for a legitimate purpose. */
 constexpr const char *hostile[] = {"execve", "execveat", "ptrace", "process_vm_readv", "process_vm_writev"};
 
-/** Forms that are newer than others, which are tried next where the kernel does not know these. */
+/** Newer forms of other calls; if the kernel does not know them, callers fall back to the older ones. */
 constexpr const char *unknown[] = {"clone3", "openat2", "fchmodat2"};
 
 class CallRules
@@ -168,7 +168,7 @@ public:
 
     bool load() const
     {
-        // Looked up in a tree, since decoders ask the system often.
+        // Searched as a tree, since decoders make many system calls.
         constexpr int tree = 2;
         (void)::seccomp_attr_set(m_filter, SCMP_FLTATR_CTL_OPTIMIZE, tree);
         return m_filter && m_isGood && ::seccomp_load(m_filter) == 0;
@@ -180,7 +180,7 @@ public:
             add(action, name);
     }
 
-    /** Calls that this kind of machine does not have are passed over. */
+    /** Calls that do not exist on this architecture are skipped. */
     template<class... Conditions> void add(std::uint32_t action, const char *name, Conditions... conditions)
     {
         const int call = ::seccomp_syscall_resolve_name(name);
@@ -188,7 +188,7 @@ public:
             return;
         const std::array<scmp_arg_cmp, sizeof...(conditions)> all = {conditions...};
         const int problem = ::seccomp_rule_add_array(m_filter, action, call, unsigned(all.size()), all.data());
-        m_isGood = m_isGood && (problem == 0 || problem == -EDOM); // a call of another kind of machine
+        m_isGood = m_isGood && (problem == 0 || problem == -EDOM); // a call of another architecture
     }
 
 private:
@@ -216,7 +216,7 @@ void allowReading(CallRules &rules)
             rules.add(SCMP_ACT_ALLOW, name, is(1, std::uint64_t(command)));
 }
 
-/** Threads, and no processes; signals to itself, such as that of abort(). */
+/** Threads, but no processes; signals only to itself, such as that of abort(). */
 void allowThreads(CallRules &rules)
 {
     rules.add(SCMP_ACT_ALLOW, "clone", hasBits(0, CLONE_THREAD, CLONE_THREAD));

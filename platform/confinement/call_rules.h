@@ -5,8 +5,8 @@
 namespace platform {
 
 /**
- * Allows this process the system calls that decoding and encoding need. All others fail as if they were not permitted; starting
- * programs, networks and reaching into other processes ends it. False where the kernel has no such rules.
+ * Allows this process the system calls that decoding and encoding need. All others fail as not permitted; starting
+ * programs, using the network and accessing other processes kills it. False if the kernel does not support such rules.
  */
 bool restrictCalls();
 

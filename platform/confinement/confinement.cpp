@@ -23,7 +23,7 @@ QStringList takenFrom(FcStrList *list)
     return paths;
 }
 
-/** Where letters come from may be said anywhere, also in the user's home. */
+/** Font directories may be configured anywhere, also in the user's home. */
 QStringList fontFolders()
 {
     FcConfig *config = FcConfigGetCurrent();

@@ -4,13 +4,13 @@
 
 namespace platform {
 
-/** What keeps a process from doing harm, as the running kernel has it. */
+/** What keeps a process from doing harm, as far as the running kernel supports it. */
 struct Confinement
 {
-    bool hasNoNewPrivileges = false; ///< no program that it starts may do more than it
+    bool hasNoNewPrivileges = false; ///< programs that it starts gain no further rights
     bool hasFileRules =
-        false; ///< Landlock: files are read where that is allowed, and nowhere is anything made, changed or removed
-    bool hasCallRules = false; ///< seccomp: system calls are those that decoding and encoding need
+        false; ///< Landlock: files can be read only where allowed, and nothing can be created, changed or removed
+    bool hasCallRules = false; ///< seccomp: only the system calls that decoding and encoding need
 
     bool isWhole() const { return hasNoNewPrivileges && hasFileRules && hasCallRules; }
     bool operator==(const Confinement &) const = default;
@@ -18,18 +18,21 @@ struct Confinement
 
 /**
  * Confines this process for the rest of its life, as far as the kernel can. Files that are open stay open and are read and written
- * as before; nothing else can be written, no other program started, no socket opened and no other process reached. To be called while
- * there is one thread, since those that are there already would stay as they are.
+ * as before; nothing else can be written, no other program started, no socket opened and no other process reached. Call
+ * it while there is only one thread, since other existing threads would stay unconfined.
  *
- * @param readable  files and folders, with all below them, that may still be opened for reading; those that are not there are passed over
- * @return what is active now, as activeConfinement() has it
+ * @param readable  files and folders, with everything below them, that may still be opened for reading; missing ones
+ * are skipped
+ * @return what is active now, as from activeConfinement()
  */
 Confinement confine(const QStringList &readable);
 
-/** What is active, asked of the kernel. */
+/** What is active, according to the kernel. */
 Confinement activeConfinement();
 
-/** What libraries of pictures and letters read by themselves: themselves, fonts, profiles, time zones, what the system says of itself. */
+/**
+ * What picture and font libraries read by themselves: their own files, fonts, profiles, time zones, system information.
+ */
 QStringList systemFolders();
 
 } // namespace platform

@@ -17,7 +17,7 @@
 namespace platform {
 namespace {
 
-// The headers of the system may be older than its kernel, so what came later has its numbers here.
+// The system headers may be older than the running kernel, so newer constants are defined here.
 struct Rules
 {
     std::uint64_t files = 0;
@@ -33,11 +33,11 @@ constexpr std::uint64_t bits(int count)
     return (std::uint64_t(1) << count) - 1;
 }
 
-/** All rights that a version of the interface knows. */
+/** All rights that a version of the interface supports. */
 Rules rulesOf(int version)
 {
-    // Files: 13 rights from the beginning, moving between folders, truncating, commands to devices. Then TCP ports, then
-    // sockets without a path and signals.
+    // Files: 13 rights in the first version, then moving between folders, truncating, ioctl on devices. Then TCP ports,
+    // then abstract sockets and signals.
     constexpr std::array<int, 6> rights = {13, 13, 14, 15, 15, 16};
     constexpr int network = 4;
     constexpr int scopes = 6;
@@ -48,7 +48,7 @@ Rules rulesOf(int version)
     return rules;
 }
 
-/** A kernel takes as much of the structure as it knows, and refuses more unless that is zero. */
+/** A kernel reads as much of the structure as it knows, and rejects the rest unless it is zero. */
 Descriptor ruleset(const Rules &rules)
 {
     return Descriptor(int(::syscall(SYS_landlock_create_ruleset, &rules, sizeof rules, 0)));

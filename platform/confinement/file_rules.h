@@ -6,10 +6,13 @@
 
 namespace platform {
 
-/** Forbids this process everything that a kernel with Landlock can forbid, but for reading below @p readable. False where that fails. */
+/**
+ * Forbids this process everything that a kernel with Landlock can forbid, except reading below @p readable. False if
+ * that fails.
+ */
 bool restrictFiles(const QStringList &readable);
 
-/** True where a folder that everybody may read cannot be opened. */
+/** True if a folder that everybody may read cannot be opened. */
 bool areFilesRestricted();
 
 } // namespace platform

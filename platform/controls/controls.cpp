@@ -12,7 +12,7 @@ namespace {
 
 using Names = std::initializer_list<const char *>;
 
-/** The stand-ins' own names come first, so that a widget with such a property is read through it. */
+/** The stand-ins' own property names come first, so that a widget with such a property is read through it. */
 constexpr Names textNames = {"stringValue", "plainText", "text", "currentText"};
 constexpr Names stateNames = {"state", "checked"};
 constexpr Names segmentNames = {"selectedSegment", "currentIndex"};
@@ -25,14 +25,14 @@ std::unique_ptr<WindowControls> &windowControls()
     return controls;
 }
 
-/** What the windows know of a control; none where there are no windows or they do not know it. */
+/** What the windows know about a control; none if there are no windows or they do not know it. */
 template<typename Question> auto asked(const QObject *control, Question question)
 {
     using Answer = decltype(question(*windowControls(), *control));
     return control && windowControls() ? question(*windowControls(), *control) : Answer();
 }
 
-/** The first of @p names that the control has; null where it has none of them. */
+/** The first of @p names that the control has; null if it has none of them. */
 const char *firstProperty(const QObject *control, Names names)
 {
     if (!control)
@@ -55,7 +55,7 @@ void write(QObject *control, Names names, const QVariant &value)
         control->setProperty(name, value);
 }
 
-/** A field for numbers shows text around its number; a slider shows none at all. */
+/** A number field may show text around its number; a slider shows none at all. */
 bool isNumberControl(const QObject *control)
 {
     return firstProperty(control, {"value"}) &&
@@ -214,7 +214,7 @@ QVariantList rowsOf(const QObject *control)
 void addRowTo(QObject *control, const QVariantMap &row)
 {
     QVariantList rows = rowsOf(control);
-    write(control, {"rows"}, QVariantList()); // or the whole list would be copied for each row
+    write(control, {"rows"}, QVariantList()); // otherwise the whole list would be copied for each row
     rows.append(row);
     write(control, {"rows"}, rows);
 }

@@ -24,28 +24,28 @@ struct PanelRequest
     bool choosesFolders = false;
     bool choosesSeveral = false;
     bool createsFolders = false;
-    /** File name extensions without the dot that can be picked; none means any type. */
+    /** File name extensions without the dot that can be chosen; none means any type. */
     std::optional<QStringList> types;
-    /** Save panels: other extensions than those of the list may be typed. */
+    /** Save panels: extensions other than the listed ones may be typed. */
     bool allowsOtherTypes = false;
     QString message;
-    QString name;   ///< save panels: the name that is offered
-    QString folder; ///< where the panel starts, a path; empty for the last one used
+    QString name;   ///< save panels: the suggested name
+    QString folder; ///< where the panel opens, a path; empty for the last folder used
     bool showsTagField = false;
     /** Open and save panels: what is shown under the list of files, a view; null for nothing. */
     QPointer<QObject> accessory;
-    /** Tells when the types change while the panel is up; null where they cannot. */
+    /** Notifies of changes of the types while the panel is open; null if they cannot change. */
     QPointer<SavePanel> panel;
     int pageCount = 1; ///< print panels: how many pages there are to choose from
     QPageLayout page;  ///< print panels: the paper and its orientation, which the user may change there
 };
 
-/** Which pages are printed, in which order and how often, as the user chose it in a print panel. */
+/** Which pages are printed, in which order and how often, as chosen in a print panel. */
 struct PrintPages
 {
     int from = 0; ///< the first page, from 1; 0 for all of them
     int to = 0;
-    int copies = 1; ///< those that the printer does not make by itself
+    int copies = 1; ///< those that the printer does not make itself
     bool areCollated = true;
     bool isBackwards = false;
 };
@@ -56,12 +56,14 @@ struct PanelAnswer
     bool accepted = false;
     QStringList paths; ///< absolute, in the order in which the panel reports them
     QStringList tags;
-    /** Print panels: where to print, set up as the user chose; null where a path says it. */
+    /** Print panels: where to print, configured as the user chose; null if a path is given instead. */
     std::shared_ptr<QPagedPaintDevice> printer = nullptr;
     PrintPages pages = {};
 };
 
-/** Shows panels. One provider serves the process: dialogs in the application, queued answers where nobody looks. */
+/**
+ * Shows panels. One provider serves the process: dialogs in the application, queued answers where nobody is watching.
+ */
 class PanelProvider
 {
 public:
@@ -70,10 +72,10 @@ public:
     virtual PanelAnswer run(const PanelRequest &request) = 0;
 };
 
-/** Shows a panel through the provider of this process; cancelled where none was set. Main thread only. */
+/** Shows a panel through the provider of this process; cancelled if none was set. Main thread only. */
 PanelAnswer runPanel(const PanelRequest &request);
 
-/** Sets the provider and returns the one before. */
+/** Sets the provider and returns the previous one. */
 std::unique_ptr<PanelProvider> setPanelProvider(std::unique_ptr<PanelProvider> provider);
 
 } // namespace platform

@@ -6,7 +6,7 @@
 
 namespace platform {
 
-/** A save panel whose allowed types can change while it is on the screen. Main thread only. */
+/** A save panel whose allowed types can change while it is open. Main thread only. */
 class SavePanel : public QObject
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ public:
     QStringList allowedTypes() const { return m_request.types.value_or(QStringList()); }
     void setAllowedTypes(const QStringList &types);
 
-    /** Shows the panel and returns when it closes; what kind of panel @p request names does not count. Modal. */
+    /** Shows the panel and returns when it closes; the kind of panel in @p request is ignored. Modal. */
     PanelAnswer run(const PanelRequest &request);
 
 Q_SIGNALS:

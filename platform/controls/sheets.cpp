@@ -30,7 +30,7 @@ bool hasSheets(const QObject *window)
     return window && window->metaObject()->indexOfProperty("sheet") >= 0;
 }
 
-/** A person can close a real window without asking anybody here. */
+/** The user can close a real window without asking anybody here. */
 bool isHidden(const QObject &sheet)
 {
     const QVariant visible = sheet.property("visible");
@@ -42,7 +42,7 @@ void show(QObject &window, QObject *sheet)
     window.setProperty("sheet", QVariant::fromValue(sheet));
 }
 
-/** Forgets that @p sheet is open, also where its window is gone, and answers the windows that it was open on. */
+/** Forgets that @p sheet is open, even if its window is gone, and answers the windows on which it was open. */
 std::vector<QPointer<QObject>> forget(const QObject *sheet)
 {
     std::vector<QPointer<QObject>> windows;

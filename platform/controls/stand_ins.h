@@ -6,10 +6,10 @@
 #include <QVariant>
 
 /**
- * Stand-ins for the controls of a window: the properties that services read and write, and nothing to see.
+ * Stand-ins for the controls of a window: the properties that services read and write, without anything visible.
  *
- * A text that is nothing and an empty text are not the same here: what sets one assigns it, whatever was there.
- * Services never name these types; they reach every control, these and real ones, through controls.h.
+ * Null and empty text differ here: setters assign whatever they get. Services never name these types; they access every
+ * control, stand-in or real, through controls.h.
  */
 namespace platform {
 
@@ -58,7 +58,7 @@ private:
 class SegmentedControl : public QObject
 {
     Q_OBJECT
-    /** From 0; -1 where none is selected. */
+    /** From 0; -1 if none is selected. */
     Q_PROPERTY(int selectedSegment MEMBER m_selectedSegment)
 
     int m_selectedSegment = 0;
@@ -167,7 +167,7 @@ public:
     void setSheet(QObject *sheet) { m_sheet = sheet; }
 
 private:
-    QPointer<QObject> m_sheet; ///< the sheet belongs to whoever made it and may go first
+    QPointer<QObject> m_sheet; ///< the sheet belongs to whoever made it and may be destroyed first
 };
 
 } // namespace platform

@@ -6,12 +6,14 @@
 
 namespace platform {
 
-/** Bytes in memory that a library which takes them from a file finds under a name, for as long as this lives. No disk is written to. */
+/**
+ * Bytes in memory that a library can open as a file by name, as long as this object lives. Nothing is written to disk.
+ */
 class NamedBytes
 {
 public:
     explicit NamedBytes(const QByteArray &bytes);
-    /** False where the system has no memory for them. */
+    /** False if the system has no memory for them. */
     bool isThere() const { return !m_path.isEmpty(); }
     const char *path() const { return m_path.constData(); }
 

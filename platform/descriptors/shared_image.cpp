@@ -54,7 +54,7 @@ std::optional<SharedImage> sharedImage(const QImage &image)
     shared.hasAlpha = image.hasAlphaChannel();
     const QImage pixels = image.convertToFormat(formatFor(shared.hasAlpha));
     shared.pixels = Descriptor(::memfd_create("quorlin-pixels", MFD_CLOEXEC | MFD_ALLOW_SEALING));
-    // Rows of 32 bits have no gaps.
+    // Rows of 32-bit pixels have no gaps.
     const bool isWritten =
         shared.pixels.isOpen() && goThrough(bytesOf(shared.size), [&](qint64 done) {
             return ::write(shared.pixels.number(), pixels.constBits() + done, size_t(bytesOf(shared.size) - done));
@@ -68,7 +68,7 @@ QImage imageFrom(const SharedImage &shared)
 {
     struct stat status = {};
     const int descriptor = shared.pixels.number();
-    // Only such memory has seals: whoever hands over a file, a pipe or a socket waits in vain for it to be read.
+    // Only such memory has seals: a file, a pipe or a socket passed instead is never read.
     const int sealed = ::fcntl(descriptor, F_GET_SEALS);
     const bool isSealed = sealed >= 0 && (sealed & seals) == seals;
     if (!isSealed || !isSound(shared.size) || ::fstat(descriptor, &status) != 0 ||

@@ -6,7 +6,7 @@
 
 namespace platform {
 
-/** Writes all of it to an open file. Answers 0, or an errno. What was written is on the disk then. */
+/** Writes all bytes to an open file and syncs it. Answers 0, or an errno. */
 int writeAll(const Descriptor &file, const QByteArray &bytes);
 
 } // namespace platform

@@ -27,7 +27,7 @@ struct Identity
     quint64 number = 0;
     qint64 bornSeconds = 0; ///< 0 where the file system keeps no birth time
     quint32 bornNanoseconds = 0;
-    QByteArray handle; ///< the file system's own name for the item; empty where it has none
+    QByteArray handle; ///< the file system's own handle of the item; empty if it has none
 
     bool operator==(const Identity &) const = default;
 };

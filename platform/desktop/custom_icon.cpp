@@ -35,7 +35,7 @@ Result<QByteArray> smallPng(const Picture &icon)
     return encodeImage(*pixels, FileFormat::Png);
 }
 
-/** The text of a ".directory" file with another icon; nothing else of it changes. */
+/** The text of a ".directory" file with another icon; the rest is unchanged. */
 QByteArray withIcon(const QByteArray &text, const QByteArray &icon)
 {
     const QByteArray line = "Icon=" + icon;
@@ -73,7 +73,7 @@ Result<void> setIconOfFolder(const QString &folder, const QByteArray &png)
     return written ? replaceFile(settings, withIcon(text, QByteArray("./") + folderIcon)) : written;
 }
 
-/** Tells the desktop, which keeps such things in a store of its own; without one nobody listens. */
+/** Tells the desktop, which stores such metadata in a database of its own; without a desktop this has no effect. */
 bool tellDesktop(const QByteArray &path, const QByteArray &location)
 {
     const std::unique_ptr<GFile, decltype(&g_object_unref)> file(g_file_new_for_path(path.constData()), g_object_unref);

@@ -9,7 +9,7 @@ namespace platform {
 
 namespace {
 
-/** In units of four bytes, which is how the window system counts: 16 MiB. */
+/** In units of four bytes, as the window system counts: 16 MiB. */
 constexpr uint32_t mostWords = 4 * 1024 * 1024;
 
 template<typename T> using Reply = std::unique_ptr<T, decltype(&std::free)>;

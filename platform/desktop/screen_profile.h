@@ -5,7 +5,7 @@
 namespace platform {
 
 /**
- * The ICC profile that the X window system holds for a screen; empty where it has none, or where no such system answers.
+ * The ICC profile that the X window system holds for a screen; empty if it has none, or if no such system answers.
  *
  * @param number  of the screen among those of the display, from 0
  */

@@ -29,8 +29,8 @@ QJsonArray arrayOf(const QVariantList &list);
 QJsonObject objectOf(const QVariantMap &map);
 
 /**
- * A value inside a list or dictionary: lists and dictionaries are those of JSON, since a text within a text would double the
- * marks of quotation at each level; other values are texts as they stand alone. What has no form becomes nothing.
+ * A value inside a list or dictionary: lists and dictionaries are JSON, since a text within a text would double the
+ * quotation marks at each level; other values have the form that they have alone. Values without a form become nothing.
  */
 QJsonValue inside(const QVariant &value)
 {
@@ -125,7 +125,7 @@ QVariant dictionaryOf(const QJsonObject &object)
     return map;
 }
 
-/** Earlier versions wrote a list or dictionary inside another one as a text with its mark: these are read as well. */
+/** Earlier versions wrote a nested list or dictionary as a text with its mark: these are read as well. */
 QVariant fromInside(const QJsonValue &value)
 {
     if (value.isArray())
@@ -178,7 +178,7 @@ QVariant settingToText(const QVariant &value)
 
 QVariant settingFromText(const QVariant &stored)
 {
-    // A line of the file with commas and without quotation marks, written by hand, arrives as a list of texts.
+    // A hand-written line with commas and without quotation marks is read as a list of texts.
     return stored.typeId() == QMetaType::QString ? decoded(stored.toString()) : stored;
 }
 

@@ -51,14 +51,17 @@ QByteArray firstLine(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readLine().trimmed() : QByteArray();
 }
 
-/** Of a block device, by its folder below /sys: what it lies on included, such as an encrypted disk under a volume of a group. */
+/**
+ * Whether a block device, given by its folder below /sys, is on anything encrypted: also indirectly, as an encrypted
+ * disk under a logical volume.
+ */
 bool isPrivateBlock(const QString &folder, int depth = 0)
 {
     constexpr int deepest = 8;
     const QString real = QFileInfo(folder).canonicalFilePath();
     if (real.isEmpty() || depth > deepest)
         return false;
-    // A partition does not say that its disk can be taken out; the disk, the folder around it, does.
+    // A partition does not say that its disk is removable; the disk, its parent folder, does.
     if (firstLine(real + QStringLiteral("/removable")) == "1" ||
         firstLine(real + QStringLiteral("/../removable")) == "1")
         return true;
@@ -83,7 +86,7 @@ struct Mounted
     QByteArray source;
 };
 
-/** The last that was mounted of that number. */
+/** The most recent mount of that device number. */
 std::optional<Mounted> mountedAs(const QString &number, const QByteArray &mounts)
 {
     std::optional<Mounted> found;
@@ -96,7 +99,7 @@ std::optional<Mounted> mountedAs(const QString &number, const QByteArray &mounts
     return found;
 }
 
-/** A folder that the file system itself encrypts, though its disk is open to everybody. */
+/** A folder encrypted by the file system itself, although its disk is readable. */
 bool isEncryptedFile(const QString &path)
 {
     struct statx facts = {};
@@ -104,7 +107,7 @@ bool isEncryptedFile(const QString &path)
            (facts.stx_attributes & STATX_ATTR_ENCRYPTED) != 0;
 }
 
-/** As large as it may be, in the form that every reader of thumbnails knows. */
+/** At its full size, in the pixel format that every reader of thumbnails supports. */
 QImage statedImage(const SharedThumbnail &place, const QImage &image, QSize picture)
 {
     QImage stated = image.convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32 : QImage::Format_RGB32);
@@ -123,7 +126,8 @@ bool SharedThumbnail::isThere() const
     return QFile::exists(path);
 }
 
-// Everything but the characters that GLib leaves as they are in a path: programs must agree on the name to the letter.
+// Escapes everything except the characters that GLib leaves as they are in a path: programs must agree on the name
+// exactly.
 QByteArray fileUri(const QString &path)
 {
     return "file://" + QFile::encodeName(path).toPercentEncoding("/!$&'()*+,:=@");
@@ -158,7 +162,7 @@ bool isPrivateDisk(quint64 device, const QByteArray &mounts, const QString &syst
     const std::optional<Mounted> mounted = mountedAs(number, mounts);
     if (!mounted)
         return false;
-    // What a file system of a program's own hides is not known; ZFS encrypts by folder and does not say where.
+    // What a file system in user space hides is unknown; ZFS encrypts by folder and does not say where.
     if (mounted->kind.startsWith("fuse.") || mounted->kind == "ecryptfs" || mounted->kind == "zfs")
         return true;
     struct stat status = {};
@@ -172,7 +176,7 @@ bool mayBeThumbnailed(const QString &path)
     struct stat status = {};
     if (::stat(QFile::encodeName(path).constData(), &status) != 0 || isEncryptedFile(path))
         return false;
-    // Disks are looked at once: another one gets another number while the first is in use.
+    // Disks are checked once: while one is in use, another one gets a different number.
     static QHash<quint64, bool> known;
     const auto found = known.constFind(status.st_dev);
     if (found != known.constEnd())
@@ -189,7 +193,7 @@ Result<void> writeSharedThumbnail(const SharedThumbnail &place, const QString &p
     if (changedAt(path) != place.modified)
         return failure(ErrorCode::NotFound, path);
     const QString folder = parentFolder(place.path);
-    // The folders are the user's own: a thumbnail tells what is in a picture.
+    // The folders are private to the user: a thumbnail shows what is in a picture.
     for (const QString &each : {cacheFolder(), thumbnailFolder(), folder})
         if (::mkdir(QFile::encodeName(each).constData(), S_IRWXU) != 0 && errno != EEXIST)
             return failure(ErrorCode::WriteFailed, each);

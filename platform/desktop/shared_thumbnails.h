@@ -16,18 +16,18 @@ class QImage;
  */
 namespace platform {
 
-/** What a shared thumbnail must state, and where it lies. */
+/** What a shared thumbnail must state, and where it is stored. */
 struct SharedThumbnail
 {
-    QString path;        ///< of the thumbnail; it need not be there
+    QString path;        ///< of the thumbnail; it need not exist
     QByteArray uri;      ///< of the picture, "file:///…"
     qint64 modified = 0; ///< the picture, in seconds since 1970
-    int side = 0;        ///< the most pixels that it may have on a side: 128, 256 or 512
+    int side = 0;        ///< its largest possible side in pixels: 128, 256 or 512
 
     bool isThere() const;
 };
 
-/** The address that file managers give to a local file. */
+/** The URI that file managers give to a local file. */
 QByteArray fileUri(const QString &path);
 
 /**
@@ -35,33 +35,33 @@ QByteArray fileUri(const QString &path);
  *
  * @param path    absolute, of the picture
  * @param pixels  that it has, upright
- * @param wanted  what the thumbnail is to cover
+ * @param wanted  the size that the thumbnail must cover
  *
- * None where no kind has that many, where the picture is gone, or where it is itself a shared thumbnail.
+ * None if no kind is that large, if the picture is gone, or if it is itself a shared thumbnail.
  */
 std::optional<SharedThumbnail> sharedThumbnail(const QString &path, QSize pixels, QSize wanted);
 
 /**
- * Whether others may keep a small copy of what lies there: not where its disk is encrypted or can be taken away, nor where its folder is
- * encrypted by the file system.
+ * Whether a small copy of a picture may be stored elsewhere: not if its disk is encrypted or removable, nor if its
+ * folder is encrypted by the file system.
  */
 bool mayBeThumbnailed(const QString &path);
 
 /**
- * The same of a disk.
+ * The same for a disk.
  *
- * @param device  its number, as stat() tells it
+ * @param device  its number, from stat()
  * @param mounts  the text of /proc/self/mountinfo
- * @param system  the folder /sys, or what stands in for it in a test
+ * @param system  the folder /sys, or its replacement in a test
  */
 bool isPrivateDisk(quint64 device, const QByteArray &mounts, const QString &system);
 
 /**
- * Writes the thumbnail, readable by this user alone, whole or not at all.
+ * Writes the thumbnail atomically, readable by this user alone.
  *
  * @param picture  its own size in pixels
  *
- * Fails with WriteFailed, and with NotFound where the picture was changed since it was looked at.
+ * Fails with WriteFailed, and with NotFound if the picture has changed since it was read.
  */
 Result<void> writeSharedThumbnail(const SharedThumbnail &place, const QString &path, const QImage &image,
                                   QSize picture);

@@ -27,7 +27,7 @@ Tables &tables()
     return all;
 }
 
-/** A name that leads to no other place than a file of the folder. */
+/** A name that cannot escape from the folder. */
 bool isName(const QString &name)
 {
     const auto isAllowed = [](QChar c) {

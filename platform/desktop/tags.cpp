@@ -11,7 +11,7 @@ namespace {
 
 constexpr const char *attribute = "user.xdg.tags";
 
-/** A comma parts two tags, wherever it came from. */
+/** A comma separates tags, even one inside a tag. */
 QStringList plainTags(const QString &text)
 {
     QStringList tags;

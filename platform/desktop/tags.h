@@ -8,13 +8,13 @@ namespace platform {
 
 /**
  * Makes @p tags the tags of the file or folder at @p path, as file managers keep them: separated by commas in the extended
- * attribute "user.xdg.tags". Blanks around them and empty ones are left out; without any the attribute is removed.
+ * attribute "user.xdg.tags". Surrounding spaces and empty tags are dropped; without tags the attribute is removed.
  *
- * Fails with WriteFailed, also where nothing is there or the file system has no such attributes.
+ * Fails with WriteFailed, also if the item does not exist or the file system has no such attributes.
  */
 Result<void> setTags(const QString &path, const QStringList &tags);
 
-/** The tags of the file or folder at @p path; none where it has none, or nothing is there. */
+/** The tags of the file or folder at @p path; none if it has none, or does not exist. */
 QStringList tagsOf(const QString &path);
 
 } // namespace platform

@@ -16,7 +16,7 @@ QSettings settings()
     return QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Quorlin"), QStringLiteral("Quorlin"));
 }
 
-/** What could not be written, until the process ends: a value, or an invalid one for a key that was removed. */
+/** Changes that could not be written, kept until the process ends: a value, or an invalid one for a removed key. */
 QHash<QString, QVariant> &unwritten()
 {
     static QHash<QString, QVariant> values;
@@ -29,7 +29,7 @@ std::function<void()> &teller()
     return tell;
 }
 
-/** Writes a change with all that could not be written before it; what is still not taken is said the first time. */
+/** Writes a change with all that could not be written before; the first failure is reported. */
 void write(const QString &key, const QVariant &value)
 {
     static bool isSaid = false;

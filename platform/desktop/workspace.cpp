@@ -12,7 +12,7 @@
 namespace platform {
 namespace {
 
-/** Without a display Qt knows no desktop and says so on standard error; the desktop's own opener may still be there. */
+/** Without a display Qt knows no desktop and says so on standard error; the desktop's opener may still exist. */
 bool hasDesktop()
 {
     const QString name = QGuiApplication::platformName();

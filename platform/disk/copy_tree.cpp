@@ -17,7 +17,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/** A descriptor that is closed in the end. */
+/** A descriptor that is closed on destruction. */
 class Open
 {
 public:
@@ -30,7 +30,7 @@ public:
             ::close(m_descriptor);
     }
     operator int() const { return m_descriptor; }
-    /** Some file systems say only here that there was no room. */
+    /** Some file systems report only here that the disk was full. */
     std::error_code close()
     {
         const int descriptor = m_descriptor;
@@ -48,7 +48,7 @@ void copyDates(const struct stat &from, const fs::path &to)
     ::utimensat(AT_FDCWD, to.c_str(), times, AT_SYMLINK_NOFOLLOW);
 }
 
-/** The folder is the user's alone while it is filled, whatever it allows in the end. */
+/** The folder is private to the user while it is filled, whatever its final permissions are. */
 std::error_code copyFolder(const fs::path &from, const fs::path &to)
 {
     std::error_code error;
@@ -89,7 +89,7 @@ std::error_code copyBytes(int from, int to)
     }
 }
 
-/** Within the kernel where it can be done there: some file systems then share the blocks. */
+/** Within the kernel if possible: some file systems then share the blocks. */
 std::error_code copyContent(int from, int to)
 {
     constexpr size_t piece = 1 << 30;

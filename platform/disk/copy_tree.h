@@ -8,14 +8,15 @@
 namespace platform {
 
 /**
- * Copies a file, a link or a folder with all that is in it to @p to, which must not be there.
+ * Copies a file, a link or a folder with its contents to @p to, which must not exist.
  *
- * Permissions, access lists, modification dates and the user's extended attributes are kept; what the file system of the target cannot
- * hold of them is left out without a word. Pipes, sockets and devices are refused. On failure a part of the copy is left.
+ * Permissions, access lists, modification dates and the user's extended attributes are kept; what the target's file
+ * system does not support of these is silently dropped. Pipes, sockets and devices are refused. On failure a partial
+ * copy remains.
  */
 std::error_code copyTree(const std::filesystem::path &from, const std::filesystem::path &to);
 
-/** Removes a copy, or the beginning of one, with the folders in it that may not be changed because their originals may not. */
+/** Removes a copy, or a partial one, including its read-only folders. */
 std::error_code discardTree(const std::filesystem::path &copy);
 
 } // namespace platform

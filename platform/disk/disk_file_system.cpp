@@ -123,7 +123,7 @@ std::error_code DiskFileSystem::exchange(const QString &one, const QString &othe
 {
     const std::error_code error = outcome(
         ::renameat2(AT_FDCWD, encodedPath(one).constData(), AT_FDCWD, encodedPath(other).constData(), RENAME_EXCHANGE));
-    // Old systems and some file systems do not know the request.
+    // Old kernels and some file systems do not support the request.
     const bool isUnknown = error == std::errc::invalid_argument || error == std::errc::function_not_supported ||
                            error == std::errc::operation_not_supported;
     return isUnknown ? std::make_error_code(std::errc::operation_not_supported) : error;
@@ -193,7 +193,7 @@ std::optional<TrashedItem> DiskFileSystem::findTrashed(const QString &path, cons
 {
     for (const TrashedItem &item : trashedFrom(path)) {
         const auto found = look(item.path);
-        // Not the device: it may have another number after a restart.
+        // Not the device number: that may change with a restart.
         if (found && found->kind == state.kind && found->inode == state.inode && found->bornNs == state.bornNs)
             return item;
     }

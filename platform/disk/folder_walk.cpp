@@ -14,7 +14,7 @@
 namespace platform {
 namespace {
 
-/** Folders from this depth on give up their descriptor while what is in them is walked. */
+/** Folders from this depth on close their descriptor while their contents are walked. */
 constexpr size_t keptOpen = 32;
 
 /** An open folder, or none. */
@@ -22,7 +22,7 @@ class Folder
 {
 public:
     Folder() = default;
-    /** Takes the descriptor over; none where it is negative or no folder. */
+    /** Takes ownership of the descriptor; none if it is negative or no folder. */
     explicit Folder(int descriptor) : m_list(descriptor < 0 ? nullptr : fdopendir(descriptor), &closedir)
     {
         if (descriptor >= 0 && !m_list)
@@ -45,18 +45,18 @@ private:
 
 enum class Kind : char { Folder = 'd', File = 'f' };
 
-/** A folder in the midst of the walk. Its names were read in one go, so that it need not stay open. */
+/** A folder being walked. Its names were read in one go, so that it need not stay open. */
 struct Level
 {
     Folder folder;
     dev_t device = 0;
     ino_t inode = 0;
     std::string entries; ///< for each: one letter for the kind, the name, a NUL
-    size_t next = 0;     ///< where in entries the next one begins
+    size_t next = 0;     ///< position in entries of the next one
     size_t pathLength = 0;
 };
 
-/** The kind of an item that the folder's list does not tell, or of what a link leads to. False: passed over. */
+/** The kind of an item if the folder's listing does not tell it, or of a link's target. False: skipped. */
 bool lookAt(int folder, const char *name, Kind &kind)
 {
     struct stat info = {};
@@ -122,7 +122,7 @@ private:
 
     const FolderWalkOptions &m_options;
     const FolderVisitor &m_visit;
-    std::string m_path; ///< of the innermost folder, and of its item while that is visited
+    std::string m_path; ///< of the innermost folder, including its item while that is visited
     std::vector<Level> m_levels;
 };
 
@@ -162,7 +162,7 @@ void Walk::enter(Folder folder)
     m_levels.push_back(std::move(level));
 }
 
-/** Goes back to the folder above, which is opened again from within if it had to be closed on the way down. */
+/** Returns to the parent folder, which is reopened through ".." if it had to be closed on the way down. */
 void Walk::leave()
 {
     const Level done = std::move(m_levels.back());
@@ -171,7 +171,8 @@ void Walk::leave()
         return;
     Level &above = m_levels.back();
     Folder again(openat(done.folder.descriptor(), "..", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    // A folder that was moved meanwhile leads elsewhere: the files of the one above are known, its folders are left out.
+    // A folder that was moved meanwhile leads elsewhere: the files of its parent are known, its other folders are
+    // skipped.
     if (again.isSameAs(above.device, above.inode))
         above.folder = std::move(again);
 }

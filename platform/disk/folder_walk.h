@@ -12,13 +12,13 @@ enum class PackageContents { Visit, Skip };
 
 struct FolderWalkOptions
 {
-    /** Items whose name begins with a dot; what lies in a hidden folder is left out with it. */
+    /** Items whose name begins with a dot; the contents of a hidden folder are skipped with it. */
     HiddenItems hiddenItems = HiddenItems::Skip;
-    /** What lies in a package folder, see isPackageName(). The root is entered even where it is a package. */
+    /** The contents of a package folder, see isPackageName(). The root is entered even if it is a package. */
     PackageContents packageContents = PackageContents::Visit;
 };
 
-/** One item below the root, as the file system spells it. The views live as long as the call that hands them out. */
+/** One item below the root, as the file system spells it. The views are valid during the callback only. */
 struct FolderItem
 {
     std::string_view path; ///< absolute if the root is
@@ -28,23 +28,23 @@ struct FolderItem
 
 enum class Descend { Yes, No };
 
-/** Is asked about every item; the answer counts for folders only. */
+/** Called for every item; the answer counts for folders only. */
 using FolderVisitor = std::function<Descend(const FolderItem &item)>;
 
 /**
  * Visits every folder and file below @p root, depth first, in the order in which the file system lists them.
  *
- * A folder comes before what is in it. Files are regular files and links to regular files; pipes, sockets, devices,
- * links to folders and links to nothing are passed over, and no link below the root is followed. What cannot be read
- * is passed over without a word; a root that cannot be read gives nothing.
+ * A folder precedes its contents. Files are regular files and links to regular files; pipes, sockets, devices, links to
+ * folders and dangling links are skipped, and no link below the root is followed. Unreadable items are silently
+ * skipped; an unreadable root yields nothing.
  *
  * Depth and length of paths have no limit but memory: nothing recurses, at most some forty descriptors are open, and
- * no path is handed to the system as a whole. Cost: one read of each folder; a file is not looked at on its own where the
- * file system tells its kind, so 100,000 files take some tens of milliseconds.
+ * no full path is passed to the system. Cost: one read of each folder; no call per file if the file system tells its
+ * kind, so 100,000 files take some tens of milliseconds.
  */
 void walkFolder(const QString &root, const FolderWalkOptions &options, const FolderVisitor &visit);
 
-/** True for the name of a folder that users see as one thing: ".app", ".photoslibrary" ..., in any case of letters. */
+/** True for the name of a folder that users see as one item: ".app", ".photoslibrary" ..., in any case of letters. */
 bool isPackageName(std::string_view name);
 
 } // namespace platform

@@ -52,11 +52,11 @@ bool FolderWatch::add(const QString &folder)
 {
     const int number = ::inotify_add_watch(m_inotify.number(), encodedPath(folder).constData(), asked);
     if (number >= 0)
-        m_folders.insert(number, folder); // one that was moved keeps its number and has another path now
+        m_folders.insert(number, folder); // a folder that was moved keeps its number and has another path now
     return number >= 0;
 }
 
-/** A folder and all below it. One that is gone by now is none. @p files gets what lies in them. */
+/** A folder and everything below it. One that has disappeared is skipped. @p files gets the files in them. */
 bool FolderWatch::addAll(const QString &folder, QStringList *files)
 {
     if (!add(folder))
@@ -141,7 +141,7 @@ bool isBeingWritten(const QString &path)
     const Descriptor file(::open(encodedPath(path).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
     if (!file.isOpen())
         return false;
-    // A lease on reading is given where nobody writes; it goes with the descriptor.
+    // A read lease is granted only while nobody writes; it ends with the descriptor.
     return ::fcntl(file.number(), F_SETLEASE, F_RDLCK) != 0 && errno == EAGAIN;
 }
 

@@ -9,25 +9,29 @@
 namespace platform {
 
 /**
- * Tells of files that were closed after writing, or moved, in folders and in all below them. Hidden folders and packages are
- * not entered, links not followed.
+ * Reports files that were closed after writing, or moved, in folders and everything below them. Hidden folders and
+ * packages are not entered, links not followed.
  *
- * The system counts watches, one a folder. On disks of other machines it tells of nothing that happens there; see isOfNetwork().
+ * The system limits watches, one per folder. On network disks it does not report what other machines do; see
+ * isOfNetwork().
  */
 class FolderWatch
 {
 public:
-    /** Fails with NotFound where a folder cannot be watched, and with TooLarge, in a sentence, where the system has no more watches. */
+    /**
+     * Fails with NotFound if a folder cannot be watched, and with TooLarge, in a sentence, if the system has no watches
+     * left.
+     */
     static Result<FolderWatch> start(const QStringList &folders);
 
     struct News
     {
-        QStringList files;      ///< that may be complete now; those of folders that are new here too
-        QStringList lost;       ///< of the folders that were named: those that are gone
-        bool isMissing = false; ///< more happened than the system could keep: what changed must be looked for
-        bool isFull = false;    ///< a new folder could not be watched, for want of watches
+        QStringList files;      ///< that may be complete now; also those in new folders
+        QStringList lost;       ///< watched root folders that are gone
+        bool isMissing = false; ///< the event queue overflowed: changes must be searched for
+        bool isFull = false;    ///< a new folder could not be watched, for lack of watches
     };
-    /** What happened since it was asked last. Never waits. */
+    /** What happened since the last call. Never waits. */
     News read();
 
     /** Readable when there is something to read. */
@@ -44,13 +48,13 @@ private:
     QHash<int, QString> m_folders; ///< by the numbers of their watches
 };
 
-/** Whether a folder is on a disk that others may write to without this system's knowledge. */
+/** Whether a folder is on a disk that others can change without this system's knowledge. */
 bool isOfNetwork(const QString &folder);
 
-/** Whether some process has a file open for writing; false where that cannot be told. */
+/** Whether some process has a file open for writing; false if unknown. */
 bool isBeingWritten(const QString &path);
 
-/** How many watches one user may have, as the system says; 0 where it does not. */
+/** How many watches one user may have, according to the system; 0 if unknown. */
 int mostWatches();
 
 } // namespace platform

@@ -24,7 +24,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/** The path of the item itself: through a slash at the end a link would be followed. */
+/** The path of the item itself: with a trailing slash a link would be followed. */
 fs::path native(const QString &path)
 {
     return fs::path(encodedPath(withoutTrailingSlashes(path)).toStdString());
@@ -40,14 +40,16 @@ QString because(const std::error_code &error)
     return QString::fromLocal8Bit(error.message().c_str());
 }
 
-/** A name beside @p item that nobody uses, hidden and short, so that it fits where the name itself only just does. */
+/**
+ * An unused name beside @p item, hidden and short, so that it fits even if the item's own name is as long as possible.
+ */
 QString besideOf(const QString &item)
 {
     const QString tag = QUuid::createUuid().toString(QUuid::Id128).left(12);
     return joinedPath(parentFolder(QDir(item).absolutePath()), QStringLiteral(".quorlin-") + tag);
 }
 
-/** Whether the path still leads to the file that is open, and nobody has written to that. */
+/** Whether the path still leads to the open file, and nobody has written to it. */
 bool isStillEmpty(int file, const fs::path &path)
 {
     struct stat open = {};
@@ -57,8 +59,8 @@ bool isStillEmpty(int file, const fs::path &path)
 }
 
 /**
- * The empty file that is made first keeps the name; whoever comes later finds it taken. One who writes into it or puts another in its
- * place all the same is noticed up to the last moment. The note is for a kill before the rename.
+ * The empty file created first reserves the name; later processes find it taken. One that writes into it or replaces it
+ * anyway is noticed until the last moment. The note covers a kill before the rename.
  */
 std::error_code renameOntoPlaceholder(const fs::path &from, const fs::path &to)
 {
@@ -84,7 +86,7 @@ bool isForLackOfLinks(const std::error_code &error)
            error == std::errc::function_not_supported || error == std::errc::too_many_links;
 }
 
-/** A second name for the file refuses a name that is taken; then the first name goes. The note is for a kill in between. */
+/** A hard link cannot replace an existing name; then the first name is removed. The note covers a kill in between. */
 std::error_code renameByLink(const fs::path &from, const fs::path &to)
 {
     const HiddenItem noted(HiddenItem::What::SecondName, decodedPath(to.c_str()), decodedPath(from.c_str()));
@@ -106,7 +108,7 @@ std::error_code renameUnpromised(const fs::path &from, const fs::path &to)
         error = renameByLink(from, to);
         return isForLackOfLinks(error) ? renameOntoPlaceholder(from, to) : error;
     }
-    // The system itself refuses to put a folder in the place of a file or of a folder that is not empty.
+    // The system itself refuses to replace a file or a non-empty folder by a folder.
     return ::rename(from.c_str(), to.c_str()) == 0 ? std::error_code() : lastError();
 }
 
@@ -117,7 +119,7 @@ std::error_code renamePath(const fs::path &from, const fs::path &to)
     return errno == EINVAL || errno == ENOSYS || errno == ENOTSUP ? renameUnpromised(from, to) : lastError();
 }
 
-/** True where @p item lies in the folder @p folder, or is it. */
+/** True if @p item is in the folder @p folder, or is that folder. */
 bool isWithin(const fs::path &item, const fs::path &folder)
 {
     std::error_code error;
@@ -133,7 +135,7 @@ bool mayChange(const fs::path &folder)
     return ::faccessat(AT_FDCWD, folder.c_str(), R_OK | W_OK | X_OK, AT_EACCESS) == 0;
 }
 
-/** What was written is on the disk before what it was made from is given up. */
+/** A copy is synced to disk before its source is removed. */
 void settle(const QString &folder)
 {
     const int descriptor = ::open(native(folder).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
@@ -150,7 +152,9 @@ tl::unexpected<Error> notMoved(const QString &from, const QString &to, const std
                    QStringLiteral("Cannot move %1 to %2: %3").arg(from, to, because(error)));
 }
 
-/** Takes a copy away again whose source stays; a source that is gone meanwhile has left the copy as the last one. */
+/**
+ * Removes a copy whose source stays; if the source has disappeared meanwhile, the copy is all that is left and is kept.
+ */
 Result<void> withoutCopy(const QString &from, const QString &to, const std::error_code &why)
 {
     const QString aside = besideOf(to);
@@ -165,8 +169,8 @@ Result<void> withoutCopy(const QString &from, const QString &to, const std::erro
 }
 
 /**
- * Moves to another file system. The source leaves its place in one step, so that up to then it is whole, and is compared with the
- * copy after that: what another program wrote into it last stays.
+ * Moves to another file system. The source is renamed away in one step, so that it is complete until then, and is
+ * compared with the copy afterwards: whatever another program wrote into it last is kept.
  */
 Result<void> moveByCopying(const QString &from, const QString &to)
 {
@@ -233,7 +237,7 @@ Result<void> makeFolder(const QString &path)
         return failure(ErrorCode::WriteFailed, QStringLiteral("Cannot make a folder without a path"));
     std::error_code error;
     fs::create_directories(native(path), error);
-    // Some libraries report an error for a path that ends in "/" although the folder was made.
+    // Some libraries report an error for a path that ends in "/" although the folder was created.
     if (!folderExists(path))
         return failure(ErrorCode::WriteFailed,
                        QStringLiteral("Cannot make the folder %1: %2").arg(path, because(error)));
@@ -252,7 +256,7 @@ void settleFolder(const QString &path)
 Result<void> removeItem(const QString &path)
 {
     const QString name = lastPathComponent(path);
-    // "." and ".." can only be emptied, not removed; and nobody who asks for "/" can mean it.
+    // "." and ".." could only be emptied, not removed; and nobody can mean "/".
     if (!canBeAPath(path) || name == QStringLiteral("/") || name == QStringLiteral(".") || name == QStringLiteral(".."))
         return noPath(path);
     std::error_code error;

@@ -35,7 +35,7 @@ struct Note
     QString what;
     QString hidden;
     qint64 names = 0;   ///< of the item
-    qint64 seconds = 0; ///< since 1970, when it was noted
+    qint64 seconds = 0; ///< since 1970, when the note was made
     QString item;
     QString copy;
 };
@@ -45,20 +45,20 @@ QString text(const QJsonObject &object, const char *key)
     return object[QLatin1String(key)].toString();
 }
 
-/** Only names that are made here are touched, whatever a note says. */
+/** Only names of our own form are touched, whatever a note says. */
 bool isHiddenName(const QString &path)
 {
     return path.startsWith(u'/') && lastPathComponent(path).startsWith(QStringLiteral(".quorlin-"));
 }
 
 /**
- * Removes an empty file if it was made when the note was, nobody holds it, and what was to have its name still has its own: otherwise it
- * may be that item, which was empty itself.
+ * Removes an empty file if it was created with the note, nobody holds it, and the item that was to get its name still
+ * has its own: otherwise it may be that item, empty itself.
  */
 void endPlaceholder(const Note &note)
 {
     const QString &path = note.hidden;
-    constexpr qint64 mostSeconds = 10; // the clocks of other disks, and those that count every other second
+    constexpr qint64 mostSeconds = 10; // clocks of network disks, and timestamps with a resolution of two seconds
     const int file = ::open(encodedPath(path).constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
     struct stat found = {};
     const bool isEmpty = file >= 0 && ::fstat(file, &found) == 0 && S_ISREG(found.st_mode) && found.st_size == 0;
@@ -69,7 +69,7 @@ void endPlaceholder(const Note &note)
         ::close(file);
 }
 
-/** The name that came second goes, if the item still has both of them and had one less before. */
+/** Removes the second name if the item still has both and had one less before. */
 void endSecondName(const Note &note)
 {
     struct stat second = {};
@@ -113,7 +113,7 @@ bool isSeen(const QString &what)
     return what == wordOf(HiddenItem::What::Placeholder) || what == wordOf(HiddenItem::What::SecondName);
 }
 
-/** The notes without an end, in their order. Ends that do not say of what end all that was noted of a path. */
+/** The notes without an end, in order. An end that does not name an operation ends everything noted about a path. */
 std::vector<Note> openNotes(const QByteArray &lines, QString *by)
 {
     std::vector<Note> open;
@@ -135,7 +135,7 @@ std::vector<Note> openNotes(const QByteArray &lines, QString *by)
     return open;
 }
 
-/** The notes of processes that live no more; nobody else has them while they are held here. */
+/** The notes of processes that have ended; while they are locked here nobody else reads them. */
 class LeftNotes
 {
 public:
@@ -186,7 +186,7 @@ QStringList sweepHiddenItems()
 {
     QStringList named;
     LeftNotes notes;
-    // Names that were being given come first: without them the items are where the other notes say.
+    // Names that were being assigned come first: without them the items are where the other notes say.
     for (const bool isTurnOfSeen : {true, false})
         for (const Note &note : notes.all())
             if (isSeen(note.what) == isTurnOfSeen)

@@ -5,8 +5,9 @@
 namespace platform {
 
 /**
- * Ends what processes left under hidden names that live no more: unfinished files and placeholders go, copies go if what they were made
- * from is there, and items get their names back unless the copy has all of them. Answers the paths of items that got a name again.
+ * Cleans up what ended processes left under hidden names: unfinished files and placeholders are removed, copies are
+ * removed if their originals exist, and items get their names back unless the copy is complete. Answers the paths of
+ * restored items.
  */
 QStringList sweepHiddenItems();
 

@@ -9,8 +9,8 @@ namespace platform {
 /** What the file system says about one item. */
 struct ItemFacts
 {
-    qint64 sizeInBytes = 0; ///< of a folder its entry's, not that of what is in it
-    QDateTime created;      ///< the modification date where the file system keeps no other
+    qint64 sizeInBytes = 0; ///< for a folder that of its entry, not of its contents
+    QDateTime created;      ///< the modification date if the file system stores no other
     QDateTime modified;
 };
 

@@ -63,7 +63,8 @@ std::optional<TargetFacts> targetFacts(const QString &path)
 
 QString folderIdentity(const QString &path)
 {
-    // Before "a/.." can be left out, "a" must be known to be no link: what is there is asked with the path as it is.
+    // Before "a/.." can be shortened, "a" must be known not to be a link: existing items are resolved with the
+    // unchanged path.
     QString there = withoutTrailingSlashes(path);
     QString rest;
     while (!there.isEmpty()) {

@@ -11,8 +11,8 @@ namespace platform {
 struct ItemState;
 
 /**
- * What tells an item from all others, however its path is spelled: through links, ".." or a second mount. Two names of one
- * file have the same. Empty where nothing is. To be compared within one run of the program, not to be kept.
+ * What tells an item from all others, however its path is spelled: through links, ".." or a second mount. Two hard
+ * links of one file share it. Empty if nothing is there. For comparison within one run of the program, not for storage.
  */
 QString identityOf(const struct stat &item);
 QString identityOf(const ItemState &item);
@@ -20,13 +20,13 @@ QString identityOf(const ItemState &item);
 /** Whether a text has the form of an identity. */
 bool isIdentity(QStringView text);
 
-/** Of the item itself, a link not followed. */
+/** Of the item itself; a link is not followed. */
 QString itemIdentity(const QString &path);
 
-/** Of what the path leads to. */
+/** Of the target of the path. */
 QString targetIdentity(const QString &path);
 
-/** The same in numbers, for those who keep many: 16 bytes each. */
+/** The same in numbers, to save memory: 16 bytes each. */
 struct ItemNumber
 {
     quint64 device = 0;
@@ -37,24 +37,26 @@ struct ItemNumber
 
 size_t qHash(const ItemNumber &item, size_t seed);
 
-/** What a path leads to. */
+/** The target of a path. */
 struct TargetFacts
 {
     ItemNumber number;
-    bool isFile = false; ///< an ordinary one
+    bool isFile = false; ///< a regular file
     bool isFolder = false;
     bool hasSecondName = false; ///< the file has hard links
     qint64 bytes = 0;
     qint64 modifiedNs = 0; ///< of the content, nanoseconds since 1970
-    qint64 changedNs = 0;  ///< of anything about it, its name too: nobody can set that back
+    qint64 changedNs = 0;  ///< of anything about it, including its name: nobody can set it back
 
     bool operator==(const TargetFacts &) const = default;
 };
 
-/** None where nothing is. */
+/** None if nothing is there. */
 std::optional<TargetFacts> targetFacts(const QString &path);
 
-/** Of the folder at @p path, which need not be there yet: then of the one above that is, with the rest of the path. */
+/**
+ * Of the folder at @p path, which need not exist yet: then of its nearest existing parent, with the rest of the path.
+ */
 QString folderIdentity(const QString &path);
 
 } // namespace platform

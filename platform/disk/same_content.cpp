@@ -32,7 +32,7 @@ bool haveSameBytes(const fs::path &one, const fs::path &other)
     return a.eof() && b.eof() && !a.bad() && !b.bad();
 }
 
-/** Two links may lead to one item, or to none. */
+/** Two links may lead to the same item, or nowhere. */
 bool haveSameLink(const fs::path &one, const fs::path &other)
 {
     std::error_code error;

@@ -9,14 +9,14 @@ namespace platform {
 
 /**
  * Whether two files have the same bytes, two links say the same, or two folders have items of the same names with the same
- * content. False for what cannot be read, and for two items of different kinds. Costs the reading of both.
+ * content. False if something cannot be read, and for two items of different kinds. Costs the reading of both.
  */
 bool haveSameContent(const std::filesystem::path &one, const std::filesystem::path &other);
 
-/** Whether everything of @p part, of which a piece may be gone already, is also in @p whole, another item. */
+/** Whether everything in @p part, some of which may be gone already, is also in @p whole, another item. */
 bool holdsAll(const std::filesystem::path &whole, const std::filesystem::path &part);
 
-/** Waits until a file, or a folder with all in it, is on the disk. */
+/** Syncs a file, or a folder with its contents, to the disk. */
 std::error_code settleTree(const std::filesystem::path &item);
 
 } // namespace platform

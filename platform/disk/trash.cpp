@@ -23,7 +23,7 @@
 namespace platform {
 namespace {
 
-/** What is to be trashed: where it is, and how the info file of one trash calls that place. */
+/** What is to be trashed: its path, and how the info file of a given trash spells it. */
 struct Item
 {
     QString path;
@@ -50,7 +50,7 @@ bool makePrivateFolder(const QString &path)
     return ::mkdir(native(path).constData(), 0700) == 0 || folderExists(path);
 }
 
-/** Makes a trash with its two folders where they are missing. */
+/** Creates a trash with its two folders if they are missing. */
 bool prepare(const QString &trash)
 {
     return makeFolder(parentFolder(trash)) && makePrivateFolder(trash) &&
@@ -72,7 +72,7 @@ QString infoIn(const QString &trash, const QString &name)
 QString numbered(const QString &name, int number)
 {
     constexpr qsizetype longestInBytes = longestNameBytes - 10; // ".trashinfo"
-    constexpr qsizetype longestExtension = 32;                  // what is longer is no extension and may be cut
+    constexpr qsizetype longestExtension = 32;                  // anything longer is no extension and may be cut
     const QString base = baseName(name);
     const bool isSplit = name.size() - base.size() <= longestExtension;
     const QString tail =
@@ -87,7 +87,7 @@ QByteArray infoText(const Item &item)
            '\n';
 }
 
-/** Writes the info file where there is none: whoever makes it owns the name. */
+/** Creates the info file exclusively: whoever creates it owns the name. */
 std::error_code writeNewFile(const QString &path, const QByteArray &text)
 {
     const int descriptor = ::open(native(path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
@@ -110,14 +110,14 @@ std::error_code moveTo(const QString &from, const QString &to, Reach reach)
     return moveItem(from, to) ? std::error_code() : error;
 }
 
-/** Where an item came to lie in a trash, or why it did not. */
+/** Where an item is in a trash, or why it is not. */
 struct Put
 {
     std::error_code error;
     QString path;
 };
 
-/** Puts the item into one trash. The info file comes first, so that nothing lies in the trash without it. */
+/** Puts the item into one trash. The info file is written first, so that nothing is in the trash without one. */
 Put putInto(const QString &trash, const Item &item, Reach reach)
 {
     if (!prepare(trash))
@@ -145,7 +145,7 @@ std::optional<dev_t> deviceOf(const QString &folder)
     return ::stat(native(folder).constData(), &found) == 0 ? std::optional(found.st_dev) : std::nullopt;
 }
 
-/** The topmost folder of the file system that @p folder, a path without links, is on. */
+/** The topmost folder of the file system of @p folder, a path without links. */
 QString topFolderOf(QString folder)
 {
     while (!deviceOf(folder) && folder != QStringLiteral("/"))
@@ -156,7 +156,7 @@ QString topFolderOf(QString folder)
     return folder;
 }
 
-/** The user's folder in the trash that an administrator made for all users of a file system; empty where there is none. */
+/** The user's folder in a trash that an administrator made for all users of a file system; empty if there is none. */
 QString sharedTrash(const QString &top)
 {
     const QString all = joinedPath(top, QStringLiteral(".Trash"));
@@ -167,7 +167,7 @@ QString sharedTrash(const QString &top)
     return isSafe && makePrivateFolder(own) && isOwnFolder(own) ? own : QString();
 }
 
-/** The user's own trash on a file system; empty where it cannot be made, or somebody else made it. */
+/** The user's own trash on a file system; empty if it cannot be created, or somebody else created it. */
 QString ownTrash(const QString &top)
 {
     const QString own = joinedPath(top, QStringLiteral(".Trash-") + QString::number(::geteuid()));
@@ -194,7 +194,7 @@ QString homeTrash()
     return joinedPath(applicationSupportFolder(), QStringLiteral("Trash"));
 }
 
-/** The folder without links; of one that is gone, the part that is left. */
+/** The folder without links; if it is gone, the part that still exists. */
 QString canonicalFolder(const QString &folder)
 {
     const QString canonical = QFileInfo(folder.isEmpty() ? QStringLiteral(".") : folder).canonicalFilePath();
@@ -210,7 +210,7 @@ QString withoutLinks(const QString &path)
 
 constexpr auto everything = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
 
-/** Whether nobody has written for some seconds to the item, nor to anything in it. */
+/** Whether nobody has written to the item, or to anything in it, for some seconds. */
 bool isLeftAlone(const QString &path)
 {
     constexpr int seconds = 10;
@@ -223,7 +223,7 @@ bool isLeftAlone(const QString &path)
                        [&](const QString &name) { return isLeftAlone(folder.filePath(name)); });
 }
 
-/** Whether the file is the beginning of the other one, or the same as it. */
+/** Whether the file is a prefix of the other one, or equal to it. */
 bool isBeginningOfFile(const QString &part, const QString &whole)
 {
     constexpr qint64 blockBytes = 1 << 20;
@@ -239,7 +239,7 @@ bool isBeginningOfFile(const QString &part, const QString &whole)
     return true;
 }
 
-/** The same for a link, which is whole or not there, and for a folder, which may lack some of what is in the other. */
+/** The same for a link, which is complete or missing, and for a folder, which may lack some of the other's contents. */
 bool isBeginningOf(const QString &part, const QString &whole)
 {
     const QFileInfo one(part);
@@ -255,7 +255,7 @@ bool isBeginningOf(const QString &part, const QString &whole)
     });
 }
 
-/** A trash and how its info files call a place. */
+/** A trash and how its info files spell a path. */
 struct NamedPlace
 {
     QString trash;
@@ -272,14 +272,14 @@ std::vector<NamedPlace> trashesFor(const QString &place)
     return all;
 }
 
-/** The info files of one trash that speak of the place, the last one first. */
+/** The info files of one trash that name the path, latest first. */
 QStringList infoFilesOf(const NamedPlace &named)
 {
     constexpr qint64 longestInfo = 1 << 16;
     const QByteArray line = "Path=" + QUrl::toPercentEncoding(named.place, "/");
     const QDir info(joinedPath(named.trash, QStringLiteral("info")));
     QStringList found;
-    // A link could lead to a device that has no end.
+    // A link could lead to an endless device.
     constexpr auto filter = QDir::Files | QDir::Hidden | QDir::NoSymLinks;
     for (const QFileInfo &entry : info.entryInfoList({u'*' + infoEnding}, filter, QDir::Time)) {
         QFile file(entry.filePath());

@@ -18,7 +18,7 @@ Result<QRect> attentionPart(const Bitmap &bitmap, QSize size)
         const vips::VImage seen = with8Bits(convertedToSrgb(inForm(bitmap.pixels().image)));
         const vips::VImage part = seen.smartcrop(
             kept.width(), kept.height(), vips::VImage::option()->set("interesting", VIPS_INTERESTING_ATTENTION));
-        // A part of an image knows where the origin of the whole lies.
+        // A part of an image remembers the origin of the whole.
         return QRect(QPoint(-part.xoffset(), -part.yoffset()), kept);
     } catch (const vips::VError &error) {
         return failure(ErrorCode::TooLarge, takeVipsError(error));

@@ -10,7 +10,7 @@ namespace {
 
 using vips::VImage;
 
-/** The components of a colour as @p image has its own, alpha included where it has some. */
+/** The components of a colour in the colour space of @p image, including alpha if it has one. */
 std::vector<double> pixelFor(const VImage &image, const VImage &color, double alpha)
 {
     std::vector<double> pixel = color.getpoint(0, 0);

@@ -22,7 +22,7 @@ struct CloseProfile
 };
 using Profile = std::unique_ptr<void, CloseProfile>;
 
-/** A profile that comes with the library of pictures. */
+/** A profile that comes with the picture library. */
 QByteArray suppliedProfile(const char *name)
 {
     initVips();
@@ -32,7 +32,7 @@ QByteArray suppliedProfile(const char *name)
     return takenFrom(blob);
 }
 
-/** The same bytes at any time: the library states the moment at which it made the profile. */
+/** The same bytes at any time: the library writes the time at which it made the profile. */
 QByteArray bytesOf(const Profile &profile)
 {
     cmsUInt32Number length = 0;
@@ -81,7 +81,7 @@ QByteArray adobeRgb()
 
 VImage inProfile(const VImage &image, const QByteArray &profile)
 {
-    // Only a conversion in one go is exact, and it takes the profile from a file.
+    // Only a conversion in one step is exact, and it reads the profile from a file.
     const NamedBytes file(profile);
     if (!file.isThere())
         throw vips::VError("there is no memory for a profile");
@@ -100,7 +100,7 @@ VImage inProfile(const VImage &image, const QByteArray &profile)
                          ->set("depth", isDeep ? 16 : 8)));
 }
 
-/** The library's own way to grey weighs the colours roughly. */
+/** The library's own conversion to grey weights the colours only roughly. */
 VImage inGrey(const VImage &image)
 {
     const VImage grey = inProfile(image, srgbGrey()).copy();

@@ -10,10 +10,10 @@ enum class ColourSpace { Srgb, DisplayP3, AdobeRgb, Gray };
 /** The ICC profile of such a space; empty for Gray, which is grey of the curve of sRGB. */
 QByteArray iccProfileFor(ColourSpace space);
 
-/** True where both mean the same colours: equal, or both sRGB. An empty one is sRGB. */
+/** True if both mean the same colours: equal, or both sRGB. An empty one means sRGB. */
 bool meansSameColours(const QByteArray &iccProfile, const QByteArray &other);
 
-/** True for bytes of an ICC profile that colours can be converted to: RGB, grey or CMYK. */
+/** True for an ICC profile that colours can be converted to: RGB, grey or CMYK. */
 bool canConvertTo(const QByteArray &iccProfile);
 
 /**

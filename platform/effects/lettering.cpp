@@ -41,7 +41,7 @@ QStringList installedFamilies()
     return names;
 }
 
-/** The whole text may be the name of a family, also one that ends in what is a style elsewhere, such as "Nimbus Mono Bold". */
+/** The whole text may be the name of a family, even if it ends in a style name, such as "Nimbus Mono Bold". */
 Description descriptionOf(const QString &font)
 {
     if (!installedFamilies().contains(font, Qt::CaseInsensitive))
@@ -65,7 +65,7 @@ VImage coverageOf(const Lettering &lettering)
     const Description description = descriptionOf(font);
     pango_font_description_set_absolute_size(description.get(), lettering.size * PANGO_SCALE);
     const std::unique_ptr<char, decltype(&g_free)> name(pango_font_description_to_string(description.get()), g_free);
-    return VImage::text(lettering.text.toHtmlEscaped().toUtf8().constData(), // the library looks for markup in it
+    return VImage::text(lettering.text.toHtmlEscaped().toUtf8().constData(), // the library would parse it as markup
                         VImage::option()->set("font", name.get())->set("align", alignmentOf(lettering.lines)));
 }
 

@@ -7,12 +7,13 @@
 
 namespace platform {
 
-/** The way from sRGB to the colours of one screen. */
+/** The conversion from sRGB to the colours of one screen. */
 class ScreenColours
 {
 public:
     /**
-     * @param profile  the ICC profile of the screen; one that is none, is not for RGB or means sRGB leaves all colours as they are
+     * @param profile  the ICC profile of the screen; an invalid one, one that is not RGB, or one that means sRGB leaves
+     * all colours unchanged
      */
     explicit ScreenColours(const QByteArray &profile);
     ~ScreenColours();
@@ -21,7 +22,9 @@ public:
     /** Whether colours change at all. */
     bool isNeeded() const { return m_way != nullptr; }
 
-    /** @p image, which is sRGB with 8 bits, as the screen wants it; of the same format where that is an RGB one with 32 bits. */
+    /**
+     * @p image, which is sRGB with 8 bits, converted for the screen; in the same format if that is RGB with 32 bits.
+     */
     QImage converted(const QImage &image) const;
 
 private:

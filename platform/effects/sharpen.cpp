@@ -14,7 +14,7 @@ namespace {
 
 using vips::VImage;
 
-/** How much a colour counts in the brightness of a pixel, of 256; inks count as the light that they take away. */
+/** The weight of a colour in the brightness of a pixel, out of 256; inks count as the light that they absorb. */
 using Weights = std::array<int, 4>;
 
 Weights weightsFor(const VImage &image)
@@ -49,7 +49,7 @@ public:
         readBrightness(0, m_rows[0]);
         m_rows[2] = m_rows[0];
         for (int y = 0; y < height; ++y) {
-            // Above, this one, below; beyond the edges the outermost row counts again.
+            // Above, this one, below; beyond the edges the outermost row is repeated.
             std::vector<int> &above = y == 0 ? m_rows[2] : m_rows[size_t((y + 2) % 3)];
             std::vector<int> &here = m_rows[size_t(y % 3)];
             std::vector<int> &below = m_rows[size_t((y + 1) % 3)];
@@ -61,7 +61,7 @@ public:
 
 private:
     static constexpr float perLevel = 256;
-    static constexpr float kernelSum = 16; // 1 2 1 down times 1 2 1 across
+    static constexpr float kernelSum = 16; // 1 2 1 vertically times 1 2 1 horizontally
 
     const T *rowOf(int y) const { return reinterpret_cast<const T *>(VIPS_IMAGE_ADDR(m_image.get_image(), 0, y)); }
 

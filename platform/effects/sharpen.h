@@ -6,14 +6,14 @@ namespace platform {
 
 struct Sharpening
 {
-    double strength = 1; ///< how much of the difference to the surroundings is added once more
-    double limit = 10;   ///< the most that is added or taken away, of 255
+    double strength = 1; ///< how much of the difference from the surroundings is added
+    double limit = 10;   ///< the largest change in either direction, out of 255
 };
 
 /**
- * The bitmap with clearer edges: what its brightness differs from that of its surroundings, a pixel wide, is added to all
- * colours alike, so that no edge gets coloured. Areas of one colour stay as they are, to the bit, and no component moves
- * by more than the limit. Depth, colours, transparency, profile and resolution stay; Lab becomes sRGB.
+ * The bitmap with clearer edges: the difference of its brightness from that of its surroundings, one pixel wide, is
+ * added equally to all colours, so that edges are not tinted. Areas of one colour stay bit-identical, and no component
+ * changes by more than the limit. Depth, colours, transparency, profile and resolution stay; Lab becomes sRGB.
  *
  * Fails with InvalidValue for a null bitmap, with TooLarge if memory fails.
  */

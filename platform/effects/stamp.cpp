@@ -24,7 +24,7 @@ template<typename T> const T *pixelAt(const VImage &image, int x, int y)
     return reinterpret_cast<const T *>(VIPS_IMAGE_ADDR(image.get_image(), x, y));
 }
 
-/** Lays one row of the stamp over one row of the picture. */
+/** Composes one row of the stamp over one row of the picture. */
 template<typename T> class RowMixer
 {
 public:

@@ -7,17 +7,17 @@
 
 namespace platform {
 
-/** A small picture that is laid over another one. */
+/** A small picture that is put over another one. */
 struct Stamp
 {
-    Bitmap bitmap; ///< grey or RGB, usually with alpha; its colours are converted into those of the picture below
-    QList<QPoint> places; ///< of its top left corner; may lie partly or wholly outside
-    double opacity = 1;   ///< 0 to 1, together with its own alpha
+    Bitmap bitmap;        ///< grey or RGB, usually with alpha; its colours are converted to those of the picture below
+    QList<QPoint> places; ///< of its top left corner; it may be partly or wholly outside
+    double opacity = 1;   ///< 0 to 1, multiplied with its own alpha
 };
 
 /**
- * The bitmap with the stamp over it; its depth, profile, resolution and size stay, and where it is transparent the stamp shows
- * alone. CMYK and Lab become sRGB, and a grey picture RGB under a stamp with colours.
+ * The bitmap with the stamp over it; its depth, profile, resolution and size stay, and where it is transparent only the
+ * stamp is visible. CMYK and Lab become sRGB, and a grey picture RGB under a coloured stamp.
  *
  * Fails with InvalidValue for a null bitmap or stamp, with TooLarge if memory fails.
  */

@@ -15,7 +15,7 @@ namespace platform {
 namespace {
 
 /**
- * Goes through a file of @p size bytes with these changes; both functions answer false and leave errno where they fail.
+ * Processes a file of @p size bytes with these changes; both functions answer false and set errno if they fail.
  *
  * @param keep  what stays: function(position, size)
  * @param add   what comes in: function(bytes)
@@ -66,7 +66,7 @@ bool copyBytes(int source, qint64 position, qint64 size, int copy)
         if (count < 0 && errno == EINTR)
             continue;
         if (count == 0)
-            errno = EIO; // it became shorter meanwhile
+            errno = EIO; // it was shortened meanwhile
         if (count <= 0 || !writeBytes(copy, buffer.constData(), count))
             return false;
         done += count;
@@ -74,7 +74,7 @@ bool copyBytes(int source, qint64 position, qint64 size, int copy)
     return true;
 }
 
-/** True if somebody wrote to the file since. */
+/** True if somebody has written to the file since. */
 bool isChanged(int file, const struct stat &before)
 {
     struct stat now = {};

@@ -12,19 +12,19 @@ class QFile;
 namespace platform {
 
 /**
- * Replaces the file at @p path, or makes it, with exactly @p bytes.
+ * Replaces the file at @p path, or creates it, with exactly @p bytes.
  *
  * @param path  absolute; its folder must exist
  *
  * The bytes go to a temporary file in the same folder, are flushed to the disk and renamed into place, so that a reader
  * sees the old file or the new one and a failure at any moment leaves the old one. A symbolic link at @p path
- * is replaced, not written through. A file that is replaced hands on its permissions.
+ * is replaced, not written through. The new file gets the permissions of the replaced one.
  *
- * Fails with WriteFailed; nothing of the temporary file is left behind.
+ * Fails with WriteFailed; the temporary file is removed.
  */
 Result<void> replaceFile(const QString &path, const QByteArray &bytes);
 
-/** @p removed bytes at @p at give way to @p inserted. */
+/** @p removed bytes at @p at are replaced by @p inserted. */
 struct Splice
 {
     qint64 at = 0;
@@ -35,24 +35,25 @@ struct Splice
 /**
  * Replaces a file by itself with some of its bytes changed.
  *
- * @param source   the file, open for reading; its name says which file is replaced
- * @param splices  in ascending order, none over another, all within the file
+ * @param source   the file, open for reading; its name is the path of the file to be replaced
+ * @param splices  in ascending order, not overlapping, all within the file
  *
- * Atomic as replaceFile() is, and the rest of the file is copied without passing through this process. The new file has
- * the old one's permissions, access lists, extended attributes and, as far as the user may give it, its owner. A symbolic
- * link is replaced by a changed copy of the file it leads to; another hard link keeps the old file.
+ * Atomic like replaceFile(), and the rest of the file is copied without passing through this process. The new file has
+ * the old one's permissions, access lists, extended attributes and, as far as the user may give it, its owner. A
+ * symbolic link is replaced by a changed copy of its target; another hard link keeps the old file.
  *
- * @param check  is asked before the new file takes the old one's place, with a path that leads to it; what it says against
- *               the new file is what is then said, and the old one stays
+ * @param check  is called before the new file replaces the old one, with a path to the new file; if it objects, its
+ * failure is
+ *               returned and the old file stays
  *
- * Fails with WriteFailed, also where somebody else writes to the source meanwhile; the file is then as it was.
+ * Fails with WriteFailed, also if somebody else writes to the source meanwhile; the file is then unchanged.
  */
 Result<void> spliceFile(const QFile &source, const QList<Splice> &splices,
                         const std::function<Result<void>(const QString &path)> &check = {});
 
 /**
- * Writes a file with these changes into another one that is open for writing, without help of the kernel. Answers 0, or an errno; EINVAL
- * for splices that are not as spliceFile() wants them.
+ * Writes a file with these changes into another one that is open for writing, without the kernel's copying. Answers 0,
+ * or an errno; EINVAL for splices that do not meet the conditions of spliceFile().
  */
 int copySpliced(int source, const QList<Splice> &splices, int copy);
 

@@ -44,7 +44,7 @@ void copyAttributes(const AttributedItem &source, const AttributedItem &target)
     if (read <= 0)
         return;
     const QList<QByteArray> all = names.left(read).split('\0');
-    // An access list can take the right to write away, so these are the last.
+    // An access list can remove write permission, so these come last.
     for (const char *kind : {"user.", "system.posix_acl_"})
         for (const QByteArray &name : all)
             if (name.startsWith(kind))

@@ -80,7 +80,7 @@ Result<void> HeldFile::append(const QByteArray &bytes, Lasting lasting)
         const ssize_t count = ::write(m_descriptor, bytes.constData() + done, size_t(bytes.size() - done));
         if (count < 0 && errno != EINTR) {
             const int reason = errno;
-            // Half of it would spoil what is added next.
+            // A partial line would corrupt the next one.
             if (isSizeKnown && done > 0)
                 (void)!::ftruncate(m_descriptor, before.st_size);
             return because(ErrorCode::WriteFailed, m_path, reason);

@@ -9,8 +9,8 @@ namespace platform {
 enum class Lasting { WhenTheSystemLikes, AtOnce };
 
 /**
- * A file that lines are added to, held by one process at a time: from open() until the object or the process ends, by
- * whatever means, nobody else can open it here.
+ * A file to which lines are appended, held by one process at a time: from open() until the object or the process ends,
+ * for whatever reason, nobody else can open it here.
  */
 class HeldFile
 {
@@ -20,18 +20,21 @@ public:
     HeldFile &operator=(HeldFile &&other) noexcept;
     ~HeldFile();
 
-    /** Makes a file that is not there yet. Fails with WriteFailed. */
+    /** Creates a new file. Fails with WriteFailed. */
     static Result<HeldFile> make(const QString &path);
-    /** Opens a file. Fails with NotFound, and with Unsupported where another process, or this one, holds it, or it is no plain file. */
+    /**
+     * Opens a file. Fails with NotFound, and with Unsupported if another process, or this one, holds it, or it is no
+     * regular file.
+     */
     static Result<HeldFile> open(const QString &path);
 
     /**
-     * Adds @p bytes at the end; with AtOnce it is on the disk when this returns. Fails with WriteFailed,
-     * and has then added nothing as far as the disk allows.
+     * Appends @p bytes; with AtOnce they are synced when this returns. Fails with WriteFailed, and has then appended
+     * nothing as far as the disk allows.
      */
     Result<void> append(const QByteArray &bytes, Lasting lasting);
     Result<QByteArray> readAll() const;
-    /** False where the file system has no locks: others may have the file open then. */
+    /** False if the file system has no locks: others may have the file open then. */
     bool isLocked() const { return m_isLocked; }
 
 private:

@@ -24,7 +24,7 @@ bool isThere(const QString &path)
     return ::lstat(encodedPath(path).constData(), &found) == 0;
 }
 
-/** How many names an item has; 0 where there is none. */
+/** How many hard links an item has; 0 if it does not exist. */
 int namesOf(const QString &path)
 {
     struct stat found = {};
@@ -36,7 +36,10 @@ QByteArray lineOf(const QJsonObject &object)
     return QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
 }
 
-/** The file of this process. It is made with the first note and goes with the process, or once it is long and says nothing. */
+/**
+ * The file of this process. It is created with the first note and removed with the process, or once it is long and has
+ * no open notes.
+ */
 class Notes
 {
 public:

@@ -11,23 +11,23 @@
 namespace platform {
 
 /**
- * An ordinary file that was opened for reading, perhaps by another process for this one, which has no other way to it. It is read by
- * places, so that any number of readers share the descriptor and none moves another.
+ * A regular file that was opened for reading, perhaps by another process for this one, which cannot open it itself. It
+ * is read by offset, so that any number of readers share the descriptor without moving each other's position.
  */
 class LentFile
 {
 public:
-    /** @param name  what messages call it */
+    /** @param name  for messages */
     LentFile(Descriptor descriptor, const QString &name) : m_descriptor(std::move(descriptor)), m_name(name) {}
 
     /** Opens one as openToRead() does, with its messages. */
     static Result<LentFile> open(const QString &path);
 
-    /** To be handed over; this is no file any more then. */
+    /** To be passed on; afterwards this object has no file. */
     Descriptor takeDescriptor() { return std::move(m_descriptor); }
     int descriptor() const { return m_descriptor.number(); }
     const QString &name() const { return m_name; }
-    /** Bytes; 0 where that cannot be told. */
+    /** In bytes; 0 if unknown. */
     qint64 size() const;
 
 private:
@@ -35,7 +35,7 @@ private:
     QString m_name;
 };
 
-/** Reads a file that was lent, from its beginning; open for reading. Remembers what could not be read, see readProblemOf(). */
+/** Reads a lent file from its beginning; open for reading. Remembers read errors, see readProblemOf(). */
 class LentReader : public QIODevice
 {
 public:

@@ -15,7 +15,9 @@ QByteArray contentOf(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll().trimmed() : QByteArray();
 }
 
-/** Empty where there is no such process. The name before it is in brackets and may hold anything, brackets too. */
+/**
+ * Empty if there is no such process. The name before it is in brackets and may contain anything, including brackets.
+ */
 QString startOf(const QString &number)
 {
     constexpr qsizetype startAfterName = 19;

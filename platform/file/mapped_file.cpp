@@ -10,7 +10,7 @@
 
 namespace platform {
 
-/** The system tells of a page that cannot be read by a signal to whoever touches it. */
+/** The system reports an unreadable page by a signal to the thread that touches it. */
 struct MappedFaults
 {
     static inline MappedFile *volatile first = nullptr;
@@ -21,7 +21,7 @@ struct MappedFaults
         for (MappedFile *file = first; file; file = file->m_next)
             if (file->mend(info->si_addr))
                 return;
-        // Nothing of ours: it happens again, and ends as it would have without this.
+        // Not our mapping: the signal occurs again, and ends the process as it would have without this handler.
         ::sigaction(signal, &before, nullptr);
     }
 
@@ -60,7 +60,7 @@ QByteArray MappedFile::bytes() const
     return m_data ? QByteArray::fromRawData(reinterpret_cast<const char *>(m_data), m_size) : QByteArray();
 }
 
-/** Puts zeros where the page is; called in the middle of whatever touched it. */
+/** Maps zeros over the page; called in the middle of whatever touched it. */
 bool MappedFile::mend(const void *address)
 {
     const auto at = reinterpret_cast<std::uintptr_t>(address);

@@ -69,7 +69,7 @@ Result<void> openToRead(QFile &file, QIODevice::OpenMode more)
     struct stat status = {};
     if (::stat(name.constData(), &status) != 0)
         return unreadBecause(path, errno);
-    if (!S_ISREG(status.st_mode)) // opening a device can already do something
+    if (!S_ISREG(status.st_mode)) // merely opening a device may have effects
         return noOrdinaryFile(path);
     const int descriptor = ::open(name.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
     if (descriptor < 0)

@@ -38,7 +38,7 @@ Result<void> ReplacementFile::takePlace()
 
 namespace {
 
-/** Whoever protected it meant it. Leaves errno as it was. */
+/** Write protection is intentional. Preserves errno. */
 bool isProtected(const QString &path)
 {
     const int before = errno;

@@ -15,8 +15,8 @@ class LentFile;
 class TemporaryFile;
 
 /**
- * A file that is written piece by piece and takes the place of another one at the end, atomically, as replaceFile() has it.
- * Without takePlace() nothing of it is left.
+ * A file that is written piece by piece and finally replaces another one, atomically, like replaceFile(). Without
+ * takePlace() it is removed.
  */
 class ReplacementFile
 {
@@ -27,11 +27,11 @@ public:
     ReplacementFile &operator=(const ReplacementFile &) = delete;
     ~ReplacementFile();
 
-    /** Writes at @p at, in bytes from the start; zeros fill what is left out. False from the first failure on. */
+    /** Writes at @p at, in bytes from the start; gaps are filled with zeros. False from the first failure on. */
     bool write(qint64 at, const char *bytes, qint64 count);
     bool write(qint64 at, const QByteArray &bytes) { return write(at, bytes.constData(), bytes.size()); }
 
-    /** Flushes to the disk and renames. Fails with WriteFailed, also where a piece could not be written. */
+    /** Syncs to the disk and renames. Fails with WriteFailed, also if a piece could not be written. */
     Result<void> takePlace();
 
 private:
@@ -41,26 +41,27 @@ private:
 };
 
 /**
- * A file that an edited copy of it is to replace, which another process makes. As with spliceFile(), nothing of the copy is left unless it
- * takes the file's place.
+ * A file that is to be replaced by an edited copy, which another process makes. As with spliceFile(), the copy is
+ * removed unless it replaces the file.
  */
 class EditedFile
 {
 public:
-    /** Fails as openToRead() does, and with WriteFailed where no copy can be made beside it. */
+    /** Fails like openToRead(), and with WriteFailed if no copy can be created beside it. */
     static Result<std::unique_ptr<EditedFile>> of(const QString &path);
     EditedFile(const EditedFile &) = delete;
     EditedFile &operator=(const EditedFile &) = delete;
     ~EditedFile();
 
-    /** To be handed over: the file as it is, the copy to be written, and the same to be read. Each is closed where that fails. */
+    /** To be passed on: the file itself, the copy to be written, and the copy to be read. Each is closed on failure. */
     Descriptor lendFile() const;
     Descriptor lendCopy() const;
     Descriptor lendCopyToRead() const;
 
     /**
-     * The copy takes the place, permissions, access lists, extended attributes and, as far as this user may, the owner of the file. A link is
-     * replaced by the copy. Fails with WriteFailed, also where the file is write-protected, or somebody wrote to it since.
+     * The copy gets the name, permissions, access lists, extended attributes and, as far as this user may, the owner of
+     * the file. A link is replaced by the copy. Fails with WriteFailed, also if the file is write-protected, or
+     * somebody has written to it since.
      */
     Result<void> takePlace();
 

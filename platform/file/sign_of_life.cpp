@@ -18,7 +18,10 @@
 namespace platform {
 namespace {
 
-/** Removes one file if its writer has ended. Whoever makes one looks, once it shows life, whether it was swept before that. */
+/**
+ * Removes one file if its writer has ended. Whoever creates one checks, once it has locked it, whether it was removed
+ * before that.
+ */
 void sweepOne(int folder, const char *name)
 {
     const int file = ::openat(folder, name, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);

@@ -19,7 +19,7 @@
 namespace platform {
 namespace {
 
-/** Only an ordinary file or a link gives way to another file: a device, a pipe or a socket is no place for one. */
+/** Only a regular file or a link may be replaced by another file: not a device, a pipe or a socket. */
 bool mayBeReplaced(const QByteArray &path)
 {
     struct stat there = {};
@@ -67,7 +67,7 @@ QByteArray TemporaryFile::anyHiddenName() const
            QByteArray::number(qint64(::getpid()), 36);
 }
 
-/** Before there is such a file, so that no kill can come between the two. */
+/** Before such a file exists, so that no kill can come between the two. */
 void TemporaryFile::noteName(const QByteArray &name)
 {
     m_noted.emplace(HiddenItem::What::Part, decodedPath(name), decodedPath(m_target));
@@ -83,7 +83,7 @@ bool TemporaryFile::openNamed()
             continue;
         if (!isOpen())
             return false;
-        // Before it showed life, somebody may have taken it for what an ended process left.
+        // Before it was locked, somebody may have taken it for the remains of an ended process.
         if (showLife(m_descriptor) != Life::Others && isStillNamed(m_descriptor, name)) {
             m_name = name;
             return true;
@@ -133,7 +133,7 @@ bool TemporaryFile::copyFrom(int source, qint64 position, qint64 size)
         if (count < 0 && (errno == EXDEV || errno == EINVAL || errno == ENOSYS || errno == EOPNOTSUPP))
             return copyByHand(source, at, end - at);
         if (count <= 0) {
-            errno = count == 0 ? EIO : errno; // the source became shorter meanwhile
+            errno = count == 0 ? EIO : errno; // the source was shortened meanwhile
             return false;
         }
     }
@@ -160,7 +160,7 @@ bool TemporaryFile::copyByHand(int source, qint64 position, qint64 size)
     return true;
 }
 
-/** Only the system knows what a folder with an access list gives to a new file. */
+/** Only the system knows which permissions a folder with an access list gives to a new file. */
 mode_t TemporaryFile::firstMode() const
 {
     return m_isNew ? 0666 : 0600;
@@ -191,7 +191,7 @@ bool TemporaryFile::takeAttributesOf(int source)
                           (::fchown(m_descriptor, uid_t(-1), old.st_gid) == 0 && old.st_uid == own.st_uid);
     copyAttributes({.descriptor = source}, {.descriptor = m_descriptor});
     copyAccessList({.descriptor = source}, {.descriptor = m_descriptor});
-    // A file that could not keep its owner must not lend another one's rights.
+    // A file that could not keep its owner must not confer rights of another one.
     const mode_t mode = old.st_mode & (hasOwner ? 07777 : 0777);
     return ::fchmod(m_descriptor, mode) == 0;
 }
@@ -216,7 +216,8 @@ bool TemporaryFile::takePlace()
 {
     if (::fdatasync(m_descriptor) != 0 || (m_name.isEmpty() && !nameIt()))
         return false;
-    // Some disks tell of an error only when a file is closed; the second descriptor goes on showing life until it is named.
+    // Some disks report an error only when a file is closed; the second descriptor keeps the lock until the file has
+    // its name.
     const int alive = ::fcntl(m_descriptor, F_DUPFD_CLOEXEC, 0);
     const int descriptor = std::exchange(m_descriptor, -1);
     const bool isNamed =

@@ -5,7 +5,7 @@
 
 namespace platform {
 
-/** The bytes of a number, the highest first. */
+/** The bytes of a number, big-endian. */
 template<typename Number> QByteArray bigEndian(Number number)
 {
     QByteArray bytes(sizeof(Number), Qt::Uninitialized);
@@ -13,7 +13,7 @@ template<typename Number> QByteArray bigEndian(Number number)
     return bytes;
 }
 
-/** The number of four bytes, the highest first, at @p position; 0 where it does not lie within @p bytes. */
+/** The big-endian number of four bytes at @p position; 0 if it is not within @p bytes. */
 inline quint32 bigEndian32At(const QByteArray &bytes, qsizetype position)
 {
     const bool isInside = position >= 0 && position + 4 <= bytes.size();

@@ -26,7 +26,7 @@ constexpr bool canReport = true;
 constexpr int mostFrames = 64;
 constexpr std::array signalsOfFaults = {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT};
 
-/** Bytes that are there before anything goes wrong. */
+/** Bytes allocated before anything goes wrong. */
 template<size_t size> struct Reserved
 {
     std::array<char, size> bytes = {};
@@ -34,7 +34,7 @@ template<size_t size> struct Reserved
 
     void set(const QByteArray &text)
     {
-        count = 0; // a signal that comes now finds an empty text, not half a text
+        count = 0; // a signal now sees an empty text, not half a text
         const auto length = std::min<size_t>(size_t(text.size()), size - 1);
         std::memcpy(bytes.data(), text.constData(), length);
         bytes[length] = 0;
@@ -45,7 +45,7 @@ template<size_t size> struct Reserved
 Reserved<4096> s_file;
 Reserved<2048> s_head;
 Reserved<4096> s_note;
-std::array<char, 65536> s_stack; ///< a stack that ran over cannot hold the calls of the handler
+std::array<char, 65536> s_stack; ///< an overflowed stack has no room for the handler's calls
 std::array<void *, mostFrames> s_frames;
 
 void write(int file, const char *bytes, size_t count)
@@ -70,7 +70,7 @@ void writeNumber(int file, int number)
     write(file, digits.data() + first, digits.size() - first);
 }
 
-// Only what is allowed in a handler of signals; SA_RESETHAND has given the signal back its own effect.
+// Only async-signal-safe calls; SA_RESETHAND has restored the signal's default action.
 void report(int signal)
 {
     const int file = ::open(s_file.bytes.data(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW, 0600);
@@ -84,7 +84,7 @@ void report(int signal)
         ::backtrace_symbols_fd(s_frames.data(), ::backtrace(s_frames.data(), mostFrames), file);
         ::close(file);
     }
-    ::raise(signal); // takes effect when this returns
+    ::raise(signal); // takes effect when the handler returns
 }
 
 } // namespace

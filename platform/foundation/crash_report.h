@@ -6,11 +6,12 @@
 namespace platform {
 
 /**
- * Lets this process leave a report when a signal ends it that says a fault of its own: SIGSEGV, SIGBUS, SIGFPE, SIGILL or SIGABRT.
+ * Makes this process leave a report when it dies of a signal that indicates a bug: SIGSEGV, SIGBUS, SIGFPE, SIGILL or
+ * SIGABRT.
  *
- * The report is text: @p head, the number of the signal, what was noted, and the addresses of the calls of the thread that failed, as far as
- * they can be had. It takes the place of an earlier one. Everything it needs is reserved here, and writing it touches no heap, which may be
- * what is broken; the signal then ends the process as if nothing had been there. Under sanitizers, which report themselves, this does
+ * The report is text: @p head, the number of the signal, the note, and the call addresses of the failing thread, as far
+ * as available. It replaces an earlier one. Everything is allocated here, and writing it does not touch the heap, which
+ * may be corrupted; the signal then ends the process as usual. Under sanitizers, which report themselves, this does
  * nothing.
  *
  * @param file  absolute path of at most 4095 bytes, in a folder that exists; longer ones do nothing
@@ -19,10 +20,13 @@ namespace platform {
  */
 bool keepCrashReports(const QString &file, const QByteArray &head);
 
-/** Notes what the process is about for the report, such as "Action: Resize"; the note before is forgotten. At most 4095 bytes are kept. */
+/**
+ * Notes what the process is doing, for the report, such as "Action: Resize"; replaces the previous note. At most 4095
+ * bytes are kept.
+ */
 void noteForCrashReport(const QString &text);
 
-/** The report of an earlier process, at most 64 KB of it; empty where there is none. */
+/** The report of an earlier process, at most 64 KB of it; empty if there is none. */
 QString crashReport(const QString &file);
 
 } // namespace platform

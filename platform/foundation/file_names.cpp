@@ -3,7 +3,7 @@
 namespace platform {
 namespace {
 
-/** How many bytes of UTF-8 the character takes that begins at @p at, which is below the length. */
+/** How many bytes of UTF-8 the character at @p at takes; @p at is less than the length. */
 qsizetype bytesOf(const QString &text, qsizetype at, qsizetype units)
 {
     const char16_t c = text[at].unicode();
@@ -19,7 +19,7 @@ qsizetype unitsOf(const QString &text, qsizetype at)
     return text[at].isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate() ? 2 : 1;
 }
 
-/** Where the extension begins, with its dot; the length where there is none. */
+/** Where the extension begins, with its dot; the length if there is none. */
 qsizetype dotOf(const QString &name, NameOf what)
 {
     const qsizetype dot = name.lastIndexOf(u'.');

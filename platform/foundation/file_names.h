@@ -2,19 +2,23 @@
 
 #include <QString>
 
-/** Names of files and folders, as texts; no disk is asked. */
+/** Names of files and folders, as texts; no disk is accessed. */
 namespace platform {
 
-/** What a disk takes as the name of one item, in bytes of UTF-8. */
+/** The longest name of one item on a disk, in bytes of UTF-8. */
 inline constexpr qsizetype longestNameBytes = 255;
 
 /**
- * What two names have in common that many disks take for one: the same letters whatever their case and however their accents
- * are written. They count as the same everywhere: a result never gets a name that another disk would take for that of a second file.
+ * What two names share that many disks treat as the same: the same letters regardless of case and of how accents are
+ * encoded. They count as equal everywhere: a result never gets a name that another disk would confuse with that of a
+ * second file.
  */
 QString nameKey(const QString &name);
 
-/** The beginning of a text that has at most so many bytes of UTF-8; no character is cut in two. Half a surrogate pair counts three. */
+/**
+ * The beginning of a text, at most so many bytes of UTF-8; no character is cut in two. Half a surrogate pair counts as
+ * three.
+ */
 QString shortened(const QString &text, qsizetype mostBytes);
 
 enum class NameOf { File, Folder };
@@ -23,8 +27,9 @@ enum class NameOf { File, Folder };
 QString numberedName(const QString &name, int number, NameOf what);
 
 /**
- * The same, never longer than a disk takes: a name that would be too long with the number loses the end of its base, or its own
- * end where the extension alone is too long. Not for names that belong together: theirs are not cut at the same place.
+ * The same, but never longer than a disk allows: if the name would be too long with the number, its base is shortened,
+ * or its end if the extension alone is too long. Not for names that belong together: they would be cut at different
+ * positions.
  */
 QString fittingNumberedName(const QString &name, int number, NameOf what);
 

@@ -28,7 +28,7 @@ constexpr std::array<Unit, 6> units = {{
 
 constexpr std::array<int, 3> partsByDecimals = {1, 10, 100};
 
-/** How many of the smallest shown parts of the unit there are; whole numbers, so that nothing is lost on the way. */
+/** The number of smallest displayed parts of the unit; whole numbers, so that nothing is lost to rounding. */
 qint64 partsOf(qint64 bytes, const Unit &unit)
 {
     const qint64 part = unit.bytes / partsByDecimals.at(size_t(unit.decimals));
@@ -48,7 +48,7 @@ QString numberText(qint64 parts, int decimals, const QString &point)
 
 constexpr qint64 thousand = 1000;
 
-/** A count of at least a thousand: its number, and the unit that the number counts. */
+/** A count of at least a thousand: its number, and the unit of that number. */
 struct Amount
 {
     QString number;

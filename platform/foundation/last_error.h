@@ -5,7 +5,7 @@
 
 namespace platform {
 
-/** Why the call of the system that failed last did so. */
+/** Why the last failed system call failed. */
 inline std::error_code lastError()
 {
     return std::error_code(errno, std::generic_category());

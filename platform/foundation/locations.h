@@ -5,7 +5,9 @@
 
 namespace platform {
 
-/** A location as text: "file:///a/b%20c.jpg". "file://localhost/" is this machine, and the host is left out of the result. */
+/**
+ * A URL as a path: "file:///a/b%20c.jpg". "file://localhost/" is this machine, and the host is dropped from the result.
+ */
 inline QUrl locationOf(const QString &text)
 {
     QUrl location(text);

@@ -27,7 +27,7 @@ QByteArray contentOf(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/** The number behind the first word @p name of a line; none where there is no such line. */
+/** The number after the first word @p name of a line; none if there is no such line. */
 std::optional<qint64> numberOf(const QByteArray &lines, const char *name)
 {
     for (const QByteArray &line : lines.split('\n')) {
@@ -44,13 +44,13 @@ qint64 leftOnMachine(const QString &root)
     return available ? *available * bytesPerKilobyte : unlimited;
 }
 
-/** What the files of one control group leave; the two generations of them have different names. */
+/** What the files of one control group say is left; the two versions of cgroups name them differently. */
 struct GroupFiles
 {
     QString folder; ///< below "sys/fs/cgroup"
     QString limit;
     QString used;
-    const char *cache; ///< in "memory.stat": what is given back when it is needed
+    const char *cache; ///< in "memory.stat": reclaimable
 };
 
 const GroupFiles &unified()
@@ -79,7 +79,7 @@ qint64 leftInGroup(const QString &folder, const GroupFiles &files)
     return std::max<qint64>(0, limit - used + std::min(cache, used));
 }
 
-/** A group counts with all that it is in; a container sees its own as the topmost, whatever it is called outside. */
+/** A group counts with all its parents; a container sees its own as the topmost, whatever its name outside. */
 qint64 leftInGroups(const QString &root, QString group, const GroupFiles &files)
 {
     const QString top = root + QStringLiteral("sys/fs/cgroup") + files.folder;
@@ -116,7 +116,7 @@ qint64 leftOfAddresses(const QString &root)
     return std::max<qint64>(0, qint64(limit.rlim_cur) - pages * ::sysconf(_SC_PAGESIZE));
 }
 
-/** What a view asks for at every painting is told once a second. */
+/** Views ask at every repaint, so the answer is refreshed once a second. */
 void tell(const QString &name, const QString &sentence)
 {
     constexpr qint64 milliseconds = 1000;
@@ -156,14 +156,14 @@ QString takeMemoryRefusal()
 
 Result<void> memoryIsLeftFor(qint64 need, const QString &name, qint64 addresses)
 {
-    constexpr qint64 besides = 64LL << 20; // threads, their stacks and what they cut their work into
+    constexpr qint64 besides = 64LL << 20; // kept from earlier pictures for the next ones
     const QString root = QStringLiteral("/");
     const qint64 all = need + besides;
     qint64 left = memoryLeft(root, addresses);
     if (all <= left)
         return {};
 #ifdef __GLIBC__
-    ::malloc_trim(0); // what earlier pictures left, which is kept for the next
+    ::malloc_trim(0); // kept from earlier pictures for the next ones
     left = memoryLeft(root, addresses);
     if (all <= left)
         return {};

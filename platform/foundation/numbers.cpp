@@ -13,7 +13,7 @@ bool isDigit(QChar character)
     return character >= u'0' && character <= u'9';
 }
 
-/** Steps over digits; answers whether there were any. */
+/** Skips digits; answers whether there were any. */
 bool skipDigits(const QString &text, qsizetype &position)
 {
     const qsizetype start = position;
@@ -28,7 +28,7 @@ void skipSign(const QString &text, qsizetype &position)
         ++position;
 }
 
-/** An exponent counts only as a whole: the "e" of "12em" is no part of the number. */
+/** An exponent counts only if complete: the "e" of "12em" is not part of the number. */
 void skipExponent(const QString &text, qsizetype &position)
 {
     if (position >= text.size() || text[position].toLower() != u'e')
@@ -39,7 +39,7 @@ void skipExponent(const QString &text, qsizetype &position)
         position = end;
 }
 
-/** A number that is too large has no conversion of its own that is defined. */
+/** Converting a number that is too large would be undefined. */
 float toSingle(double number)
 {
     constexpr double largest = std::numeric_limits<float>::max();
@@ -66,7 +66,7 @@ float floatValue(const QString &text)
     if (!hasDigits)
         return 0;
     skipExponent(text, end);
-    // Unlike Qt, a stream tells a number that is too large from one that is too small.
+    // Unlike Qt, a stream distinguishes numbers that are too large from those that are too small.
     std::istringstream stream(text.mid(start, end - start).toStdString());
     stream.imbue(std::locale::classic());
     double number = 0;

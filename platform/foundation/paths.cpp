@@ -9,10 +9,10 @@
 namespace platform {
 namespace {
 
-constexpr char16_t firstByteSign = 0xdc80; ///< of the bytes from 0x80, which alone can be out of place in UTF-8
+constexpr char16_t firstByteSign = 0xdc80; ///< of the bytes from 0x80, which alone can be invalid in UTF-8
 constexpr char16_t lastByteSign = 0xdcff;
 
-/** How many bytes the character takes that begins at @p at; 0 where none does. */
+/** How many bytes the character at @p at takes; 0 if it is invalid. */
 qsizetype characterAt(QByteArrayView bytes, qsizetype at)
 {
     const auto byte = [&](qsizetype i) { return uchar(bytes[i]); };
@@ -25,7 +25,7 @@ qsizetype characterAt(QByteArrayView bytes, qsizetype at)
                                           : 0;
     if (size < 2 || at + size > bytes.size())
         return size < 2 ? size : 0;
-    // Overlong forms, surrogates and codes that are too high show in the second byte.
+    // Overlong forms, surrogates and codes that are too high are recognised by the second byte.
     const uchar least = first == 0xe0 ? 0xa0 : first == 0xf0 ? 0x90 : 0x80;
     const uchar most = first == 0xed ? 0x9f : first == 0xf4 ? 0x8f : 0xbf;
     if (byte(at + 1) < least || byte(at + 1) > most)
@@ -36,7 +36,7 @@ qsizetype characterAt(QByteArrayView bytes, qsizetype at)
     return size;
 }
 
-/** Where the first half of a surrogate pair stands alone; -1 where none does. */
+/** The position of an unpaired high surrogate; -1 if there is none. */
 qsizetype loneSurrogate(const QString &text, qsizetype from)
 {
     for (qsizetype at = from; at < text.size(); ++at) {
@@ -55,7 +55,7 @@ bool isByteSign(QChar sign)
     return sign >= QChar(firstByteSign) && sign <= QChar(lastByteSign);
 }
 
-/** Where the dot of the extension stands in @p name, or -1. A name that begins with its only dot has no extension. */
+/** The position of the extension's dot in @p name, or -1. A name that begins with its only dot has no extension. */
 qsizetype extensionDot(const QString &name)
 {
     const qsizetype dot = name.lastIndexOf(u'.');
@@ -90,7 +90,7 @@ QByteArray encodedPath(const QString &path)
         if (isByteSign(path[at]))
             bytes += char(path[at].unicode() - 0xdc00);
         else
-            bytes += "\xef\xbf\xbd"; // the sign for what is no character
+            bytes += "\xef\xbf\xbd"; // the replacement character
         done = at + 1;
     }
     return done == 0 ? path.toUtf8() : bytes + QStringView(path).sliced(done).toUtf8();

@@ -18,7 +18,7 @@ int processorsToRunOn()
     cpu_set_t few;
     if (::sched_getaffinity(0, sizeof few, &few) == 0)
         return CPU_COUNT(&few);
-    constexpr int many = 1 << 14; // as many as any system has
+    constexpr int many = 1 << 14; // as many as any system supports
     cpu_set_t *set = CPU_ALLOC(many);
     const size_t size = CPU_ALLOC_SIZE(many);
     const int count = set && ::sched_getaffinity(0, size, set) == 0 ? CPU_COUNT_S(size, set) : 1;
@@ -32,7 +32,7 @@ QByteArray contentOf(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll().simplified() : QByteArray();
 }
 
-/** The share of a period that a group may run, in processors. */
+/** A group's share of processor time, in processors. */
 double share(double quota, double period)
 {
     return quota > 0 && period > 0 ? quota / period : unlimited;
@@ -50,7 +50,7 @@ double dividedShare(const QString &folder)
                  contentOf(folder + QStringLiteral("cpu.cfs_period_us")).toDouble());
 }
 
-/** A group counts with all that it is in. */
+/** A group counts with all its parents. */
 double shareOfGroups(const QString &top, QString group, double (*shareOf)(const QString &folder))
 {
     double least = shareOf(top + u'/');

@@ -5,8 +5,8 @@
 namespace platform {
 
 /**
- * How many processors this process may use: those it may run on, or fewer where the control groups it is in give it less of their time.
- * At least 1.
+ * How many processors this process may use: those that it may run on, or fewer if its control groups limit its
+ * processor time. At least 1.
  *
  * @param root  where the system's own files "proc" and "sys" are found
  */

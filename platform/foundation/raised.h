@@ -8,7 +8,7 @@
 namespace platform {
 
 /**
- * An error that a service raises on purpose, for the few operations that are described as raising one.
+ * An error that a service raises intentionally, for the few operations that are documented to raise one.
  *
  * Only the seam between services and scripts catches it: the script gets an error of that name and exactly that
  * message. Everything else that can fail is a returned value (see result.h).
@@ -16,16 +16,16 @@ namespace platform {
 class Raised : public std::exception
 {
 public:
-    /** An assertion of the service failed; the operation has put its things in order before. */
+    /** An assertion of the service failed; the operation has cleaned up before. */
     static Raised internalInconsistency(const QString &message)
     {
         return Raised(QStringLiteral("InternalInconsistency"), message);
     }
     /** An index, range or size outside what the operation allows. */
     static Raised rangeError(const QString &message) { return Raised(QStringLiteral("RangeError"), message); }
-    /** A name that nothing has. */
+    /** An unknown name. */
     static Raised referenceError(const QString &message) { return Raised(QStringLiteral("ReferenceError"), message); }
-    /** Anything else that a script is to stop at. */
+    /** Anything else that should stop a script. */
     static Raised error(const QString &message) { return Raised(QStringLiteral("Error"), message); }
     /** An argument of the wrong type, or a list of the wrong length. */
     static Raised typeError(const QString &message) { return Raised(QStringLiteral("TypeError"), message); }

@@ -6,18 +6,18 @@
 
 namespace platform {
 
-/** Why an operation of the platform did not give a value. */
+/** Why an operation of the platform failed. */
 enum class ErrorCode {
     NotFound,     ///< no such file, or one that may not be opened
-    NotAPicture,  ///< the content is of no kind that is known here
-    Unreadable,   ///< a known kind of file that is damaged or cut short
-    Unsupported,  ///< the kind of file is known and cannot be read or written here
+    NotAPicture,  ///< the content is of no known kind
+    Unreadable,   ///< a known kind of file that is damaged or truncated
+    Unsupported,  ///< a known kind of file that cannot be read or written here
     TooLarge,     ///< more pixels or bytes than the memory budget allows
     InvalidValue, ///< a size, index or option out of range
-    WriteFailed,  ///< the target cannot be written; what was there is still there
+    WriteFailed,  ///< the target cannot be written; its old content is still there
 };
 
-/** An expected failure: what kind, and one sentence that says what, which file and why. */
+/** An expected failure: its kind, and one sentence that says what, which file and why. */
 struct Error
 {
     ErrorCode code;

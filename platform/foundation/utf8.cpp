@@ -6,7 +6,7 @@ namespace platform {
 
 std::optional<QString> textFromUtf8(const QByteArray &bytes)
 {
-    // Without Stateless a character that is cut short at the end would only be waited for.
+    // Without Stateless an incomplete character at the end would be kept for the next call.
     QStringDecoder decoder(QStringDecoder::Utf8,
                            QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
     QString text = decoder.decode(bytes);

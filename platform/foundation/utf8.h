@@ -8,10 +8,10 @@
 namespace platform {
 
 /**
- * Bytes as text; nothing if they are not valid UTF-8 from the first to the last.
+ * Bytes as text; nothing unless all of them are valid UTF-8.
  *
- * Overlong forms, surrogates, codes above U+10FFFF and a character cut short at the end are not valid. A byte-order mark is
- * kept as U+FEFF, so that the text gives the same bytes again. No bytes are empty text.
+ * Overlong forms, surrogates, codes above U+10FFFF and an incomplete last character are invalid. A byte-order mark is
+ * kept as U+FEFF, so that the text converts back to the same bytes. No bytes give empty text.
  */
 std::optional<QString> textFromUtf8(const QByteArray &bytes);
 

@@ -53,7 +53,7 @@ bool isRgbOrGreyOfIntegers(const VImage &image)
     return isInteger && otherBands(image) == 0 && space != VIPS_INTERPRETATION_CMYK && space != VIPS_INTERPRETATION_LAB;
 }
 
-/** RGB or grey of 8 or 16 bits with nothing converted that is one already. */
+/** RGB or grey of 8 or 16 bits; converted only if it is not one already. */
 VImage asRgbOrGrey(const VImage &image)
 {
     if (isRgbOrGreyOfIntegers(image))

@@ -22,26 +22,26 @@ enum class Forms {
     /** Grey or RGB, with or without transparency, or CMYK without; 8 or 16 bits. */
     Plain,
     /**
-     * Also Lab and floating point, transparency with all of them, and channels of any other meaning behind these. No other
-     * type than TIFF holds them, so they are for what goes from TIFF to TIFF.
+     * Also Lab and floating point, transparency with all of them, and further channels of any meaning. No type other
+     * than TIFF holds them, so they are for TIFF to TIFF only.
      */
     AsTiffHolds,
 };
 
-/** How a JPEG was quantised, so that a new JPEG of the same picture can be written without a second loss of its own. */
+/** How a JPEG was quantised, so that it can be written again without a second loss. */
 struct JpegQuantisation
 {
-    std::array<std::array<quint16, 64>, 4> tables = {}; ///< in natural order; all zero where the file had none
+    std::array<std::array<quint16, 64>, 4> tables = {}; ///< in natural order; all zero if the file had none
     std::array<int, 4> tableOfComponent = {};
-    int horizontalSampling = 1; ///< of the first component against the others: 2 and 2 is 4:2:0
+    int horizontalSampling = 1; ///< of the first component relative to the others: 2 and 2 is 4:2:0
     int verticalSampling = 1;
 };
 
 /**
- * Decoded pixels in memory with what belongs to them: colour model, depth, alpha, colour profile, resolution.
+ * Decoded pixels in memory with their colour model, depth, alpha, colour profile and resolution.
  *
  * A cheap value: copies share the pixels, which never change. A null bitmap stands for "no picture". Coordinates are
- * pixels, origin top left. Alpha is not premultiplied. A bitmap without a profile is sRGB (or a grey of that curve).
+ * pixels, origin top left. Alpha is not premultiplied. A bitmap without a profile is sRGB (or grey with its curve).
  */
 class Bitmap
 {
@@ -63,15 +63,15 @@ public:
     bool hasAlpha() const;
     /** 8, 16 or 32 (32: floating point). */
     int bitsPerComponent() const;
-    /** The embedded ICC profile, empty where the picture has none. */
+    /** The embedded ICC profile, empty if the picture has none. */
     QByteArray iccProfile() const;
-    /** Dots per inch; 72 where the picture states none. */
+    /** Dots per inch; 72 if the picture states none. */
     double horizontalDpi() const;
     double verticalDpi() const;
-    /** Set where the pixels come from a JPEG. */
+    /** Set if the pixels come from a JPEG. */
     std::optional<JpegQuantisation> jpegQuantisation() const;
 
-    /** The same pixels with another resolution, in dots per inch; 0 for one that is not stated. */
+    /** The same pixels with another resolution, in dots per inch; 0 for none. */
     Bitmap withDpi(double horizontal, double vertical) const;
 
     /** The size in points: pixels x 72 / dots per inch. */
@@ -86,7 +86,7 @@ public:
     /** The pixels for the screen: 8 bits, converted from the profile to sRGB. Null if that fails. */
     QImage toScreenImage() const;
 
-    /** The pixels as 8 or 16 bit RGB(A) or grey without any colour conversion but from CMYK and Lab. */
+    /** The pixels as 8 or 16 bit RGB(A) or grey, without colour conversion except from CMYK and Lab. */
     QImage toRawImage() const;
 
     struct Pixels;
@@ -98,8 +98,8 @@ private:
 };
 
 /**
- * A reference to a variable that holds a bitmap, as operations pass it on: null, or a variable whose content may be
- * replaced later, and which may hold no bitmap.
+ * A reference to a variable that holds a bitmap, as passed between operations: null, or a variable whose content may be
+ * replaced later and may be a null bitmap.
  */
 class BitmapHandle
 {
@@ -108,9 +108,9 @@ public:
     /** A new variable that holds @p bitmap. */
     explicit BitmapHandle(Bitmap bitmap) : m_variable(std::make_shared<Bitmap>(std::move(bitmap))) {}
     bool isNull() const { return !m_variable; }
-    /** The bitmap in the variable; a null bitmap where the handle is null. */
+    /** The bitmap in the variable; a null bitmap if the handle is null. */
     Bitmap bitmap() const { return m_variable ? *m_variable : Bitmap(); }
-    /** Replaces the content of the variable for all that refer to it; the handle must not be null. */
+    /** Replaces the content of the variable for all its references; the handle must not be null. */
     void assign(Bitmap bitmap) { *m_variable = std::move(bitmap); }
     bool operator==(const BitmapHandle &other) const = default;
 

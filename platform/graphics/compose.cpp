@@ -18,7 +18,7 @@ Result<Bitmap> nothingThere()
     return failure(ErrorCode::InvalidValue, QCoreApplication::translate("platform", "There is no picture to draw"));
 }
 
-/** The pixels with everything that belongs to the bitmap they were made from. */
+/** New pixels with everything else from the bitmap they were made from. */
 Bitmap like(const Bitmap &bitmap, const VImage &pixels)
 {
     return Bitmap(std::make_shared<Bitmap::Pixels>(
@@ -41,7 +41,7 @@ bool coversAll(const RoundedRect &shape, QSize canvas)
     return isSquare && shape.rect.contains(QRectF(QPointF(0, 0), canvas));
 }
 
-/** The rows of a shape, drawn in strips. Where rows are alike between the corners, one strip serves for all of them. */
+/** The rows of a shape, drawn in strips. Rows between the corners are equal, so one strip serves for all of them. */
 class ShapeRows
 {
 public:

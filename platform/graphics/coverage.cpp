@@ -82,7 +82,7 @@ const uchar *Coverage::row(int y) const
 Coverage coverageOf(const RoundedRect &shape, const QRect &piece)
 {
     Coverage coverage(piece.size());
-    // What lies far outside cannot be seen and would not fit the library's coordinates.
+    // Anything far outside is invisible and would exceed the library's coordinates.
     constexpr double far = 1'000'000;
     if (shape.rect.width() <= 0 || shape.rect.height() <= 0)
         return coverage;

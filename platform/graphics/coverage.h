@@ -11,11 +11,11 @@
 
 namespace platform {
 
-/** The coverage of a rectangle of pixels: 0 outside the shape, 255 inside, between on its edges. */
+/** The coverage of a rectangle of pixels: 0 outside the shape, 255 inside, values in between on its edges. */
 class Coverage
 {
 public:
-    /** Of one side; larger rectangles are worked off in pieces. */
+    /** Of one side; larger rectangles are processed in pieces. */
     static constexpr int longestSide = 8192;
 
     explicit Coverage(QSize size);
@@ -34,7 +34,7 @@ private:
     std::unique_ptr<Surface> m_surface;
 };
 
-/** These throw vips::VError if memory fails. @p piece lies in the coordinates of the shape. */
+/** These throw vips::VError if memory fails. @p piece is in the coordinates of the shape. */
 Coverage coverageOf(const RoundedRect &shape, const QRect &piece);
 Coverage coverageOfLines(const QList<QLineF> &lines, double width, double dash, const QRect &piece);
 

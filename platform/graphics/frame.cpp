@@ -29,14 +29,14 @@ void unmap(VipsImage *, gpointer data)
     ::munmap(mapping->address, mapping->bytes);
 }
 
-/** An image of zeros. Its pages take memory one by one when something is drawn on them. */
+/** An image of zeros. Its memory pages are allocated one by one when something is drawn on them. */
 VImage transparentImage(QSize size)
 {
     const size_t bytes = size_t(size.width()) * size_t(size.height()) * rgba;
     void *address = ::mmap(nullptr, bytes, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
     if (address == MAP_FAILED)
         throw vips::VError("out of memory");
-    // A large page would be cleared as a whole for the few pixels of a line.
+    // A huge page would be cleared as a whole for the few pixels of a line.
     ::madvise(address, bytes, MADV_NOHUGEPAGE);
     auto mapping = std::make_unique<Mapping>(Mapping{address, bytes});
     VImage image = VImage::new_from_memory(address, bytes, size.width(), size.height(), rgba, VIPS_FORMAT_UCHAR);
@@ -45,7 +45,7 @@ VImage transparentImage(QSize size)
     return image;
 }
 
-/** The rectangles of the canvas that a line can reach, in pieces that the drawing library can take. */
+/** The rectangles of the canvas that a line can touch, in pieces that the drawing library can handle. */
 QList<QRect> surroundings(const QLineF &line, double width, QSize canvas)
 {
     const double reach = width / 2 + 1;
@@ -61,7 +61,7 @@ QList<QRect> surroundings(const QLineF &line, double width, QSize canvas)
     return pieces;
 }
 
-/** Along one axis: the ends moved to where they cannot be seen, the start by whole periods of the dashes. */
+/** Along one axis: the ends moved to just outside the visible area, the start by whole periods of the dashes. */
 void shorten(double &from, double &to, double last, double margin, double period)
 {
     const bool isForward = to >= from;
@@ -75,7 +75,7 @@ void shorten(double &from, double &to, double last, double margin, double period
     }
 }
 
-/** What can be seen of a line; lines may be millions of dashes long. None where nothing of it can. */
+/** The visible part of a line; lines may be millions of dashes long. None if no part is visible. */
 std::optional<QLineF> seenPart(const QLineF &line, const DashedLines &style, QSize canvas)
 {
     const double period = 2 * style.dash;

@@ -9,14 +9,14 @@
 #include <vector>
 
 // The pixels are interpolated here and not by the library, which takes three times as long and needs a detour through
-// floating point where there is alpha. Its threads are used all the same.
+// floating point if there is alpha. Its threads are used all the same.
 
 namespace platform {
 namespace {
 
 using vips::VImage;
 
-/** Positions between two pixels are told in so many steps. */
+/** Positions between two pixels are divided into so many steps. */
 constexpr int stepBits = 10;
 
 using WeightTable = std::array<CubicWeights, 1 << stepBits>;
@@ -48,7 +48,7 @@ private:
     qint64 m_value;
 };
 
-/** Where the picture lies on the canvas. Positions count from the top left corner of the first pixel. */
+/** The position of the picture on the canvas, from the top left corner of the first pixel. */
 class Placement
 {
 public:
@@ -60,10 +60,10 @@ public:
         m_sine = std::sin(turn.degrees * radiansPerDegree);
     }
 
-    /** One pixel to the right on the canvas is as much across and down in the picture. */
+    /** One pixel to the right on the canvas is this far horizontally and vertically in the picture. */
     QPointF step() const { return {m_cosine, m_sine}; }
 
-    /** What lies in the picture under the middle of a pixel of the canvas. */
+    /** The point of the picture under the centre of a canvas pixel. */
     QPointF inPicture(int column, int row) const
     {
         const double across = column + 0.5 - m_centre.x();
@@ -83,10 +83,10 @@ public:
     struct Columns
     {
         int first = 0;
-        int end = 0; ///< behind the last
+        int end = 0; ///< one past the last
     };
 
-    /** The columns of a row that lie in the picture grown by @p margin pixels on each side, inside @p limits. */
+    /** The columns of a row that are in the picture, enlarged by @p margin pixels on each side, within @p limits. */
     Columns columnsWithin(double margin, int row, Columns limits) const
     {
         const double down = row + 0.5 - m_centre.y();
@@ -102,7 +102,7 @@ public:
     }
 
 private:
-    /** The part of a line on which slope * t + offset stays below a bound, the sign apart. */
+    /** The part of a line on which |slope * t + offset| stays below a bound. */
     struct Span
     {
         double from;
@@ -135,11 +135,11 @@ struct Job
     VImage picture; ///< in memory
     Placement placement;
     bool addsAlpha;
-    bool hasAlpha; ///< in the picture or added
-    float opaque;  ///< the alpha of a pixel that hides everything
+    bool hasAlpha; ///< existing in the picture or added
+    float opaque;  ///< the alpha of an opaque pixel
 };
 
-/** Draws rows of one job. Edge pixels of the picture are repeated outside it, and fade out by what is covered. */
+/** Draws rows of one job. Edge pixels of the picture are repeated outside it, and faded by their coverage. */
 template<typename Component, typename Mixer> class Drawing
 {
 public:
@@ -166,7 +166,7 @@ public:
 private:
     void drawWhole(int row, Placement::Columns columns, Component *out)
     {
-        // From the corner of a pixel to its middle; then the nearest step, not the one before.
+        // From the corner of a pixel to its centre; then the nearest step, not the previous one.
         constexpr double shift = -0.5 + 0.5 / (1 << stepBits);
         const QPointF start = m_job.placement.inPicture(columns.first, row) + QPointF(shift, shift);
         const Position across(m_job.placement.step().x());
@@ -204,7 +204,7 @@ private:
         }
     }
 
-    /** Whether the window lies in the picture with all that may be read behind it. */
+    /** Whether the window is in the picture, including everything that may be read after it. */
     bool isInside(Position x, Position y) const
     {
         const int left = x.pixel() - 1;
@@ -219,7 +219,7 @@ private:
         Position y;
     };
 
-    /** Makes pixels two at a time from one on whose window is inside, and answers how many; there may be none. */
+    /** Makes pixels two at a time, starting at one whose window is inside, and answers how many; perhaps none. */
     int mixedPairs(Places from, Places step, int count, Component *out) const
     {
         if constexpr (std::is_same_v<Mixer, RgbMixer>) {
@@ -229,7 +229,7 @@ private:
                 place.y.step(step.y, index);
                 return isInside(place.x, place.y);
             };
-            while (count > 1 && !isInsideAt(count - 1)) // on a line all between two that are inside are
+            while (count > 1 && !isInsideAt(count - 1)) // on a line everything between two inside points is inside
                 --count;
             if (canMixPairs())
                 return mixPairs({m_pixels, ptrdiff_t(m_width) * m_bands, m_weights.data(), stepBits, from.x.value(),

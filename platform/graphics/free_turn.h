@@ -7,7 +7,9 @@
 
 namespace platform {
 
-/** The image in memory, turned as turned() describes it; the canvas is known to be in the budget. Throws vips::VError. */
+/**
+ * The image in memory, turned as described for turned(); the canvas is known to fit the budget. Throws vips::VError.
+ */
 vips::VImage turnedFreely(const vips::VImage &image, const FreeTurn &turn);
 
 } // namespace platform

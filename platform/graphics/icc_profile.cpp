@@ -12,7 +12,7 @@
 #include <memory>
 #include <vector>
 
-// An ICC profile; numbers have their highest byte first:
+// An ICC profile; numbers are big-endian:
 //
 //     header (128), with the space of its colours at 16 and the connecting one at 20 | number of tags (4) |
 //     for each tag: name (4), offset (4), size (4) | the tags, each its type (4), four zeros, and what the type says
@@ -22,7 +22,7 @@ namespace {
 
 constexpr int levels = 256;
 
-/** All greys, on which the curves show, and a lattice of colours, closer where it is dark. Three levels for each colour. */
+/** All greys, which reveal the curves, and a grid of colours, finer in the dark. Three levels for each colour. */
 std::vector<quint8> probeColours()
 {
     std::vector<quint8> colours;
@@ -36,10 +36,10 @@ std::vector<quint8> probeColours()
     return colours;
 }
 
-/** Whether the conversion to sRGB, the same that pictures get, leaves the probe colours where they are. */
+/** Whether the conversion to sRGB, the same that pictures get, leaves the test colours unchanged. */
 bool meansSrgb(const QByteArray &profile)
 {
-    // A context of its own: what others do about errors is not for these.
+    // A context of its own: error handlers set by others do not apply.
     const std::unique_ptr<std::remove_pointer_t<cmsContext>, decltype(&cmsDeleteContext)> context(
         cmsCreateContext(nullptr, nullptr), &cmsDeleteContext);
     const auto size = cmsUInt32Number(profile.size());
@@ -85,7 +85,7 @@ QByteArray iccTag(const QByteArray &profile, const char *name)
 
 bool isSrgb(const QByteArray &profile)
 {
-    // Most pictures of a batch have one and the same profile.
+    // Most pictures of a batch have the same profile.
     static QByteArray last;
     static bool lastMeansSrgb = false;
     if (profile.isEmpty())

@@ -6,13 +6,15 @@
 
 namespace platform {
 
-/** The bytes of one tag of an ICC profile, such as "desc", type first; empty where it has none. Never reads outside. */
+/**
+ * The bytes of one tag of an ICC profile, such as "desc", type first; empty if it has none. Never reads out of bounds.
+ */
 QByteArray iccTag(const QByteArray &profile, const char *name);
 
 /**
- * True for an RGB profile that means sRGB, whatever its name and however it says so: converting from it to sRGB would move no
- * component of any colour by more than one of 255 levels. A thousand colours are tried, all greys among them. False for what is
- * no profile. Takes half a millisecond, and next to nothing for the profile that was asked about last.
+ * True for an RGB profile that means sRGB, whatever its name and form: converting from it to sRGB would change no
+ * component of any colour by more than one of 255 levels. A thousand colours are tried, including all greys. False for
+ * an invalid profile. Takes half a millisecond, and next to nothing for the last profile asked about.
  */
 bool isSrgb(const QByteArray &profile);
 

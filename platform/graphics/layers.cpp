@@ -28,7 +28,7 @@ bool hasAlpha(const VImage &image)
     return image.bands() > colorBands(image);
 }
 
-/** Colours that are the ones of sRGB: converting would only add rounding. */
+/** Colours that are already sRGB: converting would only add rounding errors. */
 bool isInSrgb(const VImage &image)
 {
     const QByteArray profile = iccProfileOf(image);
@@ -40,7 +40,7 @@ bool isDeep(const VImage &image)
     return image.format() == VIPS_FORMAT_USHORT;
 }
 
-/** Every value of one depth as the nearest of the other: the brightest stays the brightest. */
+/** Every value of one depth as the nearest of the other: the maximum stays the maximum. */
 VImage withDepthOf(const VImage &image, const VImage &values)
 {
     constexpr double perStep = 257;
@@ -55,7 +55,7 @@ VImage converted(const VImage &image, const VImage &srgb)
     if (isInSrgb(image))
         return srgb;
     const QByteArray profile = iccProfileOf(image);
-    // Only a conversion in one go is exact, and it takes the profile from a file.
+    // Only a conversion in one step is exact, and it reads the profile from a file.
     const NamedBytes file(profile);
     if (!file.isThere())
         throw vips::VError("there is no memory for a profile");
@@ -103,14 +103,14 @@ constexpr quint64 share(quint64 value, quint64 part, quint64 whole)
     return (value * part + whole / 2) / whole;
 }
 
-/** Alpha of @p alpha, of which only @p coverage of 255 is there. */
+/** Alpha @p alpha scaled by @p coverage out of 255. */
 quint64 coveredAlpha(quint64 alpha, uchar coverage)
 {
     constexpr quint64 all = 255;
     return share(alpha, coverage, all);
 }
 
-/** One pixel on nothing: what cannot be seen at all leaves no trace. */
+/** One pixel over nothing: an invisible one leaves no trace. */
 template<typename T> void keep(const T *over, quint64 alpha, int colors, T *out)
 {
     if (alpha == 0) {
@@ -121,7 +121,7 @@ template<typename T> void keep(const T *over, quint64 alpha, int colors, T *out)
     out[colors] = T(alpha);
 }
 
-/** One pixel on an opaque one. */
+/** One pixel over an opaque one. */
 template<typename T> void mix(const T *over, quint64 alpha, const T *under, int colors, T *out)
 {
     constexpr quint64 all = opaque<T>;
@@ -129,7 +129,7 @@ template<typename T> void mix(const T *over, quint64 alpha, const T *under, int 
         out[band] = T((over[band] * alpha + under[band] * (all - alpha) + all / 2) / all);
 }
 
-/** One pixel on one that may be transparent. */
+/** One pixel over one that may be transparent. */
 template<typename T> void join(const T *over, quint64 alpha, const T *under, int colors, T *out)
 {
     constexpr quint64 all = opaque<T>;

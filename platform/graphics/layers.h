@@ -8,19 +8,22 @@
 
 namespace platform {
 
-/** True where red, green and blue are alike. */
+/** True if red, green and blue are equal. */
 bool isGrey(const QColor &color);
 
 /** A colour as an opaque sRGB image of one pixel and 16 bits. */
 vips::VImage colorImage(const QColor &color);
 
 /**
- * The image as grey or RGB, each perhaps with alpha, of 8 or 16 bits in memory; RGB for certain if @p needsColors. What is
- * so already stays as it is, with its profile; all else becomes sRGB.
+ * The image as grey or RGB, each with or without alpha, of 8 or 16 bits in memory; always RGB if @p needsColors. An
+ * image in such a form stays as it is, with its profile; anything else becomes sRGB.
  */
 vips::VImage composable(const vips::VImage &image, bool needsColors);
 
-/** Two pictures that can be composed: same colours, profile and depth, both in memory; grey below only for grey above. */
+/**
+ * Two pictures that can be composed: same colours, profile and depth, both in memory; grey below only if it is grey
+ * above.
+ */
 struct MatchedLayers
 {
     vips::VImage over;
@@ -28,22 +31,22 @@ struct MatchedLayers
 };
 
 /**
- * @p over as composable() gives it, and @p srgb in its colours, its profile and its depth, alpha kept. A profile that
- * colours can only be read from, as that of a scanner, gives way: then both are sRGB.
+ * @p over as from composable(), and @p srgb in its colours, its profile and its depth, alpha kept. A profile that
+ * colours can only be converted from, such as a scanner's, is replaced: then both are sRGB.
  */
 MatchedLayers matched(const vips::VImage &over, const vips::VImage &srgb);
 
 /**
- * Composes rows of one picture: a part of @p image, less than covered where a coverage says so, on copies of @p under
- * from the top left corner. The result has alpha but where @p under is opaque. Throws vips::VError.
+ * Composes rows of one picture: a part of @p image, reduced by an optional coverage, over repeated copies of @p under
+ * from the top left corner. The result has alpha unless @p under is opaque. Throws vips::VError.
  */
 class Layers
 {
 public:
-    /** @p image as composable() gives it; @p under as matched() gives it. */
+    /** @p image as from composable(); @p under as from matched(). */
     Layers(const vips::VImage &image, const QRect &part, const std::optional<vips::VImage> &under);
 
-    /** Row @p y of the result. @p coverage holds a byte for each of its pixels; null covers the whole row. */
+    /** Row @p y of the result. @p coverage has a byte for each of its pixels; null covers the whole row. */
     void compose(int y, const uchar *coverage);
 
     vips::VImage result() const { return m_result; }

@@ -46,7 +46,7 @@ bool isFloat(const VImage &image)
     return image.format() == VIPS_FORMAT_FLOAT || image.format() == VIPS_FORMAT_DOUBLE;
 }
 
-/** The bytes of a file with Lab, which the library would take for ten bits of lightness and so make darker. */
+/** The bytes of a file with Lab, which the library would read as ten bits of lightness, and so darken. */
 VImage uncodedLab(const VImage &image)
 {
     const VImage bytes = image.copy(
@@ -57,7 +57,7 @@ VImage uncodedLab(const VImage &image)
     return typed(lightness.bandjoin(colours), VIPS_INTERPRETATION_LAB);
 }
 
-/** Which bands are what. */
+/** The meaning of the bands. */
 struct Bands
 {
     int colours = 0;
@@ -92,7 +92,7 @@ Bands bandsIn(const VImage &image)
     return bands;
 }
 
-/** Colours first, then transparency, then the others where they are wanted. */
+/** Colours first, then transparency, then the others if they are wanted. */
 VImage arranged(const VImage &image, const Bands &bands, bool keepsOthers)
 {
     const bool isInOrder = bands.alpha < 0 || bands.alpha == bands.colours;
@@ -123,13 +123,13 @@ VImage asPlainLab(const VImage &image)
         image.interpretation() == VIPS_INTERPRETATION_LABS ? lab.LabS2Lab() : lab.colourspace(VIPS_INTERPRETATION_LAB);
     if (image.bands() == colours)
         return plain;
-    // What stands behind the colours is not signed, whatever the library calls it.
+    // Bands after the colours are not signed, whatever the library says.
     const VImage others =
         bandsOf(image, colours, image.bands() - colours).copy(VImage::option()->set("format", VIPS_FORMAT_USHORT));
     return plain.bandjoin(others.linear(most8 / most16, 0.0));
 }
 
-/** Whole numbers without a sign, 8 or 16 bits of them. */
+/** Unsigned integers of 8 or 16 bits. */
 VImage asUnsigned(const VImage &image)
 {
     constexpr double perStep = 65537; // of 16 bits in 32
@@ -147,7 +147,7 @@ VImage asUnsigned(const VImage &image)
     }
 }
 
-/** Samples whose lower bits are always 0 at the full range of their type. */
+/** Samples whose lower bits are always 0, scaled to the full range of their type. */
 VImage atFullRange(const VImage &image, int bits)
 {
     const bool isDeep = image.format() == VIPS_FORMAT_USHORT;
@@ -213,7 +213,7 @@ VImage labInForm(const VImage &image, const Bands &bands, Forms forms)
     return kept;
 }
 
-/** RGB with transparency from CMYK with it, which hardly any type holds. */
+/** RGB with transparency from CMYK with transparency, which hardly any type holds. */
 VImage inkAsRgb(const VImage &image)
 {
     constexpr int inks = 4;

@@ -1,6 +1,6 @@
 #pragma once
 
-// Private to the platform: pixels that a decoder of ours fills row by row.
+// Private to the platform: pixels that one of our decoders fills row by row.
 
 #include "platform/foundation/memory_left.h"
 #include "platform/graphics/pixels.h"
@@ -9,11 +9,11 @@
 
 namespace platform {
 
-/** Memory for an image, zeroed, that becomes the image without being copied. */
+/** Zeroed memory for an image that becomes the image without being copied. */
 class PixelMemory
 {
 public:
-    /** @param format  VIPS_FORMAT_UCHAR or one of the others; throws vips::VError where there is no memory for it. */
+    /** @param format  VIPS_FORMAT_UCHAR or another; throws vips::VError if there is no memory for it. */
     PixelMemory(QSize size, int bands, VipsBandFormat format)
         : m_size(size), m_bands(bands), m_format(format),
           m_rowBytes(size_t(size.width()) * size_t(bands) * size_t(vips_format_sizeof(format)))
@@ -34,7 +34,7 @@ public:
     template<typename T> T *rowOf(int y) { return reinterpret_cast<T *>(row(y)); }
     int bands() const { return m_bands; }
 
-    /** The image, which has the memory from now on. */
+    /** The image, which owns the memory from now on. */
     vips::VImage taken(VipsInterpretation space)
     {
         const vips::VImage image = vips::VImage::new_from_memory_steal(
@@ -43,7 +43,7 @@ public:
         image.get_image()->Type = space;
         return image;
     }
-    /** The image, which has the memory from now on, in the colours and with the profile of @p model. */
+    /** The image, which owns the memory from now on, with the colours and the profile of @p model. */
     vips::VImage takenLike(const vips::VImage &model)
     {
         const vips::VImage image = taken(model.interpretation());

@@ -18,7 +18,7 @@ using vips::VImage;
 
 void ignoreMessage(const gchar *, GLogLevelFlags, const gchar *, gpointer) {}
 
-/** Metadata that says how the pixels are meant; all else is dropped from bitmaps. */
+/** Metadata that determines the meaning of pixels; everything else is dropped from bitmaps. */
 constexpr const char *profileField = VIPS_META_ICC_NAME;
 
 bool profileFits(const VImage &image)
@@ -42,8 +42,8 @@ bool profileFits(const VImage &image)
 }
 
 /**
- * Keeps the memory of one picture for the next. Otherwise the system takes every large buffer back and hands it out again
- * page by page, which costs as much time as writing the file.
+ * Keeps the memory of one picture for the next. Otherwise the system would reclaim every large buffer and hand it out
+ * again page by page, which takes as much time as writing the file.
  */
 void keepMemoryForNextPicture()
 {
@@ -56,8 +56,8 @@ void keepMemoryForNextPicture()
 }
 
 /**
- * A heap of its own for each thread reserves 64 MB of address space and more. Where that is limited, what is left for pixels
- * would depend on how many threads there happen to be, and libraries that end the process where they get nothing would.
+ * A separate heap for each thread reserves 64 MB of address space and more. If that is limited, the remainder for
+ * pixels would depend on the number of threads, and libraries that end the process when allocation fails would do so.
  */
 void shareOneHeapWhereAddressesAreShort()
 {
@@ -69,9 +69,9 @@ void shareOneHeapWhereAddressesAreShort()
 }
 
 /**
- * A remark about an odd file whose pixels are all there: the JPEG reader tells of bytes that stand between segments, and of
- * headers and profiles that are not quite as they should be; the TIFF reader of tags that it leaves out, such as a camera's
- * (it fails by itself where pixels need one).
+ * A remark about an odd file whose pixels are complete: the JPEG reader reports bytes between segments, and headers and
+ * profiles that are not quite correct; the TIFF reader reports tags that it ignores, such as a camera's (it fails by
+ * itself if pixels depend on one).
  */
 bool isRemark(const QByteArray &line)
 {
@@ -109,14 +109,14 @@ void dropMetadata(VImage &image)
 void initVips()
 {
     static const bool ready = [] {
-        // Libraries below report odd files on standard error, which belongs to the log lines of this program.
+        // Libraries below report odd files on standard error, which is reserved for the log lines of this program.
         g_log_set_handler("VIPS", GLogLevelFlags(G_LOG_LEVEL_WARNING | G_LOG_LEVEL_INFO | G_LOG_LEVEL_MESSAGE),
                           ignoreMessage, nullptr);
         shareOneHeapWhereAddressesAreShort();
         if (VIPS_INIT("quorlin") != 0)
             return false;
         keepMemoryForNextPicture();
-        // A file that was replaced must not be answered from memory.
+        // A file that was replaced must not be answered from the cache.
         vips_cache_set_max(0);
         return true;
     }();
@@ -206,7 +206,7 @@ VImage turnedUpright(const VImage &image, int orientation)
     }
 }
 
-/** The library's own enlargement lays the result half a pixel of it to the right and below. */
+/** The library's own enlargement shifts the result by half a source pixel to the right and down. */
 static VImage enlarged(const VImage &image, double horizontal, double vertical)
 {
     const auto between = [](double scale) { return (scale - 1) / 2; }; // the centres of the first pixels
@@ -221,10 +221,10 @@ static VImage enlarged(const VImage &image, double horizontal, double vertical)
                             ->set("interpolate", vips::VInterpolate::new_from_name("bicubic")));
 }
 
-/** What is left for the full filter after means of blocks were taken: at least this many times the size. */
+/** What is left for the full filter after averaging blocks: at least this many times the size. */
 constexpr double leftByBlocks = 2;
 
-/** Blocks are only for shrinks so strong that the full filter would cost too much. */
+/** Blocks are used only for reductions so strong that the full filter would be too slow. */
 static bool isPureShrink(double horizontal, double vertical)
 {
     constexpr double strongestPureShrink = 8;
@@ -251,7 +251,7 @@ static VImage resized(const VImage &image, double horizontal, double vertical)
     return horizontal > 1 || vertical > 1 ? enlarged(fewer, std::max(horizontal, 1.0), std::max(vertical, 1.0)) : fewer;
 }
 
-/** Pixels that cannot be seen lend no colour to those that can. */
+/** Invisible pixels contribute no colour to visible ones. */
 static VImage resizedByTransparency(const VImage &image, double horizontal, double vertical)
 {
     const double opaque = opaqueValue(image);

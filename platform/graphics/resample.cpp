@@ -10,7 +10,7 @@
 namespace platform {
 namespace {
 
-/** What one bitmap may take: 2 GiB, or half of the memory of a smaller machine. */
+/** The limit for one bitmap: 2 GiB, or half of the memory of a smaller machine. */
 qint64 memoryBudgetBytes()
 {
     static const qint64 budget = [] {

@@ -76,7 +76,7 @@ std::optional<ExactTurn> exactTurn(double degrees)
 {
     constexpr double fullTurn = 360;
     constexpr double quarterTurn = 90;
-    const double rest = std::fmod(degrees, fullTurn); // not a number where the angle is not finite
+    const double rest = std::fmod(degrees, fullTurn); // NaN if the angle is not finite
     if (std::fmod(rest, quarterTurn) != 0 || std::isnan(rest))
         return std::nullopt;
     switch (int(rest < 0 ? rest + fullTurn : rest)) {
@@ -114,7 +114,7 @@ Result<Bitmap> turned(const Bitmap &bitmap, const FreeTurn &turn)
                        QCoreApplication::translate("platform", "A picture cannot be rotated by that angle"));
     VImage image = bitmap.pixels().image;
     if (otherBands(image) > 0)
-        image = inForm(image); // where they belong is not known outside of the picture
+        image = inForm(image); // their position is unknown outside the picture
     if (!fitsMemoryBudget(turn.canvas.width(), turn.canvas.height(), image.bands() + 1, bytesPerComponent(image)))
         return failure(ErrorCode::TooLarge,
                        QCoreApplication::translate("platform", "A picture of %1 × %2 pixels cannot be made")

@@ -22,7 +22,7 @@ struct CubicWeights
     static constexpr int wholeUnit = 1 << 14;
 
     std::array<float, taps> exact = {};
-    std::array<qint16, taps> whole = {}; ///< the same in units of which wholeUnit is 1; their sum is wholeUnit
+    std::array<qint16, taps> whole = {}; ///< the same in units where wholeUnit is 1; their sum is wholeUnit
 
     CubicWeights() = default;
     /** @p t from 0, the second pixel, to 1, the third. */
@@ -59,7 +59,7 @@ template<typename Component> Component toComponent(float value)
 template<typename Component> class OpaqueMixer
 {
 public:
-    static constexpr int readsBeyond = 0; ///< components that are read, and not used, behind each row of a window
+    static constexpr int readsBeyond = 0; ///< components that are read but not used, after each row of a window
 
     OpaqueMixer(int bands, float) : m_bands(bands) {}
     void mix(SourceWindow<Component> window, const CubicWeights &across, const CubicWeights &down, Component *out) const
@@ -80,7 +80,7 @@ private:
     int m_bands;
 };
 
-/** Pixels with alpha in the last band: colours weigh as much as they can be seen. */
+/** Pixels with alpha in the last band: colours are weighted by their opacity. */
 template<typename Component> class SeenMixer
 {
 public:
@@ -117,7 +117,9 @@ private:
 
 #if defined(__SSE2__)
 
-/** 8 bit RGB, which is what photographs are: the same as OpaqueMixer, five times faster with what every x86-64 has. */
+/**
+ * 8 bit RGB, as in photographs: the same as OpaqueMixer, but five times faster with the instructions of every x86-64.
+ */
 class RgbMixer
 {
 public:
@@ -137,7 +139,7 @@ public:
         const Bytes b = low(third, bottom);
         const Bytes c = high(top, second);
         const Bytes d = high(third, bottom);
-        // Four sums each: red, green and blue of the four pixels of the one row that is left.
+        // Four sums each: red, green and blue of the four pixels of the remaining row.
         const Floats first = sum(low(a, none), upper, low(b, none), lower);
         const Floats middle = sum(high(a, none), upper, high(b, none), lower);
         const Floats last = sum(low(c, none), upper, low(d, none), lower);

@@ -20,14 +20,14 @@ QUORLIN_AVX2 inline __m128i loaded(const quint8 *from)
     return _mm_loadu_si128(reinterpret_cast<const __m128i *>(from));
 }
 
-/** Four sums for each of both pixels: of the four rows, two of which stand byte by byte beside each other. */
+/** Four sums for each of both pixels: of the four rows, two of which are interleaved byte by byte. */
 QUORLIN_AVX2 inline __m256 sums(__m256i upperRows, __m256i upper, __m256i lowerRows, __m256i lower)
 {
     return _mm256_cvtepi32_ps(
         _mm256_add_epi32(_mm256_madd_epi16(upperRows, upper), _mm256_madd_epi16(lowerRows, lower)));
 }
 
-/** One of two pixels: where its window begins and what its neighbours weigh. */
+/** One of two pixels: where its window begins and the weights of its neighbours. */
 struct Place
 {
     const quint8 *window;
@@ -64,7 +64,7 @@ QUORLIN_AVX2 inline __m256i mixedPair(const Place &one, const Place &other, ptrd
     const __m256i d = _mm256_unpackhi_epi8(third, bottom);
     const __m256 weights =
         _mm256_set_m128(_mm_loadu_ps(other.across->exact.data()), _mm_loadu_ps(one.across->exact.data()));
-    // Red, green and blue of the four pixels of the one row that is left.
+    // Red, green and blue of the four pixels of the remaining row.
     const __m256 p = _mm256_mul_ps(sums(_mm256_unpacklo_epi8(a, none), upper, _mm256_unpacklo_epi8(b, none), lower),
                                    _mm256_permute_ps(weights, _MM_SHUFFLE(1, 0, 0, 0)));
     const __m256 q = _mm256_mul_ps(sums(_mm256_unpackhi_epi8(a, none), upper, _mm256_unpackhi_epi8(b, none), lower),

@@ -11,7 +11,7 @@ struct CubicRow
 {
     const quint8 *pixels; ///< the picture's first
     ptrdiff_t rowBytes;
-    const CubicWeights *weights; ///< a power of two of them, for as many places between two pixels
+    const CubicWeights *weights; ///< a power of two, for as many positions between two pixels
     int weightBits;
     qint64 x; ///< of the first new pixel
     qint64 y;
@@ -19,12 +19,12 @@ struct CubicRow
     qint64 stepY;
 };
 
-/** Whether this processor has what it takes. */
+/** Whether this processor supports it. */
 bool canMixPairs();
 
 /**
- * Makes pixels two at a time, with the same numbers as RgbMixer, as many as there are pairs in @p count. All their windows lie in the
- * picture with RgbMixer::readsBeyond more. Answers how many it made.
+ * Makes pixels two at a time, with the same results as RgbMixer, as many as there are pairs in @p count. All their
+ * windows must be in the picture with RgbMixer::readsBeyond more. Answers how many it made.
  */
 int mixPairs(const CubicRow &row, int count, quint8 *out);
 

@@ -11,7 +11,8 @@ namespace platform {
 namespace {
 
 constexpr int columnShift = planeWeightBits + planeSumBits;
-// A processor multiplies 16 bits by 16 and keeps the rounded upper half in one step, which gives the fractions of a sum.
+// A processor multiplies 16 bits by 16 and keeps the rounded upper half in one step, which yields the fractions of a
+// sum.
 constexpr int productShift = 15;
 static_assert(planeWideBits + planeWeightBits - productShift == planeSumBits);
 

@@ -6,12 +6,12 @@
 
 namespace platform {
 
-constexpr int planeRowUnit = 64;    ///< bytes of a row come in so many
+constexpr int planeRowUnit = 64;    ///< row sizes in bytes are multiples of this
 constexpr int planeTapUnit = 16;    ///< and weights of a sample
 constexpr int planeOutputUnit = 4;  ///< and new samples of a row
-constexpr int planeWeightBits = 14; ///< of a weight of 1
-constexpr int planeWideBits = 7;    ///< of fractions of a widened sample
-constexpr int planeSumBits = 6;     ///< of fractions of what stands between the two loops
+constexpr int planeWeightBits = 14; ///< fraction bits of a weight
+constexpr int planeWideBits = 7;    ///< fraction bits of a widened sample
+constexpr int planeSumBits = 6;     ///< fraction bits between the two loops
 
 /** @p value or the next multiple of @p unit. */
 constexpr int wholeUnits(int value, int unit)
@@ -21,17 +21,17 @@ constexpr int wholeUnits(int value, int unit)
 
 struct PlaneKernels
 {
-    /** Makes 16 bits with planeWideBits of fractions of each sample. @p count is whole units of a row. */
+    /** Widens each sample to 16 bits with planeWideBits fraction bits. @p count is whole units of a row. */
     void (*widenRow)(const uchar *row, qint16 *wide, int count);
-    /** Makes one row of the sums of several widened ones, weighed. @p count is whole units of a row. */
+    /** Makes one row of weighted sums of several widened ones. @p count is whole units of a row. */
     void (*sumRows)(const qint16 *const *rows, const qint16 *weights, int taps, qint16 *out, int count);
-    /** Makes new samples of one row, each of @p taps sums from its start on. @p taps and @p count are whole units. */
+    /** Makes new samples of one row, each from @p taps sums from its start on. @p taps and @p count are whole units. */
     void (*sumColumns)(const qint16 *sums, const int *starts, const qint16 *weights, int taps, uchar *out, int count);
 };
 
 /** For any processor. */
 const PlaneKernels &plainPlaneKernels();
-/** The fastest that this processor has; all give the same numbers. */
+/** The fastest that this processor supports; all give the same results. */
 const PlaneKernels &planeKernels();
 
 } // namespace platform

@@ -27,7 +27,7 @@ PlaneScaler::PlaneScaler(QSize from, const PlaneSpan &across, const PlaneSpan &d
         return;
     m_kept.resize(size_t(m_rowBytes) * size_t(m_rows.taps()));
     m_window.resize(size_t(m_rows.taps()));
-    // Behind the row there is room for what the last windows reach beyond it; it weighs nothing.
+    // After the row there is room for what the last windows read beyond it, with weight 0.
     m_sums.resize(size_t(m_rowBytes + m_columns.taps()));
     m_row.resize(size_t(wholeUnits(across.count, planeOutputUnit)));
 }

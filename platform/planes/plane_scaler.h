@@ -10,8 +10,8 @@
 namespace platform {
 
 /**
- * Makes a plane of another size from the rows of one, by Lanczos of three lobes, in whole numbers: the same on every machine. Samples
- * beyond an edge are as the last one before it. It keeps as many rows as a new one is made of, so the old plane need never be whole.
+ * Scales a plane from its rows, with three-lobed Lanczos in integers: the same on every machine. Samples beyond an edge
+ * repeat the last one. It buffers as many rows as a new one needs, so the old plane is never complete.
  */
 class PlaneScaler
 {
@@ -19,11 +19,11 @@ public:
     /** Throws std::bad_alloc. */
     PlaneScaler(QSize from, const PlaneSpan &across, const PlaneSpan &down);
 
-    /** The next row, from top to bottom: rowBytes() that may be read. Rows behind the last one are passed over. */
+    /** The next row, from top to bottom: rowBytes() must be readable. Rows after the last one are ignored. */
     void add(const uchar *row);
     int rowBytes() const { return m_rowBytes; }
 
-    /** The new plane, once every row was added. */
+    /** The new plane, once every row has been added. */
     Plane &&plane() { return std::move(m_plane); }
 
 private:
@@ -34,13 +34,13 @@ private:
     QSize m_from;
     PlaneSpan m_across;
     PlaneSpan m_down;
-    bool m_isPart; ///< nothing to compute: the new samples are old ones
+    bool m_isPart; ///< nothing to compute: the new samples are the old ones
     int m_rowBytes;
     PlaneWeights m_columns;
     PlaneWeights m_rows;
     int m_added = 0;
     int m_made = 0;
-    std::vector<qint16> m_kept; ///< the rows of a window, widened, in a ring
+    std::vector<qint16> m_kept; ///< the rows of a window, widened, in a ring buffer
     std::vector<const qint16 *> m_window;
     std::vector<qint16> m_sums;
     std::vector<uchar> m_row;

@@ -11,8 +11,8 @@ namespace {
 constexpr int wholeWeight = 1 << planeWeightBits;
 
 /**
- * The kernel of Lanczos with three lobes at places that lie evenly: the sines of the next place come of those of the last one, which
- * takes a few products where the library takes much longer for each.
+ * The three-lobed Lanczos kernel at equidistant positions: the sines of the next position are computed from those of
+ * the last one, with a few products where the library takes much longer for each.
  */
 class Lanczos
 {
@@ -61,10 +61,10 @@ private:
     Angle m_lobeStep;
 };
 
-/** Adds the weight of a block to those of the samples that it is the mean of; @p start is that of the first weight. */
+/** Adds the weight of a block to those of the samples that it averages; @p start is that of the first weight. */
 void addBlock(std::vector<double> &weights, int start, double begin, double length, int samples, double weight)
 {
-    const double end = std::min(begin + length, double(samples)); // nothing lies behind the last block
+    const double end = std::min(begin + length, double(samples)); // nothing follows the last block
     const int last = int(std::ceil(end)) - 1;
     for (int at = int(std::floor(begin)); at <= last; ++at) {
         const double reached = at == last ? begin + length : at + 1.0;
@@ -80,7 +80,7 @@ PlaneWeights::PlaneWeights(const PlaneSpan &span, int samples)
     const double scale = std::max(1.0, step);
     const int reach = int(std::ceil(Lanczos::lobes * scale)) + 1;
     m_taps = wholeUnits(int(std::ceil((2 * reach + 1) * span.block)), planeTapUnit);
-    const int count = wholeUnits(span.count, planeOutputUnit); // those behind the last weigh nothing
+    const int count = wholeUnits(span.count, planeOutputUnit); // those after the last have weight 0
     m_starts.assign(size_t(count), 0);
     m_values.assign(size_t(count) * size_t(m_taps), 0);
     std::vector<double> exact(static_cast<size_t>(m_taps) + 1);

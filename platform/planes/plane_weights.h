@@ -9,8 +9,9 @@
 namespace platform {
 
 /**
- * What new samples are made of along one side, by Lanczos of three lobes, in whole numbers: for each the first old sample and what
- * that and the following ones weigh, together 1 << planeWeightBits. What lies beyond an edge weighs with the last one before it.
+ * How new samples are computed along one side, by three-lobed Lanczos in integers: for each the first old sample and
+ * the weights of that and the following ones, with the sum 1 << planeWeightBits. What is beyond an edge is weighted
+ * with the last one before it.
  */
 class PlaneWeights
 {
@@ -18,18 +19,18 @@ public:
     /** Throws std::bad_alloc. */
     PlaneWeights(const PlaneSpan &span, int samples);
 
-    int taps() const { return m_taps; } ///< weights of a new sample, whole units; some that are 0 fill them up
+    int taps() const { return m_taps; } ///< weights of a new sample, whole units; padded with 0
     int start(int index) const { return m_starts[size_t(index)]; }
     /** Those of this one and of all that follow. */
     const qint16 *of(int index) const { return m_values.data() + size_t(index) * size_t(m_taps); }
     const int *starts() const { return m_starts.data(); }
 
 private:
-    /** How the blocks lie that are weighed, and the samples that they are the means of. */
+    /** The positions of the weighted blocks, and of the samples that they average. */
     struct Blocks
     {
         double length; ///< in samples
-        double scale;  ///< blocks for a new sample, or 1 where that is less than a block
+        double scale;  ///< blocks per new sample, or 1 if that is less than a block
         int reach;     ///< blocks on either side
         int samples;   ///< in all
     };

@@ -33,7 +33,7 @@ using Memory = std::unique_ptr<char, FreeMemory>;
 
 QVariant valueOf(plist_t node);
 
-/** The text between the tags of a scalar in XML: the library's own numbers and dates are narrower than what it holds. */
+/** The text between the tags of a scalar in XML: the library's own numbers and dates are narrower than its storage. */
 QByteArray xmlText(plist_t node)
 {
     char *memory = nullptr;
@@ -180,7 +180,7 @@ Node nodeForDate(const QDateTime &date)
     return Node(plist_new_date(int32_t(seconds), int32_t((ms - seconds * msPerSecond) * 1000)));
 }
 
-/** A node that holds @p value; none where a property list cannot hold it. */
+/** A node with @p value; none if a property list cannot hold it. */
 Node nodeFor(const QVariant &value, int depth)
 {
     if (depth > deepestValue)
@@ -242,7 +242,7 @@ QByteArray written(plist_t root, bool isBinary)
         plist_to_xml(root, &memory, &size);
     const Memory owner(memory);
     QByteArray bytes = memory ? QByteArray(memory, qsizetype(size)) : QByteArray();
-    // As it stands, every reader of XML would take a carriage return for a line feed, or drop it before one.
+    // Unescaped, every XML parser would read a carriage return as a line feed, or drop it before one.
     return isBinary ? bytes : bytes.replace('\r', "&#13;");
 }
 

@@ -19,7 +19,7 @@ constexpr int deepestNesting = 64;
 constexpr quint64 largestExpansion = 128 * 1024 * 1024;
 constexpr quint64 costOfNode = 64;
 
-/** The binary form: a head, objects that name one another by number, a table of their places, a trailer. */
+/** The binary form: a header, objects that refer to one another by number, a table of their offsets, a trailer. */
 class BinaryCheck
 {
 public:
@@ -46,7 +46,7 @@ public:
     }
 
 private:
-    /** What an object is with everything below it. */
+    /** The totals of an object with everything below it. */
     struct Measure
     {
         int height = 0;
@@ -196,7 +196,7 @@ private:
     QHash<quint64, Measure> m_known;
 };
 
-/** The XML form. Whatever reads differently to a parser that only looks for brackets is refused. */
+/** The XML form. Anything that a parser which only looks for brackets would read differently is refused. */
 class XmlCheck
 {
 public:

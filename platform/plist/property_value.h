@@ -9,7 +9,7 @@ namespace platform {
 
 /**
  * A value of a property list: text, a number, true or false, a date, data, or a list or dictionary of these; an invalid
- * variant is none. Operations that take one say so with this type, since where any object will do these are not accepted.
+ * variant is none. Operations that accept only these say so with this type.
  */
 struct PropertyValue
 {

@@ -28,7 +28,7 @@ QString described(const QVariant &value)
     }
 }
 
-/** How numbers of scripts come: whole ones of any size, and others. */
+/** The types of numbers from scripts: integers of any size, and others. */
 bool isNumber(const QVariant &value)
 {
     const int type = value.typeId();

@@ -7,15 +7,15 @@
 namespace platform {
 
 /**
- * What a script wrote in a dictionary, read by names. What is of another type than is meant raises Raised, a TypeError
- * of the form "Expected X for N but received V"; what is missing or null is the value that is asked for instead.
+ * A dictionary from a script, read by names. A value of the wrong type raises Raised, a TypeError of the form "Expected
+ * X for N but received V"; a missing or null value becomes the default that the caller names.
  */
 class Fields
 {
 public:
-    /** @param name  what the sentence calls the dictionary: "wishes[2]". Raises where @p value is none. */
+    /** @param name  the dictionary's name in sentences: "wishes[2]". Raises if @p value is none. */
     Fields(const QVariant &value, QString name);
-    /** The same, and raises where the dictionary has another key than these. */
+    /** The same, and raises if the dictionary has other keys than these. */
     Fields(const QVariant &value, QString name, const QStringList &keys);
 
     QString text(const char *key) const;
@@ -23,14 +23,14 @@ public:
     int whole(const char *key, int otherwise) const;
     /** With an end. */
     double number(const char *key, double otherwise) const;
-    /** Of every key, whatever they are called. */
+    /** For every key, whatever its name. */
     QMap<QString, QString> everyText() const;
-    /** Empty where it is missing. */
+    /** Empty if it is missing. */
     QVariantList list(const char *key) const;
     /** The same for a list of texts. */
     QStringList texts(const char *key) const;
 
-    /** Says that @p key holds something else than is expected: "\"move\", \"copy\" or \"link\"". */
+    /** Raises because @p key holds something other than expected: "\"move\", \"copy\" or \"link\"". */
     [[noreturn]] void reject(const char *expected, const char *key) const;
 
 private:
@@ -41,7 +41,7 @@ private:
     QString m_name;
 };
 
-/** A list of whole numbers from @p least on; raises, as Fields does, where one of them is something else. */
+/** A list of whole numbers from @p least on; raises, like Fields, if one of them is something else. */
 QList<int> wholeNumbers(const QVariantList &list, const QString &name, int least);
 
 /** A list of true and false. */

@@ -5,8 +5,8 @@
 namespace platform {
 
 /**
- * The argument of an operation that does not look at it, such as the control that sent an action or a notification. Scripts pass
- * whatever they have, null too.
+ * The argument that an operation ignores, such as the control that sent an action or a notification. Scripts pass
+ * whatever they have, also null.
  */
 struct Sender
 {

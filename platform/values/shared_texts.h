@@ -10,10 +10,10 @@
 namespace platform {
 
 /**
- * A list of texts that everybody who was given it shares: whoever empties it empties it for all.
+ * A list of texts shared by everybody who received it: whoever empties it empties it for all.
  *
- * Copies share one list; a default one is no list at all. A script gets the list as an array of its own, always the same
- * one, which is emptied with it. What is appended after that reaches the array no more. Main thread only.
+ * Copies share one list; a default-constructed one is no list at all. A script gets the list as an array, always the
+ * same one, which is emptied with it. What is appended after that does not reach the array. Main thread only.
  */
 class SharedTexts
 {
@@ -25,12 +25,12 @@ public:
     QStringList texts() const { return m_list ? m_list->texts : QStringList(); }
     /** No-op on a null list. */
     void append(const QString &text);
-    /** Takes all texts away, here and in the form that was given to a script. */
+    /** Removes all texts, here and in the array that was given to a script. */
     void empty();
 
-    /** What a script was given for this list; invalid if nothing was. */
+    /** The array that a script was given for this list; invalid if none was. */
     QVariant form() const { return m_list ? m_list->form : QVariant(); }
-    /** Keeps what a script is given. @p onEmptied empties it. */
+    /** Stores the array given to a script. @p onEmptied empties it. */
     void setForm(const QVariant &form, std::function<void()> onEmptied);
 
     friend bool operator==(const SharedTexts &a, const SharedTexts &b) { return a.m_list == b.m_list; }

@@ -93,7 +93,7 @@ QString MessageReader::text()
 
 QStringList MessageReader::texts()
 {
-    // Each takes the place of its length at least, so that no count can ask for more than is there.
+    // Each takes at least the size of its length field, so that no count can exceed the body.
     const qint64 count = number(0, (m_body.size() - m_place) / qint64(sizeof(qint64)));
     QStringList values;
     for (qint64 i = 0; i < count && m_isGood; ++i)

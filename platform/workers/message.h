@@ -10,7 +10,9 @@
 
 namespace platform {
 
-/** What one process says to another: a kind, values one behind the other, open files. The two agree on what each kind holds. */
+/**
+ * What one process sends to another: a kind, a sequence of values, open files. Both agree on the contents of each kind.
+ */
 struct Message
 {
     quint16 kind = 0;
@@ -29,7 +31,7 @@ public:
     void number(qint64 value);
     void real(double value);
     void flag(bool value) { number(value ? 1 : 0); }
-    /** Any sequence of UTF-16 units, also one that is no text. */
+    /** Any sequence of UTF-16 units, even an invalid one. */
     void text(const QString &value);
     void texts(const QStringList &values);
     void bytes(const QByteArray &value);
@@ -41,8 +43,8 @@ private:
 };
 
 /**
- * Takes values out of a body that may hold anything, in the order in which they were put in. From the first one that is not there or makes
- * no sense on every value is nothing.
+ * Reads the values of a body that may contain anything, in the order in which they were written. After the first
+ * missing or invalid one every value is nothing.
  */
 class MessageReader
 {
@@ -50,7 +52,7 @@ public:
     explicit MessageReader(const QByteArray &body) : m_body(body) {}
 
     qint64 number();
-    /** One that is not from @p least to @p most makes no sense. */
+    /** A value outside @p least to @p most is invalid. */
     qint64 number(qint64 least, qint64 most);
     int integer();
     double real();
@@ -58,13 +60,13 @@ public:
     QString text();
     QStringList texts();
     QByteArray bytes();
-    /** Whether all values so far made sense. */
+    /** Whether all values so far were valid. */
     bool isGood() const { return m_isGood; }
-    /** What stands behind them; 0 where one made no sense. */
+    /** The rest of the body in bytes; 0 after an invalid value. */
     qint64 bytesLeft() const { return m_isGood ? m_body.size() - m_place : 0; }
-    /** The value that was read last makes no sense to whoever asked for it. */
+    /** The caller considers the value that was read last invalid. */
     void refuse() { m_isGood = false; }
-    /** Whether all values made sense and nothing stands behind them. */
+    /** Whether all values were valid and nothing follows them. */
     bool isAll() const { return m_isGood && m_place == m_body.size(); }
 
 private:

@@ -12,7 +12,7 @@
 namespace platform {
 namespace {
 
-/** What stands before a body: the mark with the version, the kind, how many files come along, the length. */
+/** The header of a body: the mark with the version, the kind, the number of files, the length. */
 constexpr std::array<char, 4> mark = {'Q', 'w', 'm', 1};
 constexpr qsizetype kindAt = 4;
 constexpr qsizetype filesAt = 6;
@@ -58,7 +58,7 @@ void MessageSocket::sendWaiting()
             m_waiting.pop_front();
 }
 
-/** False where nothing more is taken now. The files go with the first byte, and are this process's no longer. */
+/** False if nothing more is accepted now. The files go with the first byte, and no longer belong to this process. */
 bool MessageSocket::sendSome(Waiting &waiting)
 {
     iovec part = {waiting.bytes.data() + waiting.sent, size_t(waiting.bytes.size() - waiting.sent)};
@@ -102,10 +102,10 @@ void MessageSocket::takeFiles(msghdr &header)
             m_receivedFiles.emplace_back(number);
         }
     }
-    // None wait but those of the message that is under way, and of what was sent with it.
+    // No files are pending except those of the current message, and of what was sent with it.
     if (m_receivedFiles.size() > 2 * mostFiles)
         m_state = State::Nonsense;
-    if ((header.msg_flags & MSG_CTRUNC) != 0) // more than a message may have, or some where none are taken
+    if ((header.msg_flags & MSG_CTRUNC) != 0) // more than a message may have, or any if none are accepted
         m_state = State::Nonsense;
 }
 

@@ -10,13 +10,14 @@ struct msghdr;
 namespace platform {
 
 /**
- * One end of a pair of sockets by which two processes exchange messages. Each has a mark with the version of this format and the length
- * of its body in front; what does not begin so, or is larger than a message may be, ends the conversation.
+ * One end of a pair of sockets through which two processes exchange messages. Each is preceded by a mark with the
+ * version of this format and the length of its body; anything that does not begin so, or is larger than allowed, ends
+ * the connection.
  */
 class MessageSocket
 {
 public:
-    enum class Files { Taken, Refused }; ///< whether the other side may hand over open files
+    enum class Files { Taken, Refused }; ///< whether the other side may pass open files
     enum class State { Open, Ended, Nonsense };
 
     MessageSocket(Descriptor socket, Files files) : m_socket(std::move(socket)), m_files(files) {}
@@ -26,23 +27,23 @@ public:
         Descriptor one;
         Descriptor other;
     };
-    /** Two sockets that are connected; closed ones where the system has none left. */
+    /** Two connected sockets; closed ones if the system has none left. */
     static Pair makePair();
 
     int descriptor() const { return m_socket.number(); }
     State state() const { return m_state; }
 
-    /** Sends; what the other side does not take yet waits where the socket does not block. */
+    /** Sends; what the other side does not accept yet is queued if the socket does not block. */
     void send(Message message);
-    /** Sends what waits, as far as the other side takes it. */
+    /** Sends queued data, as far as the other side accepts it. */
     void sendWaiting();
     bool hasWaiting() const { return !m_waiting.empty(); }
 
-    /** Reads once what is there, or waits for it where the socket blocks. */
+    /** Reads once what is available, or waits for it if the socket blocks. */
     void receive();
-    /** The next message that is complete. */
+    /** The next complete message. */
     std::optional<Message> next();
-    /** Waits for the next one; for a socket that blocks. Nothing at the end. */
+    /** Waits for the next one; for a blocking socket. Nothing at the end. */
     std::optional<Message> wait();
 
 private:

@@ -48,7 +48,7 @@ QVariant readValueAt(MessageReader &reader, int depth)
     return {};
 }
 
-/** How many values are said to follow; each takes the place of its kind at least. */
+/** How many values are said to follow; each takes at least the size of its kind. */
 qint64 readCount(MessageReader &reader)
 {
     const qint64 most = reader.bytesLeft() / qint64(sizeof(qint64));

@@ -7,15 +7,15 @@
 namespace platform {
 
 /**
- * Puts a value into a message: nothing, a truth, a number, a text, bytes, texts, and lists and dictionaries of such. Of any other
- * one what it is as a text goes.
+ * Writes a value into a message: nothing, a boolean, a number, a text, bytes, texts, and lists and dictionaries of
+ * such. Any other value is written as text.
  */
 void writeValue(MessageWriter &writer, const QVariant &value);
 
-/** Takes one out that may be anything. One that is nested more than 16 levels deep makes no sense. */
+/** Reads a value, which may be anything. More than 16 levels of nesting are invalid. */
 QVariant readValue(MessageReader &reader);
 
-/** A value that has to be a dictionary. */
+/** A value that must be a dictionary. */
 QVariantMap readFields(MessageReader &reader);
 
 } // namespace platform

@@ -23,7 +23,7 @@ namespace {
 
 constexpr int betweenLooks = 100; // milliseconds
 
-/** What a child finds open: nothing to read, nothing to print to but the errors, and its socket. */
+/** The descriptors of a child: nothing to read, no output except errors, and its socket. */
 class SpawnActions
 {
 public:
@@ -44,7 +44,7 @@ private:
     posix_spawn_file_actions_t m_actions = {};
 };
 
-/** The number of the new process, or what is negative and an errno. */
+/** The number of the new process, or a negative errno. */
 pid_t spawned(const QString &program, int socket, qint64 bytes, const QStringList &further)
 {
     const QByteArray name = QFile::encodeName(program);
@@ -108,7 +108,7 @@ WorkerPool::~WorkerPool()
 {
     while (!m_workers.empty())
         remove(m_workers.begin()->first);
-    // One that hangs in the system cannot be waited for; it ends when it comes out of there.
+    // One that hangs in a system call cannot be waited for; it ends when it returns.
     constexpr int looks = 100;
     constexpr int microseconds = 10'000;
     for (int i = 0; i < looks && !m_ending.empty(); ++i) {
@@ -170,7 +170,7 @@ void WorkerPool::serve(Id id)
 {
     if (const auto found = m_workers.find(id); found != m_workers.end())
         found->second->socket.receive();
-    // Whoever takes a message may end the worker.
+    // The receiver of a message may end the worker.
     for (auto found = m_workers.find(id); found != m_workers.end(); found = m_workers.find(id)) {
         MessageSocket &socket = found->second->socket;
         std::optional<Message> message = socket.next();
@@ -254,7 +254,7 @@ void WorkerPool::remove(Id id)
 
 void WorkerPool::watch()
 {
-    // What lies between two looks is no more than this where the machine slept or this process was stopped.
+    // The time between two checks counts as at most this if the machine slept or this process was stopped.
     constexpr qint64 longest = 1000;
     const qint64 since = std::min(m_sinceWatch.restart(), longest);
     m_gone.clear();

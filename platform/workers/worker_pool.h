@@ -14,12 +14,12 @@
 
 namespace platform {
 
-/** What a worker may use for one piece of work. */
+/** The resources that a worker may use for one piece of work. */
 struct WorkerLimits
 {
     int seconds = 300;
     qint64 residentBytes = qint64(2048) << 20;
-    int niceness = 0; ///< how much less than this process it presses for the processors, to 19
+    int niceness = 0; ///< niceness relative to this process, up to 19
 };
 
 enum class WorkerEnd {
@@ -30,8 +30,8 @@ enum class WorkerEnd {
 };
 
 /**
- * Child processes that do work for this one and are spoken to in messages. They end with this process, whatever it ends by: the program
- * asks for that with endWithParent(). For a thread with an event loop; the functions that are called back come out of it.
+ * Child processes that do work for this one and communicate by messages. They end with this process, however it ends:
+ * the program arranges that with endWithParent(). For a thread with an event loop; callbacks come from that loop.
  */
 class WorkerPool
 {
@@ -40,7 +40,7 @@ public:
 
     /**
      * @param program  absolute; gets the socket as descriptor 3, the number of this process and the limit of memory as arguments
-     * @param files    whether they may hand over open files, such as pixels in shared memory
+     * @param files    whether they may pass open files, such as pixels in shared memory
      */
     WorkerPool(const QString &program, const WorkerLimits &limits,
                MessageSocket::Files files = MessageSocket::Files::Refused);
@@ -49,29 +49,30 @@ public:
     /** Ends all workers. */
     ~WorkerPool();
 
-    /** Further arguments for workers that are started from now on. */
+    /** Further arguments for workers started from now on. */
     void setArguments(const QStringList &arguments) { m_arguments = arguments; }
 
     std::function<void(Id worker, Message message)> onMessage;
-    /** The worker is no longer there. Not called for those that end() ends. */
+    /** The worker has ended. Not called for those that end() ends. */
     std::function<void(Id worker, WorkerEnd end)> onEnded;
 
-    /** Starts one; nothing where that fails, with a reason in @p problem. */
+    /** Starts one; nothing if that fails, with a reason in @p problem. */
     std::optional<Id> start(QString *problem = nullptr);
     void send(Id worker, Message message);
     /**
-     * From here to endWork() it works on one thing, for which it has so much time and memory.
+     * From here to endWork() it processes one item, for which it has so much time and memory.
      *
      * @param seconds  0 for those of the limits
      */
     void beginWork(Id worker, int seconds = 0);
     void endWork(Id worker);
-    /** Goes on with the same thing. */
+    /** Continues with the same item. */
     void resumeWork(Id worker);
     /**
-     * Waits for what @p worker says next, or for its end, and calls back for it, and for those that are beyond their limits.
+     * Waits for the next message of @p worker, or for its end, and calls back for it, and for those beyond their
+     * limits.
      *
-     * @return false where it said nothing for @p milliseconds, or is not there
+     * @return false if there was no message for @p milliseconds, or it does not exist
      */
     bool waitFor(Id worker, int milliseconds);
     /** Ends it at once. */
@@ -92,22 +93,22 @@ private:
     WorkerLimits m_limits;
     MessageSocket::Files m_files;
     std::map<Id, std::unique_ptr<Worker>> m_workers;
-    std::vector<std::unique_ptr<Worker>> m_gone; ///< until nobody is in the middle of them
-    std::vector<int> m_ending;                   ///< processes that were ended and have not left yet
+    std::vector<std::unique_ptr<Worker>> m_gone; ///< until nobody is using them
+    std::vector<int> m_ending;                   ///< processes that were killed and have not exited yet
     QTimer m_watch;
     QElapsedTimer m_sinceWatch;
     Id m_next = 0;
 };
 
 /**
- * To be called first of all by a worker: it ends as soon as the process that started it does, and does not listen to what a terminal tells
- * all programs at once.
+ * A worker calls this first: it ends as soon as its parent process does, and ignores the signals that a terminal sends
+ * to all programs.
  *
- * @param parent  the number of the process that started it; where that has ended already, so does this one
+ * @param parent  the number of the parent process; if that has ended already, so does this one
  */
 void endWithParent(int parent);
 
-/** The descriptor under which a worker finds its socket. */
+/** The descriptor of a worker's socket. */
 inline constexpr int workerSocket = 3;
 
 } // namespace platform

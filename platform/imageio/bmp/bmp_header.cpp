@@ -4,7 +4,7 @@
 
 #include <cstdlib>
 
-// A bitmap file; numbers have their lowest byte first, places count from the first byte:
+// A bitmap file; numbers are little-endian, offsets count from the first byte:
 //
 //     0 "BM"  2 size of the file  10 where the rows begin | 14 size of the second header, which tells its version:
 //     12: 18 width (2)  20 height (2)  24 bits (2)
@@ -39,7 +39,7 @@ Fields fieldsOf(const QByteArray &head)
         return {numberAt<quint16>(head, 18), numberAt<quint16>(head, 20), numberAt<quint16>(head, 24), 0};
     if (headerBytes < usualHeaderBytes)
         return {};
-    // A negative height says that the rows stand from top to bottom.
+    // A negative height means that the rows are stored from top to bottom.
     return {numberAt<qint32>(head, 18), std::llabs(qint64(numberAt<qint32>(head, 22))), numberAt<quint16>(head, 28),
             numberAt<quint32>(head, 30)};
 }

@@ -67,7 +67,7 @@ void readMasks(Layout &layout, const QByteArray &head, quint32 headerBytes)
     }
 }
 
-/** Where the palette begins; the masks of the usual header stand before it. */
+/** Where the palette begins; the masks of the usual header precede it. */
 qsizetype paletteStart(const Layout &layout, quint32 headerBytes)
 {
     const bool masksFollow = headerBytes == usualHeaderBytes && layout.compression == Masks;
@@ -101,7 +101,7 @@ bool isReadable(const Layout &layout, quint32 headerBytes)
 {
     static constexpr std::array<int, 7> depths = {1, 2, 4, 8, 16, 24, 32};
     const bool isWide = layout.bits == 16 || layout.bits == 32;
-    const bool isOther = headerBytes == 64; // of another system: its compressions 3 and 4 mean something else
+    const bool isOther = headerBytes == 64; // of another system: its compressions 3 and 4 have other meanings
     switch (layout.compression) {
     case Plain:
         return std::find(depths.begin(), depths.end(), layout.bits) != depths.end();
@@ -141,7 +141,7 @@ Layout layoutOf(QIODevice &file)
     return layout;
 }
 
-/** One component of a pixel at the full range of its type. */
+/** One component of a pixel, scaled to the full range of its type. */
 class Component
 {
 public:
@@ -205,7 +205,7 @@ VImage colouredPixels(QIODevice &file, const Layout &layout)
     return pixels.taken(isDeep ? VIPS_INTERPRETATION_RGB16 : VIPS_INTERPRETATION_sRGB);
 }
 
-/** The numbers of the palette that a row of few bits a pixel holds. */
+/** The palette indices in a row with few bits per pixel. */
 void unpack(const uchar *from, uchar *to, int width, int bits)
 {
     const uchar mask = uchar((1U << bits) - 1);

@@ -9,13 +9,14 @@
 namespace platform {
 
 /**
- * The picture of a bitmap file: palettes of 1 to 8 bits, rows of 16 to 32 bits with any masks, runs of 4 and 8 bits; from below
- * or from above. Components come at their full range, in 8 bits, or in 16 where a mask is wider than 8; grey where all of the
- * palette is. The caller has checked the size that the file claims. Throws vips::VError, also where the file is cut short.
+ * The picture of a bitmap file: palettes of 1 to 8 bits, rows of 16 to 32 bits with any masks, runs of 4 and 8 bits;
+ * bottom-up or top-down. Components are scaled to the full range, in 8 bits, or in 16 if a mask is wider than 8; grey
+ * if the whole palette is. The caller has checked the size that the file claims. Throws vips::VError, also if the file
+ * is truncated.
  */
 vips::VImage bmpPixels(QIODevice &file);
 
-/** Bits of an index into the palette, or of the widest component and at least 8. Throws vips::VError as bmpPixels() does. */
+/** Bits of a palette index, or of the widest component and at least 8. Throws vips::VError like bmpPixels(). */
 int bmpDepth(QIODevice &file);
 
 } // namespace platform

@@ -9,7 +9,7 @@ namespace {
 
 enum Command : uchar { EndOfRow = 0, EndOfPicture = 1, Jump = 2 };
 
-/** Goes through the runs and puts them in their places; what lies outside the picture is left out. */
+/** Expands the runs into rows; anything outside the picture is dropped. */
 class Runs
 {
 public:
@@ -22,7 +22,7 @@ public:
     {
         while (m_row < m_size.height()) {
             if (isAtEnd() && m_row == m_size.height() - 1 && m_column >= m_size.width())
-                break; // some writers leave the last mark away
+                break; // some writers omit the last mark
             const uchar count = next();
             const uchar value = next();
             if (count > 0)
@@ -80,7 +80,7 @@ private:
         }
     }
 
-    /** Pixels that stand one by one, filled up to an even number of bytes. */
+    /** Individual pixels, padded to an even number of bytes. */
     void copy(int count)
     {
         const int perByte = m_bits == 8 ? 1 : 2;

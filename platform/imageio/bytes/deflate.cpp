@@ -8,7 +8,7 @@ namespace platform {
 
 QByteArray deflated(const QByteArray &bytes)
 {
-    // Photographs become hardly smaller above this, and take several times as long.
+    // Above this level photographs hardly get smaller, but take several times as long.
     constexpr int quickLevel = 1;
     const std::unique_ptr<libdeflate_compressor, void (*)(libdeflate_compressor *)> compressor(
         libdeflate_alloc_compressor(quickLevel), libdeflate_free_compressor);
@@ -18,7 +18,7 @@ QByteArray deflated(const QByteArray &bytes)
                       Qt::Uninitialized);
     const size_t size = libdeflate_zlib_compress(compressor.get(), bytes.constData(), size_t(bytes.size()),
                                                  stream.data(), size_t(stream.size()));
-    stream.truncate(qsizetype(size)); // pages beyond it were never touched
+    stream.truncate(qsizetype(size)); // the pages after it were never touched
     return stream;
 }
 

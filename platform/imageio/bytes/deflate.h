@@ -6,10 +6,10 @@
 
 namespace platform {
 
-/** The bytes as one zlib stream, quickly rather than as small as can be. Empty where memory fails. */
+/** The bytes as one zlib stream, fast rather than as small as possible. Empty if memory fails. */
 QByteArray deflated(const QByteArray &bytes);
 
-/** The checksum of PNG chunks, going on from that of the bytes before. */
+/** The checksum of PNG chunks, continued from that of the preceding bytes. */
 quint32 crc32Of(const QByteArray &bytes, quint32 before = 0);
 
 } // namespace platform

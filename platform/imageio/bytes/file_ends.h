@@ -4,7 +4,7 @@
 
 namespace platform {
 
-/** A file without the pixels in its middle: what stands before them, and what stands behind. */
+/** A file without the pixels in its middle: what precedes them, and what follows them. */
 struct FileEnds
 {
     QByteArray head;

@@ -13,10 +13,10 @@ namespace platform {
 
 class LentFile;
 
-/** Where a picture's bytes come from: a file that is there under its path, one that was lent, or memory. */
+/** The source of a picture's bytes: a file at its path, one that was lent, or memory. */
 struct PictureBytes
 {
-    QString path; ///< of a file that was lent, what messages call it
+    QString path; ///< the name of a lent file for messages
     QByteArray bytes;
     std::shared_ptr<const LentFile> lent = {};
 
@@ -26,15 +26,18 @@ struct PictureBytes
 
     /** A device over the bytes, open for reading; null if the file cannot be opened. */
     std::unique_ptr<QIODevice> device() const;
-    /** The file, open to be mapped; null where there is none. */
+    /** The file, open to be mapped; null if there is none. */
     std::unique_ptr<QFile> openedFile() const;
-    /** The same as device(); throws vips::VError where that is null. */
+    /** Like device(), but throws vips::VError instead of returning null. */
     std::unique_ptr<QIODevice> openedDevice() const;
-    /** All of them. Throws vips::VError where the file cannot be read. */
+    /** All of them. Throws vips::VError if the file cannot be read. */
     QByteArray all() const;
 };
 
-/** Throws vips::VError where some of the device could not be read, so that what is missing does not count as not stated. */
+/**
+ * Throws vips::VError if some of the device could not be read, so that missing bytes do not count as missing
+ * statements.
+ */
 void demandRead(const QIODevice &device);
 
 } // namespace platform

@@ -75,7 +75,7 @@ constexpr std::array<Codec, 13> codecs = {{
      .load = [](const PictureBytes &source, const LoadOptions &) { return loadJpeg2000(source); },
      .isWhole = isWholeJpeg2000,
      .encode = jpeg2000Of},
-    {.content = Content::JpegXl, .load = loadJpegXl, .encode = jpegXlOf}, // its decoder tells where it is cut
+    {.content = Content::JpegXl, .load = loadJpegXl, .encode = jpegXlOf}, // its decoder reports truncation
     {.content = Content::Photoshop,
      .load = loadPhotoshop,
      .isWhole = isWholePhotoshop,
@@ -111,7 +111,7 @@ const Codec *codecOf(Content content)
 VImage openImage(const PictureBytes &source, Content content, const LoadOptions &options)
 {
     initVips();
-    // What an earlier picture left in the library's one buffer would be told as the reason of this one.
+    // What an earlier picture left in the library's only buffer would be reported as the reason for this one.
     vips_error_clear();
     const Codec *codec = codecOf(content);
     if (!codec)

@@ -15,26 +15,31 @@
 
 namespace platform {
 
-/** How pixels are encoded. What a format has no use for is passed over. */
+/** How pixels are encoded. A format ignores what it has no use for. */
 struct CodecOptions
 {
     Resolution resolution;
     std::optional<double> jpegQuality;            ///< 0.01 to 1
-    std::optional<JpegQuantisation> sourceTables; ///< of a JPEG, where no quality is asked for
-    std::optional<Compression> compression; ///< of other types that may lose some of the picture, where it is asked for
-    QByteArray profile;                     ///< the one that is kept; empty where none is
-    ContainerBlocks blocks;                 ///< of an AVIF; other files get their metadata once they are encoded
+    std::optional<JpegQuantisation> sourceTables; ///< of a JPEG, if no quality is requested
+    std::optional<Compression> compression;       ///< of other lossy types, if requested
+    QByteArray profile;                           ///< the profile to embed; empty for none
+    ContainerBlocks blocks;                       ///< of an AVIF; other files get their metadata after encoding
 };
 
-/** What the program does with one kind of picture file; what such files are and keep stands in formats.h under the same key. */
+/**
+ * What the program does with one kind of picture file; the properties of such files are in formats.h under the same
+ * key.
+ */
 struct Codec
 {
     Content content = Content::Unknown;
     vips::VImage (*load)(const PictureBytes &source, const LoadOptions &options) = nullptr;
-    bool (*isWhole)(QIODevice &file) = nullptr; ///< null where no structure could tell
-    /** Null for what is not written. The pixels are as the format can hold them. Throws vips::VError. */
+    bool (*isWhole)(QIODevice &file) = nullptr; ///< null if the structure cannot tell
+    /** Null if the type is not written. The pixels are in a form that the format can hold. Throws vips::VError. */
     Result<QByteArray> (*encode)(const vips::VImage &image, const CodecOptions &options) = nullptr;
-    /** Without the decoder, where that is asked for a size which the file does not have room for; null for others. */
+    /**
+     * Without the decoder, if that would allocate for a claimed size which the file cannot contain; null for others.
+     */
     QSize (*claimedSize)(QIODevice &file) = nullptr;
 };
 
@@ -43,8 +48,8 @@ const Codec *codecOf(Content content);
 
 /**
  * Opens image @p options.page of the file for one pass from top to bottom; pixels are decoded as they are pulled, and a
- * damaged or cut picture fails then. The samples are those of the file, with what is known of them: inForm() makes pixels of
- * them that can be worked with. Throws vips::VError.
+ * damaged or truncated picture fails then. The samples are those of the file, with what is known about them: inForm()
+ * converts them to usable pixels. Throws vips::VError.
  */
 vips::VImage openImage(const PictureBytes &source, Content content, const LoadOptions &options = {});
 

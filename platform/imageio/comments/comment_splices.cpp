@@ -23,7 +23,9 @@ QByteArray exifSegment(const QByteArray &block)
     return segment + exifName + block;
 }
 
-/** The block over the segments that held it before, each with as much as before and the last with the rest. */
+/**
+ * The block distributed over the segments that held it before, each with as much as before and the last with the rest.
+ */
 CommentSplices overSegments(const QList<JpegSegments::Range> &ranges, const QByteArray &block)
 {
     constexpr qsizetype head = 10; // marker, length, name
@@ -40,7 +42,7 @@ CommentSplices overSegments(const QList<JpegSegments::Range> &ranges, const QByt
     return splices;
 }
 
-/** A later page of a raw file of a camera may be the raw picture itself. */
+/** A later page of a camera raw file may be the raw picture itself. */
 OtherPages otherPagesOf(const QByteArray &bytes)
 {
     return isCameraRaw(bytes) ? OtherPages::Keep : OtherPages::Drop;

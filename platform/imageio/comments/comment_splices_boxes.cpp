@@ -1,10 +1,10 @@
-// PNG, JPEG 2000 and WebP: chains of parts, each with its length and its name, some of which holds an EXIF block:
+// PNG, JPEG 2000 and WebP: chains of parts, each with its length and its name, some of which contain an EXIF block:
 //
 //     PNG        0x89 "PNG" ... (8) | length (4) | name (4) | data | sum (4) ...    "eXIf", or a text "Raw profile type exif"
 //     JPEG 2000  length (4), all of it | name (4) | data ...    "uuid", whose data begin with the 16 bytes of EXIF's identifier
 //     WebP       "RIFF" | length (4) | "WEBP" | name (4) | length (4) | data, padded to even ...    "EXIF"
 //
-// Numbers have their highest byte first, but in WebP their lowest.
+// Numbers are big-endian, except in WebP, where they are little-endian.
 
 #include "platform/foundation/byte_order.h"
 #include "platform/imageio/comments/comment_splices.h"
@@ -21,13 +21,13 @@ namespace {
 
 constexpr int mostParts = 65536;
 
-/** One part of a file with its frame. */
+/** One part of a file with its header. */
 struct Part
 {
     QByteArray name;
     qint64 at = 0;
     qint64 size = 0;   ///< all of it
-    qint64 dataAt = 0; ///< of what it holds
+    qint64 dataAt = 0; ///< of its contents
     qint64 dataSize = 0;
     bool isValid = false;
 };
@@ -73,7 +73,7 @@ Part pngPart(QFile &file, qint64 at)
     return {head.mid(4), at, size + frame, at + 8, size, true};
 }
 
-/** The chunk with the EXIF block, and the block: eXIf, or a text that stands for it. */
+/** The chunk with the EXIF block, and the block: eXIf, or a text that represents it. */
 struct PngExif
 {
     Part chunk;
@@ -128,7 +128,7 @@ QByteArray riffBytes(const QByteArray &name, const QByteArray &data)
     return name + littleEndian32(quint32(data.size())) + data + QByteArray(data.size() % 2, '\0');
 }
 
-/** The header of the extended form for a file that has only a picture; empty where its size cannot be told. */
+/** The header of the extended form for a file that has only a picture; empty if its size is unknown. */
 QByteArray webpHeader(QFile &file, const Part &picture)
 {
     const QByteArray head = bytesOf(file, picture.dataAt, 10);
@@ -190,7 +190,7 @@ CommentSplices jpeg2000CommentSplices(QFile &file, const QString &comment)
     static const QByteArray exifIdentifier = "JpgTiffExif->JP2";
     const QList<Part> boxes = parts(0, file.size(), [&](qint64 at) { return box(file, at); });
     const Part *pixels = firstNamed(boxes, "jp2c");
-    if (!pixels) // bare pixels have no place for it
+    if (!pixels) // a bare codestream has no place for it
         return failure(ErrorCode::Unsupported, QStringLiteral("this type of file cannot hold a comment"));
     const auto old = std::find_if(boxes.begin(), boxes.end(), [&](const Part &part) {
         return part.name == "uuid" && bytesOf(file, part.dataAt, exifIdentifier.size()) == exifIdentifier;
@@ -204,7 +204,7 @@ CommentSplices jpeg2000CommentSplices(QFile &file, const QString &comment)
     const Splice splice{isThere ? old->at : pixels->at, isThere ? old->size : 0,
                         bigEndian(quint32(data.size() + 8)) + "uuid" + data};
     const bool movesPixels = splice.removed != splice.inserted.size() && splice.at < pixels->at;
-    if (movesPixels && firstNamed(boxes, "ftbl")) // a table of places in the file
+    if (movesPixels && firstNamed(boxes, "ftbl")) // it has a table of file offsets
         return failure(ErrorCode::Unsupported, QStringLiteral("this type of file cannot hold a comment"));
     return QList<Splice>{splice};
 }

@@ -44,7 +44,7 @@ Result<QList<Splice>> splicesFor(QFile &file, Content content, const QString &co
     }
 }
 
-/** Splices that put back what is there. */
+/** Splices that restore the previous content. */
 bool changeNothing(QFile &file, const QList<Splice> &splices)
 {
     for (const Splice &splice : splices)
@@ -54,10 +54,10 @@ bool changeNothing(QFile &file, const QList<Splice> &splices)
     return true;
 }
 
-/** What has to change in a picture, and the picture as it is. */
+/** The changes to a picture, and the picture as it is. */
 struct Edit
 {
-    QList<Splice> splices; ///< none where nothing changes
+    QList<Splice> splices; ///< none if nothing changes
     ImageSource before;
 };
 
@@ -71,16 +71,16 @@ Result<Edit> editFor(NamedFile &file, const std::function<Result<ImageSource>()>
 {
     const QString path = file.fileName();
     const Result<QList<Splice>> splices = splicesFor(file, contentOf(file.read(contentHeadBytes)), comment);
-    if (!file.readProblem().isEmpty()) // what could not be read would be taken for not there, and be written over
+    if (!file.readProblem().isEmpty()) // what could not be read would be taken for missing, and be overwritten
         return unwritten(path, ErrorCode::Unreadable, file.readProblem());
     if (!splices)
         return unwritten(path, splices.error().code, splices.error().message);
-    return open().map([&](const ImageSource &picture) { // whoever cannot read it must not write it
+    return open().map([&](const ImageSource &picture) { // users who cannot read it must not write it
         return changeNothing(file, *splices) ? Edit{{}, picture} : Edit{*splices, picture};
     });
 }
 
-/** Whether the edited file is the same picture as before, and says what it was meant to say. */
+/** Whether the edited file is the same picture as before, with the intended comment. */
 Result<void> checkEdited(const Edit &edit, const Result<ImageSource> &edited, const QString &path,
                          const QString &comment)
 {
@@ -117,7 +117,7 @@ int pagesLostIn(QFile &file)
     return contentOf(file.read(contentHeadBytes)) == Content::Tiff ? pagesLostToComment(file) : 0;
 }
 
-/** From its beginning; whoever reads it by places does not notice. */
+/** Starts at the beginning; readers by offset do not notice. */
 bool openLent(QFile &file, const LentFile &lent)
 {
     return file.open(lent.descriptor(), QIODevice::ReadOnly | QIODevice::Unbuffered) && file.seek(0);
@@ -169,7 +169,7 @@ Result<void> writeUserComment(const QString &path, const QString &comment)
         return tl::unexpected<Error>(edit.error());
     if (edit->splices.isEmpty())
         return {};
-    if (::faccessat(AT_FDCWD, encodedPath(path).constData(), W_OK, AT_EACCESS) != 0) // whoever protected it meant it
+    if (::faccessat(AT_FDCWD, encodedPath(path).constData(), W_OK, AT_EACCESS) != 0) // write protection is intentional
         return unwritten(path, ErrorCode::WriteFailed,
                          text(QT_TRANSLATE_NOOP("platform", "the file is write-protected")));
     return spliceFile(file, edit->splices, [&](const QString &editedPath) {

@@ -1,6 +1,7 @@
 #include "platform/imageio/convert/jpeg_straight.h"
 
-// A JPEG goes into an uncompressed file row by row, since that costs half of decoding it into memory and encoding that.
+// A JPEG is written into an uncompressed file row by row, at half the cost of decoding it into memory and encoding
+// that.
 
 #include "platform/file/replacement_file.h"
 #include "platform/graphics/icc_profile.h"
@@ -19,7 +20,7 @@ namespace {
 
 using vips::VImage;
 
-/** Some rows, as many as stay in the processor's own memory. */
+/** Some rows, as many as fit in the processor's cache. */
 class Band
 {
 public:
@@ -31,14 +32,14 @@ public:
 
     int rows() const { return m_rows; }
     const char *bytes() const { return reinterpret_cast<const char *>(m_bytes.data()); }
-    /** Where @p count rows go one behind the other. */
+    /** Pointers to @p count consecutive rows. */
     uchar **downwards(int count)
     {
         for (int row = 0; row < count; ++row)
             m_places[size_t(row)] = m_bytes.data() + m_rowBytes * row;
         return m_places.data();
     }
-    /** Where they go when the last one comes first. */
+    /** The same if the last row comes first. */
     uchar **upwards(int count)
     {
         std::reverse(downwards(count), downwards(count) + count);
@@ -49,7 +50,7 @@ private:
     static constexpr qint64 mostBytes = 512 * 1024;
     qint64 m_rowBytes;
     int m_rows;
-    std::vector<uchar> m_bytes; // what fills up a row stays zero
+    std::vector<uchar> m_bytes; // padding of a row stays zero
     std::vector<uchar *> m_places;
 };
 
@@ -66,7 +67,7 @@ bool agree(const JpegRows &rows, const VImage &shape)
     return rows.isGood() && rows.bands() == shape.bands() && rows.size() == QSize(shape.width(), shape.height());
 }
 
-/** Writes all rows from the last place of a bitmap file to the first; false where they cannot be decoded. */
+/** Writes all rows from the end of a bitmap file to its start; false if they cannot be decoded. */
 bool pourUpwards(JpegRows &rows, qint64 headers, ReplacementFile &file)
 {
     const qint64 rowBytes = bmpRowBytes(rows.size().width(), rows.bands());
@@ -81,7 +82,7 @@ bool pourUpwards(JpegRows &rows, qint64 headers, ReplacementFile &file)
     return true;
 }
 
-/** Writes all rows behind the heads of two files. */
+/** Writes all rows after the headers of two files. */
 bool pourDownwards(JpegRows &rows, ReplacementFile &plain, qint64 plainAt, ReplacementFile &whole, qint64 wholeAt)
 {
     const qint64 rowBytes = qint64(rows.size().width()) * rows.bands();
@@ -153,7 +154,7 @@ Result<bool> writeTiff(const ImageSource::File &file, const QString &path, const
     return isDone(first.takePlace().and_then([&second] { return second.takePlace(); }));
 }
 
-/** Where anything is odd about the file the other way is taken, which knows what to say about it. */
+/** If anything is odd about the file, the other way is taken, which reports it properly. */
 template<typename Writing> Result<bool> attempted(Writing writing)
 {
     try {

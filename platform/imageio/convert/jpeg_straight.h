@@ -5,21 +5,21 @@
 namespace platform {
 
 /**
- * Writes image 0 of @p source into a bitmap file as ImageSource::decode() and writeImageFile() would, the
- * resolution included, at half the cost and with no more than some rows in memory.
+ * Writes image 0 of @p source into a bitmap file as ImageSource::decode() and writeImageFile() would, including the
+ * resolution, at half the cost and with no more than some rows in memory.
  *
- * @return false where it does not go that way and nothing was written: for all but upright JPEGs of grey or sRGB, and for
- *         such as the decoder has anything to say about
+ * @return false if this way is not possible and nothing was written: for all except upright JPEGs of grey or sRGB about
+ *         which the decoder has nothing to report
  *
  * Atomic. Fails with WriteFailed.
  */
 Result<bool> writeRowsAsBmp(const ImageSource &source, const QString &path);
 
 /**
- * Writes image 0 as stored into a TIFF file in the same way, first without metadata and then, replacing that, with
- * @p metadata; where only the second fails, the first is left. Both are atomic.
+ * Writes image 0 as stored into a TIFF file in the same way, first without metadata and then again with
+ * @p metadata; if only the second step fails, the first result remains. Both are atomic.
  *
- * @return false where it does not go that way and nothing was written: for all but JPEGs of grey or three colours
+ * @return false if this way is not possible and nothing was written: for all except JPEGs of grey or three colours
  */
 Result<bool> writeRowsAsTiff(const ImageSource &source, const QString &path, const Metadata &metadata);
 

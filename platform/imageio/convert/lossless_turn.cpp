@@ -38,7 +38,7 @@ bool canTurnWithoutLoss(const ImageSource &source, ExactTurn turn)
     const bool hasColours = header->componentCount > 1;
     const int across = hasColours ? header->quantisation.horizontalSampling : 1;
     const int down = hasColours ? header->quantisation.verticalSampling : 1;
-    // What stands at the right or at the bottom comes to the other side, where no part of a block may be.
+    // The right or bottom edge moves to the other side, where no partial block is allowed.
     const bool fitsAcross = header->size.width() % (block * across) == 0;
     const bool fitsDown = header->size.height() % (block * down) == 0;
     constexpr int mostToSwap = 2;

@@ -7,14 +7,14 @@ namespace platform {
 
 /**
  * The bytes of a JPEG file with the stored pixels of image 0 of @p source turned, without decoding them and so without any
- * loss; metadata, profile and orientation tag are kept, sizes in the metadata are right again.
+ * loss; metadata, profile and orientation tag are kept, sizes in the metadata are corrected.
  *
- * None where that cannot be done exactly: for other kinds of file, where a side that is mirrored is not whole
- * blocks, and for damaged files. Memory: the file twice and up to 12 bytes a pixel.
+ * None if that cannot be done exactly: for other kinds of file, if a mirrored side is not a whole number of blocks, and
+ * for damaged files. Memory: twice the file and up to 12 bytes a pixel.
  */
 std::optional<QByteArray> turnedWithoutLoss(const ImageSource &source, ExactTurn turn);
 
-/** Whether that is so, as far as the header tells; a damaged file is found when it is turned. */
+/** Whether that is possible, as far as the header tells; damage is found when it is turned. */
 bool canTurnWithoutLoss(const ImageSource &source, ExactTurn turn);
 
 } // namespace platform

@@ -29,7 +29,7 @@ std::optional<QByteArray> bytesOf(const ImageSource &source)
     return device && readProblemOf(*device).isEmpty() && !bytes.isEmpty() ? std::optional(bytes) : std::nullopt;
 }
 
-/** One chunk of a PNG with its frame. */
+/** One chunk of a PNG with its header. */
 struct PngChunk
 {
     QByteArray name;
@@ -85,7 +85,7 @@ QByteArray barePng(const QByteArray &png, std::optional<double> dpi)
     return bare;
 }
 
-/** Only what the JFIF segment says is set; a file without one says it in EXIF. */
+/** Sets only what the JFIF segment states; a file without one states it in EXIF. */
 QByteArray bareJpeg(const QByteArray &jpeg, std::optional<double> dpi)
 {
     constexpr qsizetype unitAt = 7;
@@ -132,7 +132,7 @@ bool statesItsResolution(const QByteArray &jpeg2000)
     return false;
 }
 
-/** The file with nothing in it but its pictures and their colours; empty where that cannot be done. */
+/** The file with nothing but its pictures and their colours; empty if that cannot be done. */
 QByteArray bareFile(const QByteArray &file, Content content, std::optional<double> dpi)
 {
     switch (content) {
@@ -150,14 +150,14 @@ QByteArray bareFile(const QByteArray &file, Content content, std::optional<doubl
         return dpi && statesItsResolution(file) ? QByteArray()
                                                 : bareBoxes(file, {"uuid", "xml ", "uinf", "jumb", "jp2i"});
     case Content::JpegXl:
-        // What makes the JPEG of before of it again counts on the boxes as they were.
+        // The data that restores the original JPEG relies on unchanged boxes.
         return file.startsWith("\xff\x0a") ? file : bareBoxes(file, {"Exif", "xml ", "brob", "jumb", "jbrd"});
     default:
         return {};
     }
 }
 
-/** What the source states of its resolution that its bare file does not. */
+/** The resolution that the source states and its bare file does not. */
 Metadata withKnownResolution(const ImageSource &source, const Metadata &metadata, const QByteArray &bare,
                              std::optional<double> dpi)
 {
@@ -175,12 +175,12 @@ Metadata withKnownResolution(const ImageSource &source, const Metadata &metadata
     return isLost ? metadata.withResolution(stated.width(), stated.height()) : metadata;
 }
 
-/** Whether a segment is one that nobody but its maker understands. */
+/** Whether only its maker understands a segment. */
 bool isOfMaker(uchar marker, const QByteArray &payload)
 {
     constexpr uchar firstOfMakers = 0xe1;
     constexpr uchar lastOfMakers = 0xef;
-    // EXIF and XMP, profile and index of pictures, signed statements, IPTC, kind of colours, quality
+    // EXIF and XMP, profile and index of pictures, signed statements, IPTC, colour type, quality
     static const QList<std::pair<uchar, QByteArray>> known = {
         {0xe1, "Exif"}, {0xe1, "http://ns.adobe.com/"}, {0xe2, "ICC_PROFILE"}, {0xe2, "MPF"},  {0xe2, "urn:iso:"},
         {0xeb, "JP"},   {0xed, "Photoshop 3.0"},        {0xee, "Adobe"},       {0xec, "Ducky"}};

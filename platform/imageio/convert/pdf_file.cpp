@@ -3,7 +3,7 @@
 namespace platform {
 namespace {
 
-/** A length as PDF has numbers: no exponent, no more digits than mean something. */
+/** A length in PDF's number format: no exponent, no more digits than are significant. */
 QByteArray number(double value)
 {
     QByteArray text = QByteArray::number(value, 'f', 4);

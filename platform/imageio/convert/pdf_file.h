@@ -8,18 +8,18 @@
 
 namespace platform {
 
-/** A PDF file with one page that one image fills, put together object by object. */
+/** A PDF file with one page that is filled by one image, built object by object. */
 class PdfFile
 {
 public:
-    /** What the image's dictionary says besides its kind, and its bytes. */
+    /** The entries of the image's dictionary besides its kind, and its bytes. */
     struct Stream
     {
         QByteArray entries; ///< such as "/Width 3 /Height 2"
         QByteArray bytes;
     };
 
-    /** Adds a stream and answers how other objects refer to it: "5 0 R". */
+    /** Adds a stream and answers its reference: "5 0 R". */
     QByteArray add(const Stream &stream);
 
     /** The whole file: a page of @p points with the image that was added last. */
@@ -29,7 +29,7 @@ private:
     void beginObject();
 
     QByteArray m_file = "%PDF-1.5\n%\xe2\xe3\xcf\xd3\n";
-    QList<qsizetype> m_offsets; ///< of object 1 and so on
+    QList<qsizetype> m_offsets; ///< of object 1 onwards
 };
 
 } // namespace platform

@@ -84,7 +84,10 @@ QByteArray pageOfPixels(const Bitmap &bitmap, QSizeF points)
     return file.finished(points);
 }
 
-/** What turns a picture of an orientation upright in one step; none where it takes two, or nothing is to be done. */
+/**
+ * The operation that turns a picture of an orientation upright in one step; none if it takes two, or nothing is to be
+ * done.
+ */
 std::optional<ExactTurn> turnUpright(int orientation)
 {
     switch (orientation) {
@@ -103,7 +106,7 @@ std::optional<ExactTurn> turnUpright(int orientation)
     }
 }
 
-/** The whole of a JPEG that shows the picture upright; empty where there is none without loss. */
+/** A complete JPEG that shows the picture upright; empty if that is impossible without loss. */
 QByteArray uprightJpeg(const ImageSource &source, const PictureBytes &bytes)
 {
     if (source.orientation() == 1)
@@ -113,7 +116,7 @@ QByteArray uprightJpeg(const ImageSource &source, const PictureBytes &bytes)
     return turned ? markedUpright(*turned).value_or(QByteArray()) : QByteArray();
 }
 
-/** The page of a JPEG as it is; empty where a page cannot hold it so. */
+/** The page of a JPEG as it is; empty if a page cannot hold it so. */
 QByteArray pageOfJpeg(const QByteArray &file, const QByteArray &profile, QSizeF points)
 {
     const QByteArray jpeg = withoutMetadata(file);
@@ -161,7 +164,7 @@ Result<QByteArray> pdfPageOf(const ImageSource &source, std::optional<double> dp
     try {
         initVips();
         if (file->content == Content::Jpeg) {
-            // A small decode reads all that was written, so that a damaged file is not passed on.
+            // A reduced decode reads everything, so that a damaged file is not passed on.
             constexpr int smallest = 8;
             const Result<Bitmap> sound = source.decodeAtLeast((source.uprightSize() / smallest).expandedTo({1, 1}));
             if (!sound)

@@ -17,7 +17,7 @@
 namespace platform {
 namespace {
 
-/** Below that a decoder that is asked for a size might think of another scale. */
+/** Below that a decoder that is asked for a size might choose another scale. */
 constexpr int shortestSide = 64;
 
 bool isPossible(const ImageSource::File &file, const JpegResize &resize)
@@ -29,7 +29,7 @@ bool isPossible(const ImageSource::File &file, const JpegResize &resize)
            QRect(QPoint(0, 0), resize.size).contains(resize.kept);
 }
 
-/** Planes before and after at full resolution of colour, the file before and after. */
+/** Planes before and after at full colour resolution, the file before and after. */
 bool isMemoryLeft(const PlaneFacts &facts, qsizetype fileBytes, const JpegResize &resize, int shrink)
 {
     constexpr qint64 components = 3;
@@ -40,22 +40,22 @@ bool isMemoryLeft(const PlaneFacts &facts, qsizetype fileBytes, const JpegResize
     return need < memoryLeft();
 }
 
-/** How the new samples of one direction lie among the decoded ones. */
+/** The position of the new samples of one direction among the decoded ones. */
 struct Direction
 {
-    double pixels; ///< decoded pixels for a new one
-    double block;  ///< decoded pixels whose mean is taken first, or 1
-    int first;     ///< new pixel that is kept
+    double pixels; ///< decoded pixels per new one
+    double block;  ///< decoded pixels that are averaged first, or 1
+    int first;     ///< first new pixel that is kept
     int count;
 
-    /** Of a plane with one sample for @p had pixels that becomes one with a sample for @p made. */
+    /** For a plane with one sample per @p had pixels that becomes one with a sample per @p made. */
     PlaneSpan of(int had, int made) const
     {
         return {first * pixels / had, pixels * made / had, (count + made - 1) / made, block > 1 ? block / had : 1};
     }
 };
 
-/** Which part of a plane becomes which, across and down. */
+/** Which part of a plane becomes which, horizontally and vertically. */
 struct PlaneSpans
 {
     PlaneSpan columns;
@@ -69,7 +69,7 @@ struct Directions
     Direction across;
     Direction down;
 
-    /** Of the colour planes, whose samplings differ, or of the one of brightness. */
+    /** For the colour planes, whose sampling differs, or for the brightness plane. */
     PlaneSpans of(bool isColour, QSize had, QSize made) const
     {
         const QSize one(1, 1);
@@ -100,7 +100,7 @@ int shrinkFor(QSize stored, const JpegResize &resize)
                          : jpegShrinkFor(stored, resize.size * resize.finer);
 }
 
-/** How much neighbours differ on average, one step to the right or down. */
+/** The average difference of neighbours, one step to the right or down. */
 double detailOf(const Plane &plane)
 {
     qint64 across = 0;
@@ -116,7 +116,7 @@ double detailOf(const Plane &plane)
     return double(std::max(across, down)) / (double(plane.width()) * plane.height());
 }
 
-/** As showsShrinking() has it for pictures. */
+/** Like showsShrinking() for pictures. */
 bool showsShrinking(const std::vector<Plane> &planes)
 {
     constexpr double mostDetail = 24;
@@ -132,7 +132,7 @@ bool showsShrinking(const std::vector<Plane> &planes)
            std::any_of(planes.begin(), planes.end(), [](const Plane &each) { return detailOf(each) > mostDetail; });
 }
 
-/** Scales the rows as the decoder gives them, so that planes at full size are never whole. */
+/** Scales the rows as the decoder delivers them, so that planes are never complete at full size. */
 std::optional<JpegPlanes> scaledRows(PlaneRows &decoder, const Directions &directions, QSize sampling)
 {
     std::vector<PlaneScaler> scalers;
@@ -155,7 +155,7 @@ std::optional<JpegPlanes> scaledRows(PlaneRows &decoder, const Directions &direc
     return scaled;
 }
 
-/** The planes at the new size; none where the file is one for the plain way. */
+/** The planes at the new size; none if the file must go the plain way. */
 std::optional<JpegPlanes> newPlanes(const QByteArray &jpeg, int shrink, const Directions &directions,
                                     const JpegSettings &settings, bool isFine)
 {
@@ -220,7 +220,7 @@ std::optional<QByteArray> resizedJpeg(const ImageSource &source, const JpegResiz
         takeVipsError(error);
     } catch (const std::bad_alloc &) {
     }
-    return std::nullopt; // the other way knows what to say about it
+    return std::nullopt; // the other way reports it properly
 }
 
 } // namespace platform

@@ -7,26 +7,31 @@
 
 namespace platform {
 
-/** A picture that becomes smaller, and what is kept of it. */
+/** A picture to be reduced, and the part of it that is kept. */
 struct JpegResize
 {
-    QSize size; ///< of the whole picture, in no direction more than it has
+    QSize size; ///< of the whole picture; no larger than it in any direction
     QRect kept; ///< in it
     /**
-     * The decoder gives at least that many times the size, as long as there are so many pixels. At less than this a JPEG of quality 80
-     * is more than 0.3 dB further from what Lanczos makes of all pixels than that one's own JPEG; see bench/quality.
+     * The decoder delivers at least that many times the size, as long as there are so many pixels. With less, a JPEG of
+     * quality 80 differs by more than 0.3 dB from a JPEG of all pixels scaled with Lanczos; see bench/quality.
      */
     double finer = 1.5;
-    /** Whether the result may show nothing of how the decoder shrinks, as ImageSource::decodeFinely() has it; finer is without a meaning. */
+    /**
+     * Whether the result must not show how the decoder shrinks, as in ImageSource::decodeFinely(); finer then has no
+     * effect.
+     */
     bool isFine = false;
 };
 
 /**
- * Image 0 of @p source at another size as a JPEG: what ImageSource::decodeScaled(), a cut and encodeImage() give, without making
- * colours of what the decoder hands out and taking them apart again. Pixels differ by little; docs/performance.md says how much.
+ * Image 0 of @p source at another size as a JPEG: the result of ImageSource::decodeScaled(), a cut and encodeImage(),
+ * but without converting the decoder's planes to colours and back. Pixels differ little; docs/performance.md says how
+ * much.
  *
- * @return none where it does not go that way: for all but upright JPEGs of grey or of brightness and colours, such as the decoder
- *         has anything to say about, sizes that are not smaller, and where memory is short
+ * @return none if this way is not possible: for all except upright JPEGs of grey or of brightness and colours about
+ * which
+ *         the decoder has nothing to report, for sizes that are not smaller, and if memory is short
  */
 std::optional<QByteArray> resizedJpeg(const ImageSource &source, const JpegResize &resize,
                                       const EncodeOptions &options);

@@ -12,22 +12,22 @@ using Splices = Result<QList<Splice>>;
 tl::unexpected<Error> damagedMetadata();
 tl::unexpected<Error> tooMuchMetadata();
 
-/** Whether IPTC is made where there is none. */
+/** Whether IPTC is created if there is none. */
 enum class IptcWhere { New, OnlyIfThere };
 
-/** Is shown the blocks of a file one after the other, remembers them, and says what becomes of each. */
+/** Receives the blocks of a file one after the other, remembers them, and decides what happens to each. */
 class BlockEditor
 {
 public:
     explicit BlockEditor(const MetadataChange &change) : m_change(change) {}
 
-    /** The block from now on; the same bytes where nothing of it changes. */
+    /** The new block; the same bytes if nothing changes. */
     QByteArray exif(const QByteArray &block);
     QByteArray xmp(const QByteArray &packet);
     QByteArray iptc(const QByteArray &records, IptcWhere where);
     QByteArray resources(const QByteArray &resources);
 
-    /** One of them could not be changed. */
+    /** A block could not be changed. */
     bool isDamaged() const { return m_isDamaged; }
     const StatedBlocks &stated() const { return m_stated; }
 
@@ -39,7 +39,10 @@ private:
     bool m_isDamaged = false;
 };
 
-/** Shows the editor what a JPEG, PNG, WebP, JPEG 2000 or Photoshop file holds, and makes splices of what it says. */
+/**
+ * Passes the contents of a JPEG, PNG, WebP, JPEG 2000 or Photoshop file to the editor, and makes splices of its
+ * answers.
+ */
 Splices splicesOfParts(Content content, const QByteArray &bytes, BlockEditor &editor);
 
 } // namespace platform

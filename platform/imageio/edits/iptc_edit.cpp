@@ -25,7 +25,7 @@ struct DataSet
     quint8 record = 0;
     quint8 number = 0;
     QByteArray data;
-    QByteArray bytes; ///< with its head
+    QByteArray bytes; ///< with its header
 };
 
 struct Records
@@ -69,7 +69,7 @@ bool isUtf8(const Records &records)
     });
 }
 
-/** Latin 1 as Windows fills the gap in it. */
+/** Latin 1 with the additions of Windows. */
 QString fromWindowsLatin(const QByteArray &bytes)
 {
     static constexpr std::array<char16_t, 32> gap = {0x20ac, 0x81,   0x201a, 0x0192, 0x201e, 0x2026, 0x2020, 0x2021,
@@ -90,7 +90,7 @@ QString textOf(const QByteArray &data, bool marked)
     return marked || !text.contains(QChar::ReplacementCharacter) ? text : fromWindowsLatin(data);
 }
 
-/** Of the application record; the others are numbers, and what belongs to programs. */
+/** Those of the application record; the others are numbers, or belong to programs. */
 bool isText(const DataSet &set)
 {
     constexpr quint8 rasterCaption = 125;
@@ -116,7 +116,7 @@ struct Resource
     QByteArray data;
 };
 
-/** One behind the other, up to what is none. */
+/** One after the other, up to the first invalid one. */
 QList<Resource> resourcesIn(const QByteArray &bytes, qsizetype *end = nullptr)
 {
     static const QList<QByteArray> marks = {"8BIM", "MeSa", "PHUT", "AgHg", "DCSR"};

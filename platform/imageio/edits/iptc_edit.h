@@ -1,6 +1,6 @@
 #pragma once
 
-// Inside platform/ only: the records of IPTC, and the resources of Photoshop among which they stand.
+// Inside platform/ only: the records of IPTC, and the Photoshop resources that contain them.
 
 #include "platform/imageio/edits/metadata_change.h"
 
@@ -8,12 +8,14 @@
 
 namespace platform {
 
-/** The texts of one data set of the application record, in their order. By the records' own mark UTF-8, else Windows' Latin. */
+/**
+ * The texts of one data set of the application record, in order. In UTF-8 if the records say so, else in Windows Latin.
+ */
 QStringList iptcTexts(const QByteArray &records, quint8 dataSet);
 
 /**
- * The records with other texts for some data sets. They are in UTF-8 and marked so from then on, the texts that stay included; whatever
- * is no text stays as it is, byte for byte. None where they are damaged.
+ * The records with other texts for some data sets. They are then in UTF-8 and marked so, including the unchanged texts;
+ * anything that is not text stays as it is, byte for byte. None if they are damaged.
  */
 std::optional<QByteArray> changedIptc(const QByteArray &records, const QList<IptcChange> &changes);
 
@@ -27,16 +29,16 @@ constexpr quint16 oldThumbnail = 0x0409;
 constexpr quint16 thumbnail = 0x040c;
 } // namespace resource
 
-/** The data of one resource; none where there is none. */
+/** The data of one resource; none if it does not exist. */
 std::optional<QByteArray> resourceOf(const QByteArray &resources, quint16 number);
 
-/** The resources with another one for this number, which is added where it was not there; empty @p data take it out. */
+/** The resources with new data for this number, which is added if it did not exist; empty @p data removes it. */
 QByteArray withResource(const QByteArray &resources, quint16 number, const QByteArray &data);
 
-/** The resources with changed IPTC, and the digest that belongs to it; without thumbnails where that is asked for. */
+/** The resources with changed IPTC, and its digest; without thumbnails if requested. */
 std::optional<QByteArray> changedResources(const QByteArray &resources, const MetadataChange &change);
 
-/** What says whether IPTC was changed by somebody who does not know XMP: 16 bytes. */
+/** Tells whether IPTC was changed by a program that ignores XMP: 16 bytes. */
 QByteArray iptcDigest(const QByteArray &records);
 
 } // namespace platform

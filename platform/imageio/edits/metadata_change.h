@@ -10,34 +10,34 @@
 
 namespace platform {
 
-/** A tag of EXIF in the first directory, or in the one that belongs to EXIF. */
+/** A tag of EXIF in the first directory, or in the EXIF directory. */
 struct TagChange
 {
     enum class Directory { First, Exif };
     enum class What {
         Set,
-        SetIfThere, ///< only where the picture states one already
-        Remove,     ///< with its value, which becomes zeros; of a pointer also the directory that it leads to
+        SetIfThere, ///< only if the picture has one already
+        Remove,     ///< with its value, which becomes zeros; for a pointer also its directory
     };
 
     Directory directory = Directory::First;
     quint16 tag = 0;
     What what = What::Set;
     quint16 type = 2;      ///< 1 bytes, 2 text, 3 a number of two bytes, 7 bytes
-    QByteArray value = {}; ///< as the file has it, a text with its zero; a number with its highest byte first
+    QByteArray value = {}; ///< as in the file, a text with its zero; a number big-endian
 };
 
 /** A data set of the application record of IPTC. */
 struct IptcChange
 {
     quint8 dataSet = 0;
-    QStringList texts; ///< one for each time that it is stated, as long as they are to be there; none takes it out
+    QStringList texts; ///< one for each occurrence to be present; none removes it
 };
 
-/** How a property of XMP holds its texts. */
+/** How a property of XMP stores its texts. */
 enum class XmpForm {
     Text,
-    Alternatives, ///< by language; of these the one for everybody
+    Alternatives, ///< by language; the default one is used
     Bag,
     Sequence,
     Member, ///< one text of a structure
@@ -46,9 +46,9 @@ enum class XmpForm {
 struct XmpChange
 {
     XmpName property;
-    QString prefix; ///< that is usual for its namespace
+    QString prefix; ///< the usual one for its namespace
     XmpForm form = XmpForm::Text;
-    QStringList texts;   ///< none takes it out
+    QStringList texts;   ///< none removes it
     QString member = {}; ///< of a structure, in the same namespace
     bool onlyIfThere = false;
 };
@@ -59,9 +59,9 @@ struct MetadataChange
     QList<TagChange> tags;
     QList<IptcChange> iptc;
     QList<XmpChange> xmp;
-    /** Properties that are taken out, beside those above. */
+    /** Further properties to be removed. */
     std::function<bool(const XmpName &)> dropsXmp = {};
-    /** Small pictures of the picture: the directory behind the first one of an EXIF block, and those of Photoshop. */
+    /** Embedded thumbnails: the second directory of an EXIF block, and those of Photoshop. */
     bool dropsThumbnails = false;
 
     bool isEmpty() const { return tags.isEmpty() && iptc.isEmpty() && xmp.isEmpty() && !dropsXmp && !dropsThumbnails; }

@@ -51,7 +51,7 @@ Content contentIn(QFile &file)
     return file.seek(0) ? contentOf(file.read(contentHeadBytes)) : Content::Unknown;
 }
 
-/** Maps the file, and shows its bytes. */
+/** Maps the file, and exposes its bytes. */
 template<typename Take> auto mapped(QFile &file, Take take) -> decltype(take(QByteArray()))
 {
     const MappedFile map(file);
@@ -63,7 +63,7 @@ template<typename Take> auto mapped(QFile &file, Take take) -> decltype(take(QBy
     return taken;
 }
 
-/** Of a file that only its decoder can take apart. */
+/** For a file that only its decoder can parse. */
 Result<StatedBlocks> decodedBlocks(const std::function<Result<ImageSource>()> &open)
 {
     const auto source = open();
@@ -76,15 +76,15 @@ Result<StatedBlocks> decodedBlocks(const std::function<Result<ImageSource>()> &o
     return StatedBlocks{blocks.exif, blocks.xmp, blocks.iptc, {}};
 }
 
-/** What has to change in a picture, and the picture as it is. */
+/** The changes to a picture, and the picture as it is. */
 struct Edit
 {
-    QList<Splice> splices; ///< none where nothing changes
+    QList<Splice> splices; ///< none if nothing changes
     QList<Splice> undo;
     ImageSource before;
 };
 
-/** What makes the bytes again of those that the splices have changed. */
+/** The data that restores the bytes changed by the splices. */
 QList<Splice> reversed(const QByteArray &bytes, const QList<Splice> &splices)
 {
     QList<Splice> undo;
@@ -103,7 +103,7 @@ bool changeNothing(const QByteArray &bytes, const QList<Splice> &splices)
     });
 }
 
-/** @param undo  is told what reverts them */
+/** @param undo  receives what reverts them */
 Result<QList<Splice>> splicesFor(NamedFile &file, const MetadataEdit &edit, QList<Splice> &undo)
 {
     const Content content = contentIn(file);
@@ -137,7 +137,7 @@ Result<Edit> editFor(NamedFile &file, const std::function<Result<ImageSource>()>
     }); // unreadable is unwritable
 }
 
-/** Whether the edited file is the same picture as before, and says what it was meant to say. */
+/** Whether the edited file is the same picture as before, with the intended metadata. */
 Result<void> checkEdited(const Edit &edit, const Result<ImageSource> &edited,
                          const std::shared_ptr<const LentFile> &file, const QString &path,
                          const std::function<bool(const StatedMetadata &)> &isDone)
@@ -236,7 +236,7 @@ Result<EditedMetadata> editMetadata(const QString &path, const MetadataEdit &edi
         return tl::unexpected<Error>(made.error());
     if (made->splices.isEmpty())
         return EditedMetadata();
-    if (::faccessat(AT_FDCWD, encodedPath(path).constData(), W_OK, AT_EACCESS) != 0) // whoever protected it meant it
+    if (::faccessat(AT_FDCWD, encodedPath(path).constData(), W_OK, AT_EACCESS) != 0) // write protection is intentional
         return unwritten(path, ErrorCode::WriteFailed,
                          text(QT_TRANSLATE_NOOP("platform", "the file is write-protected")));
     const auto written = spliceFile(file, made->splices, [&](const QString &editedPath) -> Result<void> {

@@ -13,23 +13,23 @@ namespace platform {
 
 class LentFile;
 
-/** What a picture says of itself, to be asked while it is open. */
+/** A picture's own metadata, to be queried while it is open. */
 class StatedMetadata
 {
 public:
     struct Blocks;
     explicit StatedMetadata(const Blocks &blocks) : m_blocks(blocks) {}
 
-    /** The text of a tag of EXIF; empty where there is none. */
+    /** The text of a tag of EXIF; empty if there is none. */
     QString exif(TagChange::Directory directory, quint16 tag) const;
     QStringList iptc(quint8 dataSet) const;
-    /** See XmpForm; empty where XMP does not state it. */
+    /** See XmpForm; empty if XMP does not have it. */
     QStringList xmp(const XmpChange &property) const;
-    /** Somebody who does not know XMP has changed IPTC since. */
+    /** A program that ignores XMP has changed IPTC since. */
     bool isIptcNewer() const;
-    /** Whether its metadata is changed in the file itself; a sidecar has that of all others. */
+    /** Whether its metadata is changed in the file itself; for all others in a sidecar. */
     bool isInPlace() const;
-    /** Whether what XMP says is that of a sidecar. */
+    /** Whether the XMP is that of a sidecar. */
     bool hasSidecar() const;
 
 private:
@@ -39,9 +39,9 @@ private:
 /** How a picture's metadata is changed. */
 struct MetadataEdit
 {
-    /** What has to change where this is said. */
+    /** The changes, given the present metadata. */
     std::function<Result<MetadataChange>(const StatedMetadata &)> change;
-    /** Whether what is said afterwards is what was meant. */
+    /** Whether the resulting metadata is as intended. */
     std::function<bool(const StatedMetadata &)> isDone;
 };
 
@@ -49,49 +49,54 @@ struct MetadataEdit
 struct EditedMetadata
 {
     bool isChanged = false;
-    QList<Splice> undo = {}; ///< what makes the old file of the new one
+    QList<Splice> undo = {}; ///< data that restores the old file
 };
 
-/** Fails with NotFound, NotAPicture, Unreadable. @param sidecar  its packet, which counts in place of the picture's own; may be empty */
+/**
+ * Fails with NotFound, NotAPicture, Unreadable. @param sidecar  its packet, which takes precedence over the picture's
+ * own; may be empty
+ */
 Result<void> readMetadata(const std::shared_ptr<const LentFile> &picture, const QByteArray &sidecar,
                           const std::function<void(const StatedMetadata &)> &take);
 
 /**
  * Changes the metadata of a JPEG, TIFF, PNG, JPEG 2000, WebP or Photoshop file, and nothing else: pixels, all pages and all other
- * metadata stay as they are, byte for byte; maker notes are not even moved within EXIF. The file is replaced as spliceFile() does it.
+ * metadata stay as they are, byte for byte; maker notes are not even moved within EXIF. The file is replaced as by
+ * spliceFile().
  *
- * The edited file takes the old one's place only after it was opened, is the same picture and says what it should.
+ * The edited file replaces the old one only after it was opened, is the same picture and has the intended metadata.
  *
- * Fails with NotFound or NotAPicture; with Unsupported for other kinds of files; with Unreadable where the file or its metadata is
- * damaged; with TooLarge where there is no room; with what @p edit says; with WriteFailed. The file is then as it was.
+ * Fails with NotFound or NotAPicture; with Unsupported for other kinds of files; with Unreadable if the file or its
+ * metadata is damaged; with TooLarge if there is no room; with the failure of @p edit; with WriteFailed. The file is
+ * then unchanged.
  */
 Result<EditedMetadata> editMetadata(const QString &path, const MetadataEdit &edit);
 
-/** The same for a picture that another process has open, see writeUserComment(). */
+/** The same for a picture that another process has opened, see writeUserComment(). */
 Result<EditedMetadata> editMetadata(const std::shared_ptr<const LentFile> &picture, int copy,
                                     const std::shared_ptr<const LentFile> &copyToRead, const MetadataEdit &edit);
 
-/** What a whole file is known by: SHA-256 of its bytes; empty where they cannot be read. */
+/** Identifies the contents of a file: SHA-256 of its bytes; empty if they cannot be read. */
 QByteArray digestOf(const LentFile &file);
 
 /**
- * Makes the old file of one that editMetadata() has changed, in a copy. Fails with InvalidValue where @p digest is not that of the
- * picture, since it was changed again, and as editMetadata() does.
+ * Restores, in a copy, the old file from one that editMetadata() has changed. Fails with InvalidValue if @p digest is
+ * not that of the picture, since it was changed again, and like editMetadata().
  */
 Result<void> revertMetadata(const std::shared_ptr<const LentFile> &picture, int copy,
                             const std::shared_ptr<const LentFile> &copyToRead, const QList<Splice> &undo,
                             const QByteArray &digest);
 
 /**
- * The packet of the sidecar of a picture whose own metadata is not changed. Fails with Unreadable where @p sidecar is damaged, and as
- * the edit does.
+ * The sidecar packet of a picture whose own metadata is not changed. Fails with Unreadable if @p sidecar is damaged,
+ * and like the edit.
  *
- * @param sidecar  as it is; empty where there is none yet
+ * @param sidecar  the present one; empty if there is none yet
  */
 Result<QByteArray> editedSidecar(const std::shared_ptr<const LentFile> &picture, const QByteArray &sidecar,
                                  const MetadataEdit &edit);
 
-/** Whether such a file's metadata is changed in the file itself. Fails with NotFound, or NotAPicture for what is none. */
+/** Whether such a file's metadata is changed in the file itself. Fails with NotFound, or NotAPicture if it is none. */
 Result<bool> hasMetadataInPlace(const LentFile &picture);
 
 } // namespace platform

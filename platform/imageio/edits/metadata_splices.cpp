@@ -22,7 +22,7 @@ void changeTag(QList<TagChange> &tags, quint16 tag, quint16 type, const std::opt
     tags.append({Directory::First, tag, now.isEmpty() ? What::Remove : What::Set, type, now});
 }
 
-/** What gets shorter keeps the room that it has, so that the file does not grow when it gets longer again. */
+/** Data that gets shorter keeps its room, so that the file does not grow when it gets longer again. */
 QByteArray inOldRoom(const QByteArray &block, const std::optional<QByteArray> &old, char filling)
 {
     return block.isEmpty() || !old ? block : block.leftJustified(old->size(), filling);
@@ -40,7 +40,7 @@ Splices tiffSplices(const QByteArray &bytes, const MetadataChange &change)
     const QByteArray xmp = inOldRoom(editor.xmp(oldXmp.value_or(QByteArray())), oldXmp, ' ');
     const QByteArray iptc = inOldRoom(editor.iptc(oldIptc.value_or(QByteArray()), IptcWhere::New), oldIptc, '\0');
     QByteArray resources = oldResources.value_or(QByteArray());
-    if (iptc != oldIptc.value_or(QByteArray())) { // the records stand in their own tag; some programs put them here too
+    if (iptc != oldIptc.value_or(QByteArray())) { // the records have their own tag; some programs also put them here
         const bool isTwice = resourceOf(resources, resource::iptc).has_value();
         resources = isTwice ? withResource(resources, resource::iptc, iptc) : resources;
         resources = withResource(resources, resource::digest, iptc.isEmpty() ? QByteArray() : iptcDigest(iptc));

@@ -1,4 +1,4 @@
-// Where each kind of file that is a chain of parts has its metadata:
+// Where each kind of file that is a chain of parts stores its metadata:
 //
 //     JPEG       segments "Exif", "http://ns.adobe.com/xap/1.0/" and "Photoshop 3.0" before the first scan
 //     PNG        chunks "eXIf", "iTXt" with the keyword XML:com.adobe.xmp, and the texts that older programs make of blocks
@@ -27,7 +27,7 @@ const QByteArray exifName("Exif\0\0", 6);
 const QByteArray xmpName("http://ns.adobe.com/xap/1.0/\0", 29);
 const QByteArray photoshopName("Photoshop 3.0\0", 14);
 
-/** In the order of their places; what goes in at one place keeps the order in which it was said. */
+/** In order of position; insertions at the same position keep their order. */
 Splices inOrder(QList<Splice> splices, qint64 fileSize)
 {
     std::stable_sort(splices.begin(), splices.end(), [](const Splice &a, const Splice &b) {
@@ -53,7 +53,7 @@ Splices inOrder(QList<Splice> splices, qint64 fileSize)
 
 constexpr qsizetype largestPayload = 0xffff - 2;
 
-/** The block in as many segments as it needs, each with the name in front. */
+/** The block in as many segments as it needs, each preceded by the name. */
 QByteArray segmentsOf(uchar marker, const QByteArray &name, const QByteArray &block)
 {
     QByteArray all;
@@ -110,7 +110,7 @@ Splices jpegSplices(const QByteArray &bytes, BlockEditor &editor)
         return damagedMetadata();
     if (xmp.size() > largestPayload - xmpName.size())
         return tooMuchMetadata();
-    // Readers do not all know that EXIF may go on in a second segment.
+    // Not all readers know that EXIF may continue in a second segment.
     if (oldExif.ranges.size() < 2 && exif.size() > largestPayload - exifName.size())
         return tooMuchMetadata();
     QList<Splice> splices;
@@ -159,7 +159,7 @@ QByteArray pngChunk(const char *name, const QByteArray &data)
     return chunk;
 }
 
-/** The chunk that has a block, and the block. */
+/** The chunk that contains a block, and the block. */
 struct Held
 {
     const Part *part = nullptr;
@@ -169,7 +169,7 @@ struct Held
 Held pngExif(const QList<Part> &chunks)
 {
     for (const Part &chunk : chunks)
-        if (chunk.name == "eXIf") // some have the name of the segment in front, as in a JPEG
+        if (chunk.name == "eXIf") // some have the name of the segment first, as in a JPEG
             return {&chunk, chunk.data.startsWith(exifName) ? chunk.data.mid(6) : chunk.data};
     for (const Part &chunk : chunks)
         if (chunk.name == "tEXt" || chunk.name == "zTXt")
@@ -280,7 +280,7 @@ Splices jpeg2000Splices(const QByteArray &bytes, BlockEditor &editor)
         return std::find_if(boxes.begin(), boxes.end(), [&](const Box &box) { return box.name == name; });
     };
     const auto pixels = has("jp2c");
-    if (pixels == boxes.end()) // bare pixels have no place for it
+    if (pixels == boxes.end()) // a bare codestream has no place for it
         return failure(ErrorCode::Unsupported,
                        QCoreApplication::translate("platform", "this type of file cannot hold metadata of its own"));
     const HeldBox oldExif = boxOfKind(bytes, boxes, exifIdentifier);
@@ -309,7 +309,7 @@ Splices jpeg2000Splices(const QByteArray &bytes, BlockEditor &editor)
     const auto moves = std::any_of(splices.begin(), splices.end(), [&](const Splice &splice) {
         return splice.at <= pixels->at && splice.removed != splice.inserted.size();
     });
-    if (moves && has("ftbl") != boxes.end()) // a table of places in the file
+    if (moves && has("ftbl") != boxes.end()) // it has a table of file offsets
         return failure(ErrorCode::Unsupported,
                        QCoreApplication::translate("platform", "this type of file cannot hold metadata of its own"));
     return inOrder(splices, bytes.size());
@@ -350,7 +350,7 @@ QByteArray riffChunk(const QByteArray &name, const QByteArray &data)
     return name + littleEndian32(quint32(data.size())) + data + QByteArray(data.size() % 2, '\0');
 }
 
-/** The header of the extended form for a file that has only a picture; empty where its size cannot be told. */
+/** The header of the extended form for a file that has only a picture; empty if its size is unknown. */
 QByteArray webpHeader(const Part &picture)
 {
     constexpr quint32 sideMask = 0x3fff;
@@ -380,7 +380,7 @@ const Part *firstNamed(const QList<Part> &parts, const char *name)
     return found == parts.end() ? nullptr : &*found;
 }
 
-/** Announces what is there, and says how long the file is now. */
+/** Sets the flags of the present blocks, and the new length of the file. */
 Splices withWebpHeads(const QByteArray &bytes, const QList<Part> &chunks, QList<Splice> splices, bool hasExif,
                       bool hasXmp)
 {

@@ -83,7 +83,7 @@ bool TagEditor::isSound() const
     return first == 0 || m_reader.directory(first).valid;
 }
 
-/** True where nothing else that is known uses any of these bytes. */
+/** True if no other known data uses any of these bytes. */
 bool TagEditor::isAlone(const TiffRange &range) const
 {
     const auto users = std::count_if(m_used.ranges.begin(), m_used.ranges.end(),
@@ -91,7 +91,7 @@ bool TagEditor::isAlone(const TiffRange &range) const
     return range.start >= form().headerSize() && range.end() <= m_bytes.size() && users <= 1;
 }
 
-/** Zeros over the values of a directory that lie outside of it, and over the directory. */
+/** Zeros over the values of a directory that are outside of it, and over the directory. */
 void TagEditor::zeroDirectory(const TiffDirectory &directory)
 {
     if (!directory.valid || !isAlone(directory.range))
@@ -102,7 +102,7 @@ void TagEditor::zeroDirectory(const TiffDirectory &directory)
     zero(directory.range);
 }
 
-/** What was said before does not stay in the file. */
+/** The old text must not remain in the file. */
 void TagEditor::retire(const TiffEntry &entry)
 {
     if (leadsToDirectory(entry.tag))
@@ -129,7 +129,7 @@ QByteArray TagEditor::entryFor(const TagChange &change, const TiffEntry *old)
         return form().entry(change.tag, form().big ? tiffType::bigDirectoryType : tiffType::longType, 1, value);
     const bool hasPlace = old && old->isSound() && !old->isInline && isAlone(old->value);
     if (hasPlace && value.size() > form().offsetSize() && old->value.size >= value.size()) {
-        // A text keeps the room that it has, so that it may get longer again.
+        // A text keeps its room, so that it may get longer again.
         const bool isText = change.type == asciiType && old->type == asciiType;
         overwrite(old->value, value.leftJustified(old->value.size, '\0'));
         return form().entry(change.tag, change.type, isText ? old->count : count,
@@ -141,7 +141,7 @@ QByteArray TagEditor::entryFor(const TagChange &change, const TiffEntry *old)
     return form().entry(change.tag, change.type, count, fits ? value : form().offset(append(value)));
 }
 
-/** Those that were not there before, each in its place among the others, which stand by their tags. */
+/** New entries, each inserted in the order of tags. */
 void TagEditor::insertNew(Entries &entries, const TiffDirectory &old, Directory which)
 {
     QList<TagChange> added;
@@ -179,7 +179,7 @@ TagEditor::Entries TagEditor::changed(const TiffDirectory &old, Directory which)
     return entries;
 }
 
-/** Where the directory is from now on; none where it stays in its place. */
+/** The new position of the directory; none if it stays in place. */
 std::optional<quint64> TagEditor::place(const TiffDirectory &old, const Entries &entries)
 {
     if (!entries.isChanged)
@@ -220,7 +220,7 @@ void TagEditor::edit()
     if (const auto moved = place(exif, inExif)) {
         TagChange change{Directory::First, tiffTag::exifDirectory, What::Set, tiffType::longType,
                          form().offset(*moved)};
-        if (pointer) // the old directory stays as it is, for something else may lead to it
+        if (pointer) // the old directory stays as it is, since something else may lead to it
             overwrite({pointer->at, form().entrySize()},
                       form().entry(change.tag, form().big ? tiffType::bigDirectoryType : tiffType::longType, 1,
                                    change.value));
@@ -244,7 +244,7 @@ void TagEditor::edit()
         zero(m_unlinked);
 }
 
-/** In a damaged file pixels may be said to lie where directories are. */
+/** In a damaged file pixels may overlap with directories. */
 bool TagEditor::changesPixels() const
 {
     return std::any_of(m_overwritten.begin(), m_overwritten.end(), [this](const Splice &splice) {
@@ -263,7 +263,7 @@ std::optional<QList<Splice>> TagEditor::splices()
     std::stable_sort(all.begin(), all.end(), [](const Splice &a, const Splice &b) { return a.at < b.at; });
     for (qsizetype i = 1; i < all.size(); ++i)
         if (all[i].at < all[i - 1].at + all[i - 1].removed)
-            return std::nullopt; // directories that lie over each other
+            return std::nullopt; // overlapping directories
     if (!all.isEmpty() && all.last().at + all.last().removed > m_bytes.size())
         return std::nullopt;
     if (!m_appended.isEmpty())

@@ -20,7 +20,7 @@ QByteArray withoutPadding(const QByteArray &packet)
     return packet.left(end);
 }
 
-/** Takes the texts of one property, an element, whose start was read. */
+/** Reads the texts of one property, an element whose start was read. */
 QList<XmpItem> itemsOf(QXmlStreamReader &reader)
 {
     QList<XmpItem> items;
@@ -64,7 +64,7 @@ QList<XmpItem> itemsOf(QXmlStreamReader &reader)
 QString escaped(const QString &text)
 {
     QString kept;
-    for (const QChar letter : text) // XML has no other control characters
+    for (const QChar letter : text) // XML allows no other control characters
         if (letter >= u' ' || letter == u'\n' || letter == u'\t')
             kept += letter;
     return kept.toHtmlEscaped().replace(QLatin1String("&quot;"), QLatin1String("\""));
@@ -146,7 +146,7 @@ public:
         if (!content.isEmpty())
             write(first, content, QStringLiteral(" rdf:parseType=\"Resource\""));
     }
-    /** One description of all of them; empty where there are none. */
+    /** One description with all of them; empty if there are none. */
     QByteArray description(const QString &about) const
     {
         if (m_content.isEmpty())
@@ -172,7 +172,7 @@ private:
     QString m_content;
 };
 
-/** Where the element of all descriptions ends, and what the first is about. */
+/** Where the element of all descriptions ends, and the subject of the first. */
 struct Outline
 {
     QByteArray rdfName;
@@ -196,7 +196,7 @@ Outline outlineOf(const QByteArray &packet)
     return outline;
 }
 
-/** What is left of descriptions that have lost everything would be more with every edit. */
+/** Empty descriptions would accumulate with every edit. */
 QByteArray withoutEmptyDescriptions(const QByteArray &packet)
 {
     static const QRegularExpression empty(QStringLiteral(
@@ -212,7 +212,7 @@ QByteArray emptyPacket()
            "</rdf:RDF>\n</x:xmpmeta>\n<?xpacket end=\"w\"?>";
 }
 
-/** Those that are to be written: what is only changed where it is there is looked for. */
+/** Those that are to be written: changes that apply only to existing properties are checked. */
 QList<XmpChange> wantedIn(const QByteArray &packet, const QList<XmpChange> &changes)
 {
     QList<XmpChange> wanted;

@@ -16,15 +16,16 @@ struct XmpItem
     QString member = {}; ///< without its prefix
 };
 
-/** What a packet says of a property; none where it does not. */
+/** The packet's value of a property; none if it has none. */
 QList<XmpItem> xmpItems(const QByteArray &packet, const XmpName &property);
 
-/** The texts of such a property as its form has them: of alternatives the one for everybody, else the first. */
+/** The texts of such a property in its form: of alternatives the default one, else the first. */
 QStringList xmpTexts(const QByteArray &packet, const XmpChange &property);
 
 /**
- * The packet with these changes; a new one where @p packet is empty. All other properties stay, in their words and prefixes; of
- * alternatives those of other languages that say something else. None where the packet is not well formed.
+ * The packet with these changes; a new one if @p packet is empty. All other properties stay, with their words and
+ * prefixes; of alternatives also those of other languages that say something else. None if the packet is not well
+ * formed.
  */
 std::optional<QByteArray> changedXmp(const QByteArray &packet, const MetadataChange &change);
 

@@ -5,7 +5,7 @@
 namespace platform {
 namespace {
 
-/** Files that state no resolution but in their metadata: in EXIF, or what of it becomes XMP. */
+/** Files that state no resolution except in their metadata: in EXIF, or in XMP made from it. */
 bool statesResolutionInMetadata(FileFormat format)
 {
     switch (format) {

@@ -17,14 +17,14 @@
 namespace platform {
 namespace {
 
-/** The picture on the colour that is asked for, where the format has no transparency. */
+/** The picture on the requested colour, if the format has no transparency. */
 Result<Bitmap> onMatte(const Bitmap &bitmap, FileFormat format, const EncodeOptions &options)
 {
     const bool isNeeded = options.matte && bitmap.hasAlpha() && !formatOf(format).keeps.alpha;
     return isNeeded ? laidOn(bitmap, *options.matte) : Result<Bitmap>(bitmap);
 }
 
-/** What keeps the picture from being written in this format, whatever memory there is. */
+/** Why the picture cannot be written in this format, regardless of memory. */
 Result<void> fits(const Bitmap &bitmap, FileFormat format)
 {
     const int longest = std::max(bitmap.width(), bitmap.height());

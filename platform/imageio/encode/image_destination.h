@@ -10,7 +10,7 @@
 
 namespace platform {
 
-/** Whether a file of @p format can hold that profile; true for an empty one. Where it cannot, colours become sRGB. */
+/** Whether a file of @p format can hold that profile; true for an empty one. If not, colours become sRGB. */
 bool holdsProfile(FileFormat format, const QByteArray &iccProfile);
 
 /** Whether the resolution of the bitmap is written into the file. */
@@ -21,23 +21,27 @@ struct EncodeOptions
     /** JPEG only, 0.01 to 1. Without it a picture from a JPEG keeps its own quantisation and others get 0.92. */
     std::optional<double> lossyQuality = {};
     /**
-     * 1 to 100, as JPEG has it, for JPEG (in place of lossyQuality), WebP, AVIF, JPEG XL and JPEG 2000; others pass it over. The
-     * same number comes about as near to the picture in all of them. Without it WebP, AVIF and JPEG XL get 85, and JPEG 2000 what
-     * cannot be seen.
+     * 1 to 100, on JPEG's scale, for JPEG (instead of lossyQuality), WebP, AVIF, JPEG XL and JPEG 2000; others ignore
+     * it. The same number gives about the same fidelity in all of them. Without it WebP, AVIF and JPEG XL get 85, and
+     * JPEG 2000 is visually lossless.
      */
     std::optional<int> quality = {};
-    /** In WebP, JPEG XL and JPEG 2000, in place of quality; others pass it over. */
+    /** In WebP, JPEG XL and JPEG 2000, instead of quality; others ignore it. */
     bool isLossless = false;
-    /** What lies under transparent parts where the format has none, in sRGB and taken as opaque; black without it. */
+    /**
+     * The colour under transparent parts if the format has no transparency, in sRGB and treated as opaque; black
+     * without it.
+     */
     std::optional<QColor> matte = {};
     WriteResolution resolution = WriteResolution::No;
-    /** Dots per inch, above 0, that are written in place of the bitmap's, whatever resolution says. */
+    /** Dots per inch, above 0, that are written instead of the bitmap's, regardless of resolution. */
     std::optional<double> dpi = {};
-    /** Carried into JPEG and TIFF; other formats leave it. A resolution that it states is written with it. */
+    /** Written to JPEG and TIFF; other formats ignore it. A resolution stated in it is written with it. */
     Metadata metadata = {};
     /**
-     * Everything: the metadata goes into all formats that can hold any, BMP alone left out, and so does the resolution, in EXIF
-     * where the format has no other place for it. The pixels count as upright, and EXIF is told so, and of the resolution too.
+     * Everything: the metadata goes into all formats that can hold any, that is all except BMP, and so does the
+     * resolution, in EXIF if the format has no other place for it. The pixels count as upright, and EXIF says so, and
+     * states the resolution too.
      */
     Carried carried = Carried::Blocks;
 };
@@ -46,11 +50,12 @@ struct EncodeOptions
  * One bitmap as the bytes of a file.
  *
  * Colour: the profile stays with the picture in every format that can hold one; otherwise, and for CMYK and Lab in
- * formats without them, the pixels are converted to sRGB. Depth: 16 bits stay in PNG, TIFF, JPEG 2000 and JPEG XL. Alpha is
- * laid on black, or on a colour that is asked for, in JPEG and BMP. Grey becomes three equal colours in WebP and AVIF.
+ * formats without them, the pixels are converted to sRGB. Depth: 16 bits stay in PNG, TIFF, JPEG 2000 and JPEG XL. In
+ * JPEG and BMP, transparent parts become black, or the requested colour. Grey becomes three equal colours in WebP and
+ * AVIF.
  *
- * Fails with WriteFailed if the encoder fails, with InvalidValue for a null bitmap, and with TooLarge where it needs more memory
- * than is left, or has more pixels on a side than the format can say, before anything is encoded.
+ * Fails with WriteFailed if the encoder fails, with InvalidValue for a null bitmap, and with TooLarge if it needs more
+ * memory than is left, or has more pixels on a side than the format allows, before anything is encoded.
  */
 Result<QByteArray> encodeImage(const Bitmap &bitmap, FileFormat format, const EncodeOptions &options = {});
 

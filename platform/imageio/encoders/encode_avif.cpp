@@ -11,7 +11,7 @@
 namespace platform {
 namespace {
 
-/** From this quality on colour is kept at full resolution, as in a JPEG. */
+/** From this quality on colour keeps its full resolution, as in a JPEG. */
 constexpr int fullColourQuality = 90;
 
 template<auto release> struct Release
@@ -32,7 +32,7 @@ void demand(const heif_error &error)
         throw vips::VError(error.message ? error.message : "the encoder failed");
 }
 
-/** By its name, or whichever library was installed last would decide over time and size. */
+/** By name; otherwise the most recently installed library would determine time and size. */
 Encoder pinnedEncoder(heif_context *context)
 {
     const heif_encoder_descriptor *descriptor = nullptr;
@@ -47,7 +47,7 @@ void configure(heif_encoder *encoder, int quality)
 {
     // The highest speeds cost 1 % of size and save most of the time; docs/decisions/0031.
     constexpr int speed = 8;
-    // One thread gives other bytes than several, all others the same: so it is never one.
+    // One thread gives other bytes than several, and any larger number gives the same: so one is never used.
     constexpr int threads = 4;
     demand(heif_encoder_set_lossy_quality(encoder, avifQuality(quality)));
     demand(heif_encoder_set_parameter_integer(encoder, "speed", speed));

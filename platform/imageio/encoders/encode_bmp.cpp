@@ -11,7 +11,7 @@ constexpr int fileHeaderSize = 14;
 constexpr int infoHeaderSize = 40;
 constexpr int greyLevels = 256;
 
-/** Writes numbers one behind the other, low byte first. */
+/** Writes consecutive little-endian numbers. */
 class LittleEndian
 {
 public:

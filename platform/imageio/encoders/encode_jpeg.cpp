@@ -13,10 +13,10 @@ namespace platform {
 namespace {
 
 constexpr double qualityWithoutSource = 0.92;
-/** From this quality on colour is kept at full resolution. */
+/** From this quality on colour keeps its full resolution. */
 constexpr int fullColourQuality = 90;
 
-/** Owns the encoder and the bytes it makes, whichever way the call ends. */
+/** Owns the encoder and its output, however the call ends. */
 struct Encoder
 {
     jpeg_compress_struct info = {};
@@ -42,7 +42,7 @@ J_COLOR_SPACE colorSpaceOf(int bands)
     return bands == cmykBands ? JCS_CMYK : JCS_RGB;
 }
 
-/** The tables of the source can be used again where it had the same components. */
+/** The tables of the source can be reused if it had the same components. */
 bool canUseTables(const jpeg_compress_struct &info, const JpegQuantisation &tables)
 {
     for (int component = 0; component < info.num_components; ++component) {
@@ -80,7 +80,7 @@ void useQuality(jpeg_compress_struct &info, double quality)
     info.comp_info[0].v_samp_factor = keepsColour ? 1 : 2;
 }
 
-/** True for a density that a file, which holds whole numbers only, can state well enough. */
+/** True for a density that a file, which holds whole numbers only, can state accurately enough. */
 bool isNearlyWhole(double density)
 {
     constexpr double tolerance = 0.02;
@@ -96,8 +96,8 @@ void useResolution(jpeg_compress_struct &info, Resolution resolution)
     const bool isMetric =
         !isNearlyWhole(resolution.horizontal) && isNearlyWhole(resolution.horizontal / centimetresPerInch);
     const double scale = isMetric ? centimetresPerInch : 1;
-    // Four colours would go without this segment, which is the one place that states a resolution. Readers of theirs go by
-    // the Adobe segment behind it.
+    // Files of four colours would lack this segment, the only one that states a resolution. Their readers use the Adobe
+    // segment after it.
     info.write_JFIF_header = TRUE;
     info.density_unit = isMetric ? 2 : 1;
     info.X_density = UINT16(std::lround(resolution.horizontal / scale));
@@ -127,7 +127,7 @@ void writeProfile(jpeg_compress_struct &info, const QByteArray &profile)
         jpeg_write_icc_profile(&info, reinterpret_cast<const JOCTET *>(profile.constData()), unsigned(profile.size()));
 }
 
-/** Rows go to the encoder as they are, but CMYK inverted, which is how readers expect it. */
+/** Rows are passed to the encoder unchanged, except CMYK, which is inverted as readers expect. */
 void writeRows(jpeg_compress_struct &info, const vips::VImage &image, std::vector<JSAMPLE> &scratch)
 {
     const auto *data = static_cast<const JSAMPLE *>(image.data());
@@ -144,7 +144,7 @@ void writeRows(jpeg_compress_struct &info, const vips::VImage &image, std::vecto
     }
 }
 
-/** The encoder reads whole blocks: behind the last sample of a row it finds that one again. */
+/** The encoder reads whole blocks: the last sample of a row is repeated. */
 void fillBlocks(Plane &plane)
 {
     for (int y = 0; y < plane.height(); ++y) {
@@ -153,7 +153,7 @@ void fillBlocks(Plane &plane)
     }
 }
 
-/** The rows of one row of blocks, and below the last row that one again. */
+/** The rows of one row of blocks; the last row is repeated. */
 void pointToRows(const jpeg_component_info &component, Plane &plane, JDIMENSION blockRow, std::vector<JSAMPROW> &rows)
 {
     const int count = component.v_samp_factor * DCTSIZE;

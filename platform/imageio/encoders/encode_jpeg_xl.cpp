@@ -36,7 +36,7 @@ bool hasAlpha(const VImage &image)
     return image.bands() % 2 == 0;
 }
 
-/** As many as the other work of this process has; the bytes are the same for any number. */
+/** As many as the other work of this process uses; the bytes are the same for any number. */
 Threads threadsFor(JxlEncoder *encoder)
 {
     const int count = vips_concurrency_get();
@@ -74,7 +74,7 @@ void describe(JxlEncoder *encoder, const VImage &image, bool isLossless)
 /** What each frame is encoded with. */
 JxlEncoderFrameSettings *settingsFor(JxlEncoder *encoder, const Compression &compression)
 {
-    // Above 6 the encoder takes twice the memory; below 5 what it makes is larger and further from the picture.
+    // Above 6 the encoder takes twice the memory; below 5 its output is larger and less faithful.
     constexpr int effort = 5;
     constexpr int effortWithoutLoss = 3;
     JxlEncoderFrameSettings *settings = JxlEncoderFrameSettingsCreate(encoder, nullptr);
@@ -94,10 +94,10 @@ struct Band
     int rows = 0;
 };
 
-/** The frame replaces these rows of what the frames before it have left, and leaves that for the next one. */
+/** The frame replaces these rows of what the previous frames left, and saves the result for the next one. */
 void placeFrame(JxlEncoderFrameSettings *settings, const VImage &image, Band band)
 {
-    constexpr uint32_t canvas = 1; // one of four places for pictures that later frames can begin with
+    constexpr uint32_t canvas = 1; // one of four slots for pictures that later frames can start from
     JxlFrameHeader header;
     JxlEncoderInitFrameHeader(&header);
     JxlLayerInfo &layer = header.layer_info;

@@ -16,7 +16,7 @@ QByteArray headerOf(const vips::VImage &image)
     QByteArray header = bigEndian(quint32(image.width())) + bigEndian(quint32(image.height()));
     header.append(char(bytesPerComponent(image) * 8));
     header.append(colourTypes[image.bands() - 1]);
-    return header.append(3, '\0'); // the one compression, the one set of filters, not interlaced
+    return header.append(3, '\0'); // the only compression, the only set of filters, not interlaced
 }
 
 void appendResolution(QByteArray &png, Resolution resolution)
@@ -37,7 +37,7 @@ void appendProfile(QByteArray &png, const vips::VImage &image)
         appendPngChunk(png, "iCCP", QByteArray("icc\0\0", 5) + deflated(profile));
 }
 
-/** The image with no more than the four components that the format has. */
+/** The image with at most the four components that the format allows. */
 vips::VImage fitted(const vips::VImage &image)
 {
     constexpr int mostBands = 4;

@@ -9,14 +9,14 @@ namespace platform {
 namespace {
 
 constexpr int rowsPerStrip = 128;
-/** What offsets of 32 bits surely reach. */
+/** What 32-bit offsets safely reach. */
 constexpr quint64 mostBytes = quint64(std::numeric_limits<qint32>::max());
 
-/** The one directory of a file with its longer values, which stand behind the pixels. Low bytes come first. */
+/** The only directory of a file with its longer values, which follow the pixels. Little-endian. */
 class DirectoryWriter
 {
 public:
-    /** @param at  where in the file it all begins */
+    /** @param at  its position in the file */
     explicit DirectoryWriter(qint64 at) : m_at(at) {}
 
     void add(quint16 tag, quint16 type, quint32 count, const QByteArray &value)
@@ -46,7 +46,7 @@ public:
             m_form.bytes(quint32(std::lround(value * parts)), 4) + m_form.bytes(parts, 4));
     }
 
-    /** All bytes, the directory at their end, and the header that tells its place. */
+    /** All bytes, the directory last, and the header that points to it. */
     FileEnds finished()
     {
         const quint64 place = appendEven(m_bytes, m_form.directory(m_entries, 0), m_at);
@@ -109,7 +109,7 @@ ColourModel modelOf(const vips::VImage &image)
     }
 }
 
-/** Lab as the format has it: whole numbers, the two colours with a sign; @p image is in floating point. */
+/** Lab in the format's representation: integers, the two colours signed; @p image is in floating point. */
 vips::VImage storedLab(const vips::VImage &image)
 {
     const bool isDeep = isDeepLab(image);
@@ -150,7 +150,7 @@ FileEnds plainTiffEnds(const vips::VImage &image, Resolution resolution, qint64 
     const ColourModel model = modelOf(image);
     const Strips strips = stripsOf(image, plainTiffHeadBytes);
     const double across = resolution.horizontal > 0 ? resolution.horizontal : defaultDpi;
-    DirectoryWriter directory(tailAt); // the tags in the order of their numbers, as the format wants them
+    DirectoryWriter directory(tailAt); // tags in ascending order, as the format requires
     directory.addLongs(tiffTag::width, {quint32(image.width())});
     directory.addLongs(tiffTag::height, {quint32(image.height())});
     directory.addShorts(tiffTag::bits, QList<quint16>(image.bands(), quint16(bytesPerComponent(image) * 8)));
@@ -163,11 +163,11 @@ FileEnds plainTiffEnds(const vips::VImage &image, Resolution resolution, qint64 
     directory.addLongs(tiffTag::stripSizes, strips.sizes);
     directory.addFraction(tiffTag::resolutionAcross, across);
     directory.addFraction(tiffTag::resolutionDown, resolution.vertical > 0 ? resolution.vertical : across);
-    directory.add(tiffTag::planarConfiguration, 1); // components side by side
+    directory.add(tiffTag::planarConfiguration, 1); // interleaved components
     directory.add(tiffTag::resolutionUnit, 2);      // inches
     QList<quint16> others(image.bands() - model.colours, 0);
     if (!others.isEmpty()) {
-        others.first() = others.size() > otherBands(image) ? 2 : 0; // 2: transparency, not multiplied
+        others.first() = others.size() > otherBands(image) ? 2 : 0; // 2: transparency, not premultiplied
         directory.addShorts(tiffTag::extraSamples, others);
     }
     if (image.format() == VIPS_FORMAT_FLOAT)

@@ -23,14 +23,14 @@ VImage withThreeColours(const VImage &image)
 QByteArray encodeWebp(const VImage &image, const Compression &compression)
 {
     constexpr int effort = 4;
-    // Of lossless files the next one takes three times as long for a seventh less.
+    // The next level for lossless files takes three times as long for a seventh less.
     constexpr int effortWithoutLoss = 1;
     const QByteArray file = takenFrom(withThreeColours(image).webpsave_buffer(
         VImage::option()
             ->set("Q", compression.quality)
             ->set("lossless", compression.isLossless)
             ->set("effort", compression.isLossless ? effortWithoutLoss : effort)));
-    // The library has put an EXIF block of its own making into it.
+    // The library has inserted an EXIF block of its own.
     const auto chunks = webpChunksOf(file);
     return chunks ? webpWithMetadata(*chunks, {}, {}) : file;
 }

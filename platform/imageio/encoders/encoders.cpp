@@ -22,7 +22,7 @@ VImage withResolution(const VImage &image, Resolution resolution)
         VImage::option()->set("xres", horizontal / millimetresPerInch)->set("yres", vertical / millimetresPerInch));
 }
 
-/** The side of a tile that leaves no narrow strip at the end of @p side: 512 where it may be. */
+/** A tile size that leaves no narrow strip at the end of @p side: 512 if possible. */
 int jpeg2000TileSide(int side)
 {
     constexpr int usual = 512;
@@ -65,17 +65,17 @@ QByteArray encodeTiff(const VImage &image, Resolution resolution)
 
 QByteArray encodeGif(const VImage &image)
 {
-    // The default of 7 takes half as long again; its palette is nearer to single dots, but not to what is seen of them.
+    // The default of 7 takes half as long again; its palette is closer to single dots, but not to their visual effect.
     constexpr int effort = 3;
     return takenFrom(image.gifsave_buffer(VImage::option()->set("effort", effort)));
 }
 
 QByteArray encodeJpeg2000(const VImage &image, const std::optional<Compression> &compression)
 {
-    // Above this the difference to the source cannot be seen.
+    // Above this the difference from the source is invisible.
     constexpr int visuallyLossless = 60;
     const int decibels = compression ? jpeg2000Decibels(compression->quality) : visuallyLossless;
-    // The encoder reckons with what a tile holds: one that is small and flat comes out as another colour.
+    // The encoder models the contents of a tile: a small, flat one changes its colour.
     constexpr int leastSide = 128;
     constexpr int leastArea = 256 * 256;
     const bool isSmall =

@@ -1,19 +1,20 @@
 #pragma once
 
-// Private to the platform: one scale of quality for all lossy types.
+// Private to the platform: one quality scale for all lossy types.
 
 namespace platform {
 
 /**
- * What a quality of 1 to 100 is for encoders with scales of their own: about as near to the picture as a JPEG of that quality, as
- * measured on photographs by the mean square of the differences. 100 is the best that each has short of lossless.
+ * The equivalent of a quality of 1 to 100 for encoders with scales of their own: about as close to the picture as a
+ * JPEG of that quality, measured on photographs by the mean squared difference. 100 is the best that each offers short
+ * of lossless.
  */
 int avifQuality(int quality);
 
-/** As a distance that can just be seen at 1; 15 is the most. */
+/** As a distance, where 1 is just visible; 15 is the maximum. */
 double jpegXlDistance(int quality);
 
-/** In decibels: how far the differences lie below the greatest value. */
+/** In decibels: how far the differences are below the peak value. */
 int jpeg2000Decibels(int quality);
 
 } // namespace platform

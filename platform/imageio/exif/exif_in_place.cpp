@@ -14,13 +14,13 @@
 //     "II" or "MM", 42, offset | directory 0 ... | EXIF, GPS directories | values, maker notes | directory 1 | thumbnail
 //     directory: number of entries (2 bytes) | entries of 12 bytes: tag, type, count, value or its offset | next directory
 //
-// Maker notes may hold offsets of the same kind that nobody can find, so nothing is moved: a directory gets shorter where it
-// stands, and only the end of the block is cut.
+// Maker notes may contain offsets of the same kind that nobody can find, so nothing is moved: a directory is shortened
+// in place, and only the end of the block is cut.
 
 namespace platform {
 namespace {
 
-/** Where the thumbnail's picture begins if it is the end of the block and can be cut off; else the block's size. */
+/** Where the thumbnail's picture begins if it is at the end of the block and can be cut off; else the block's size. */
 qsizetype endWithoutThumbnail(const TiffReader &reader, quint64 directoryOffset)
 {
     const TiffDirectory directory = reader.directory(directoryOffset);
@@ -33,7 +33,7 @@ qsizetype endWithoutThumbnail(const TiffReader &reader, quint64 directoryOffset)
     return isTheEnd ? qsizetype(start) : qsizetype(reader.size());
 }
 
-/** Writes the kept entries of the first directory over it, shorter by what was taken out. */
+/** Writes the kept entries of the first directory over it, without the removed ones. */
 bool shortenFirstDirectory(QByteArray &block, const TiffForm &form, const TiffDirectory &directory)
 {
     QByteArray kept;
@@ -47,7 +47,7 @@ bool shortenFirstDirectory(QByteArray &block, const TiffForm &form, const TiffDi
     return true;
 }
 
-/** Sets a SHORT or LONG of one element where it stands. */
+/** Sets a SHORT or LONG of one element in place. */
 void setInteger(QByteArray &block, const TiffForm &form, const TiffEntry *entry, quint32 value)
 {
     if (!entry || entry->count != 1 || (entry->type != tiffType::shortType && entry->type != tiffType::longType))
@@ -92,7 +92,7 @@ QByteArray exifBlockWithResolutionSwapped(QByteArray block)
     const TiffEntry *across = first.findSound(tiffTag::resolutionAcross);
     const TiffEntry *down = first.findSound(tiffTag::resolutionDown);
     const auto isFraction = [](const TiffEntry *entry) { return entry && entry->type == tiffType::fractionType; };
-    // A fraction is too long for an entry, which therefore says where it is.
+    // A fraction is too long for an entry, which therefore has its offset.
     const qint64 field = reader.form().fieldAt();
     if (isFraction(across) && isFraction(down) && across->count == down->count)
         std::swap_ranges(block.begin() + across->at + field, block.begin() + across->at + reader.form().entrySize(),
@@ -115,7 +115,7 @@ void fillWithZeros(QByteArray &block, const TiffRange &range)
     block.replace(range.start, range.size, QByteArray(range.size, '\0'));
 }
 
-/** Zeros over the values of a directory that lie outside of it, and over the directory. */
+/** Zeros over the values of a directory that are outside of it, and over the directory. */
 void eraseDirectory(QByteArray &block, const TiffDirectory &directory)
 {
     for (const TiffEntry &entry : directory.entries)
@@ -124,7 +124,7 @@ void eraseDirectory(QByteArray &block, const TiffDirectory &directory)
     fillWithZeros(block, directory.range);
 }
 
-/** A directory written over itself without one of its entries; the room behind it becomes zeros. */
+/** A directory rewritten in place without one of its entries; the freed room becomes zeros. */
 void writeWithout(QByteArray &block, const TiffForm &form, const TiffDirectory &directory, quint16 tag)
 {
     QByteArray kept;
@@ -142,7 +142,7 @@ bool overlapsAnyOther(const TiffDirectory &directory, const TiffDirectory &other
     });
 }
 
-/** The block without the directory behind the first one, and without its picture where that is the end. */
+/** The block without its second directory, and without the thumbnail's picture if that is at the end. */
 QByteArray withoutThumbnail(const QByteArray &block)
 {
     const TiffReader reader(block);
@@ -153,7 +153,7 @@ QByteArray withoutThumbnail(const QByteArray &block)
     return result.replace(first.nextAt, reader.form().offsetSize(), reader.form().offset(0));
 }
 
-/** Sets one fraction where it stands; false where it does not stand anywhere. */
+/** Sets one fraction in place; false if it does not exist. */
 bool setFraction(QByteArray &block, const TiffForm &form, const TiffEntry *entry, double value)
 {
     const bool hasPlace = entry && entry->isSound() && entry->type == tiffType::fractionType && entry->count == 1;
@@ -162,7 +162,7 @@ bool setFraction(QByteArray &block, const TiffForm &form, const TiffEntry *entry
     return hasPlace;
 }
 
-/** The first directory at the end of the block, with these entries in place of those that it had. */
+/** The first directory at the end of the block, with these entries replacing those that it had. */
 QByteArray withNewFirst(const QByteArray &block, QMap<quint16, QByteArray> entries)
 {
     const TiffReader reader(block);

@@ -8,31 +8,33 @@
 namespace platform {
 
 /**
- * An EXIF block as it was read, made fit for another file without moving anything in it, so that every offset still
- * holds, those in maker notes that nobody can read included.
+ * An EXIF block as it was read, adapted to another file without moving anything in it, so that every offset stays
+ * valid, including those in unreadable maker notes.
  *
- * Taken out of the first directory: tags about the old file's storage (describesStructure()), XMP, IPTC and profiles.
- * The thumbnail's directory is cut off, and its picture where that is the end of the block. The size in pixels is set
- * again where the block states one. Empty where the block is not sound enough for that.
+ * Removed from the first directory: tags about the old file's storage (describesStructure()), XMP, IPTC and profiles.
+ * The thumbnail's directory is cut off, and its picture if that is at the end of the block. The size in pixels is
+ * updated if the block states one. Empty if the block is too damaged for that.
  */
 QByteArray exifBlockInPlace(const QByteArray &block, QSize pixels);
 
-/** The block with another orientation in it; unchanged where it states none. */
+/** The block with another orientation; unchanged if it states none. */
 QByteArray exifBlockWithOrientation(QByteArray block, int orientation);
 
-/** The block with its horizontal and its vertical resolution in each other's places; unchanged where one is missing. */
+/** The block with horizontal and vertical resolution swapped; unchanged if one is missing. */
 QByteArray exifBlockWithResolutionSwapped(QByteArray block);
 
 /**
- * The block with this resolution in dots per inch in it; without its thumbnail where there was no place for it, since what is new
- * goes to the end. Empty where the block is not sound enough for that.
+ * The block with this resolution in dots per inch; without its thumbnail if there was no place for it, since new data
+ * goes to the end. Empty if the block is too damaged for that.
  */
 QByteArray exifBlockWithResolution(const QByteArray &block, double horizontal, double vertical);
 
-/** The block without its place: the GPS directory with all its values becomes zeros. Empty where the block is not sound. */
+/**
+ * The block without its location: the GPS directory with all its values becomes zeros. Empty if the block is damaged.
+ */
 QByteArray exifBlockWithoutPlace(const QByteArray &block);
 
-/** The block without maker notes, which become zeros. Empty where the block is not sound. */
+/** The block without maker notes, which become zeros. Empty if the block is damaged. */
 QByteArray exifBlockWithoutMakerNote(const QByteArray &block);
 
 } // namespace platform

@@ -15,7 +15,7 @@ namespace {
 
 constexpr qsizetype segmentHeaderSize = 4;
 
-/** The packet states it as an attribute or as an element; what stands between name and number is at most this long. */
+/** The packet states it as an attribute or an element; at most this much is between name and number. */
 constexpr qsizetype longestGap = 4;
 
 void markXmp(QByteArray &file, qsizetype start, qsizetype size)

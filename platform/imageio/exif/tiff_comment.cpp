@@ -43,13 +43,13 @@ private:
 
     const QByteArray &m_bytes;
     TiffReader m_reader;
-    qint64 m_kept; ///< of the old bytes; new ones follow
+    qint64 m_kept; ///< of the old bytes; new ones are appended
     QByteArray m_value;
     QByteArray m_appended;
     QList<Splice> m_overwritten;
 };
 
-/** Behind what is kept. */
+/** After what is kept. */
 quint64 CommentEditor::append(const QByteArray &bytes)
 {
     return appendEven(m_appended, bytes, m_kept);
@@ -95,13 +95,13 @@ QByteArray CommentEditor::commentEntry()
     return form().entry(tiffTag::userComment, tiffType::undefinedType, quint64(m_value.size()), field);
 }
 
-/** The old entries as they stand and a new one among them; the old directory is left where it is. */
+/** The old entries unchanged and a new one among them; the old directory is left in place. */
 quint64 CommentEditor::newDirectory(const TiffDirectory &old, quint16 tag, const QByteArray &newEntry)
 {
     QByteArray entries;
     bool isIn = false;
     for (const TiffEntry &each : old.entries) {
-        if (each.tag == tag || each.tag == tiffTag::userComment) // one in the wrong directory is not taken along
+        if (each.tag == tag || each.tag == tiffTag::userComment) // one in the wrong directory is not moved with it
             continue;
         if (!isIn && each.tag > tag) {
             entries += newEntry;
@@ -116,7 +116,7 @@ quint64 CommentEditor::newDirectory(const TiffDirectory &old, quint16 tag, const
     return append(form().directory(entries, goesOn ? old.next : 0));
 }
 
-/** True if anything else that is known uses some of these bytes: only a damaged file has that. */
+/** True if any other known data uses some of these bytes: only in a damaged file. */
 bool CommentEditor::isShared(const TiffRange &range) const
 {
     qsizetype users = range.start < form().headerSize() ? 2 : 0;
@@ -125,7 +125,7 @@ bool CommentEditor::isShared(const TiffRange &range) const
     return users > 1; // the comment itself is one
 }
 
-/** A shorter comment left zeros behind itself, which are room for a longer one where nothing follows. */
+/** A shorter comment left zeros behind, which are room for a longer one if nothing follows. */
 TiffRange CommentEditor::roomOf(const TiffRange &range) const
 {
     const TiffRange toTheEnd{range.start, m_kept - range.start};
@@ -134,13 +134,13 @@ TiffRange CommentEditor::roomOf(const TiffRange &range) const
     return isFree && !isShared(toTheEnd) ? toTheEnd : range;
 }
 
-/** Its value lies by itself, and may be overwritten. */
+/** Its value is stored separately, and may be overwritten. */
 bool CommentEditor::hasPlace(const TiffEntry &tag) const
 {
     return tag.isSound() && !tag.isInline && tag.value.end() <= m_kept && !isShared(tag.value);
 }
 
-/** A comment in the first directory, where it does not belong and some readers look: they are told the same. */
+/** A comment in the first directory, where it does not belong but some readers look: it is kept equal. */
 void CommentEditor::replaceMisplaced(const TiffEntry &tag)
 {
     if (hasPlace(tag))
@@ -161,7 +161,7 @@ void CommentEditor::replaceComment(const TiffEntry &tag)
     }
     if (isAlone && room.end() == m_kept)
         m_kept = tag.value.start;
-    else if (isAlone) // what was said before does not stay in the file
+    else if (isAlone) // the old text must not remain in the file
         overwrite(tag.value.start, QByteArray(tag.value.size, '\0'));
     overwrite(tag.at, commentEntry());
 }
@@ -191,7 +191,7 @@ void CommentEditor::setComment()
     overwrite(form().firstAt(), form().offset(newFirst));
 }
 
-/** In a damaged file pixels may be said to lie where directories are. */
+/** In a damaged file pixels may overlap with directories. */
 bool CommentEditor::changesPixels() const
 {
     const QList<TiffRange> pixels = tiffExtents(m_reader, TiffPages::All).pixels;
@@ -211,7 +211,7 @@ std::optional<QList<Splice>> CommentEditor::splices() const
     std::stable_sort(all.begin(), all.end(), [](const Splice &a, const Splice &b) { return a.at < b.at; });
     for (qsizetype i = 1; i < all.size(); ++i)
         if (all[i].at < all[i - 1].at + all[i - 1].removed)
-            return std::nullopt; // directories that lie over each other
+            return std::nullopt; // overlapping directories
     if (!all.isEmpty() && all.last().at + all.last().removed > m_kept)
         return std::nullopt;
     if (m_kept < m_bytes.size() || !m_appended.isEmpty())
@@ -219,7 +219,7 @@ std::optional<QList<Splice>> CommentEditor::splices() const
     return all;
 }
 
-/** True if a reader that follows the directories comes to this comment. */
+/** True if a reader that follows the directories finds this comment. */
 bool holdsComment(const QByteArray &block, const QString &comment)
 {
     const TiffReader reader(block);
@@ -264,7 +264,7 @@ bool tellsWhereItsPixelsAre(const QByteArray &bytes)
         }
         return offsets->count > 0;
     }
-    return isCameraRaw(bytes); // which may keep them further down
+    return isCameraRaw(bytes); // which may have one further down
 }
 
 int otherPageCount(const QByteArray &bytes)
@@ -289,7 +289,7 @@ QByteArray exifBlockWithUserComment(const QByteArray &block, const QString &comm
             return holdsComment(edited, comment) ? edited : QByteArray();
         }
     if (reader.isClassic() && reader.first().valid)
-        return {}; // what is in it can be read, and would be lost
+        return {}; // its contents can be read, and would be lost
     const QByteArray empty("II*\0\0\0\0\0", 8);
     const auto splices = userCommentSplices(empty, comment, OtherPages::Keep);
     return splices ? spliced(empty, *splices) + block : QByteArray();

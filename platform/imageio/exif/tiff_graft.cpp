@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <map>
 
-// The new file, in which every offset of the block still holds and those of the encoded file grow by one number:
+// The new file, in which every offset of the block stays valid and those of the encoded file increase by one number:
 //
 //     EXIF block, whose header is the file's | zeros | encoded file without its header, and without its directory where that
 //     is its end | XMP, IPTC, values in the other byte order | the new directory, to which the header leads
@@ -23,11 +23,11 @@ bool isPlaceOfPixels(quint16 tag)
     return tag == tiffTag::stripOffsets || tag == tiffTag::tileOffsets;
 }
 
-/** Puts the file together: the block, the encoded bytes behind it, arrays that had to be rebuilt, the directory. */
+/** Assembles the file: the block, the encoded bytes after it, rebuilt arrays, the directory. */
 class Graft
 {
 public:
-    /** @param leftOut  bytes that belong behind the header and are neither here nor in the result */
+    /** @param leftOut  bytes that belong after the header and are neither here nor in the result */
     Graft(const QByteArray &encoded, const GraftedBlocks &blocks, qint64 leftOut)
         : m_encoded(encoded), m_blocks(blocks), m_leftOut(leftOut), m_from(encoded), m_block(blocks.exif),
           m_to(m_block.isClassic() ? m_block.form() : m_from.form())
@@ -35,7 +35,7 @@ public:
     }
 
     QByteArray file();
-    /** What of the result stands before the bytes that were left out. */
+    /** The part of the result before the omitted bytes. */
     qsizetype headSize() const { return qsizetype(m_shift) + m_to.headerSize(); }
 
 private:
@@ -59,7 +59,7 @@ private:
     std::map<quint16, QByteArray> m_entries;
 };
 
-/** The value's elements in the new byte order, and offsets of pixels where the pixels now are. */
+/** The value's elements in the new byte order, and pixel offsets updated. */
 QByteArray Graft::converted(const TiffEntry &entry) const
 {
     QByteArray value = m_encoded.mid(entry.value.start, entry.value.size);
@@ -95,7 +95,7 @@ void Graft::addEncodedEntry(const TiffEntry &entry)
                                           m_to.offset(quint64(entry.value.start + m_leftOut) + m_shift));
 }
 
-/** An entry that leads to a directory with nothing in it, over which readers of TIFF files stumble. */
+/** An entry that points to an empty directory, which some readers of TIFF files reject. */
 bool Graft::leadsNowhere(const TiffEntry &entry) const
 {
     if (entry.tag != tiffTag::exifDirectory && entry.tag != tiffTag::gpsDirectory)
@@ -105,7 +105,9 @@ bool Graft::leadsNowhere(const TiffEntry &entry) const
                         [](const TiffEntry &each) { return each.isSound(); });
 }
 
-/** The block's own entries win, as they stand: their offsets hold, since the block is the head of the file. */
+/**
+ * The block's own entries take precedence, unchanged: their offsets are valid, since the block is the head of the file.
+ */
 void Graft::addBlockEntries(const TiffDirectory &directory)
 {
     for (const TiffEntry &entry : directory.entries)
@@ -122,7 +124,7 @@ void Graft::addBytes(quint16 tag, quint16 type, const QByteArray &bytes)
     addValue(tag, type, quint64(bytes.size()), bytes);
 }
 
-/** The block and behind it the encoded file without header and old directory, its pixels aligned as they were. */
+/** The block, followed by the encoded file without header and old directory, its pixels aligned as before. */
 void Graft::layOut(const TiffDirectory &old)
 {
     const bool isAtTheEnd = old.range.end() == m_encoded.size();
@@ -140,7 +142,7 @@ void Graft::layOut(const TiffDirectory &old)
 void Graft::writeDirectory()
 {
     QByteArray entries;
-    for (const auto &[tag, entry] : m_entries) // sorted by tag, as the format wants it
+    for (const auto &[tag, entry] : m_entries) // sorted by tag, as the format requires
         entries += entry;
     const quint64 offset = appendEven(m_file, m_to.directory(entries, 0), m_leftOut);
     m_to.put(offset, m_to.offsetSize(), m_file.data() + m_to.firstAt());

@@ -42,8 +42,8 @@ qsizetype asciiUnits(const QByteArray &bytes, qsizetype highByte)
 }
 
 /**
- * The order in which the text makes sense: the file's, unless most of it is plain letters in the other one. A few
- * ideographs end in a zero byte and look like letters the wrong way round, so a short text proves nothing.
+ * The byte order in which the text makes sense: the file's, unless most of it is plain letters in the other one. A few
+ * ideographs end in a zero byte and look like letters in the wrong order, so a short text proves nothing.
  */
 QSysInfo::Endian plausibleOrder(const QByteArray &bytes, QSysInfo::Endian order)
 {
@@ -56,8 +56,8 @@ QSysInfo::Endian plausibleOrder(const QByteArray &bytes, QSysInfo::Endian order)
 }
 
 /**
- * Whether a reader that guesses the order of 16-bit units gets it right. Those who do not count letters expect that low bytes
- * vary more than high ones, and that where both vary alike zeros are high bytes.
+ * Whether a reader that guesses the order of 16-bit units guesses right. Readers that do not count letters expect low
+ * bytes to vary more than high ones, and zeros to be high bytes if both vary equally.
  */
 bool tellsItsOrder(const QString &text)
 {
@@ -97,7 +97,7 @@ QString decodeUtf16(QByteArray bytes, QSysInfo::Endian order)
     return end < 0 ? text : text.left(end);
 }
 
-/** The text in the named character set; null where the bytes are not valid in it. */
+/** The text in the named character set; null if the bytes are invalid in it. */
 QString decodeWith(const char *charset, QByteArray bytes)
 {
     const iconv_t converter = iconv_open("UTF-8", charset);

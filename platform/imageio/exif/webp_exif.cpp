@@ -17,7 +17,7 @@ QByteArray webpExif(const QByteArray &bytes)
             break;
         if (QByteArray::fromRawData(bytes.constData() + at, 4) == "EXIF") {
             const QByteArray block = bytes.mid(at + chunkHeader, size);
-            return block.startsWith(QByteArray("Exif\0\0", 6)) ? block.mid(6) : block; // some writers put that in front
+            return block.startsWith(QByteArray("Exif\0\0", 6)) ? block.mid(6) : block; // some writers put that first
         }
         at += chunkHeader + size + size % 2;
     }

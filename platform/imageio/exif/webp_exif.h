@@ -6,7 +6,7 @@
 
 namespace platform {
 
-/** The EXIF block of a WebP file, TIFF header first; empty where there is none. Never reads outside @p bytes. */
+/** The EXIF block of a WebP file, TIFF header first; empty if there is none. Never reads outside @p bytes. */
 QByteArray webpExif(const QByteArray &bytes);
 
 } // namespace platform

@@ -14,7 +14,7 @@ constexpr qsizetype longestText = 65536;
 constexpr int mostChunks = 4096;
 constexpr int mostTexts = 200;
 
-/** seek() for a place that a file may only claim to have: beyond the end Qt would log a line. */
+/** seek() for a position that a file may only claim to have: beyond the end Qt would log a line. */
 bool goTo(QIODevice &file, qint64 position)
 {
     return position <= file.size() && file.seek(position);
@@ -135,7 +135,7 @@ QVariantMap jfifGroup(QIODevice &file)
     constexpr qsizetype wholeSegment = 12; // name, version, unit and two densities
     if (segments.jfif.size() < wholeSegment)
         return {};
-    const int minor = byteAt(segments.jfif, 6); // 0x02 in "1.02" is said as 1, 0, 2
+    const int minor = byteAt(segments.jfif, 6); // 0x02 in "1.02" is read as 1, 0, 2
     QVariantList version = {byteAt(segments.jfif, 5), minor / 10, minor % 10};
     QVariantMap group = {{QStringLiteral("JFIFVersion"), version},
                          {QStringLiteral("DensityUnit"), byteAt(segments.jfif, 7)},
@@ -146,7 +146,7 @@ QVariantMap jfifGroup(QIODevice &file)
     return group;
 }
 
-/** What a GIF's blocks before its first picture say. */
+/** The blocks of a GIF before its first picture. */
 class GifHead
 {
 public:
@@ -169,7 +169,7 @@ public:
     }
 
 private:
-    /** False at the first picture, and at anything that is no extension. */
+    /** False at the first picture, and at anything that is not an extension. */
     bool readBlock()
     {
         constexpr char extension = 0x21;

@@ -6,7 +6,7 @@
 namespace platform {
 namespace {
 
-/** Files up to this size are read as a whole; larger ones are mapped. */
+/** Files up to this size are read at once; larger ones are mapped. */
 constexpr qint64 mostReadAtOnce = 64 << 20;
 
 QByteArray blockOf(const vips::VImage &image, const char *field)
@@ -18,7 +18,7 @@ QByteArray blockOf(const vips::VImage &image, const char *field)
     return {static_cast<const char *>(block), qsizetype(length)};
 }
 
-/** XMP stands among the numbered items of a HEIC or AVIF file, and nothing but its content tells it. */
+/** XMP is among the numbered items of a HEIC or AVIF file, recognisable only by its content. */
 QByteArray xmpOf(const vips::VImage &image)
 {
     constexpr int mostItems = 16;
@@ -30,7 +30,7 @@ QByteArray xmpOf(const vips::VImage &image)
     return blockOf(image, VIPS_META_XMP_NAME);
 }
 
-/** The decoder takes the blocks out of a container that the metadata reader does not know. */
+/** The decoder extracts the blocks from a container that the metadata reader does not support. */
 Metadata fromDecoder(const PictureBytes &bytes, Content content)
 {
     initVips();
@@ -52,7 +52,7 @@ Metadata fromLargeFile(const PictureBytes &bytes)
     return metadata;
 }
 
-/** The segments before the first scan hold all the metadata of a JPEG; the reader looks a little further ahead. */
+/** The segments before the first scan contain all the metadata of a JPEG; the reader reads a little further. */
 QByteArray jpegHead(QIODevice &device)
 {
     constexpr qint64 readAhead = 4096;
@@ -73,7 +73,7 @@ Metadata metadataOf(const PictureBytes &bytes, Content content)
     switch (content) {
     case Content::Heif:
     case Content::Avif:
-        // The decoder has obeyed the container's own turn, and this one would turn the picture again.
+        // The decoder has applied the container's own rotation, and this one would rotate the picture again.
         return fromDecoder(bytes, content).withOrientation(1);
     case Content::Bmp:
     case Content::Pdf:
@@ -86,7 +86,7 @@ Metadata metadataOf(const PictureBytes &bytes, Content content)
     const std::unique_ptr<QIODevice> device = bytes.openedDevice();
     if (content == Content::Jpeg)
         return inBytes(*device, jpegHead(*device));
-    if (content == Content::JpegXl) // its pixels say how they lie, whatever EXIF says
+    if (content == Content::JpegXl) // its pixels determine the orientation, whatever EXIF says
         return inBytes(*device, device->readAll()).withOrientation(1);
     if (device->size() <= mostReadAtOnce || bytes.isInMemory())
         return inBytes(*device, device->readAll());

@@ -8,7 +8,9 @@
 
 namespace platform {
 
-/** The metadata of a file of known content. Throws vips::VError where the file cannot be read: that is not "there is none". */
+/**
+ * The metadata of a file of known content. Throws vips::VError if the file cannot be read: that is not "there is none".
+ */
 Metadata metadataOf(const PictureBytes &bytes, Content content);
 
 } // namespace platform

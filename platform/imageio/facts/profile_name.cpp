@@ -11,7 +11,7 @@ namespace platform {
 namespace {
 
 /** A number at @p position; 0 outside the bytes. */
-/** One text of a profile's name, and the reader it is for. */
+/** One text of a profile's name, and its language. */
 struct NamedText
 {
     QByteArray language; ///< "de"
@@ -33,7 +33,10 @@ QList<NamedText> textsOf(const QByteArray &tag)
     return texts;
 }
 
-/** The text for this reader: in one of the languages asked for, country and all if possible; else English, else the first. */
+/**
+ * The best text for a reader: in one of the preferred languages, with its country if possible; else English, else the
+ * first.
+ */
 NamedText textFor(const QList<NamedText> &texts, const QStringList &languages)
 {
     const auto search = [&texts](const QByteArray &language, const QByteArray &country) {

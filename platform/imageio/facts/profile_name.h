@@ -7,9 +7,10 @@
 namespace platform {
 
 /**
- * The description of an ICC profile, "Display P3"; empty where it has none that can be read.
+ * The description of an ICC profile, "Display P3"; empty if it has none that can be read.
  *
- * @param languages  the reader's, the best first, such as "de-CH"; a profile that has none of them speaks English, or whatever
+ * @param languages  the reader's, best first, such as "de-CH"; for a profile that has none of them, English or whatever
+ * it has
  *                   it has first
  */
 QString profileName(const QByteArray &iccProfile, const QStringList &languages = QLocale().uiLanguages());

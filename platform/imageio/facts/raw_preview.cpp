@@ -15,7 +15,7 @@ QByteArray largestJpeg(const Exiv2::Image &image)
 {
     const Exiv2::PreviewManager previews(image);
     const Exiv2::PreviewPropertiesList list = previews.getPreviewProperties();
-    for (auto each = list.rbegin(); each != list.rend(); ++each) { // by size, the largest last
+    for (auto each = list.rbegin(); each != list.rend(); ++each) { // by size, largest last
         if (each->mimeType_ != "image/jpeg")
             continue;
         const Exiv2::PreviewImage preview = previews.getPreviewImage(*each);
@@ -57,7 +57,7 @@ Result<QByteArray> rawPreview(const PictureBytes &file)
     if (!opened)
         return cannotBeRead();
     const MappedFile mapped(*opened);
-    // Where a file system cannot map, all of it is read.
+    // If a file system cannot map, all of it is read.
     const QByteArray bytes = mapped.isThere() ? mapped.bytes() : opened->readAll();
     QByteArray preview = previewIn(bytes);
     if (mapped.isSpoilt() || !readProblemOf(*opened).isEmpty())

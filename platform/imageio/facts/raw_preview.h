@@ -8,8 +8,8 @@
 namespace platform {
 
 /**
- * The largest JPEG that the camera put into its raw file; empty where there is none, or none that is whole. Fails with NotFound, and
- * with Unreadable where something of the file that is looked at cannot be read; the message is a reason, no sentence.
+ * The largest JPEG that the camera put into its raw file; empty if there is none, or none that is complete. Fails with
+ * NotFound, and with Unreadable if a required part of the file cannot be read; the message is a reason, no sentence.
  */
 Result<QByteArray> rawPreview(const PictureBytes &file);
 

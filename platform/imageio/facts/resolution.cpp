@@ -13,7 +13,7 @@ namespace {
 
 constexpr double millimetresPerInch = 25.4;
 
-/** The pHYs chunk of a PNG, where it names the metre as its unit. */
+/** The pHYs chunk of a PNG, if its unit is the metre. */
 Resolution ofPng(QIODevice &file)
 {
     constexpr int signatureBytes = 8;
@@ -41,13 +41,13 @@ Resolution ofBitmapFile(QIODevice &file)
     return {dotsPerInch(header.horizontalPerMetre), dotsPerInch(header.verticalPerMetre)};
 }
 
-/** The resolution among a Photoshop file's resources, always given per inch whatever unit it is to be shown in. */
+/** The resolution among a Photoshop file's resources, always per inch whatever its display unit. */
 Resolution ofPhotoshop(QIODevice &file)
 {
     constexpr int headerBytes = 26;
     constexpr quint16 resolutionId = 1005;
     constexpr double onePerInch = 65536; // fixed point
-    // A whole number that somebody's rounding has moved by the last bit is read as what was meant.
+    // A whole number that rounding has changed in the last bit is read as intended.
     const auto meant = [](quint32 value) {
         const double perInch = value / onePerInch;
         return std::abs(perInch - std::round(perInch)) <= 1 / onePerInch ? std::round(perInch) : perInch;
@@ -111,7 +111,7 @@ Resolution ofTiffDecoder(const PictureBytes &bytes)
     return {};
 }
 
-/** A number that can be meant: anything else counts as not stated. */
+/** A plausible number: anything else counts as not stated. */
 Resolution plausible(Resolution stated)
 {
     constexpr double least = 1;

@@ -19,7 +19,7 @@ std::optional<JpegHeader> jpegHeaderOf(const PictureBytes &bytes, Content conten
  */
 Resolution resolutionOf(const PictureBytes &bytes, Content content);
 
-/** The same of the picture turned upright by an orientation of 1 to 8. */
+/** The same for the picture turned upright by an orientation of 1 to 8. */
 Resolution uprightResolution(Resolution stored, int orientation);
 
 } // namespace platform

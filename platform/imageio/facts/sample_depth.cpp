@@ -23,7 +23,7 @@ int ofTiff(QIODevice &file)
     return samples.isKnown ? samples.bits : unknown;
 }
 
-/** Of what the file says itself; the decoders of other types tell all. */
+/** As the file states it; the decoders of other types report it. */
 int statedDepth(QIODevice &file, Content content)
 {
     switch (content) {

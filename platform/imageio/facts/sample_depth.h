@@ -9,8 +9,8 @@
 namespace platform {
 
 /**
- * How many bits the file keeps of one channel, or of one index into a palette; what pixels are decoded into may have more.
- * Colours packed into 16 bits count as 8, to which they are brought.
+ * How many bits the file stores per channel, or per palette index; decoded pixels may have more. Colours packed into 16
+ * bits count as 8, to which they are expanded.
  *
  * @param image  the same picture, opened
  */

@@ -19,7 +19,7 @@ qint64 startOfJpegScan(QIODevice &file)
             return -1;
         const auto marker = uchar(head[1]);
         const bool isNone = uchar(head[0]) != 0xFF || marker == 0xFF || marker == 0;
-        if (isNone) { // some writers leave bytes between the segments
+        if (isNone) { // some writers insert bytes between the segments
             ++position;
             ++strayBytes;
             continue;

@@ -59,7 +59,7 @@ bool isMetadataOrTables(uchar marker, const QByteArray &segment)
     }
 }
 
-/** The two bytes of the beginning are not enough where other bytes lie between them and the first segment. */
+/** Two bytes at the start are not enough if other bytes precede the first segment. */
 bool isJpeg(const QByteArray &head)
 {
     if (!head.startsWith("\xFF\xD8"))

@@ -8,18 +8,18 @@
 namespace platform {
 namespace {
 
-/** Bytes a pixel: some whatever the pixels are, some for each byte that a pixel has. Measured with bench/memory. */
+/** Bytes per pixel: a fixed part, and a part per byte of a pixel. Measured with bench/memory. */
 struct Cost
 {
     double aPixel = 0;
     double aByte = 0;
 };
 
-/** What a decoder keeps beside the pixels that it hands out. */
+/** What a decoder holds besides the pixels that it delivers. */
 Cost costOfDecoding(Content content, int bands)
 {
     switch (content) {
-    case Content::Tiff: // a strip may hold all rows
+    case Content::Tiff: // one strip may contain all rows
         return {.aByte = 1};
     case Content::Webp:
         return {.aPixel = 8, .aByte = 2};
@@ -28,9 +28,9 @@ Cost costOfDecoding(Content content, int bands)
     case Content::Heif:
     case Content::Avif:
         return {.aPixel = 6, .aByte = 1};
-    case Content::Jpeg2000: // every sample as a number of four bytes, and all pixels once more
+    case Content::Jpeg2000: // every sample as a four-byte number, and all pixels once more
         return {.aPixel = 4.0 * bands, .aByte = 1.25};
-    case Content::JpegXl: // in floating point, some of it twice
+    case Content::JpegXl: // in floating point, partly twice
         return {.aPixel = 16.0 * bands};
     case Content::Photoshop:
         return {.aByte = 0.5};
@@ -46,7 +46,7 @@ Cost costOfDecoding(Content content, int bands)
     return {};
 }
 
-/** What encoding a pixel of a frame takes. */
+/** What encoding a pixel of a frame needs. */
 double costOfJpegXl(int bands, Loss loss)
 {
     const bool hasAlpha = bands % 2 == 0;
@@ -55,11 +55,11 @@ double costOfJpegXl(int bands, Loss loss)
     return hasAlpha ? 72.0 : 48.0;
 }
 
-/** What an encoder and the file that it makes take beside the pixels that it is given. */
+/** What an encoder and its output need besides the pixels passed to it. */
 Cost costOfWriting(FileFormat format, Loss loss)
 {
     switch (format) {
-    case FileFormat::Png: // the filtered rows, what becomes of them at the worst, and the file
+    case FileFormat::Png: // the filtered rows, their compressed form in the worst case, and the file
         return {.aByte = 2.75};
     case FileFormat::Tiff: // the file without metadata and with it
         return {.aByte = 2.25};
@@ -71,9 +71,9 @@ Cost costOfWriting(FileFormat format, Loss loss)
         return {.aPixel = 2, .aByte = 1.2};
     case FileFormat::Webp:
         return {.aPixel = loss == Loss::None ? 33.0 : 14.0};
-    case FileFormat::Avif: // with colours at full resolution; two thirds of it otherwise
+    case FileFormat::Avif: // with colours at full resolution; otherwise two thirds of it
         return {.aPixel = 35};
-    case FileFormat::JpegXl: // the file while it grows; the encoder takes more, see needOfWriting()
+    case FileFormat::JpegXl: // the file while it grows; the encoder needs more, see needOfWriting()
         return {.aByte = loss == Loss::None ? 2.25 : 0.5};
     case FileFormat::Gif: // a copy with transparency and an index for each pixel, twice
         return {.aPixel = 15};
@@ -111,13 +111,13 @@ qint64 memoryNeed(const DecodingFacts &facts, const Outcome &outcome)
         decoding.aByte += 2; // the coefficients of all colours
     else if (facts.comesInPasses)
         decoding.aByte += 1;
-    // A drawing has a surface for each of its layers besides.
+    // A drawing also has a surface for each of its layers.
     const qint64 ofDecoding = std::max(bytesFor(decoding, facts.decoded, pixelBytes), qint64(facts.drawingBytes));
     const qint64 ofWriting =
         outcome.written ? needOfWriting(*outcome.written, outcome.made, facts.bands, facts.componentBytes, Loss::Some)
                         : 0;
     const qint64 pixels = bytesFor({.aByte = outcome.isTurned ? 2.0 : 1.0}, outcome.made, pixelBytes);
-    // What the decoder has given back is in pieces, and not all of it can be used again.
+    // Memory freed by the decoder is fragmented, and not all of it can be reused.
     return facts.fileBytes + pixels + std::max(ofDecoding, ofWriting) + std::min(ofDecoding, ofWriting) / 2;
 }
 
@@ -139,7 +139,8 @@ qint64 memoryOfEncoding(FileFormat format, QSize pixels, int bands, int bytesPer
 
 int jpegXlRowsAtOnce(QSize pixels, int bands, bool isLossless)
 {
-    // A frame of its own costs lossless files nothing. In others the filters of a frame end with it, so there it is the last resort.
+    // A separate frame costs lossless files nothing. In others filters do not cross frames, so there it is the last
+    // resort.
     constexpr double mostWithoutLoss = 512e6;
     constexpr double mostOtherwise = 1500e6;
     constexpr int step = 64;

@@ -14,13 +14,13 @@ struct OtherType
     QLatin1String identifier;
 };
 
-/** What is no picture and has a name all the same. */
+/** Types that are no pictures but have a name. */
 constexpr std::array<OtherType, 2> otherTypes = {{
     {QLatin1String("txt"), QLatin1String("public.plain-text")},
     {QLatin1String("html"), QLatin1String("public.html")},
 }};
 
-/** All extensions of the row that has this one; none where no row has it. */
+/** All extensions of the row with this one; none if no row has it. */
 QStringList extensionsBeside(const QString &lower, QLatin1String *identifier = nullptr)
 {
     for (const Format &format : formats()) {

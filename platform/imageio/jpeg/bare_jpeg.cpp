@@ -14,7 +14,9 @@ bool isRestart(uchar marker)
     return marker >= 0xd0 && marker <= 0xd7;
 }
 
-/** The profile, and what JFIF and Adobe say about the colours: the picture would look otherwise without them. */
+/**
+ * The profile, and the statements of JFIF and Adobe about the colours: without them the picture would look different.
+ */
 bool belongsToThePicture(uchar marker, QByteArrayView payload)
 {
     constexpr uchar firstOfMakers = 0xe0;
@@ -29,7 +31,10 @@ bool belongsToThePicture(uchar marker, QByteArrayView payload)
            (marker == 0xee && payload.startsWith(QByteArrayView("Adobe", 5)));
 }
 
-/** Where the coded pixels from @p position on end: at the next marker that is none of their own; -1 at the end of the file. */
+/**
+ * Where the coded pixels from @p position on end: at the next marker that is not part of them; -1 at the end of the
+ * file.
+ */
 qsizetype endOfCodedPixels(const QByteArray &jpeg, qsizetype position)
 {
     for (qsizetype at = jpeg.indexOf('\xFF', position); at >= 0 && at + 1 < jpeg.size();
@@ -44,7 +49,7 @@ qsizetype endOfCodedPixels(const QByteArray &jpeg, qsizetype position)
 struct Walked
 {
     QByteArray bare;
-    qsizetype end = 0; ///< behind the mark of the end of the picture
+    qsizetype end = 0; ///< after the end-of-image marker
 };
 
 Walked walked(const QByteArray &jpeg)

@@ -24,7 +24,7 @@ void endAtWarning(j_common_ptr info, int level)
         (*info->err->error_exit)(info);
 }
 
-/** Owns a decoder that reads a header, whichever way that ends. */
+/** Owns a decoder that reads a header, however that ends. */
 struct HeaderReader
 {
     jpeg_decompress_struct info = {};
@@ -48,7 +48,7 @@ bool isGreyOrDifferences(const jpeg_decompress_struct &info)
            (info.num_components == 3 && info.jpeg_color_space == JCS_YCbCr);
 }
 
-/** A profile of other colours than the picture has does not count, as everywhere. */
+/** A profile for other colours than the picture has is ignored, as everywhere. */
 bool fitsColours(const QByteArray &profile, int components)
 {
     constexpr qsizetype headerLength = 128;

@@ -7,17 +7,17 @@
 
 namespace platform {
 
-/** What a JPEG's header tells beyond its size. */
+/** What a JPEG's header says besides its size. */
 struct JpegHeader
 {
     JpegQuantisation quantisation;
     int componentCount = 0;
     QSize size;               ///< pixels as stored
-    double horizontalDpi = 0; ///< of the JFIF segment; 0 where there is none or it names no unit
+    double horizontalDpi = 0; ///< of the JFIF segment; 0 if there is none or it names no unit
     double verticalDpi = 0;
 };
 
-/** Reads the tables before the first scan. None where they cannot be read. */
+/** Reads the tables before the first scan. None if they cannot be read. */
 std::optional<JpegHeader> readJpegHeader(QIODevice &file);
 
 } // namespace platform

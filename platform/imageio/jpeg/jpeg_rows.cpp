@@ -16,7 +16,7 @@ bool isGreyOrThreeColours(const jpeg_decompress_struct &info)
            (info.num_components == 3 && (space == JCS_YCbCr || space == JCS_RGB));
 }
 
-/** Not where the jump leads to, since it changes its variables. */
+/** Not in the function that is jumped to, since this changes its variables. */
 void readRows(jpeg_decompress_struct &info, uchar **rows, JDIMENSION count)
 {
     const JDIMENSION end = info.output_scanline + count;

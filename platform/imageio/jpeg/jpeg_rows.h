@@ -10,8 +10,8 @@
 namespace platform {
 
 /**
- * Decodes a JPEG of grey or three colours row by row, as stored, at full size. Anything that the decoder has to say about the
- * file, a mere warning too, ends it: such files are for openImage() to judge.
+ * Decodes a JPEG of grey or three colours row by row, as stored, at full size. Anything that the decoder reports about
+ * the file, even a mere warning, ends it: such files are left to openImage().
  */
 class JpegRows
 {
@@ -23,12 +23,12 @@ public:
     JpegRows &operator=(const JpegRows &) = delete;
     ~JpegRows();
 
-    /** False from the first trouble on, and for other kinds of pixels. */
+    /** False from the first problem on, and for other kinds of pixels. */
     bool isGood() const { return m_isGood; }
     QSize size() const { return {int(m_info.output_width), int(m_info.output_height)}; }
     int bands() const { return m_info.output_components; }
 
-    /** Puts the next @p count rows where @p rows says; the last call checks the end of the file too. */
+    /** Writes the next @p count rows to @p rows; the last call also checks the end of the file. */
     bool read(uchar **rows, int count);
 
 private:

@@ -30,13 +30,13 @@ bool isMetadata(uchar marker, const QByteArray &payload)
     return marker == 0xed && payload.startsWith("Photoshop 3.0");
 }
 
-/** A small picture beside the JFIF segment, or an index of the pictures that follow in the file. */
+/** A thumbnail beside the JFIF segment, or an index of the pictures that follow in the file. */
 bool isBoundToThisFile(uchar marker, const QByteArray &payload)
 {
     return (marker == 0xe0 && payload.startsWith("JFXX")) || (marker == 0xe2 && payload.startsWith("MPF"));
 }
 
-/** A block too large for one segment goes on in the next one, which then has no header of its own. */
+/** A block too large for one segment continues in the next one, which then has no header of its own. */
 void takeExif(JpegSegments &segments, JpegSegments::Range range, const QByteArray &block)
 {
     const bool hasHeader = block.startsWith("II*") || block.startsWith(QByteArray("MM\0*", 4));
@@ -62,7 +62,7 @@ JpegFrame frameOf(uchar marker, const QByteArray &payload)
     return frame;
 }
 
-/** The order in which decoders believe what is said about the colours: JFIF, then Adobe, then the components' names. */
+/** The order in which decoders trust statements about the colours: JFIF, then Adobe, then the components' names. */
 void settleColours(JpegSegments &segments, int adobeTransform)
 {
     const bool isAdobe = adobeTransform >= 0;
@@ -115,7 +115,7 @@ JpegSegments findJpegSegments(const QByteArray &bytes)
     qsizetype position = 2;
     while (position + 4 <= bytes.size()) {
         const uchar marker = at(position + 1);
-        if (at(position) != markerStart || marker == markerStart) { // some writers leave bytes between the segments
+        if (at(position) != markerStart || marker == markerStart) { // some writers insert bytes between the segments
             ++position;
             continue;
         }

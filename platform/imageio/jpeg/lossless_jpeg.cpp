@@ -15,7 +15,7 @@ namespace {
 
 using Transformer = std::unique_ptr<std::remove_pointer_t<tjhandle>, int (*)(tjhandle)>;
 
-/** The library turns clockwise. */
+/** The library rotates clockwise. */
 int operationFor(ExactTurn turn)
 {
     switch (turn) {
@@ -35,7 +35,7 @@ int operationFor(ExactTurn turn)
     return TJXOP_NONE;
 }
 
-/** What becomes of four columns to one colour is one to four rows, and many readers do not know that. */
+/** Four columns sharing one colour would become one to four rows, which many readers do not support. */
 bool canSwapSides(tjhandle decoder, const QByteArray &jpeg)
 {
     int width = 0;
@@ -58,7 +58,7 @@ std::optional<QByteArray> transformed(const QByteArray &jpeg, ExactTurn turn, bo
     transform.options = TJXOPT_PERFECT | (isProgressive ? TJXOPT_PROGRESSIVE : 0);
     unsigned char *bytes = nullptr;
     unsigned long size = 0;
-    // A warning is a damaged file; whether it can be read all the same is for the decoder of pixels to say.
+    // A warning means a damaged file; whether it can be read anyway is left to the pixel decoder.
     const int failed = tjTransform(transformer.get(), reinterpret_cast<const unsigned char *>(jpeg.constData()),
                                    static_cast<unsigned long>(jpeg.size()), 1, &bytes, &size, &transform,
                                    TJFLAG_STOPONWARNING | TJFLAG_LIMITSCANS);
@@ -68,7 +68,7 @@ std::optional<QByteArray> transformed(const QByteArray &jpeg, ExactTurn turn, bo
     return QByteArray(reinterpret_cast<const char *>(bytes), qsizetype(size));
 }
 
-/** The density that the first segment states, the other way round. */
+/** Swaps the densities in the first segment. */
 void swapDensity(QByteArray &jpeg, const JpegSegments &segments)
 {
     constexpr qsizetype horizontal = 14; // from the start of the file: two markers, a length, name, version and unit

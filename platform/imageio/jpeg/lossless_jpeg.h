@@ -9,12 +9,12 @@
 namespace platform {
 
 /**
- * A whole JPEG file turned without decoding its pixels: the same coefficients in other places. A progressive file
- * stays one; all its segments are carried but those that point to places of the old file or show its pixels small.
- * What the metadata says of the size is still that of the old file.
+ * A complete JPEG file turned without decoding its pixels: the same coefficients in other places. A progressive file
+ * stays progressive; all its segments are copied except those with offsets into the old file or thumbnails. The
+ * metadata still states the old size.
  *
- * None where that cannot be done exactly: the sides that are mirrored are not whole blocks, the file is damaged, its
- * colours are sampled in a way that is not known here, or memory fails. Takes up to 12 bytes a pixel.
+ * None if that cannot be done exactly: a mirrored side is not a whole number of blocks, the file is damaged, its colour
+ * sampling is unsupported, or memory fails. Takes up to 12 bytes a pixel.
  */
 std::optional<QByteArray> losslesslyTurned(const QByteArray &jpeg, ExactTurn turn);
 

@@ -11,7 +11,7 @@ void endAtWarning(j_common_ptr info, int level)
         (*info->err->error_exit)(info);
 }
 
-/** Not where the jump leads to, since it changes its variables. */
+/** Not in the function that is jumped to, since this changes its variables. */
 void readBand(jpeg_decompress_struct &info, JSAMPIMAGE planes)
 {
     jpeg_read_raw_data(&info, planes, JDIMENSION(info.max_v_samp_factor) * DCTSIZE);

@@ -13,8 +13,9 @@
 namespace platform {
 
 /**
- * Decodes a JPEG of grey, or of brightness and two differences of colour, as its planes at full size, a band of rows at a time, so
- * that the planes need never be whole. Anything that the decoder has to say about the file, a mere warning too, ends it.
+ * Decodes a JPEG of grey, or of brightness and two colour differences, as its planes at full size, a band of rows at a
+ * time, so that the planes are never complete. Anything that the decoder reports about the file, even a mere warning,
+ * ends it.
  */
 class PlaneRows
 {
@@ -24,17 +25,23 @@ public:
     PlaneRows &operator=(const PlaneRows &) = delete;
     ~PlaneRows();
 
-    /** False from the first trouble on, and for other colours, samplings and files whose coefficients come in passes. */
+    /**
+     * False from the first problem on, and for other colours, samplings and files whose coefficients come in passes.
+     */
     bool isGood() const { return m_isGood; }
     int planes() const { return m_info.num_components; }
     QSize size(int plane) const;
     /** How many samples of brightness share one of colour. */
     QSize sampling() const { return {m_info.max_h_samp_factor, m_info.max_v_samp_factor}; }
 
-    /** The next band; after the last one the end of the file was checked too. Throws std::bad_alloc the first time. */
+    /**
+     * The next band; with the last one the end of the file has been checked too. Throws std::bad_alloc the first time.
+     */
     bool read();
     bool isAtEnd() const { return m_info.output_scanline >= m_info.output_height; }
-    /** Of the band that was read; whole units of a row of a plane, which may be read. The last band has rows too many. */
+    /**
+     * Of the band that was read; each row is padded to whole units, which may be read. The last band has surplus rows.
+     */
     int rows(int plane) const { return int(m_rows[size_t(plane)].size()); }
     const uchar *row(int plane, int y) const { return m_rows[size_t(plane)][size_t(y)]; }
 

@@ -15,7 +15,7 @@ VImage enlarged(const VImage &image, QSize size)
     return image.embed(0, 0, size.width(), size.height(), VImage::option()->set("extend", VIPS_EXTEND_COPY));
 }
 
-/** The picture with all columns and rows standing for as much, which the decoder is done with. */
+/** The picture with all columns and rows of equal weight; the decoder is no longer needed. */
 VImage fittingFromShrunk(const VImage &image, QSize stored, int shrink)
 {
     const VImage whole = withWholeEdges(image, stored, shrink);
@@ -23,7 +23,7 @@ VImage fittingFromShrunk(const VImage &image, QSize stored, int shrink)
     const double down = double(whole.height()) * shrink / stored.height();
     if (across == 1 && down == 1)
         return whole;
-    // What the last column stands for is less than it shows: all are drawn a little wider, until it ends at the edge.
+    // The last column represents fewer pixels than the others: all are widened slightly until it ends at the edge.
     const auto offset = [](double scale) { return (scale - 1) / 2; }; // between the centres of the first pixels
     return inMemory(whole).affine({across, 0, 0, down},
                                   VImage::option()
@@ -50,17 +50,20 @@ VImage withWholeEdges(const VImage &image, QSize stored, int shrink)
     return enlarged(image, {shrunk(stored.width()), shrunk(stored.height())});
 }
 
-/** Whether much of the picture is paper or ink, at the limits of what samples can be. */
+/** Whether much of the picture is paper or ink, at the limits of the sample range. */
 static bool isLineArt(const VImage &image)
 {
     constexpr double share = 0.1;
-    constexpr double nearly = 2; // ringing dims the paper a little
+    constexpr double nearly = 2; // ringing dims the paper slightly
     constexpr double isTrue = 255;
     const VImage paper = (image >= opaqueValue(image) - nearly) | (image <= nearly);
     return paper.avg() > share * isTrue;
 }
 
-/** How much neighbours differ on average, one step to the right or down, where they do so most; of a few rows and columns. */
+/**
+ * The average difference of neighbours, one step to the right or down, in the direction where it is larger; sampled
+ * from a few rows and columns.
+ */
 static double detailOf(const VImage &image)
 {
     constexpr int few = 8;

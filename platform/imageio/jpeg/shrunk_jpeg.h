@@ -7,30 +7,30 @@
 namespace platform {
 
 /**
- * Where a result must not show that the decoder has shrunk the picture, that shrinks by no more than 2, and gives so many times the
- * size that is wanted: lines beside each other would be mixed with those of the next block otherwise.
+ * If a result must not show that the decoder has shrunk the picture, it shrinks by at most 2, and delivers this
+ * multiple of the wanted size: otherwise adjacent lines would be mixed with those of the next block.
  */
 constexpr int finerTimes = 5;
 constexpr int mostFineShrink = 2;
 
 /**
- * Whether a picture that the decoder has shrunk is one for which that would be seen in what is made of it. @p image is in memory.
+ * Whether it would be visible in a result that the decoder has shrunk the picture. @p image is in memory.
  *
- * It is where much is paper or ink, at the limits of what samples can be: what a JPEG adds beside hard edges is cut off there, sample by
- * sample, but not where the decoder takes the mean of samples first; then all of it becomes lighter or darker. And it is where fine
- * patterns are all over it, which come out as how they meet the blocks of pixels that are made one.
+ * It is if much is paper or ink, at the limits of the sample range: JPEG artefacts at hard edges are clipped there
+ * sample by sample, but not if the decoder averages samples first; then everything becomes lighter or darker. And it is
+ * if fine patterns cover the picture, which depend on how they meet the averaged blocks.
  */
 bool showsShrinking(const vips::VImage &image);
 
-/** The strongest shrink of the JPEG decoder that still leaves at least the size that is wanted: 1, 2, 4 or 8. */
+/** The strongest shrink of the JPEG decoder that still leaves at least the wanted size: 1, 2, 4 or 8. */
 int jpegShrinkFor(QSize stored, QSize wanted);
 
-/** A picture that was decoded at a fraction of @p stored, with the last column and row that the decoder leaves out. */
+/** A picture decoded at a fraction of @p stored, without the last partial column and row. */
 vips::VImage withWholeEdges(const vips::VImage &image, QSize stored, int shrink);
 
 /**
- * The same at exactly @p wanted pixels. Where a side of @p stored is no multiple of the shrink, its last column or row stands for less
- * than the others, and is not stretched to their size.
+ * The same at exactly @p wanted pixels. If a side of @p stored is no multiple of the shrink, its last column or row
+ * represents fewer pixels than the others, and is not stretched to their size.
  */
 vips::VImage scaledFromShrunk(const vips::VImage &image, QSize stored, int shrink, QSize wanted);
 

@@ -25,7 +25,7 @@ Box findBox(const QByteArray &file, const char *name, qsizetype begin, qsizetype
     while (position + boxHeaderBytes <= end) {
         const auto size = qsizetype(qFromBigEndian<quint32>(file.constData() + position));
         if (size < boxHeaderBytes || position + size > end)
-            return {}; // a last box without a length, or one with a long length: never in front of what is looked for
+            return {}; // a last box without a length, or one with a long length: never before what is searched for
         if (file.mid(position + 4, 4) == name)
             return {position, size};
         position += size;

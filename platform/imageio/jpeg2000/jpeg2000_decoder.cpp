@@ -66,7 +66,7 @@ Stream streamOf(QIODevice &file)
     return stream;
 }
 
-/** All components behind the palette, each in its own size; null with a text in @p problem. */
+/** All components after the palette, each in its own size; null with a text in @p problem. */
 Image decodedComponents(QIODevice &file, bool hasBoxes, int threads, QByteArray &problem)
 {
     const Codec codec(opj_create_decompress(hasBoxes ? OPJ_CODEC_JP2 : OPJ_CODEC_J2K));
@@ -93,7 +93,7 @@ bool isOpacity(const opj_image_comp_t &component)
     return component.alpha == 1 || component.alpha == 2;
 }
 
-/** Which components make up the pixels: the colours in order, then the one that says how opaque they are. */
+/** Which components make up the pixels: the colours in order, then opacity. */
 std::vector<const opj_image_comp_t *> channelsOf(const opj_image_t &image, const Jpeg2000Header &header)
 {
     std::vector<const opj_image_comp_t *> channels;
@@ -115,7 +115,7 @@ std::vector<const opj_image_comp_t *> channelsOf(const opj_image_t &image, const
     return channels;
 }
 
-/** Puts one component into its place in every pixel, as large as the picture and with the full range of its samples. */
+/** Puts one component into every pixel, scaled to the size of the picture and the full range of its samples. */
 template<typename Sample>
 void takeComponent(const opj_image_comp_t &component, const Jpeg2000Header &header, Sample *target, int step)
 {
@@ -136,7 +136,7 @@ void takeComponent(const opj_image_comp_t &component, const Jpeg2000Header &head
     }
 }
 
-/** Luma and two colour differences to red, green and blue, as JPEG has it. */
+/** Brightness and two colour differences to red, green and blue, as in JPEG. */
 template<typename Sample> void convertYcc(Sample *pixel, qint64 count, int step)
 {
     static constexpr double full = std::numeric_limits<Sample>::max();
@@ -152,7 +152,7 @@ template<typename Sample> void convertYcc(Sample *pixel, qint64 count, int step)
     }
 }
 
-/** Colours that were multiplied with their opacity get back what they were. */
+/** Reverts the premultiplication of colours by their opacity. */
 template<typename Sample> void divideByOpacity(Sample *pixel, qint64 count, int step)
 {
     static constexpr qint64 full = std::numeric_limits<Sample>::max();

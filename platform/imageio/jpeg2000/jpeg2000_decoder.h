@@ -10,17 +10,17 @@ class QIODevice;
 
 namespace platform {
 
-/** Whole numbers as they stand in a JPEG 2000 file, without a sign and scaled to @p bits of each pixel's channels. */
+/** Whole numbers as stored in a JPEG 2000 file, unsigned and scaled to @p bits of each pixel's channels. */
 struct Jpeg2000Pixels
 {
     std::vector<uchar> bytes; ///< one or two bytes a sample, rows from top to bottom
-    QByteArray problem;       ///< empty where all was decoded
+    QByteArray problem;       ///< empty if everything was decoded
 };
 
 /**
  * Decodes a file of the given header into its colours and, last, its transparency.
  *
- * @param bits 8 or 16, of the samples that are wanted
+ * @param bits 8 or 16, of the wanted samples
  */
 Jpeg2000Pixels decodeJpeg2000(QIODevice &file, const Jpeg2000Header &header, int bits, int threads);
 

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
-// A JPEG 2000 file; numbers have their highest byte first. Boxes, or nothing but the codestream:
+// A JPEG 2000 file; numbers are big-endian. Boxes, or nothing but the codestream:
 //
 //     box: length (4; 1 where 8 bytes behind the name tell it, 0 where it reaches to the end) | name (4) | data
 //     "jP  " | "ftyp" | "jp2h": boxes | ... | "jp2c": the codestream
@@ -48,7 +48,7 @@ struct Box
     bool isThere() const { return !name.isEmpty(); }
 };
 
-/** The box at @p position; a length of 0 reaches to @p end. */
+/** The box at @p position; a length of 0 extends to @p end. */
 Box boxAt(QIODevice &file, qint64 position, qint64 end)
 {
     const QByteArray head = position < end && file.seek(position) ? file.read(longBoxHead) : QByteArray();
@@ -65,7 +65,7 @@ Box boxAt(QIODevice &file, qint64 position, qint64 end)
     return stated < boxHead ? Box() : Box{head.mid(4, 4), position + boxHead, position + qint64(stated)};
 }
 
-/** What the boxes of the header say. */
+/** The contents of the header boxes. */
 struct HeaderBoxes
 {
     QByteArray colour;
@@ -99,10 +99,10 @@ HeaderBoxes headerBoxes(const QByteArray &header)
 
 int bitsOf(int stated)
 {
-    return (stated & 0x7f) + 1; // the highest bit says that samples have a sign
+    return (stated & 0x7f) + 1; // the highest bit means that samples are signed
 }
 
-/** A palette stands for a component only where a mapping says which: decoders pass over one without. */
+/** A palette applies to a component only if a mapping says which: decoders ignore one without. */
 void takePalette(Jpeg2000Header &header, const HeaderBoxes &boxes)
 {
     constexpr qsizetype mappingEntry = 4;
@@ -124,7 +124,7 @@ void takeChannels(Jpeg2000Header &header, const QByteArray &box)
     }
 }
 
-/** What is meant where the box of colours names a space without saying more. */
+/** The meaning if the colour box names a space without details. */
 std::array<LabChannel, 3> usualLab(int bits)
 {
     return {{{100, 0}, {170, std::ldexp(1, bits - 1)}, {200, std::ldexp(1, bits - 2) + std::ldexp(1, bits - 3)}}};
@@ -172,11 +172,13 @@ void takeColours(Jpeg2000Header &header, const QByteArray &box)
         header.colours = Jpeg2000Colours::Cmyk;
     else if (box.mid(profileAt + 16, 4) == "GRAY")
         header.colours = Jpeg2000Colours::Grey;
-    if (header.colourCount() > withoutAlpha) // a space of more colours than there are channels
+    if (header.colourCount() > withoutAlpha) // a space with more colours than there are channels
         header.colours = withoutAlpha < 3 ? Jpeg2000Colours::Grey : Jpeg2000Colours::Rgb;
 }
 
-/** Writers that name no channels mean the one behind the colours to be the transparency, and all readers take it so. */
+/**
+ * Writers that do not name channels mean the one after the colours to be transparency, and all readers interpret it so.
+ */
 void takeUnnamedAlpha(Jpeg2000Header &header, const QByteArray &channels)
 {
     header.isAlphaUnnamed = channels.isEmpty() && header.channelCount == header.colourCount() + 1;

@@ -15,7 +15,7 @@ using vips::VImage;
 
 constexpr int byteBits = 8;
 
-/** What is decoded once for all who ask for pixels. */
+/** Decoded once for all callers that need pixels. */
 struct Decoding
 {
     PictureBytes source;
@@ -87,7 +87,7 @@ VImage imageOf(std::unique_ptr<Decoding> decoding)
     return owner;
 }
 
-/** Samples of 16 bits to lightness and two colour axes, and on to RGB of the depth that the file has. */
+/** 16-bit samples to lightness and two colour axes, and on to RGB in the depth of the file. */
 VImage convertedFromLab(const VImage &samples, const Jpeg2000Header &header)
 {
     const double most = std::ldexp(1, header.bits) - 1;

@@ -18,7 +18,7 @@ QString numbered(int major, int minor, int micro)
 
 } // namespace
 
-// Where a library cannot be asked, the version that the program was built with.
+// If a library cannot be asked, the version that the program was built with.
 QList<Library> librariesInUse()
 {
     return {

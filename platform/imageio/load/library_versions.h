@@ -5,7 +5,7 @@
 
 namespace platform {
 
-/** A library that the program stands on. */
+/** A library that the program uses. */
 struct Library
 {
     QString name;
@@ -16,7 +16,7 @@ struct Library
 /** The libraries of this room, Qt first. */
 QList<Library> librariesInUse();
 
-/** A line "name version" for each of them, as programs answer --version: what a report of a fault needs. */
+/** A line "name version" for each of them, as printed by --version: what a bug report needs. */
 QString librariesText();
 
 } // namespace platform

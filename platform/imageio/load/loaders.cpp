@@ -26,7 +26,7 @@ VSource sourceOf(const PictureBytes &source)
     if (source.lent)
         return sourceOver(source.openedDevice());
     if (!source.path.isEmpty()) {
-        QFile file(source.path); // by its descriptor, so that what is read is what was asked
+        QFile file(source.path); // by its descriptor, so that the checked file is the one that is read
         if (const auto opened = openToRead(file); !opened)
             throw vips::VError(opened.error().message.toStdString());
         return VSource::new_from_descriptor(file.handle());
@@ -34,7 +34,9 @@ VSource sourceOf(const PictureBytes &source)
     return VSource::new_from_memory(source.bytes.constData(), size_t(source.bytes.size()));
 }
 
-/** Of a container whose library ends the program where a read fails in the middle of a number: it gets bytes that are there. */
+/**
+ * For a container whose library ends the program if a read fails in the middle of a number: it gets bytes from memory.
+ */
 VSource wholeSourceOf(const PictureBytes &source)
 {
     if (source.isInMemory())
@@ -63,7 +65,7 @@ VImage withOwnProfile(const VImage &image)
     return owner;
 }
 
-/** The image with a profile that its decoder passes over. */
+/** The image with a profile that its decoder ignores. */
 VImage withProfile(const VImage &image, const QByteArray &profile)
 {
     if (profile.isEmpty())
@@ -74,13 +76,13 @@ VImage withProfile(const VImage &image, const QByteArray &profile)
 }
 
 /**
- * Some old compressions are read by Qt's decoder only, and in one piece, and so are samples that stand for the logarithm of a
- * brightness, which it brings to what is seen of them.
+ * Some old compressions are supported by Qt's decoder only, and only at once; so are logarithmic samples, which it
+ * converts for display.
  */
 VImage loadTiffThroughQt(const PictureBytes &source, const vips::VError &reason)
 {
     TiffDevice device(source);
-    QImageReader::setAllocationLimit(0); // sizes are checked against a budget of ours
+    QImageReader::setAllocationLimit(0); // sizes are checked against our own budget
     QImageReader reader(&device, "tiff");
     constexpr int rgba = 4;
     if (!fitsMemoryBudget(reader.size().width(), reader.size().height(), rgba, 1))
@@ -96,7 +98,7 @@ VImage loadTiffThroughQt(const PictureBytes &source, const vips::VError &reason)
                                            ->set("yres", image.dotsPerMeterY() / millimetresPerMetre));
 }
 
-/** What the tags of the file say of the bands. */
+/** The meaning of the bands according to the tags of the file. */
 SampleFacts factsOf(const TiffSamples &samples, const VImage &image)
 {
     enum Photometric { MinIsWhite = 0, MinIsBlack = 1, Palette = 3, Separated = 5 };
@@ -113,7 +115,7 @@ SampleFacts factsOf(const TiffSamples &samples, const VImage &image)
     for (int other = 0; other < samples.others.size() && facts.alpha == SampleFacts::none; ++other)
         if (samples.others[other] == 1 || samples.others[other] == 2)
             facts.alpha = facts.colours + other;
-    if (samples.bits >= 8) // fewer have been brought to the full range
+    if (samples.bits >= 8) // fewer have been scaled to the full range
         facts.bits = samples.bits;
     return facts;
 }
@@ -187,9 +189,9 @@ VImage loadTiff(const PictureBytes &source, const LoadOptions &options)
 
 VImage loadHeif(const PictureBytes &source, const LoadOptions &options)
 {
-    // First of all: the options of a call that is never made would be freed by nobody.
+    // First of all: options of a call that is never made would leak.
     const VSource whole = wholeSourceOf(source);
-    const VImage primary = VImage::heifload_source(whole, commonOptions()); // where no page is named
+    const VImage primary = VImage::heifload_source(whole, commonOptions()); // if no page is named
     if (options.page == 0)
         return withOwnProfile(primary);
     const int primaryPage = primary.get_typeof("heif-primary") != 0 ? primary.get_int("heif-primary") : 0;
@@ -201,7 +203,7 @@ VImage loadHeif(const PictureBytes &source, const LoadOptions &options)
 VImage loadSvg(const PictureBytes &source, const LoadOptions &options)
 {
     const QByteArray text = source.all();
-    // Over some numbers the library ends the process as soon as it reads them, before it tells any size.
+    // With some numbers the library ends the process as soon as it reads them, before it reports a size.
     if (!canDrawSvg(svgWork(text, QSize(1, 1))))
         throw vips::VError("drawing it would take too long");
     VImage image = VImage::svgload_source(sourceOf(source), commonOptions()->set("scale", options.drawingScale)).copy();

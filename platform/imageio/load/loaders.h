@@ -1,6 +1,6 @@
 #pragma once
 
-// Private to the platform: one decoder a kind of content. openImage() in codecs.h calls the right one.
+// Private to the platform: one decoder per kind of content. openImage() in codecs.h calls the right one.
 
 #include "platform/graphics/pixels.h"
 #include "platform/imageio/bytes/picture_bytes.h"
@@ -27,15 +27,17 @@ vips::VImage loadTiff(const PictureBytes &source, const LoadOptions &options);
 vips::VImage loadGif(const PictureBytes &source, const LoadOptions &options);
 vips::VImage loadBmp(const PictureBytes &source, const LoadOptions &);
 vips::VImage loadWebp(const PictureBytes &source, const LoadOptions &options);
-/** HEIF and AVIF. The file says which of its items is the picture; the others count behind it, in their order. */
+/** HEIF and AVIF. The file says which of its items is the main picture; the others follow it, in their order. */
 vips::VImage loadHeif(const PictureBytes &source, const LoadOptions &options);
 vips::VImage loadJpegXl(const PictureBytes &source, const LoadOptions &);
 vips::VImage loadPhotoshop(const PictureBytes &source, const LoadOptions &);
 vips::VImage loadPdf(const PictureBytes &source, const LoadOptions &options);
-/** A short text can ask for any amount of work, and nothing can stop the library once it draws: too much is refused. */
+/** A short text can demand any amount of work, and nothing can stop the library once it draws: too much is refused. */
 vips::VImage loadSvg(const PictureBytes &source, const LoadOptions &options);
 
-/** The size that the header of a Photoshop file claims; empty where it is cut or no size that the format knows. */
+/**
+ * The size that the header of a Photoshop file claims; empty if it is truncated or not a size that the format allows.
+ */
 QSize claimedPhotoshopSize(QIODevice &file);
 
 } // namespace platform

@@ -11,8 +11,8 @@
 namespace platform {
 namespace {
 
-// Nanoseconds, measured with the library that draws.
-constexpr double gradientStop = 0.5; // for each pixel, since they are searched from the first on
+// Nanoseconds, measured with the drawing library.
+constexpr double gradientStop = 0.5; // per pixel, since stops are searched from the first on
 constexpr double layer = 10;
 constexpr double drawingByte = 1000;
 constexpr double pictureByte = 20;
@@ -27,7 +27,7 @@ bool isOneOf(QStringView name, std::initializer_list<const char *> names)
     return std::any_of(names.begin(), names.end(), [name](const char *each) { return name == QLatin1String(each); });
 }
 
-/** What one part of a filter takes. */
+/** The cost of one filter primitive. */
 double primitiveCost(QStringView name, const QXmlStreamAttributes &attributes)
 {
     const auto number = [&attributes](const char *key) {
@@ -42,7 +42,7 @@ double primitiveCost(QStringView name, const QXmlStreamAttributes &attributes)
     return name == QLatin1String("feDisplacementMap") ? displacement : plainPrimitive;
 }
 
-/** A part of a filter that is nowhere, or farther away than anything is, and a kernel of more than 400 numbers. */
+/** Filter primitives with absurd coordinates, and kernels of more than 400 numbers. */
 bool endsTheProcess(QStringView name, const QXmlStreamAttributes &attributes)
 {
     constexpr double farthest = 1e6;
@@ -95,7 +95,7 @@ SvgOutline outlineOf(QStringView name, const QXmlStreamAttributes &attributes)
     return {between("x1", "x2"), between("y1", "y2")};
 }
 
-/** What a transform makes of a length, at most: the product of what each of its parts makes of one. */
+/** The maximum scale of a transform: the product of those of its parts. */
 double scaleOf(const QString &transform)
 {
     static const QRegularExpression part(QStringLiteral("(matrix|scale|skewX|skewY)\\s*\\(([^)]*)"));
@@ -118,7 +118,7 @@ double scaleOf(const QString &transform)
     return scale;
 }
 
-/** What a window of that size makes of a unit of its view box, at most. */
+/** The maximum scale of a window of that size relative to its view box. */
 double scaleOfWindow(const QSizeF &window, const QSizeF &box)
 {
     return box.isEmpty() ? 1 : std::max(window.width() / box.width(), window.height() / box.height());
@@ -147,10 +147,10 @@ SvgReference::For purposeOf(QStringView property)
     return property.startsWith(QLatin1String("marker")) ? SvgReference::For::Marker : SvgReference::For::Other;
 }
 
-/** An attribute or the element's own style counts; a rule may concern the element or not. */
+/** An attribute or the element's own style applies; a rule may or may not concern the element. */
 enum class Counts { Surely, Perhaps };
 
-/** Takes in a transform or a line; of what counts perhaps, only what makes drawing costlier. */
+/** Reads a transform or a line; of uncertain ones, only what makes drawing costlier. */
 void takeMeasure(SvgElement &element, QStringView property, const QString &value, Counts counts)
 {
     const bool isSure = counts == Counts::Surely;
@@ -171,7 +171,7 @@ void takeMeasure(SvgElement &element, QStringView property, const QString &value
     }
 }
 
-/** Takes in one property, from an attribute or a declaration. */
+/** Reads one property, from an attribute or a declaration. */
 void take(SvgElement &element, QStringView property, const QString &value, Counts counts)
 {
     static const QRegularExpression reference(QStringLiteral("url\\(\\s*['\"]?#([^)'\"]+)['\"]?\\s*\\)"));
@@ -190,7 +190,7 @@ void takeDeclarations(SvgElement &element, const QString &declarations, Counts c
         take(element, declaration.section(u':', 0, 0).trimmed(), declaration.section(u':', 1).trimmed(), counts);
 }
 
-/** Takes in how the element shows what is in it. */
+/** Reads how the element displays its contents. */
 void takeWindow(SvgElement &element, QStringView name, const QXmlStreamAttributes &attributes)
 {
     const auto value = [&attributes](const char *key) { return attributes.value(QLatin1String(key)); };
@@ -343,7 +343,7 @@ SvgPlace placeReferredTo(const SvgElement &from, const SvgReference &reference, 
         there.scale = box;
         there.shown = QSizeF(1, 1);
     } else if (reference.what == SvgReference::For::Paint && to.viewBox) {
-        // A tile is at most as large as what is painted with it.
+        // A tile is at most as large as the area painted with it.
         there.scale = box / side;
         there.shown = canvas;
         window.width = window.height = std::nullopt;

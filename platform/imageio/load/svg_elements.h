@@ -1,6 +1,6 @@
 #pragma once
 
-// Private to the platform: what drawing one element of an SVG file takes.
+// Private to the platform: the cost of drawing one element of an SVG file.
 
 #include "platform/imageio/load/svg_outline.h"
 
@@ -12,10 +12,10 @@
 
 namespace platform {
 
-/** @param drawn  what the drawing becomes in pixels, for one that does not say its size */
+/** @param drawn  the drawing's size in pixels, for one that does not state a size */
 SvgCanvas svgCanvas(const QXmlStreamAttributes &root, QSize drawn);
 
-/** What style sheets say, by the last word of each selector; a selector that is not understood concerns every element. */
+/** The contents of style sheets, by the last word of each selector; an unsupported selector concerns every element. */
 class SvgStyles
 {
 public:
@@ -31,10 +31,10 @@ private:
     int m_selectors = 0;
 };
 
-/** The text of all elements "style" of a drawing. */
+/** The text of all "style" elements of a drawing. */
 QString styleSheetOf(const QByteArray &drawing);
 
-/** Another element that is drawn for this one. */
+/** Another element drawn as part of this one. */
 struct SvgReference
 {
     enum class For { Use, Paint, Marker, Other };
@@ -46,18 +46,17 @@ struct SvgReference
 struct SvgElement
 {
     QString id;
-    SvgCost cost; ///< without its shape and its children
-    double radius =
-        0; ///< of a filter, in units of the place where it is used; each pixel of the canvas costs more with it
+    SvgCost cost;      ///< without its shape and its children
+    double radius = 0; ///< cost of a filter, in units of the place where it is used, per pixel of the canvas
     SvgOutline outline;
     QList<SvgReference> references;
-    bool isDefinition = false; ///< drawn only where it is referred to
+    bool isDefinition = false; ///< drawn only where it is referenced
     bool isLayer = false;      ///< has a surface of its own, of the size of the canvas
     bool isText = false;
     double letters = 0;
-    bool isRefused = false; ///< the library that draws ends the process over numbers such as these
+    bool isRefused = false; ///< the drawing library ends the process for numbers such as these
 
-    double scale = 1; ///< what its transform makes of a length, at most
+    double scale = 1; ///< its transform's scale, at most
     std::optional<bool> isStroked;
     std::optional<SvgLength> strokeWidth;
     std::optional<SvgLength> perhapsStrokeWidth; ///< of a rule that may concern the element
@@ -68,21 +67,21 @@ struct SvgElement
     std::optional<QSizeF> viewBox;
     std::optional<SvgLength> width;
     std::optional<SvgLength> height;
-    bool isViewport = false;      ///< shows what is in it through its own window, as its width, height and view box say
-    bool isInUnitsOfBox = false;  ///< what is in it has the size of whatever refers to it as its unit
-    bool isInUnitsOfLine = false; ///< the width of the line that refers to it is the unit
+    bool isViewport = false;      ///< displays its contents through its own viewport, by width, height and view box
+    bool isInUnitsOfBox = false;  ///< the unit of its contents is the size of the referencing element
+    bool isInUnitsOfLine = false; ///< its unit is the line width of the referencing element
 };
 
-/** The place of what an element says and holds, in the place that it stands in. */
+/** The coordinate system of an element's attributes and contents, within its parent's. */
 SvgPlace placeWithin(const SvgElement &element, const SvgPlace &place);
 
-/** The place of what is seen through the window that an element is, if it is one. */
+/** The coordinate system inside the viewport of an element, if it has one. */
 SvgPlace placeThroughWindow(const SvgElement &element, const SvgPlace &place);
 
 /**
- * The place within an element that another one refers to.
+ * The coordinate system inside a referenced element.
  *
- * @param place  within the one that refers to it
+ * @param place  that of the referencing element
  */
 SvgPlace placeReferredTo(const SvgElement &from, const SvgReference &reference, const SvgElement &to,
                          const SvgPlace &place, const SvgCanvas &canvas);

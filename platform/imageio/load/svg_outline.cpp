@@ -10,7 +10,7 @@
 namespace platform {
 namespace {
 
-// Nanoseconds, measured with the library that draws.
+// Nanoseconds, measured with the drawing library.
 constexpr double shape = 20'000;
 constexpr double point = 200;
 constexpr double filledPixel = 0.2;
@@ -18,10 +18,10 @@ constexpr double strokedPixel = 5;
 constexpr double edgePixel = 100;
 constexpr double dashCost = 600;
 
-/** The library cuts longer lines off, in pixels; a canvas has no more pixels to a unit than this leaves room for. */
+/** The library cuts off longer lines, in pixels; a canvas has no more pixels per unit than this allows. */
 constexpr double longestLine = 1 << 24;
 
-/** The numbers of a text and what stands between them. */
+/** The numbers of a text and the separators. */
 template<typename OnNumber, typename OnLetter>
 void scan(QStringView text, const OnNumber &onNumber, const OnLetter &onLetter)
 {
@@ -45,7 +45,7 @@ double share(double part, double whole)
     return whole > 0 ? std::clamp(part / whole, 0.0, 1.0) : 1;
 }
 
-/** Units of a length; those of a screen with 96 dots per inch. */
+/** Units of length; those of a screen with 96 dots per inch. */
 double unitsIn(QStringView unit)
 {
     struct Unit
@@ -68,7 +68,7 @@ SvgLength svgLength(QStringView text)
     const auto isOfNumber = [](QChar each) { return each.isDigit() || each == u'.'; };
     while (!unit.isEmpty() && !(unit.front().isLetter() || unit.front() == u'%'))
         unit = unit.mid(1);
-    // The letter of an exponent is none of a unit.
+    // The letter of an exponent is not part of a unit.
     if (unit.size() > 1 && unit.front().toLower() == u'e' &&
         (isOfNumber(unit[1]) || unit[1] == u'-' || unit[1] == u'+')) {
         unit = unit.mid(2);
@@ -129,7 +129,7 @@ SvgCost SvgOutline::cost(const SvgPlace &place, const SvgCanvas &canvas) const
     const double side = std::max({canvas.width(), canvas.height(), 1e-9});
     const double lines = m_isRect ? 4 : m_points;
     const double length = m_isRect ? 2 * (width(place) + height(place)) : m_length;
-    // What lies outside of the canvas is not drawn, but each line may cross all of it.
+    // What is outside the canvas is not drawn, but each line may cross all of it.
     const double seen = std::min(length * place.scale, lines * (canvas.width() + canvas.height())) / side;
     const double strokeWidth = place.isStroked ? std::min(1.0, place.strokeWidth * place.scale / side) : 0;
     const double dashes = place.isStroked && place.dash > 0 ? std::min(length / place.dash, lines * longestLine) : 0;
@@ -142,7 +142,7 @@ SvgCost svgLetterCost(const SvgPlace &place, const SvgCanvas &canvas)
     constexpr double plainLetter = 25'000;
     const SvgLength side{place.fontSize, 0};
     SvgCost cost = SvgOutline(side, side).cost(place, canvas);
-    cost.aSide = 0; // small letters are all edge, and their edges are in the price of a letter
+    cost.aSide = 0; // small letters are all edge, and their edges are included in the cost of a letter
     cost.once += plainLetter - shape;
     return cost;
 }

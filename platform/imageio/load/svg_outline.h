@@ -1,6 +1,6 @@
 #pragma once
 
-// Private to the platform: how large a shape of an SVG file is, and what drawing it takes.
+// Private to the platform: how large a shape of an SVG file is, and the cost of drawing it.
 
 #include <QSizeF>
 #include <QString>
@@ -9,7 +9,7 @@
 
 namespace platform {
 
-/** Nanoseconds: for each pixel of the canvas, for each pixel of its longer side, and whatever its size. */
+/** Nanoseconds: per pixel of the canvas, per pixel of its longer side, and a fixed part. */
 struct SvgCost
 {
     double aPixel = 0;
@@ -20,7 +20,7 @@ struct SvgCost
 /** The size of the drawing in its own units. */
 using SvgCanvas = QSizeF;
 
-/** A length in units of the place where it is said, and as a share of what is shown there. */
+/** A length in local units, and as a share of the visible area. */
 struct SvgLength
 {
     double units = 0;
@@ -29,31 +29,33 @@ struct SvgLength
     double in(double whole) const { return units + share * whole; }
 };
 
-/** A text such as "5", "5mm" or "5%"; letters of a font, whose size nobody knows here, count as all that is shown. */
+/**
+ * A text such as "5", "5mm" or "5%"; letters of a font, whose size is unknown here, count as the whole visible area.
+ */
 SvgLength svgLength(QStringView text);
 
-/** What an element takes over from the ones around it, and from those that refer to it. */
+/** What an element inherits from its parents, and from elements that refer to it. */
 struct SvgPlace
 {
-    double scale = 1; ///< at most so many units of the canvas are one unit here
-    QSizeF shown;     ///< what is shown, in units of this place
+    double scale = 1; ///< maximum scale: canvas units per local unit
+    QSizeF shown;     ///< the visible area, in local units
     bool isStroked = false;
-    double strokeWidth = 1; ///< in units of this place, as the next two
+    double strokeWidth = 1; ///< in local units, like the next two
     double dash = 0;        ///< the mean of dashes and gaps; 0 for none
     double fontSize = 16;
 };
 
-/** A shape as its element tells it. */
+/** A shape as defined by its element. */
 class SvgOutline
 {
 public:
     SvgOutline() = default;
     SvgOutline(SvgLength width, SvgLength height) : m_width(width), m_height(height), m_isRect(true) {}
 
-    /** Coordinates by turns across and down, begun afresh by each command; small letters mean distances. */
+    /** Alternating x and y coordinates, restarted by each command; lower-case letters mean relative ones. */
     static SvgOutline ofPath(QStringView text);
 
-    /** How much of the canvas it covers, at most. */
+    /** The largest share of the canvas that it can cover. */
     double area(const SvgPlace &place, const SvgCanvas &canvas) const;
     double points() const { return m_points; }
     /** Its longer side, in units of the canvas. */
@@ -71,10 +73,10 @@ private:
     double m_points = 0;
 };
 
-/** Letters that stand anywhere on the canvas. */
+/** Letters anywhere on the canvas. */
 SvgCost svgLetterCost(const SvgPlace &place, const SvgCanvas &canvas);
 
-/** The numbers of a text; what stands between them is passed over. */
+/** The numbers of a text; separators are skipped. */
 QList<double> svgNumbers(QStringView text);
 double largestSvgNumber(QStringView text);
 

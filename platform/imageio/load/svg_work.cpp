@@ -13,7 +13,7 @@
 namespace platform {
 namespace {
 
-/** More than this is as good as endless. */
+/** More than this counts as endless. */
 constexpr double endless = 1e15;
 
 SvgCost sum(const SvgCost &a, const SvgCost &b, double times = 1)
@@ -22,7 +22,7 @@ SvgCost sum(const SvgCost &a, const SvgCost &b, double times = 1)
     return {bounded(a.aPixel, b.aPixel), bounded(a.aSide, b.aSide), bounded(a.once, b.once)};
 }
 
-/** The elements of a drawing, with what each of them takes. */
+/** The elements of a drawing, with the cost of each. */
 class Drawing
 {
 public:
@@ -45,7 +45,7 @@ public:
                 addElement(reader);
             }
         }
-        // What this reader cannot read the other one may.
+        // What this parser cannot read the other one may.
         if (reader.hasError() && (text.contains("filter") || text.contains("<!ENTITY")))
             m_isRefused = true;
     }
@@ -57,7 +57,7 @@ public:
         if (m_elements.isEmpty())
             return {};
         constexpr double nanosecond = 1e-9;
-        constexpr double tileSide = 2000; // the library draws in tiles, and all of a filter for each of them
+        constexpr double tileSide = 2000; // the library draws in tiles, and computes the whole filter for each of them
         constexpr double bytesPerPixel = 4;
         const Total total = totalOf(0, rootPlace(), 0);
         if (m_isRefused)
@@ -82,7 +82,7 @@ private:
     struct Total
     {
         SvgCost cost;
-        int layers = 0; ///< one in another
+        int layers = 0; ///< one inside another
     };
 
     void addElement(const QXmlStreamReader &reader)
@@ -113,7 +113,7 @@ private:
         m_letters += double(letters);
     }
 
-    /** The drawing is as large as its canvas, unless it is to fill it in both directions. */
+    /** The drawing is as large as its canvas, unless it is meant to fill it in both directions. */
     SvgPlace rootPlace() const
     {
         const double across = m_size.width() / m_canvas.width();
@@ -129,7 +129,7 @@ private:
         return std::max(m_size.width(), m_size.height()) / std::max(m_canvas.width(), m_canvas.height());
     }
 
-    /** Places that differ little in their scale count as one. */
+    /** Scales that differ little count as one. */
     static QByteArray keyOf(qsizetype index, const SvgPlace &place)
     {
         constexpr double steps = 4;
@@ -139,7 +139,7 @@ private:
                number(place.isStroked ? place.strokeWidth : -1) + number(place.dash) + number(place.fontSize);
     }
 
-    /** What an element takes that stands at @p place. */
+    /** The cost of an element at @p place. */
     Total totalOf(qsizetype index, const SvgPlace &place, int depth)
     {
         const QByteArray key = keyOf(index, place);
@@ -148,7 +148,7 @@ private:
         m_isRefused = m_isRefused || m_known.size() > mostElements;
         if (depth > deepest || m_isRefused)
             return {{endless, endless, endless}, 0};
-        if (m_open.contains(index)) // whoever refers to itself is drawn once, or not at all
+        if (m_open.contains(index)) // an element that refers to itself is drawn once, or not at all
             return {};
         m_open.insert(index);
         const SvgElement &element = m_elements.at(index);
@@ -183,7 +183,7 @@ private:
         return cost;
     }
 
-    /** How often, or for how much of the canvas, what is referred to is drawn. */
+    /** How often, or for how much of the canvas, a referenced element is drawn. */
     double timesOf(const SvgReference &reference, const SvgElement &element, const SvgPlace &place) const
     {
         constexpr double least = 0.001;

@@ -8,7 +8,7 @@
 namespace platform {
 namespace {
 
-/** Adds the entries of one directory that exiv2 can hold. */
+/** Adds the entries of one directory that exiv2 can represent. */
 void addTags(Metadata::Blocks &blocks, const TiffReader &reader, const TiffDirectory &directory, const char *group)
 {
     constexpr qint64 longestValue = 1 << 20;
@@ -22,7 +22,7 @@ void addTags(Metadata::Blocks &blocks, const TiffReader &reader, const TiffDirec
             if (value->read(data, long(bytes.size()), blocks.byteOrder) == 0)
                 blocks.exif.add(Exiv2::ExifKey(entry.tag, group), value.get());
         } catch (const std::exception &) {
-            // Passed over: exiv2 cannot hold this value.
+            // Skipped: exiv2 cannot represent this value.
         }
     }
 }

@@ -14,7 +14,7 @@ namespace {
 
 const QLatin1String tiffSpace("http://ns.adobe.com/tiff/1.0/");
 
-/** What EXIF says of these, in the words of XMP. */
+/** The equivalents of these EXIF tags in XMP. */
 QList<XmpValue> statedInStep(const Metadata::Blocks &blocks)
 {
     QList<XmpValue> values;
@@ -51,8 +51,8 @@ bool says(const Exiv2::XmpData &xmp, const std::string &property)
 }
 
 /**
- * The library calls a name space as the packet did that it read last, of whatever picture. What it writes is to depend on nothing
- * but the picture, so the usual names are told to it again.
+ * The library names namespaces as in the last packet that it read, of whatever picture. Its output must depend on
+ * nothing but the picture, so the usual names are registered again.
  */
 void restoreUsualNames()
 {
@@ -89,7 +89,7 @@ void restoreUsualNames()
     Exiv2::XmpParser::decode(told, packet);
 }
 
-/** Empty where it cannot be written as a packet. */
+/** Empty if it cannot be written as a packet. */
 std::string packetOf(const Exiv2::XmpData &xmp)
 {
     restoreUsualNames();
@@ -97,7 +97,7 @@ std::string packetOf(const Exiv2::XmpData &xmp)
     return Exiv2::XmpParser::encode(packet, xmp, Exiv2::XmpParser::useCompactFormat) == 0 ? packet : std::string();
 }
 
-/** What EXIF and IPTC say, as a packet, without what the own one says already; empty where that is nothing. */
+/** The content of EXIF and IPTC as a packet, without what the own packet already says; empty if nothing is left. */
 QByteArray saidInstead(const Metadata::Blocks &blocks, QSize pixels, SaidInXmp said)
 {
     Exiv2::XmpData made;
@@ -143,7 +143,7 @@ QByteArray carriedXmp(const Metadata::Blocks &blocks, QSize pixels, SaidInXmp sa
         if (edited && !saysAnything(own))
             own.clear();
     }
-    // Of a packet that was not taken apart nobody knows what it says already.
+    // The content of a packet that was not parsed is unknown.
     if ((!said.exif && !said.iptc) || (!own.isEmpty() && !isDigestibleXmp(own)))
         return own;
     const QByteArray instead = saidInstead(blocks, pixels, said);

@@ -8,13 +8,13 @@
 
 namespace platform {
 
-/** The packet as it was read; one that was never a packet is made of its entries. Sizes are those of @p pixels, if known. */
+/** The packet as it was read; if there was none, one made from its entries. Sizes are those of @p pixels, if known. */
 QByteArray xmpPacket(const Metadata::Blocks &blocks, QSize pixels);
 
 /** The records of IPTC. */
 QByteArray iptcRecords(const Metadata::Blocks &blocks);
 
-/** Blocks that a file has no place for, so that XMP says in its own words what it can. */
+/** Blocks for which a file has no place, so that XMP expresses what it can. */
 struct SaidInXmp
 {
     bool exif = false;
@@ -22,8 +22,9 @@ struct SaidInXmp
 };
 
 /**
- * xmpPacket() in step with the other blocks: it says the same of orientation and resolution as EXIF, announces no other data of
- * the old file (announcesOtherData()), and says what @p said has no place for where it did not say it already.
+ * xmpPacket() made consistent with the other blocks: it agrees with EXIF about orientation and resolution, announces no
+ * other data of the old file (announcesOtherData()), and expresses what @p said has no place for unless it already
+ * does.
  */
 QByteArray carriedXmp(const Metadata::Blocks &blocks, QSize pixels, SaidInXmp said);
 

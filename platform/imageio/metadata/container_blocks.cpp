@@ -24,7 +24,7 @@ const QByteArray exifIdentifier("JpgTiffExif->JP2");
 const QByteArray xmpIdentifier = QByteArray::fromHex("be7acfcb97a942e89c71999491e3afac");
 const QByteArray iptcIdentifier = QByteArray::fromHex("33c7a4d2b81d4723a0baf1a3e097ad38");
 
-/** The first of its kind counts. */
+/** The first of its kind is used. */
 void take(QByteArray &block, const QByteArray &box, const QByteArray &identifier)
 {
     if (block.isEmpty() && box.startsWith(identifier) && box.size() <= largestBlock)
@@ -132,7 +132,7 @@ ContainerBlocks photoshopBlocks(const QByteArray &bytes)
         const PhotoshopFile file = readPhotoshopFile(buffer);
         return {file.exif, file.xmp, file.iptc};
     } catch (const vips::VError &) {
-        return {}; // whoever wants the pixels is told why
+        return {}; // the caller who wants the pixels is told why
     }
 }
 

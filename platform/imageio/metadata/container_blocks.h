@@ -1,6 +1,7 @@
 #pragma once
 
-// Inside platform/ only: the blocks of metadata in files that the metadata library does not read, or refuses for other faults.
+// Inside platform/ only: the blocks of metadata in files that the metadata library does not support, or rejects for
+// other faults.
 
 #include <QByteArray>
 
@@ -14,19 +15,19 @@ struct ContainerBlocks
     QByteArray iptc; ///< the records
 };
 
-/** The boxes of a JPEG 2000 file, whatever else is wrong with it. Never reads outside @p bytes. */
+/** The boxes of a JPEG 2000 file, even if it is otherwise damaged. Never reads outside @p bytes. */
 ContainerBlocks jpeg2000Blocks(const QByteArray &bytes);
 
-/** The application block of a GIF file that holds XMP, as it is or cut into pieces; only XMP is known there. */
+/** The application block of a GIF file that contains XMP, plain or in sub-blocks; only XMP is supported there. */
 ContainerBlocks gifBlocks(const QByteArray &bytes);
 
 /** True for a PSB file, which the metadata library takes for a damaged PSD. */
 bool isLargePhotoshop(const QByteArray &bytes);
 
-/** What a Photoshop file embeds among its resources. */
+/** The blocks among a Photoshop file's resources. */
 ContainerBlocks photoshopBlocks(const QByteArray &bytes);
 
-/** The XMP packet of a PNG, TIFF or WebP file; empty where there is none, or where it is compressed. */
+/** The XMP packet of a PNG, TIFF or WebP file; empty if there is none, or if it is compressed. */
 QByteArray xmpPacketOf(const QByteArray &bytes);
 
 } // namespace platform

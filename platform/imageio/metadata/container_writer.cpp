@@ -21,7 +21,7 @@ const Box *firstNamed(const QList<Box> &boxes, const QList<QByteArray> &names)
     return found == boxes.end() ? nullptr : &*found;
 }
 
-/** The file without the boxes that @p isDropped says, and with @p added in front of the box @p before. */
+/** The file without the boxes selected by @p isDropped, and with @p added before the box @p before. */
 template<typename Predicate>
 QByteArray rebuilt(const QByteArray &file, const QList<Box> &boxes, Predicate isDropped, const Box &before,
                    const QByteArray &added)
@@ -71,7 +71,7 @@ QByteArray jpegXlBoxes(const ContainerBlocks &blocks)
     return boxes;
 }
 
-/** What the end of a PDF file says. */
+/** The contents of the end of a PDF file. */
 struct PdfEnd
 {
     qint64 tableAt = -1;
@@ -167,7 +167,7 @@ QByteArray pdfWithXmp(const QByteArray &file, const QByteArray &xmp)
     const PdfEnd end = pdfEndOf(file);
     if (end.tableAt < 0 || end.tableAt >= file.size())
         return {};
-    // A second part behind the first, with another catalogue of the same number.
+    // An incremental update, with another catalogue of the same number.
     const QByteArray stream = QByteArray::number(end.objects);
     const QByteArray catalogue = QByteArray::number(end.rootNumber);
     QByteArray result = file;

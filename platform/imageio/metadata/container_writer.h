@@ -1,7 +1,7 @@
 #pragma once
 
-// Inside platform/ only: blocks of metadata put into files that are chains of parts. What such a file had of them before is
-// replaced; all else stays byte for byte, but for offsets that have to follow.
+// Inside platform/ only: inserts blocks of metadata into files that are chains of parts. Existing ones are replaced;
+// everything else stays byte for byte, except offsets that have to be updated.
 
 #include "platform/imageio/metadata/container_blocks.h"
 
@@ -9,17 +9,19 @@
 
 namespace platform {
 
-/** Of a JPEG 2000 file; empty where it is bare pixels, or has a table of places in itself that would be wrong then. */
+/**
+ * For a JPEG 2000 file; empty if it is a bare codestream, or contains a table of file offsets that would become wrong.
+ */
 QByteArray jpeg2000WithBlocks(const QByteArray &file, const ContainerBlocks &blocks);
-/** The size of its picture; empty where it does not tell. */
+/** The size of its picture; empty if it does not say. */
 QSize jpeg2000SizeOf(const QByteArray &file);
 
-/** Of a JPEG XL file, which gets a container where it is bare pixels. IPTC has no place in it. */
+/** For a JPEG XL file, which gets a container if it is a bare codestream. IPTC has no place in it. */
 QByteArray jpegXlWithBlocks(const QByteArray &file, const ContainerBlocks &blocks);
-/** EXIF and XMP of a JPEG XL file. What is compressed there stays unknown. */
+/** EXIF and XMP of a JPEG XL file. Compressed ones are not read. */
 ContainerBlocks jpegXlBlocks(const QByteArray &file);
 
-/** An XMP packet as that of the document; empty where the end of the file is not as simple as that of those made here. */
+/** An XMP packet as that of the document; empty if the end of the file is not as simple as that of our own. */
 QByteArray pdfWithXmp(const QByteArray &file, const QByteArray &xmp);
 
 } // namespace platform

@@ -16,7 +16,7 @@ bool isStandardGroup(const std::string &group)
     return group == "Image" || group == "Photo" || group == "GPSInfo" || group == "Iop";
 }
 
-/** Directories of raw files with pictures of their own. */
+/** Directories of raw files that contain pictures of their own. */
 bool isOtherImageGroup(const std::string &group)
 {
     return group.rfind("SubImage", 0) == 0 || group.rfind("SubThumb", 0) == 0 || group.rfind("PanasonicRaw", 0) == 0;
@@ -75,12 +75,12 @@ QByteArray encoded(const Exiv2::ExifData &exif, Exiv2::ByteOrder order)
     return toBytes(blob);
 }
 
-/** True if the block says what it was made from, as far as a reader goes for it first. */
+/** True if the block states its source, as far as a simple reader sees. */
 bool readsBack(const QByteArray &block, const Exiv2::ExifData &exif, Exiv2::ByteOrder order)
 {
     Exiv2::ExifData again;
     Exiv2::ExifParser::decode(again, reinterpret_cast<const Exiv2::byte *>(block.constData()), uint32_t(block.size()));
-    // Bytes, not texts: a comment is shown in another way once it was read from a block.
+    // Bytes, not texts: a comment is displayed differently once it was read from a block.
     for (const char *key : {"Exif.Image.Orientation", "Exif.Photo.UserComment", "Exif.Photo.DateTimeOriginal"}) {
         const Exiv2::Exifdatum *before = findTag(exif, key);
         const Exiv2::Exifdatum *after = findTag(again, key);
@@ -97,7 +97,7 @@ QByteArray attemptBlock(const Exiv2::ExifData &exif, Exiv2::ByteOrder order, qsi
         if (!block.isEmpty() && block.size() <= sizeLimit && readsBack(block, exif, order))
             return block;
     } catch (const std::exception &) {
-        // The caller tries with less.
+        // The caller retries with less.
     }
     return {};
 }

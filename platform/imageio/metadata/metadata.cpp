@@ -32,7 +32,7 @@ const Exiv2::byte *bytePointer(const QByteArray &bytes)
     return reinterpret_cast<const Exiv2::byte *>(bytes.constData());
 }
 
-/** The pixels of the new file are others, so what shows the old ones small is left behind. */
+/** The new file has other pixels, so thumbnails of the old ones are dropped. */
 void dropThumbnails(Metadata::Blocks &blocks)
 {
     for (auto tag = blocks.exif.begin(); tag != blocks.exif.end();) {
@@ -51,7 +51,7 @@ void readImage(Metadata::Blocks &blocks, const QByteArray &bytes)
     blocks.exif = image->exifData();
     blocks.iptc = image->iptcData();
     blocks.xmp = image->xmpData();
-    image->writeXmpFromPacket(true); // or what is handed out is a rebuilt packet, which lacks some of it
+    image->writeXmpFromPacket(true); // otherwise a rebuilt packet is returned, which lacks some of it
     blocks.xmpPacket = image->xmpPacket();
     if (const Exiv2::Exifdatum *tag = findTag(blocks.exif, "Exif.Image.XMLPacket"); tag && blocks.xmpPacket.empty())
         blocks.xmpPacket = rawBytes(*tag, Exiv2::littleEndian).toStdString();
@@ -67,7 +67,7 @@ void readExifBlock(Metadata::Blocks &blocks, const QByteArray &block)
     blocks.exifBlock = block;
 }
 
-/** Of a file of a type that the library does not read; none for all others. */
+/** For a file of a type that the library does not support; none for all others. */
 std::optional<ContainerBlocks> blocksOf(const QByteArray &bytes)
 {
     switch (platform::contentOf(bytes.left(contentHeadBytes))) {
@@ -84,7 +84,7 @@ std::optional<ContainerBlocks> blocksOf(const QByteArray &bytes)
     }
 }
 
-/** Of a TIFF file, without its XMP. The tags of other files are read from the blocks that hold them. */
+/** For a TIFF file, without its XMP. The tags of other files are read from the blocks that contain them. */
 void readTagsAlone(Metadata::Blocks &blocks, const QByteArray &bytes)
 {
     if (platform::contentOf(bytes.left(contentHeadBytes)) != Content::Tiff || bytes.size() > 0xffffffffLL)
@@ -118,14 +118,17 @@ void readIptcBlock(Metadata::Blocks &blocks, const QByteArray &block)
         Exiv2::IptcParser::decode(blocks.iptc, data, uint32_t(block.size()));
 }
 
-/** Runs one reading step; what a broken file throws means that the step found nothing more. True where nothing was thrown. */
+/**
+ * Runs one reading step; an exception from a broken file means that the step found nothing more. True if nothing was
+ * thrown.
+ */
 template<typename Step> bool attempt(Step step)
 {
     try {
         step();
         return true;
     } catch (const std::exception &) {
-        return false; // what was read before stays, the rest cannot be understood
+        return false; // what was read before is kept, the rest is unintelligible
     }
 }
 
@@ -156,7 +159,7 @@ QStringList commentsOf(const QByteArray &jpeg, const JpegSegments &segments)
     return comments;
 }
 
-/** Where it belongs; else among the tags of the picture itself, where some programs put all tags. */
+/** In its proper place; else among the tags of the picture itself, where some programs put all tags. */
 const Exiv2::Exifdatum *commentTag(const Exiv2::ExifData &exif)
 {
     const Exiv2::Exifdatum *tag = findTag(exif, "Exif.Photo.UserComment");
@@ -205,17 +208,17 @@ Metadata Metadata::fromFileBytes(const QByteArray &bytes)
         attempt([&] { readTagsAlone(*blocks, bytes); });
         attempt([&] { readExifBlock(*blocks, segments.exif); });
     } else if (!attempt([&] { isBigTiff(bytes) ? readBigTiff(*blocks, bytes) : readImage(*blocks, bytes); })) {
-        // At EXIF that it cannot read the library gives up, with all that stands behind it.
+        // At EXIF that it cannot read the library gives up, and ignores everything after it.
         attempt([&] { readImage(*blocks, withoutExif(bytes, segments, parts)); });
     }
-    if (segments.exifSegments > 1) { // exiv2 reads the first part alone
+    if (segments.exifSegments > 1) { // exiv2 reads the first part only
         blocks->exif.clear();
         attempt([&] { readExifBlock(*blocks, segments.exif); });
     }
     if (parts.valid) {
         blocks->pngChunks = parts.carried;
         blocks->comments = pngComments(parts.carried);
-        if (!parts.exif.isEmpty()) { // exiv2 knows only the older way
+        if (!parts.exif.isEmpty()) { // exiv2 supports only the older way
             blocks->exif.clear();
             attempt([&] { readExifBlock(*blocks, parts.exif); });
         }
@@ -224,7 +227,7 @@ Metadata Metadata::fromFileBytes(const QByteArray &bytes)
         blocks->exif.clear();
         attempt([&] { readExifBlock(*blocks, exif); });
     }
-    // The block itself lets maker notes stay where they are when it is written again.
+    // The original block lets maker notes stay in place when it is written again.
     if (!segments.exif.isEmpty())
         blocks->exifBlock = segments.exif;
     blocks->comments += commentsOf(bytes, segments);

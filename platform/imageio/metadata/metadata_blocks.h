@@ -1,6 +1,6 @@
 #pragma once
 
-// Inside platform/ only: what a Metadata holds.
+// Inside platform/ only: the contents of a Metadata.
 
 #include "platform/imageio/metadata/metadata.h"
 
@@ -15,19 +15,19 @@ struct Metadata::Blocks
     Exiv2::ExifData exif;
     Exiv2::IptcData iptc;
     Exiv2::XmpData xmp;
-    std::string xmpPacket; ///< the packet as it was read, so that nothing of it is lost on the way
-    /** The EXIF block as it was read, TIFF header first; empty where the file is a TIFF or the block is not at hand. */
+    std::string xmpPacket; ///< the packet as it was read, so that nothing of it is lost
+    /** The EXIF block as it was read, TIFF header first; empty if the file is a TIFF or the block is not available. */
     QByteArray exifBlock;
     Exiv2::ByteOrder byteOrder = Exiv2::littleEndian;
-    /** Chunks of a PNG file that another PNG file can have too: texts, gamma, primaries. */
+    /** Chunks of a PNG file that can be copied to another: texts, gamma, primaries. */
     QByteArray pngChunks;
     QStringList comments; ///< of the file itself, not of EXIF
 };
 
-/** Starts exiv2 once: its XMP parser, its reader of HEIC and AVIF, and no word on standard error. */
+/** Initialises exiv2 once: its XMP parser, its support of HEIC and AVIF, and no output on standard error. */
 void startMetadataLibrary();
 
-/** The value of a tag that is no longer in the metadata is nothing at all. */
+/** The value of a tag that was removed is nothing at all. */
 inline const Exiv2::Exifdatum *findTag(const Exiv2::ExifData &exif, const char *key)
 {
     const auto found = exif.findKey(Exiv2::ExifKey(key));

@@ -15,13 +15,13 @@ void set(Metadata::Blocks &blocks, const Exiv2::ExifKey &key, const TagValue &va
         blocks.exif[key.key()].setValue(value.get());
 }
 
-/** One entry that no tag can hold must not hide the others. */
+/** One entry that no tag can hold must not affect the others. */
 template<typename Step> void attempt(Step step)
 {
     try {
         step();
     } catch (const std::exception &) {
-        // Passed over: exiv2 knows no such tag.
+        // Skipped: exiv2 knows no such tag.
     }
 }
 
@@ -67,7 +67,7 @@ TagValue gpsTagValue(const Exiv2::ExifKey &key, const QString &name, const QVari
     return tagValue(key.defaultTypeId(), name, value);
 }
 
-/** Where a negative coordinate stands without a reference, its sign says which. */
+/** If a negative coordinate has no reference, its sign determines it. */
 void addReference(Metadata::Blocks &blocks, const QVariantMap &gps, const QString &name, const char *letters)
 {
     const QVariant value = gps.value(name);
@@ -118,7 +118,7 @@ void setTopLevel(Metadata::Blocks &blocks, const QVariantMap &properties)
     if (!(horizontal > 0) || !(vertical > 0))
         return;
     const Exiv2::ExifKey across("Exif.Image.XResolution");
-    // Resolution stated per centimetre is the same, and stays as it was stated.
+    // Resolution stated per centimetre is equivalent, and stays as it was stated.
     const QVariantMap tiff = properties.value(QStringLiteral("{TIFF}")).toMap();
     const double scale = tiff.value(QStringLiteral("ResolutionUnit")).toInt() == 3 ? 2.54 : 1.0;
     set(blocks, across, tagValue(Exiv2::unsignedRational, {}, horizontal / scale));
@@ -148,7 +148,7 @@ Metadata Metadata::fromProperties(const QVariantMap &properties)
     attempt([&] { addReference(*blocks, gps, QStringLiteral("Latitude"), "NS"); });
     attempt([&] { addReference(*blocks, gps, QStringLiteral("Longitude"), "EW"); });
     each("{IPTC}", setIptc);
-    if (!blocks->iptc.empty()) // the texts are UTF-8, and say so
+    if (!blocks->iptc.empty()) // the texts are UTF-8, and marked so
         attempt([&] { blocks->iptc["Iptc.Envelope.CharacterSet"] = std::string("\033%G"); });
     each("{XMP}", setXmp);
     attempt([&] { setTopLevel(*blocks, properties); });

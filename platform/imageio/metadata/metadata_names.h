@@ -1,6 +1,6 @@
 #pragma once
 
-// Inside platform/ only: the names that tags have in the nested dictionaries, where they differ from exiv2's.
+// Inside platform/ only: the names of tags in the nested dictionaries, if they differ from exiv2's.
 
 #include <QString>
 
@@ -11,17 +11,17 @@ QString exifName(const QString &tagName);
 /** The tag name of a key of {Exif} or {TIFF}. */
 QString exifTagName(const QString &name);
 
-/** "GPSLatitude" as "Latitude", and back. */
+/** "GPSLatitude" as "Latitude", and vice versa. */
 QString gpsName(const QString &tagName);
 QString gpsTagName(const QString &name);
 
-/** The name of a record 2 data set of IPTC, and back. */
+/** The name of a record 2 data set of IPTC, and vice versa. */
 QString iptcName(const QString &dataSetName);
 QString iptcDataSetName(const QString &name);
 /** True for a key of {IPTC} whose value is always an array. */
 bool isIptcList(const QString &name);
 
-/** True for a key of {Exif} whose value is an array even where the tag has one number. */
+/** True for a key of {Exif} whose value is an array even if the tag has one number. */
 bool isAlwaysArray(const QString &name);
 
 } // namespace platform

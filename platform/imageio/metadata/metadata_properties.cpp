@@ -24,7 +24,7 @@ QString text(const QString &name, QByteArray bytes)
 {
     while (bytes.endsWith('\0'))
         bytes.chop(1);
-    if (name == QLatin1String("Copyright")) // photographer and editor stand in one value
+    if (name == QLatin1String("Copyright")) // photographer and editor share one value
         bytes.replace('\0', '\n');
     else if (const qsizetype end = bytes.indexOf('\0'); end >= 0)
         bytes.truncate(end);
@@ -34,7 +34,7 @@ QString text(const QString &name, QByteArray bytes)
     return result;
 }
 
-/** "0221" as 2, 2, 1 and "0100" as 1, 0: major, minor, and the last digit only where it says something. */
+/** "0221" as 2, 2, 1 and "0100" as 1, 0: major, minor, and the last digit only if it is not 0. */
 QVariantList versionNumbers(const QByteArray &digits)
 {
     QVariantList numbers;
@@ -55,7 +55,7 @@ QVariantList byteNumbers(const QByteArray &bytes)
     return numbers;
 }
 
-/** One component; invalid where it is a fraction of zero. */
+/** One component; invalid for a fraction with a zero denominator. */
 QVariant component(const Exiv2::Value &value, long index)
 {
     const auto type = value.typeId();
@@ -130,7 +130,7 @@ void insertValid(QVariantMap &map, const QString &key, const QVariant &value)
         map.insert(key, value);
 }
 
-/** Degrees from degrees, minutes and seconds; invalid where they are not three fractions. */
+/** Degrees from degrees, minutes and seconds; invalid unless they are three fractions. */
 QVariant degrees(const Exiv2::Exifdatum &tag)
 {
     double sum = 0;
@@ -145,7 +145,7 @@ QVariant degrees(const Exiv2::Exifdatum &tag)
     return tag.count() > 0 ? QVariant(sum) : QVariant();
 }
 
-/** "13:05:09", with two decimals of the second where there are any. */
+/** "13:05:09", with two decimals of the second if there are any. */
 QVariant timeOfDay(const Exiv2::Exifdatum &tag)
 {
     if (tag.count() != 3)
@@ -195,7 +195,7 @@ void addImageTag(ExifGroups &groups, const Exiv2::Exifdatum &tag, const QString 
                                number == 0x8773 || number == 0x8825 || number == 0x935c || number >= 0xc4a5;
     if (!shown || pointerOrData)
         return;
-    // Cameras that write TIFF put exposure data beside the camera's name.
+    // Cameras that write TIFF store exposure data beside the camera's name.
     const bool exposure = (number >= 0x829a && number < 0x9c00) || (number >= 0xa000 && number < 0xa500);
     insertValid(exposure ? groups.exif : groups.tiff, name, valueOf(tag, name, order));
 }
@@ -221,13 +221,13 @@ void addExifTag(ExifGroups &groups, const Exiv2::Exifdatum &tag, Exiv2::ByteOrde
     }
 }
 
-/** One odd tag must not hide the others. */
+/** One odd tag must not affect the others. */
 template<typename Step> void attempt(Step step)
 {
     try {
         step();
     } catch (const std::exception &) {
-        // Passed over: its value cannot be understood.
+        // Skipped: its value cannot be understood.
     }
 }
 

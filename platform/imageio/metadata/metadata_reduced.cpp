@@ -1,4 +1,4 @@
-// What is left of metadata where not all of it is to go with a picture.
+// The metadata that is left if not all of it is to be kept.
 
 #include "platform/imageio/exif/exif_in_place.h"
 #include "platform/imageio/metadata/metadata_blocks.h"
@@ -88,7 +88,7 @@ bool isMakerTag(const Exiv2::Exifdatum &tag)
     return !isOneOf(standard, tag.groupName());
 }
 
-/** A tag of a maker's that says where the picture was taken, and is not empty. */
+/** A maker's tag that says where the picture was taken, and is not empty. */
 bool isPlaceOfMaker(const Exiv2::Exifdatum &tag)
 {
     static constexpr std::array<std::string_view, 8> parts = {"GPS",     "Gps",  "Latitude", "Longitude",
@@ -108,7 +108,7 @@ template<typename Data, typename Predicate> void removeWhere(Data &data, Predica
         each = predicate(*each) ? data.erase(each) : ++each;
 }
 
-/** Of a packet that cannot be edited nothing stays, since nobody can tell what it says. */
+/** A packet that cannot be edited is dropped entirely, since its content is unknown. */
 template<typename Predicate> void keepXmp(Metadata::Blocks &blocks, Predicate isKept)
 {
     removeWhere(blocks.xmp, [&](const Exiv2::Xmpdatum &each) {
@@ -125,7 +125,7 @@ template<typename Predicate> void keepXmp(Metadata::Blocks &blocks, Predicate is
 
 void keepCopyright(Metadata::Blocks &blocks)
 {
-    blocks.exifBlock.clear(); // is rebuilt, and has no maker notes that could suffer
+    blocks.exifBlock.clear(); // is rebuilt, and has no maker notes that could be damaged
     removeWhere(blocks.exif, [](const Exiv2::Exifdatum &tag) { return !isCopyright(tag); });
     removeWhere(blocks.iptc, [](const Exiv2::Iptcdatum &data) { return !isCopyright(data); });
     const bool onlyCharacters = std::all_of(blocks.iptc.begin(), blocks.iptc.end(), [](const Exiv2::Iptcdatum &data) {

@@ -83,7 +83,7 @@ TagValue textValue(const QString &name, const QVariant &value)
     if (!isText(value) && !value.canConvert<double>())
         return {};
     QByteArray bytes = value.toString().toUtf8();
-    if (name == QLatin1String("Copyright")) // photographer and editor stand in one value
+    if (name == QLatin1String("Copyright")) // photographer and editor share one value
         bytes.replace('\n', '\0');
     return bytesValue(Exiv2::asciiString, bytes + '\0');
 }
@@ -142,7 +142,7 @@ TagValue coordinateValue(double degrees)
 {
     const double size = std::abs(degrees);
     const double whole = std::floor(size);
-    // Seconds to a ten thousandth are 3 millimetres; rounding first keeps 60 seconds from appearing.
+    // A ten thousandth of a second of arc is 3 millimetres; rounding first avoids 60 seconds.
     const double units = std::round((size - whole) * 3600 * 10000);
     const double minutes = std::floor(units / 600000);
     const double seconds = (units - minutes * 600000) / 10000;

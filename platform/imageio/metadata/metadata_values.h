@@ -1,6 +1,6 @@
 #pragma once
 
-// Inside platform/ only: values of the nested dictionaries as values of tags.
+// Inside platform/ only: values of the nested dictionaries converted to values of tags.
 
 #include <exiv2/exiv2.hpp>
 
@@ -10,12 +10,12 @@
 
 namespace platform {
 
-/** The byte order of every value that is made here. */
+/** The byte order of every value made here. */
 constexpr Exiv2::ByteOrder madeByteOrder = Exiv2::littleEndian;
 
 using TagValue = std::unique_ptr<Exiv2::Value>;
 
-/** @p value as a tag of @p type can hold it; null where it cannot: text for a number, a number out of range ... */
+/** @p value in the form of a tag of @p type; null if impossible: text for a number, a number out of range ... */
 TagValue tagValue(Exiv2::TypeId type, const QString &name, const QVariant &value);
 
 /** Degrees, minutes and seconds of a number of degrees. */

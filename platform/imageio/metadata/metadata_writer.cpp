@@ -32,7 +32,7 @@ void appendSegment(QByteArray &out, uchar marker, const QByteArray &payload)
     out.append('\xff').append(char(marker)).append(length, 2).append(payload);
 }
 
-/** What one block's maker gives, or nothing where it throws: the other blocks are carried all the same. */
+/** The result of one block's maker, or nothing if it throws: the other blocks are written all the same. */
 template<typename Maker> QByteArray madeOrNothing(Maker make)
 {
     try {
@@ -48,7 +48,7 @@ QByteArray xmpPayload(const Metadata::Blocks &blocks, QSize pixels)
     return packet.isEmpty() ? packet : QByteArray("http://ns.adobe.com/xap/1.0/\0", 29) + packet;
 }
 
-/** IPTC as one Photoshop resource; empty where there is none. */
+/** IPTC as one Photoshop resource; empty if there is none. */
 QByteArray iptcResources(const Metadata::Blocks &blocks)
 {
     if (blocks.iptc.empty())
@@ -63,7 +63,7 @@ QByteArray iptcPayload(const Metadata::Blocks &blocks)
     return resources.isEmpty() ? resources : QByteArray("Photoshop 3.0\0", 14) + resources;
 }
 
-/** In the order in which they stand. */
+/** In order of position. */
 QList<JpegSegments::Range> replacedSegments(const JpegSegments &segments, Carried carried)
 {
     QList<JpegSegments::Range> replaced = segments.metadata;
@@ -94,7 +94,7 @@ QByteArray writtenIntoJpeg(const Metadata::Blocks &blocks, const QByteArray &enc
     return out.append(encoded.constData() + position, encoded.size() - position);
 }
 
-/** What goes into a TIFF file of some shape. */
+/** The metadata for a TIFF file of a given shape. */
 GraftedBlocks graftedBlocks(const Metadata::Blocks &blocks, const TiffShape &shape)
 {
     constexpr qsizetype largestBlock = 32 << 20;
@@ -105,7 +105,7 @@ GraftedBlocks graftedBlocks(const Metadata::Blocks &blocks, const TiffShape &sha
             madeOrNothing([&] { return iptcRecords(blocks); })};
 }
 
-/** Empty where the file is not of the plain kind that this works for. */
+/** Empty if the file is not of the plain kind that this supports. */
 QByteArray graftedIntoTiff(const Metadata::Blocks &blocks, const QByteArray &encoded)
 {
     const TiffShape shape = tiffShape(encoded);
@@ -124,7 +124,7 @@ QByteArray contentOf(Exiv2::Image &image)
     return bytes;
 }
 
-/** For all other TIFF files. Throws where exiv2 cannot do it. */
+/** For all other TIFF files. Throws if exiv2 cannot do it. */
 QByteArray rewrittenTiff(const Metadata::Blocks &blocks, const QByteArray &encoded, MakerNotes makerNotes)
 {
     const auto image =
@@ -149,14 +149,17 @@ QByteArray rewrittenTiff(const Metadata::Blocks &blocks, const QByteArray &encod
     return contentOf(*image);
 }
 
-/** Throws, or gives nothing, where it cannot be done. */
+/** Throws, or returns nothing, if it cannot be done. */
 QByteArray writtenIntoTiff(const Metadata::Blocks &blocks, const QByteArray &encoded, MakerNotes makerNotes)
 {
     const QByteArray grafted = graftedIntoTiff(blocks, encoded);
     return grafted.isEmpty() ? rewrittenTiff(blocks, encoded, makerNotes) : grafted;
 }
 
-/** Texts of a raw profile: name, length, then hexadecimal digits in lines. This is the one way in which PNG holds IPTC. */
+/**
+ * The text of a raw profile: name, length, then lines of hexadecimal digits. This is the only way in which PNG can hold
+ * IPTC.
+ */
 QByteArray rawProfile(const QByteArray &name, const QByteArray &bytes)
 {
     constexpr qsizetype digitsInLine = 72;
@@ -207,7 +210,7 @@ Metadata::Blocks blocksToCarry(const Metadata::Blocks &known, Carried carried)
     return blocks;
 }
 
-/** Of a type that is a chain of parts; the size of its picture is told by the file, or else by @p pixels. */
+/** For a type that is a chain of parts; the size of its picture comes from the file, or else from @p pixels. */
 Result<QByteArray> writtenIntoContainer(const Metadata &metadata, const QByteArray &encoded, QSize pixels)
 {
     using Holds = Metadata::Holds;
@@ -280,7 +283,7 @@ Result<QByteArray> Metadata::writtenInto(const QByteArray &encoded, Carried carr
             if (!written.isEmpty())
                 return written;
         } catch (const std::exception &) {
-            // With less, or at the end with nothing: the picture itself is what must not be lost.
+            // With less, or in the end with nothing: the picture itself must not be lost.
         }
     }
     return encoded;

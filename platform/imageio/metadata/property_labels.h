@@ -5,8 +5,8 @@
 namespace platform {
 
 /**
- * What a key of the nested dictionaries is called in words, in the user's language: "Exposure time" for "ExposureTime". The key
- * itself where it has no label.
+ * The label of a key of the nested dictionaries in the user's language: "Exposure time" for "ExposureTime". The key
+ * itself if it has no label.
  */
 QString propertyLabel(const QString &key);
 

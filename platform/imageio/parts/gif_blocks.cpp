@@ -6,8 +6,9 @@
 
 // "GIF89a" | width, height (2 each) | flags | background | aspect | colours, then blocks:
 //
-//     "!" kind | pieces       an extension; the application block of XMP holds the packet as it is, and behind it bytes that
-//                             lead everyone to its end who takes its letters for lengths of pieces
+//     "!" kind | pieces       an extension; the application block of XMP has the packet as it is, followed by bytes
+//     that
+//                             lead a reader that takes its letters for lengths of pieces to its end
 //     "," place | colours | pieces       a picture
 //     ";"                     the end
 //
@@ -23,7 +24,7 @@ constexpr char trailer = 0x3b;
 constexpr uchar commentLabel = 0xfe;
 const QByteArray xmpApplication("\xff\x0bXMP DataXMP", 13);
 
-/** The position behind the piece of no length that ends the others. */
+/** The position after the empty piece that ends the others. */
 qsizetype behindPieces(const QByteArray &bytes, qsizetype at)
 {
     while (at < bytes.size() && bytes.at(at) != 0)
@@ -31,7 +32,7 @@ qsizetype behindPieces(const QByteArray &bytes, qsizetype at)
     return at + 1;
 }
 
-/** What the pieces between two positions hold, without their lengths. */
+/** The contents of the pieces between two positions, without their lengths. */
 QByteArray joinedPieces(const QByteArray &bytes, qsizetype at, qsizetype end)
 {
     QByteArray joined;
@@ -46,7 +47,7 @@ qsizetype behindColours(const QByteArray &bytes, qsizetype flagsAt, qsizetype at
     return (flags & 0x80) != 0 ? at + 3 * (qsizetype(2) << (flags & 7)) : at;
 }
 
-/** The block at a position; one that ends nowhere where nothing known begins there. */
+/** The block at a position; one without an end if nothing known begins there. */
 GifBlock blockAt(const QByteArray &bytes, qsizetype at)
 {
     constexpr qsizetype placeBytes = 10;

@@ -4,9 +4,9 @@
 
 #include <algorithm>
 
-// "RIFF" | length of all that follows (4) | "WEBP", then chunks; numbers have their lowest byte first:
+// "RIFF" | length of all that follows (4) | "WEBP", then chunks; numbers are little-endian:
 //
-//     name (4) | length of the data (4) | data | a zero where the length is odd
+//     name (4) | length of the data (4) | data | a zero if the length is odd
 
 namespace platform {
 namespace {
@@ -31,7 +31,7 @@ quint32 numberAt(const QByteArray &bytes, qsizetype at, qsizetype length)
     return number;
 }
 
-/** What the stream of a picture says of itself. */
+/** The header of a picture's bitstream. */
 struct Stream
 {
     QSize size;
@@ -61,7 +61,7 @@ bool has(const QList<WebpChunk> &chunks, const char *name)
     return std::any_of(chunks.begin(), chunks.end(), [&](const WebpChunk &chunk) { return chunk.name == name; });
 }
 
-/** The header of the extended form, as it was but for what it says of metadata. */
+/** The header of the extended form, unchanged except for its metadata flags. */
 QByteArray headerFor(const QList<WebpChunk> &chunks, bool hasExif, bool hasXmp)
 {
     constexpr qsizetype headerBytes = 10;

@@ -4,7 +4,7 @@
 
 #include <QtEndian>
 
-// A Photoshop file; numbers have their highest byte first, and lengths marked * take 8 bytes in a large file (version 2):
+// A Photoshop file; numbers are big-endian, and lengths marked * take 8 bytes in a large file (version 2):
 //
 //     "8BPS", version (2), 6 zeros, channels (2), height (4), width (4), bits (2), mode (2)
 //     length (4) | palette        length (4) | resources        length* | layers and further blocks
@@ -22,7 +22,7 @@ constexpr qint64 mostBlockBytes = 16 << 20;
     throw vips::VError(reason);
 }
 
-/** Numbers of the file one after the other; whatever the file is too short for ends it. */
+/** Consecutive numbers of the file; stops where the file is too short. */
 class Reader
 {
 public:
@@ -86,7 +86,7 @@ void checkKind(const PhotoshopFile &file)
         refuse("it has colours of a kind that is not known here");
 }
 
-/** Where a resource that is of use goes; null for all others. */
+/** Where a relevant resource is stored; null for all others. */
 QByteArray *placeOf(PhotoshopFile &file, quint16 resource)
 {
     switch (resource) {
@@ -109,7 +109,7 @@ void readResources(PhotoshopFile &file, Reader &reader, qint64 end)
     while (reader.position() + smallestBlock <= end) {
         static const QList<QByteArray> marks = {"8BIM", "MeSa", "PHUT", "AgHg", "DCSR"};
         if (!marks.contains(reader.bytes(4)))
-            return; // some writers leave rubbish here, on which nothing depends
+            return; // some writers leave rubbish here, which does not matter
         const auto id = reader.number<quint16>();
         const auto nameBytes = uchar(reader.bytes(1)[0]);
         reader.goTo(reader.position() + (nameBytes | 1));
@@ -130,7 +130,7 @@ bool hasLongLength(const QByteArray &key, bool isLarge)
     return isLarge && keys.contains(key);
 }
 
-/** Deep pictures keep their layers, and with them the word on transparency, in one of the blocks at the end. */
+/** Deep pictures store their layers, and with them the transparency flag, in one of the blocks at the end. */
 bool blocksTellTransparency(Reader &reader, bool isLarge, qint64 end)
 {
     constexpr qint64 smallestBlock = 12;

@@ -10,7 +10,7 @@
 
 namespace platform {
 
-/** What a Photoshop file (PSD, or PSB for large ones) says of its merged picture. */
+/** What a Photoshop file (PSD, or PSB for large ones) says about its merged picture. */
 struct PhotoshopFile
 {
     enum class Mode : quint16 { Bitmap = 0, Grey = 1, Palette = 2, Rgb = 3, Cmyk = 4, Inks = 7, Duotone = 8, Lab = 9 };
@@ -20,19 +20,24 @@ struct PhotoshopFile
     QSize size;
     int bits = 0; ///< 1, 8, 16 or 32, which is floating point
     Mode mode = Mode::Rgb;
-    QByteArray palette; ///< 256 reds, then greens, then blues; empty for all but palettes
+    QByteArray palette; ///< 256 reds, then greens, then blues; empty except for palettes
     QByteArray profile;
-    QByteArray exif; ///< this and the next two as they are embedded, each empty where there is none
+    QByteArray exif; ///< this and the next two as embedded, each empty if missing
     QByteArray xmp;
     QByteArray iptc;
-    /** The first channel behind the colours is the transparency of the whole; else it is a saved selection or a spot colour. */
+    /**
+     * The first channel after the colours is the transparency of the whole; else it is a saved selection or a spot
+     * colour.
+     */
     bool hasTransparency = false;
-    qint64 pixelsAt = 0; ///< of the merged picture, which begins with how it is compressed
+    qint64 pixelsAt = 0; ///< of the merged picture, starting with its compression
 
     int colours() const;
 };
 
-/** Reads all but the pixels. Throws vips::VError where the file is damaged, cut short or of a kind not known here. */
+/**
+ * Reads everything except the pixels. Throws vips::VError if the file is damaged, truncated or of an unsupported kind.
+ */
 PhotoshopFile readPhotoshopFile(QIODevice &file);
 
 } // namespace platform

@@ -22,7 +22,7 @@ enum class Packing : quint16 { None = 0, Runs = 1 };
     throw vips::VError("the file is cut short");
 }
 
-/** The rows of the channels, which follow one another in the file. */
+/** The rows of the channels, which are stored one channel after another. */
 class ChannelRows
 {
 public:
@@ -42,7 +42,7 @@ public:
         m_pixelsAt = device.pos();
     }
 
-    /** Makes a channel the one of which the rows come next. */
+    /** Selects the channel whose rows come next. */
     void goTo(int channel)
     {
         m_row = qint64(channel) * m_rows;
@@ -111,7 +111,7 @@ private:
     qint64 m_row = 0;
 };
 
-/** One component of each pixel of a row; @p isInk where the file holds how much of the paper is left. */
+/** One component of each pixel of a row; @p isInk if the file stores how much of the paper is left. */
 void spread(const QByteArray &row, const PhotoshopFile &file, PixelMemory &pixels, int y, int band, bool isInk)
 {
     const int width = file.size.width();
@@ -152,7 +152,7 @@ VipsInterpretation spaceOf(const PhotoshopFile &file, int colours)
     return isDeep ? VIPS_INTERPRETATION_RGB16 : VIPS_INTERPRETATION_sRGB;
 }
 
-/** The channels as they stand in the file; where three inks are named, the fourth is blank. */
+/** The channels as stored in the file; if three inks are named, the fourth is blank. */
 VImage channelsOf(QIODevice &device, const PhotoshopFile &file)
 {
     const bool isInk = file.mode == Mode::Cmyk || file.mode == Mode::Inks;
@@ -184,7 +184,7 @@ VImage fromPalette(const VImage &indices, const QByteArray &palette)
     return indices.bands() > 1 ? typed.bandjoin(indices.extract_band(1)) : typed;
 }
 
-/** Lab as numbers of the file become lightness from 0 to 100 and colours around 0. */
+/** Stored Lab numbers become lightness from 0 to 100 and colours around 0. */
 VImage asLab(const VImage &stored)
 {
     const bool isDeep = stored.format() == VIPS_FORMAT_USHORT;
@@ -198,7 +198,7 @@ VImage asLab(const VImage &stored)
     return colours.bandjoin(stored.extract_band(3).linear(1 / scale, 0.0));
 }
 
-/** The merged picture lies on white under its transparency: the colours without it. */
+/** The merged picture is composed on white: computes the colours without it. */
 VImage withoutPaper(const VImage &image)
 {
     const int colours = image.bands() - 1;

@@ -9,8 +9,8 @@
 namespace platform {
 
 /**
- * The merged picture of a Photoshop file with its profile: grey, RGB, CMYK or Lab, with its transparency where the file says
- * that it has one; other channels are left out. Throws vips::VError, also where the file is cut short.
+ * The merged picture of a Photoshop file with its profile: grey, RGB, CMYK or Lab, with its transparency if the file
+ * says that it has one; other channels are dropped. Throws vips::VError, also if the file is truncated.
  */
 vips::VImage photoshopPixels(QIODevice &file);
 

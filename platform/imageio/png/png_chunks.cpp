@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <array>
 
-// A PNG is 8 bytes of signature and then chunks up to IEND; numbers have their highest byte first:
+// A PNG is 8 bytes of signature and then chunks up to IEND; numbers are big-endian:
 //
 //     length of the data (4) | name (4) | data | sum of name and data (4)
 
@@ -17,7 +17,7 @@ namespace {
 constexpr qsizetype signatureSize = 8;
 constexpr qsizetype headSize = 8; // length and name
 constexpr qsizetype sumSize = 4;
-/** More than this is no text that somebody wrote. */
+/** Nobody has written a text longer than this. */
 constexpr qsizetype mostCarried = 16 << 20;
 
 bool isText(const QByteArray &name)
@@ -25,7 +25,7 @@ bool isText(const QByteArray &name)
     return name == "tEXt" || name == "zTXt" || name == "iTXt";
 }
 
-/** What stands in texts of these keywords is carried as metadata already. */
+/** Texts with these keywords are handled as metadata already. */
 bool holdsMetadata(const QByteArray &text)
 {
     return text.startsWith("XML:com.adobe.xmp") || text.startsWith("Raw profile type");
@@ -83,7 +83,7 @@ PngParts findPngParts(const QByteArray &bytes)
 
 namespace {
 
-/** Those of the chunks that @p isKept says by their names and data. */
+/** The chunks selected by @p isKept, by their names and data. */
 template<typename Predicate> QByteArray chunksWhere(const QByteArray &chunks, Predicate isKept)
 {
     QByteArray kept;

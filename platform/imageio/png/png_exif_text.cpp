@@ -10,7 +10,7 @@
 namespace platform {
 namespace {
 
-/** What older programs have written: a name, a count of bytes, and digits. */
+/** The form that older programs wrote: a name, a count of bytes, and digits. */
 struct WrittenOut
 {
     QByteArray bytes;
@@ -27,7 +27,7 @@ std::optional<WrittenOut> writtenOut(const QByteArray &type, const QByteArray &c
     return WrittenOut{QByteArray::fromHex(lines.mid(2).join()), lines.at(1).trimmed().toLongLong()};
 }
 
-/** The text behind two flags, a language and a translated keyword. */
+/** The text after two flags, a language and a translated keyword. */
 QByteArray internationalText(const QByteArray &chunk, qsizetype keyword, qsizetype longest)
 {
     const qsizetype flags = keyword + 1;

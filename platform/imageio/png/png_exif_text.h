@@ -9,11 +9,11 @@
 
 namespace platform {
 
-/** A compressed text of a PNG, or nothing where it is not sound or longer than @p most bytes; never makes more of it. */
+/** A compressed text of a PNG, or nothing if it is damaged or longer than @p most bytes; never expands more of it. */
 QByteArray inflatedText(const QByteArray &compressed, qsizetype most);
 
 /**
- * The EXIF block, TIFF header first, that programs from before the chunk eXIf have put into a text of a PNG as hexadecimal
+ * The EXIF block, TIFF header first, that programs older than the chunk eXIf put into a text of a PNG as hexadecimal
  * digits. Empty for other texts.
  *
  * @param type   "tEXt" or "zTXt"
@@ -22,14 +22,14 @@ QByteArray inflatedText(const QByteArray &compressed, qsizetype most);
 QByteArray exifOfPngText(const QByteArray &type, const QByteArray &chunk);
 
 /**
- * The XMP packet of such a text, or of one that is made for it; empty where it is damaged or longer than four megabytes, and
- * none for other texts.
+ * The XMP packet in such a text, or in the text intended for it; empty if it is damaged or longer than four megabytes,
+ * and none for other texts.
  *
  * @param type   "iTXt" too
  */
 std::optional<QByteArray> xmpOfPngText(const QByteArray &type, const QByteArray &chunk);
 
-/** What those of the chunks say that are texts of the keyword "Comment", as PngParts::carried has them. */
+/** The contents of those chunks, in the form of PngParts::carried, that are texts with the keyword "Comment". */
 QStringList pngComments(const QByteArray &chunks);
 
 } // namespace platform

@@ -12,7 +12,7 @@ namespace {
 
 enum Filter : uchar { Sub = 1, Up = 2, Average = 3, Paeth = 4 };
 
-/** The two rows that the filters look at, with one empty pixel in front of each, and what each filter makes of them. */
+/** The two rows that the filters use, each preceded by one empty pixel, and the result of each filter. */
 class RowFilters
 {
 public:
@@ -23,7 +23,7 @@ public:
             result.resize(rowBytes);
     }
 
-    /** Where the next row goes; the last one becomes the row above. */
+    /** Where the next row is stored; the last one becomes the row above. */
     uchar *nextRow()
     {
         m_row.swap(m_above);
@@ -42,15 +42,15 @@ private:
 };
 
 /**
- * Small differences, whichever their sign, are what compresses well: what a filter leaves counts as much as it is away from 0.
- * All of these write what is left, and answer what it counts.
+ * Small differences of either sign compress well: the result of a filter is rated by the sum of its absolute values.
+ * All of these write the result, and answer that sum.
  */
 quint32 counted(uchar difference)
 {
     return std::min(difference, uchar(-difference));
 }
 
-/** The rows in which a filter looks; each pointer is at the first byte of a pixel, of the one before, above, or both. */
+/** The rows that a filter uses; each pointer is at the first byte of a pixel, of the one before, above, or both. */
 struct Neighbours
 {
     const uchar *row;
@@ -80,7 +80,7 @@ QUORLIN_FAST_LOOP quint32 subtractAverage(const Neighbours &near, uchar *__restr
     return cost;
 }
 
-/** In 16 bits, so that a vector holds as many of them as can be. */
+/** In 16 bits, so that a vector holds as many of them as possible. */
 QUORLIN_FAST_LOOP quint32 subtractPaeth(const Neighbours &near, uchar *__restrict out, size_t count)
 {
     const auto distance = [](qint16 value) { return qint16(value < 0 ? -value : value); };
@@ -115,7 +115,7 @@ void RowFilters::writeBest(char *out)
     std::memcpy(out + 1, m_results[best].data(), m_rowBytes);
 }
 
-/** Copies a row, turning components of two bytes round. */
+/** Copies a row, swapping the bytes of two-byte components. */
 void copyRow(const uchar *from, uchar *to, size_t bytes, bool isDeep)
 {
     if (!isDeep) {

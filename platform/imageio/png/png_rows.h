@@ -9,8 +9,8 @@
 namespace platform {
 
 /**
- * The pixels of an image in memory, 8 or 16 bits a component, as the rows of a PNG file: components of two bytes high byte
- * first, each row with the number of its filter in front, which is the one that leaves least to be compressed.
+ * The pixels of an image in memory, 8 or 16 bits a component, as the rows of a PNG file: two-byte components
+ * big-endian, each row preceded by the number of its filter, the one that compresses best.
  */
 QByteArray filteredRows(const vips::VImage &image);
 

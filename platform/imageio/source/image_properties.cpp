@@ -24,7 +24,7 @@ QString colorModelName(const vips::VImage &image)
     }
 }
 
-/** What pixels without a profile are taken to be. */
+/** What pixels without a profile are assumed to be. */
 QString unprofiledName(const QString &model)
 {
     if (model == QLatin1String("Gray"))
@@ -55,7 +55,7 @@ QSizeF ImageSource::pointSize() const
         if (m_file)
             resolution = uprightResolution(resolutionOf(m_file->bytes, m_file->content), m_file->orientation);
     } catch (const vips::VError &error) {
-        takeVipsError(error); // whoever reads the pixels is told
+        takeVipsError(error); // the reader of the pixels is told
     }
     const auto inPoints = [](int pixels, double dpi) { return dpi > 0 ? pixels * pointsPerInch / dpi : pixels; };
     const QSize pixels = uprightSize();

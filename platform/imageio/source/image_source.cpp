@@ -44,7 +44,7 @@ tl::unexpected<Error> tooLarge(const QString &name, QSize size)
                        .arg(size.height()));
 }
 
-/** The picture in the form that is asked for; only TIFF files hold others than the plain ones. */
+/** The picture in the requested form; only TIFF files have others than the plain ones. */
 VImage openedInForm(const File &file, const LoadOptions &options, Forms forms)
 {
     return inForm(openImage(file.bytes, file.content, options), file.content == Content::Tiff ? forms : Forms::Plain);
@@ -55,7 +55,7 @@ bool isWithinBudget(const VImage &image)
     return fitsMemoryBudget(image.width(), image.height(), image.bands(), bytesPerComponent(image));
 }
 
-/** Containers that state a turn of their own have been obeyed by the decoder; another tag must not turn them again. */
+/** For containers with their own rotation the decoder has applied it; another tag must not turn them again. */
 int statedOrientation(const VImage &image, const PictureBytes &bytes, Content content)
 {
     switch (content) {
@@ -88,7 +88,7 @@ int pagesOf(const VImage &image, Content content)
     return std::max(1, vips_image_get_n_pages(image.get_image()));
 }
 
-/** Content whose decoder would decode all of it just to tell the size. */
+/** Content whose decoder would decode everything just to determine the size. */
 bool hasPlainHeader(Content content)
 {
     return content == Content::Bmp || content == Content::Photoshop;
@@ -114,12 +114,12 @@ Result<void> readHeader(File &file)
         return tooLarge(file.name(), file.storedSize);
     file.imageCount = pagesOf(image, file.content);
     file.orientation = statedOrientation(image, file.bytes, file.content);
-    if (file.isRaw() && file.orientation == 1) // the preview lies as the sensor does, and only the raw file says how
+    if (file.isRaw() && file.orientation == 1) // the preview is oriented like the sensor; only the raw file says how
         file.orientation = std::max(1, file.metadata().orientation());
     return {};
 }
 
-/** The decoder of JPEG judges its header by itself, without all that reads the metadata for an image. */
+/** The JPEG decoder checks its header by itself, without reading all the metadata for an image. */
 bool isSoundJpeg(QIODevice &device)
 {
     if (!isWhole(device, Content::Jpeg) || !device.seek(0))
@@ -128,7 +128,7 @@ bool isSoundJpeg(QIODevice &device)
     return header && fitsMemoryBudget(header->size.width(), header->size.height(), header->componentCount, 1);
 }
 
-/** Puts the preview of a raw file in its place; nothing changes where there is none. */
+/** Replaces a raw file by its preview; nothing changes if there is none. */
 Result<void> usePreview(File &file)
 {
     const Result<QByteArray> preview = rawPreview(file.bytes);
@@ -186,7 +186,7 @@ QSize turned(QSize size, int orientation)
     return orientation >= firstOnItsSide ? size.transposed() : size;
 }
 
-/** Where a part of the upright picture lies among the @p size stored pixels. */
+/** The position of a part of the upright picture among the @p size stored pixels. */
 QRect storedPart(const QRect &upright, QSize size, int orientation)
 {
     const bool isOnItsSide = turned({1, 2}, orientation) == QSize(2, 1);
@@ -200,7 +200,7 @@ QRect storedPart(const QRect &upright, QSize size, int orientation)
     return part;
 }
 
-/** What is known of the resolution and of the JPEG tables, to travel with the pixels. */
+/** What is known about resolution and JPEG tables, to accompany the pixels. */
 Bitmap finished(const File &file, const VImage &image, Orientation orientation = Orientation::Upright)
 {
     const std::optional<JpegHeader> header = jpegHeaderOf(file.bytes, file.content);
@@ -382,7 +382,7 @@ Result<Bitmap> ImageSource::decodeAtLeast(QSize size) const
 Result<Bitmap> ImageSource::decodeFinely(QSize size) const
 {
     const QSize all = uprightSize();
-    const QSize leastAtMostShrink = all / (2 * mostFineShrink) + QSize(1, 1); // the next step gives fewer
+    const QSize leastAtMostShrink = all / (2 * mostFineShrink) + QSize(1, 1); // the next step has fewer
     const QSize wanted = (finerTimes * size).expandedTo(leastAtMostShrink);
     const bool hasHalves = all.width() % mostFineShrink == 0 && all.height() % mostFineShrink == 0;
     if (!m_file || m_file->content != Content::Jpeg || !hasHalves || jpegShrinkFor(all, wanted) == 1)
@@ -396,7 +396,7 @@ Result<Bitmap> ImageSource::scaledFinely(const Bitmap &decoded, QSize size) cons
     if (decoded.isNull() || decoded.size() == uprightSize())
         return resample(decoded, size);
     try {
-        // Each pixel stands where the ones that it was made of did, so that blocks are those of the whole picture.
+        // Each pixel is at the position of those it was made from, so that blocks are those of the whole picture.
         const Bitmap::Pixels &pixels = decoded.pixels();
         return bitmapFromImage(scaledTo(pixels.image.zoom(mostFineShrink, mostFineShrink), size), pixels.resolution,
                                pixels.quantisation);

@@ -7,8 +7,8 @@
 namespace platform {
 
 /**
- * Has @p watch called with the name of each picture that this process opens, whatever for, before it looks into it; nothing ends that.
- * For those who show that a process opens none.
+ * From now on calls @p watch with the name of each picture that this process opens, for whatever purpose, before it is
+ * read; cannot be undone. For proving that a process opens none.
  */
 void watchOpening(std::function<void(const QString &name)> watch);
 

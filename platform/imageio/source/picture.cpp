@@ -7,13 +7,13 @@ namespace platform {
 
 struct Picture::Contents
 {
-    ImageSource source; ///< where pixels that are not in memory come from
+    ImageSource source; ///< source of pixels that are not in memory
     Bitmap bitmap;      ///< all pixels, once they are decoded
     QSizeF size;
     QSize pixels;
-    bool isBroken = false; ///< the file opened, and its pixels cannot be decoded
-    Bitmap reduced;        ///< the last decode at less than the full size
-    Bitmap scaled;         ///< what scaledTo() gave last: views ask for the same size again and again
+    bool isBroken = false; ///< the opened file's pixels cannot be decoded
+    Bitmap reduced;        ///< the last reduced decode
+    Bitmap scaled;         ///< the last result of scaledTo(): views request the same size again and again
 };
 
 namespace {
@@ -160,7 +160,7 @@ Result<Bitmap> Picture::decodedAt(QSize pixels) const
     const ImageSource &source = m_contents->source;
     if (covers(m_contents->reduced.size(), pixels))
         return m_contents->reduced;
-    // A JPEG decoder gives steps of a half: the step is kept, and serves every size below it as sharply.
+    // A JPEG decoder halves in steps: the step is cached, and serves every smaller size equally sharply.
     const bool isJpeg = source.typeIdentifier() == QLatin1String("public.jpeg");
     const bool isBelowHalf = covers(m_contents->pixels / 2, pixels);
     Result<Bitmap> decoded = isJpeg && isBelowHalf ? source.decodeAtLeast(pixels) : source.decodeScaled(pixels);

@@ -13,8 +13,8 @@ class ImageSource;
 /**
  * A picture in memory: upright pixels and a size in points of its own.
  *
- * A cheap value whose copies share their pixels, also those that are decoded later. Opened from a file its size in points
- * is pixels x 72 / dots per inch.
+ * A cheap value whose copies share their pixels, including those decoded later. If it was opened from a file, its size
+ * in points is pixels x 72 / dots per inch.
  */
 class Picture
 {
@@ -27,11 +27,11 @@ public:
     /** Reads a file, upright. A null picture if it cannot be read. */
     static Picture fromFile(const QString &path);
     /**
-     * Opens a file and leaves its pixels where they are until something needs them. A null picture if it cannot be
-     * opened; where its pixels turn out to be damaged the picture is null from then on.
+     * Opens a file without decoding its pixels until they are needed. A null picture if it cannot be opened; if its
+     * pixels turn out to be damaged, the picture becomes null.
      */
     static Picture opened(const QString &path);
-    /** The same of a file that was opened; a null picture for a null one. */
+    /** The same for an opened file; a null picture for a null one. */
     static Picture of(const ImageSource &source);
     /** A picture without pixels, of size 0 x 0, that is not null. */
     static Picture ofNoSize();
@@ -43,18 +43,18 @@ public:
     QSizeF size() const;
     /** In pixels; decodes nothing. */
     QSize pixelSize() const;
-    /** The same picture with another size in points; shares pixels that are decoded already. */
+    /** The same picture with another size in points; shares already decoded pixels. */
     Picture withSize(QSizeF sizeInPoints) const;
 
-    /** All pixels, decoded on the first call. A null bitmap where the picture is null or has no pixels. */
+    /** All pixels, decoded on the first call. A null bitmap if the picture is null or has no pixels. */
     Bitmap bitmap() const;
     /** True where all pixels are in memory. */
     bool isDecoded() const;
-    /** How much memory its pixels take now, reduced ones that are kept included. */
+    /** How much memory its pixels take now, including cached reductions. */
     qint64 bytesInMemory() const;
     /**
-     * The picture at exactly @p pixels: from the pixels in memory where they are there, otherwise by the cheapest decode
-     * that is sharp at that size, which is kept for the next call. Fails as ImageSource::decodeScaled() does.
+     * The picture at exactly @p pixels: from the pixels in memory if available, otherwise by the cheapest decode that
+     * is sharp at that size, which is cached for the next call. Fails like ImageSource::decodeScaled().
      */
     Result<Bitmap> scaledTo(QSize pixels) const;
 

@@ -30,7 +30,7 @@ struct MetadataParts
 {
     ExifTags exif;
     QByteArray xmp;
-    bool isElsewhere = false; ///< it is kept in a way that only the reader of all metadata knows
+    bool isElsewhere = false; ///< it is stored in a way that only the full metadata reader supports
 };
 
 ExifTags tagsOfBlock(QByteArray block)
@@ -49,7 +49,7 @@ QByteArray blockAt(QIODevice &file, qint64 position, qint64 size)
     return file.read(size);
 }
 
-/** XMP may stand in any of the segments that can hold it. */
+/** XMP may be in any of the segments that can hold it. */
 QByteArray xmpOfJpeg(const QByteArray &head, const JpegSegments &segments)
 {
     constexpr QByteArrayView name("http://ns.adobe.com/xap/1.0/\0", 29);
@@ -182,7 +182,10 @@ void takeProperties(PictureFacts &facts, const QVariantMap &properties)
     takeXmp(facts, properties.value(QStringLiteral("{XMP}")).toMap());
 }
 
-/** A JPEG tells all in front of its first scan; opening it for its pixels would take ten times as long. None for an odd one. */
+/**
+ * A JPEG has everything before its first scan; opening it for its pixels would take ten times as long. None for an odd
+ * one.
+ */
 std::optional<PictureFacts> factsOfJpeg(QIODevice &file)
 {
     const qint64 scan = startOfJpegScan(file);
@@ -207,7 +210,7 @@ bool isNamedTiff(const QString &path)
     return ending == QLatin1String("tif") || ending == QLatin1String("tiff");
 }
 
-/** The raw files of most cameras are TIFF files by another name, whose picture no decoder here reads. */
+/** The raw files of most cameras are TIFF files by another name, whose picture no decoder here can read. */
 PictureFacts factsOfRawFile(QIODevice &file)
 {
     PictureFacts facts;
@@ -242,7 +245,7 @@ PictureFacts factsOf(QIODevice &file, const QString &path, const Open &open)
     return facts;
 }
 
-/** A picture of which some could not be read has not "no date": sorted by it, it would go astray. */
+/** A picture that could not be read completely does not count as undated: it would be sorted into the wrong place. */
 PictureFacts soundFacts(QIODevice &file, const QString &path, const Open &open)
 {
     const PictureFacts facts = factsOf(file, path, open);

@@ -3,11 +3,12 @@
 namespace platform {
 
 /**
- * Starts the libraries that pictures are read and written with, with all that they load, and no thread.
+ * Initialises the libraries for reading and writing pictures, with everything that they load, and without starting a
+ * thread.
  *
  * @param threads  how many an operation on a picture may use
  *
- * False where they cannot be started.
+ * False if they cannot be initialised.
  */
 bool startPictureLibraries(int threads);
 

@@ -9,7 +9,7 @@
 namespace platform {
 namespace {
 
-/** What the files of makers begin with who do not use the number of TIFF, or put a mark of their own behind it. */
+/** First bytes of the files of makers who do not use TIFF's number, or who put a mark of their own after it. */
 const std::array<QByteArray, 6> rawMarks = {QByteArray("IIRO"),
                                             QByteArray("IIRS"),
                                             QByteArray("MMOR"),
@@ -17,13 +17,13 @@ const std::array<QByteArray, 6> rawMarks = {QByteArray("IIRO"),
                                             QByteArray("FUJIFILMCCD-RAW"),
                                             QByteArray("HEAPCCDR")};
 
-/** Compressions of sensor data, which no other file has: Sony, Nikon, Samsung, Pentax. */
+/** Compressions of sensor data, which no other files have: Sony, Nikon, Samsung, Pentax. */
 bool isSensorCompression(quint64 compression)
 {
     return compression == 32767 || compression == 34713 || compression == 32770 || compression == 65535;
 }
 
-/** A first directory that is only a small picture, with the large ones below it, or that names the sensor's data. */
+/** A first directory that is only a thumbnail, with the large pictures below it, or that describes sensor data. */
 bool describesRaw(const TiffReader &reader)
 {
     const TiffDirectory directory = reader.first();

@@ -6,7 +6,7 @@
 
 namespace platform {
 
-/** True for the head of a file in which a camera has put down what its sensor saw. */
+/** True for the header of a camera raw file. */
 bool isCameraRaw(const QByteArray &head);
 
 } // namespace platform

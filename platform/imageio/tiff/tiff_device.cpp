@@ -37,7 +37,7 @@ TiffDevice::TiffDevice(const PictureBytes &bytes) : m_bytes(bytes.openedDevice()
 
 bool TiffDevice::seek(qint64 position)
 {
-    // A buffer has no place behind its end and a file has; the library is to meet the same in both.
+    // A buffer has no position after its end and a file has; the library must see the same in both.
     return QIODevice::seek(position) && m_bytes->seek(qMin(position, m_bytes->size()));
 }
 

@@ -9,18 +9,18 @@
 namespace platform {
 
 /**
- * A TIFF file for the library that decodes it. Where a read fails the library writes one byte before its buffer, and goes on
- * without the tag that it wanted; so a failed read looks like the end of the file to it, and is remembered here.
+ * A TIFF file for the library that decodes it. If a read fails, the library writes one byte before its buffer, and
+ * continues without the tag that it wanted; so a failed read is presented as the end of the file, and remembered here.
  */
 class TiffDevice : public QIODevice
 {
 public:
-    /** Throws vips::VError where the bytes cannot be opened. */
+    /** Throws vips::VError if the bytes cannot be opened. */
     explicit TiffDevice(const PictureBytes &bytes);
 
     bool seek(qint64 position) override;
     qint64 size() const override { return m_bytes->size(); }
-    /** Throws vips::VError where a read has failed so far. */
+    /** Throws vips::VError if a read has failed so far. */
     void demandAllRead() const { demandRead(*m_bytes); }
 
 protected:
@@ -31,7 +31,7 @@ private:
     std::unique_ptr<QIODevice> m_bytes;
 };
 
-/** What libvips reads @p device by, which lives as long as the source. */
+/** The source through which libvips reads @p device, which must outlive it. */
 vips::VSource sourceOver(const std::shared_ptr<QIODevice> &device);
 
 } // namespace platform

@@ -15,14 +15,14 @@ bool isDirectoryTag(quint16 tag)
            tag == tiffTag::interoperabilityDirectory;
 }
 
-/** Tags whose contents count offsets of their own. */
+/** Tags whose contents have their own offsets. */
 bool hidesOffsets(quint16 tag)
 {
     return tag == tiffTag::makerNote || tag >= tiffTag::dngVersion ||
            (tag >= tiffTag::firstOldJpegTable && tag <= tiffTag::lastOldJpegTable);
 }
 
-/** One pass over everything; directories that lead back to themselves are entered once. */
+/** One pass over everything; directories that form a cycle are entered once. */
 class Walk
 {
 public:
@@ -62,7 +62,7 @@ private:
         }
         takePixels(directory, tiffTag::stripOffsets, tiffTag::stripSizes);
         takePixels(directory, tiffTag::tileOffsets, tiffTag::tileSizes);
-        takePixels(directory, tiffTag::jpegOffset, tiffTag::jpegSize); // a small picture
+        takePixels(directory, tiffTag::jpegOffset, tiffTag::jpegSize); // a thumbnail
     }
 
     void add(const TiffRange &range)
@@ -97,7 +97,7 @@ private:
         }
     }
 
-    /** More of them only a file has that wants to fill the memory. */
+    /** Only a file that tries to exhaust memory has more of them. */
     static constexpr qsizetype mostRanges = 1 << 20;
 
     const TiffReader &m_reader;

@@ -13,12 +13,14 @@ struct TiffExtents
 {
     QList<TiffRange> ranges;
     QList<TiffRange> pixels; ///< those of them that are pixels
-    bool isComplete = true;  ///< nothing was met that may lead to bytes elsewhere
+    bool isComplete = true;  ///< nothing was found that may point to bytes elsewhere
 };
 
 enum class TiffPages { First, All };
 
-/** Everything that the first directory, or all of them, lead to. Each directory is entered once, and 256 at the most. */
+/**
+ * Everything reachable from the first directory, or from all of them. Each directory is entered once, and 256 at most.
+ */
 TiffExtents tiffExtents(const TiffReader &reader, TiffPages pages);
 
 } // namespace platform

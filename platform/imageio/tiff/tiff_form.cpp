@@ -8,9 +8,9 @@
 //
 //     header:     "II" or "MM" 2 | 42 2 (43 2 | 8 2 | 0 2) | offset of the first directory 4 (8)
 //     directory:  number of entries 2 (8) | entries, sorted by tag | offset of the next directory, 0: none 4 (8)
-//     entry:      tag 2 | type 2 | count 4 (8) | the value where it fits, filled up behind, or else its offset 4 (8)
+//     entry:      tag 2 | type 2 | count 4 (8) | the value if it fits, padded, or else its offset 4 (8)
 //
-// "II": the low byte of each number comes first. Offsets count from the header.
+// "II": little-endian numbers. Offsets count from the header.
 
 namespace platform {
 namespace {

@@ -7,18 +7,18 @@
 
 namespace platform {
 
-/** How a page of a TIFF file says that its samples are meant. */
+/** What a page of a TIFF file says about the meaning of its samples. */
 struct TiffSamples
 {
     bool isKnown = false; ///< the directory could be read
     int photometric = -1;
     int bits = 1;
-    QList<int> others; ///< what the samples behind the colours are: 1 and 2 are transparency
+    QList<int> others; ///< the meaning of the samples after the colours: 1 and 2 are transparency
 
     bool isLogarithmic() const;
 };
 
-/** Reads a few tags of page @p page of a file, classic or with offsets of 64 bits. */
+/** Reads a few tags of page @p page of a file, classic or with 64-bit offsets. */
 TiffSamples readTiffSamples(QIODevice &file, int page);
 
 } // namespace platform

@@ -1,6 +1,6 @@
 #pragma once
 
-// Inside platform/ only: tags and types of TIFF directories by their numbers, those that something here asks for.
+// Inside platform/ only: the numbers of TIFF tags and types that are used here.
 
 #include <QtGlobal>
 
@@ -29,7 +29,7 @@ constexpr quint16 tileSizes = 0x0145;
 constexpr quint16 subDirectories = 0x014a;
 constexpr quint16 extraSamples = 0x0152;
 constexpr quint16 sampleFormat = 0x0153;
-constexpr quint16 jpegOffset = 0x0201; ///< of a thumbnail, or of the picture in the manner of TIFF 6.0
+constexpr quint16 jpegOffset = 0x0201; ///< of a thumbnail, or of a picture in TIFF 6.0 style
 constexpr quint16 jpegSize = 0x0202;
 constexpr quint16 firstOldJpegTable = 0x0207;
 constexpr quint16 lastOldJpegTable = 0x0209;

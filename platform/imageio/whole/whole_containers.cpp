@@ -21,7 +21,7 @@ struct Box
     qint64 end = 0;
 };
 
-/** The box at @p position among bytes up to @p end; none where its own head is cut or senseless. */
+/** The box at @p position among bytes up to @p end; none if its own header is truncated or invalid. */
 std::optional<Box> boxAt(BlockReader &reader, qint64 position, qint64 end)
 {
     const qint64 stated = reader.number(position, 4);
@@ -40,7 +40,7 @@ bool isNamed(BlockReader &reader, qint64 position, const char *name)
     return reader.at(position + 4, 4) == QByteArrayView(name, 4);
 }
 
-/** Zeros or other bytes behind the boxes that make up a picture are no box, and none that is cut. */
+/** Zeros or other bytes after the boxes of a picture are not a box, nor a truncated one. */
 bool areBoxesInside(BlockReader &reader)
 {
     qint64 position = 0;
@@ -55,7 +55,7 @@ bool areBoxesInside(BlockReader &reader)
     return true;
 }
 
-/** Steps over the segments of the main header; the place of the first tile part, or -1. */
+/** Skips the segments of the main header; the position of the first tile part, or -1. */
 qint64 firstTilePart(BlockReader &reader, qint64 position)
 {
     constexpr qint64 startOfTilePart = 0xff90;
@@ -103,7 +103,7 @@ bool areTilePartsInside(BlockReader &reader, const Jpeg2000Header &header)
            std::find(isThere.begin(), isThere.end(), false) == isThere.end();
 }
 
-/** The fields in front of a Photoshop file's sections. */
+/** The fields before a Photoshop file's sections. */
 struct PhotoshopHead
 {
     bool isLarge = false;
@@ -152,7 +152,7 @@ public:
         for (qint64 item = 0; m_isSound && item < std::min(items, mostItems); ++item) {
             take(version == 2 ? 4 : 2);
             const bool isByPlace = !hasMethods || (take(2) & 15) == 0;
-            take(2); // of which file; another than this one is not used
+            take(2); // of which file; any other than this one is not used
             const qint64 base = take(nibble(4));
             const qint64 parts = take(2);
             for (qint64 part = 0; m_isSound && part < parts; ++part) {
@@ -182,7 +182,7 @@ private:
     bool m_isSound = true;
 };
 
-/** Where the list of the items' places begins behind its head; -1 where there is none. */
+/** Where the list of the items' positions begins after its header; -1 if there is none. */
 qint64 itemPlacesAt(BlockReader &reader)
 {
     qint64 position = 0;

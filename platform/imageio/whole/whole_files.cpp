@@ -11,7 +11,7 @@
 namespace platform {
 namespace {
 
-/** Steps over the sub-blocks from @p position on; the position behind them, or -1 where they are cut short. */
+/** Skips the sub-blocks from @p position on; the position after them, or -1 if they are truncated. */
 qint64 behindGifBlocks(BlockReader &reader, qint64 position)
 {
     for (;;) {
@@ -24,7 +24,7 @@ qint64 behindGifBlocks(BlockReader &reader, qint64 position)
     }
 }
 
-/** Runs of colours that are as long as they say, up to the mark of their end or, without one, the last of the rows. */
+/** Runs of colours as long as stated, up to their end mark or, without one, the last row. */
 bool hasAllBmpRuns(BlockReader &reader, qint64 position, bool isHalfBytes, qint64 rows)
 {
     for (qint64 ended = 0;;) {
@@ -48,7 +48,7 @@ bool hasAllBmpRuns(BlockReader &reader, qint64 position, bool isHalfBytes, qint6
 
 } // namespace
 
-/** Looks for the end mark from the end of the file on, since other bytes may follow it. */
+/** Searches for the end mark backwards from the end of the file, since other bytes may follow it. */
 bool isWholeJpeg(QIODevice &file)
 {
     const qint64 first = startOfJpegScan(file);
@@ -64,7 +64,7 @@ bool isWholeJpeg(QIODevice &file)
             return true;
         if (begin == first)
             break;
-        end = begin + 1; // the mark may lie across two steps
+        end = begin + 1; // the mark may be split between two steps
     }
     return false;
 }
@@ -72,7 +72,7 @@ bool isWholeJpeg(QIODevice &file)
 bool isWholePng(QIODevice &file)
 {
     constexpr int chunkFrame = 12;
-    constexpr int mostOtherChunks = 100'000; // than of pixels: what reads them all takes its time for each
+    constexpr int mostOtherChunks = 100'000; // more of them than pixels: reading them all would take too long
     BlockReader reader(file);
     qint64 position = 8;
     for (int others = 0; others < mostOtherChunks;) {
@@ -105,7 +105,7 @@ bool isWholeGif(QIODevice &file)
             position = flags < 0 ? -1 : behindGifBlocks(reader, position + 11 + tableBytes(flags));
             ++pictures;
         } else {
-            // What stands between frames and is neither is passed over by no decoder, and ends the file for all.
+            // No decoder skips anything else between frames; it ends the file for all of them.
             return mark >= 0 && pictures > 0;
         }
     }

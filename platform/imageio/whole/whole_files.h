@@ -1,12 +1,12 @@
 #pragma once
 
-// Inside platform/ only: whether the simpler kinds of files end where they promise; see whole_picture.h.
+// Inside platform/ only: whether the simpler kinds of files are complete; see whole_picture.h.
 
 class QIODevice;
 
 namespace platform {
 
-/** The mark of the end somewhere behind the header of the first scan. */
+/** The end mark somewhere after the header of the first scan. */
 bool isWholeJpeg(QIODevice &file);
 /** All chunks up to the last. */
 bool isWholePng(QIODevice &file);
@@ -14,7 +14,7 @@ bool isWholePng(QIODevice &file);
 bool isWholeGif(QIODevice &file);
 /** As many bytes as the container says. */
 bool isWholeWebp(QIODevice &file);
-/** All rows, or all runs where there are some, and the profile. */
+/** All rows, or all runs if there are some, and the profile. */
 bool isWholeBmp(QIODevice &file);
 
 } // namespace platform

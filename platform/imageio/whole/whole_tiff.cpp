@@ -26,7 +26,9 @@ public:
     }
 
 private:
-    /** What a camera notes of a picture may be damaged and is carried along as it is: the picture is whole without it. */
+    /**
+     * What a camera notes about a picture may be damaged and is copied as it is: the picture is complete without it.
+     */
     enum class Place { Page, Below, Notes };
 
     struct Waiting
@@ -35,7 +37,7 @@ private:
         Place place = Place::Page;
     };
 
-    /** A directory that is still to be read; 0 says that there is none. */
+    /** A directory still to be read; 0 means none. */
     void follow(quint64 offset, Place place)
     {
         constexpr qsizetype mostDirectories = 100'000;
@@ -51,7 +53,7 @@ private:
 
     void readDirectory(Waiting waiting)
     {
-        // Some directories below a page leave out the place of a next one where they end the file.
+        // Some directories below a page omit the offset of the next one if they end the file.
         const auto end = waiting.place == Place::Page ? TiffReader::End::Stated : TiffReader::End::MayBeCut;
         const TiffDirectory directory = m_file.directory(waiting.offset, end);
         m_isSound = m_isSound && (directory.valid || waiting.place == Place::Notes);
@@ -65,8 +67,8 @@ private:
 
     void takeEntry(const TiffEntry &entry)
     {
-        // A value that is longer than all of the file is nonsense in one entry, which writers hand on, and no sign of a cut:
-        // the pixels are behind it or before the directory, and are looked for where they should be.
+        // A value longer than the whole file is nonsense in one entry, which writers copy, and no sign of truncation:
+        // the pixels are after it or before the directory, and are checked where they should be.
         m_isSound = m_isSound && entry.state != TiffValue::Outside;
         if (entry.tag == tiffTag::subDirectories)
             followAll(entry, Place::Below);
@@ -99,7 +101,7 @@ private:
             checkPart(m_offsets.integer(*offsets, index), lengths ? m_lengths.integer(*lengths, index) : 0);
     }
 
-    /** A list of numbers that could lie in the file by how many they are, but is longer. */
+    /** A list of numbers whose count would fit in the file, but which is longer. */
     bool runsOut(const TiffEntry &list) const
     {
         return list.state == TiffValue::Nonsense && isTiffWholeNumber(list.type) &&
@@ -116,7 +118,7 @@ private:
     }
 
     TiffReader m_file;
-    // Two long lists that are read side by side, each in blocks of its own.
+    // Two long lists that are read in parallel, each in blocks of its own.
     TiffReader m_offsets;
     TiffReader m_lengths;
     bool m_isSound = true;

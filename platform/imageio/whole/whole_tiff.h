@@ -7,9 +7,9 @@ class QIODevice;
 namespace platform {
 
 /**
- * True where all directories of a TIFF file, with those below them, their values, strips and tiles lie inside the file.
- * Raw files that are built like TIFF and have a mark of their own count as such. What a maker's own tags lead to is not
- * looked at.
+ * True if all directories of a TIFF file, including those below them, their values, strips and tiles are inside the
+ * file. Raw files that are built like TIFF with a mark of their own count as such. Targets of a maker's own tags are
+ * not checked.
  */
 bool isWholeTiff(QIODevice &file);
 

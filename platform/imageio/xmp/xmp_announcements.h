@@ -7,8 +7,8 @@ namespace platform {
 struct XmpName;
 
 /**
- * True for properties that are about other data of the same file, which does not come along into another one: gain maps, motion,
- * further pictures, depth, sound, the rest of a packet that was too long, and credentials.
+ * True for properties about other data of the same file, which is not copied into another one: gain maps, motion,
+ * further pictures, depth, sound, the rest of an oversized packet, and credentials.
  */
 bool announcesOtherData(const XmpName &name);
 

@@ -11,14 +11,14 @@
 namespace platform {
 namespace {
 
-constexpr qsizetype surelyFew = 16384; // no packet of this size can hold as many
+constexpr qsizetype surelyFew = 16384; // no packet of this size can have as many
 constexpr QByteArrayView nameSpace("http://www.w3.org/1999/02/22-rdf-syntax-ns#");
 constexpr QByteArrayView pngSignature("\x89PNG\r\n\x1a\n");
 
-/** So many properties side by side take a third of a second. */
+/** So many sibling properties take a third of a second. */
 constexpr qsizetype mostTogether = 4000;
 
-/** Whether one tag has so many attributes that even the reader of XML, which compares each with each, takes long. */
+/** Whether one tag has so many attributes that even the XML parser, which compares each with each, takes long. */
 bool hasCrowdedTag(const QByteArray &packet)
 {
     qsizetype count = 0;
@@ -30,7 +30,7 @@ bool hasCrowdedTag(const QByteArray &packet)
     return false;
 }
 
-/** Counts what stands side by side: properties of the picture, and those within each item of a list. */
+/** Counts siblings: properties of the picture, and those within each item of a list. */
 class PropertyCount
 {
 public:
@@ -55,7 +55,7 @@ private:
     int m_items = 0; ///< that are open
 };
 
-/** Behind the tag that closes what begins at @p at; the end of the file where there is none. */
+/** After the tag that closes the one at @p at; the end of the file if there is none. */
 qsizetype endOfPacket(QByteArrayView file, qsizetype at)
 {
     constexpr QByteArrayView tail("RDF>");
@@ -69,7 +69,7 @@ qsizetype endOfPacket(QByteArrayView file, qsizetype at)
     return file.size();
 }
 
-/** A PNG may hold its packet compressed, or in the hexadecimal digits of older programs. */
+/** A PNG may contain its packet compressed, or in the hexadecimal digits of older programs. */
 bool holdsDigestibleTexts(const QByteArray &png)
 {
     constexpr qsizetype frame = 12;

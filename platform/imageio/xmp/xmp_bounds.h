@@ -7,14 +7,13 @@
 namespace platform {
 
 /**
- * False for a packet with so many properties that taking it apart, which takes time by the square of their number, would hold
- * up whoever asks; lists may be long. Such a packet is carried as it is, and its properties are not known.
+ * False for a packet with so many properties that parsing it, which takes quadratic time, would block the caller; lists
+ * may be long. Such a packet is copied as it is, and its properties are not known.
  */
 bool isDigestibleXmp(const QByteArray &packet);
 
 /**
- * False where a file of any type holds a packet that is not digestible, so that nobody may read it who takes apart all packets
- * on the way.
+ * False if a file of any type contains an indigestible packet, so that no reader that parses all packets may be used.
  */
 bool holdsDigestibleXmp(const QByteArray &file);
 

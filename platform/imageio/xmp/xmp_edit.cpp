@@ -19,7 +19,7 @@ const QLatin1String xml("http://www.w3.org/XML/1998/namespace");
 QString escaped(QStringView text)
 {
     QString result = text.toString().toHtmlEscaped();
-    // Or a reader would make them blanks in an attribute.
+    // Otherwise a parser would turn them into spaces in an attribute.
     return result.replace(u'\n', QLatin1String("&#xA;")).replace(u'\t', QLatin1String("&#x9;"));
 }
 
@@ -63,8 +63,8 @@ private:
     const QList<XmpValue> &m_values;
     QString m_out;
     int m_depth = 0;
-    int m_described = -1;            ///< the depth of the description that we are in
-    const XmpValue *m_set = nullptr; ///< of the property that we are in
+    int m_described = -1;            ///< the depth of the current description
+    const XmpValue *m_set = nullptr; ///< of the current property
     int m_properties = 0;
 };
 
@@ -103,7 +103,7 @@ void Editor::writeStart(bool isOfDescription)
     m_out += u'>';
 }
 
-/** Over an element with all that it holds; the reader stands at its start. */
+/** Skips an element with its contents; the reader is at its start. */
 void Editor::skip()
 {
     for (int depth = 1; depth > 0 && !m_reader.atEnd();) {
@@ -168,7 +168,7 @@ std::optional<QByteArray> Editor::edited()
     return m_reader.hasError() ? std::nullopt : std::optional(m_out.toUtf8());
 }
 
-/** What stands between the start and the end of rdf:RDF, in the packet's own bytes; none where it has none. */
+/** The contents of rdf:RDF, in the packet's own bytes; none if it has none. */
 struct Inside
 {
     qsizetype begin = -1;
@@ -183,7 +183,7 @@ Inside insideRdf(const QByteArray &packet)
     return begin >= 0 && end > begin ? Inside{begin + 1, end} : Inside();
 }
 
-/** What the first description of a packet is about. */
+/** The subject of a packet's first description. */
 QString subjectOf(const QByteArray &packet)
 {
     QXmlStreamReader reader(withoutPadding(packet));

@@ -16,7 +16,7 @@ struct XmpName
     QString name;
 };
 
-/** A simple property with what it is to say. */
+/** A simple property with its new value. */
 struct XmpValue
 {
     XmpName property;
@@ -24,21 +24,21 @@ struct XmpValue
 };
 
 /**
- * An XMP packet with those of its properties that @p isKept says, and with other texts for those of @p values that it states;
- * none is added. Properties within a property stay or go with it. What stays says the same in the same words and prefixes.
+ * An XMP packet with those of its properties that @p isKept selects, and with other texts for those of @p values that
+ * it contains; none is added. Nested properties stay or go with their parent. What stays keeps its words and prefixes.
  *
- * None where the packet is no well-formed XML, or has a document type of its own.
+ * None if the packet is not well-formed XML, or has a document type of its own.
  */
 std::optional<QByteArray> editedXmp(const QByteArray &packet, const std::function<bool(const XmpName &)> &isKept,
                                     const QList<XmpValue> &values = {});
 
 /**
- * The packet with the descriptions of @p other, which is one too, added to its own; @p other's properties must not be in it. None
- * where that cannot be done.
+ * The packet with the descriptions of another packet, @p other, appended; @p other's properties must not be in it. None
+ * if that cannot be done.
  */
 std::optional<QByteArray> joinedXmp(const QByteArray &packet, const QByteArray &other);
 
-/** True where the packet has any property at all. */
+/** True if the packet has any property at all. */
 bool saysAnything(const QByteArray &packet);
 
 } // namespace platform

@@ -14,7 +14,7 @@ bool isWellFormed(const QByteArray &packet)
     return !reader.hasError();
 }
 
-/** Sets a number that stands as an attribute or as an element of its own. */
+/** Sets a number that is an attribute or an element. */
 void setNumber(QString &packet, const QString &name, int value)
 {
     static const QString attribute = QStringLiteral("(\\b%1\\s*=\\s*[\"'])\\s*\\d+\\s*([\"'])");

@@ -6,8 +6,8 @@
 namespace platform {
 
 /**
- * An XMP packet for a file with other pixels: what it says of the picture's size is set to @p pixels, and thumbnails in
- * it are taken out. Everything else stays byte for byte; a packet that would no longer be well formed stays whole.
+ * An XMP packet for a file with other pixels: the picture's size is set to @p pixels, and thumbnails are removed.
+ * Everything else stays byte for byte; a packet that would no longer be well formed is unchanged.
  */
 QByteArray xmpForNewPixels(const QByteArray &packet, QSize pixels);
 
