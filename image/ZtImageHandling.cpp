@@ -72,7 +72,7 @@ BitmapHandle ZtImageHandling::hStringToCGImageRef(const QString &path)
         return {};
     platform::DecodeOptions asStored;
     asStored.orientation = platform::Orientation::AsStored;
-    asStored.forms = platform::Forms::AsTiffHolds; // what it will be written as shows later
+    asStored.forms = platform::Forms::AsTiffHolds; // the type of the result is determined later
     const Result<Bitmap> bitmap = source ? source->decode(asStored) : Result<Bitmap>(Bitmap());
     if (imageRefVariable.isNull())
         imageRefVariable = BitmapHandle(Bitmap());
@@ -164,7 +164,7 @@ QString ZtImageHandling::writeResized(const Target &target, QSize size, std::opt
     const platform::Forms forms = image::formsFor(target.type);
     const Result<Bitmap> drawn =
         kept ? image::resizedAndCut(imageCIImage, size, *kept, forms) : image::resized(imageCIImage, size, forms);
-    // No bitmap of that size, or no picture to draw: the answer is a success that leaves no file.
+    // No bitmap of that size, or no picture to draw: the operation answers success without a file.
     if (!drawn)
         return image::statusOk();
     return write(target, *drawn, isTiff(target.type) ? image::optionsCarrying(imageCIImage) : EncodeOptions());

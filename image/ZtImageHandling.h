@@ -22,10 +22,10 @@ struct Turning;
  * An object keeps working values in its fields between calls; each operation overwrites the ones that it uses and
  * nothing is cleared. Used by one caller at a time, on the main thread.
  *
- * Paths are absolute. An output prefix is normally a folder with "/" at its end: the source's name is put directly
- * behind it. An output type is "original file type" or one of "public.png", "public.tiff", "public.bmp",
+ * Paths are absolute. An output prefix is normally a folder with "/" at its end: the source's name is appended
+ * directly. An output type is "original file type" or one of "public.png", "public.tiff", "public.bmp",
  * "com.compuserve.gif", "public.jpeg", "public.jp2". Operations that write answer "OK", "Failed" or "Not Supported",
- * write a whole file or none, and replace a file that is there.
+ * write atomically, and replace an existing file.
  */
 class ZtImageHandling : public QObject
 {
@@ -80,7 +80,7 @@ class ZtImageHandling : public QObject
 public:
     Q_INVOKABLE explicit ZtImageHandling(QObject *parent = nullptr);
 
-    /** Opens a picture, to be seen upright; kept in imageCIImage. Null if it cannot be read. */
+    /** Opens a picture, shown upright; kept in imageCIImage. Null if it cannot be read. */
     Q_INVOKABLE platform::ImageSource hNSURLtoCIImage(const QUrl &location);
 
     /** The upright size as text, "4032x3024px"; "0x0px" for a file that cannot be read. */
@@ -88,7 +88,7 @@ public:
 
     /**
      * Decodes image 0 as stored into myImageRef and answers a reference to that variable, whose content a later call
-     * replaces. Null if the file is missing or no picture; a reference to nothing if it holds no readable image.
+     * replaces. Null if the file is missing or no picture; a reference to nothing if it contains no readable image.
      */
     Q_INVOKABLE platform::BitmapHandle hStringToCGImageRef(const QString &path);
 
@@ -101,7 +101,7 @@ public:
                                             const QVariantMap &destinationProperties);
 
     /**
-     * Writes to @p basePath with the extension of the type behind it. @p sourceProperties reach TIFF files only.
+     * Writes to @p basePath with the extension of the type appended. @p sourceProperties reach TIFF files only.
      * @p qualityCode "1" to "9" gives JPEG quality 0.1 to 0.9, anything else 1. @p sourceExtension is not used.
      */
     Q_INVOKABLE QString hSaveToNewImageFileMPR(const QString &basePath, const QString &type,
@@ -111,41 +111,41 @@ public:
 
     /**
      * A resized copy, upright, aspect ratio kept. @p mode 0: @p number is the width, 1: the height, 2: the longest
-     * side, in pixels; 3: per cent; 4 and above: the size of the call before. "OK" without a file where no bitmap of
+     * side, in pixels; 3: a percentage; 4 and above: the size of the previous call. "OK" without a file if no bitmap of
      * that size can be made or the source cannot be read.
      */
     Q_INVOKABLE QString resizeImage(const QString &path, quint32 number, quint32 mode, const QString &prefix,
                                     const QVariant &type, const QString &qualityCode);
 
     /**
-     * A copy of exactly @p width by @p height pixels. @p mode 1 fills that size and cuts the excess evenly; any other
-     * stretches. "OK" without a file as resizeImage() has it.
+     * A copy of exactly @p width by @p height pixels. @p mode 1 fills that size and crops the excess evenly; any other
+     * stretches. "OK" without a file as for resizeImage().
      */
     Q_INVOKABLE QString resizeImage2(const QString &path, quint32 width, quint32 height, int mode,
                                      const QString &prefix, const QVariant &type, const QString &qualityCode);
 
     /**
-     * A copy with left and right in each other's places, in the source's own type and under its own name behind
-     * @p prefix. The stored pixels are turned; the orientation tag is kept. Null where there is no image.
+     * A copy with left and right swapped, in the source's own type and under its own name after
+     * @p prefix. The stored pixels are flipped; the orientation tag is kept. Null if there is no image.
      */
     Q_INVOKABLE QString hFlipHorizontalPicture(const QString &path, const QString &prefix);
 
-    /** The same with top and bottom in each other's places. */
+    /** The same with top and bottom swapped. */
     Q_INVOKABLE QString hFlipVerticalPicture(const QString &path, const QString &prefix);
 
     /**
-     * A copy turned anticlockwise onto a canvas that just holds it, written as hFlipHorizontalPicture() does.
+     * A copy rotated anticlockwise onto the smallest canvas that holds it, written as by hFlipHorizontalPicture().
      * @p angle is in degrees, a number or a text that begins with one; kept in degrees.
      */
     Q_INVOKABLE QString hRotatePicture(const QString &path, const QString &prefix, const QVariant &angle);
 
-    /** A picture turned anticlockwise by @p angle, kept in wmAngle, transparent around it; null without one. */
+    /** A picture rotated anticlockwise by @p angle, kept in wmAngle, transparent around it; null without one. */
     Q_INVOKABLE platform::Picture hRotatePictureBase(const platform::Picture &picture, const QVariant &angle);
 
     /**
-     * The part of the upright picture that the crop sheet means, as a new file. @p width and @p height are read in the
-     * tab "W x H"; the picture itself bounds what is cut. Answers "Failed" where nothing of the picture is left, and, with
-     * nothing logged, where the source cannot be read.
+     * The part of the upright picture defined by the crop sheet, as a new file. @p width and @p height are used in the
+     * tab "W x H"; the part is clipped to the picture. Answers "Failed" if nothing of the picture is left, and, without
+     * logging, if the source cannot be read.
      */
     Q_INVOKABLE QString cropImage(const QString &path, int width, int height, const QString &prefix,
                                   const QVariant &type, const QString &qualityCode);
@@ -156,15 +156,15 @@ public:
     /**
      * The upright picture cut to a shape, as a new file. @p shapeCode "0" rounds the corners by @p radius pixels, "1"
      * is the circle in the square at the bottom left, anything else an ellipse. With the check box on, the colour of the
-     * well lies behind the picture, and over its edge as wide as the border field says. @p formatCode "0" writes PNG, "1"
-     * TIFF, "2" GIF, anything else the source's own type under its whole name. TIFF and JPEG carry its metadata.
+     * well is put behind the picture, and over its edge as wide as the border field says. @p formatCode "0" writes PNG,
+     * "1" TIFF, "2" GIF, anything else the source's own type under its whole name. TIFF and JPEG carry its metadata.
      */
     Q_INVOKABLE QString roundCornersOfImage(const QString &path, const QString &prefix, quint32 radius,
                                             const QString &shapeCode, const QString &formatCode);
 
     /**
      * The upright picture on the colour of the well, as a new file without metadata. Format codes as above;
-     * @p unused and @p unusedToo are not looked at.
+     * @p unused and @p unusedToo are ignored.
      */
     Q_INVOKABLE QString addOverlayColor(const QString &path, const QString &prefix, const platform::Sender &unused,
                                         const platform::Sender &unusedToo, const QString &formatCode);
@@ -176,7 +176,7 @@ public:
     Q_INVOKABLE void statusAddBgColor(const platform::Sender &sender);
 
 private:
-    /** Where a picture goes, less the extension, and how. */
+    /** Where a picture goes, without the extension, and how. */
     struct Target
     {
         QString basePath;
@@ -187,14 +187,14 @@ private:
     QString turnAndWrite(const QString &path, const QString &prefix, const image::Turning &turning);
     platform::BitmapHandle currentImage() const;
     void setCurrentImage(const platform::BitmapHandle &imageRef);
-    /** Sets the type variables; false where the type is recognised and never written. */
+    /** Sets the type variables; false if the type is recognised but never written. */
     bool decideType(const QString &path, const QVariant &requestedType);
     void openUpright(const QString &path);
     QString write(const Target &target, const platform::Bitmap &bitmap,
                   const platform::Result<platform::EncodeOptions> &ofSource);
-    /** The open picture at another size, or the part of that which is kept. */
+    /** The open picture at another size, or its kept part. */
     QString writeResized(const Target &target, QSize size, std::optional<QRect> kept = {});
-    /** Reads the crop sheet; tells the rectangle and keeps its origin. @p size belongs to the tab "W x H". */
+    /** Reads the crop sheet; answers the rectangle and keeps its origin. @p size belongs to the tab "W x H". */
     image::CropRect readCrop(QSize size, image::CropSpace space);
     image::CornerOptions readCorners(quint32 radius, const QString &shapeCode) const;
     /** Sets the type variables by a format code; answers the name of the new file. */

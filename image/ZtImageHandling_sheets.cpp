@@ -24,7 +24,7 @@ bool isOn(const QObject *checkBox)
     return platform::stateOf(checkBox) == 1;
 }
 
-/** Black where there is no well. */
+/** Black if there is no well. */
 QColor opaqueColorOf(const QObject *well)
 {
     QColor color = platform::colorOf(well);
@@ -54,7 +54,7 @@ image::CornerShape shapeForCode(const QString &code)
     return code == QLatin1String("1") ? image::CornerShape::Circle : image::CornerShape::Ellipse;
 }
 
-/** Of the pixels that were decoded only the answer stays in memory. */
+/** Of the decoded pixels only the answer stays in memory. */
 Result<Bitmap> cutToShape(const ImageSource &source, const image::CornerOptions &options)
 {
     image::RoundedShape shape = image::roundedShape(options, source.uprightSize());
@@ -95,7 +95,7 @@ QString ZtImageHandling::cropImage(const QString &path, int width, int height, c
     const image::CropRect rect = readCrop(QSize(width, height), image::CropSpace::TopLeft);
     const QRect part = image::visiblePart(rect, imageCIImage.uprightSize());
     const Result<Bitmap> kept = imageCIImage.decodePart(part, image::formsFor(myFileType));
-    // A source that cannot be read is answered without a word; where nothing of a good one is left, the writer tells it.
+    // An unreadable source is not reported; if nothing of a good one is left, the writer reports it.
     if (!kept && (imageCIImage.isNull() || !part.isEmpty()))
         return image::statusFailed();
     const bool carriesMetadata = myFileType == QLatin1String("public.tiff");
@@ -146,7 +146,7 @@ QString ZtImageHandling::roundCornersOfImage(const QString &path, const QString 
     if (image::isNeverWritten(myFileType))
         return image::statusNotSupported();
     openUpright(path);
-    // The picture of the call before makes room first.
+    // Frees the picture of the previous call first.
     composedMasked = {};
     imageMasked = {};
     if (const Result<Bitmap> cut = cutToShape(imageCIImage, readCorners(radius, shapeCode)))

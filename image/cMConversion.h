@@ -3,7 +3,7 @@
 #include <QObject>
 
 /**
- * Lengths that were typed in a unit, as pixels of one picture at that picture's own resolution.
+ * Lengths that were typed in a unit, converted to pixels of one picture at that picture's own resolution.
  *
  * An object keeps its last result. Used by one caller at a time, on the main thread.
  */
@@ -19,16 +19,17 @@ public:
     /**
      * @p value, a length in @p unit, in whole pixels of the picture at @p path; kept in myNewValue.
      *
-     * @param targetUnit  "pixel"; with any other the answer is the result of the call before, 0 at first
+     * @param targetUnit  "pixel"; for any other the answer is the result of the previous call, initially 0
      * @param unit        "mm", "cm", "inch", "pica" (4.2175176 mm) or "punt" (0.3527777777778 mm): converted with the
      *                    resolution, which is kept in myDPIvalue; "pixel" and any other are taken as pixels
-     * @return fractions of a pixel are cut off, of picas they are rounded; 0 where the result is no number or is infinite, the
-     *         nearest whole number of 32 bits where it does not fit
+     * @return fractions of a pixel are truncated, of picas they are rounded; 0 if the result is not a number or
+     * infinite, the
+     *         nearest whole number of 32 bits if it does not fit
      */
     Q_INVOKABLE float convertXtoPixel(const QString &path, const QString &targetUnit, const QString &unit, float value);
 
     /**
-     * The horizontal resolution of the upright picture in dots per inch, rounded up; 72 where it states none, 0 where it
+     * The horizontal resolution of the upright picture in dots per inch, rounded up; 72 if it states none, 0 if it
      * cannot be read. Reads the header only.
      */
     Q_INVOKABLE float getPictureDPI(const QString &path);

@@ -22,7 +22,7 @@ platform::EncodeOptions withResolution()
     return options;
 }
 
-/** The source's metadata, with the orientation that its stored pixels have and nothing else claims. */
+/** The source's metadata, with the orientation that its stored pixels have and no other statement of it. */
 Result<Metadata> metadataForStoredPixels(const ImageSource &source)
 {
     return source.metadata().map(
@@ -59,7 +59,7 @@ Result<void> writePixels(const ImageSource &source, FileFormat format, const Con
     });
 }
 
-/** The short way, or the one that always goes. */
+/** The short way, or the general one. */
 template<typename Way> Result<void> orElse(const Result<bool> &shortWay, Way otherWay)
 {
     if (!shortWay)
@@ -103,7 +103,7 @@ Result<void> write(const ImageSource &source, const Conversion &conversion)
     case OutputType::JpegXl:
         break;
     }
-    Q_UNREACHABLE(); // no target of a conversion
+    Q_UNREACHABLE(); // not a target of conversions
 }
 
 Result<QByteArray> uprightFile(const ImageSource &source, FileFormat format, double quality)

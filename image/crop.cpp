@@ -8,7 +8,7 @@
 namespace image {
 namespace {
 
-/** Sums and products as 32 bit numbers make them: what does not fit wraps. */
+/** Sums and products in 32-bit arithmetic: overflow wraps. */
 qint32 wrapped(qint64 value)
 {
     return qint32(quint32(quint64(value)));
@@ -36,7 +36,10 @@ QSize cropSize(const CropSettings &settings, QSize picture)
     return {};
 }
 
-/** Where along one side the rectangle begins when @p excess pixels lie outside it: 0 at the start, 1 centred, 2 at the end. */
+/**
+ * Where the rectangle begins along one side when @p excess pixels are outside it: 0 at the start, 1 centred, 2 at the
+ * end.
+ */
 qint32 placed(int place, qint32 excess)
 {
     const std::array<qint32, 3> starts = {0, excess / 2, excess};

@@ -9,18 +9,18 @@
 #include <optional>
 
 /**
- * The arithmetic of a crop: which rectangle the settings mean, on the picture that is cut and on the frame that shows it.
+ * The arithmetic of a crop: which rectangle the settings mean, on the picture to be cropped and on the frame that shows
+ * it.
  *
- * All numbers are whole pixels of the upright picture in 32 bits: divisions cut off toward zero, and results that do
- * not fit wrap.
+ * All numbers are whole pixels of the upright picture in 32 bits: divisions truncate toward zero, and overflow wraps.
  */
 namespace image {
 
-/** What the numbers of a crop say. */
+/** The meaning of a crop's numbers. */
 enum class CropKind {
     Size,       ///< the width and height to keep
-    Percentage, ///< the share of both sides to cut away
-    Pixels,     ///< the pixels of both sides to cut away
+    Percentage, ///< the share of both sides to cut off
+    Pixels,     ///< the pixels of both sides to cut off
 };
 
 /** The kind behind the label of a tab: "W x H", "%", and Pixels for any other text. */
@@ -30,9 +30,9 @@ struct CropSettings
 {
     CropKind kind = CropKind::Pixels;
     QSize size;            ///< Size: what is kept
-    qint32 percentage = 0; ///< Percentage: what is cut away
-    qint32 pixels = 0;     ///< Pixels: what is cut away
-    /** 0 to 8: top left, top centre, top right, the same of the middle and of the bottom; others name no place. */
+    qint32 percentage = 0; ///< Percentage: what is cut off
+    qint32 pixels = 0;     ///< Pixels: what is cut off
+    /** 0 to 8: top left, top centre, top right, then the same for the middle and the bottom; others mean no place. */
     qint32 position = 0;
     /** Moves the rectangle to the right and down. */
     qint32 xOffset = 0;
@@ -56,20 +56,23 @@ struct CropRect
     bool operator==(const CropRect &other) const = default;
 };
 
-/** The share of a picture that is left when @p cutAway per cent are cut away: 25 gives 75. */
+/** The share of a picture that is left when @p cutAway percent are cut off: 25 gives 75. */
 qint32 keptPercentage(qint32 cutAway);
 
 /**
  * The rectangle that the settings mean on a picture of @p picture pixels.
  *
- * @param previous  its origin is the answer's where the position names no place
+ * @param previous  its origin is used if the position means no place
  */
 CropRect cropRect(const CropSettings &settings, QSize picture, CropSpace space, const CropRect &previous = {});
 
-/** What of a rectangle from the top left lies on the picture; empty where nothing does or a side is not positive. */
+/**
+ * The part of a rectangle from the top left that is inside the picture; empty if there is none or a side is not
+ * positive.
+ */
 QRect visiblePart(const CropRect &rect, QSize picture);
 
-/** The width of the frame's line on a picture of @p picture pixels; pictures wider than high have thicker ones. */
+/** The width of the frame's line on a picture of @p picture pixels; landscape pictures have thicker ones. */
 float frameLineWidth(QSize picture);
 
 /** How long the dashes of the frame are, and the gaps between them, for a line width. */
@@ -80,7 +83,7 @@ struct CropBox
 {
     QRectF rect; ///< x and y are the left and the bottom edge; may reach outside; sides may be zero or negative
     double lineWidth = 1;
-    double dash = 15; ///< of a dash and of a gap, before the square ends are put on
+    double dash = 15; ///< of a dash and of a gap, before the square ends are added
 
     /** The same frame on a canvas @p scale times as large. */
     CropBox scaled(double scale) const;

@@ -8,7 +8,7 @@
 namespace image {
 namespace {
 
-/** One pixel a point; what is thinner than a pixel is one, and nothing is longer than a picture can be. */
+/** One pixel per point; at least one pixel, and no longer than a picture can be. */
 int wholePixels(double points)
 {
     constexpr double most = 10'000'000;

@@ -7,11 +7,11 @@
 
 namespace image {
 
-/** Image 0 of a file, upright, drawn at exactly @p size pixels. Fails where the picture cannot be read or made. */
+/** Image 0 of a file, upright, scaled to exactly @p size pixels. Fails if the picture cannot be read or made. */
 platform::Result<platform::Bitmap> resized(const platform::ImageSource &source, QSize size,
                                            platform::Forms forms = platform::Forms::Plain);
 
-/** As resized(), then cut to @p kept. Fails too where nothing of the picture lies in @p kept. */
+/** Like resized(), then cropped to @p kept. Also fails if nothing of the picture is in @p kept. */
 platform::Result<platform::Bitmap> resizedAndCut(const platform::ImageSource &source, QSize size, const QRect &kept,
                                                  platform::Forms forms = platform::Forms::Plain);
 

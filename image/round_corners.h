@@ -16,11 +16,11 @@ enum class CornerShape {
     Ellipse,   ///< as large as the picture
 };
 
-/** What lies outside the shape. */
+/** What is outside the shape. */
 struct CornerBackground
 {
     QColor color;         ///< sRGB; taken as opaque
-    double bandWidth = 0; ///< pixels of it inside the picture's edge; the picture is covered there, not shrunk
+    double bandWidth = 0; ///< pixels of it inside the picture's edge; the picture is covered there, not reduced
 };
 
 struct CornerOptions
@@ -35,13 +35,13 @@ struct CornerOptions
 struct RoundedShape
 {
     QRect part;     ///< of the picture that is kept: the canvas
-    QRectF outline; ///< of the shape on the canvas; not positive where the band has left nothing
+    QRectF outline; ///< of the shape on the canvas; not positive if the band has left nothing
     double xRadius = 0;
     double yRadius = 0;
     std::optional<QColor> background;
 };
 
-/** What the options mean for a picture of @p size pixels. The radii are not reduced by the band. */
+/** The meaning of the options for a picture of @p size pixels. The band does not reduce the radii. */
 RoundedShape roundedShape(const CornerOptions &options, QSize size);
 
 /**
@@ -53,9 +53,9 @@ RoundedShape fitted(const RoundedShape &shape, QSize full, QSize rendition);
 /**
  * The picture cut to the shape, pixel for pixel, with antialiased edges; depth, profile and resolution stay.
  *
- * Without a background the result has alpha, and what was cut away is gone for good: its colours are 0 too. With one it
- * is opaque, and the colour is converted from sRGB into the picture's own space; a grey picture becomes RGB for a colour
- * that is no grey. CMYK and Lab become sRGB. A shape that leaves every pixel as it was gives the plain copy.
+ * Without a background the result has alpha, and what was cut off is lost: its colours are 0 too. With one it is
+ * opaque, and the colour is converted from sRGB to the picture's colour space; a grey picture becomes RGB for a colour
+ * that is not grey. CMYK and Lab become sRGB. A shape that leaves every pixel unchanged gives a plain copy.
  *
  * Fails with InvalidValue for a null bitmap, with TooLarge if memory fails.
  */

@@ -5,7 +5,7 @@
 namespace image {
 namespace {
 
-/** The product wraps in 32 bits, and results depend on it: it is formed before anything is made a double. */
+/** The product wraps in 32 bits, and results depend on it: it is computed before any conversion to double. */
 double hundredfold(quint32 number)
 {
     constexpr quint32 hundred = 100;

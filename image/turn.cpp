@@ -15,16 +15,16 @@ using platform::FreeTurn;
 using platform::Picture;
 using platform::Result;
 
-/** So much may a side fall short of a whole pixel and still be one: what is lost in the sines. */
+/** A side may be this much short of a whole pixel and still count as one: rounding errors of the sines. */
 constexpr double hair = 1e-6;
 
 int wholePixels(double side)
 {
     constexpr double most = 1 << 30;
-    return side >= 0 ? int(std::min(side, most)) : 0; // 0 also where the side is no number
+    return side >= 0 ? int(std::min(side, most)) : 0; // 0 also if the side is not a number
 }
 
-/** The turn onto a canvas of @p box less its fractions; these are cut off on the right and on the top. */
+/** The rotation onto a canvas of @p box without its fractions, which are cut off on the right and at the top. */
 FreeTurn freeTurn(QSizeF box, double degrees)
 {
     FreeTurn turn;
@@ -34,7 +34,7 @@ FreeTurn freeTurn(QSizeF box, double degrees)
     return turn;
 }
 
-/** The pixels as dense across as down, nothing lost. */
+/** The pixels with equal horizontal and vertical density, nothing lost. */
 Result<Bitmap> withSquarePixels(const Bitmap &bitmap, QSizeF points)
 {
     const double density = std::max(bitmap.width() / points.width(), bitmap.height() / points.height());

@@ -33,7 +33,7 @@ bool isNoSource(const platform::Error &error)
     return error.code == ErrorCode::NotFound || error.code == ErrorCode::NotAPicture;
 }
 
-/** The stored pixels, turned. The pixels as they were are let go of before anything is encoded. */
+/** The stored pixels, turned. The old pixels are freed before anything is encoded. */
 Result<Bitmap> turnedPixels(Bitmap stored, const Turning &turning)
 {
     return turning.exact ? platform::turned(stored, *turning.exact) : turned(stored, turning.degrees);

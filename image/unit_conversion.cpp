@@ -5,7 +5,7 @@
 #include <cmath>
 #include <limits>
 
-// Every step below is rounded to the precision of its type; the build file keeps the compiler from joining two of them.
+// Every step below is rounded to the precision of its type; the build file keeps the compiler from fusing two of them.
 static_assert(FLT_EVAL_METHOD == 0, "single precision must not be computed with more");
 
 namespace image {

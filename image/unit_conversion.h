@@ -5,7 +5,7 @@
 
 #include <optional>
 
-/** Lengths as pixels. Which steps are in single and which in double precision belongs to the results. */
+/** Lengths as pixels. Which steps use single and which double precision affects the results. */
 namespace image {
 
 enum class LengthUnit { Pixel, Millimetre, Centimetre, Inch, Pica, Point };
@@ -14,8 +14,8 @@ enum class LengthUnit { Pixel, Millimetre, Centimetre, Inch, Pica, Point };
 LengthUnit lengthUnit(const QString &name);
 
 /**
- * A length in whole pixels: cut off toward zero, from picas rounded with halves away from zero. 0 where there is no
- * finite result, the nearest number of 32 bits where it does not fit. @p dpi is not looked at for Pixel.
+ * A length in whole pixels: truncated toward zero, for picas rounded with halves away from zero. 0 if the result is not
+ * finite, the nearest 32-bit number if it does not fit. @p dpi is ignored for Pixel.
  */
 qint32 inPixels(float value, LengthUnit unit, float dpi);
 

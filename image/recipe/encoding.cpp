@@ -49,7 +49,7 @@ bool hasQuality(const RecipeOutput &output, OutputType type)
     return writtenType(type).hasQuality && !output.isLossless;
 }
 
-/** The quality that is written; none where a JPEG keeps the tables that it came with. */
+/** The quality that is written; none if a JPEG keeps its original tables. */
 std::optional<int> chosenQuality(const RecipeOutput &output, OutputType type, bool isFromJpeg)
 {
     if (!hasQuality(output, type))
@@ -129,10 +129,10 @@ Result<platform::EncodeOptions> optionsFor(const ImageSource &source, const Reci
     });
 }
 
-/** The page of a JPEG whose scan goes in as it is, or turned without encoding. */
+/** The page of a JPEG whose scan is copied unchanged, or turned without encoding. */
 Result<QByteArray> pageOfSamePixels(const ImageSource &source, const RecipeOutput &output, const OutputPlan &plan)
 {
-    const bool isUpright = plan.turn == RightTurn::uprightFrom(source.orientation()); // which the page sees to itself
+    const bool isUpright = plan.turn == RightTurn::uprightFrom(source.orientation()); // which the page handles itself
     const Result<ImageSource> turned =
         isUpright ? Result<ImageSource>(source) : turnedFile(source, plan.turn).and_then([](const QByteArray &file) {
             return ImageSource::fromData(file);
@@ -145,7 +145,7 @@ Result<QByteArray> pageOfSamePixels(const ImageSource &source, const RecipeOutpu
         });
 }
 
-/** The file as it is, or turned without encoding. */
+/** The file unchanged, or turned without encoding. */
 Result<QByteArray> lyingFile(const ImageSource &source, const OutputPlan &plan)
 {
     if (!plan.turn.isNothing())

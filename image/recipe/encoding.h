@@ -9,18 +9,18 @@ namespace image {
 
 /**
  * The file of an output whose pixels are those of the source: the same bytes, turned without encoding, with other metadata, or as
- * a page. Fails with Unsupported where that turns out to be impossible, and as reading the source does.
+ * a page. Fails with Unsupported if that turns out to be impossible, and like reading the source.
  */
 platform::Result<QByteArray> fileOfSamePixels(const platform::ImageSource &source, const RecipeOutput &output,
                                               const OutputPlan &plan);
 
-/** The file of an output from finished pixels; metadata comes from the source. Fails as platform::encodeImage() does. */
+/** The file of an output from finished pixels; metadata comes from the source. Fails like platform::encodeImage(). */
 platform::Result<QByteArray> encodedFile(const platform::Bitmap &bitmap, const platform::ImageSource &source,
                                          const RecipeOutput &output, const OutputPlan &plan);
 
 /**
- * The file of an output of type jpeg to which nothing happens but that the picture becomes smaller, without colours being made of
- * the planes of a JPEG. None where it does not go that way; see platform::resizedJpeg().
+ * The file of an output of type jpeg that only reduces the picture, without converting a JPEG's planes to colours. None
+ * if this way is not possible; see platform::resizedJpeg().
  */
 std::optional<QByteArray> resizedFile(const platform::ImageSource &source, const platform::JpegResize &resize,
                                       const RecipeOutput &output);

@@ -12,10 +12,10 @@ using platform::Bitmap;
 using platform::ImageSource;
 using platform::Result;
 
-/** The first operation that needs pixels, and how the picture lies before it. */
+/** The first operation that needs pixels, and the picture's orientation before it. */
 struct First
 {
-    qsizetype index = -1; ///< of the step; -1 where none needs any
+    qsizetype index = -1; ///< of the step; -1 if none needs any
     bool isTurned = false;
 };
 
@@ -33,7 +33,7 @@ First firstOf(const QList<RecipeStep> &steps, const Stage &stage)
     return first;
 }
 
-/** The operation that a decoder can do on its way: a resize to fewer pixels, or a cut whose place is known. */
+/** The operation that a decoder can do itself: a resize to fewer pixels, or a crop at a known position. */
 const ResizeOperation *shrinkingResize(const Operation &operation, const Stage &stage)
 {
     const auto *resize = std::get_if<ResizeOperation>(&operation);
@@ -43,7 +43,7 @@ const ResizeOperation *shrinkingResize(const Operation &operation, const Stage &
     return scaled.width() < stage.size.width() && scaled.height() <= stage.size.height() ? resize : nullptr;
 }
 
-/** The resize, where that is all that happens to the pixels, and nothing but a cut at a known place belongs to it. */
+/** The resize, if that is all that happens to the pixels, with at most a crop at a known position. */
 std::optional<platform::JpegResize> onlyResize(const QList<RecipeStep> &steps, const Stage &stage)
 {
     const First first = firstOf(steps, stage);
@@ -66,7 +66,7 @@ class Decoding
 public:
     Decoding(const ImageSource &source, const Stage &stage) : m_source(source), m_stage(stage) {}
 
-    /** The picture behind @p steps. */
+    /** The picture after @p steps. */
     Result<Rendition> behind(const QList<RecipeStep> &steps, const FillText &fill) const
     {
         const First first = firstOf(steps, m_stage);
@@ -106,7 +106,7 @@ private:
         });
     }
 
-    /** The stage of the whole picture, with what the decoded pixels say of themselves. */
+    /** The stage of the whole picture, with the properties of the decoded pixels. */
     Stage stageLike(const Bitmap &bitmap) const
     {
         Stage stage = stageOf(bitmap);
@@ -178,7 +178,7 @@ private:
         giveAll(indices, m_decoding.behind(m_recipe.operations, m_fill), {});
     }
 
-    /** The output of a JPEG that becomes a smaller one and nothing else. */
+    /** The output of a JPEG that is only reduced. */
     std::optional<MadeOutput> resizedOnly(int index, const QList<RecipeStep> &steps) const
     {
         const RecipeOutput &output = m_recipe.outputs[index];
@@ -189,7 +189,7 @@ private:
         return file ? std::optional(MadeOutput{index, *file, resize->kept.size(), false}) : std::nullopt;
     }
 
-    /** Each output begins by itself: all from one decode, which is as small as the largest of them allows. */
+    /** Each output starts by itself: all from one decode, which is as small as the largest of them allows. */
     void fromWhole(const QList<int> &indices)
     {
         QSize needed;
@@ -226,7 +226,7 @@ private:
         }
     }
 
-    /** The operations on pixels that the decoder may have shrunk: then the first one is a resize to fewer still. */
+    /** The operations on pixels that the decoder may have reduced: then the first one is a resize to even fewer. */
     Result<Rendition> behind(const QList<RecipeStep> &steps, const Rendition &start) const
     {
         if (start.bitmap.size() == start.stage.size)

@@ -17,20 +17,20 @@ struct MadeOutput
 };
 
 /**
- * Takes what was made as soon as it is, so that no two results are in memory together; also what could not be made, with the index
- * and the reason.
+ * Receives each result as soon as it is made, so that no two are in memory together; also failures, with the index and
+ * the reason.
  */
 using TakeOutput = std::function<void(int index, const platform::Result<MadeOutput> &made)>;
 
 /**
- * Makes the outputs of a recipe from one picture: it is decoded once, worked on in memory and encoded once an output.
+ * Makes the outputs of a recipe from one picture: it is decoded once, processed in memory and encoded once per output.
  *
- * @param plans  of planOf() for the same picture; outputs with a problem are passed over
+ * @param plans  from planOf() for the same picture; outputs with a problem are skipped
  * @param fill   fills in the texts of watermarks
  *
- * Decoding is as cheap as the first operation allows: only the rows of a crop, only the size of a resize. Where the pixels stay
- * the file's own are taken, turned without encoding where they have to lie in another way. Memory: the picture as it is after its first
- * operation, one more at the time, and one encoded file.
+ * Decoding is as cheap as the first operation allows: only the rows of a crop, only the size of a resize. If the pixels
+ * do not change, those of the file are used, turned without encoding if they need another orientation. Memory: the
+ * picture after its first operation, one more at a time, and one encoded file.
  */
 void makeOutputs(const Recipe &recipe, const platform::ImageSource &source, const QList<OutputPlan> &plans,
                  const FillText &fill, const TakeOutput &take);

@@ -29,7 +29,7 @@ constexpr Word<Place> placesOfParts[] = {
     {"bottom right", Place::BottomRight},
     {"attention", Place::Attention},
 };
-/** Where things are put: the same but for the last one. */
+/** Positions: the same without the last one. */
 const std::span<const Word<Place>> places = std::span(placesOfParts).first(std::size(placesOfParts) - 1);
 constexpr Word<RecipeUnit> units[] = {{"mm", RecipeUnit::Millimetre},
                                       {"cm", RecipeUnit::Centimetre},
@@ -59,7 +59,7 @@ NumberRange lengthRange(const Scale &scale)
                                            : NumberRange{0, longestSide, false, true};
 }
 
-/** A length that may be nothing. */
+/** A length that may be zero. */
 NumberRange widthRange(const Scale &scale, double least = 0)
 {
     return {least, longestSide, scale.unit == RecipeUnit::Pixel};

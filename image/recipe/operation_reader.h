@@ -8,10 +8,10 @@
 
 namespace image {
 
-/** One entry of a list of operations. States what is wrong in the keys' problem. */
+/** One entry of a list of operations. Reports what is wrong through the keys' problem. */
 RecipeStep stepFrom(RecipeKeys &keys, const RecipeFiles &files);
 
-/** A profile by its name or path; one without a profile where there is none, which is stated. */
+/** A profile by its name or path; if it does not exist, one without a profile, and a problem is reported. */
 ProfileOperation profileNamed(RecipeKeys &keys, const char *key, const QString &name, const RecipeFiles &files);
 
 } // namespace image

@@ -88,7 +88,7 @@ bool canRewriteMetadata(OutputType type, std::optional<double> dpi)
     return false;
 }
 
-/** Parts of the file that are true of it alone. */
+/** Parts of the file that apply to it alone. */
 QStringList lossesOfParts(const platform::ImageSource &source)
 {
     using platform::PartBeside;
@@ -111,7 +111,7 @@ QStringList lossesOfParts(const platform::ImageSource &source)
     return losses;
 }
 
-/** What the type has no place for, of what is to be kept. */
+/** What is to be kept but cannot be stored in the type. */
 QStringList lossesOfMetadata(const OutputPlan &plan, const RecipeOutput &output, const platform::ImageSource &source)
 {
     const bool isHeldInPart = plan.type == OutputType::Gif || plan.type == OutputType::Pdf;
@@ -135,7 +135,7 @@ double megapixelsOf(QSize size)
     return double(size.width()) * size.height() / million;
 }
 
-/** The largest picture of this width for which @p fits holds, which it does for each that is smaller. */
+/** The largest picture of this width for which @p fits holds, as it does for every smaller one. */
 QSize largestThat(const std::function<bool(QSize)> &fits, QSize size)
 {
     int below = 1;
@@ -151,7 +151,7 @@ QSize largestThat(const std::function<bool(QSize)> &fits, QSize size)
 
 QString refusalFor(const OutputPlan &plan, const RecipeOutput &output, const Stage &end, int bits)
 {
-    constexpr qint64 most = 3LL << 29; // leaves a worker room for the pixels within what it may take
+    constexpr qint64 most = 3LL << 29; // leaves a worker room for the pixels within its limit
     if (plan.type != OutputType::JpegXl || plan.isLossless)
         return {};
     const int bands = (end.isGray ? 1 : 3) + (end.hasAlpha ? 1 : 0);

@@ -7,21 +7,23 @@
 /** What the types of outputs are and hold. */
 namespace image {
 
-/** The type that a file's own content would be written as; none where it cannot. */
+/** The type in which a file's own content would be written; none if it cannot be. */
 std::optional<OutputType> ownTypeOf(const platform::ImageSource &source);
 
 bool holdsAlpha(OutputType type);
 
-/** True where the result says less, or another resolution, than the source. */
+/** True if the result says less than the source, or another resolution. */
 bool changesMetadata(const RecipeOutput &output);
 
-/** True where that can be done to a file of the type without encoding its pixels; @p dpi where its resolution is to change. */
+/**
+ * True if that can be done to a file of the type without encoding its pixels; @p dpi if its resolution is to change.
+ */
 bool canRewriteMetadata(OutputType type, std::optional<double> dpi);
 
-/** Why a file of the planned size is not made, in a sentence: what it would take of memory. Empty where it is. */
+/** Why a file of the planned size is not made, in a sentence: the memory that it would need. Empty if it is. */
 QString refusalFor(const OutputPlan &plan, const RecipeOutput &output, const Stage &end, int bits);
 
-/** What of the picture the output will not have, in sentences. @p end is the picture behind all operations. */
+/** What the output will lack, in sentences. @p end is the picture after all operations. */
 QStringList lossesOf(const OutputPlan &plan, const RecipeOutput &output, const Stage &end,
                      const platform::ImageSource &source);
 

@@ -12,7 +12,7 @@ namespace {
 using platform::ImageSource;
 using platform::Result;
 
-/** What a list of operations comes to. */
+/** The overall effect of a list of operations. */
 struct Way
 {
     Stage end;
@@ -43,7 +43,7 @@ bool canTurnStored(const ImageSource &source, const RightTurn &turn)
                        [&source](platform::ExactTurn step) { return platform::canTurnWithoutLoss(source, step); });
 }
 
-/** Whether the output asks for another encoding, whatever becomes of the pixels. */
+/** Whether the output requires another encoding, even if the pixels do not change. */
 bool asksForEncoding(const RecipeOutput &output, const ImageSource &source)
 {
     if (output.quality || output.isLossless)

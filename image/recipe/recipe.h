@@ -13,22 +13,22 @@
 #include <variant>
 
 /**
- * What a person wants done to each picture: operations in their order, then outputs. Plain values, checked when they are read;
- * docs/recipes.md describes the file that holds them.
+ * What is to be done to each picture: operations in order, then outputs. Plain values, validated when they are read;
+ * docs/recipes.md describes the file format.
  */
 namespace image {
 
-/** Where something lies in something larger. Attention is the part that draws the eye. */
+/** The position of something within something larger. Attention is the part that draws the eye. */
 enum class Place { TopLeft, Top, TopRight, Left, Center, Right, BottomLeft, Bottom, BottomRight, Attention };
 
-/** What lengths are counted in; all but pixels are taken at a resolution. */
+/** The units of lengths; all except pixels depend on a resolution. */
 enum class RecipeUnit { Pixel, Millimetre, Centimetre, Inch, Point, Pica };
 
-/** How the lengths of an operation are meant. */
+/** How the lengths of an operation are interpreted. */
 struct Scale
 {
     RecipeUnit unit = RecipeUnit::Pixel;
-    std::optional<double> dpi; ///< 1 to 10000; the picture then has it. Without it the picture's own counts
+    std::optional<double> dpi; ///< 1 to 10000; the picture then has it. Without it the picture's own is used
 };
 
 enum class ResizeBy { Width, Height, Longest, Shortest, Percent, Megapixels, Box };
@@ -37,7 +37,7 @@ enum class BoxFit { Inside, Fill, Stretch, Pad };
 struct ResizeOperation
 {
     ResizeBy by = ResizeBy::Longest;
-    double number = 0; ///< a length, per cent or megapixels
+    double number = 0; ///< a length, percentage or megapixels
     double boxWidth = 0;
     double boxHeight = 0;
     BoxFit fit = BoxFit::Inside;
@@ -53,9 +53,9 @@ struct CropOperation
 {
     CropBy by = CropBy::Size;
     double width = 0;   ///< lengths, or the two numbers of a ratio
-    double height = 0;  ///< with Trim both are what is cut away in all
-    bool turns = true;  ///< the longer number of a ratio goes with the longer side of the picture
-    double percent = 0; ///< 0 to 99, cut away in all
+    double height = 0;  ///< with Trim both are the totals that are cut off
+    bool turns = true;  ///< the larger number of a ratio goes with the longer side of the picture
+    double percent = 0; ///< 0 to 99, the total that is cut off
     Place position = Place::Center;
     double right = 0; ///< moves the part
     double down = 0;
@@ -70,7 +70,7 @@ struct TurnOperation
 
 struct FlipOperation
 {
-    Qt::Orientation direction = Qt::Horizontal; ///< Horizontal: left and right change places
+    Qt::Orientation direction = Qt::Horizontal; ///< Horizontal: left and right are swapped
 };
 
 enum class RoundShape { Rectangle, Circle, Ellipse };
@@ -90,10 +90,10 @@ struct RoundOperation
     Scale scale;
 };
 
-/** A picture that a recipe names. */
+/** A picture named in a recipe. */
 struct RecipePicture
 {
-    QString path;                 ///< absolute; empty where there is none
+    QString path;                 ///< absolute; empty if there is none
     platform::ImageSource source; ///< opened with the recipe
 
     bool isNamed() const { return !path.isEmpty(); }
@@ -102,7 +102,7 @@ struct RecipePicture
 struct BackgroundOperation
 {
     QColor color;
-    RecipePicture pattern; ///< in place of the colour
+    RecipePicture pattern; ///< instead of the colour
 };
 
 struct FrameOperation
@@ -117,10 +117,10 @@ struct WatermarkOperation
     QString text; ///< with tokens
     QString font;
     QColor color = Qt::white;
-    RecipePicture picture; ///< in place of the text
+    RecipePicture picture; ///< instead of the text
     double size = 0;       ///< percent: of the picture's height for text, of its width for a picture
     Place position = Place::BottomRight;
-    double margin = 2; ///< per cent of the shorter side
+    double margin = 2; ///< percentage of the shorter side
     double angle = 0;  ///< degrees clockwise
     double opacity = 70;
     bool isTiled = false;

@@ -25,7 +25,7 @@ QString expectedNumber(const NumberRange &range)
     return form.arg(plain(range.least), plain(range.most));
 }
 
-/** A value as the file has it, cut where it is long. */
+/** A value as in the file, truncated if it is long. */
 QString written(const QJsonValue &value)
 {
     constexpr qsizetype longest = 60;

@@ -25,7 +25,7 @@ struct NumberRange
     double least = 0;
     double most = 0;
     bool isWhole = false;
-    bool isAboveLeast = false; ///< the least number itself does not count
+    bool isAboveLeast = false; ///< the minimum itself is excluded
 };
 
 /** The first thing that is wrong in a recipe. */
@@ -45,8 +45,8 @@ private:
 };
 
 /**
- * One object of a recipe that is read key by key. What is missing or wrong gives nothing, and wrong values state the problem;
- * finish() states keys that nobody has asked for.
+ * One object of a recipe that is read key by key. Missing or wrong values give nothing, and wrong ones report a
+ * problem; finish() reports keys that nobody has asked for.
  */
 class RecipeKeys
 {
@@ -91,9 +91,9 @@ public:
         return std::nullopt;
     }
 
-    /** Which of @p keys is there; states a problem unless it is exactly one. */
+    /** Which of @p keys is present; reports a problem unless it is exactly one. */
     std::optional<QString> oneOf(const QStringList &keys);
-    /** States a problem where @p key is there, which has no meaning unless @p reason holds. */
+    /** Reports a problem if @p key is present, which is meaningless unless @p reason holds. */
     void refuseKey(const char *key, const QString &reason);
     void complain(const char *key, const QString &what);
     void complain(const QString &what) { m_problem->state(m_place, what); }

@@ -25,7 +25,7 @@ constexpr Word<FileDates> dates[] = {{"now", FileDates::Now}, {"keep", FileDates
 constexpr Word<IfTaken> takens[] = {
     {"number", IfTaken::Number}, {"replace", IfTaken::Replace}, {"skip", IfTaken::Skip}, {"current", IfTaken::Current}};
 
-/** A file that stays what it is may be of any type. */
+/** A file whose type is kept may be of any type. */
 bool canHaveQuality(OutputType type)
 {
     return type == OutputType::Original || writtenType(type).hasQuality;
@@ -102,7 +102,7 @@ RecipeOutput outputFrom(RecipeKeys &keys, const RecipeFiles &files)
     return output;
 }
 
-/** The version first: a later one may mean everything else in another way. */
+/** The version first: a later one may give everything else another meaning. */
 bool readVersion(RecipeKeys &keys)
 {
     constexpr double latest = 1e9;

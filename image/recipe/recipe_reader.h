@@ -15,11 +15,14 @@ namespace image {
 /** The pictures, patterns and profiles that a recipe names. */
 struct RecipeFiles
 {
-    /** Absolute: paths in the recipe that are relative begin there. */
+    /** Absolute: relative paths in the recipe start there. */
     QString folder;
-    /** Opens one; those of the disk unless something else is said. */
+    /** Opens one; from the disk unless set otherwise. */
     std::function<platform::Result<std::shared_ptr<const platform::LentFile>>(const QString &path)> open = openedFile;
-    /** False: they are named and not looked at, and such a recipe cannot be carried out. For whoever hands them to somebody else. */
+    /**
+     * False: they are named but not opened, and such a recipe cannot be carried out. For processes that pass them to
+     * another one.
+     */
     bool areOpened = true;
 
     static platform::Result<std::shared_ptr<const platform::LentFile>> openedFile(const QString &path);
@@ -28,15 +31,15 @@ struct RecipeFiles
 /**
  * Reads a recipe from the UTF-8 JSON of its file.
  *
- * @param folder  absolute: paths in the recipe that are relative begin there
+ * @param folder  absolute: relative paths in the recipe start there
  *
- * Strict: an unknown key or token, a wrong type, a value out of its range, keys that exclude each other, and a picture, pattern,
- * font or profile that is not there fail with InvalidValue and one sentence that begins with the place, such as
+ * Strict: an unknown key or token, a wrong type, a value out of its range, mutually exclusive keys, and a missing
+ * picture, pattern, font or profile fail with InvalidValue and one sentence that begins with the place, such as
  * `operations[1].longest`. Pictures, patterns and profiles are opened for that, and pictures stay open with the recipe.
  */
 platform::Result<Recipe> readRecipe(const QByteArray &json, const QString &folder);
 
-/** The same with files that come from somewhere else. */
+/** The same with files from elsewhere. */
 platform::Result<Recipe> readRecipe(const QByteArray &json, const RecipeFiles &files);
 
 /** The absolute paths of the pictures, patterns and profiles that a recipe names, each once. */
@@ -45,7 +48,7 @@ QStringList filesOf(const Recipe &recipe);
 /** The same as readRecipe() of a file. Fails with NotFound too. */
 platform::Result<Recipe> readRecipeFile(const QString &path);
 
-/** The version that readRecipe() knows. */
+/** The version that readRecipe() supports. */
 constexpr int recipeVersion = 1;
 
 } // namespace image

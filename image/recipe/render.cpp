@@ -49,7 +49,7 @@ QSize keptSize(QSize size, const Rendition &from)
     return scaledSize(size, from).boundedTo(from.bitmap.size());
 }
 
-/** A part of @p size, of which @p from knows the place at full size. */
+/** A part of @p size, whose position at full size @p from knows. */
 Result<Bitmap> cutFrom(const Rendition &from, QPoint corner, QSize size, Place place)
 {
     const QSize kept = keptSize(size, from);
@@ -63,7 +63,7 @@ Result<Bitmap> cutFrom(const Rendition &from, QPoint corner, QSize size, Place p
     return platform::cut(from.bitmap, QRect(at, kept));
 }
 
-/** One operation on a rendition; the stage that comes out is known. */
+/** One operation on a rendition; the resulting stage is known. */
 class Doing
 {
 public:
@@ -72,7 +72,7 @@ public:
     Result<Bitmap> operator()(const ResizeOperation &resize) const
     {
         const Fitting fitting = fittingOf(resize, m_before.stage);
-        // A rendition that is smaller than the result stays as it is: what is shown of it needs no more.
+        // A rendition smaller than the result stays as it is: what is shown of it needs no more.
         const bool isFull = m_before.bitmap.size() == m_before.stage.size;
         const double share = isFull ? 1 : std::min(1.0, std::max(m_before.across(), m_before.down()));
         const QSize wanted(scaledSide(fitting.scaled.width(), share), scaledSide(fitting.scaled.height(), share));
@@ -81,7 +81,7 @@ public:
         return scaled.and_then([&](const Bitmap &bitmap) { return fitted(bitmap, resize, fitting); });
     }
 
-    /** Cuts what was scaled, or lays it on its canvas. */
+    /** Crops what was scaled, or puts it on its canvas. */
     Result<Bitmap> fitted(const Bitmap &bitmap, const ResizeOperation &resize, const Fitting &fitting) const
     {
         Rendition scaled = {bitmap, m_before.stage};
@@ -164,7 +164,7 @@ private:
         Q_UNREACHABLE();
     }
 
-    /** A colour that may be see-through itself. */
+    /** A colour that may itself be transparent. */
     static Result<Bitmap> laidOnAnyColor(const Bitmap &bitmap, const QColor &color)
     {
         if (color.alpha() == 255)
@@ -174,7 +174,7 @@ private:
         return platform::laidOn(bitmap, Bitmap::fromImage(dot));
     }
 
-    /** Colours what a turn has added, and nothing that was transparent before. */
+    /** Colours what a rotation has added, but nothing that was transparent before. */
     Result<Bitmap> withCorners(const Bitmap &turned, const platform::FreeTurn &turn, const QColor &color) const
     {
         if (!m_before.bitmap.hasAlpha())
@@ -203,7 +203,7 @@ private:
     FillText m_fill;
 };
 
-/** The shape inside a margin; radii shrink with it, so that both edges run side by side. */
+/** The shape inside a margin; radii shrink with it, so that both edges are parallel. */
 platform::RoundedRect shapeInside(RoundShape shape, double radius, QSizeF size, double margin)
 {
     platform::RoundedRect rect;
@@ -242,7 +242,7 @@ Result<Bitmap> Doing::operator()(const RoundOperation &round) const
         });
 }
 
-/** Right-angled turns wait until something needs the pixels. */
+/** Right-angled turns are deferred until something needs the pixels. */
 class Rendering
 {
 public:

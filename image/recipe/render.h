@@ -8,12 +8,12 @@
 
 namespace image {
 
-/** What texts of watermarks become: the tokens of one picture filled in. @p size is that of the picture at that point. */
+/** Fills in the tokens of watermark texts for one picture. @p size is that of the picture at that point. */
 using FillText = std::function<QString(const QString &pattern, QSize size)>;
 
 /**
  * Pixels of a picture between two operations. They may be fewer or more than the stage says: a preview works on a rendition as large
- * as the view, and gets there what the result would be at full size.
+ * as the view, and shows what the result would be at full size.
  */
 struct Rendition
 {
@@ -24,24 +24,25 @@ struct Rendition
     double down() const { return double(bitmap.height()) / stage.size.height(); }
 };
 
-/** What is known of a bitmap as a stage of its own size. */
+/** The stage of a bitmap at its own size. */
 Stage stageOf(const platform::Bitmap &bitmap);
 
 /**
- * What is left of a resize once the picture is scaled: @p scaled holds it at fitting.scaled, in the stage before the resize; it is cut or
- * laid on its canvas.
+ * The rest of a resize once the picture is scaled: @p scaled has the size fitting.scaled, in the stage before the
+ * resize; it is cropped or put on its canvas.
  */
 platform::Result<Rendition> fittedInto(const platform::Bitmap &scaled, const ResizeOperation &resize,
                                        const Stage &before);
 
 /**
- * The operations done one after the other, those that are off left out; adjacent right-angled turns and flips cost one. Fails as
- * changeOf() does, with Unreadable for a picture or pattern that cannot be read, and with TooLarge where memory fails.
+ * The operations applied one after the other, without disabled ones; adjacent right-angled turns and flips cost as much
+ * as one. Fails like changeOf(), with Unreadable for a picture or pattern that cannot be read, and with TooLarge if
+ * memory fails.
  */
 platform::Result<Rendition> rendered(const QList<RecipeStep> &steps, const Rendition &start, const FillText &fill);
 
 /**
- * Where the cut lies that the steps begin with, where that is found by looking at the picture, in pixels of the full one; nothing for
+ * The position of the initial crop, if it depends on the content of the picture, in pixels of the full one; nothing for
  * steps that begin otherwise.
  */
 std::optional<QRect> foundPart(const QList<RecipeStep> &steps, const Rendition &start);

@@ -45,7 +45,7 @@ RightTurn RightTurn::uprightFrom(int orientation)
 
 RightTurn RightTurn::then(const RightTurn &next) const
 {
-    // A mirroring behind a turn is the same as one before it with the turn the other way round.
+    // A mirroring after a turn equals one before it with the turn reversed.
     const int own = next.m_isMirrored ? allQuarters - m_quarters : m_quarters;
     return {(own + next.m_quarters) % allQuarters, m_isMirrored != next.m_isMirrored};
 }

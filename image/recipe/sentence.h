@@ -6,8 +6,8 @@
 namespace image {
 
 /**
- * What is said about recipes: in English at a command line and in reports, which know no other language, and in that of the window
- * there, if the text is marked by QT_TRANSLATE_NOOP("recipe", ...).
+ * Messages about recipes: in English at a command line and in reports, which have no other language, and in the
+ * language of the window there, if the text is marked by QT_TRANSLATE_NOOP("recipe", ...).
  */
 inline QString sentence(const char *english)
 {

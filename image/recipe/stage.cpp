@@ -26,7 +26,7 @@ int wholeSide(double side)
     return int(std::clamp(side, 1.0, most));
 }
 
-/** In the steps of the resize operations, fractions cut off. */
+/** As in resize operations, fractions are truncated. */
 QSize byWidth(QSize size, int width)
 {
     const double factor = width * hundred / size.width();
@@ -156,7 +156,7 @@ Result<Change> made(Effect effect, const Stage &after)
     return Change{effect, {}, after};
 }
 
-/** Knows what each kind of operation does to one stage. */
+/** Computes the effect of each kind of operation on one stage. */
 class Changes
 {
 public:
@@ -358,7 +358,7 @@ QRect cropPartOf(const CropOperation &crop, const Stage &stage)
 
 QSize turnedCanvas(const TurnOperation &turn, QSize size)
 {
-    constexpr double hair = 1e-6; // what is lost in the sines
+    constexpr double hair = 1e-6; // rounding errors of the sines
     const QSizeF box = turnedBox(QSizeF(size), -turn.degrees);
     return {wholeSide(box.width() + hair), wholeSide(box.height() + hair)};
 }

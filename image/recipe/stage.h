@@ -8,7 +8,7 @@
 #include <QByteArray>
 #include <QRect>
 
-/** What operations do to a picture, worked out from numbers alone: nothing here looks at a pixel. */
+/** The effects of operations on a picture, computed from numbers alone: no pixel is read. */
 namespace image {
 
 /** A picture between two operations. */
@@ -18,11 +18,14 @@ struct Stage
     double horizontalDpi = 72;
     double verticalDpi = 72;
     bool hasAlpha = false;
-    QByteArray profile; ///< ICC; empty for sRGB, or grey of its curve
+    QByteArray profile; ///< ICC; empty for sRGB, or grey with its curve
     bool isGray = false;
 };
 
-/** How a size is changed: scaled, then cut, then laid on a canvas. Each is the one before where nothing of the kind is done. */
+/**
+ * How a size is changed: scaled, then cropped, then put on a canvas. Each equals the one before if that step is not
+ * needed.
+ */
 struct Fitting
 {
     QSize scaled;
@@ -48,19 +51,25 @@ double inPixelsOf(double length, const Scale &scale, double dpi);
 
 Fitting fittingOf(const ResizeOperation &resize, const Stage &stage);
 
-/** The frame that is meant on a picture of that size; it may reach outside, and have no inside. */
+/** The intended frame on a picture of that size; it may extend outside, and be empty. */
 CropRect cropFrameOf(const CropOperation &crop, const Stage &stage);
 
-/** The part that is left, on a picture of that size; empty where nothing is. With Place::Attention its place is not known. */
+/**
+ * The part that is left, on a picture of that size; empty if there is none. With Place::Attention its position is
+ * unknown.
+ */
 QRect cropPartOf(const CropOperation &crop, const Stage &stage);
 
-/** The top left corner of something of @p inner in something of @p outer. */
+/** The top left corner of something of size @p inner in something of size @p outer. */
 QPoint placeOf(Place place, QSize inner, QSize outer);
 
 /** The canvas of a picture that is turned. */
 QSize turnedCanvas(const TurnOperation &turn, QSize size);
 
-/** What the operation does to a picture; fails with InvalidValue where nothing would be left, with TooLarge for what cannot be made. */
+/**
+ * The effect of the operation on a picture; fails with InvalidValue if nothing would be left, with TooLarge if the
+ * result is too large.
+ */
 platform::Result<Change> changeOf(const Operation &operation, const Stage &stage);
 
 } // namespace image

@@ -29,7 +29,7 @@ Qt::Alignment linesFor(Place place)
     }
 }
 
-/** A null bitmap where the text is empty once its tokens are filled in. */
+/** A null bitmap if the text is empty once its tokens are filled in. */
 Result<Bitmap> letters(const Rendition &rendition, const WatermarkOperation &mark, const FillText &fill)
 {
     const QString text = fill ? fill(mark.text, rendition.stage.size) : mark.text;
@@ -57,7 +57,7 @@ Result<Bitmap> turnedBy(const Bitmap &stamp, double degrees)
                                                platform::Surroundings::Transparent});
 }
 
-/** Rows and columns over the whole picture, with one in the place that was asked for. */
+/** Rows and columns over the whole picture, with one at the requested position. */
 QList<QPoint> tiles(QPoint first, QSize stamp, QSize picture, int gap)
 {
     constexpr qsizetype most = 100'000;

@@ -5,9 +5,9 @@
 namespace image {
 
 /**
- * The rendition with a text or picture laid over it. Text is filled in by @p fill; where nothing is left of it the picture stays as
- * it is. Its size counts from the picture at that point: the size of the font from its height, the width of a picture from its
- * width.
+ * The rendition with a text or picture over it. Text is filled in by @p fill; if it becomes empty, the picture stays as
+ * it is. Sizes are relative to the picture at that point: the size of the font to its height, the width of a picture to
+ * its width.
  */
 platform::Result<platform::Bitmap> watermarked(const Rendition &rendition, const WatermarkOperation &mark,
                                                const FillText &fill);

@@ -8,13 +8,13 @@ namespace image {
 /** "4032×3024". */
 QString pixelText(QSize pixels);
 
-/** The type identifier that a file's name promises; see platform::typeIdentifierForPath(). */
+/** The type identifier implied by a file's name; see platform::typeIdentifierForPath(). */
 QString typeOfName(const QString &name);
 
-/** A type identifier in the words of a list: "JPEG", "Photoshop"; the extension in capitals where it is unknown. */
+/** A type identifier in the words of a list: "JPEG", "Photoshop"; the extension in capitals if it is unknown. */
 QString typeWord(const QString &typeIdentifier);
 
-/** The size of the file in bytes, -1 where there is none. */
+/** The size of the file in bytes, -1 if there is none. */
 qint64 fileBytes(const QString &path);
 
 } // namespace image

@@ -6,7 +6,7 @@
 
 namespace image {
 
-/** What the scripts of a job do with pictures beside the services' own operations. Nothing here needs a window. */
+/** What the scripts of a job do with pictures besides the services' own operations. Nothing here needs a window. */
 class PictureService : public QObject
 {
     Q_OBJECT
@@ -15,10 +15,10 @@ public:
     using QObject::QObject;
 
     /**
-     * Writes the upright picture at @p path, laid on copies of the picture at @p pattern, as @p target, whose extension
-     * names the type; pixels, depth, profile and resolution stay, and no other metadata is kept. Atomic.
+     * Writes the upright picture at @p path, on a repeated tile of the picture at @p pattern, as @p target, whose
+     * extension determines the type; pixels, depth, profile and resolution stay, and no other metadata is kept. Atomic.
      *
-     * @return a sentence that says what failed; empty where nothing did
+     * @return a sentence that says what failed; empty on success
      */
     Q_INVOKABLE QString layOnPattern(const QString &path, const QString &pattern, const QString &target) const;
 
@@ -44,14 +44,14 @@ public:
     Q_INVOKABLE QVariantList rawTypes() const;
 
     /**
-     * True where a file of @p typeIdentifier holds the colour profile of the picture at @p path, or that has none; otherwise
-     * its colours become sRGB. False for what cannot be opened or written. Reads the header.
+     * True if a file of @p typeIdentifier can hold the colour profile of the picture at @p path, or that has none;
+     * otherwise its colours become sRGB. False for what cannot be opened or written. Reads the header.
      */
     Q_INVOKABLE virtual bool keepsProfile(const QString &path, const QString &typeIdentifier) const;
 
     /**
-     * The horizontal resolution of the upright picture at @p path in dots per inch, rounded up; 72 where it states none, 0 where it
-     * cannot be read. Reads the header.
+     * The horizontal resolution of the upright picture at @p path in dots per inch, rounded up; 72 if it states none, 0
+     * if it cannot be read. Reads the header.
      */
     Q_INVOKABLE virtual double resolution(const QString &path) const;
     /** A length in "mm", "cm", "inch", "pica" or "punt" as whole pixels at @p dpi; see image::inPixels(). */

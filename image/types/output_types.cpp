@@ -70,7 +70,7 @@ constexpr std::array<WrittenType, 10> types = {{
 constexpr int highestCode = 10;
 constexpr int highestConversionCode = 9;
 
-/** Tenths; a code below the highest is one digit, and any other text stands for the highest. */
+/** Tenths; every code except the highest is one digit, and any other text means the highest. */
 double qualityOf(const QString &code, int highest)
 {
     constexpr double steps = 10;
