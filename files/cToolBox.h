@@ -13,9 +13,9 @@
 /**
  * Collects the input of the actions, stages files, asks for folders, and saves pictures, texts and data where the user says.
  *
- * The operations that take no part in saving are called on the class, but for hChooseDirectory(), and keep nothing between
- * calls. Saving a picture takes an object with menus on its outlets; what was chosen in them stays in its fields. Nothing
- * raises. Main thread only; panels are modal.
+ * Operations that do not save are called on the class, except hChooseDirectory(), and store nothing between calls.
+ * Saving a picture requires an object with menus on its outlets; the choices stay in its fields. Nothing raises. Main
+ * thread only; panels are modal.
  */
 class cToolBox : public QObject
 {
@@ -34,7 +34,7 @@ class cToolBox : public QObject
     Q_PROPERTY(QVariant extensions MEMBER extensions)
     /** Not used by any operation. */
     Q_PROPERTY(QString myJPEGcompression MEMBER myJPEGcompression)
-    /** The panel of hSaveDialogFile() that is on the screen, or was last; null before. */
+    /** The panel of hSaveDialogFile() that is open, or was last; null before. */
     Q_PROPERTY(QObject *panel READ panel)
     /** The tags that were typed into the last panel that asked for them; null before. */
     Q_PROPERTY(QVariant tagNames MEMBER tagNames)
@@ -57,7 +57,7 @@ public:
      * @return a list of absolute paths of files, in the order of the panel or of the folder walk; empty if the user cancels;
      *         null, without a panel, for any other action type
      *
-     * Modal; main thread only. What a folder walk cannot read is left out.
+     * Modal; main thread only. Unreadable items in a folder walk are skipped.
      */
     Q_INVOKABLE QVariant hOpenDialogFiles(const QString &actionType);
 
@@ -70,54 +70,57 @@ public:
     /**
      * Copies a file beside itself under @p newName.
      *
-     * @return "successfull", spelled so, or "Failed". Where the name is taken that file stays as it is, and the copy is left
-     *         under the name with "-temp" behind it
+     * @return "successfull", spelled so, or "Failed". If the name is taken, that file stays as it is, and the copy
+     * remains
+     *         under the name with "-temp" appended
      */
     Q_INVOKABLE QString hStoreFiles(const QString &source, const QString &newName);
 
-    /** Copies to a path that nothing may be at: "successfull" or "Failed". */
+    /** Copies to a free path: "successfull" or "Failed". */
     Q_INVOKABLE QString hStoreFiles2(const QString &source, const QString &destination);
 
-    /** Copies into the staging folder, which must be there, under a free name: "successfull" or "Failed". */
+    /** Copies into the staging folder, which must exist, under a free name: "successfull" or "Failed". */
     Q_INVOKABLE QString hStoreTempFile(const QString &source, const QString &fileName);
 
-    /** The staging folder, "Temp" in the home folder. Not made here. */
+    /** The staging folder, "Temp" in the home folder. Not created here. */
     Q_INVOKABLE QString hGetTempDir();
 
     Q_INVOKABLE QString hGetHomeDir();
 
-    /** Asks for one folder, which can be made on the way: its path, null on cancel. Modal. */
+    /** Asks for one folder, which can be created in the panel: its path, null on cancel. Modal. */
     Q_INVOKABLE QString hChooseDirectory();
 
     /**
-     * What lies directly in a folder, as a list of locations in the file system's order, without hidden items. Null where
+     * The direct contents of a folder, as a list of locations in the file system's order, without hidden items. Null if
      * the folder cannot be read.
      */
     Q_INVOKABLE QVariant hGetFilesInDir(const QString &folder);
 
-    /** Opens a location in the program for its kind, a web address in the browser. Nothing happens for other text. */
+    /** Opens a location in the program for its kind, a web address in the browser. Does nothing for other text. */
     Q_INVOKABLE void hShowURL(const QString &location);
 
     /**
-     * The text as one percent-encoded segment of a location, slashes encoded too: "a/b c" gives "a%2Fb%20c". Null where
-     * that is no location.
+     * The text as one percent-encoded segment of a location, including slashes: "a/b c" gives "a%2Fb%20c". Null if that
+     * is no location.
      */
     Q_INVOKABLE QUrl hNSStrToUrl(const QString &text);
 
-    /** "109+" where the whole part of the framework's version number is 856 or more, else "108". */
+    /** "109+" if the whole part of the framework's version number is 856 or more, else "108". */
     Q_INVOKABLE QString hGetMacOSVersion();
 
-    /** Makes a PDF of a picture with the system's image tool and waits for it. Nothing happens where there is no such tool. */
+    /**
+     * Makes a PDF of a picture with the system's image tool and waits for it. Does nothing if there is no such tool.
+     */
     Q_INVOKABLE void hCallShellScript(const QString &input, const QString &output);
 
     /**
-     * Asks where to save a picture, and writes it there as the type and with the quality that the menus of pubFileType and
-     * pubJPEGcompression say when the panel closes, by the rules of image::convertFile().
+     * Asks where to save a picture, and writes it there with the type and quality that the menus of pubFileType and
+     * pubJPEGcompression show when the panel closes, by the rules of image::convertFile().
      *
-     * The panel starts in the Desktop folder with the source's name, shows wwFormats, and takes files of the chosen type only.
-     * Where the user default "MOS" is "109+" it also asks for tags, which are set on the file.
+     * The panel opens in the Desktop folder with the source's name, shows wwFormats, and accepts files of the chosen
+     * type only. If the user default "MOS" is "109+" it also asks for tags, which are set on the file.
      *
-     * @return the location of the file, its type, and the source's name without extension, also where nothing could be
+     * @return the location of the file, its type, and the source's name without extension, even if nothing could be
      *         written; null if the user cancels
      */
     Q_INVOKABLE QVariant hSaveDialogFile(const QString &source);
@@ -134,7 +137,7 @@ public:
     /** Asks where to save a text, and writes it there in UTF-8. */
     Q_INVOKABLE void hSaveWriteDialogFile(const QString &fileType, const QString &text, const QString &name);
 
-    /** The same for an action file: its path, whatever became of the writing; empty if the user cancels. */
+    /** The same for an action file: its path, even if writing failed; empty if the user cancels. */
     Q_INVOKABLE QString hSaveWriteDialogFile2(const QString &text, const QString &name);
 
     /** The same for data: the path; empty if the user cancels, if it cannot be written, and for null. */

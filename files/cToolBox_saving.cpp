@@ -20,14 +20,14 @@ bool hasTags()
     return platform::userDefault(QStringLiteral("MOS")).toString() == QLatin1String("109+");
 }
 
-/** Asks where to save; null where that is cancelled. */
+/** Asks where to save; null if that is cancelled. */
 QString askForFile(const QString &type, const QString &name)
 {
     platform::SavePanel panel;
     return files::chosenPath(panel.run(files::saveRequest(type, name)));
 }
 
-/** Operations that were cancelled, or that failed, answer with no text, which is not the same as nothing. */
+/** Operations that were cancelled, or that failed, answer with no text, which differs from null. */
 QString noText()
 {
     return QStringLiteral("");
@@ -57,7 +57,7 @@ QVariant cToolBox::hSaveDialogFile(const QString &source)
     request.folder = files::startFolder();
     request.showsTagField = asksForTags;
     request.accessory = wwFormats;
-    // A script that runs while the panel is up may open another one, which takes its place in the field.
+    // A script that runs while the panel is open may open another one, which replaces it in the field.
     const auto panel = std::make_shared<platform::SavePanel>();
     m_panel = panel;
     const platform::PanelAnswer answer = panel->run(request);

@@ -52,12 +52,12 @@ PlaceResult placeFileInsteadOf(platform::FileSystem &disk, const QString &from, 
     const std::error_code swapped = disk.exchange(from, to);
     if (swapped == std::errc::no_such_file_or_directory)
         return placeFile(disk, from, to);
-    // Looking first, as was done above, is all that is left there.
+    // Checking first, as above, is all that can be done there.
     if (swapped == std::errc::operation_not_supported)
         return resultOf(to, disk.replace(from, to));
     if (swapped)
         return failed(to, swapped);
-    // What was replaced is at hand now, and goes back if it is not what was meant.
+    // The replaced file is available now, and is put back if it is not the intended one.
     if (!isKnown(disk.look(from), known)) {
         const std::error_code back = disk.exchange(from, to);
         return back ? failed(to, back) : PlaceResult{PlaceOutcome::Taken, {}};

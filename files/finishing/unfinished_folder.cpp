@@ -29,7 +29,7 @@ const QString prefix = QStringLiteral(".quorlin-unfinished-");
 
 struct Held
 {
-    QByteArray path; ///< the name it was made under
+    QByteArray path; ///< the name under which it was created
     int descriptor = -1;
 };
 
@@ -39,8 +39,8 @@ QHash<QString, Held> &heldFolders()
     return folders;
 }
 
-// Where a disk has no locks, the number of the maker's process is asked instead. It says something only to processes that
-// number them alike: on this machine and in this container.
+// If a disk has no locks, the number of the creating process is checked instead. It is meaningful only to processes
+// with the same numbering: on this machine and in this container.
 QString machineMark()
 {
     static const QString mark = QString::fromLatin1(
@@ -70,7 +70,7 @@ QString throughDescriptor(int descriptor)
     return QStringLiteral("/proc/self/fd/%1/").arg(descriptor);
 }
 
-// Opens a folder under its own name; -1 where something else is there, or somebody else's.
+// Opens a folder under its own name; -1 if something else is there, or a folder of another user.
 int openOwn(const QByteArray &path)
 {
     const int descriptor = ::open(path.constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
@@ -80,7 +80,7 @@ int openOwn(const QByteArray &path)
     return -1;
 }
 
-// Empties the folder that is open, whatever its name leads to by now, and removes it if the name is still its own.
+// Empties the open folder, wherever its name leads by now, and removes it if the name is still its own.
 void removeOpen(int descriptor, const QByteArray &path)
 {
     std::error_code error;
@@ -108,7 +108,7 @@ QString makeStaging(const QString &folder)
         const QByteArray name = platform::encodedPath(path);
         if (::mkdir(name.constData(), 0700) != 0 && errno != EEXIST)
             return {};
-        // A folder that was there, or got there since, is left alone, and so is one that a sweeper got hold of first.
+        // An existing folder, or one that has appeared since, is left alone, and so is one that a sweeper locked first.
         const int descriptor = errno == EEXIST ? -1 : openOwn(name);
         errno = 0;
         if (descriptor < 0)
@@ -136,7 +136,7 @@ void removeStaging(const QString &staging)
 void sweepStagings(const QString &folder)
 {
     const platform::DiskFileSystem disk;
-    const QString own = disk.canonicalFolder(folder); // the folder may have been named by a link
+    const QString own = disk.canonicalFolder(folder); // the folder may have been given through a link
     for (const platform::FolderEntry &entry : disk.list(own).value_or(std::vector<platform::FolderEntry>())) {
         if (!entry.mayBeFolder || !entry.name.startsWith(prefix))
             continue;

@@ -93,20 +93,20 @@ std::optional<QStringList> panelTypes(ActionFamily family, Types types)
     return std::nullopt;
 }
 
-/** What follows the last dot of a name; empty where there is none. */
+/** What follows the last dot of a name; empty if there is none. */
 std::string_view extensionOf(std::string_view name)
 {
     const size_t dot = name.rfind('.');
     return dot == std::string_view::npos ? std::string_view() : name.substr(dot + 1);
 }
 
-/** True for the name of the file browser's settings file; a folder of that name is not looked into. */
+/** True for the name of the file browser's settings file; a folder of that name is not entered. */
 bool isBrowserSettingsName(std::string_view name)
 {
     return text(name).compare(QLatin1String(".DS_Store"), Qt::CaseInsensitive) == 0;
 }
 
-/** Both families count through the chosen files with this one number; it says nothing outside that loop. */
+/** Both families count the chosen files with this one number; it means nothing outside that loop. */
 qint32 runningIndex = 0;
 
 QStringList chosenFiles(const platform::PanelAnswer &answer)
@@ -127,7 +127,7 @@ bool isAscii(std::string_view bytes)
     return std::all_of(bytes.begin(), bytes.end(), [](char byte) { return uchar(byte) < 0x80; });
 }
 
-/** Paths as text. Files of one folder come together, so its part of the path is decoded once. */
+/** Paths as text. Files of one folder come in sequence, so its part of the path is decoded once. */
 class PathTexts
 {
 public:
@@ -138,7 +138,7 @@ public:
             m_folder = folder;
             m_folderText = decoded(folder);
         }
-        if (isAscii(item.name)) // nearly all are, and then one allocation does
+        if (isAscii(item.name)) // nearly all are, and then one allocation suffices
             return m_folderText % QLatin1String(item.name.data(), qsizetype(item.name.size()));
         return m_folderText + decoded(item.name);
     }

@@ -38,10 +38,10 @@ qsizetype startOfLast(const QByteArray &text, int count)
 platform::Result<void> appendLines(const QString &path, const QByteArray &lines)
 {
     QFile file(path);
-    // Whoever writes into a named pipe waits for a reader.
+    // Opening a named pipe for writing waits for a reader.
     const bool isFile = !QFileInfo::exists(path) || QFileInfo(path).isFile();
     if (isFile && file.open(QIODevice::ReadWrite | QIODevice::Append)) {
-        // In one piece, so that two programs that write at once do not mix their lines.
+        // In one piece, so that the lines of two processes writing at once do not mix.
         const QByteArray bytes = endsInTheMiddleOfALine(file) ? '\n' + lines : lines;
         if (file.write(bytes) == bytes.size() && file.flush())
             return {};

@@ -8,21 +8,21 @@
 namespace files {
 
 /**
- * Adds lines to the end of a file, which is made if need be. They begin a line of their own also where the file ends in the
- * middle of one, as a program that was ended by force leaves it. Not atomic. Fails with WriteFailed.
+ * Appends lines to a file, which is created if necessary. They start on a new line even if the file ends in the middle
+ * of one, as a killed process leaves it. Not atomic. Fails with WriteFailed.
  */
 platform::Result<void> appendLines(const QString &path, const QByteArray &lines);
 
 /**
- * The same for a file that nobody else may read, in a folder that is made if need be; the lines are on the disk afterwards. Fails with
- * WriteFailed.
+ * The same for a file that nobody else may read, in a folder that is created if necessary; the lines are synced to the
+ * disk. Fails with WriteFailed.
  */
 platform::Result<void> appendPrivateLines(const QString &path, const QByteArray &lines);
 
 /**
- * Keeps the last @p most lines of a file that has more than @p limit of them; touches no other. Atomic.
+ * Keeps the last @p most lines of a file that has more than @p limit; otherwise leaves it untouched. Atomic.
  *
- * @param limit  more than @p most, so that the file is not rewritten for each line that is added
+ * @param limit  more than @p most, so that the file is not rewritten for each added line
  *
  * Fails with NotFound, Unreadable or WriteFailed.
  */

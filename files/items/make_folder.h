@@ -4,14 +4,14 @@
 
 namespace files {
 
-/** How making a folder went. */
+/** The result of creating a folder. */
 enum class FolderMade {
     Yes,
-    WasThere, ///< anything at all is at the path, a file too
-    No,       ///< it could not be made
+    WasThere, ///< anything at all is at the path, even a file
+    No,       ///< it could not be created
 };
 
-/** Makes a folder with all folders above it that are missing. */
+/** Creates a folder with all missing parents. */
 FolderMade makeFolder(const QString &path);
 
 } // namespace files

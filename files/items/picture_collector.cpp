@@ -30,10 +30,10 @@ QSet<QString> lowered(const QStringList &extensions)
     return result;
 }
 
-/** A folder that was walked: the names in it, and where its folders stand in the list of all. */
+/** A folder that was walked: the names in it, and the position of its folders in the list of all. */
 struct Walked
 {
-    QString path; ///< with a slash at its end
+    QString path; ///< with a trailing slash
     QStringList files;
     std::vector<std::pair<QString, size_t>> folders;
 };
@@ -57,7 +57,7 @@ private:
     std::vector<Walked> walked(const QString &folder) const;
     void takeFolder(std::vector<Walked> folders);
 
-    /** In natural order. @p nameOf tells the name of an item. */
+    /** In natural order. @p nameOf answers the name of an item. */
     template<typename List, typename NameOf> void sort(List &items, const NameOf &nameOf) const
     {
         std::vector<std::pair<QCollatorSortKey, typename List::value_type>> keyed;
@@ -119,7 +119,7 @@ std::vector<Walked> Collector::walked(const QString &folder) const
     options.packageContents = m_takesAny ? platform::PackageContents::Visit : platform::PackageContents::Skip;
     const QString root = folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/');
     std::vector<Walked> all = {{root, {}, {}}};
-    // From the root down to the folder that is walked: where it stands in the list, and how long its path is.
+    // From the root down to the current folder: its position in the list, and the length of its path.
     std::vector<std::pair<size_t, size_t>> above = {{0, size_t(platform::encodedPath(root).size())}};
     platform::walkFolder(folder, options, [&](const platform::FolderItem &item) {
         while (above.size() > 1 && above.back().second != item.path.size() - item.name.size())

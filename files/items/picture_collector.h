@@ -6,36 +6,36 @@
 
 namespace files {
 
-/** How a name that is no valid text is listed. */
+/** How a name that is not valid text is listed. */
 enum class OddNames {
     AsText,  ///< with replacement characters, so that the file fails by name instead of being missed
-    AsPaths, ///< as platform::decodedPath() has it, so that the file can be opened
+    AsPaths, ///< as by platform::decodedPath(), so that the file can be opened
 };
 
-/** Which files a job takes, and what else is noted of those it passes over. Extensions in any case of letters. */
+/** Which files a job accepts, and what is recorded about the others. Extensions in any case of letters. */
 struct CollectRule
 {
-    QStringList extensions; ///< of the files that are taken; "*" takes every file, those in packages too
+    QStringList extensions; ///< of the accepted files; "*" accepts every file, including those in packages
     QStringList companions; ///< of files that may accompany a picture
-    QStringList listed; ///< of all files that come into the list, if another action takes them; empty for those taken
+    QStringList listed; ///< of all files that are listed, even if another action accepts them; empty for those accepted
     OddNames oddNames = OddNames::AsText;
 };
 
 struct Collected
 {
-    QStringList paths;   ///< what is taken
-    QStringList listed;  ///< what comes into the list
+    QStringList paths;   ///< the accepted files
+    QStringList listed;  ///< the listed files
     QStringList folders; ///< those of the given paths that are folders
     QStringList companions;
-    QString example; ///< the name of a file that is neither taken nor a companion
-    int leftOut = 0; ///< how many files are not taken
+    QString example; ///< the name of a file that is neither accepted nor a companion
+    int leftOut = 0; ///< how many files are not accepted
 };
 
 /**
- * Turns files and folders, as they were dropped or chosen, into the list of files to work on. Each folder is walked once, as
- * platform::walkFolder() does: links to files count, links to folders do not, and no path is too long.
+ * Turns dropped or chosen files and folders into the list of files to process. Each folder is walked once, like
+ * platform::walkFolder(): links to files count, links to folders do not, and no path is too long.
  *
- * The files of a folder come first, then its folders, each in natural order of their names.
+ * The files of a folder come first, then its subfolders, each in natural order of their names.
  */
 Collected collectFiles(const QStringList &paths, const CollectRule &rule);
 

@@ -7,30 +7,30 @@
 
 namespace files {
 
-/** The folder "Temp" in the user's home folder; not made here. */
+/** The folder "Temp" in the user's home folder; not created here. */
 QString stagingFolder();
 
 /**
- * Copies a file beside itself under another name; true if that was done. Where the name is taken nothing is replaced: the
- * answer is false, and the copy stays under the name with "-temp" behind it.
+ * Copies a file beside itself under another name; true on success. If the name is taken nothing is replaced: the answer
+ * is false, and the copy stays under the name with "-temp" appended.
  */
 bool storeBeside(const QString &source, const QString &name);
 
-/** Copies to a path that nothing may be at; true if that was done. */
+/** Copies to a free path; true on success. */
 bool storeAt(const QString &source, const QString &destination);
 
-/** Copies into the staging folder; false also where that folder is missing or the name is taken. */
+/** Copies into the staging folder; false also if that folder is missing or the name is taken. */
 bool storeInStaging(const QString &source, const QString &name);
 
 /**
- * The locations of what lies directly in a folder, hidden items left out, in the file system's own order. None where the
+ * The locations of the direct contents of a folder, without hidden items, in the file system's own order. None if the
  * folder cannot be read.
  */
 std::optional<QList<QUrl>> locationsIn(const QString &folder);
 
 /**
- * The text as one segment of a location: all but ASCII letters, digits and !$&'()*+,-.:;=[]_~ is percent-encoded, slashes
- * too. An empty location where that is none.
+ * The text as one segment of a location: everything except ASCII letters, digits and !$&'()*+,-.:;=[]_~ is
+ * percent-encoded, including slashes. An empty location if that is invalid.
  */
 QUrl locationOfOneSegment(const QString &text);
 

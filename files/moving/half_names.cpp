@@ -18,7 +18,7 @@ using platform::parentFolder;
 
 constexpr qint64 nsPerMs = 1'000'000;
 
-/** What had several names before has all of them to keep. */
+/** An item that had several hard links before must keep all of them. */
 bool hasMoreNames(const ItemState &now, const std::optional<ItemState> &was)
 {
     return was && was->names > 0 && now.kind != ItemKind::Folder && now.names > was->names;
@@ -45,7 +45,10 @@ bool HalfNames::areOne(const QString &one, const QString &other, const std::opti
     return first && second && isOneItem(*first, *second) && hasMoreNames(*first, was);
 }
 
-/** An empty file is left where the item never came: under its new name, its hidden one, that of a copy that was to go, or its old one. */
+/**
+ * An empty file remains where the item never arrived: under its new name, its hidden one, that of a copy to be removed,
+ * or its old one.
+ */
 void HalfNames::removePlaceholders(int index, const MoveRecord &record)
 {
     const MoveItem &item = record.item;
@@ -86,7 +89,7 @@ void HalfNames::removeSecondName(const QString &hidden, const std::optional<Item
         }
 }
 
-/** An item that everybody can see, under whatever name: it may have got a number. */
+/** An item with a visible name, whichever: it may have got a number. */
 bool HalfNames::isInFolderOf(const QString &path, const ItemState &state) const
 {
     const QString folder = parentFolder(path);

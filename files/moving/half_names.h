@@ -5,24 +5,25 @@
 namespace files {
 
 /**
- * What a kill leaves of names that were being given on a disk without a rename that replaces nothing. Such a disk either keeps the new
- * name with an empty file, or gives the item a second name and then takes the first one away.
+ * What a kill leaves of names being assigned on a disk that cannot rename without replacing. On such a disk an empty
+ * file reserves the new name, or the item gets a second hard link and then loses the first.
  */
 class HalfNames
 {
 public:
-    /** All of them must live as long as this. */
+    /** All of them must outlive this. */
     HalfNames(platform::FileSystem &disk, const RunRecord &run, PathsSince &now) : m_disk(disk), m_run(run), m_now(now)
     {
     }
 
     /**
-     * Removes what is left of one item's names: empty files made since the run began, and a hidden name where the item has a seen one
-     * besides. Then the item is where it would be, had the run been cut short a moment before or after.
+     * Removes the remains of one item's names: empty files created since the run began, and a hidden name if the item
+     * also has a visible one. Afterwards the item is where it would be if the run had been interrupted a moment earlier
+     * or later.
      */
     void remove(int index, const MoveRecord &record);
 
-    /** Whether two names lead to one item that had one name less when it was as @p was. */
+    /** Whether two names are hard links of one item that had one link less when it was @p was. */
     bool areOne(const QString &one, const QString &other, const std::optional<platform::ItemState> &was) const;
 
 private:

@@ -27,7 +27,7 @@ QStringList DiskJournalShelf::names() const
 {
     QStringList names;
     const QDir folder(m_folder);
-    // Not even to look at: a link could lead to a device that has no end.
+    // Not even checked: a link could lead to an endless device.
     for (const QFileInfo &file :
          folder.entryInfoList({u'*' + ending}, QDir::Files | QDir::NoSymLinks, QDir::Name | QDir::Reversed))
         if (file.isFile())

@@ -15,8 +15,8 @@ namespace files {
 using platform::Lasting;
 
 /**
- * Where the journals of runs are kept, one a run, each a text of lines that only grows. An abstract one, so that tests can
- * keep them in memory and stop a run at every line.
+ * Where the journals of runs are stored, one per run, each a text to which lines are only appended. Abstract, so that
+ * tests can keep them in memory and interrupt a run at every line.
  */
 class JournalShelf
 {
@@ -28,21 +28,21 @@ public:
 
     /** Names of all journals, newest first: names begin with the time. */
     virtual QStringList names() const = 0;
-    /** Makes a journal with these lines, on the disk at once, and holds it. */
+    /** Creates a journal with these lines, synced to the disk, and locks it. */
     virtual platform::Result<void> make(const QString &name, const QByteArray &lines) = 0;
-    /** Holds a journal so that no other process touches it; false where another does. */
+    /** Locks a journal so that no other process touches it; false if another one has locked it. */
     virtual bool hold(const QString &name) = 0;
     virtual void letGo(const QString &name) = 0;
-    /** Adds lines to a journal that is held. */
+    /** Appends lines to a locked journal. */
     virtual platform::Result<void> append(const QString &name, const QByteArray &lines, Lasting lasting) = 0;
-    /** Nothing where it cannot be read. */
+    /** Nothing if it cannot be read. */
     virtual std::optional<QByteArray> read(const QString &name) const = 0;
-    /** The first line and the last one, without reading what is between. */
+    /** The first and the last line, without reading what is in between. */
     virtual std::pair<QByteArray, QByteArray> ends(const QString &name) const = 0;
     virtual void remove(const QString &name) = 0;
 };
 
-/** Journals in files of a folder, which is made when the first one is. */
+/** Journals in files of a folder, which is created with the first one. */
 class DiskJournalShelf : public JournalShelf
 {
 public:

@@ -19,7 +19,7 @@ using platform::joinedPath;
 using platform::lastPathComponent;
 using platform::parentFolder;
 
-/** A name that sorts by time and that no other run has. */
+/** A unique name that sorts by time. */
 QString newId(const QDateTime &now)
 {
     return now.toUTC().toString(QStringLiteral("yyyyMMdd-HHmmss-zzz-")) +
@@ -90,7 +90,7 @@ void discardOldJournals(JournalShelf &shelf)
             shelf.remove(names[i]);
 }
 
-/** What the items of the run do to places, found out one after the other. */
+/** The places that the items of the run affect, found out one after the other. */
 class MoveBeginning::Looking
 {
 public:
@@ -153,7 +153,10 @@ void MoveBeginning::order()
     m_looking.reset();
 }
 
-/** The last lines are on the disk with all before them when this returns; a head that was cut short is one of a run that never began. */
+/**
+ * When this returns, the last lines are synced to the disk with all before them; a truncated head is that of a run that
+ * never began.
+ */
 void MoveBeginning::write()
 {
     constexpr int itemsAtOnce = 100;
@@ -179,7 +182,7 @@ platform::Result<std::unique_ptr<MoveRun>> MoveBeginning::take()
 {
     if (!m_trouble)
         return tl::unexpected(m_trouble.error());
-    m_isMade = false; // the run has it now
+    m_isMade = false; // the run owns it now
     std::unique_ptr<MoveRun> run(new MoveRun(m_disk, m_shelf, std::move(m_record)));
     run->m_emptyFolders = m_form.emptyFolders;
     return run;

@@ -7,8 +7,8 @@
 namespace files {
 
 /**
- * Begins a run in slices, for a window that is to answer meanwhile: looks at all its items, orders them, and writes the head of its journal.
- * Nothing moves before all of that is on the disk. Destroyed before take(), it leaves nothing.
+ * Starts a run in slices, for a window that must stay responsive: checks all its items, orders them, and writes the
+ * head of its journal. Nothing moves before all of that is on the disk. If destroyed before take(), it leaves nothing.
  */
 class MoveBeginning
 {
@@ -18,9 +18,9 @@ public:
     MoveBeginning(const MoveBeginning &) = delete;
     MoveBeginning &operator=(const MoveBeginning &) = delete;
 
-    /** Works for about this long, and always gets somewhere; true when all is done. */
+    /** Works for about this long, and always makes progress; true when finished. */
     bool workFor(std::chrono::milliseconds time);
-    /** The run; fails where its journal could not be written. Once, when workFor() said true. */
+    /** The run; fails if its journal could not be written. Once, after workFor() returned true. */
     platform::Result<std::unique_ptr<MoveRun>> take();
 
 private:
@@ -35,7 +35,7 @@ private:
     MoveOrderForm m_form;
     RunRecord m_record;
     std::unique_ptr<Looking> m_looking; ///< until all items are ordered
-    int m_written = 0;                  ///< items that the journal tells
+    int m_written = 0;                  ///< items written to the journal
     bool m_isMade = false;              ///< there is a journal
     bool m_isDone = false;
     platform::Result<void> m_trouble;
@@ -43,7 +43,7 @@ private:
 
 /** A record of a run that begins now, without items. */
 RunRecord newRecord(const QString &title);
-/** Takes the oldest journals away, so that there is a place for one more; those that are not ended stay. */
+/** Removes the oldest journals to make room for one more; those of unfinished runs stay. */
 void discardOldJournals(JournalShelf &shelf);
 
 } // namespace files

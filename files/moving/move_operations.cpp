@@ -24,7 +24,7 @@ OperationOutcome failed(MoveProblem why, const QString &path)
     return {why, sentence(why, path), {}, {}};
 }
 
-/** The standard library has no name for a user's share of the disk being used up. */
+/** The standard library has no name for an exhausted disk quota. */
 bool isForLackOfRoom(const std::error_code &error)
 {
     return error == std::errc::no_space_on_device || error == std::error_code(EDQUOT, std::generic_category());
@@ -132,7 +132,7 @@ OperationOutcome MoveOperations::move(int index, const QString &from, const QStr
                                                                                     : failureFor(error, from, to);
 }
 
-/** By identity, so that another road to a folder, such as a second mount of its disk, is seen through. */
+/** By identity, which recognises a folder reached by another path, such as a second mount of its disk. */
 bool MoveOperations::isInside(const QString &folder, const QString &item) const
 {
     const auto outer = m_disk.look(item);
@@ -146,7 +146,7 @@ bool MoveOperations::isInside(const QString &folder, const QString &item) const
     return false;
 }
 
-/** On a disk that does not tell cases apart, the new name seems to be taken by the item itself. */
+/** On a case-insensitive disk, the new name seems to be taken by the item itself. */
 bool MoveOperations::isSameUnderOtherCase(const QString &from, const QString &to) const
 {
     const QString folder = parentFolder(from);
@@ -203,7 +203,7 @@ OperationOutcome MoveOperations::copied(int index, const QString &from, const QS
     return done(to);
 }
 
-/** A name is on the disk only when the names of all the new folders above it are. */
+/** A name is on the disk only when the names of all its new parent folders are. */
 void MoveOperations::settleWayTo(const QString &path)
 {
     m_disk.settle(parentFolder(path));
@@ -230,7 +230,7 @@ OperationOutcome MoveOperations::movedToOtherDisk(int index, const QString &from
         return outcome;
     const auto after = m_disk.look(from);
     if (!after)
-        return outcome; // somebody has taken the source away: this is the last that is left of it
+        return outcome; // somebody has removed the source: this is all that is left of it
     if (!before || !isUnchanged(*before, *after))
         return withoutCopy(index, failed(MoveProblem::Changed, from), from, outcome);
     const Removal removal = removeWhole(index, from, to);
@@ -248,8 +248,8 @@ OperationOutcome MoveOperations::movedToOtherDisk(int index, const QString &from
 }
 
 /**
- * Takes a copy away again whose source has to stay, unless somebody has put something into it. It is put aside first and the source
- * looked for once more after that, so that two who give way to each other do not both take theirs away.
+ * Removes a copy whose source must stay, unless somebody has put something into it. It is moved aside first and the
+ * source checked once more after that, so that two processes backing out do not both remove theirs.
  */
 OperationOutcome MoveOperations::withoutCopy(int index, OperationOutcome why, const QString &source,
                                              const OperationOutcome &copy)
@@ -275,7 +275,7 @@ OperationOutcome MoveOperations::withoutCopy(int index, OperationOutcome why, co
     return why;
 }
 
-/** What is removed leaves its place in one step and goes only if it is still what was copied. */
+/** What is removed is moved aside in one step and deleted only if it is still what was copied. */
 MoveOperations::Removal MoveOperations::removeWhole(int index, const QString &path, const QString &copy)
 {
     const QString aside = asidePath(m_run, index, {Operation::Move, path, {}});
@@ -329,7 +329,9 @@ OperationOutcome MoveOperations::trashed(const QString &path)
     return {MoveProblem::Other, trashed.error().message, {}, {}};
 }
 
-/** A copy goes into the trash: whatever somebody does to it, or to its original, at the last moment, nothing is lost. */
+/**
+ * A copy goes into the trash: whatever somebody does to it, or to its original, at the last moment, nothing is lost.
+ */
 OperationOutcome MoveOperations::copyRemoved(const MoveItem &item)
 {
     const auto copy = m_disk.look(item.from);

@@ -4,16 +4,16 @@
 
 namespace files {
 
-/** How the operation on one item went. */
+/** The outcome of the operation on one item. */
 struct OperationOutcome
 {
     MoveProblem why = MoveProblem::None; ///< none: done
     QString message;                     ///< why not, a sentence
-    QString path;                        ///< where the item is since then; empty if it was removed
+    QString path;                        ///< its path since then; empty if it was removed
     std::optional<platform::ItemState> is = std::nullopt;
 };
 
-/** What must be in the journal before a operation goes on. Fails where it could not be written. */
+/** What must be in the journal before an operation continues. Fails if it could not be written. */
 class OperationLog
 {
 public:
@@ -21,13 +21,13 @@ public:
     OperationLog(const OperationLog &) = delete;
     OperationLog &operator=(const OperationLog &) = delete;
     virtual ~OperationLog() = default;
-    /** A copy is whole, under its temporary name. */
+    /** A copy is complete, under its temporary name. */
     virtual platform::Result<void> noteCopy(int index, const platform::ItemState &state) = 0;
-    /** A folder is about to be made. */
+    /** A folder is about to be created. */
     virtual platform::Result<void> noteFolder(const QString &folder) = 0;
 };
 
-/** The hidden name of an item that stands aside, in its own folder or in the one that it goes to. */
+/** The hidden name of an item that is moved aside, in its own folder or in the destination's. */
 QString asidePath(const QString &run, int index, const MoveItem &item);
 /** The hidden name of an unfinished copy beside its target. */
 QString partPath(const QString &run, int index, const QString &to);
@@ -35,8 +35,9 @@ QString partPath(const QString &run, int index, const QString &to);
 /**
  * Carries out the operations of one run, one at a time.
  *
- * Nothing is replaced. A operation that fails leaves the item where it was. Temporary names begin with ".quorlin-aside-" and are
- * made of the run and the item's number, so that they can be found again after an interruption.
+ * Nothing is replaced. An operation that fails leaves the item where it was. Temporary names begin with
+ * ".quorlin-aside-" and are made of the run and the item's number, so that they can be found again after an
+ * interruption.
  */
 class MoveOperations
 {
@@ -46,25 +47,25 @@ public:
     {
     }
 
-    /** @param source  where the item is: its old place, or its temporary one */
+    /** @param source  the present path of the item: its old one, or its temporary one */
     OperationOutcome carryOut(int index, const MoveItem &item, const QString &source);
     /** Gives an item its temporary name. */
     OperationOutcome stepAside(int index, const MoveItem &item);
     /** Moves without verifying the identity of the source. */
     OperationOutcome move(int index, const QString &from, const QString &to);
 
-    /** Restores the name of an item that stands aside, with a number if it is taken; its path is then answered. */
+    /** Restores the name of an item that was moved aside, with a number if it is taken; its path is then answered. */
     QString putBack(const QString &aside, const QString &path);
 
-    /** Whether something under a temporary name could not be taken away. */
+    /** Whether something under a temporary name could not be removed. */
     bool hasLeftOver() const { return m_hasLeftOver; }
 
 private:
     struct Removal
     {
         std::error_code error;
-        QString path;        ///< where it is if it could not be removed
-        bool isWhole = true; ///< false: a part of it is gone
+        QString path;        ///< its path if it could not be removed
+        bool isWhole = true; ///< false: part of it is gone
     };
 
     OperationOutcome moved(int index, const MoveItem &item, const QString &source);
@@ -89,7 +90,7 @@ private:
     QString m_run;
     OperationLog &m_log;
     bool m_hasLeftOver = false;
-    QStringList m_newFolders; ///< whose names may not be on the disk yet
+    QStringList m_newFolders; ///< whose names may not be synced yet
 };
 
 /** The failure for a system's error that hit the item at @p path on its way to @p to. */

@@ -16,7 +16,7 @@ PathsSince::PathsSince(const RunRecord &run) : m_isInTurn(run.isByHand)
         const MoveRecord &record = run.items[size_t(i)];
         const auto &state = record.is ? record.is : record.item.was;
         const bool isFolder = state && state->kind == platform::ItemKind::Folder;
-        // One that failed may have got a number, when another program took its old name.
+        // A failed one may have got a number, when another program took its old name.
         const bool isMoved = record.stand == Stand::Done || (record.stand == Stand::Failed && !record.path.isEmpty() &&
                                                              record.path != record.item.from);
         if (!isMoved || !record.isKnown || record.path.isEmpty() || record.item.operation != Operation::Move ||
@@ -56,7 +56,7 @@ bool PathsSince::wasCopied(const QString &path, int index) const
     return false;
 }
 
-/** All paths of a plan are those before the run, so the folders above are followed one by one. */
+/** All paths of a plan are those before the run, so the parent folders are followed one by one. */
 QString PathsSince::folderNow(const QString &folder)
 {
     if (folder.size() < 2)
@@ -65,7 +65,7 @@ QString PathsSince::folderNow(const QString &folder)
         return *known;
     const qsizetype at = m_at.value(folder, -1);
     const QString place = at < 0 ? folder : m_moved[size_t(at)].to;
-    m_known.insert(folder, folder); // for a journal whose folders go round
+    m_known.insert(folder, folder); // for a journal whose folders form a cycle
     const QString now = joinedPath(folderNow(parentFolder(place)), lastPathComponent(place));
     m_known.insert(folder, now);
     return now;

@@ -6,15 +6,15 @@
 
 namespace files {
 
-/** Where the places of a run are since folders around them were moved by the same run. */
+/** Where the places of a run are after the same run moved folders around them. */
 class PathsSince
 {
 public:
     explicit PathsSince(const RunRecord &run);
 
-    /** Where what was at @p path, when item @p index was dealt with, is to be found now. */
+    /** The present path of what was at @p path when item @p index was processed. */
     QString operator()(const QString &path, int index);
-    /** Whether a folder above it went to another disk since: what is in it has another identity there. */
+    /** Whether a parent folder was moved to another disk since: its contents have another identity there. */
     bool wasCopied(const QString &path, int index) const;
 
 private:

@@ -32,7 +32,7 @@ QString key(const char *text)
     return QString::fromLatin1(text);
 }
 
-/** The sum is the last value of a line, over all that is before it. */
+/** The checksum is the last value of a line, over everything before it. */
 const QByteArray sumMark = ",\"~\":\"";
 constexpr qsizetype sumDigits = 4;
 
@@ -48,7 +48,7 @@ QByteArray lineOf(const QJsonObject &object)
     return text + sumMark + sumOf(text) + "\"}\n";
 }
 
-/** What a line says; nothing where it is damaged. Lines of older journals have no sum. */
+/** The contents of a line; nothing if it is damaged. Lines of older journals have no checksum. */
 QJsonObject objectIn(QByteArrayView line)
 {
     const qsizetype textSize = line.size() - sumMark.size() - sumDigits - 2;
@@ -106,7 +106,7 @@ void insertState(QJsonObject &object, const char *name, const std::optional<Item
         object.insert(key(name), stateObject(*state));
 }
 
-/** Takes the lines of a journal, one after the other. */
+/** Processes the lines of a journal, one after the other. */
 class JournalReader
 {
 public:
@@ -129,7 +129,7 @@ public:
         }
     }
 
-    /** The last line is not whole; it may be the end of one before it that was not whole either. */
+    /** The last line is incomplete; it may continue an earlier incomplete one. */
     void takeCut(QByteArrayView rest)
     {
         const bool isOfCut = m_lastWasDamaged && rest.size() < m_cut.size() && m_cut.startsWith(rest);
@@ -152,7 +152,7 @@ public:
     }
 
 private:
-    /** False where the line speaks of what cannot be. */
+    /** False if the line says something impossible. */
     bool takeObject(const QJsonObject &line)
     {
         if (line.contains(key("run")))
@@ -264,7 +264,7 @@ private:
         return true;
     }
 
-    /** A link may say anything, and what is trashed goes nowhere. */
+    /** A link may have any target, and what is trashed has no destination. */
     static bool hasPlaces(const MoveItem &item)
     {
         const bool hasFrom = item.from.startsWith(u'/') || item.operation == Operation::Link;

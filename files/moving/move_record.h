@@ -20,10 +20,10 @@ namespace files {
 enum class Operation {
     Move,
     Copy,
-    Link,       ///< `from` is what the link says
+    Link,       ///< `from` is the text of the link
     Trash,      ///< `to` is empty
     RemoveCopy, ///< `from` is the copy, `to` its original
-    RemoveLink, ///< `from` is the link, `to` what it must say
+    RemoveLink, ///< `from` is the link, `to` its expected text
     Restore,    ///< `from` is in the trash
 };
 
@@ -41,14 +41,14 @@ struct MoveItem
     Operation operation = Operation::Move;
     QString from;
     QString to;
-    int of = -1;          ///< when a run is taken back: the item of that run
+    int of = -1;          ///< when a run is undone: the item of that run
     int leader = -1;      ///< the item that this one moves with
-    bool isAhead = false; ///< it steps aside in the folder of `to`, not in its own
+    bool isAhead = false; ///< it is moved aside in the folder of `to`, not in its own
     std::optional<platform::ItemState> was =
         std::nullopt; ///< what was at `from` when the run began; for a link, nothing
 };
 
-/** One item of a run as its journal tells it. */
+/** One item of a run as recorded in its journal. */
 struct MoveRecord
 {
     MoveItem item;
@@ -56,20 +56,20 @@ struct MoveRecord
     Stand stand = Stand::Waiting;
     MoveProblem why = MoveProblem::None; ///< it failed
     QString message;                     ///< a sentence for the user, for `why`
-    QString path; ///< where it is since it is done; in the trash, if it was trashed; empty if it is removed
-    std::optional<platform::ItemState> is = std::nullopt;     ///< what is there since then
+    QString path; ///< its path since it was processed; in the trash, if it was trashed; empty if it was removed
+    std::optional<platform::ItemState> is = std::nullopt;     ///< what has been there since then
     std::optional<platform::ItemState> copied = std::nullopt; ///< the copy that was about to get its name
 };
 
-/** What can be made out of a line that is damaged. */
+/** What can be recovered from a damaged line. */
 struct DamagedLine
 {
     int item = -1;
     QString from;      ///< the old place of the item, perhaps with a wrong letter
-    QStringList paths; ///< all that look like places
+    QStringList paths; ///< everything that looks like a path
 };
 
-/** A run as its journal tells it. */
+/** A run as recorded in its journal. */
 struct RunRecord
 {
     QString id;
@@ -78,22 +78,22 @@ struct RunRecord
     QString undoes;        ///< the run that this one undoes
     QString by;            ///< the mark of the process that began it
     bool isByHand = false; ///< items are added one by one
-    int count = 0;         ///< items that the journal must tell before the first of them moves
+    int count = 0;         ///< items that the journal must contain before the first of them moves
     std::vector<MoveRecord> items;
     std::vector<MoveStep> steps;
     QStringList made; ///< folders that the run made
     QString end;      ///< "done", "cancelled" or "recovered"; empty while it is open
     int doneAtEnd = 0;
-    bool isWhole = true;    ///< false: the last line was cut short
-    bool isBegun = false;   ///< a line tells that something was done
-    bool isDamaged = false; ///< lines cannot be read, or speak of what cannot be
+    bool isWhole = true;    ///< false: the last line was truncated
+    bool isBegun = false;   ///< a line says that something was done
+    bool isDamaged = false; ///< lines cannot be read, or say something impossible
     std::vector<DamagedLine> damaged;
 };
 
 /** Whether two paths lead to one item, at this moment. */
 bool isOneItem(const platform::ItemState &one, const platform::ItemState &other);
 bool isSameItem(const platform::ItemState &one, const platform::ItemState &other);
-/** Two items that could be the same but for their identity: one kind, as large and as old. */
+/** Two items that could be the same except for their identity: same kind, size and date. */
 bool isAlike(const platform::ItemState &one, const platform::ItemState &other);
 /** The same item with, as far as dates and sizes tell, the same content. A folder may have changed inside. */
 bool isUnchanged(const platform::ItemState &one, const platform::ItemState &other);
@@ -107,17 +107,17 @@ QByteArray failedLine(int index, const MoveRecord &record);
 QByteArray takenBackLine(int index);
 QByteArray copiedLine(int index, const platform::ItemState &state);
 QByteArray makingLine(const QString &folder);
-/** Ends a line that was cut short. */
+/** Completes a truncated line. */
 QByteArray cutLine();
 QByteArray endLine(const QString &end, int count, int done);
 
 /**
- * A journal read again. Every line has a sum by which a damaged one is known; those are passed over, as one that was cut short is.
- * Items whose lines are damaged are there, unknown and skipped, so that the numbers of the others are right.
+ * A journal read back. Every line has a checksum that reveals damage; damaged lines are skipped, and so is a truncated
+ * one. Items whose lines are damaged are included, unknown and skipped, so that the numbers of the others are right.
  */
 RunRecord readRecord(const QByteArray &journal);
 
-/** The same a line at a time, for a window that is to answer meanwhile. */
+/** The same a line at a time, for a window that must stay responsive. */
 class RecordReading
 {
 public:
@@ -126,7 +126,7 @@ public:
 
     /** Reads a line; true when there is none left. */
     bool step();
-    /** Once, when step() said true. */
+    /** Once, after step() returned true. */
     RunRecord take();
 
 private:

@@ -20,7 +20,7 @@ using platform::ItemState;
 
 const QString recoveredEnd = QStringLiteral("recovered");
 
-/** Finds out where the items of an interrupted run are, and takes away what is left of unfinished copies. */
+/** Finds out where the items of an interrupted run are, and removes unfinished copies. */
 class Search
 {
 public:
@@ -81,20 +81,22 @@ private:
         record.is = path.isEmpty() ? std::nullopt : m_disk.look(path);
     }
 
-    /** What the journal says was done stands; what it does not know was done if it looks so. */
+    /** What the journal says was done is trusted; what it does not know was done if it looks so. */
     void decide(MoveRecord &record, bool looksDone)
     {
         if (record.stand == Stand::Waiting && looksDone)
             done(record, record.item.operation == Operation::RemoveLink ? QString() : record.item.to);
     }
 
-    /** Unfinished files are named through a folder that their process has open: what they were goes with it, and is made again. */
+    /**
+     * Unfinished files are named through a folder that their process has open: they are lost with it, and made again.
+     */
     static bool isOfUnfinished(const MoveRecord &record)
     {
         return record.item.operation == Operation::Copy && record.item.from.startsWith(QStringLiteral("/proc/self/"));
     }
 
-    /** A copy that never got its name goes, if what it was made from is still there; else it is the last that is left. */
+    /** A copy that never got its name is removed if its original still exists; otherwise it is all that is left. */
     void removePart(int index, MoveRecord &record)
     {
         const bool makesCopy = record.item.operation == Operation::Move || record.item.operation == Operation::Copy;
@@ -116,7 +118,7 @@ private:
         }
     }
 
-    /** Some disks number their items differently after a restart; what is at least alike is then taken for the source. */
+    /** Some disks number their items differently after a restart; a matching item is then taken for the source. */
     bool isSource(const QString &path, const QString &part, const MoveRecord &record) const
     {
         const auto found = m_disk.look(path);
@@ -176,7 +178,7 @@ private:
         });
     }
 
-    /** A folder is also aside while it is removed, after it was copied to another disk. */
+    /** A folder is also moved aside while it is being removed, after it was copied to another disk. */
     void findAside(MoveRecord &record, const QString &aside, bool isCopied)
     {
         if (!isCopied || !holds(record.item.to, aside)) {
@@ -189,7 +191,7 @@ private:
         done(record, record.item.to);
     }
 
-    /** What is left of a folder that was copied to another disk, in a folder that moved since. */
+    /** The remains of a folder that was copied to another disk, in a folder that has moved since. */
     void putAway(const MoveItem &item, const QString &left)
     {
         const QString place =
@@ -200,7 +202,7 @@ private:
             problems.append(QCoreApplication::translate("files", "%1 could not be moved aside").arg(left));
     }
 
-    /** A copy on another disk, or a second name on this one, was made and the first not yet removed. */
+    /** A copy on another disk, or a second link on this one, was made and the first not yet removed. */
     void findBoth(int index, MoveRecord &record, bool isCopied)
     {
         const MoveItem &item = record.item;
@@ -239,7 +241,7 @@ private:
             problems.append(sentence(MoveProblem::Gone, item.from));
     }
 
-    /** What is in its place and in the trash was on its way from one to the other. */
+    /** What is both in its place and in the trash was on its way from one to the other. */
     void takeOutOfTrash(const MoveRecord &record)
     {
         const MoveItem &item = record.item;
@@ -259,7 +261,7 @@ private:
             m_disk.discardHalfTrashed(item.to);
     }
 
-    /** Nothing is left of it but the copy in the trash, which is another item with the same size and date. */
+    /** Only the copy in the trash is left, which is another item with the same size and date. */
     bool findCopyInTrash(MoveRecord &record)
     {
         for (const platform::TrashedItem &trashed : m_disk.allTrashed(record.item.from)) {
@@ -272,7 +274,7 @@ private:
         return false;
     }
 
-    /** Some disks keep dates of two seconds. */
+    /** Some disks store dates with a resolution of two seconds. */
     static bool isAlikeOnAnyDisk(ItemState one, const ItemState &other)
     {
         constexpr qint64 coarse = 2'000'000'000;
@@ -282,8 +284,8 @@ private:
     }
 
     /**
-     * Where a file system has no trash the item is copied into one, and then leaves its place under a hidden name. What is left of
-     * it there goes if the trash has all of it, and back into its place otherwise.
+     * If a file system has no trash, the item is copied into another one, and then moved aside under a hidden name. Its
+     * remains there are removed if the trash has all of it, and moved back otherwise.
      */
     bool findHalfTrashed(MoveRecord &record)
     {
@@ -304,14 +306,14 @@ private:
         return false;
     }
 
-    /** What was removed stands aside for a moment. */
+    /** What was removed is moved aside for a moment. */
     void bringBackRemoved(int index, const MoveRecord &record)
     {
         if (const QString left = asidePath(m_run.id, index, record.item); m_disk.look(left))
             (void)m_names.putBack(left, record.item.from);
     }
 
-    /** Copies are trashed; older journals tell of those that were removed. */
+    /** Copies are trashed; older journals list some that were removed. */
     void findRemoved(int index, MoveRecord &record)
     {
         const MoveItem &item = record.item;
@@ -331,10 +333,10 @@ private:
     PathsSince m_now;
     HalfNames m_halfNames{m_disk, m_run, m_now};
     SilentOperationLog m_log;
-    MoveOperations m_names{m_disk, m_run.id, m_log}; ///< gives names back
+    MoveOperations m_names{m_disk, m_run.id, m_log}; ///< restores names
 };
 
-/** Tells the journal what was found, so that it stands by itself afterwards. */
+/** Writes the findings to the journal, so that it is complete afterwards. */
 QByteArray newsOf(const RunRecord &before, const RunRecord &now)
 {
     QByteArray lines;
@@ -389,7 +391,7 @@ RecoveredRun recoverOne(platform::FileSystem &disk, JournalShelf &shelf, RunReco
     return report;
 }
 
-/** Nothing moves before the head of the journal is whole, so a run without one has done nothing. */
+/** Nothing moves before the head of the journal is complete, so a run without one has done nothing. */
 bool neverBegan(platform::FileSystem &disk, const RunRecord &run)
 {
     const bool isHeadWhole = run.isByHand || (int(run.items.size()) == run.count && !run.steps.empty());

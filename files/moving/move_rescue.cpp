@@ -9,7 +9,7 @@
 namespace files {
 namespace {
 
-/** Looks for what a damaged journal does not tell of: items that still have their temporary names. */
+/** Searches for what a damaged journal does not mention: items that still have their temporary names. */
 class Rescue
 {
 public:
@@ -91,7 +91,7 @@ private:
                             .arg(path, platform::lastPathComponent(place)));
     }
 
-    /** The name that the journal tells, even in a line that is damaged; otherwise one made of the item's number. */
+    /** The name in the journal, even in a damaged line; otherwise one made from the item's number. */
     QString nameFor(const QString &tail) const
     {
         const bool isCopy = tail.endsWith(QStringLiteral("-copy"));

@@ -6,19 +6,19 @@
 
 namespace files {
 
-/** For operations that no journal has to tell of. */
+/** For operations that need no journal. */
 class SilentOperationLog : public OperationLog
 {
     platform::Result<void> noteCopy(int, const platform::ItemState &) override { return {}; }
     platform::Result<void> noteFolder(const QString &) override { return {}; }
 };
 
-/** Whether items that have their temporary names from this run lie in the folders that its journal mentions. */
+/** Whether items with temporary names of this run are in the folders that its journal mentions. */
 bool hasHidden(const platform::FileSystem &disk, const RunRecord &run);
 
 /**
- * Gives items names again that a damaged journal does not tell of: those that its lines still let read, or else "recovered-" and the
- * item's number. Answers what is to be said of it.
+ * Restores names of items that a damaged journal does not list: those that can still be read from its lines, or else
+ * "recovered-" and the item's number. Answers a message about it.
  */
 QStringList rescueHidden(platform::FileSystem &disk, const RunRecord &run);
 

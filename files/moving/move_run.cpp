@@ -72,7 +72,7 @@ std::unique_ptr<MoveRun> MoveRun::resume(platform::FileSystem &disk, JournalShel
     return std::unique_ptr<MoveRun>(new MoveRun(disk, shelf, std::move(record)));
 }
 
-/** What could not be written, on a disk that was full, comes before the next line; so the journal lacks nothing in the middle. */
+/** What could not be written because the disk was full precedes the next line; so there are no gaps in the journal. */
 platform::Result<void> MoveRun::note(const QByteArray &line, Lasting lasting)
 {
     m_unwritten += line;
@@ -107,7 +107,7 @@ std::optional<MoveResult> MoveRun::next()
     return result;
 }
 
-/** Items that no order allows have no step. */
+/** Items that cannot be ordered have no step. */
 void MoveRun::refuseWithoutSteps()
 {
     m_areRestRefused = true;
@@ -194,7 +194,7 @@ bool MoveRun::isToBeSkipped(int index)
     return true;
 }
 
-/** Whether a later step of the group needs the place where this item still is. */
+/** Whether a later step of the group needs this item's present place. */
 bool MoveRun::isWaitedFor(int index)
 {
     const QString place = placeOf(at(index).item.from);
@@ -204,7 +204,7 @@ bool MoveRun::isWaitedFor(int index)
     return false;
 }
 
-/** Takes the steps of the group back, the last one first. */
+/** Undoes the steps of the group, last one first. */
 void MoveRun::takeBackGroup(const OperationOutcome &why)
 {
     for (size_t i = m_step; i-- > m_groupBegin;) {
@@ -285,7 +285,7 @@ void MoveRun::close(const QString &end)
     const auto isAside = [](const MoveRecord &record) { return record.stand == Stand::Aside; };
     const auto isDone = [](const MoveRecord &record) { return record.stand == Stand::Done; };
     const auto done = std::count_if(m_record.items.begin(), m_record.items.end(), isDone);
-    // What could not be brought back or taken away is tried again at the next start, and so is a journal that lacks a line.
+    // The next start tries again to restore or remove what could not be, and so it does with an incomplete journal.
     if (!m_unwritten.isEmpty())
         m_trouble = note({}, Lasting::AtOnce);
     if (m_trouble && !m_operations.hasLeftOver() && std::none_of(m_record.items.begin(), m_record.items.end(), isAside))
@@ -295,7 +295,7 @@ void MoveRun::close(const QString &end)
     m_shelf.letGo(m_record.id);
 }
 
-/** Folders in which nothing came to be, and those that are empty since a run was taken back. The deepest are last. */
+/** Folders in which nothing was created, and those left empty by an undo. The deepest are last. */
 void MoveRun::removeEmptyFolders()
 {
     PathsSince now(m_record);
@@ -343,7 +343,7 @@ MoveResult MoveRun::takeBack(int index, const MoveItem &operation)
 
 void MoveRun::mend()
 {
-    // Steps that are not all known could move what was not to be moved yet.
+    // If not all steps are known, something could be moved too early.
     const size_t count = m_record.isDamaged ? 0 : m_record.steps.size();
     for (m_step = 0; m_step < count; m_step = m_groupEnd) {
         findGroup();

@@ -9,7 +9,7 @@
 
 namespace files {
 
-/** What became of one item. */
+/** The outcome for one item. */
 struct MoveResult
 {
     int index = -1;
@@ -19,38 +19,38 @@ struct MoveResult
     QString path; ///< where the item is now
 };
 
-/** A run as it is begun. */
+/** A run to be started. */
 struct MoveOrderForm
 {
     QString title;
     std::vector<MoveItem> items;
-    QString undoes;           ///< the run that is taken back
-    QStringList emptyFolders; ///< taken away at the end if nothing is in them
+    QString undoes;           ///< the run that it undoes
+    QStringList emptyFolders; ///< removed at the end if it is empty
 };
 
 /**
  * A run that renames, moves, copies and links, in steps, with a journal.
  *
- * The journal is on the disk before the first item moves. An item that stands in the way of others in a circle steps aside under a
- * hidden name in its folder; the steps of one circle are taken together, so that between two calls of next() every item has its
- * old or its new name. Nothing is ever replaced. An item that fails keeps its old name; only where that was taken by another
- * program in between it gets a number behind it, and says so.
+ * The journal is on the disk before the first item moves. To break a cycle, an item is moved aside under a hidden name
+ * in its folder; the steps of one cycle are done together, so that between two calls of next() every item has its old
+ * or its new name. Nothing is ever replaced. An item that fails keeps its old name; only if another program has taken
+ * that in between does it get a number, and it says so.
  *
- * Destroying a run ends nothing: what is left then is what an interruption leaves, and MoveRecovery ends it.
+ * Destroying a run does not end it: what is left then is what an interruption leaves, and MoveRecovery ends it.
  */
 class MoveRun : private OperationLog
 {
 public:
-    /** Begins a run. Fails where the journal cannot be written; nothing has moved then. */
+    /** Starts a run. Fails if the journal cannot be written; nothing has moved then. */
     static platform::Result<std::unique_ptr<MoveRun>> begin(platform::FileSystem &disk, JournalShelf &shelf,
                                                             const MoveOrderForm &form);
     /** A run without items, which are added one by one. */
     static platform::Result<std::unique_ptr<MoveRun>> open(platform::FileSystem &disk, JournalShelf &shelf,
                                                            const QString &title);
-    /** A run of such items that has ended: more can be added. Fails where it is none, or belongs to another process. */
+    /** Such a run that has ended: more items can be added. Fails if it is none, or belongs to another process. */
     static platform::Result<std::unique_ptr<MoveRun>> reopen(platform::FileSystem &disk, JournalShelf &shelf,
                                                              const QString &id);
-    /** A run that was interrupted; its journal must be held. */
+    /** A run that was interrupted; its journal must be locked. */
     static std::unique_ptr<MoveRun> resume(platform::FileSystem &disk, JournalShelf &shelf, RunRecord record);
 
     QString id() const { return m_record.id; }
@@ -58,17 +58,17 @@ public:
 
     /** Carries out one more item; nothing after the last one. */
     std::optional<MoveResult> next();
-    /** Ends the run, before its last item too. Fails where the journal could not be written to the end. */
+    /** Ends the run, even before its last item. Fails if the journal could not be completed. */
     platform::Result<void> end();
 
-    /** Adds an item to a run that was opened and carries it out. */
+    /** Adds an item to an open run and carries it out. */
     MoveResult add(MoveItem item);
-    /** The last item that stands, or -1. */
+    /** The last item that is in effect, or -1. */
     int lastDone() const;
-    /** Takes back one item, with the operation that does so. */
+    /** Undoes one item with the operation that does so. */
     MoveResult takeBack(int index, const MoveItem &operation);
 
-    /** Finishes or undoes what was interrupted in the middle; the records say where everything is now. */
+    /** Completes or undoes interrupted operations; afterwards the records say where everything is. */
     void mend();
     void close(const QString &end);
 
@@ -101,13 +101,13 @@ private:
     RunRecord m_record;
     MoveOperations m_operations;
     size_t m_step = 0;
-    size_t m_groupBegin = 0; ///< steps that leave nothing under a temporary name when all are taken
+    size_t m_groupBegin = 0; ///< steps that leave nothing under a temporary name once all are done
     size_t m_groupEnd = 0;
-    std::vector<int> m_settled; ///< items of the group that have come to an end, in order
+    std::vector<int> m_settled; ///< items of the group that are finished, in order
     std::deque<MoveResult> m_results;
     std::set<QString> m_touched;
     QStringList m_emptyFolders;
-    QByteArray m_unwritten; ///< lines that the journal still lacks
+    QByteArray m_unwritten; ///< lines not yet written to the journal
     platform::Result<void> m_trouble;
     bool m_areRestRefused = false;
 };

@@ -19,7 +19,7 @@ UndoProblem problemAt(const QString &path, MoveProblem why)
     return {path, why, sentence(why, path)};
 }
 
-/** The operation that takes an item back, where everything still is as it was left. */
+/** The operation that undoes an item, if everything is as it was left. */
 MoveItem inverseOf(const MoveRecord &record, int index, PathsSince &now)
 {
     const MoveItem &item = record.item;
@@ -45,7 +45,7 @@ MoveItem inverseOf(const MoveRecord &record, int index, PathsSince &now)
     Q_UNREACHABLE();
 }
 
-/** Whether what the operation works on is still what the run left there. */
+/** Whether the operation's item is still what the run left there. */
 UndoProblem faultOf(const platform::FileSystem &disk, const MoveItem &operation, const MoveRecord &record,
                     const PathsSince &now)
 {
@@ -55,7 +55,7 @@ UndoProblem faultOf(const platform::FileSystem &disk, const MoveItem &operation,
         return problemAt(operation.from, MoveProblem::Gone);
     if (!madeItem)
         return {};
-    // A copy that was changed goes to the trash, from where it can be taken.
+    // A copy that was changed goes to the trash, from where it can be restored.
     const bool isSame =
         !record.is || (now.wasCopied(record.path, operation.of)       ? isAlike(*state, *record.is)
                        : operation.operation == Operation::RemoveCopy ? isSameItem(*state, *record.is)
@@ -86,7 +86,7 @@ QString keyOf(const QString &path)
     return placeKey(platform::parentFolder(path), platform::lastPathComponent(path));
 }
 
-/** Leaves out what wants a place that something else keeps, and then what wanted the place of that. */
+/** Leaves out items whose place something else keeps, and then those that wanted the place of these. */
 class HinderedOnes
 {
 public:
@@ -95,7 +95,7 @@ public:
     {
     }
 
-    /** Does what one operation needs; true when all are dealt with. */
+    /** Handles one operation; true when all are done. */
     bool step()
     {
         if (m_next < int(m_operations.size()))
@@ -153,7 +153,7 @@ private:
     std::vector<MoveItem> m_operations;
     std::vector<bool> m_isOut;
     QHash<QString, int> m_leaving;
-    QHash<QString, int> m_similar; ///< on a disk that does not tell cases apart
+    QHash<QString, int> m_similar; ///< on a case-insensitive disk
     QHash<QString, int> m_taking;
     std::vector<int> m_questions;
     int m_next = 0;
@@ -199,7 +199,7 @@ public:
     }
 
 private:
-    /** Everything that is written down is known; false where nothing can be taken back. */
+    /** Everything that is recorded is known; false if nothing can be undone. */
     bool begin()
     {
         m_left = m_journals.items();
@@ -242,7 +242,7 @@ private:
     const platform::FileSystem &m_disk;
     QString m_run;
     StandingItems m_journals;
-    std::vector<int> m_left; ///< items, the last one first
+    std::vector<int> m_left; ///< items, last one first
     std::optional<PathsSince> m_now;
     std::optional<HinderedOnes> m_hindered;
 };
@@ -298,7 +298,7 @@ Undoable undoableItems(const JournalShelf &shelf, const QString &run)
 std::vector<RunSummary> listRuns(const JournalShelf &shelf)
 {
     std::vector<RunSummary> runs;
-    QHash<QString, bool> isTakenBack; // by runs that still stand
+    QHash<QString, bool> isTakenBack; // by runs that are still in effect
     for (const QString &name : shelf.names()) {
         RunSummary summary;
         summary.run = summaryOf(shelf.ends(name));

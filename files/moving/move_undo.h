@@ -8,7 +8,7 @@
 
 namespace files {
 
-/** An item of a run that cannot be taken back. */
+/** An item of a run that cannot be undone. */
 struct UndoProblem
 {
     QString path;
@@ -16,32 +16,32 @@ struct UndoProblem
     QString reason;
 };
 
-/** What takes a run back: a run again, to be begun like any other. */
+/** What undoes a run: another run, to be started like any other. */
 struct UndoPlan
 {
     MoveOrderForm form;
     std::vector<UndoProblem> problems;
-    MoveProblem why = MoveProblem::None; ///< nothing of the run can be taken back
+    MoveProblem why = MoveProblem::None; ///< nothing of the run can be undone
 };
 
 /**
- * Plans how a run is taken back, the last item first. Looks whether every item is still the one that was moved and whether its old
- * place is free; those that are changed, gone or hindered are left out with the reason. Copies are trashed,
- * unless a copy is its own original by now; links are removed if they still say the same; what was trashed comes back. What was
- * taken back before is left out. The run that takes another back can be taken back too.
+ * Plans how a run is undone, last item first. Checks whether every item is still the one that was moved and whether its
+ * old place is free; those that are changed, gone or blocked are left out with the reason. Copies are trashed, unless a
+ * copy is its own original by now; links are removed if unchanged; what was trashed is restored. What was undone before
+ * is left out. The run that undoes another can be undone too.
  */
 UndoPlan planUndo(const platform::FileSystem &disk, const JournalShelf &shelf, const QString &run);
 
-/** The same a little at a time, for a window that is to answer meanwhile. Disk and shelf must outlive it. */
+/** The same a little at a time, for a window that must stay responsive. Disk and shelf must outlive it. */
 class UndoPlanning
 {
 public:
     UndoPlanning(const platform::FileSystem &disk, const JournalShelf &shelf, const QString &run);
     ~UndoPlanning();
 
-    /** Does what one item needs; true when the plan is made. */
+    /** Handles one item; true when the plan is complete. */
     bool step();
-    /** Once, when step() said true. */
+    /** Once, after step() returned true. */
     UndoPlan take();
 
 private:
@@ -49,18 +49,18 @@ private:
     std::unique_ptr<Work> m_work;
 };
 
-/** The operation that undoes one item of a run that is open, or why it cannot be done. */
+/** The operation that undoes one item of an open run, or why that is impossible. */
 struct TakeBack
 {
     MoveItem operation;
-    UndoProblem problem; ///< none where it can
+    UndoProblem problem; ///< none if it is possible
 };
 TakeBack takeBackOf(const platform::FileSystem &disk, const RunRecord &run, int index);
 
 struct Undoable
 {
     int count = 0;
-    MoveProblem why = MoveProblem::None; ///< nothing can be taken back, as far as the journal tells
+    MoveProblem why = MoveProblem::None; ///< nothing can be undone, as far as the journal says
 };
 Undoable undoableItems(const JournalShelf &shelf, const QString &run);
 
@@ -71,7 +71,7 @@ struct RunSummary
     QString state; ///< "open", "done", "cancelled", "recovered" or "undone"
 };
 
-/** All runs whose journals are kept, the newest first. */
+/** All runs whose journals are kept, newest first. */
 std::vector<RunSummary> listRuns(const JournalShelf &shelf);
 
 } // namespace files

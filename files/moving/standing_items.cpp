@@ -10,7 +10,7 @@ StandingItems::StandingItems(const JournalShelf &shelf, const QString &run)
     if (m_names.contains(run))
         m_unread.append(run);
     else
-        m_names.clear(); // nothing can take it back
+        m_names.clear(); // nothing can undo it
 }
 
 bool StandingItems::step()

@@ -11,7 +11,10 @@
 
 namespace files {
 
-/** What of a run still stands: its journal, and those of all runs that took it, or one of these, back, read a little at a time. */
+/**
+ * What of a run is still in effect: reads its journal, and those of all runs that undid it, or one of these, a little
+ * at a time.
+ */
 class StandingItems
 {
 public:
@@ -22,7 +25,7 @@ public:
 
     /** Nothing is known of a run without journal. */
     const RunRecord &record() { return m_records[m_run]; }
-    /** The items that were done and not taken back, by the run or by one that still stands, in their order. */
+    /** The items that were done and not undone, by the run or by one that is still in effect, in order. */
     std::vector<int> items();
 
 private:
@@ -40,7 +43,7 @@ private:
     QString m_opened;
     std::optional<RecordReading> m_reading;
     std::map<QString, RunRecord> m_records;
-    std::set<QString> m_seen; ///< a damaged journal can take itself back
+    std::set<QString> m_seen; ///< a damaged journal can name itself as undone
 };
 
 } // namespace files

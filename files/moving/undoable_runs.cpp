@@ -45,10 +45,10 @@ void UndoableRuns::lookForNewRuns()
         m_known.erase(name);
 }
 
-/** A run that took others back, and is taken back, changes what is to be said of those too. */
+/** Undoing a run that undid others changes the state of those too. */
 void UndoableRuns::forget(const QString &run)
 {
-    QSet<QString> seen; // damaged journals may lead in a circle
+    QSet<QString> seen; // damaged journals may form a cycle
     for (QString each = run; !each.isEmpty() && !seen.contains(each);) {
         seen.insert(each);
         m_known.erase(each);

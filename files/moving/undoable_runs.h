@@ -7,8 +7,8 @@
 namespace files {
 
 /**
- * What can be taken back of which run, remembered: a journal of many items takes long to read, and windows ask after every step. What is
- * remembered of a run is forgotten when another one begins that takes it back.
+ * Caches what can be undone of which run: a journal of many items takes long to read, and windows ask after every step.
+ * The entry of a run is dropped when another run that undoes it begins.
  */
 class UndoableRuns
 {
@@ -24,7 +24,7 @@ private:
     void forget(const QString &run);
 
     const JournalShelf &m_shelf;
-    QStringList m_names; ///< of the journals that were looked at
+    QStringList m_names; ///< of the journals that were read
     std::map<QString, QString> m_undoes;
     std::map<QString, Undoable> m_known;
 };

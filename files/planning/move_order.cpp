@@ -16,7 +16,7 @@ enum class Mark { New, Open, Done };
 struct Node
 {
     std::vector<int> inner; ///< items that are in this folder or go into it
-    int blocker = -1;       ///< the item that is still at the place that this one takes
+    int blocker = -1;       ///< the item still at the place that this one needs
     size_t nextInner = 0;
     Mark mark = Mark::New;
     bool isAside = false;
@@ -30,7 +30,7 @@ QString keyOf(const QString &path)
 
 } // namespace
 
-/** Walks from every item to those that it waits for, and writes the steps down on the way back. */
+/** Follows every item to those that it waits for, and records the steps on the way back. */
 class MoveOrdering::Walk
 {
 public:
@@ -54,7 +54,9 @@ public:
     MoveOrder take() { return std::move(m_order); }
 
 private:
-    /** All items are looked at three times: what leaves a place, what waits for one, and what is in folders that leave. */
+    /**
+     * All items are visited three times: what leaves a place, what waits for one, and what is in folders that leave.
+     */
     void lookAtOne()
     {
         const auto look = m_round == 0 ? &Walk::noteLeaver : m_round == 1 ? &Walk::findBlocker : &Walk::findInner;
@@ -99,7 +101,7 @@ private:
             m_nodes[size_t(leaver)].inner.push_back(i);
     }
 
-    /** Notes the item with the nearest folder at or above @p path that leaves its place. */
+    /** Records the item with the nearest folder at or above @p path that leaves its place. */
     void putInto(const QHash<QString, int> &folders, QString path, int item)
     {
         for (; path.size() > 1; path = platform::parentFolder(path)) {
@@ -126,7 +128,7 @@ private:
         visit(aside);
     }
 
-    /** With what is on top of the stack. */
+    /** Including what is on top of the stack. */
     void goOn()
     {
         const int item = m_stack.back();
@@ -168,7 +170,7 @@ private:
 
     bool mayStep(int item) const { return m_items[size_t(item)].mayStepAside; }
 
-    /** The top of the stack waits for @p item, which waits for it. One that only stands in the way can step aside. */
+    /** The top of the stack waits for @p item, which waits for it. One that is merely in the way can be moved aside. */
     void breakCircle(int item)
     {
         size_t first = m_stack.size() - 1;
@@ -189,7 +191,7 @@ private:
         m_stack.pop_back();
     }
 
-    /** What lies above @p kept on the stack starts again later. */
+    /** Whatever is above @p kept on the stack starts again later. */
     void stepAside(int item, size_t kept, bool isAhead)
     {
         m_order.steps.push_back({item, true, isAhead});

@@ -18,45 +18,45 @@ struct Spot
     {
         QString name;
         bool mayBeFolder = false;
-        int leaver = -1; ///< the wish that takes it away
+        int leaver = -1; ///< the request that moves it away
     };
-    std::vector<Tenant> tenants; ///< what is there
-    int claimer = -1;            ///< the wish that gets this name
+    std::vector<Tenant> tenants; ///< the item that is there
+    int claimer = -1;            ///< the request that gets this name
     QString claimedName;
-    QString madeFolder; ///< a folder of this name is to be made
+    QString madeFolder; ///< a folder of this name will be created
     int nextNumber = 2; ///< the lowest number that may be free
 };
 
-/** A folder as it is, or as it would be made. */
+/** A folder as it is, or as it would be created. */
 struct FolderView
 {
     QString path; ///< without links
     bool isThere = false;
     bool mayChange = false;
     quint64 device = 0;
-    MoveProblem fault = MoveProblem::None; ///< why it cannot be made
+    MoveProblem fault = MoveProblem::None; ///< why it cannot be created
     QString faultOther;
     QHash<QString, Spot> spots;                     ///< by platform::nameKey()
-    std::vector<platform::FolderEntry> unread = {}; ///< what is there and has no spot yet, the next at the end
+    std::vector<platform::FolderEntry> unread = {}; ///< existing items that have no spot yet, the next one last
 
     Spot &spot(const QString &name);
-    /** What has exactly this name; null where nothing has. Valid until the next spot() of this folder. */
+    /** The spot of exactly this name; null if there is none. Valid until the next spot() of this folder. */
     Spot::Tenant *tenant(const QString &name);
 };
 
-/** The folders that a plan meets, each listed once. */
+/** The folders that a plan involves, each listed once. */
 class Places
 {
 public:
     explicit Places(const platform::FileSystem &disk) : m_disk(disk) {}
 
-    /** Begins to read the folders that folder() asks for. To be called first, with goOn() until that says false. */
+    /** Starts reading the folders that folder() asks for. Call it first, and goOn() until that returns false. */
     void begin(const QString &path);
-    /** Reads some more of what was begun; false where all is read. */
+    /** Reads some more; false when everything is read. */
     bool goOn();
-    /** The folder at a path, whether it is there or not. Folders that would have to be made take their names at once. */
+    /** The folder at a path, whether it exists or not. Folders to be created claim their names at once. */
     FolderView &folder(const QString &path);
-    /** The folder at a path; null where there is none. */
+    /** The folder at a path; null if there is none. */
     FolderView *existing(const QString &path);
 
 private:

@@ -19,21 +19,21 @@ using platform::NameOf;
 using platform::numberedName;
 using platform::parentFolder;
 
-/** Where a wish stands while the plan is made. */
+/** The state of a request while the plan is made. */
 struct Draft
 {
     FolderView *fromFolder = nullptr;
     FolderView *toFolder = nullptr;
     QString fromName;
-    QString toName;    ///< as it was wished
+    QString toName;    ///< as requested
     QString givenName; ///< as it is claimed, with its number
     bool isFolder = false;
     bool isClaimed = false;
     int number = 1;
-    std::vector<int> followers; ///< wishes that are numbered as this one is
+    std::vector<int> followers; ///< requests that get the same number as this one
 };
 
-/** Why a name cannot be had, or whose leaving it waits for. */
+/** Why a name is not available, or whose leaving it waits for. */
 struct Obstacle
 {
     MoveProblem why = MoveProblem::None;
@@ -51,7 +51,7 @@ public:
     {
     }
 
-    /** Does a small part of the work; false when there is nothing left to do. */
+    /** Does a small part of the work; false when nothing is left. */
     bool advance()
     {
         if (m_stage >= Stage::Claim && !m_refused.empty()) {
@@ -71,7 +71,7 @@ public:
     const std::vector<PlannedMove> &plan() const { return m_plan; }
 
 private:
-    /** Each goes through all wishes. */
+    /** Each processes all requests. */
     enum class Stage { Read, FindLeaders, Claim, Folders, Describe, Done };
 
     void work(int i)
@@ -104,7 +104,7 @@ private:
     bool isOpen(int i) { return planned(i).status == PlanStatus::Ready; }
     bool leaves(int i) const { return wish(i).kind == MoveKind::Move; }
 
-    /** A folder may hold many names, which are read some at a time. */
+    /** A folder may contain many names, which are read some at a time. */
     bool hasItsFolders(int i)
     {
         if (faultOfPath(wish(i).to) == MoveProblem::None && wish(i).from != wish(i).to) {
@@ -142,7 +142,7 @@ private:
         if (!wish(i).from.startsWith(u'/') || d.fromName.isEmpty())
             return false;
         Spot::Tenant *tenant = d.fromFolder->tenant(d.fromName);
-        // A disk that does not tell cases apart knows the item by another writing than its own.
+        // A case-insensitive disk knows the item by another spelling.
         const auto state = tenant ? std::nullopt : m_disk.look(joinedPath(d.fromFolder->path, d.fromName));
         if (!tenant && state)
             if (Spot &spot = d.fromFolder->spot(d.fromName); !spot.tenants.empty()) {
@@ -171,7 +171,7 @@ private:
             tenant->leaver = i;
     }
 
-    /** The wish at the head of those that move with others; a circle of leaders leads nowhere. */
+    /** The leading request of those that move with others; a cycle of leaders leads nowhere. */
     int headOf(int i)
     {
         int head = i;
@@ -223,7 +223,7 @@ private:
         return none;
     }
 
-    /** Claims the names of a wish and of those that are numbered with it, all with the same number. */
+    /** Claims the names of a request and of those numbered with it, all with the same number. */
     void claim(int head)
     {
         std::vector<int> group = {head};
@@ -293,7 +293,7 @@ private:
         m_refused.push_back(i);
     }
 
-    /** What follows from a refusal: its item stays, so whoever relied on its leaving is looked at again. */
+    /** The consequences of a refusal: its item stays, so those that relied on its leaving are checked again. */
     void settleOne()
     {
         const int i = m_refused.back();
@@ -319,8 +319,8 @@ private:
     }
 
     /**
-     * Folders that are to go into each other, and the like. Only folders can be so entangled: where there are some, all wishes are ordered,
-     * until an order without impossible ones is found.
+     * Folders that are to go into each other, and the like. Only folders can be so entangled: if there are some, all
+     * requests are ordered, until an order without impossible ones is found.
      */
     void refuseImpossible(int i)
     {
@@ -338,7 +338,7 @@ private:
         }
     }
 
-    /** Begins with the first wish again. */
+    /** Starts with the first request again. */
     void orderAll()
     {
         m_isOrdering = true;
@@ -403,7 +403,7 @@ private:
     std::vector<PlannedMove> m_plan;
     std::vector<int> m_refused;
     QMultiHash<int, int> m_companions;
-    std::vector<int> m_ordered;                ///< the wishes that are ordered
+    std::vector<int> m_ordered;                ///< the requests being ordered
     std::vector<Displacement> m_displacements; ///< theirs
     bool m_isOrdering = false;
     std::optional<MoveOrdering> m_ordering;

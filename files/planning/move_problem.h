@@ -7,36 +7,36 @@
 
 namespace files {
 
-/** Why an item cannot have its new name, or did not get it, or why a run cannot be taken back. */
+/** Why an item cannot get its new name, or did not get it, or why a run cannot be undone. */
 enum class MoveProblem {
     None,
     // of an item
     Empty,     ///< the name is empty
-    Illegal,   ///< no name at all, or none that the disk can hold
+    Illegal,   ///< not a name, or none that the disk supports
     TooLong,   ///< the name or the path is too long
     Gone,      ///< nothing is at the old place
-    Twice,     ///< another wish has the item, or its new place
+    Twice,     ///< another request has the item, or its new place
     Taken,     ///< something is at the new place
     OtherCase, ///< something there differs only by case or accents
-    Inside,    ///< a folder is to go into itself
-    Locked,    ///< the item or a folder may not be changed
-    Leader,    ///< what it would follow stays
-    Changed,   ///< it was changed or replaced since the beginning
+    Inside,    ///< a folder would go into itself
+    Locked,    ///< the item or a folder must not be changed
+    Leader,    ///< the item that it moves with stays
+    Changed,   ///< it was changed or replaced since the start
     Full,      ///< there is no room on the disk
-    Original,  ///< what is to go is no copy, but the original itself
-    Damaged,   ///< the copy is not what was copied
+    Original,  ///< what is to be removed is no copy, but the original itself
+    Damaged,   ///< the copy differs from the original
     Circle,    ///< others wait for its place, and it cannot leave
     Same,      ///< it has that name already
     Other,     ///< what the system says, in the message beside it
     // of a run
-    UnknownRun, ///< no journal tells of it
+    UnknownRun, ///< no journal mentions it
     OpenRun,    ///< it has not ended
     EmptyRun,   ///< it did nothing
-    TakenBack,  ///< all of it was taken back before
-    Stuck,      ///< everything it did is changed, gone or hindered
+    TakenBack,  ///< all of it was undone before
+    Stuck,      ///< everything it did is changed, gone or blocked
 };
 
-/** What is worth telling of an item that can have its new name. */
+/** Worth mentioning about an item that can get its new name. */
 enum class PlanRemark {
     None,
     Aside,     ///< what is there now leaves in the same plan

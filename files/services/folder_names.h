@@ -6,8 +6,8 @@
 #include <QStringList>
 
 /**
- * The names of one folder during a run: those on the disk, and those that results of the run were given. Names that many disks
- * take for one are one; see platform::nameKey(). No disk is asked.
+ * The names of one folder during a run: those on the disk, and those given to results of the run. Names that many disks
+ * treat as the same count as one; see platform::nameKey(). No disk is accessed.
  */
 class FolderNames : public QObject
 {
@@ -27,7 +27,10 @@ public:
     /** See platform::fittingNumberedName(). */
     Q_INVOKABLE QString numbered(const QString &name, int number) const;
 
-    /** The name on the disk that stands in the way of this one, as it is written there: itself first; empty where none does. */
+    /**
+     * The name on the disk that blocks this one, as it is spelled there: the name itself if it exists; empty if none
+     * does.
+     */
     Q_INVOKABLE QString onDiskAs(const QString &name) const;
     /** Whether a result of this run was given that name. */
     Q_INVOKABLE bool isGiven(const QString &name) const;
@@ -44,7 +47,7 @@ private:
 
     QStringList m_names;
     QSet<QString> m_exact;
-    QHash<QString, QString> m_onDisk; ///< by key, as they are written
+    QHash<QString, QString> m_onDisk; ///< by key, as they are spelled
     QSet<QString> m_given;            ///< keys
     QHash<QString, int> m_nextNumber; ///< by key
 };

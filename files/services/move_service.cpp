@@ -25,7 +25,7 @@ QString journalFolder()
     return platform::joinedPath(platform::applicationSupportFolder(), QStringLiteral("quorlin/moves"));
 }
 
-/** The kind that is meant where none is said. */
+/** The default kind. */
 const QString usualKind = QStringLiteral("move");
 
 QString kindOf(const Fields &fields)
@@ -251,7 +251,7 @@ bool MoveService::prepare(const QString &order, int milliseconds)
     return wanted.beginning->workFor(std::chrono::milliseconds(milliseconds));
 }
 
-/** Finds out what takes a run back; true where that is nothing. */
+/** Finds out what undoes a run; true if that is nothing. */
 bool MoveService::plan(Order &order, std::chrono::steady_clock::time_point end)
 {
     do {

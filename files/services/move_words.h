@@ -12,7 +12,7 @@ namespace files {
 /** "move", "copy" or "link"; nothing for any other word. */
 std::optional<MoveKind> moveKind(QStringView word);
 
-/** "move", "copy", "link" or "trash": what a script may ask to be done with an item. Nothing for any other word. */
+/** "move", "copy", "link" or "trash": what a script may request for an item. Nothing for any other word. */
 std::optional<Operation> wantedOperation(QStringView word);
 
 /** What was done with an item, in a word: "move", "copy", "link", "trash" or "remove". */
@@ -21,7 +21,7 @@ QString wordOf(Operation operation);
 /** "ready", "same" or "refused". */
 QString wordOf(PlanStatus status);
 
-/** How it went with an item of a run: "OK", "Skipped" or "Failed". */
+/** The outcome for an item of a run: "OK", "Skipped" or "Failed". */
 QString statusWord(Stand stand);
 
 } // namespace files
