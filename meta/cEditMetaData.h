@@ -9,7 +9,7 @@
 /**
  * Writes one comment into many pictures that the user chooses, with a progress bar, and a row in the log for each.
  *
- * The outlets may be null. A run goes on to its end before the operation returns. Nothing raises. Main thread only.
+ * The outlets may be null. A run completes before the operation returns. Nothing raises. Main thread only.
  */
 class cEditMetaData : public QObject
 {

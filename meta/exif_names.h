@@ -19,10 +19,13 @@ constexpr quint8 dayTaken = 55;
 constexpr quint8 timeTaken = 60;
 } // namespace iptcDataSet
 
-/** What some programs say besides of the date taken. */
+/** What some programs write besides the date taken. */
 platform::XmpChange exifDateInXmp();
 
-/** Several creators in the one text that EXIF has for them: separated by "; ", in quotation marks where a name has a semicolon. */
+/**
+ * Several creators in the only text that EXIF has for them: separated by "; ", in quotation marks if a name contains a
+ * semicolon.
+ */
 QString namesInExif(const QStringList &names);
 QStringList namesFromExif(const QString &text);
 

@@ -27,7 +27,7 @@ tl::unexpected<platform::Error> invalid(const QString &text)
     return platform::failure(platform::ErrorCode::InvalidValue, text);
 }
 
-/** Without a value the tag is taken out. */
+/** Without a value the tag is removed. */
 void putTag(MetadataChange &change, const ExifPlace &place, const QString &text)
 {
     if (text.isEmpty())
@@ -64,7 +64,7 @@ void putDate(MetadataChange &change, const Field &field, const QStringList &text
     putXmp(change, exifDateInXmp(), texts.mid(0, 1));
 }
 
-/** XMP has the rating; the tags that Windows has for it say the same where they are there. */
+/** XMP has the rating; the tags that Windows uses for it are kept equal if they exist. */
 void putRating(MetadataChange &change, const Field &field, const QStringList &texts)
 {
     static constexpr std::array<quint16, 6> percents = {0, 1, 25, 50, 75, 99};
@@ -110,7 +110,7 @@ QStringList changedDate(const FieldEdit &edit, const QStringList &now)
     return {date->toText()};
 }
 
-/** What a field says afterwards; none where it stays as it is. */
+/** The value of a field afterwards; none if it does not change. */
 std::optional<QStringList> wanted(const Field &field, const FieldEdit &edit, const QStringList &now)
 {
     switch (edit.what) {
@@ -125,7 +125,7 @@ std::optional<QStringList> wanted(const Field &field, const FieldEdit &edit, con
     return then == now ? std::nullopt : std::optional(then);
 }
 
-/** As they are found again: without what surrounds them, and in IPTC's case no more than that holds. */
+/** As they are read back: trimmed, and for IPTC truncated to what it holds. */
 QStringList cleaned(const Field &field, const QStringList &texts)
 {
     QStringList clean;
@@ -188,7 +188,7 @@ Result<MetadataChange> changeFor(const MetadataWork &work, const StatedMetadata 
     return change;
 }
 
-/** Whether all three say what was set, so that no program finds another value; a sidecar is XMP alone. */
+/** Whether all three have the new value, so that no program finds another one; a sidecar is XMP alone. */
 bool says(const StatedMetadata &stated, const Field &field, const QStringList &texts)
 {
     const FieldValues values = fieldValues(field, stated);
@@ -280,7 +280,7 @@ Result<QVariantMap> plannedFields(const QVariantMap &stated, const MetadataWork 
 
 platform::MetadataEdit editFor(const MetadataWork &work)
 {
-    // What is wanted is worked out once, from what was said before.
+    // The wanted values are computed once, from the previous ones.
     const auto meant = std::make_shared<QMap<QString, QStringList>>();
     const auto change = [work, meant](const StatedMetadata &stated) -> Result<MetadataChange> {
         meant->clear();

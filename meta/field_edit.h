@@ -11,24 +11,24 @@
 
 namespace meta {
 
-/** What becomes of one field. A field that is not named stays as it is. */
+/** What happens to one field. A field that is not named stays as it is. */
 struct FieldEdit
 {
     enum class What {
         Set,
-        Clear,  ///< taken out of EXIF, IPTC and XMP
-        Change, ///< words are added and taken out; a date is shifted, or gets a zone
+        Clear,  ///< removed from EXIF, IPTC and XMP
+        Change, ///< words are added and removed; a date is shifted, or gets a zone
     };
     What what = What::Set;
     QStringList texts = {};   ///< set, or added
-    QStringList removed = {}; ///< words that are taken out
+    QStringList removed = {}; ///< words to be removed
     qint64 shiftSeconds = 0;
     QString zone = {}; ///< "+01:00"; empty: it stays
 
     bool operator==(const FieldEdit &) const = default;
 };
 
-/** What is to be done to the metadata of a picture. */
+/** The work to be done on the metadata of a picture. */
 struct MetadataWork
 {
     QMap<QString, FieldEdit> fields; ///< by name
@@ -38,8 +38,9 @@ struct MetadataWork
 };
 
 /**
- * The work of a dictionary: {fields: {name: {set: [texts]} or {clear: true} or {add: [texts], remove: [texts]} or {shift: seconds, zone:
- * "+01:00"}}, remove: [groups]}. Fails with InvalidValue for anything else, and names it.
+ * The work described by a dictionary: {fields: {name: {set: [texts]} or {clear: true} or {add: [texts], remove:
+ * [texts]} or {shift: seconds, zone: "+01:00"}}, remove: [groups]}. Fails with InvalidValue for anything else, and
+ * names it.
  */
 platform::Result<MetadataWork> workFrom(const QVariantMap &map);
 
@@ -47,17 +48,17 @@ platform::Result<MetadataWork> workFrom(const QVariantMap &map);
 MetadataWork withTexts(const MetadataWork &work, const std::function<QString(const QString &)> &text);
 
 /**
- * What fields will say, of those that the work changes: {name: texts, none where it is taken out}. What EXIF, IPTC and XMP say differently
- * now is changed too, since they will all say it. Fails with InvalidValue as the edit would.
+ * The new values of the fields that the work changes: {name: texts, none if it is removed}. Fields whose EXIF, IPTC and
+ * XMP disagree now count as changed, since all will have the same value. Fails with InvalidValue like the edit.
  *
  * @param stated  see fieldMap()
  */
 platform::Result<QVariantMap> plannedFields(const QVariantMap &stated, const MetadataWork &work);
 
-/** The edit that does it. It must outlive neither @p work nor anything else. */
+/** The edit that does it. It must not outlive @p work or anything else. */
 platform::MetadataEdit editFor(const MetadataWork &work);
 
-/** A rating alone, from -1 (rejected) to 5; 0 takes it out. */
+/** A rating alone, from -1 (rejected) to 5; 0 removes it. */
 MetadataWork workOfRating(int rating);
 
 } // namespace meta

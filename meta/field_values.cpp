@@ -59,7 +59,7 @@ FieldValues textValues(const Field &field, const StatedMetadata &stated)
     return values;
 }
 
-/** IPTC says the same where it says as much of it as it may hold. */
+/** IPTC agrees if it contains as much of the value as it can hold. */
 QStringList cut(QStringList texts, const Field &field)
 {
     for (QString &text : texts)
@@ -80,7 +80,7 @@ bool isSame(const Field &field, QStringList a, QStringList b)
     return a == b;
 }
 
-/** The order in which the metadata working group believes them. */
+/** The order of trust recommended by the metadata working group. */
 const QStringList &believed(const FieldValues &values, bool isIptcNewer)
 {
     if (!values.exif.isEmpty())
@@ -96,7 +96,7 @@ FieldValues fieldValues(const Field &field, const StatedMetadata &stated)
 {
     FieldValues values = field.kind == FieldKind::Date ? dateValues(field, stated) : textValues(field, stated);
     values.value = believed(values, stated.isIptcNewer());
-    if (stated.hasSidecar() && !values.xmp.isEmpty()) { // what was said last, beside a file that cannot say it itself
+    if (stated.hasSidecar() && !values.xmp.isEmpty()) { // the most recent value, for a file that cannot store it itself
         values.value = values.xmp;
         return values;
     }

@@ -7,22 +7,22 @@
 
 namespace meta {
 
-/** What EXIF, IPTC and XMP say of one field; texts without what surrounds them. */
+/** The values of one field in EXIF, IPTC and XMP; texts trimmed. */
 struct FieldValues
 {
     QStringList exif;
     QStringList iptc;
     QStringList xmp;
-    QStringList value;       ///< which of them counts; empty where none says anything
-    bool isDisputed = false; ///< two of them that say something do not say the same
+    QStringList value;       ///< which of them is used; empty if none has a value
+    bool isDisputed = false; ///< two of them disagree
 };
 
 FieldValues fieldValues(const Field &field, const platform::StatedMetadata &stated);
 
-/** What counts of a field alone. */
+/** Only the value that is used. */
 QStringList fieldValue(const Field &field, const platform::StatedMetadata &stated);
 
-/** All fields that are stated: {name: {value, exif, iptc, xmp (lists of texts), disputed}}. */
+/** All fields with a value: {name: {value, exif, iptc, xmp (lists of texts), disputed}}. */
 QVariantMap fieldMap(const platform::StatedMetadata &stated);
 
 } // namespace meta

@@ -9,24 +9,24 @@
 
 namespace meta {
 
-/** What a field holds, and so how it is set. */
+/** The type of a field, which determines how it is set. */
 enum class FieldKind {
     Line,   ///< one text
     Text,   ///< one text of several lines
     Names,  ///< several texts, in an order
-    Words,  ///< several texts, each once: set, added and taken out
+    Words,  ///< several texts, each once: set, added and removed
     Date,   ///< see meta/taken_date.h
     Rating, ///< "-1" for rejected, "0" to "5"
 };
 
-/** Where a field stands in EXIF. */
+/** Where a field is stored in EXIF. */
 struct ExifPlace
 {
     platform::TagChange::Directory directory;
     quint16 tag;
 };
 
-/** Where a field stands in IPTC, and how many bytes of UTF-8 that may be. */
+/** Where a field is stored in IPTC, and its limit in bytes of UTF-8. */
 struct IptcPlace
 {
     quint8 dataSet;
@@ -34,8 +34,8 @@ struct IptcPlace
 };
 
 /**
- * A field of a picture's metadata and what it is called in EXIF, IPTC and XMP, as the metadata working group has it. The manual's table is
- * compared with this one.
+ * A field of a picture's metadata and its names in EXIF, IPTC and XMP, according to the metadata working group. A check
+ * compares the manual's table with this one.
  */
 struct Field
 {
@@ -49,10 +49,10 @@ struct Field
 /** All of them, in the order in which they are shown. */
 const QList<Field> &fields();
 
-/** By its name; null where there is none. */
+/** By its name; null if there is none. */
 const Field *fieldNamed(const QString &name);
 
-/** The text as far as it fits into so many bytes of UTF-8; cut between two characters as a reader sees them. */
+/** As much of the text as fits into so many bytes of UTF-8; cut between two characters as a reader sees them. */
 QString cutToBytes(const QString &text, int mostBytes);
 
 } // namespace meta

@@ -12,7 +12,7 @@ using platform::ImageSource;
 
 namespace {
 
-/** The comment that a picture's properties hold; none where they have no place for one. */
+/** The comment in a picture's properties; none if they have no place for one. */
 QVariant commentIn(const QVariantMap &properties)
 {
     return properties.value(QStringLiteral("{Exif}")).toMap().value(QStringLiteral("UserComment"));
@@ -75,7 +75,7 @@ QString mMeta::hSetExifData(const QString &path, const QString &comment)
 {
     if (!ImageSource::canOpen(path))
         return QStringLiteral("Failed");
-    // Whether it could be written is not told here; the file is whole and as it was if it could not.
+    // Write errors are not reported here; on failure the file is intact and unchanged.
     const platform::Result<void> written = platform::writeUserComment(path, comment);
     Q_UNUSED(written)
     return QStringLiteral("OK");

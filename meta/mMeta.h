@@ -7,7 +7,7 @@
 #include <QVariant>
 
 /**
- * The metadata of one picture: shown in the controls of a pane, asked for as values, and its comment written.
+ * The metadata of one picture: shown in the controls of a pane, returned as values, and its comment written.
  *
  * Files are recognised by their content. The outlets may be null; then nothing is shown or read there. Nothing raises.
  * Main thread only.
@@ -31,31 +31,32 @@ public:
     /**
      * Shows a file: its comment, or why there is none, in the comment field, and its properties in the tree.
      *
-     * @return myVarTree; where the file cannot be opened the tree shows nothing and myVarTree stays as it was
+     * @return myVarTree; if the file cannot be opened the tree is empty and myVarTree stays unchanged
      */
     Q_INVOKABLE QVariant hiDoNothing(const QString &path);
 
     /**
      * The nodes of a dictionary, ascending by key: "key" (its label), "val" (the value, "" for a dictionary) and, for a
-     * dictionary, "children". They are left in myVarTree unless there are none.
+     * dictionary, "children". They are stored in myVarTree unless there are none.
      */
     Q_INVOKABLE QVariantList propTree(const QVariantMap &properties);
 
-    /** The user comment of the first picture; "" where there is none or the file cannot be read. */
+    /** The user comment of the first picture; "" if there is none or the file cannot be read. */
     Q_INVOKABLE QString hGetExifUc(const QString &path);
 
-    /** The name of the picture's colour space; null where the file cannot be read. */
+    /** The name of the picture's colour space; null if the file cannot be read. */
     Q_INVOKABLE QString hGetColorProfile(const QString &path);
 
-    /** Width and height of the upright picture in pixels as two texts; "0" and "0" where the file cannot be read. */
+    /** Width and height of the upright picture in pixels as two texts; "0" and "0" if the file cannot be read. */
     Q_INVOKABLE QStringList hGetPixelFormat(const QString &path);
 
     /**
-     * Writes the user comment into the file, in place and atomically; nothing else changes, but of a TIFF with several pages
-     * the first one is left.
+     * Writes the user comment into the file, in place and atomically; nothing else changes, except that only the first
+     * page of a TIFF with several pages is kept.
      *
-     * @return "OK" whenever the file could be opened as a picture, else "Failed". A file that cannot be written, or whose
-     *         type has no place for a comment, stays as it is; hGetExifUc() tells what it holds now
+     * @return "OK" whenever the file could be opened as a picture, else "Failed". A file that cannot be written, or
+     * whose
+     *         type has no place for a comment, stays as it is; hGetExifUc() returns its present comment
      */
     Q_INVOKABLE QString hSetExifData(const QString &path, const QString &comment);
 

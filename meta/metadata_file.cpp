@@ -24,7 +24,7 @@ Result<std::shared_ptr<const LentFile>> opened(const QString &path)
     return std::make_shared<const LentFile>(std::move(*file));
 }
 
-/** The file of that name, or of one that differs in case only; empty where there is none. */
+/** The file of that name, or of one that differs only in case; empty if there is none. */
 QString existing(const QString &folder, const QString &name)
 {
     for (const QString &each :

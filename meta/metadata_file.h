@@ -15,8 +15,8 @@ class LentFile;
 namespace meta {
 
 /**
- * The sidecar of a picture: the one that lies beside it, "name.ext.xmp" before "name.xmp" and in whatever case, else where it would lie,
- * "name.ext.xmp".
+ * The sidecar of a picture: an existing one beside it, "name.ext.xmp" before "name.xmp" and in any case of letters,
+ * else the path for a new one, "name.ext.xmp".
  */
 struct Sidecar
 {
@@ -25,19 +25,22 @@ struct Sidecar
 };
 Sidecar sidecarOf(const QString &picturePath);
 
-/** The packet of a sidecar; empty where there is none. Fails as platform::readFile() does, and with TooLarge for more than 16 MB. */
+/**
+ * The packet of a sidecar; empty if there is none. Fails like platform::readFile(), and with TooLarge for more than 16
+ * MB.
+ */
 platform::Result<QByteArray> packetOf(const Sidecar &sidecar);
-/** That of a picture; empty also where it cannot be read. */
+/** That of a picture; empty also if it cannot be read. */
 QByteArray packetBeside(const QString &picturePath);
 
-/** {fields: see fieldMap(), inPlace: whether they stand in the file itself}. @param packet  of its sidecar */
+/** {fields: see fieldMap(), inPlace: whether they are stored in the file itself}. @param packet  of its sidecar */
 platform::Result<QVariantMap> readFields(const std::shared_ptr<const platform::LentFile> &picture,
                                          const QByteArray &packet);
 
-/** The same of a path. Also {sidecar: its path} where the fields stand there, or will. */
+/** The same for a path. Also {sidecar: its path} if the fields are stored there, or will be. */
 platform::Result<QVariantMap> readFields(const QString &path);
 
-/** What became of a picture. */
+/** The outcome for a picture. */
 struct WrittenFields
 {
     bool isChanged = false;
@@ -45,12 +48,12 @@ struct WrittenFields
 };
 
 /**
- * Does the work to a picture in the file itself, see platform::editMetadata(), or in its sidecar, which is replaced or made as
- * platform::replaceFile() does it and keeps its other properties. On failure both are as they were.
+ * Applies the work to a picture in the file itself, see platform::editMetadata(), or to its sidecar, which is replaced
+ * or created as by platform::replaceFile() and keeps its other properties. On failure both are unchanged.
  */
 platform::Result<WrittenFields> writeFields(const QString &path, const MetadataWork &work);
 
-/** Writes the rating of XMP, from -1 (rejected) to 5; 0 takes it out. */
+/** Writes the rating of XMP, from -1 (rejected) to 5; 0 removes it. */
 platform::Result<WrittenFields> writeRating(const QString &path, int rating);
 
 } // namespace meta

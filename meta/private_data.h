@@ -10,7 +10,7 @@
 
 namespace meta {
 
-/** Groups of what a picture may say that is nobody's business. */
+/** Groups of metadata that the user may want to keep private. */
 enum class PrivateData { Places, SerialNumbers, Names, Faces, MakerNotes, Thumbnails };
 
 inline size_t qHash(PrivateData data, size_t seed = 0)
@@ -22,10 +22,10 @@ inline size_t qHash(PrivateData data, size_t seed = 0)
 QStringList privateDataNames();
 std::optional<PrivateData> privateDataNamed(const QString &name);
 
-/** Whether a field is one of the places. */
+/** Whether a field belongs to the places. */
 bool isPlace(const QString &fieldName);
 
-/** Adds to @p change what takes these groups out. */
+/** Adds to @p change what removes these groups. */
 void addRemoval(platform::MetadataChange &change, const QSet<PrivateData> &groups);
 
 } // namespace meta

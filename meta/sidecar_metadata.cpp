@@ -10,7 +10,7 @@ namespace {
 
 using Picture = std::shared_ptr<const platform::LentFile>;
 
-/** Only what counts in the sidecar of this picture. */
+/** Only what applies to the sidecar of this picture. */
 QMap<QString, QStringList> fieldsOfSidecar(const Picture &picture, const QByteArray &packet)
 {
     QMap<QString, QStringList> stated;

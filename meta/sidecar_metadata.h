@@ -13,8 +13,8 @@ class LentFile;
 namespace meta {
 
 /**
- * What is known of a picture with what its sidecar says of it: the date taken. As it is where metadata stands in the file itself, or
- * where the packet is empty or damaged.
+ * What is known about a picture, completed by its sidecar: the date taken. Unchanged if metadata is stored in the file
+ * itself, or if the packet is empty or damaged.
  *
  * @param packet  see packetOf()
  */
