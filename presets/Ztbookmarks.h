@@ -4,7 +4,9 @@
 #include <QObject>
 #include <QUrl>
 
-/** Turns the location of a file or folder into data that can be kept, and back in a later run. Keeps nothing. */
+/**
+ * Turns the location of a file or folder into data that can be stored, and back in a later run. Stores nothing itself.
+ */
 class Ztbookmarks : public QObject
 {
     Q_OBJECT
@@ -15,6 +17,6 @@ public:
     /** Data for a location; null if nothing is there, it may not be read, or it is no file location. */
     Q_INVOKABLE QByteArray bookmarkForURL(const QUrl &url) const;
 
-    /** The location; null for data of another kind, and when what was there is gone, or another took its place. */
+    /** The location; null for data of another kind, and if the item is gone, or another has taken its place. */
     Q_INVOKABLE QUrl urlForBookmark(const QByteArray &bookmark) const;
 };

@@ -42,7 +42,7 @@ int ask(void *guard, int action, const char *first, const char *second, const ch
     return isAllowed ? SQLITE_OK : SQLITE_DENY;
 }
 
-/** Asks again soon, so that of two programs that write at the same time neither waits for long. */
+/** Retries soon, so that of two processes that write at the same time neither waits for long. */
 int waitForOthers(void *, int tries)
 {
     if (tries * betweenTriesMs >= longestWaitMs)
@@ -57,7 +57,10 @@ void switchOff(sqlite3 *handle, std::initializer_list<int> features)
         sqlite3_db_config(handle, feature, 0, nullptr);
 }
 
-/** What a file from elsewhere may bring along is switched off, and a name that is no column is never taken for a text. */
+/**
+ * Features that a file from elsewhere could abuse are switched off, and an unknown column name is never taken for a
+ * text.
+ */
 void restrict(sqlite3 *handle, Guard &guard)
 {
     switchOff(handle, {SQLITE_DBCONFIG_ENABLE_TRIGGER, SQLITE_DBCONFIG_ENABLE_VIEW, SQLITE_DBCONFIG_TRUSTED_SCHEMA,
@@ -68,9 +71,9 @@ void restrict(sqlite3 *handle, Guard &guard)
 }
 
 /**
- * Whether the file is shorter than its own header says. The database sees that for whole pages; with a part of the last page
- * missing it would write on a page that it read as half zeros. Read through the database's own handle, since closing another
- * one would take its locks away.
+ * Whether the file is shorter than its own header says. The database notices that for whole pages only; if part of the
+ * last page is missing it would write to a page that it read as half zeros. Read through the database's own handle,
+ * since closing another one would drop its locks.
  */
 bool isShorterThanItSays(sqlite3 *handle)
 {
@@ -87,7 +90,10 @@ bool isShorterThanItSays(sqlite3 *handle)
     return isPageCountKept && size < qint64(number(28)) * (pageSize == 1 ? 65536 : pageSize);
 }
 
-/** A write that is going on, or was cut off and will be taken back, also leaves a file that is too short for a while. */
+/**
+ * A write in progress, or an interrupted one that will be rolled back, also leaves a file that is too short for a
+ * while.
+ */
 bool isCutShort(sqlite3 *handle)
 {
     const QString path = QFile::decodeName(sqlite3_db_filename(handle, "main"));
@@ -144,7 +150,7 @@ Prepared Connection::prepare(const Statement &statement) const
 
 bool Connection::execute(const Statement &statement) const
 {
-    // Compiled once to be judged as a whole, and again to be run.
+    // Compiled once for inspection, and again for execution.
     if (!prepare(statement).isValid())
         return false;
     d->guard.expect(statement);
@@ -183,7 +189,7 @@ QString Prepared::text(int index) const
 {
     const auto *bytes = reinterpret_cast<const char *>(sqlite3_column_text(m_statement, index));
     const QByteArray column(bytes, sqlite3_column_bytes(m_statement, index));
-    // What is no UTF-8 is read as well as it can be; the toolkit's reader would leave out U+FEFF in front of a text.
+    // Invalid UTF-8 is read as well as possible; the toolkit's reader would drop U+FEFF at the start of a text.
     const QString text = platform::textFromUtf8(column).value_or(QString::fromUtf8(column));
     return text.isNull() ? QStringLiteral("") : text;
 }

@@ -18,10 +18,10 @@ class Prepared;
 /**
  * One connection to the presets database. Copies share it; it is closed by close(), or with the last copy.
  *
- * It runs a statement only as what the statement was meant to be: one statement, of its verb, on its table, reading its
- * columns, with no function, view, trigger, pragma or second table (see docs/decisions/0014). All else is refused by the
- * database while it compiles the statement, and is an invalid statement like any other. Every change is on the disk when the
- * statement ends, or did not happen. A database that somebody else is writing to is waited for, up to two seconds.
+ * It runs a statement only if it is what was intended: one statement, of its verb, on its table, reading its columns,
+ * with no function, view, trigger, pragma or second table (see docs/decisions/0014). The database rejects anything else
+ * while it compiles the statement, as it does any invalid statement. Every change is on the disk when the statement
+ * ends, or did not happen. If somebody else is writing to the database, it waits up to two seconds.
  */
 class Connection
 {
@@ -29,7 +29,7 @@ public:
     /** No connection. */
     Connection() = default;
 
-    /** Opens the file, which is made empty if it is missing. No connection if that fails; a damaged file opens. */
+    /** Opens the file, which is created if it is missing. No connection if that fails; a damaged file opens. */
     static Connection open(const QString &path);
 
     bool isOpen() const;
@@ -48,7 +48,7 @@ private:
     std::shared_ptr<Private> d;
 };
 
-/** A compiled statement, let go with the object. Must not outlive its connection. */
+/** A compiled statement, released with the object. Must not outlive its connection. */
 class Prepared
 {
 public:
@@ -65,10 +65,10 @@ public:
     void bind(int number, const QString &text);
     void bind(int number, const QByteArray &data);
 
-    /** Goes to the next row; false at the end, and when the statement fails or was no valid one. */
+    /** Moves to the next row; false at the end, and if the statement fails or was invalid. */
     bool step();
 
-    /** Result column @p index, from 0; empty for NULL and where there is no such column. */
+    /** Result column @p index, from 0; empty for NULL and if there is no such column. */
     QString text(int index) const;
     /** The column's bytes; never null. */
     QByteArray data(int index) const;

@@ -13,7 +13,7 @@
 
 namespace {
 
-/** So many connections that were left open stay open; without a bound a long run would be out of file handles. */
+/** At most so many connections are left open; otherwise a long run would exhaust the file handles. */
 constexpr size_t mostLeftOpen = 16;
 
 constexpr int bytesOfGroup = 4;
@@ -21,10 +21,10 @@ constexpr int bytesOfGroup = 4;
 const QString presetsTable = QStringLiteral("Presets");
 const QString resourceTable = QStringLiteral("AppResource");
 const QString bookmarksTable = QStringLiteral("AppBookmarks");
-/** The same table; the database does not look at the case of letters. */
+/** The same table; the database ignores the case of letters. */
 const QString bookmarksTableOfSeed = QStringLiteral("AppBookMarks");
 
-/** A list of 62 texts, or nothing happens. */
+/** Requires a list of 62 texts; otherwise nothing happens. */
 void demandFields(const QStringList &list, const QString &name)
 {
     if (list.size() != presets::fieldCount)
@@ -77,7 +77,7 @@ void dbViewController::fail(const QString &description)
 QString dbViewController::dbFilePath() const
 {
     const QString folder = platform::applicationSupportFolder() + QStringLiteral("/BrelmarkCom/");
-    static_cast<void>(platform::makeFolder(folder)); // opening the file tells
+    static_cast<void>(platform::makeFolder(folder)); // errors show when the file is opened
     return folder + QStringLiteral("QuorlinPS.sql");
 }
 
@@ -195,7 +195,7 @@ QString dbViewController::removePresetFromDatabase(const QString &table, const Q
         if (isOpen && !rows.isValid())
             m_presetExist = QStringLiteral("preset not found");
         while (rows.step())
-            m_presetExist = QStringLiteral("preset removed"); // a removal gives no rows
+            m_presetExist = QStringLiteral("preset removed"); // a removal returns no rows
     }
     m_db.close();
     return m_presetExist;
@@ -211,7 +211,7 @@ void dbViewController::hSaveSecurityScopedBookmarks(const QByteArray &data)
             prepared.bind(1, data);
         prepared.step();
     }
-    // Once more as it stands: nothing is bound, so that the second row holds NULL.
+    // Run again without binding anything, so that the second row contains NULL.
     m_db.execute(insert);
 }
 

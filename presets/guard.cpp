@@ -58,7 +58,7 @@ bool Guard::isTheVerb(const Access &access) const
     return false;
 }
 
-/** A new table is written down in the list of tables, and the first one with counted keys brings the list of counters. */
+/** A new table is recorded in the list of tables, and the first one with counted keys creates the list of counters. */
 bool Guard::allowsListKeeping(const Access &access) const
 {
     if (qstrcmp(access.database, "main") != 0)
@@ -86,7 +86,7 @@ bool Guard::allows(const Access &access)
 
 bool Guard::sawItsStatement() const
 {
-    // A query that reads no table is none of ours.
+    // A query that reads no table is not one of ours.
     if (!m_sawVerb || (m_statement.verb == Verb::Select && m_columnsRead.isEmpty()))
         return false;
     return std::all_of(m_statement.columns.begin(), m_statement.columns.end(), [this](const QString &column) {

@@ -3,8 +3,8 @@
 #include <QStringList>
 
 /**
- * The tables of the presets database. Each has the key column ID and 62 columns of the caller's names after it; what type
- * a column has depends on its place alone.
+ * The tables of the presets database. Each has the key column ID and 62 columns with the caller's names after it; the
+ * type of a column depends only on its position.
  */
 namespace presets {
 

@@ -29,7 +29,7 @@ QStringView withoutSpace(QStringView text)
     return text;
 }
 
-/** Takes a part in quotation marks off the front of @p rest; a doubled closing mark stands for itself. */
+/** Takes a quoted part off the front of @p rest; a doubled closing quote represents itself. */
 std::optional<QString> takeQuoted(QStringView &rest)
 {
     const QChar close = rest.front() == u'[' ? QChar(u']') : rest.front();

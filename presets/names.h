@@ -6,8 +6,8 @@
 #include <optional>
 
 /**
- * Names of tables and columns as callers give them. They are pasted into statements as they stand, so what is not a name
- * and nothing but a name must be told apart here: the database itself cannot see a constant condition or a comment.
+ * Names of tables and columns as callers give them. They are pasted into statements unchanged, so anything that is not
+ * simply a name must be recognised here: the database itself cannot see a constant condition or a comment.
  */
 namespace presets {
 
@@ -19,12 +19,12 @@ namespace presets {
  */
 std::optional<QString> oneName(const QString &text, int mostParts);
 
-/** The columns of a list such as "StrField0, StrField1", "*" among them where it stands; nothing if one is no name. */
+/** The columns of a list such as "StrField0, StrField1", including "*"; nothing if one is not a name. */
 std::optional<QStringList> columnList(const QString &text);
 
 /**
- * Whether @p text can stand between single quotes without ending them, or the statement, and as itself: half a character would
- * become another text in UTF-8.
+ * Whether @p text can be put between single quotes without ending them, or the statement, and unchanged: half a
+ * surrogate pair would become another text in UTF-8.
  */
 bool staysInsideQuotes(const QString &text);
 

@@ -11,7 +11,7 @@ namespace {
 constexpr int partsOfTable = 2;
 constexpr int partsOfColumn = 3;
 
-/** How a text that is nothing is written by a format. */
+/** How a null text is formatted. */
 QString written(const QString &text)
 {
     return text.isNull() ? QStringLiteral("(null)") : text;
@@ -27,7 +27,7 @@ bool allStayInsideQuotes(const QStringList &texts)
     return std::all_of(texts.begin(), texts.end(), staysInsideQuotes);
 }
 
-/** 'a','b', 'c','d','e': the blank after the second comma is part of the text as it is known. */
+/** 'a','b', 'c','d','e': the space after the second comma is part of the fixed text. */
 QString quotedList(const QStringList &texts)
 {
     QString list;
@@ -50,7 +50,7 @@ Statement onTable(Verb verb, const QString &table)
     return statement;
 }
 
-/** Writes down one condition in @p statement, and gives its text. */
+/** Adds one condition to @p statement, and returns its text. */
 QString withCondition(Statement &statement, const Condition &condition)
 {
     const std::optional<QString> name = oneName(condition.column, partsOfColumn);

@@ -4,30 +4,32 @@
 #include <QStringList>
 
 /**
- * The statements of the presets store, letter for letter: what callers give is pasted in as it stands. Nothing is escaped,
- * so each statement also says what it was meant to be, and the connection runs it only as that.
+ * The statements of the presets store, letter for letter: arguments are pasted in unchanged. Nothing is escaped, so
+ * each statement also records its intention, and the connection runs it only as that.
  */
 namespace presets {
 
 enum class Verb { CreateTable, Insert, Select, Delete };
 
-/** A statement's text, and the one change that it was meant for. */
+/** A statement's text, and the one change that it was intended for. */
 struct Statement
 {
     QString text;
     Verb verb = Verb::Select;
-    /** The one table that it makes, reads or changes. */
+    /** The one table that it creates, reads or changes. */
     QString table;
     /** The columns that it names and that the table must therefore have; "*" is not one of them. */
     QStringList columns;
-    /** False where a name is no name, or a quoted name or value would end its quotes: such a statement never runs. */
+    /** False if a name is invalid, or a quoted name or value would end its quotes: such a statement never runs. */
     bool isSound = true;
 };
 
 /** "Create table if not exists '...' (ID INTEGER PRIMARY KEY AUTOINCREMENT, ...);" with the 62 @p columns. */
 Statement createTable(const QString &table, const QStringList &columns);
 
-/** "Insert or replace into '...' (...) values (...)", with a blank after the second comma of each list and nowhere else. */
+/**
+ * "Insert or replace into '...' (...) values (...)", with a space after the second comma of each list and nowhere else.
+ */
 Statement insertRecord(const QString &table, const QStringList &columns, const QStringList &values);
 
 /** "SELECT * FROM ..." */

@@ -14,7 +14,7 @@ namespace {
 
 using Handle = std::unique_ptr<sqlite3, int (*)(sqlite3 *)>;
 
-/** Opened for itself alone, so that nobody is making its tables at this moment; null where that cannot be. */
+/** Opened exclusively, so that nobody is creating its tables at this moment; null if that is impossible. */
 Handle openedAlone(const QString &path)
 {
     constexpr int waitMs = 2000;
