@@ -9,7 +9,7 @@ namespace {
 
 constexpr char32_t lastAscii = 0x7F;
 
-/** Accented letters that Unicode does not take apart. */
+/** Accented letters that Unicode does not decompose. */
 struct Stroked
 {
     char32_t letter;

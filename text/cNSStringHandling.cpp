@@ -19,7 +19,7 @@ QString formatted(const QString &text)
     return text.isNull() ? QStringLiteral("(null)") : text;
 }
 
-/** Nothing becomes nothing, and empty text stays text. */
+/** Null stays null, and empty text stays text. */
 QString sameNull(const QString &source, const QString &result)
 {
     if (source.isNull())

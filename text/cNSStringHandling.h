@@ -7,12 +7,12 @@
 #include <QVariant>
 
 /**
- * Operations on text from which names of files and folders are built. Each takes values and returns a new one; nothing is kept
+ * Text operations for building names of files and folders. Each takes values and returns a new one; nothing is stored
  * between calls.
  *
- * Positions and counts are in UTF-16 code units, from 0. A position, count or range outside the text, a negative one too, leaves the
- * text as it was. Modes are text or a number: 1 and "1" mean the same. Tests answer "YES" or "NO". Null as the text to be
- * changed gives null, and null in a test "NO"; null as any other text is written "(null)".
+ * Positions and counts are in UTF-16 code units, from 0. A position, count or range outside the text, or a negative
+ * one, leaves the text unchanged. Modes are text or a number: 1 and "1" mean the same. Tests answer "YES" or "NO". Null
+ * as the text to be changed gives null, and null in a test "NO"; null as any other text is written "(null)".
  */
 class cNSStringHandling : public QObject
 {
@@ -29,20 +29,20 @@ public:
      */
     Q_INVOKABLE QString hChangeCaseFiles(const QString &text, const QVariant &mode) const;
 
-    /** The pieces between the separators; one piece where there is none. An empty separator occurs nowhere. */
+    /** The pieces between the separators; one piece if there is none. An empty separator never occurs. */
     Q_INVOKABLE QStringList hSplitString(const QString &text, const QString &separator) const;
 
     /** @p target with @p insertion at @p position; at the length it is appended. */
     Q_INVOKABLE QString hInsertStringInString(const QString &target, const QString &insertion, int position) const;
 
-    /** Replaces every occurrence, by case. An empty @p search occurs nowhere. */
+    /** Replaces every occurrence, case-sensitively. An empty @p search never occurs. */
     Q_INVOKABLE QString hReplaceStringInString(const QString &text, const QString &search,
                                                const QString &replacement) const;
 
     /** "NA" keeps letters, marks and numbers of every script, "OL" letters and marks only; any other mode keeps all. */
     Q_INVOKABLE QString hRemoveNonLetters(const QString &text, const QVariant &mode) const;
 
-    /** Takes @p count units from the end ("fRight") or the beginning ("fLeft"); any other side takes none. */
+    /** Removes @p count units from the end ("fRight") or the beginning ("fLeft"); any other side removes none. */
     Q_INVOKABLE QString hStripString(const QString &text, const QVariant &side, int count) const;
 
     /** @p length units from @p start; all of the text if that range is not in it. */
@@ -65,16 +65,16 @@ public:
     /** By case. */
     Q_INVOKABLE QString hStringBeginsWith(const QString &text, const QString &prefix) const;
 
-    /** By case. Raises a RangeError if @p suffix is longer than @p text; the only operation here that raises. */
+    /** Case-sensitive. Raises a RangeError if @p suffix is longer than @p text; the only operation here that raises. */
     Q_INVOKABLE QString hStringEndWith(const QString &text, const QString &suffix) const;
 
     /** Base64 on one line. */
     Q_INVOKABLE QString hConvertNSdToNSstr(const QByteArray &data) const;
 
-    /** Passes over characters outside the alphabet; null if what remains is not whole groups of four, padding included. */
+    /** Skips characters outside the alphabet; null if what remains is not whole groups of four, including padding. */
     Q_INVOKABLE QByteArray hConvertNSstrToNSd(const QString &base64Text) const;
 
-    /** The last component of a path, without slashes behind it. */
+    /** The last component of a path, without trailing slashes. */
     Q_INVOKABLE QString hGetFileNameWithExt(const QString &path) const;
 
     /** The same without what follows its last dot, and without that dot: "/a/b/c.tar.gz" gives "c.tar". */
@@ -86,7 +86,10 @@ public:
     /** Removes U+0020 only. */
     Q_INVOKABLE QString hRemoveWhiteSpace(const QString &text) const;
 
-    /** The text after a way through UTF-8, which makes "?" of half a surrogate pair. Logs "hUTF8toNSString" first. */
+    /**
+     * The text after a round trip through UTF-8, which turns half a surrogate pair into "?". Logs "hUTF8toNSString"
+     * first.
+     */
     Q_INVOKABLE QString hUTF8toNSString(const QString &text) const;
 
 private:

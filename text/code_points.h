@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/** Reading a text by characters. Half a surrogate pair without its other half is a character of its own. */
+/** Reading a text by characters. An unpaired surrogate counts as a character. */
 namespace text {
 
 /** How many UTF-16 code units a character takes. */
@@ -29,7 +29,7 @@ inline char32_t characterBefore(QStringView text, qsizetype index)
     return last.unicode();
 }
 
-/** One character as text. QString::fromUcs4() would take U+FEFF for a byte-order mark and leave it out. */
+/** One character as text. QString::fromUcs4() would take U+FEFF for a byte-order mark and drop it. */
 inline QString textOf(char32_t c)
 {
     QString text;

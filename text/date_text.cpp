@@ -9,7 +9,7 @@ QString zoneName(const QDateTime &date, const QTimeZone &zone, const QLocale &lo
     return name.isEmpty() ? zone.abbreviation(date) : name;
 }
 
-/** The locale's format of a full time, with the name of the zone as quoted text where the zone stands. */
+/** The locale's format of a full time, with the name of the zone as quoted text in its place. */
 QString fullTimeFormat(const QLocale &locale, QString name)
 {
     const QString quoted = u'\'' + name.replace(u'\'', QStringLiteral("''")) + u'\'';

@@ -45,7 +45,7 @@ std::optional<QByteArray> dataFromBase64(const QString &text)
 
 QString throughUtf8(const QString &text)
 {
-    // QString::fromUtf8() would leave out a byte-order mark.
+    // QString::fromUtf8() would drop a byte-order mark.
     return platform::textFromUtf8(text.toUtf8()).value_or(QString());
 }
 

@@ -13,12 +13,12 @@ std::optional<QByteArray> asciiBytes(const QString &text);
 /**
  * The data that a base64 text stands for.
  *
- * Characters outside the alphabet (line breaks, blanks, the signs of the alphabet for addresses) are passed over. Nothing if
- * what remains is not whole groups of four, or "=" stands anywhere but in the last two places.
+ * Characters outside the alphabet (line breaks, spaces, the URL-safe alphabet) are skipped. Nothing if what remains is
+ * not whole groups of four, or if "=" occurs anywhere but in the last two places.
  */
 std::optional<QByteArray> dataFromBase64(const QString &text);
 
-/** The text after a way through UTF-8: the same, but for halves of surrogate pairs, each of which becomes "?". */
+/** The text after a round trip through UTF-8: unchanged, except that each unpaired surrogate becomes "?". */
 QString throughUtf8(const QString &text);
 
 } // namespace text

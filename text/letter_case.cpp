@@ -9,7 +9,7 @@ constexpr char32_t capitalSigma = 0x3A3;
 constexpr char32_t finalSigma = 0x3C2;
 constexpr char32_t capitalDottedI = 0x130;
 
-/** Signs that stand inside words: apostrophes, full stops, colons, middle dots. */
+/** Characters within words: apostrophes, full stops, colons, middle dots. */
 bool isInsideWords(char32_t c)
 {
     static const QString signs =
@@ -17,7 +17,7 @@ bool isInsideWords(char32_t c)
     return c <= 0xFFFF && signs.contains(QChar(char16_t(c)));
 }
 
-/** What is passed over in looking for the letters around a sigma. */
+/** What is skipped when searching for the letters around a sigma. */
 bool isCaseIgnorable(char32_t c)
 {
     switch (QChar::category(c)) {
@@ -38,7 +38,7 @@ bool isCased(char32_t c)
            QChar::toLower(c) != c;
 }
 
-/** Whether the sigma at @p index has a letter before it and none behind it. */
+/** Whether the sigma at @p index has a letter before it and none after it. */
 bool isFinalSigma(const QString &text, qsizetype index)
 {
     qsizetype before = index;
@@ -93,7 +93,7 @@ QString capitalised(const QString &text)
     bool isBetweenWords = true;
     for (qsizetype i = 0; i < text.size(); i += unitsOf(characterAt(text, i))) {
         const char32_t c = characterAt(text, i);
-        // Of a word only its very first character counts: "1st", not "1St".
+        // Only the very first character of a word counts: "1st", not "1St".
         if (isBetweenWords && QChar::isLetter(c))
             result += titleCase(c);
         else

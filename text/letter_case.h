@@ -11,8 +11,9 @@ namespace text {
 enum class CaseChange { None, Lower, Upper, Capitalised };
 
 /**
- * Only white space bounds a word when capitalising: the first letter of each word is put into title case and everything
- * else into lower case: "o'NEIL (JOHN)" is "O'neil (John)". Signs and digits before the first letter are passed over: "2nd" is "2Nd".
+ * Capitalising treats only white space as a word boundary: the first letter of each word becomes title case and
+ * everything else lower case: "o'NEIL (JOHN)" is "O'neil (John)". Other characters before the first letter are skipped:
+ * "2nd" is "2Nd".
  */
 QString changedCase(const QString &text, CaseChange change);
 

@@ -7,7 +7,7 @@ namespace text {
 /** Letters are the letters and marks of every script; numbers are its digits and other numerals. */
 enum class Kept { Letters, LettersAndNumbers };
 
-/** @p text without every character of another kind, with nothing in its place. */
+/** @p text without characters of any other kind, which are simply removed. */
 QString onlyLetters(const QString &text, Kept kept);
 
 } // namespace text

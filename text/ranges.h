@@ -5,8 +5,9 @@
 #include <optional>
 
 /**
- * Parts of a text by position. Positions and counts are in UTF-16 code units, from 0; a character beyond the basic plane is two
- * of them, and may be cut in half. Every function gives nothing for a position, count or range that is not in the text.
+ * Parts of a text by position. Positions and counts are in UTF-16 code units, from 0; a character beyond the basic
+ * plane counts as two, and may be cut in half. Every function returns nothing for a position, count or range that is
+ * not in the text.
  */
 namespace text {
 

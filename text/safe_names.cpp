@@ -19,7 +19,7 @@ bool isRefused(QChar c)
     return QStringView(u"/\\:*?\"<>|").contains(c);
 }
 
-/** Half a surrogate pair cannot be written as a name. */
+/** Half a surrogate pair cannot be part of a file name. */
 QString withoutHalves(const QString &value)
 {
     QString whole;
@@ -63,7 +63,7 @@ QString asPartOfName(const QString &value)
 
 QString asFolderName(const QString &value)
 {
-    // Room for a number, and for what programs that copy the folder put behind its name.
+    // Room for a number, and for what programs append when they copy the folder.
     constexpr qsizetype longestBytes = 180;
     const QString text = withRunsReplaced(withRunsReplaced(withoutHalves(value), isControl, u' '), isRefused, u'-');
     return withoutBlanksAround(platform::shortened(withoutDotsAround(text), longestBytes));

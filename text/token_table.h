@@ -6,7 +6,7 @@
 #include <initializer_list>
 #include <span>
 
-/** What tokens there are; tokens.h has what others ask. */
+/** The list of tokens; tokens.h has what others need. */
 namespace text {
 
 enum class Token {
@@ -28,10 +28,10 @@ enum class Token {
     Folder,
 };
 
-/** What the text behind the colon of a token can be. */
+/** What may follow the colon of a token. */
 enum class TokenForms { None, Date, Counter, Name, Size };
 
-/** Whether the path of a file is all that a token needs. */
+/** Whether a token needs only the path of a file. */
 enum class TokenSource { Path, Facts };
 
 struct TokenRow
@@ -40,33 +40,33 @@ struct TokenRow
     const char *name;
     TokenForms forms;
     TokenSource source;
-    /** In English; translated where a reader sees them. */
+    /** In English; translated when a reader sees them. */
     const char *words;
     const char *example;
 };
 
 std::span<const TokenRow> tokenTable();
 
-/** The row of the token of that name, by case; null where there is none. */
+/** The row of the token of that name, case-sensitively; null if there is none. */
 const TokenRow *tokenRow(QStringView name);
 
-/** Whether a form is one of those. */
+/** Whether a format is valid. */
 bool isTokenForm(TokenForms forms, const QString &form);
 
-/** The parts of dates, the longer ones before those that they begin with. */
+/** The parts of dates, longer ones before their own prefixes. */
 inline constexpr std::initializer_list<const char *> datePartNames = {"yyyy", "MMM", "EEE", "yy", "MM",
                                                                       "dd",   "HH",  "mm",  "ss"};
 
-/** The part of a date that begins at @p at of a form; empty where that is a sign between two. */
+/** The date part that begins at @p at of a format; empty for a separator. */
 QStringView datePartAt(const QString &form, qsizetype at);
 
-/** The words of the form "~a,b" of a name. */
+/** The words of the format "~a,b" of a name. */
 QStringList wordsOfForm(const QString &form);
 
-/** White space as users of names mean it: also a byte-order mark. */
+/** White space as users of names understand it: including a byte-order mark. */
 bool isBlank(QChar c);
 
-/** Without such signs at both ends. */
+/** Trimmed of such characters. */
 QString withoutBlanksAround(QStringView text);
 
 } // namespace text

@@ -149,7 +149,7 @@ QString folderName(const QString &path)
     return slash > 0 ? path.left(slash).section(u'/', -1) : QString();
 }
 
-/** What a token stands for; empty where that is missing. */
+/** The value of a token; empty if it is missing. */
 QString valueOf(Token token, const QString &form, const TokenFacts &facts, TokenLanguage language)
 {
     switch (token) {

@@ -52,7 +52,7 @@ QString formHint(const TokenRow &row, const QString &form)
         .arg(QLatin1String(row.name));
 }
 
-/** What is wrong with one token; empty where nothing is. */
+/** What is wrong with one token; empty if nothing is. */
 QString problemOf(const TokenPart &part)
 {
     if (const TokenRow *row = tokenRow(part.token); row != nullptr)
@@ -62,7 +62,7 @@ QString problemOf(const TokenPart &part)
                : QCoreApplication::translate("text", "There is no token {%1}").arg(part.token);
 }
 
-/** Whether a brace is text though it was not written twice. */
+/** Whether a brace is text although it was not doubled. */
 bool hasOpenBrace(const QString &pattern, const QList<TokenPart> &parts)
 {
     const QString written = QString(pattern).remove(QStringLiteral("{{"));

@@ -7,14 +7,14 @@
 /**
  * Texts with tokens in them, such as "{taken:yyyy-MM-dd} {name}", for names, folders, comments and watermarks.
  *
- * Forms of a date are made of yyyy yy MM MMM dd EEE HH mm ss and any signs between them; without one it is yyyy-MM-dd. The form
- * of a counter is its first number, with as many figures as the others get. The forms of a name: a number, for so many letters
- * of its beginning; "word", for what stands before the first figure, blank, hyphen, underscore or dot; "~a,b", for the first of
- * these words that stands in it. Forms of a size: "class", "MB".
+ * Date formats consist of yyyy yy MM MMM dd EEE HH mm ss and any separators; the default is yyyy-MM-dd. The format of a
+ * counter is its first number, with as many digits as the others get. The formats of a name: a number, for so many
+ * letters of its beginning; "word", for what precedes the first digit, space, hyphen, underscore or dot; "~a,b", for
+ * the first of these words that it contains. Formats of a size: "class", "MB".
  */
 namespace text {
 
-/** A piece of such a text: a token and its form, or what stands between two tokens. */
+/** A piece of such a text: a token and its format, or the text between two tokens. */
 struct TokenPart
 {
     QString text;
@@ -26,24 +26,27 @@ struct TokenPart
 };
 
 /**
- * Takes a text apart, in order. "{{" is a brace; a brace that is not closed is text. What stands in braces is a token whether
- * there is one of that name or not; tokenProblems() tells. Two texts never follow each other, and none is empty.
+ * Parses a text, in order. "{{" is a brace; an unclosed brace is text. Anything in braces counts as a token, even an
+ * unknown one; tokenProblems() reports that. Two texts never follow each other, and none is empty.
  */
 QList<TokenPart> tokenParts(const QString &pattern);
 
-/** The parts as a pattern again, that is taken apart into the same. */
+/** The parts as a pattern again, which parses into the same parts. */
 QString tokenPattern(const QList<TokenPart> &parts);
 
-/** The parts of each level of a pattern of folders; a "/" in a text parts levels, empty ones are passed over. */
+/** The parts of each level of a folder pattern; a "/" in a text separates levels, empty ones are dropped. */
 QList<QList<TokenPart>> tokenLevels(const QList<TokenPart> &parts);
 
-/** What is wrong with a text, as sentences for the reader, each once; empty where nothing is. */
+/** What is wrong with a text, as sentences for the reader, each once; empty if nothing is. */
 QStringList tokenProblems(const QString &pattern);
 
 /** True if more than the path of a file is needed for these parts. */
 bool needsFacts(const QList<TokenPart> &parts);
 
-/** A token as it is offered: its name, what it stands for in the reader's words, forms to choose from ("" is none), an example without one. */
+/**
+ * A token on offer: its name, its meaning in the reader's words, formats to choose from ("" is none), an example
+ * without one.
+ */
 struct OfferedToken
 {
     QString name;
@@ -52,7 +55,7 @@ struct OfferedToken
     QStringList forms;
 };
 
-/** What a token stands for, in the reader's words; its name where there is none of that name. */
+/** The meaning of a token in the reader's words; its name if there is no such token. */
 QString tokenWords(const QString &name);
 
 /** All tokens, in the order in which they are offered. */

@@ -53,7 +53,7 @@ QStringList namesWhere(bool arePlaces)
     return names;
 }
 
-/** Lines that were nothing but separators around missing values tell nothing. */
+/** Lines with only separators around missing values say nothing. */
 bool saysSomething(const QString &line)
 {
     return std::any_of(line.begin(), line.end(), [](QChar c) { return c.isLetterOrNumber() || c.isSurrogate(); });
@@ -80,7 +80,7 @@ QString captionTokenWords(const QString &name)
 QStringList captionProblems(const QString &pattern, Places places)
 {
     QStringList problems;
-    QStringList known; // what is said of tokens that names do not have
+    QStringList known; // tokens that only captions have, with their descriptions
     for (const TokenPart &part : tokenParts(pattern)) {
         if (!isCaptionToken(part))
             continue;

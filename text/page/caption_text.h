@@ -8,10 +8,10 @@
 
 namespace text {
 
-/** What captions of a page can say of a picture beside the tokens of names: {title}, {caption}, {creator} and others. */
+/** Tokens of captions besides those of names: {title}, {caption}, {creator} and others. */
 QStringList captionTokens();
 
-/** Those of them that tell where a picture was taken: {city} and others. */
+/** Those of them that say where a picture was taken: {city} and others. */
 QStringList placeTokens();
 
 /** What a token of captions stands for, in the reader's words. */
@@ -19,14 +19,14 @@ QString captionTokenWords(const QString &name);
 
 enum class Places { MayBeTold, AreKeptBack };
 
-/** What is wrong with the pattern of captions, as sentences; places that are kept back are refused. */
+/** What is wrong with the pattern of captions, as sentences; withheld places are refused. */
 QStringList captionProblems(const QString &pattern, Places places);
 
-/** Whether the pattern says anything that stands in the metadata of a picture. */
+/** Whether the pattern uses any metadata of a picture. */
 bool needsPictureTexts(const QString &pattern);
 
 /**
- * The caption of one picture; what it lacks is nothing, and lines in which nothing is left are left out.
+ * The caption of one picture; missing values are empty, and lines in which nothing is left are dropped.
  *
  * @param texts  by the names of captionTokens()
  */

@@ -43,7 +43,7 @@ double luminance(const Rgb &color)
 
 double contrast(const Rgb &one, const Rgb &other)
 {
-    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)}); // of values: none is referred to
+    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)}); // of values: no reference is kept
     return (lighter + 0.05) / (darker + 0.05);
 }
 
@@ -55,7 +55,7 @@ Rgb between(const Rgb &from, const Rgb &to, double share)
     return mixed;
 }
 
-/** The first on the way to the ink that can be read on the paper. */
+/** The first colour on the way to the ink that is readable on the paper. */
 Rgb readableOn(const Rgb &paper, const Rgb &wanted, const Rgb &ink)
 {
     constexpr int steps = 50;
@@ -75,7 +75,7 @@ PageColors pageColors(const QString &paper, const QString &accent)
     constexpr Rgb black{0x17, 0x19, 0x1c};
     constexpr Rgb white{0xf4, 0xf5, 0xf6};
     const Rgb ground = colorOf(paper, QStringLiteral("#ffffff"));
-    // On a paper between the two neither of these is enough, and pure black or white is.
+    // On a medium paper neither of these is enough, but pure black or white is.
     Rgb ink = contrast(white, ground) > contrast(black, ground) ? white : black;
     if (contrast(ink, ground) < readable)
         ink = contrast({255, 255, 255}, ground) > contrast({0, 0, 0}, ground) ? Rgb{255, 255, 255} : Rgb{0, 0, 0};

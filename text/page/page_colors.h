@@ -4,7 +4,7 @@
 
 namespace text {
 
-/** The colours of a page by daylight or in the dark, "#rrggbb" each, in which every text can be read. */
+/** The colours of a page, light or dark, "#rrggbb" each, in which every text is readable. */
 struct PageColors
 {
     QString paper;  ///< behind everything
@@ -14,12 +14,13 @@ struct PageColors
 };
 
 /**
- * Colours that go with a paper and an accent, each "#rrggbb": ink is black or white, what can be read better; the accent comes as much
- * nearer to the ink as it takes for a contrast of 4.5 to 1, and so do soft texts. A text that is no colour is white, or blue for the accent.
+ * Colours that go with a paper and an accent, each "#rrggbb": ink is black or white, whichever is more readable; the
+ * accent is moved towards the ink until its contrast is 4.5 to 1, and so are soft texts. An invalid colour becomes
+ * white, or blue for the accent.
  */
 PageColors pageColors(const QString &paper, const QString &accent);
 
-/** The contrast of two colours "#rrggbb", 1 to 21, as the guidelines for accessible pages reckon it. */
+/** The contrast of two colours "#rrggbb", 1 to 21, as defined by the accessibility guidelines. */
 double contrastOf(const QString &one, const QString &other);
 
 } // namespace text

@@ -38,7 +38,10 @@ bool isPictureField(const QString &name)
     return isAmong(pictureFields, name);
 }
 
-/** Colours and numbers may stand where a browser reads no HTML; a text of somebody's could end it there, or mean something else. */
+/**
+ * Colours and numbers may appear where a browser does not parse HTML; a user's text could end that context, or mean
+ * something else there.
+ */
 bool isFreeOfTexts(const QString &name)
 {
     return name.startsWith(QStringLiteral("light")) || name.startsWith(QStringLiteral("dark")) ||
@@ -53,7 +56,7 @@ QString valueOf(const QString &name, const PageValues &page, const PageValues *p
 
 } // namespace
 
-/** Takes a template apart; knows the line, what is open, and whether a script or a style sheet is. */
+/** Parses a template; tracks the line, what is open, and whether inside a script or a style sheet. */
 class PageTemplate::Reader
 {
 public:
@@ -98,7 +101,7 @@ private:
         follow(text);
     }
 
-    // What begins and ends last in this text decides.
+    // What begins or ends last in this text decides.
     void follow(const QString &text)
     {
         for (const char *name : {"script", "style"}) {

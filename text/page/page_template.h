@@ -11,20 +11,20 @@
 
 namespace text {
 
-/** What stands for the fields of a template in one place: of the page, or of one of its pictures. */
+/** The values of a template's fields: of the page, or of one of its pictures. */
 struct PageValues
 {
-    /** Plain texts, which are escaped where they are put in; one that is missing is empty. */
+    /** Plain texts, which are escaped when inserted; a missing one is empty. */
     QHash<QString, QString> texts;
-    /** Those that are put in as they are: what is in them is escaped already. */
+    /** Those that are inserted unchanged: their contents are escaped already. */
     QHash<QString, QString> markup;
     QList<PageValues> pictures;
 };
 
 /**
- * The file that a web page is made from: HTML with fields. {{name}} is replaced by its value; {{#name}} ... {{/name}} stays where that
- * has a value, {{^name}} ... {{/name}} where it has none, and {{#pictures}} ... {{/pictures}} is repeated for each picture.
- * A field that begins with "picture" stands within one of these.
+ * The file that a web page is made from: HTML with fields. {{name}} is replaced by its value; {{#name}} ... {{/name}}
+ * is kept if that has a value, {{^name}} ... {{/name}} if it has none, and {{#pictures}} ... {{/pictures}} is repeated
+ * for each picture. A field that begins with "picture" must be inside the last one.
  */
 class PageTemplate
 {
@@ -42,7 +42,7 @@ private:
     struct Part
     {
         Kind kind = Kind::Text;
-        QString text; ///< what stands there, or the name of the field
+        QString text; ///< the literal text, or the name of the field
         int line = 0;
         std::vector<Part> inner;
     };
@@ -53,7 +53,7 @@ private:
     std::vector<Part> m_parts;
 };
 
-/** A text as it stands between tags and in quoted attributes; signs that no page may hold are left out. */
+/** A text for use between tags and in quoted attributes; characters that a page must not contain are dropped. */
 QString escapedForPage(const QString &text);
 
 } // namespace text

@@ -20,7 +20,8 @@ struct Row
     const char *download;
 };
 
-// Of the page, not of the program: they follow the language of the page, whatever the reader of this program speaks.
+// Of the page, not of the program: they follow the language of the page, whatever language the user of this program
+// reads.
 constexpr std::array rows = {
     Row{"en", "Pictures", "Picture %1 of %2", "Close", "Next", "Previous", "Download"},
     Row{"de", "Bilder", "Bild %1 von %2", "Schließen", "Weiter", "Zurück", "Herunterladen"},

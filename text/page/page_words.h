@@ -4,10 +4,10 @@
 
 namespace text {
 
-/** The words that a page has beside those of its maker. */
+/** The fixed words of a page. */
 struct PageWords
 {
-    QString language; ///< that they are in: "en", "de", "fr" or "nl"
+    QString language; ///< their language: "en", "de", "fr" or "nl"
     QString pictures;
     QString picture; ///< "Picture %1 of %2"
     QString close;
@@ -16,10 +16,10 @@ struct PageWords
     QString download;
 };
 
-/** The words for pages in a language, such as "de" or "de-AT"; English where there are none in it. */
+/** The words for pages in a language, such as "de" or "de-AT"; English if we have none in it. */
 PageWords pageWords(const QString &language);
 
-/** Whether a text can be the code of a language: "de", "pt-BR", "zh-Hant". */
+/** Whether a text can be a language code: "de", "pt-BR", "zh-Hant". */
 bool isLanguageCode(const QString &language);
 
 /** Whether a language is written from right to left, as Arabic is; by its code. */

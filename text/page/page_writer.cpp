@@ -14,7 +14,7 @@ namespace text {
 
 namespace {
 
-/** As many pictures are loaded at once, whatever of the page is seen. */
+/** As many pictures are loaded at once, whatever part of the page is visible. */
 constexpr int seenFirst = 4;
 
 QString key(const char *name)
@@ -40,7 +40,7 @@ QString withBreaks(const QString &text)
     return escapedForPage(text).replace(u'\n', QStringLiteral("<br>"));
 }
 
-/** Each paragraph finds its own direction. */
+/** Each paragraph determines its own direction. */
 QString paragraphs(const QString &text)
 {
     QString html;
@@ -160,7 +160,8 @@ platform::Result<QString> writePage(const QString &pageTemplate, const Page &pag
 QString pageAddress(const QString &path)
 {
     QString address = QString::fromLatin1(QUrl::toPercentEncoding(path, "/"));
-    // "a:b.jpg" would be an address with a scheme; the colon is a code then, as is everything but letters and a few signs.
+    // "a:b.jpg" would be an address with a scheme; so the colon is encoded, like everything except letters and a few
+    // other characters.
     return address;
 }
 

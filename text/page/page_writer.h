@@ -11,7 +11,7 @@ namespace text {
 /** One file of a picture on a page. */
 struct PageFile
 {
-    QString path; ///< below the folder of the page: "pictures/a b.jpg"
+    QString path; ///< relative to the folder of the page: "pictures/a b.jpg"
     QSize pixels;
 };
 
@@ -24,13 +24,13 @@ struct PagePicture
 enum class PageStyle {
     Grid,  ///< squares of one size; the large view shows the whole picture
     Rows,  ///< pictures of one height, each row as wide as the page
-    Story, ///< one below the other, with their captions
+    Story, ///< one below the other, with captions
 };
 
 struct Page
 {
     QString title;
-    QString text; ///< plain; empty lines part paragraphs
+    QString text; ///< plain; empty lines separate paragraphs
     PageStyle style = PageStyle::Grid;
     QString language = QStringLiteral("en");
     bool isFromTheRight = false;
@@ -45,14 +45,14 @@ struct Page
 QString standardPageTemplate();
 
 /**
- * The HTML of a page. Every text of a person or a picture is escaped, and every address is relative.
+ * The HTML of a page. Every text from a person or a picture is escaped, and every address is relative.
  *
  * @param pageTemplate  see PageTemplate
  * Fails with InvalidValue, in a sentence, for an invalid template and for a picture without files.
  */
 platform::Result<QString> writePage(const QString &pageTemplate, const Page &page);
 
-/** A path below the folder of the page as an address: what browsers would take for something else is a code. */
+/** A relative path of the page's folder as an address: characters with a special meaning are encoded. */
 QString pageAddress(const QString &path);
 
 } // namespace text

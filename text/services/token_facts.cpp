@@ -8,7 +8,7 @@ namespace text {
 
 TokenFacts tokenFactsFrom(const QVariantMap &map, const QString &path)
 {
-    /** As far as every whole number is one. */
+    /** Up to this every whole number can be represented. */
     constexpr double mostCounted = 9007199254740991;
     TokenFacts facts;
     facts.path = path;

@@ -6,7 +6,10 @@
 
 namespace text {
 
-/** What FileService::facts() says of a file, for tokens; raises a TypeError for a value of another type. Empty: only its path is known. */
+/**
+ * Facts from FileService::facts(), for tokens; raises a TypeError for a value of another type. Empty: only the path is
+ * known.
+ */
 TokenFacts tokenFactsFrom(const QVariantMap &map, const QString &path);
 
 } // namespace text

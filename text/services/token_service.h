@@ -17,13 +17,13 @@ public:
     /** All tokens, in their order, each as {name, words, example, forms}; see OfferedToken. */
     Q_INVOKABLE QVariantList offered() const;
 
-    /** A text taken apart: {text} or {token, form} each. See tokenParts(). */
+    /** A text parsed: {text} or {token, form} each. See tokenParts(). */
     Q_INVOKABLE QVariantList parts(const QString &pattern) const;
 
-    /** What a token stands for, in the reader's words; its name where there is none of that name. */
+    /** What a token stands for, in the reader's words; its name if there is no such token. */
     Q_INVOKABLE QString words(const QString &token) const;
 
-    /** The pattern of each level of a pattern of folders. See tokenLevels(). */
+    /** The pattern of each level of a folder pattern. See tokenLevels(). */
     Q_INVOKABLE QStringList levels(const QString &pattern) const;
 
     /** See tokenProblems(). */

@@ -11,7 +11,7 @@
 
 namespace {
 
-/** As far as every whole number is one. */
+/** Up to this every whole number can be represented. */
 constexpr double mostCounted = 9007199254740991;
 
 qint64 wholeIndex(double index)

@@ -5,20 +5,20 @@
 #include <QObject>
 #include <QVariantMap>
 
-/** A text with tokens in it, made ready for many files. In the reader's words. */
+/** A text with tokens, prepared for many files. In the reader's words. */
 class TokenText : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(QString pattern READ pattern WRITE setPattern)
-    /** What stands for a missing value, by the names of tokens; and for all that have none of their own. */
+    /** Replacements for missing values, by the names of tokens; and one for all that have none of their own. */
     Q_PROPERTY(QVariantMap standIns READ standIns WRITE setStandIns)
     Q_PROPERTY(QString standIn MEMBER m_standIn)
     /**
-     * What becomes of a value before it is put in. "plain": nothing; "name": it can be a part of a file's name; "folder": of
-     * a folder's, and the whole text is made one, or "-" where nothing of it is left.
+     * What is done to a value before it is inserted. "plain": nothing; "name": it is made fit for a file name;
+     * "folder": for a folder name, and so is the whole text, which becomes "-" if nothing of it is left.
      */
     Q_PROPERTY(QString values READ values WRITE setValues)
-    /** Whether expand() looks at more than paths and indices. */
+    /** Whether expand() needs more than paths and indices. */
     Q_PROPERTY(bool needsFacts READ needsFacts)
 
 public:
@@ -27,7 +27,7 @@ public:
     QString pattern() const { return m_pattern; }
     void setPattern(const QString &pattern);
     QVariantMap standIns() const;
-    /** Raises a TypeError for one that is no text. */
+    /** Raises a TypeError if one is not a text. */
     void setStandIns(const QVariantMap &standIns);
     QString values() const;
     /** Raises a TypeError for another word. */
@@ -35,11 +35,12 @@ public:
     bool needsFacts() const { return m_needsFacts; }
 
     /**
-     * The text for one file, and behind it the names of the tokens that it has no value for.
+     * The text for one file, followed by the names of the tokens for which it has no value.
      *
-     * @param facts  what FileService::facts() says; null where needsFacts is false, or nothing is known. Raises a TypeError for one
+     * @param facts  from FileService::facts(); null if needsFacts is false, or nothing is known. Raises a TypeError for
+     * one
      *               of another type
-     * @param index  how many files came before this one, for counters; whole, or a RangeError is raised
+     * @param index  how many files come before this one, for counters; whole, or a RangeError is raised
      */
     Q_INVOKABLE QStringList expand(const QString &path, const QVariantMap &facts, double index) const;
 
