@@ -11,7 +11,7 @@ class ViewHost
 {
 public:
     virtual ~ViewHost() = default;
-    /** The size that the enclosing scroll view has for its content; none where the view lies in none. */
+    /** The content size of the enclosing scroll view; none if the view is in none. */
     virtual std::optional<QSizeF> scrollContentSize() const = 0;
     virtual void requestRedisplay() = 0;
     virtual void requestLayout() = 0;

@@ -12,7 +12,7 @@ using platform::Bitmap;
 using platform::Picture;
 using platform::Result;
 
-/** Where the whole picture comes to lie on the target, in pixels, origin top left. */
+/** Where the whole picture is placed on the target, in pixels, origin top left. */
 struct Placement
 {
     QSizeF whole;
@@ -32,7 +32,7 @@ bool isUsable(const QRectF &source)
     return std::isfinite(source.width()) && std::isfinite(source.height()) && source.width() > 0 && source.height() > 0;
 }
 
-/** The part of @p picture that shows on a canvas of @p target, scaled, and where it lies there. */
+/** The part of @p picture that is visible on a canvas of @p target, scaled, and its position there. */
 struct Layer
 {
     Result<Bitmap> bitmap;
@@ -47,7 +47,7 @@ Layer wholeLayer(const Picture &picture, const Placement &placement)
     return {picture.scaledTo(whole), corner};
 }
 
-/** Scales no more of the picture than is seen. */
+/** Scales no more of the picture than is visible. */
 Layer partLayer(const Picture &picture, const Placement &placement, QSize target)
 {
     const QRectF shown = QRectF(placement.corner, placement.whole).intersected(QRectF(QPointF(0, 0), QSizeF(target)));
@@ -63,7 +63,7 @@ Layer partLayer(const Picture &picture, const Placement &placement, QSize target
 
 Layer layerOf(const Picture &picture, const Placement &placement, QSize target)
 {
-    // A picture of an extreme shape that fills its place would be huge as a whole.
+    // A picture of an extreme shape that fills its area would be huge as a whole.
     constexpr double mostOfTarget = 16;
     const double shownPixels = std::max(1.0, double(target.width()) * target.height());
     const bool isHuge = placement.whole.width() * placement.whole.height() > mostOfTarget * shownPixels;

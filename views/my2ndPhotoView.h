@@ -7,9 +7,9 @@
 /**
  * The second view, for the preview of a crop: a picture at the scale of the main view.
  *
- * It fits its picture into the size that the main view published last as "myBounds", whatever its own size is, and takes
- * it up at its own loads, mode changes and frame changes. Without that size it shows nothing. Fields without a comment
- * are kept for scripts only.
+ * It fits its picture into the size that the main view published last as "myBounds", whatever its own size is, and
+ * reads it when it loads or when its mode or frame changes. Without that size it shows nothing. Fields without a
+ * comment exist for scripts only.
  */
 class my2ndPhotoView : public views::PhotoView
 {
@@ -28,7 +28,7 @@ class my2ndPhotoView : public views::PhotoView
     Q_PROPERTY(platform::Picture pImageCrop MEMBER pImageCrop)
 
 public:
-    /** Starts without a picture and in fitted mode, and heeds changes of the frame from now on. */
+    /** Starts without a picture and in fitted mode, and observes changes of the frame from now on. */
     Q_INVOKABLE void awakeFromNib();
     /** Shows the picture at @p path; one that cannot be read shows nothing. */
     Q_INVOKABLE void setImageWithPath(const QString &path);
@@ -36,11 +36,11 @@ public:
     Q_INVOKABLE void setImageWithPath2(const QString &path);
     /** Shows @p image, which becomes pImageMainOrig too. */
     Q_INVOKABLE void setImage(const platform::Picture &image);
-    /** Fitted mode. Without a picture nothing changes, not even the mode; so too setImageToFullSize(). */
+    /** Fitted mode. Without a picture nothing changes, not even the mode; likewise for setImageToFullSize(). */
     Q_INVOKABLE void setImageToFit();
-    /** The other mode; the picture is fitted all the same. */
+    /** The other mode; the picture is fitted nevertheless. */
     Q_INVOKABLE void setImageToFullSize();
-    /** Takes the content size of the enclosing scroll view, where there is one, and sets the drawing scale and pScale. */
+    /** Adopts the content size of the enclosing scroll view, if there is one, and sets the drawing scale and pScale. */
     Q_INVOKABLE void adjustFrameToFit();
     Q_INVOKABLE void cropBoundsDidChangeNotification(platform::Sender notification);
 

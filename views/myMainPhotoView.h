@@ -7,8 +7,8 @@
 /**
  * The view of the current picture, fitted whole into the view or filling it.
  *
- * The picture as loaded stays as it is; what is shown is made of it again when the size or the mode changes. The size of
- * the view is kept in the user defaults as "myBounds". Fields without a comment are kept for scripts only.
+ * The loaded picture stays as it is; the shown one is made from it again when the size or the mode changes. The size of
+ * the view is stored in the user defaults as "myBounds". Fields without a comment exist for scripts only.
  */
 class myMainPhotoView : public views::PhotoView
 {
@@ -26,21 +26,23 @@ class myMainPhotoView : public views::PhotoView
     Q_PROPERTY(platform::Picture pImageCrop MEMBER pImageCrop)
 
 public:
-    /** Starts without a picture and in fitted mode, and heeds changes of the frame from now on. Logs "awakeFromNib". */
+    /**
+     * Starts without a picture and in fitted mode, and observes changes of the frame from now on. Logs "awakeFromNib".
+     */
     Q_INVOKABLE void awakeFromNib();
     /** Shows the picture at @p path; one that cannot be read shows nothing. */
     Q_INVOKABLE void setImageWithPath(const QString &path);
     /** The same, opened twice, so that pImage and pImageOrig share nothing. */
     Q_INVOKABLE void setImageWithPath2(const QString &path);
-    /** Stores @p image in pImage and keeps pImageOrig, of which the picture shown is made again. */
+    /** Stores @p image in pImage and keeps pImageOrig, from which the shown picture is made again. */
     Q_INVOKABLE void setImage(const platform::Picture &image);
-    /** Opens @p path, and shows pImageOrig all the same. */
+    /** Opens @p path, but shows pImageOrig. */
     Q_INVOKABLE void setImageCropPreview(const QString &path, platform::Sender unused);
-    /** Fitted mode. Without a picture nothing changes, not even the mode; so too setImageToFullSize(). */
+    /** Fitted mode. Without a picture nothing changes, not even the mode; likewise for setImageToFullSize(). */
     Q_INVOKABLE void setImageToFit();
     /** The picture fills the view. */
     Q_INVOKABLE void setImageToFullSize();
-    /** Takes the content size of the enclosing scroll view, where there is one, and sets the drawing scale. */
+    /** Adopts the content size of the enclosing scroll view, if there is one, and sets the drawing scale. */
     Q_INVOKABLE void adjustFrameToFit();
     Q_INVOKABLE void boundsDidChangeNotification(platform::Sender notification);
 

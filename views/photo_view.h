@@ -7,7 +7,7 @@
 
 namespace views {
 
-/** What scripts find on both preview views. Fields without a comment are kept for scripts only. */
+/** What scripts find on both preview views. Fields without a comment exist for scripts only. */
 class PhotoView : public QObject
 {
     Q_OBJECT
@@ -16,20 +16,20 @@ class PhotoView : public QObject
     Q_PROPERTY(QSizeF pImageSize MEMBER pImageSize)
     /** The frame size at which the drawing scale is 1; zero until it is set. */
     Q_PROPERTY(QSizeF pMaxFrameSize MEMBER pMaxFrameSize)
-    /** The scale applied when drawing; both alike and at most 1. */
+    /** The scale applied when drawing; both equal and at most 1. */
     Q_PROPERTY(double pDrawScaleX MEMBER pDrawScaleX)
     Q_PROPERTY(double pDrawScaleY MEMBER pDrawScaleY)
     Q_PROPERTY(double tNewFrameX MEMBER tNewFrameX)
     Q_PROPERTY(double tNewFrameY MEMBER tNewFrameY)
     Q_PROPERTY(double tNewFrameW MEMBER tNewFrameW)
     Q_PROPERTY(double tNewFrameH MEMBER tNewFrameH)
-    /** Setting another frame tells the view's notification of it, once awakeFromNib() has run. */
+    /** Setting another frame triggers the view's notification, once awakeFromNib() has run. */
     Q_PROPERTY(QRectF frame READ frame WRITE setFrame)
 
 public:
-    /** Keeps the angle. The picture is not turned. */
+    /** Stores the angle. The picture is not rotated. */
     Q_INVOKABLE void rotateByDegrees(double degrees);
-    /** A new picture of exactly @p size points with all of @p image in it, empty where there is none. */
+    /** A new picture of exactly @p size points with all of @p image in it, empty if there is none. */
     Q_INVOKABLE platform::Picture resizeImageAspectRatioFit(const platform::Picture &image, const QSizeF &size);
     /** A new picture of exactly @p size points that @p image fills. */
     Q_INVOKABLE platform::Picture resizeImageAspectRatioFitFullFrame(const platform::Picture &image,
@@ -41,12 +41,12 @@ public:
 
     QRectF frame() const { return m_stage.frame(); }
     void setFrame(const QRectF &frame) { m_stage.setFrame(frame); }
-    /** Puts a real widget behind the view, which must outlive it or be taken away with null. */
+    /** Puts a real widget behind the view, which must outlive it or be removed with null. */
     void attach(ViewHost *host) { m_stage.attach(host); }
 
 protected:
     PhotoView() = default;
-    /** Takes the content size of the enclosing scroll view, where there is one, and sets the drawing scale. */
+    /** Adopts the content size of the enclosing scroll view, if there is one, and sets the drawing scale. */
     void fillScrollView();
 
     double pAngle = 0;

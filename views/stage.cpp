@@ -9,7 +9,7 @@ namespace {
 
 bool isSame(const QRectF &a, const QRectF &b)
 {
-    // QRectF's own comparison takes close for equal.
+    // QRectF's own comparison treats close values as equal.
     return a.x() == b.x() && a.y() == b.y() && a.width() == b.width() && a.height() == b.height();
 }
 
@@ -20,7 +20,7 @@ void Stage::setFrame(const QRectF &frame)
     if (isSame(m_frame, frame))
         return;
     m_frame = frame;
-    // A scroll view that answers each frame with another content would never come to rest.
+    // A scroll view that answers each frame with another content size would never settle.
     constexpr int deepest = 4;
     if (!m_observer || m_told >= deepest)
         return;

@@ -16,24 +16,24 @@ namespace views {
 enum class Medium { Screen, Paper };
 
 /**
- * What the preview views share: a frame that tells when it changes, the widget behind it if there is one, and the drawing
- * of a picture in its middle.
+ * What the preview views share: a frame that reports changes, the widget behind it if there is one, and the drawing of
+ * a picture in its middle.
  */
 class Stage
 {
 public:
     QRectF frame() const { return m_frame; }
     QSizeF boundsSize() const { return m_frame.size(); }
-    /** Tells the observer where the frame is another one; the same frame again ends the matter. */
+    /** Notifies the observer if the frame differs; the same frame again ends the recursion. */
     void setFrame(const QRectF &frame);
     /** Called after each change of the frame; there is one observer. */
     void observeFrame(std::function<void()> observer) { m_observer = std::move(observer); }
 
-    /** The widget, which must outlive the view or be taken away with null. */
+    /** The widget, which must outlive the view or be removed with null. */
     void attach(ViewHost *host) { m_host = host; }
     /**
      * Gives the view the content size of its scroll view, at origin 0, and answers the drawing scale for @p most. Without
-     * a scroll view the frame stays and counts as that content.
+     * a scroll view the frame stays and is used as that content.
      */
     double fillScrollView(QSizeF most);
     void redisplay();
