@@ -21,18 +21,17 @@ struct BatchOptions
     std::optional<EarlierReport> resumed;
     int shard = 1; ///< which of so many parts of the inputs is done, from 1
     int shards = 1;
-    QString recipe; ///< its name, see recipeName()
-    QString
-        settings; ///< what results are known by later, see settingsOf(); the same as the recipe where it names no files
+    QString recipe;       ///< its name, see recipeName()
+    QString settings;     ///< identifies results later, see settingsOf(); the same as the recipe if it names no files
     QList<MadeWith> made; ///< of each output; empty: nothing is known to be up to date, and nothing is noted
 };
 
-/** Takes a line as soon as it is known; false ends the batch behind the pictures that are in work. */
+/** Receives a line as soon as it is known; false ends the batch after the pictures in progress. */
 using TakeLine = std::function<bool(const ReportLine &line)>;
 
 enum class Stop {
     No,
-    Soon, ///< pictures in work are finished, or left out whole where that takes more than a few seconds
+    Soon, ///< pictures in progress are finished, or dropped completely if that takes more than a few seconds
     Now,  ///< they are left out
 };
 

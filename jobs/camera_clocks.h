@@ -8,8 +8,8 @@
 namespace jobs {
 
 /**
- * What the clocks of cameras are wrong by, as the user told this process. The order of pictures, and names and folders with dates in them,
- * follow the corrected clock. No file is changed, and workers draw the dates that stand in the files.
+ * The errors of the cameras' clocks, as the user told this process. The order of pictures, and names and folders with
+ * dates, follow the corrected clock. No file is changed, and workers draw the dates stored in the files.
  *
  * A camera is named as in platform::PictureFacts; the empty name is that of all files that state none. Main thread only.
  */
@@ -18,7 +18,7 @@ class CameraClocks
 public:
     static CameraClocks &ofProcess();
 
-    /** The camera's dates are told later by so many seconds, or earlier where these are below zero. */
+    /** The camera's dates are shifted by so many seconds, to earlier ones if negative. */
     void setShift(const QString &camera, qint64 seconds);
     /** In seconds; 0 where the clock is right. */
     qint64 shift(const QString &camera) const { return m_shifts.value(camera); }

@@ -19,17 +19,18 @@ struct Input
 {
     QString path;    ///< absolute
     QString root;    ///< the folder that was named and that it was found in; empty for a picture that was named itself
-    QString problem; ///< a sentence where nothing is there that could be read
+    QString problem; ///< a sentence if nothing readable is there
     bool isNews = false; ///< it came into a watched folder: what a report says of it is said of an earlier one
 };
 
-/** Where the path of an input lies below its root, or its own name. */
+/** The path of an input relative to its root, or its own name. */
 QString placeBelowRoot(const Input &input);
 
 /**
- * The pictures of a batch, one after the other: of files and folders in the order in which they are named, then of names that are
- * still to come. A folder gives all below it but links, as files::collectFiles() has it, when it is reached; those that are named
- * from the start are walked before anything is written. A picture that is named twice, under whatever path, counts where it comes first.
+ * The pictures of a batch, one after the other: of files and folders in the order given, then of names that arrive
+ * later. A folder yields everything below it except links, like files::collectFiles(), when it is reached; those named
+ * from the start are walked before anything is written. A picture that is named twice, under whatever path, counts at
+ * its first position.
  *
  * What was taken is not kept; some 50 bytes a picture are, in few blocks, so that the millionth costs what the first did.
  */
@@ -45,7 +46,7 @@ public:
     State look(int waitMs = 0);
     /** The next picture. To be called where look() says that it is ready. */
     Input take();
-    /** One more comes behind those that were named from the start. */
+    /** Appends one to those that were named from the start. */
     void addNamed(const QString &name);
     /** How many were taken. */
     int taken() const { return m_taken; }
@@ -66,16 +67,19 @@ public:
     /** Whether the item is one of the inputs that are known so far. */
     bool contains(const platform::ItemNumber &item) const { return m_items.contains(item); }
 
-    /** Leaves out what is at @p path, a result, where it is named later: a list that is still being made may come upon it. */
+    /** Leaves out @p path, a result, if it is named later: a list that is still being made may contain it. */
     void leaveOut(const QString &path);
 
-    /** What look() waits for; -1 where all names are known. Where folders are watched look() must be asked several times a second besides. */
+    /**
+     * What look() waits for; -1 if all names are known. If folders are watched, look() must also be called several
+     * times a second.
+     */
     int descriptor() const { return m_more ? m_more->descriptor() : m_watch ? m_watch->descriptor() : -1; }
     /** Whether more may come. */
     bool areOpen() const { return m_more || m_watch; }
-    /** A sentence for the user that was not told yet; empty where there is none. */
+    /** A sentence for the user that was not reported yet; empty if there is none. */
     QString news() { return m_watch ? m_watch->news() : QString(); }
-    /** Why the names ended before their end; empty where they did not. */
+    /** Why the names ended early; empty if they did not. */
     const QString &problem() const { return m_problem; }
 
 private:

@@ -10,8 +10,8 @@
 namespace jobs {
 
 /**
- * Names that come through a file or a pipe, one a line or each with a NUL behind it, as platform::decodedPath() has them. Empty
- * ones are passed over, and so is the carriage return of a line. No more is read than is asked for.
+ * Names that arrive through a file or a pipe, one per line or each followed by a NUL, as from platform::decodedPath().
+ * Empty ones are skipped, and so is a line's carriage return. No more is read than is needed.
  */
 class NameStream
 {
@@ -33,7 +33,7 @@ public:
 
     /** What a loop of events can wait for. */
     int descriptor() const { return m_descriptor; }
-    /** Why it ended before its end; empty where it did not. */
+    /** Why it ended early; empty if it did not. */
     const QString &problem() const { return m_problem; }
 
 private:

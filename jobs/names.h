@@ -54,7 +54,7 @@ QString watermarkFrom(const QString &pattern, const text::TokenFacts &facts, QSi
 /** Whether the names of an output need more of a picture than its path: what is inside it, or what its disk knows. */
 bool namesNeedPictures(const image::RecipeOutput &output);
 
-/** What stands where a result wants to be. */
+/** What is at the path that a result wants. */
 enum class Standing { Nothing, OnDisk, OwnInput, OtherInput, OtherResult };
 
 /**
@@ -70,8 +70,8 @@ class ResultNames
 public:
     using IsReserved = std::function<bool(const QString &path)>;
     /**
-     * @param inputs      are asked when something is compared with them; the batch goes through them meanwhile
-     * @param isReserved  tells of paths that giveNumbered() does not give
+     * @param inputs      are checked when something is compared with them; the batch walks through them meanwhile
+     * @param isReserved  whether giveNumbered() must not give a path
      */
     ResultNames(const Inputs &inputs, const IsReserved &isReserved) : m_inputs(inputs), m_isReserved(isReserved) {}
 
@@ -84,7 +84,7 @@ public:
     /** Notes that @p path is kept for a result that is not planned. */
     void keep(const QString &path);
 
-    /** What stands at the path of a planned result. */
+    /** What is at the path of a planned result. */
     Standing standingAt(const QString &planned, const Input &input);
     /** Gives the first numbered form of @p path that nothing has, neither a result nor the disk, counting from 2. */
     QString giveNumbered(const QString &path);

@@ -87,7 +87,9 @@ OutputPlace OutputPlaces::again(const QString &path, const QString &done, const 
     return done.isEmpty() && !path.isEmpty() ? at(path, input, which) : OutputPlace{done, false, false, {}};
 }
 
-/** A result of the same, under its name or a numbered form of it, which nothing needs to be done about; empty where there is none. */
+/**
+ * An equal result, under its name or a numbered form of it, which makes the work unnecessary; empty if there is none.
+ */
 QString OutputPlaces::currentResult(const QString &wanted, const Input &input, const Which &which) const
 {
     if (m_recipe.outputs[which.index].ifTaken != image::IfTaken::Current || m_reports.made.size() <= which.index)

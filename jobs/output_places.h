@@ -11,10 +11,10 @@ namespace jobs {
 /** Where one output of one picture is to go. */
 struct OutputPlace
 {
-    QString path;           ///< absolute; empty where there is none
-    bool replaces = false;  ///< what stands there gives way
-    bool isSkipped = false; ///< what stands there stays, and nothing is made
-    QString reason;         ///< a sentence where it is skipped
+    QString path;           ///< absolute; empty if there is none
+    bool replaces = false;  ///< the existing file is replaced
+    bool isSkipped = false; ///< the existing file stays, and nothing is made
+    QString reason;         ///< a sentence if it is skipped
 };
 
 /** What results of a recipe are known by: its name, and what is in the pictures, patterns and profiles that it names. */
@@ -42,7 +42,7 @@ public:
 
     /**
      * @param facts     what is known of the picture, for its names
-     * @param plans     of all outputs; for a picture that others make they may be empty where no name needs them
+     * @param plans     of all outputs; for a picture made by others they may be empty if no name needs them
      * @param done      the paths of outputs that were made before and keep their names; empty for the others
      * @param isOthers  another process makes them: they only keep their names, and no disk is looked at
      */
@@ -54,9 +54,11 @@ public:
         int index = 0;     ///< of the output
         qint64 number = 0; ///< how many inputs come before the picture
     };
-    /** What becomes of an output that is to go to @p path. */
+    /** What happens to an output that is to go to @p path. */
     OutputPlace at(const QString &path, const Input &input, const Which &which);
-    /** The same of an output that was planned before at @p path, and perhaps made: @p done is where it is then. */
+    /**
+     * The same for an output that was planned before at @p path, and perhaps made: @p done is then its present path.
+     */
     OutputPlace again(const QString &path, const QString &done, const Input &input, const Which &which);
     /** Whether a picture of the batch that is known so far is there, and another one than @p input. */
     bool isOtherInput(const QString &path, const Input &input) const { return m_names.isOtherInput(path, input); }

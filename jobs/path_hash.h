@@ -14,7 +14,7 @@ constexpr quint64 pathHash(QByteArrayView bytes)
     return hash;
 }
 
-/** What stands for a path among very many: 128 bits, which no two of a million millions share by chance. */
+/** Represents a path among very many: 128 bits, which no two of a million millions share by chance. */
 struct PathKey
 {
     quint64 high = 0;

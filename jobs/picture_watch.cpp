@@ -101,7 +101,7 @@ PictureWatch::State PictureWatch::look(int waitMs)
     return m_complete.empty() ? State::Waiting : State::Ready;
 }
 
-/** The system does not tell of a folder that is deleted while somebody, its lock for one, holds a file of it open. */
+/** The system does not report the deletion of a folder while somebody, its lock for one, holds a file of it open. */
 void PictureWatch::lookForFolders()
 {
     const QStringList folders = m_folders;

@@ -26,7 +26,7 @@ struct WatchOptions
     QString recipe;                       ///< its name: what carries its note is its own result
     std::optional<qint64> sinceNs;        ///< what changed since then, nanoseconds since 1970, is taken first
     std::optional<EarlierReport> resumed; ///< what it has as an output is a result
-    /** Whether the system tells of changes, or the folders are looked through. Nothing: as their disks need. */
+    /** Whether to rely on the system's change events, or to scan the folders. Nothing: depends on their disks. */
     enum class Manner { AsDisksNeed, Told, Looking } manner = Manner::AsDisksNeed;
     qint64 stillMs = 2000; ///< so long a picture has not changed when it is complete
 };
@@ -44,7 +44,10 @@ public:
     /** @param folders  absolute. Fails with NotFound, TooLarge. */
     static platform::Result<PictureWatch> start(const QStringList &folders, const WatchOptions &options);
 
-    /** Whether a picture is complete; waits so many milliseconds for one, or until a signal comes. Ended where no folder is left. */
+    /**
+     * Whether a picture is complete; waits so many milliseconds for one, or until a signal arrives. Ended if no folder
+     * is left.
+     */
     State look(int waitMs);
     /** The next one. To be called where look() says that it is ready. */
     Arrival take();
@@ -53,7 +56,7 @@ public:
 
     /** Readable when something happens in the folders; look() must be asked several times a second besides. */
     int descriptor() const { return m_watch ? m_watch->descriptor() : -1; }
-    /** A sentence for the user that was not told yet; empty where there is none. */
+    /** A sentence for the user that was not reported yet; empty if there is none. */
     QString news() { return std::exchange(m_news, {}); }
 
 private:

@@ -16,12 +16,12 @@ enum class LineStatus { Ok, Failed, NotSupported, Skipped, Planned };
 struct ReportLine
 {
     QString input;
-    QString output; ///< empty where there is none
+    QString output; ///< empty if there is none
     int index = 0;  ///< of the output in the recipe
     LineStatus status = LineStatus::Failed;
     QString reason;
-    QString type; ///< a word of recipes; empty where it is not known
-    QSize size;   ///< of the upright picture; empty where it is not known
+    QString type; ///< a word of recipes; empty if unknown
+    QSize size;   ///< of the upright picture; empty if unknown
     qint64 bytes = 0;
     qint64 milliseconds = 0;
     bool isLossless = false;
@@ -43,7 +43,8 @@ struct Summary
 };
 
 /**
- * One line of JSON with its line feed. Signs of platform::decodedPath() that stand for a byte are written as escapes, `\udce9`.
+ * One line of JSON with its line feed. Characters of platform::decodedPath() that represent a byte are written as
+ * escapes, `\udce9`.
  * @p recipe is the name of the recipe, see recipeName(). */
 QByteArray jsonLine(const ReportLine &line, const QString &recipe);
 QByteArray jsonLine(const Summary &summary);
@@ -67,7 +68,7 @@ public:
     /** Nothing where the file cannot be read. */
     static std::optional<EarlierReport> read(const QString &path);
 
-    /** The last that it says of an output of a picture with this recipe; nothing where it says nothing. */
+    /** The last statement about an output of a picture with this recipe; nothing if there is none. */
     std::optional<KnownOutput> of(const QString &recipe, const QString &input, int index) const;
     /** Whether an output of any picture with this recipe is at @p path, made or planned. */
     bool hasOutputAt(const QString &recipe, const QString &path) const;
@@ -94,10 +95,10 @@ public:
     /**
      * @param path   "-" is standard output, "" writes nothing
      * @param start  with Added a report that was cut off in a line has that line ended first
-     * @return why it cannot be written; empty where it can. A picture is never replaced by a report
+     * @return why it cannot be written; empty if it can. A picture is never replaced by a report
      */
     QString open(const QString &path, Start start);
-    /** @return false where it can no longer be written */
+    /** @return false once it can no longer be written */
     bool add(const QByteArray &line);
 
 private:

@@ -8,7 +8,10 @@
 
 namespace jobs {
 
-/** The hidden folders of a batch in which results wait for their places, one in each folder that gets any; gone with the batch. */
+/**
+ * The hidden folders of a batch in which results wait to be placed, one in each destination folder; removed with the
+ * batch.
+ */
 class WaitingRooms
 {
 public:
@@ -17,7 +20,10 @@ public:
     WaitingRooms &operator=(const WaitingRooms &) = delete;
     ~WaitingRooms();
 
-    /** The one in @p folder, which is made; ends in "/". Empty where it cannot be made. What killed batches left there is removed. */
+    /**
+     * The one in @p folder, which is created; ends in "/". Empty if it cannot be created. Remains of killed batches
+     * there are removed.
+     */
     QString in(const QString &folder);
     /** Somebody keeps files in the room of @p folder until leave() was called as often. */
     void enter(const QString &folder);
@@ -52,7 +58,7 @@ public:
         QList<MadeWith> made; ///< of each output; may be empty
     };
 
-    /** @param number  tells the picture from all others: how many come before it */
+    /** @param number  identifies the picture: how many come before it */
     ResultFiles(const Input &input, int number, const Settings &settings, WaitingRooms &rooms)
         : m_input(input), m_number(number), m_settings(settings), m_source(sourceState(input.path)), m_rooms(rooms)
     {
@@ -67,7 +73,7 @@ public:
      * WriteFailed.
      */
     platform::Result<platform::Descriptor> begin(int index, const OutputPlace &place);
-    /** The file is whole: it is placed with the others. Fails with WriteFailed where it has not as many bytes. */
+    /** The file is complete: it is placed with the others. Fails with WriteFailed if it does not have as many bytes. */
     platform::Result<void> keep(int index, qint64 bytes, const OutputPlace &place, const image::RecipeOutput &output);
     /** It is given up after all. */
     void drop(int index);
@@ -75,13 +81,13 @@ public:
     {
         int index = 0;
         QString file; ///< whole
-        QString path; ///< where it is to go
+        QString path; ///< its destination
     };
     /** What is kept and has no place yet. */
     QList<Waiting> waiting() const;
     /** It is to go there instead, which is in the same folder. */
     void moveTo(int index, const OutputPlace &place);
-    /** Leaves a whole file where it waits, for somebody else to place: its path; empty where there is none. */
+    /** Leaves a complete file where it is, for somebody else to place: its path; empty if there is none. */
     QString leave(int index);
     /** It is not, for a reason that is an errno. */
     platform::Error failureOf(int code, const OutputPlace &place) const;

@@ -11,7 +11,7 @@ namespace jobs {
  */
 void markResult(const QString &result, const QString &source, const QString &settings);
 
-/** Takes the note away again. */
+/** Removes the note again. */
 void unmarkResult(const QString &result);
 
 /** Whether the file at @p path carries the note of these settings and of the source as it is now, and is as it was made. */

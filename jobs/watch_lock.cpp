@@ -13,7 +13,7 @@
 namespace jobs {
 namespace {
 
-/** A hidden name in a folder; of a folder that cannot be written, one that stands for it among temporary files. */
+/** A hidden name in a folder; for a folder that cannot be written, a substitute among temporary files. */
 QByteArray lockNames(const QString &folder, const QString &work, bool isInFolder)
 {
     const QByteArray name = QByteArray::number(pathHash(work.toUtf8()), 16);
@@ -50,7 +50,7 @@ bool WatchLock::take(const QString &folder, const QString &work)
             return true;
         }
     }
-    return true; // where nothing can be written, nobody can keep anybody away
+    return true; // if nothing can be written, nobody can lock anybody out
 }
 
 } // namespace jobs

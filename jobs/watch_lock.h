@@ -18,7 +18,7 @@ public:
     WatchLock &operator=(WatchLock &&) = delete;
     ~WatchLock();
 
-    /** @return false where somebody has it already. @param work  the same text for the same work */
+    /** @return false if somebody has locked it already. @param work  the same text for the same work */
     bool take(const QString &folder, const QString &work);
 
 private:

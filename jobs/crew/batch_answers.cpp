@@ -1,4 +1,4 @@
-// What workers answer, and what becomes of a picture whose worker has ended.
+// The answers of workers, and what happens to a picture whose worker has ended.
 
 #include "image/recipe/sentence.h"
 #include "jobs/crew/batch_run.h"
@@ -110,7 +110,7 @@ bool BatchRun::takeDone(Id worker, const Message &message)
     return true;
 }
 
-/** Why a picture fails whose worker has ended so; empty where it is tried once more. */
+/** Why a picture fails whose worker has ended so; empty if it is tried once more. */
 QString BatchRun::finalReason(WorkerEnd end, int tries) const
 {
     constexpr int mostTries = 2;
@@ -129,7 +129,7 @@ void BatchRun::takeEnd(Id worker, WorkerEnd end)
     const bool isWaiting = holding->second.waits;
     m_holdings.erase(holding);
     PictureWork &work = m_pictures.at(number);
-    m_files.erase(number); // what is unfinished goes
+    m_files.erase(number); // unfinished results are removed
     work.isMade = false;
     const QString reason = finalReason(end, ++work.tries);
     if (!reason.isEmpty())

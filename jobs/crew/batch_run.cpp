@@ -193,7 +193,7 @@ bool BatchRun::mayMake() const
     return qint64(m_files.size()) < most;
 }
 
-/** False where there is nothing for it to do. */
+/** False if there is nothing for it to do. */
 bool BatchRun::giveTo(Id worker)
 {
     const bool isFresh = m_fresh.count(worker) != 0;
@@ -213,7 +213,7 @@ bool BatchRun::giveTo(Id worker)
     return prepareNext() || send(worker, number);
 }
 
-/** Takes the next input up. False where a worker has to look into it. */
+/** Starts the next input. False if a worker must read it first. */
 bool BatchRun::prepareNext()
 {
     if (!mayLookAhead())
@@ -261,7 +261,7 @@ void BatchRun::nameNext()
     }
 }
 
-/** What comes behind the names: nothing, or the results. @p worker has looked into the picture, or is -1. */
+/** What follows the names: nothing, or the results. @p worker has read the picture, or is -1. */
 void BatchRun::goOn(PictureWork &work, Id worker)
 {
     const bool hasWork = std::any_of(work.lines.begin(), work.lines.end(),
@@ -335,7 +335,7 @@ void BatchRun::letGo(Id worker)
     m_idle.insert(worker);
 }
 
-/** Says what came of a picture, of which nothing more will come. */
+/** Reports the outcome of a picture, which is then finished. */
 void BatchRun::finish(int number)
 {
     PictureWork &work = m_pictures.at(number);

@@ -13,8 +13,8 @@
 namespace jobs {
 
 /**
- * A batch at work. Pictures are looked into a little ahead of the one that is named next; whoever has looked into one goes on with it
- * as soon as it has its names, or with another one if that takes a while.
+ * A running batch. Pictures are read a little ahead of the one that is named next; the worker that read one continues
+ * with it once it has its names, or with another one if that takes a while.
  */
 class BatchRun
 {
@@ -90,7 +90,7 @@ private:
     std::deque<int> m_toTryAgain;
     int m_nextToName = 0;
     qint64 m_memory;       ///< what was to be had in the beginning
-    qint64 m_expected = 0; ///< the most that a picture has needed so far, as far as its plan tells
+    qint64 m_expected = 0; ///< the largest need of any picture so far, according to its plan
     int m_missing = 0;     ///< workers that could not be started, one after the other
     bool m_startsLater = false;
     QString m_noWorkers; ///< why there are none any more

@@ -31,7 +31,7 @@ public:
     /**
      * Starts the first worker and has it read the recipe, with the pictures and profiles that it names.
      *
-     * @return what is wrong with the recipe, or why there are no workers, as a sentence; empty where all is well
+     * @return what is wrong with the recipe, or why there are no workers, as a sentence; empty if all is well
      */
     QString begin();
 
@@ -76,7 +76,7 @@ private:
 /** Why nothing came of what a worker was at that has ended so, as a sentence. */
 QString reasonFor(platform::WorkerEnd end, const platform::WorkerLimits &limits);
 
-/** What keeps the workers of @p program from doing harm, as one of them says; nothing where none can be started. */
+/** What keeps the workers of @p program from doing harm, as one of them reports; nothing if none can be started. */
 std::optional<HelloMessage> confinementOf(const QString &program);
 
 /** Where quorlin-worker is: in a build beside the program that is running, installed in its folder of libexec. */

@@ -9,9 +9,9 @@
 
 /**
  * What quorlin-batch and its workers say to each other. A worker says Hello, gets the files of a recipe and the recipe, and says whether it
- * can be carried out. Then, for one picture after the other, it gets the Picture and says what is Planned; then it gets the next one, or
- * files for its Outputs and is told to Make them, says what was Made of each, and that it is Done. Whoever has said Hello also takes a
- * Read and says one Answer, see reading_messages.h.
+ * can be carried out. Then, for one picture after the other, it gets the Picture and answers what is Planned; then it
+ * gets the next one, or files for its Outputs and the order to Make them, reports each as Made, and finally Done. After
+ * Hello it also accepts a Read and gives one Answer, see reading_messages.h.
  */
 namespace jobs {
 
@@ -30,7 +30,7 @@ enum class MessageKind : quint16 {
     Answer
 };
 
-/** Of what is said here; a worker of another one is none of ours. */
+/** Version of this protocol; a worker of another version is rejected. */
 inline constexpr int messagesVersion = 1;
 
 /** What a worker says first. */
@@ -65,7 +65,7 @@ struct PictureMessage
 {
     text::TokenFacts facts; ///< what is known without looking into the picture
     bool wantsFacts = false;
-    QByteArray packet = {}; ///< of its sidecar, see packetBeside(); empty where there is none
+    QByteArray packet = {}; ///< of its sidecar, see packetBeside(); empty if there is none
 };
 
 /** What a picture will become, one plan an output; only what the other side needs of each. */
@@ -86,8 +86,8 @@ struct OutputsMessage
 struct MadeMessage
 {
     int index = 0;
-    QString problem;    ///< a sentence where nothing was made
-    int writeError = 0; ///< an errno where it could not be written
+    QString problem;    ///< a sentence if nothing was made
+    int writeError = 0; ///< an errno if it could not be written
     QSize size;
     bool isLossless = false;
     qint64 bytes = 0;

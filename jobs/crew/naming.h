@@ -31,15 +31,15 @@ class BatchNaming
 public:
     BatchNaming(const image::Recipe &recipe, const Inputs &inputs, const BatchOptions &options);
 
-    /** A picture that is taken up, with what is to be done about it. */
+    /** A picture whose processing starts, with the decision about its names. */
     PictureWork workOn(const Input &input, int number) const;
     /** Whether its names, or what is made of it, depend on what the picture is. */
     bool needsPicture(const PictureWork &work) const;
     /** Gives the outputs of a picture that is planned their places and their first lines. */
     void name(PictureWork &work);
-    /** Gives them their first lines, where they have their places. */
+    /** Gives them their first lines, once their positions are known. */
     void noteLines(PictureWork &work) const;
-    /** Plans for a picture of which nothing can be made. */
+    /** Plans for a picture without results. */
     QList<image::OutputPlan> failedPlans(const QString &problem) const;
 
     OutputPlaces &places() { return m_places; }

@@ -166,7 +166,7 @@ private:
         m_socket.send(toMessage(MessageKind::Done));
     }
 
-    /** True where there was a trial in place of the work. */
+    /** True if there was a trial instead of the work. */
     bool tries()
     {
         const QString trouble = m_trial.beforeMaking ? m_trial.beforeMaking(m_facts.path) : QString();
@@ -182,7 +182,7 @@ private:
         return !trouble.isEmpty() || m_trial.sleep;
     }
 
-    /** True where there is nothing to make anything of, and whoever told it to did not wait for the plan. */
+    /** True if there is nothing to do, and the caller did not wait for the plan. */
     bool lacksPicture()
     {
         if (!m_problem.isEmpty())

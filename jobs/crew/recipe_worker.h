@@ -13,7 +13,10 @@ namespace jobs {
 /** What tests and measurements put in the place of a worker's work. */
 struct WorkerTrial
 {
-    /** Called before the outputs of a picture are made, with its path; where it says something, that is the reason why none is. */
+    /**
+     * Called before the outputs of a picture are made, with its path; if it returns a text, that is the reason why none
+     * is.
+     */
     std::function<QString(const QString &path)> beforeMaking;
     /** Called before an output is written, with the path of its picture; an errno is said in place of writing. */
     std::function<int(const QString &path)> beforeWriting;
@@ -30,8 +33,8 @@ struct WorkerTrial
 };
 
 /**
- * The other side of a Crew: carries out what it is told over @p socket until that is closed. Opens no file: pictures, what a recipe names
- * and the files of the results all come over the socket.
+ * The other side of a Crew: carries out the orders from @p socket until that is closed. Opens no file: pictures, files
+ * named by a recipe and the files of results all arrive over the socket.
  */
 void workOnRecipes(platform::MessageSocket &socket, const platform::Confinement &confinement,
                    const WorkerTrial &trial = {});

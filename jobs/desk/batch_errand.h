@@ -20,7 +20,7 @@ public:
         /** Makes the files that a worker writes, by the indices of their outputs; called again where the first worker crashed. */
         std::function<std::vector<std::pair<int, platform::Descriptor>>()> files;
     };
-    /** What is heard, in this order: each output that was made or not, and the end, with a sentence where nothing came of it. */
+    /** The callbacks, in this order: each output that was made or not, and the end, with a sentence on failure. */
     struct Listener
     {
         std::function<bool(const MadeMessage &made)> made; ///< false for what makes no sense

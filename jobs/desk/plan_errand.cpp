@@ -36,7 +36,7 @@ std::vector<Message> PlanErrand::begin(Hand &hand)
         return messages;
     auto picture = platform::LentFile::open(m_picture.facts.path);
     if (!picture) {
-        hand.recipe = 0; // it was not told
+        hand.recipe = 0; // it was not sent
         answer(problemOnly(picture.error().message));
         return {};
     }

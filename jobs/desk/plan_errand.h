@@ -13,7 +13,7 @@ public:
     /** Of a plan with a problem and nothing else nothing could be found out. */
     using Take = std::function<void(const PlannedMessage &planned)>;
 
-    /** @param picture  with an empty path only the recipe is looked at, and its problem told */
+    /** @param picture  with an empty path only the recipe is checked, and its problem returned */
     PlanErrand(std::shared_ptr<const SharedRecipe> recipe, PictureMessage picture, Take take);
 
     std::vector<platform::Message> begin(Hand &hand) override;
@@ -32,7 +32,10 @@ private:
 /** The same, waited for. */
 PlannedMessage planNow(const std::shared_ptr<const SharedRecipe> &recipe, const PictureMessage &picture);
 
-/** Why a recipe cannot be carried out with the files that it names, which a worker opens; empty where it can. Waits for that. */
+/**
+ * Why a recipe cannot be carried out with the files that it names, which a worker opens; empty if it can. Waits for
+ * that.
+ */
 QString recipeProblemNow(const QByteArray &json, const QString &folder);
 
 } // namespace jobs

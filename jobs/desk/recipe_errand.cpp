@@ -202,7 +202,7 @@ Errand::Turn RecipeErrand::finish()
         result.reason = image::sentence(QT_TRANSLATE_NOOP("recipe", "no result"));
     if (result.reason.isEmpty()) {
         result.outcome = RecipeResult::Outcome::Ok;
-        m_isBegun = false; // whoever asked for it has it now
+        m_isBegun = false; // the caller owns it now
         if (m_recipe->recipe().outputs.first().dates == image::FileDates::Keep)
             takeDateOf(m_task.path, m_task.target);
         if (m_task.isNoted)

@@ -15,11 +15,11 @@
 
 namespace jobs {
 
-/** A recipe that workers are told, with the pictures and profiles that it names, opened once. */
+/** A recipe that is sent to workers, with the pictures and profiles that it names, opened once. */
 class SharedRecipe
 {
 public:
-    /** Fails with a sentence where it is no recipe, or has more outputs. @param json  paths in it are absolute */
+    /** Fails with a sentence if it is invalid, or has more outputs. @param json  with absolute paths */
     static platform::Result<std::shared_ptr<const SharedRecipe>> from(const QByteArray &json);
     /** The same with any number of outputs. @param folder  absolute: where relative paths in it begin */
     static platform::Result<std::shared_ptr<const SharedRecipe>> whole(const QByteArray &json, const QString &folder);
@@ -30,7 +30,7 @@ public:
     const QString &settings() const { return m_settings; }
     /** What each output is made with; reads the files that the recipe names when it is asked for first. */
     const QList<MadeWith> &made() const;
-    /** What a worker is told that has another one. */
+    /** The message to a worker that has another one. */
     std::vector<platform::Message> messages() const;
 
 private:
@@ -55,7 +55,7 @@ struct RecipeResult
 
     Outcome outcome = Outcome::Failed;
     Cause cause = Cause::Other;
-    QString reason; ///< a sentence where there is none
+    QString reason; ///< a sentence if there is none
     QSize size;     ///< upright
     bool isLossless = false;
     QStringList losses; ///< sentences
@@ -69,9 +69,8 @@ class RecipeErrand : public Errand
 public:
     struct Task
     {
-        QString path; ///< of the picture, absolute
-        QString
-            target; ///< a new file, absolute, in a folder where nobody else makes any; it is removed unless all went well
+        QString path;        ///< of the picture, absolute
+        QString target;      ///< a new file, absolute, in a folder that no other process uses; removed on failure
         int index = 0;       ///< how many pictures of the run come before it
         bool isNoted = true; ///< that it is a result, see markResult()
         QSize pixels;        ///< of the picture, for what it takes of memory; may be empty

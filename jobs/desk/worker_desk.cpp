@@ -163,7 +163,7 @@ WorkerDesk::Number WorkerDesk::add(std::shared_ptr<Errand> errand, Urgency urgen
 
 bool WorkerDesk::takeBack(Number number)
 {
-    // What an errand does when it goes must not find it here.
+    // Code run by the errand's destruction must not find it here.
     const auto takeFrom = [number](std::deque<Asked> &asked) {
         const auto found =
             std::find_if(asked.begin(), asked.end(), [number](const Asked &each) { return each.number == number; });
@@ -284,7 +284,7 @@ WorkerDesk::Worker *WorkerDesk::idleFor(const Asked &asked, bool isFresh)
     return best;
 }
 
-/** Each time from the beginning: whoever is begun may add and drop others. */
+/** From the beginning each time: starting one may add and drop others. */
 void WorkerDesk::giveWork()
 {
     const auto giveFirst = [this](std::deque<Asked> &asked, bool isFresh) {
@@ -404,7 +404,7 @@ void WorkerDesk::take(Id id, Message &message)
         turn = errand->take(message);
         const auto still = m_workers.find(id);
         if (still == m_workers.end() || !still->second.asked || still->second.asked->number != number)
-            return; // it was taken back meanwhile
+            return; // it was withdrawn meanwhile
     }
     if (turn == Errand::Turn::Over) {
         m_workers[id].asked.reset();
@@ -448,7 +448,7 @@ void WorkerDesk::giveUpOrTryAgain(Asked asked, WorkerEnd end)
 void WorkerDesk::end(Id id)
 {
     m_pool.end(id);
-    // What goes with it must find it gone.
+    // Code run by its destruction must find it gone.
     const auto found = m_workers.find(id);
     const std::optional<Asked> gone = std::move(found->second.asked);
     m_workers.erase(found);

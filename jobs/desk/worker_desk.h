@@ -16,7 +16,7 @@ namespace jobs {
 
 /** Who is waited for. Among errands of the same urgency the first comes first. */
 enum class Urgency {
-    Now,   ///< somebody looks at the place where it will be shown; one worker more than usual may be started for it
+    Now,   ///< the user is looking at the area where it will be shown; one worker more than usual may be started for it
     Soon,  ///< work of a run
     Later, ///< what may be wanted some time
 };
@@ -29,9 +29,9 @@ public:
     LongWait(const LongWait &) = delete;
     LongWait &operator=(const LongWait &) = delete;
     virtual ~LongWait() = default;
-    /** begin() and end() may be nested, where something else has to be waited for out of goOn(). */
+    /** begin() and end() may be nested, when something else must be waited for outside goOn(). */
     virtual void begin() = 0;
-    /** Called again and again; false where nobody wants to wait any longer. */
+    /** Called repeatedly; false once nobody wants to wait any longer. */
     virtual bool goOn() = 0;
     virtual void end() = 0;
 };
@@ -68,17 +68,19 @@ public:
     explicit WorkerDesk(const Options &options, QObject *parent = nullptr);
     ~WorkerDesk() override;
 
-    /** The one of this process, made on first use with the usual options; it goes with the application. */
+    /** The one of this process, created on first use with the usual options; destroyed with the application. */
     static WorkerDesk &ofProcess();
-    /** Another one, with one worker, for what has to be waited for: see finish(). */
+    /** Another one, with one worker, for blocking requests: see finish(). */
     static WorkerDesk &forWaiting();
     /**
-     * Which program the workers of both are, from now on, and what a picture may take; the one beside this program where it was never said.
-     * For tests, which have nothing at work then.
+     * Sets the worker program of both, and the limits for a picture; by default the program beside this one. For tests,
+     * while nothing is in progress.
      */
     static void useProgram(const QString &program, const std::optional<platform::WorkerLimits> &limits = {});
 
-    /** The files of texts in which the workers of both give their reasons; English where it was never said. To be said as useProgram() is. */
+    /**
+     * The text files in which the workers of both find their reasons; English by default. To be set like useProgram().
+     */
     static void useTexts(const QStringList &files);
 
     Number add(std::shared_ptr<Errand> errand, Urgency urgency);
@@ -88,9 +90,9 @@ public:
     bool takeBack(Number number);
 
     /**
-     * Waits until an errand is over. For most of a second nothing but what workers of this desk say is heard meanwhile, so it has to be a desk
-     * where nothing else is asked for; after that useLongWait() says what is done besides. False where that gave the errand up, which
-     * is dropped then and answers nothing.
+     * Waits until an errand is over. During most of a second only messages from workers of this desk are processed, so
+     * nothing else may be requested of this desk; after that useLongWait() determines what else happens. False if that
+     * abandoned the errand, which is then dropped without an answer.
      */
     bool finish(Number number);
     /** It must live until another one is used, or null, which waits however long it takes. */

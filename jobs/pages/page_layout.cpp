@@ -49,7 +49,7 @@ Scaled scaledInto(QSizeF pixels, QSizeF points, QSizeF place, PageFit fit)
     return {pixels.scaled(place, Qt::KeepAspectRatio)};
 }
 
-/** Whether one of them lies and the other stands; a square does neither. */
+/** Whether one is landscape and the other portrait; a square is neither. */
 bool areCrosswise(QSizeF one, QSizeF other)
 {
     return (one.width() - one.height()) * (other.width() - other.height()) < 0;
@@ -112,7 +112,7 @@ PlacedPicture placed(QSize pixels, QSizeF points, const QRectF &place, const Pag
     picture.place = QRectF(place.center(), QSizeF());
     if (pixels.isEmpty() || points.isEmpty())
         return picture;
-    // What is as large as it is anyway is only turned where it would be made smaller.
+    // A picture whose size does not depend on the page is rotated only if it would otherwise be reduced.
     const bool isInside =
         settings.fit == PageFit::OwnSize && points.width() <= place.width() && points.height() <= place.height();
     picture.isTurned = settings.turns && !isInside && areCrosswise(pixels, place.size());

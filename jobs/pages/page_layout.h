@@ -7,20 +7,20 @@
 
 #include <vector>
 
-/** Where pictures and texts lie on pages. Pure; lengths are points from the top left corner of the paper. */
+/** The positions of pictures and texts on pages. Pure; lengths are points from the top left corner of the paper. */
 namespace jobs {
 
 /** The place of one picture, and what is written beneath it. */
 struct PageCell
 {
     QRectF picture;
-    QRectF caption; ///< no height where there is none
+    QRectF caption; ///< no height if there is none
 };
 
 /** What all pages of a job have in common. */
 struct PageGrid
 {
-    QRectF header; ///< no height where there is none
+    QRectF header; ///< no height if there is none
     QRectF footer;
     std::vector<PageCell> cells; ///< row by row
 };
@@ -33,7 +33,7 @@ bool hasRoom(const PageGrid &grid);
 /** Pages for so many pictures; 0 for none. */
 int pageCount(const PageSettings &settings, int pictures);
 
-/** The picture in a place of a page, all counted from 0; -1 where that stays empty. */
+/** The picture at a position of a page, all counted from 0; -1 if that stays empty. */
 int pictureAt(const PageSettings &settings, int pictures, int page, int cell);
 
 /** A picture in its place. */
@@ -62,14 +62,14 @@ QSize pixelsOf(const PlacedPicture &picture, QSize pixels, int dpi);
 /**
  * The lines by which a picture is cut out: at each corner two, that begin a little outside of it.
  *
- * @param room  a line never reaches beyond this, and is left out where it would be shorter than a millimetre
+ * @param room  a line never extends beyond this, and is left out if it would be shorter than a millimetre
  */
 std::vector<QLineF> cropMarks(const QRectF &picture, const QRectF &room);
 
 /** As far around a place as half of what parts it from the next one, and at the edge of the page to its edge. */
 QRectF roomAround(const PageSettings &settings, const PageGrid &grid, int cell);
 
-/** The lines of a text in an area, from its top: where the letters of each stand, with its left end, middle or right end. */
+/** The lines of a text in an area, from its top: where each is positioned, with its left end, middle or right end. */
 struct TextPlace
 {
     QPointF anchor; ///< on the base line

@@ -69,7 +69,7 @@ public:
     bool flag(const char *key) const { return m_values.value(QString::fromLatin1(key)).toBool(); }
     QString text(const char *key) const { return m_values.value(QString::fromLatin1(key)).toString(); }
 
-    /** The place of a word in a list; the first where it is missing. */
+    /** The position of a word in a list; the first if it is missing. */
     int choice(const char *key, const std::vector<const char *> &all)
     {
         const QString word = text(key);

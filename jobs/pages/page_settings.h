@@ -15,7 +15,7 @@ namespace jobs {
 /** Points in a millimetre. */
 constexpr double pointsPerMillimetre = 72 / 25.4;
 
-/** How a picture lies in its place. */
+/** How a picture is placed in its box. */
 enum class PageFit {
     Fit,     ///< as large as it can be with all of it seen
     Fill,    ///< the place is full; what of the picture has no room there is cut off on both sides
@@ -34,14 +34,14 @@ struct PageLine
 /** How pictures are laid on pages. Lengths are points. */
 struct PageSettings
 {
-    QSizeF paper = {595, 842}; ///< whole points, as it is held: wide for a page that lies
+    QSizeF paper = {595, 842}; ///< whole points, as seen: wide for a landscape page
     QMarginsF margins = {28.35, 28.35, 28.35, 28.35};
     int rows = 5;
     int columns = 4;
     double gap = 11.34; ///< between two places, across and down
     PageFit fit = PageFit::Fit;
-    bool turns = false;   ///< a picture is turned to the left where it becomes larger by that
-    bool repeats = false; ///< each picture has pages of its own and stands in all places of one
+    bool turns = false;   ///< a picture is rotated anticlockwise if that makes it larger
+    bool repeats = false; ///< each picture has its own pages and fills all positions of one
     bool hasCropMarks = false;
     bool hasFrames = false; ///< a thin line around each picture
     QString caption;        ///< tokens; lines are parted by line breaks; empty for none
@@ -70,7 +70,7 @@ const std::vector<Paper> &papers();
  * Reads the settings as scripts have them, see PageSettings in interface/quorlin.d.ts: lengths of the page are millimetres there, sizes
  * of texts points. What is missing is as usual.
  *
- * Fails with InvalidValue and a sentence for a value that makes no sense, and where no room is left for pictures.
+ * Fails with InvalidValue and a sentence for an impossible value, and if no room is left for pictures.
  */
 platform::Result<PageSettings> pageSettingsFrom(const QVariantMap &values);
 

@@ -14,7 +14,7 @@ struct PageNumbers
     int pictures = 0; ///< of the whole job
 };
 
-/** What is wrong with such a text, as sentences; @p isOfPage where it may have {page}, {pages} and {pictures}. */
+/** What is wrong with such a text, as sentences; @p isOfPage if it may have {page}, {pages} and {pictures}. */
 QStringList pageTextProblems(const QString &pattern, bool isOfPage);
 
 /** Whether a text needs more of a picture than its path. */

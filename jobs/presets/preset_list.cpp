@@ -10,7 +10,7 @@
 namespace jobs {
 namespace {
 
-/** The settings of the presets that every action of the window starts with, where they are not its standard. */
+/** The settings of the initial presets of every action of the window, if they differ from its standard. */
 constexpr const char *supplied = R"([
 ["Resize", "Web 1600", {"mode": "longest", "longest": 1600, "output": {"fileType": "public.jpeg", "quality": "8", "destination": {"name": "Web"}}}],
 ["Resize", "Mail 1024", {"mode": "longest", "longest": 1024, "output": {"fileType": "public.jpeg", "quality": "7", "destination": {"name": "Mail"}}}],
@@ -55,7 +55,7 @@ QJsonObject laidOver(QJsonObject standard, const QJsonObject &changes)
     return standard;
 }
 
-/** The presets of the user; none where there is no database, which is not made. */
+/** The presets of the user; none if there is no database, which is not created. */
 QList<Preset> keptPresets()
 {
     const QString database = platform::applicationSupportFolder() + QStringLiteral("/BrelmarkCom/QuorlinPS.sql");
@@ -67,7 +67,7 @@ QList<Preset> keptPresets()
     while (rows.isValid() && rows.step()) {
         QStringList row;
         constexpr int fields = 62;
-        for (int field = 1; field <= fields; ++field) // behind the number of the row
+        for (int field = 1; field <= fields; ++field) // after the number of the row
             row.append(rows.text(field));
         if (const auto preset = presetOfRow(row))
             presets.append(*preset);

@@ -27,7 +27,7 @@ tl::unexpected<platform::Error> unsupported(const QString &sentence)
     return platform::failure(platform::ErrorCode::Unsupported, sentence);
 }
 
-/** The unit of lengths, where it is none of pixels, and the resolution that they are taken at. */
+/** The unit of lengths, if it is not pixels, and the resolution for them. */
 void addUnit(QJsonObject &operation, const QJsonObject &settings)
 {
     static const std::map<QString, QString> units = {{text("mm"), text("mm")},
@@ -105,7 +105,7 @@ QJsonArray cropOperations(const QJsonObject &settings)
     const bool isMoved = !isFound && offset != QJsonArray{0, 0};
     if (isMoved)
         crop.insert(text("offset"), offset);
-    // What is cut away is in pixels, and then so is what it is moved by.
+    // Trimming is in pixels, and then so is the offset.
     if (mode == text("size") || (isMoved && mode != text("pixels")))
         addUnit(crop, settings);
     return {crop};
@@ -252,7 +252,7 @@ void addMetadata(QJsonObject &output, const QJsonObject &settings)
         output.insert(text("location"), false);
 }
 
-/** What results are called, where they lie and what stands there already. */
+/** The names of results, where they go and what happens to existing files. */
 void addPlace(QJsonObject &output, const QJsonObject &settings)
 {
     const QString pattern = settings.value(text("namePattern")).toString();

@@ -24,7 +24,7 @@ Destination destinationOf(const Preset &preset);
 /** All presets: those that come with the program, and those in the user's database, which count where both have a name. */
 QList<Preset> allPresets();
 
-/** The preset "Resize/Web 1600"; none where there is none of that name. */
+/** The preset "Resize/Web 1600"; none if there is none of that name. */
 std::optional<Preset> presetNamed(const QString &name);
 
 /** The presets that come with the program. */

@@ -11,7 +11,7 @@ namespace {
 
 enum class Kind { Text, Word, Number, Whole, Flag, Color };
 
-/** Which setting lies in which column. A dot parts a group from its setting. */
+/** Which setting is in which column. A dot separates a group from its setting. */
 struct Column
 {
     int place;
@@ -22,10 +22,9 @@ struct Column
 struct Form
 {
     const char *standard; ///< JSON
-    const char *mode;     ///< the setting that stands in the third column; empty for none
+    const char *mode;     ///< the setting in the third column; empty for none
     std::vector<Column> columns;
-    int newest =
-        3; ///< version of the form, of which the second brought types; a preset has the lowest one that can say what it holds
+    int newest = 3; ///< version of the form, of which the second added types; a preset has the lowest that suffices
 };
 
 const std::vector<Column> &outputColumns()

@@ -9,10 +9,10 @@
 /** The files that come with the program and that presets and recipes need. */
 namespace jobs {
 
-/** Absolute; beside the program that was installed, or in its source where it runs from its build. */
+/** Absolute; beside the installed program, or in its source if it runs from its build. */
 QString suppliedRecipesFolder();
 
-/** Of the patterns that lie under pictures. What QUORLIN_INTERFACE says counts here too. */
+/** Of the patterns that are put under pictures. QUORLIN_INTERFACE is respected here too. */
 QString suppliedPatternsFolder();
 
 /** A recipe that comes with the program. */
@@ -25,7 +25,7 @@ struct SuppliedRecipe
 /** In the order of their names. */
 QList<SuppliedRecipe> suppliedRecipes();
 
-/** The file of "Recipe/Web gallery"; empty where no recipe of that name comes with the program. */
+/** The file of "Recipe/Web gallery"; empty if no recipe of that name comes with the program. */
 QString suppliedRecipe(const QString &presetName);
 
 } // namespace jobs

@@ -17,7 +17,7 @@ namespace jobs {
 class CommentErrand : public Errand
 {
 public:
-    /** Empty where it is written, else a sentence; the file is then as it was. */
+    /** Empty if it was written, else a sentence; the file is then unchanged. */
     using Take = std::function<void(const QString &problem)>;
 
     /** @param take  is called once, unless the errand is dropped before; then the file is as it was */

@@ -18,13 +18,14 @@ class FieldErrand : public Errand
 {
 public:
     /**
-     * {problem, changed, file, undo, before, after}: problem is a sentence where nothing was done; file is what was written, the picture or
-     * its sidecar; undo is a text to revert it with; before and after are the fields, see meta::fieldMap().
+     * {problem, changed, file, undo, before, after}: problem is a sentence if nothing was done; file is what was
+     * written, the picture or its sidecar; undo is a text to revert it with; before and after are the fields, see
+     * meta::fieldMap().
      */
     using Take = std::function<void(const QVariantMap &answer)>;
 
     /**
-     * @param work  see meta::workFrom(); {revert: undo} makes the old file again, which fails where it was changed since
+     * @param work  see meta::workFrom(); {revert: undo} restores the old file, which fails if it was changed since
      * @param take  is called once, unless the errand is dropped before; then the file is as it was
      */
     FieldErrand(const QString &path, const QVariantMap &work, Take take);
@@ -44,7 +45,7 @@ private:
     QVariantMap m_work;
     Take m_take;
     QString m_sidecar;
-    QByteArray m_packet; ///< of the sidecar as it was; empty where there was none
+    QByteArray m_packet; ///< of the sidecar as it was; empty if there was none
     QString m_written;
     QString m_undo;
     std::unique_ptr<platform::EditedFile> m_file;

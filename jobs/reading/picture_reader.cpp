@@ -274,7 +274,7 @@ ReadAnswer bytesOfConversion(const ImageSource &source, const QString &identifie
     return failed({});
 }
 
-/** What somebody kept of that picture; none where it is of another one, of an older state of it, or larger than it may be. */
+/** A stored thumbnail of that picture; none if it is of another one, of an older state of it, or too large. */
 std::optional<Bitmap> keptThumbnail(const std::shared_ptr<const LentFile> &file, const QString &uri, double modified,
                                     int side)
 {

@@ -61,7 +61,7 @@ struct Rendition
 };
 
 /**
- * Does one edit after the other. Fails where nothing of the picture is left, or as the edits themselves do.
+ * Applies one edit after the other. Fails if nothing of the picture is left, or like the edits themselves.
  *
  * @param facts  of the picture, for the tokens in texts
  */

@@ -9,7 +9,7 @@
 namespace jobs {
 namespace {
 
-constexpr int deepest = 8; ///< of nested dictionaries, whatever a file says
+constexpr int deepest = 8; ///< of nested dictionaries, whatever the file contains
 
 QString key(const char *name)
 {

@@ -11,9 +11,9 @@ class LentFile;
 namespace jobs {
 
 /**
- * What a picture says under the names of properties: those of meta::fields(), which count the sidecar, and paths through the nested
- * dictionaries of platform::ImageSource::properties(), such as "{Exif}|FNumber" and "|PixelWidth". Answer: {values: {name: {value,
- * reference}}}, of those that are stated; a reference is what stands beside a coordinate.
+ * The values of a picture by the names of properties: those of meta::fields(), which include the sidecar, and paths
+ * through the nested dictionaries of platform::ImageSource::properties(), such as "{Exif}|FNumber" and "|PixelWidth".
+ * Answer: {values: {name: {value, reference}}}, for those with a value; a reference accompanies a coordinate.
  *
  * @param asked  {names, packet}: the packet is that of the sidecar, which may be empty
  */
@@ -22,7 +22,7 @@ AnswerMessage propertyValues(const std::shared_ptr<const platform::LentFile> &pi
 /** The names of all properties of a dictionary, as paths. */
 QStringList propertyNames(const QVariantMap &properties);
 
-/** What stands between the parts of a path. */
+/** The separator of a path's parts. */
 inline constexpr char16_t propertySeparator = u'|';
 
 } // namespace jobs

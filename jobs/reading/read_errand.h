@@ -23,7 +23,7 @@ struct ReadRequest
 /** What a worker says of it. */
 struct ReadResult
 {
-    QString problem; ///< a sentence where nothing came of it
+    QString problem; ///< a sentence on failure
     /** Whoever looked into it crashed, or took longer or more memory than it may. */
     bool isReaderGone = false;
     QVariantMap values;
@@ -31,7 +31,7 @@ struct ReadResult
 
     bool isGood() const { return problem.isEmpty(); }
     QVariant value(const char *key) const { return values.value(QString::fromLatin1(key)); }
-    /** A size of what is upright; null where there is none, or one that no picture has. */
+    /** The upright size; null if there is none, or an impossible one. */
     QSize size(const char *width = "width", const char *height = "height") const;
 };
 
@@ -61,13 +61,14 @@ private:
 };
 
 /**
- * Looks into pictures by the workers of this process, and forgets what nobody waits for any more: all that was asked here goes with it.
- * What is begun is not ended for that, since a worker is started more slowly than most pictures are read.
+ * Reads pictures through the workers of this process, and drops requests that nobody waits for any more: they are
+ * dropped with this object. What was started is not stopped for that, since starting a worker takes longer than reading
+ * most pictures.
  */
 class Reader
 {
 public:
-    /** @param desk  that of this process where none is given */
+    /** @param desk  that of this process if none is given */
     explicit Reader(WorkerDesk *desk = nullptr) : m_desk(desk) {}
     Reader(const Reader &) = delete;
     Reader &operator=(const Reader &) = delete;

@@ -18,26 +18,29 @@ namespace jobs {
 
 enum class Reading {
     /**
-     * What a header tells: {width, height, storedWidth, storedHeight, orientation, type, pointWidth, pointHeight} where it can be opened,
-     * and {taken, camera, lens, statedWidth, statedHeight, statedType}, see platform::PictureFacts, also where only that is known.
+     * The facts in a header: {width, height, storedWidth, storedHeight, orientation, type, pointWidth, pointHeight} if
+     * it can be opened, and {taken, camera, lens, statedWidth, statedHeight, statedType}, see platform::PictureFacts,
+     * also if only these are known.
      */
     Facts,
     /**
-     * The middle of the picture in {width, height} pixels; that size in pixels of the screen. With a {side} above 0 all of it instead, with at
-     * most so many pixels on a side. A file that comes along is a thumbnail that somebody kept: where it states the {uri} and when the
-     * picture was {modified}, it is the answer, which says then that it {isKept}.
+     * The middle of the picture in {width, height} screen pixels. With a {side} above 0 all of it instead, with at most
+     * so many pixels on a side. An attached file is a stored thumbnail: if it states the {uri} and when the picture was
+     * {modified}, it is the answer, which then says that it {isKept}.
      */
     Thumbnail,
     /**
-     * The picture in no more pixels than can be seen: {roomWidth, roomHeight} and "covers", see renditionSize(). With a {scale} above 0 the
-     * part that is seen at it instead: {centerX, centerY} is what lies in the middle of the room, from 0 to 1; see partInView().
-     * Answer: pixels, and the {width, height} of the upright picture; with a problem these tell that it could be opened, and
-     * {lacksMemory} whether there was not enough. Of a part also {left, top, right, bottom}, from 0 to 1 of the whole.
+     * The picture in no more pixels than are visible: {roomWidth, roomHeight} and "covers", see renditionSize(). With a
+     * {scale} above 0 the part that is visible at that scale instead: {centerX, centerY} is the point in the middle of
+     * the room, from 0 to 1; see partInView(). Answer: pixels, and the {width, height} of the upright picture; with a
+     * problem these tell that it could be opened, and {lacksMemory} whether there was not enough. For a part also
+     * {left, top, right, bottom}, from 0 to 1 of the whole.
      */
     Rendition,
     /**
-     * The same with {edits} done to it, see preview_edits.h; a scale is that of the result. Answer: pixels, and the {width, height} of the whole result; and {partX,
-     * partY, partWidth, partHeight} of the picture where they begin with a cut whose place was found by looking at it.
+     * The same with {edits} applied to it, see preview_edits.h; a scale is that of the result. Answer: pixels, and the
+     * {width, height} of the whole result; and {partX, partY, partWidth, partHeight} of the picture if they begin with
+     * a crop whose position depends on its content.
      */
     Result,
     /** {properties}: see platform::ImageSource::properties(). */
@@ -51,8 +54,8 @@ enum class Reading {
     /** {bytes}: how large the file is that {recipe} makes of the picture, or else its conversion to {type} with {quality}, by making it. */
     Bytes,
     /**
-     * An edited copy of the picture with {comment}, see platform::writeUserComment(). Files that come along: the copy, to be written, and the
-     * same to be read. Answer: whether anything {changes}; where nothing does nothing is written.
+     * An edited copy of the picture with {comment}, see platform::writeUserComment(). Attached files: the copy, to be
+     * written, and the same to be read. Answer: whether anything {changes}; if not, nothing is written.
      */
     CommentedCopy,
     /** {fields, inPlace}: see meta::readFields(), with the {packet} of a sidecar. */
@@ -77,7 +80,7 @@ struct ReadMessage
 /** Pixels come along as an open file where their size is not empty, see platform::SharedImage. */
 struct AnswerMessage
 {
-    QString problem; ///< a sentence where nothing came of it
+    QString problem; ///< a sentence on failure
     QVariantMap values;
     QSize pixels;
     bool hasAlpha = false;
@@ -93,7 +96,7 @@ QSize renditionSize(QSize pixels, QSizeF room, bool covers);
  * The part of a picture with @p pixels in all that is seen in a room, with an eighth of the room around it, so that it can be moved a
  * little. It is moved itself so that the picture fills it. A picture that is shown larger than it is has @p zoom above 1.
  *
- * @param center  what should lie in the middle of the room, from 0 to 1
+ * @param center  the point that should be in the middle of the room, from 0 to 1
  */
 QRect partInView(QSize pixels, QSizeF room, QPointF center, double zoom);
 

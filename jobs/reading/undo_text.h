@@ -20,7 +20,7 @@ struct PictureUndo
 struct SidecarUndo
 {
     QString path;
-    QByteArray before; ///< empty where there was none
+    QByteArray before; ///< empty if there was none
     QByteArray now;
 };
 

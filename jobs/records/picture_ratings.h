@@ -6,8 +6,8 @@
 namespace jobs {
 
 /**
- * How the user rated pictures, 1 to 5 stars; 0 is no rating. Marks of this process by the paths of files: no file is changed, and all who ask
- * for a rating ask here, so that what stands in files can be joined. Main thread only.
+ * The user's ratings of pictures, 1 to 5 stars; 0 is no rating. Marks of this process by file path: no file is changed,
+ * and every request for a rating comes here, so that ratings stored in files can be merged. Main thread only.
  */
 class PictureRatings
 {

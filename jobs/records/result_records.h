@@ -20,18 +20,20 @@ struct MadeWith
 };
 
 /**
- * For each output of a recipe. Where results lie, what they are called and what becomes of taken names is left out: that changes no result.
+ * For each output of a recipe. Destinations, names and the handling of existing files are left out: they do not change
+ * a result.
  *
  * @param json  the text of @p recipe; reads the files that it names
  */
 QList<MadeWith> madeWith(const QByteArray &json, const image::Recipe &recipe);
 
-/** Size, modification time and identity of a picture, in one word that can be kept; empty where no file is. */
+/** Size, modification time and identity of a picture, in one word that can be stored; empty if there is no file. */
 QString sourceState(const QString &path);
 
 /**
- * What this user's data folder knows of results: how each was made, of which picture, and what it was like then. Without a data folder, or
- * where that cannot be written to, nothing is known. Several processes may note results at a time. Main thread only.
+ * What this user's data folder records about results: how each was made, from which picture, and its state then.
+ * Without a data folder, or if it cannot be written to, nothing is known. Several processes may record results at a
+ * time. Main thread only.
  */
 class ResultRecords
 {
@@ -42,8 +44,9 @@ public:
     explicit ResultRecords(const QString &folder) : m_folder(folder) {}
 
     /**
-     * The path of a result that is there and up to date, which is @p wanted or a numbered form of it ("a (2).jpg"); empty where there is
-     * none. Up to date is what was made with the same, of a picture that is as it was, and was not changed since.
+     * The path of an existing result that is up to date, which is @p wanted or a numbered form of it ("a (2).jpg");
+     * empty if there is none. A result is up to date if it was made with the same recipe from an unchanged picture, and
+     * has not been changed since.
      *
      * @param made  see MadeWith::of()
      */

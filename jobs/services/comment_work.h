@@ -27,8 +27,8 @@ public:
     /** Writes a comment, see platform::writeUserComment(). What is done to a file is done once it can be taken. */
     Q_INVOKABLE void write(const QString &path, const QString &comment);
     /**
-     * The answer: {comment, pagesLost, problem} or {problem}; without any keys before it has come. problem is a sentence where nothing came
-     * of it, else empty; pagesLost counts the pages that writing would cost.
+     * The answer: {comment, pagesLost, problem} or {problem}; without any keys before it has arrived. problem is a
+     * sentence on failure, else empty; pagesLost counts the pages that writing would lose.
      */
     Q_INVOKABLE QVariantMap take();
     /** Gives up what was asked; a file that was to be written is as it was, or as it was to be. The object is of no use any more. */

@@ -26,7 +26,7 @@ public:
     Q_INVOKABLE void look(const QString &path);
     /** Changes them, see FieldErrand. What is done to a file is done once it can be taken. */
     Q_INVOKABLE void write(const QString &path, const QVariantMap &work);
-    /** Makes the old file again with what write() gave to undo it; fails where it was changed since. */
+    /** Restores the old file with the undo data from write(); fails if it was changed since. */
     Q_INVOKABLE void revert(const QString &path, const QString &undo);
     /** The answer; without any keys before it has come. */
     Q_INVOKABLE QVariantMap take();

@@ -17,7 +17,7 @@ public:
 
     /** The template that comes with the program. */
     Q_INVOKABLE QString standardTemplate() const;
-    /** Why a text is no template, in a sentence that names line and field; empty where it is one. */
+    /** Why a text is not a valid template, in a sentence that names line and field; empty if it is one. */
     Q_INVOKABLE QString templateProblem(const QString &text) const;
     /** The fields of templates: those of the page, then those of its pictures. */
     Q_INVOKABLE QStringList fields() const;
@@ -33,11 +33,14 @@ public:
 
     /** What captions can say of a picture beside the tokens of names: {name, words, isPlace}. */
     Q_INVOKABLE QVariantList captionTokens() const;
-    /** What is wrong with a pattern of captions, as sentences; tokens that tell a place are refused unless that is allowed. */
+    /**
+     * What is wrong with a pattern of captions, as sentences; tokens that reveal a location are rejected unless
+     * allowed.
+     */
     Q_INVOKABLE QStringList captionProblems(const QString &pattern, bool placesMayBeTold) const;
-    /** Whether a pattern says something that stands in the metadata of pictures. */
+    /** Whether a pattern uses the metadata of pictures. */
     Q_INVOKABLE bool needsTexts(const QString &pattern) const;
-    /** What the metadata of a picture says of it, by the names of tokens; empty where it cannot be read. */
+    /** The metadata of a picture, by the names of tokens; empty if it cannot be read. */
     Q_INVOKABLE virtual QVariantMap textsOf(const QString &path) const;
     /**
      * The caption of a picture; lines in which nothing is left are left out.
@@ -54,7 +57,7 @@ public:
     /** Whether a language is written from right to left. */
     Q_INVOKABLE bool isFromRight(const QString &code) const;
 
-    /** What tells the content of a file from all others: 64 hex digits; empty where it cannot be read. A link is not followed. */
+    /** Identifies the content of a file: 64 hex digits; empty if it cannot be read. A link is not followed. */
     Q_INVOKABLE QString fingerprint(const QString &path) const;
     /** Removes a file whose content has one of these fingerprints, and says whether it is gone; any other file stays. */
     Q_INVOKABLE bool removeKnown(const QString &path, const QStringList &fingerprints) const;

@@ -54,7 +54,7 @@ QString textAt(const QVariantMap &properties, const Place &place)
     return wordsOf(properties.value(QLatin1String(place.group)).toMap().value(QLatin1String(place.name)));
 }
 
-/** "48.20849° N, 16.37208° E"; empty where one of the two is missing. */
+/** "48.20849° N, 16.37208° E"; empty if one of the two is missing. */
 QString coordinates(const QVariantMap &gps)
 {
     constexpr int decimals = 5; // of a degree: about a metre

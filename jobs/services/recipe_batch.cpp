@@ -107,7 +107,7 @@ RecipeBatch::RecipeBatch(QObject *parent) : QObject(parent) {}
 
 RecipeBatch::~RecipeBatch()
 {
-    // The desk goes with the application, before what scripts leave behind.
+    // The desk is destroyed with the application, before what scripts leave behind.
     if (!m_given.empty())
         close();
 }
@@ -211,7 +211,7 @@ int RecipeBatch::join(const QStringList &paths)
 
 int RecipeBatch::room() const
 {
-    constexpr int ahead = 2; // so that a worker goes on while this process still looks at its last result
+    constexpr int ahead = 2; // so that a worker continues while this process is still handling its last result
     return std::max(0, WorkerDesk::ofProcess().size() + ahead - inWork());
 }
 
@@ -279,7 +279,7 @@ bool RecipeBatch::keep(int index, const MadeMessage &made)
     return true;
 }
 
-/** The outputs of which there is a file. */
+/** The outputs for which there is a file. */
 QVariantList RecipeBatch::wholeOf(int index) const
 {
     QVariantList whole;

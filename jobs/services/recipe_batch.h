@@ -17,8 +17,9 @@
 namespace jobs {
 
 /**
- * One recipe over the pictures of a list, for scripts: what each becomes and where it goes, and the making of it. Names, numbers and
- * taken names are those of quorlin-batch. A picture is decoded once, whatever the number of its outputs.
+ * One recipe over the pictures of a list, for scripts: planning what each becomes and where it goes, and making it.
+ * Names, numbers and the handling of existing files are those of quorlin-batch. A picture is decoded once, however many
+ * outputs it has.
  *
  * The properties are set before anything is asked for. Nothing here needs a window.
  */
@@ -55,26 +56,27 @@ public:
     QStringList paths() const { return m_paths; }
     void setPaths(const QStringList &paths) { m_paths = paths; }
 
-    /** Why the recipe cannot be carried out, in a sentence that begins with the place; empty where it can. */
+    /** Why the recipe cannot be carried out, in a sentence that begins with the place; empty if it can. */
     Q_INVOKABLE QString problem();
 
     /**
      * What the picture @p index becomes, one dictionary an output: {output (its index in the recipe), status, reason, path, type, width,
-     * height, replaces, replacesOriginal, lossless, losses}. status is "ready", "Failed", "Not Supported" or "Skipped"; path is empty where there is none.
-     * To be asked for all pictures in their order, each once, before any is made.
+     * height, replaces, replacesOriginal, lossless, losses}. status is "ready", "Failed", "Not Supported" or "Skipped";
+     * path is empty if there is none. Must be called for all pictures in order, each once, before any is made.
      *
-     * @param root  the folder that the picture was found in; empty where it was added itself
+     * @param root  the folder in which the picture was found; empty if it was added itself
      */
     Q_INVOKABLE QVariantList plan(int index, const QString &root);
     /**
      * Plans a picture as an earlier batch did that was interrupted; to be asked in the same order, in place of plan().
      *
-     * @param earlier  {root, width, height (of the picture in pixels), planned, done}, the last two one path an output: where it was to go,
-     *                 or empty where there was nothing to make of it; and the result that is there, or empty
+     * @param earlier  {root, width, height (of the picture in pixels), planned, done}, the last two one path an output:
+     * its planned path,
+     *                 or empty if there was nothing to make; and the existing result, or empty
      * @return the outputs that are still to be made. What has taken a name meanwhile is treated as the recipe says.
      */
     Q_INVOKABLE QVariantList planAgain(int index, const QVariantMap &earlier);
-    /** More pictures join behind the last; the index of the first of them. Nothing replaces them from now on. */
+    /** Appends further pictures; answers the index of the first of them. Nothing replaces them from now on. */
     Q_INVOKABLE int join(const QStringList &paths);
 
     int room() const;
@@ -83,22 +85,22 @@ public:
     /** Has the outputs that are ready made by a worker, each written beside its place. For a picture that was planned, once. */
     Q_INVOKABLE void give(int index);
     /**
-     * A picture that has come: {number, whole, ms}; without any keys where there is none. whole are the outputs of which there is a file, one
-     * dictionary each: {output, file (where it waits), path (where it is to go)}. place() is to be called then.
+     * A finished picture: {number, whole, ms}; without any keys if there is none. whole are the outputs for which there
+     * is a file, one dictionary each: {output, file (its temporary path), path (its destination)}. Then call place().
      *
      * Where a disk is full: {number, full, folder, ms}, full being a sentence. Nothing is left of that picture, which may be handed over
      * again.
      */
     Q_INVOKABLE QVariantMap take();
     /**
-     * Puts the files of a picture that was taken into their places, unless they replace something; what has taken a name meanwhile is treated
-     * as the recipe says. What came of its outputs, one dictionary each: {output, status, reason, path, bytes, width, height}; status is "OK"
-     * or one of those of plan() but "ready", or "waiting": it is whole at the path `file`, and whoever asked for it puts it into the place of
-     * what is there, which is known as `replaced` (see platform::itemIdentity()), and then says settle(). Those that replace their own picture
-     * are the last.
+     * Moves the files of a finished picture to their destinations, unless they replace something; a name that was taken
+     * meanwhile is handled as the recipe says. The outcome of its outputs, one dictionary each: {output, status,
+     * reason, path, bytes, width, height}; status is "OK" or one of those of plan() except "ready", or "waiting": it is
+     * complete at the path `file`, and the caller replaces the existing file, identified by `replaced` (see
+     * platform::itemIdentity()), and then calls settle(). Those that replace their own picture come last.
      */
     Q_INVOKABLE QVariantList place(int index);
-    /** What waited of a picture is where it belongs, or is given up. */
+    /** The waiting results of a picture were placed, or abandoned. */
     Q_INVOKABLE void settle(int index);
     /**
      * The outputs of a picture that was planned and not begun go below @p folder, in folders of the same names. Nothing is replaced there.
@@ -106,7 +108,7 @@ public:
     Q_INVOKABLE void moveTo(int index, const QString &folder);
     /** Takes back what no worker has begun; the numbers of those pictures, in order. They may be handed over again. */
     Q_INVOKABLE QVariantList takeBack();
-    /** Gives up what is in work, of which nothing is left then, and forgets what was planned. */
+    /** Abandons and removes what is in progress, and forgets all plans. */
     Q_INVOKABLE void close();
 
 Q_SIGNALS:

@@ -45,7 +45,7 @@ Result<Recipe> readText(const QString &text, const QString &folder, bool filesAr
     return image::readRecipe(text.toUtf8(), files);
 }
 
-/** Where links lead; the path itself, cleaned, where nothing is. */
+/** The target of links; the path itself, cleaned, if nothing is there. */
 QString placeOf(const QString &path)
 {
     const QString there = QFileInfo(path).canonicalFilePath();

@@ -16,7 +16,7 @@ struct OutputPlan;
 
 namespace jobs {
 
-/** The recipe of a script, see RecipeService: fails where it has not exactly one output. */
+/** The recipe of a script, see RecipeService: fails unless it has exactly one output. */
 platform::Result<image::Recipe> recipeFrom(const QVariantMap &object, const image::RecipeFiles &files);
 
 /** The files that such a recipe names, without looking at them. */
@@ -44,17 +44,18 @@ public:
 
     /**
      * What the recipe makes of the picture at @p path, from its header alone: {problem, isNotSupported, type, width, height,
-     * extension, lossless, leftOut, losses, cut}. Where there will be none, problem is a sentence and the others say nothing; isNotSupported
-     * then tells that its type cannot be written. type is the word of recipes ("jpeg"), extension ".jpg", width and height are pixels of
-     * the upright result, leftOut counts pages and frames that it will not have, losses are sentences. cut is empty unless the recipe
-     * begins with one: {frame, part, isPlaced} are then what is asked for, what of it lies in the picture, both as {x, y, width, height} in
-     * pixels of the upright picture, and false where its place is found by looking at the picture.
+     * extension, lossless, leftOut, losses, cut}. If there will be no result, problem is a sentence and the others mean
+     * nothing; isNotSupported then says that its type cannot be written. type is the word of recipes ("jpeg"),
+     * extension ".jpg", width and height are pixels of the upright result, leftOut counts pages and frames that it will
+     * not have, losses are sentences. cut is empty unless the recipe begins with a crop: {frame, part, isPlaced} are
+     * then the requested area, its part inside the picture, both as {x, y, width, height} in pixels of the upright
+     * picture, and false if its position depends on the content of the picture.
      */
     Q_INVOKABLE virtual QVariantMap planOutput(const QString &path, const QVariantMap &recipe) const;
 
     /**
-     * The name of a result with its @p extension (".jpg"), as jobs::nameFrom() makes it of a pattern; one that is too long loses the
-     * end of what stands before the extension.
+     * The name of a result with its @p extension (".jpg"), as made from a pattern by jobs::nameFrom(); if it is too
+     * long, the part before the extension is shortened.
      *
      * @param index  how many pictures came before this one, for {counter}
      * @param width, height  pixels of the upright result
@@ -63,8 +64,8 @@ public:
                                 const QString &extension) const;
 
     /**
-     * Makes it and writes it as the file @p target, whatever the recipe says of names, folders and taken names; what stands there is
-     * replaced. Atomic: the file is there whole, or as it was. {counter} in a watermark is its first number.
+     * Makes the result and writes it as the file @p target, whatever the recipe says about names, folders and existing
+     * files; an existing file is replaced. Atomic. {counter} in a watermark is its first number.
      *
      * @return {outcome: "OK", "Failed" or "Not Supported", reason: a sentence, path, width, height, losses}; path is empty where
      *         nothing was written
@@ -73,23 +74,23 @@ public:
 
     /** Pictures that are handed over to workers. It belongs to this service until it is closed. */
     Q_INVOKABLE jobs::RecipeWork *work();
-    /** How many pictures workers may be at, at a time: 1 to processors(), which it is where this was never called. */
+    /** How many pictures workers may process at a time: 1 to processors(), which is the default. */
     Q_INVOKABLE void useProcessors(int processors);
-    /** How much memory pictures that are worked on together may need, in MB; 0, which it is where this was never called: what is free. */
+    /** How much memory the pictures in progress may need together, in MB; 0, the default: what is free. */
     Q_INVOKABLE void useMemory(int megabytes);
     /** The processors that this process may use, 1 or more. */
     Q_INVOKABLE int processors() const;
     /** Starts a first worker, for what may come. */
     Q_INVOKABLE void prepare();
     /**
-     * {noNewPrivileges, fileRules, callRules}: what keeps workers from doing harm, as the kernel tells the one that was started last. Without
-     * any keys before the first one is there.
+     * {noNewPrivileges, fileRules, callRules}: what keeps workers from doing harm, as the kernel reported for the one
+     * started last. Without any keys before the first one exists.
      */
     Q_INVOKABLE QVariantMap confinement() const;
 
     /**
-     * Why a recipe cannot be carried out, in a sentence that begins with the place; empty where it can. Pictures, patterns, fonts and
-     * profiles that it names are looked at; with @p filesAreOpened false only fonts are.
+     * Why a recipe cannot be carried out, in a sentence that begins with the place; empty if it can. Pictures,
+     * patterns, fonts and profiles that it names are checked; with @p filesAreOpened false only fonts are.
      *
      * @param text    of its file
      * @param folder  absolute: where relative paths in it begin
@@ -97,9 +98,9 @@ public:
     Q_INVOKABLE virtual QString problemOf(const QString &text, const QString &folder, bool filesAreOpened) const;
 
     /**
-     * What a recipe would touch beyond its own folder and those of the pictures: {reads, writes}. reads are the absolute paths of files
-     * outside @p folder, wherever links lead; writes are the folders of outputs that are absolute or lead upwards. Empty for a recipe
-     * that cannot be read. No file is opened for this.
+     * What a recipe would access beyond its own folder and those of the pictures: {reads, writes}. reads are the
+     * absolute paths of files outside @p folder, with links resolved; writes are the folders of outputs that are
+     * absolute or lead upwards. Empty for an invalid recipe. No file is opened for this.
      */
     Q_INVOKABLE QVariantMap reachOf(const QString &text, const QString &folder) const;
 
@@ -120,7 +121,7 @@ public:
 
     /**
      * The path of a result that needs not be made again: that this user's data folder knows to be made by the same recipe of the picture at
-     * @p path, both being as they were then. It is @p wanted or a numbered form of it; empty where there is none.
+     * @p path, both unchanged since. It is @p wanted or a numbered form of it; empty if there is none.
      *
      * @param index  how many pictures come before this one, for {counter} in a watermark
      */

@@ -47,7 +47,7 @@ RecipeWork::RecipeWork(WorkerDesk &desk, QObject *parent) : QObject(parent), m_d
 
 int RecipeWork::room() const
 {
-    constexpr int ahead = 2; // so that a worker goes on while this process still looks at its last result
+    constexpr int ahead = 2; // so that a worker continues while this process is still handling its last result
     return std::max(0, m_desk.size() + ahead - inWork());
 }
 

@@ -34,21 +34,25 @@ public:
      * Hands over a picture to be made into the new file @p task.target, as RecipeService::make() does. {counter} in a watermark is @p number.
      *
      * @param number  what its result is known by, from 0; not that of another one that has no result yet
-     * @param task    {path, target, recipe, width, height, noted}; the sizes are those of the picture, 0 where they are not known; noted
-     *                (true where it is missing) notes on the file that it is a result. Nobody else may make files in the target's folder
+     * @param task    {path, target, recipe, width, height, noted}; the sizes are those of the picture, 0 if unknown;
+     * noted
+     *                (default true) records that the file is a result. No other process may create files in the
+     *                target's folder
      */
     Q_INVOKABLE void give(int number, const QVariantMap &task);
     /**
-     * A result that has come: {number, outcome, cause, reason, width, height, bytes, lossless, losses, ms}; without any keys where there is
-     * none. outcome is "OK", "Failed" or "Not Supported"; reason is a sentence where it is not "OK", and cause is "vanished" where
-     * the picture is no longer there, "full" where the disk of the target is, else "".
+     * A finished result: {number, outcome, cause, reason, width, height, bytes, lossless, losses, ms}; without any keys
+     * if there is none. outcome is "OK", "Failed" or "Not Supported"; reason is a sentence unless it is "OK", and cause
+     * is "vanished" if the picture no longer exists, "full" if the disk of the target is, else "".
      */
     Q_INVOKABLE QVariantMap take();
-    /** The result of @p number, which was taken, stands at @p path now: it can be known to be up to date later. Said at most once. */
+    /**
+     * The collected result @p number is at @p path now: later it can be recognised as up to date. Called at most once.
+     */
     Q_INVOKABLE void placed(int number, const QString &path);
     /** Takes back what no worker has begun; the numbers of those pictures, in order. They may be handed over again. */
     Q_INVOKABLE QVariantList takeBack();
-    /** Gives up what is in work, of which nothing is left then; the object is of no use any more. */
+    /** Abandons and removes what is in progress; the object is useless afterwards. */
     Q_INVOKABLE void close();
 
 Q_SIGNALS:

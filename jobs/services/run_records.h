@@ -22,11 +22,13 @@ public:
     using QObject::QObject;
     ~RunRecords() override;
 
-    /** Begins one in @p folder, which is made; the path of its file, or empty where that cannot be done. */
+    /** Starts one in @p folder, which is created; the path of its file, or empty if that cannot be done. */
     Q_INVOKABLE QString begin(const QString &folder);
-    /** Adds lines to one that was begun; @p isKept: they are on the disk when this returns. False where they could not be written. */
+    /**
+     * Adds lines to one that was started; @p isKept: they are synced to the disk. False if they could not be written.
+     */
     Q_INVOKABLE bool add(const QString &path, const QString &lines, bool isKept);
-    /** It is ended when this process ends in order, and left where that crashes. */
+    /** It ends when this process exits normally, and remains if that crashes. */
     Q_INVOKABLE void endWithProgram(const QString &path);
     /** Ends one: nothing of it is left. */
     Q_INVOKABLE void end(const QString &path);

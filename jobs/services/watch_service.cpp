@@ -7,7 +7,7 @@ namespace jobs {
 
 namespace {
 
-constexpr int betweenLooksMs = 250; ///< a picture is complete a while after the last thing that the system tells of it
+constexpr int betweenLooksMs = 250; ///< a picture is complete a while after the last event about it
 
 QVariantMap answer(const char *code, const QString &detail = {})
 {

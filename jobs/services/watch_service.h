@@ -17,7 +17,7 @@ namespace jobs {
 class WatchService : public QObject
 {
     Q_OBJECT
-    /** The folder that is watched; empty where none is. */
+    /** The folder that is watched; empty if none is. */
     Q_PROPERTY(QString folder READ folder)
 
 public:
@@ -29,7 +29,8 @@ public:
      * Watches @p folder and all below it for pictures that arrive from now on; what was watched before is not watched any more.
      *
      * @param work  what is done with them: two programs do not do the same in the same folder
-     * @return {code, detail}: code is empty where it is watched, "missing" where there is no such folder, "taken" where it is watched
+     * @return {code, detail}: code is empty if it is watched, "missing" if there is no such folder, "taken" if it is
+     * watched
      *         for the same work already, "system" where the system cannot watch it, and detail then says why
      */
     Q_INVOKABLE QVariantMap start(const QString &folder, const QString &work);
