@@ -24,7 +24,7 @@ int answer(std::FILE *file, const QString &text, int status)
     return status;
 }
 
-/** Options are answered without a window system; nothing where a window is wanted. */
+/** Options are answered without a window system; nothing if a window is wanted. */
 std::optional<int> answerTo(const app::CommandLine &line)
 {
     switch (line.wish) {
@@ -46,7 +46,7 @@ std::optional<int> answerTo(const app::CommandLine &line)
 QStringList s_heldMessages;
 QString s_platform; ///< the window system that was asked for
 
-/** The toolkit aborts where it finds no window system; the user gets a sentence in its place. */
+/** The toolkit aborts if it finds no window system; the user gets a sentence instead. */
 void holdMessage(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
     s_heldMessages.append(message);
@@ -80,7 +80,7 @@ int main(int argc, char **argv)
         return *status;
     s_platform = line.platform.isEmpty() ? QString::fromLocal8Bit(qgetenv("QT_QPA_PLATFORM")) : line.platform;
     const auto application = makeApplication(argc, argv);
-    // Whoever started the program from a terminal has no use for what the services say.
+    // Messages of the services mean nothing to somebody who started the program from a terminal.
     platform::logToSystem("quorlin");
     app::keepCrashReports();
     window::StartUp startUp(*application);

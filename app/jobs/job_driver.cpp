@@ -95,7 +95,10 @@ void JobDriver::slice()
     }
 }
 
-/** What next() answers; an error where that is no step, since what never says that it is done would never end. */
+/**
+ * What next() answers. Anything that is not a step is an error: a generator that never reports its end would run for
+ * ever.
+ */
 QJSValue JobDriver::nextStep()
 {
     const QJSValue result = m_generator.object.property(QStringLiteral("next")).callWithInstance(m_generator.object);
@@ -104,7 +107,7 @@ QJSValue JobDriver::nextStep()
                                                                   QStringLiteral("A step of a job is an object"));
 }
 
-// One step of the generator; true if there is another one to come.
+// Runs one step of the generator; true if more are to come.
 bool JobDriver::step()
 {
     if (m_inStep)

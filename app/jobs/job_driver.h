@@ -10,11 +10,11 @@ namespace window {
 
 /**
  * Carries out a job that a script describes as a generator, from the event loop: it calls next() until the generator
- * is done, and in between the windows answer.
+ * is done; the windows stay responsive between steps.
  *
  * A job that yields null has nothing to do until somebody calls wake(), or has called it since the step began; onStep is not called then.
- * Short steps are bundled into slices of a few milliseconds. Everything happens on the main thread; a step is never
- * entered while another one is under way, not even from a dialog that a step shows.
+ * Short steps are bundled into slices of a few milliseconds. Everything happens on the main thread; a step never begins
+ * while another one is running, not even from a dialog that a step shows.
  */
 class JobDriver : public QObject
 {
@@ -29,7 +29,7 @@ public:
     bool isPaused() const { return m_paused; }
 
     /**
-     * Starts; a job that runs is cancelled first.
+     * Starts; a running job is cancelled first.
      *
      * @param generator  what a generator function returned
      * @param onStep     function(value), called with each value that was yielded
@@ -39,7 +39,7 @@ public:
                            const script::Function &onEnd);
     Q_INVOKABLE void pause();
     Q_INVOKABLE void resume();
-    /** There is something to do for a job that waits, or is about to. */
+    /** Wakes a job that waits for something to do, or is about to. */
     Q_INVOKABLE void wake();
     /** Stops after the current step: calls the generator's return(), so that its finally blocks run. */
     Q_INVOKABLE void cancel();
@@ -61,7 +61,7 @@ private:
     bool m_isAwake = false; ///< wake() was called in the current step
 };
 
-/** Calls a function of a script once, some time later; starting again puts it off. */
+/** Calls a function of a script once, some time later; starting it again postpones the call. */
 class ScriptTimer : public QObject
 {
     Q_OBJECT

@@ -16,14 +16,14 @@ QString lastPart(const QString &path)
     return path.mid(path.lastIndexOf(jobs::propertySeparator) + 1);
 }
 
-/** One value of a list of one is that value, as the sensitivity is. */
+/** The value of a list with one element is that element, as for the sensitivity. */
 QVariant onlyOne(const QVariant &value)
 {
     const bool isList = value.typeId() == QMetaType::QVariantList || value.typeId() == QMetaType::QStringList;
     return isList && value.toList().size() == 1 ? value.toList().constFirst() : value;
 }
 
-/** Cameras write "2026:08:14 10:20:30", which is compared with what people write. */
+/** Cameras write "2026:08:14 10:20:30", which is compared with what people type. */
 QString withDashes(QString text)
 {
     static const QRegularExpression date(QStringLiteral("^\\d{4}:\\d\\d:\\d\\d( |$)"));

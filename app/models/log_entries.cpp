@@ -10,7 +10,7 @@ namespace window {
 
 namespace {
 
-/** Lines without a run of their own belong to the same one while they follow one another as closely as this. */
+/** Lines that name no run belong to the same one if they are no further apart than this. */
 constexpr qint64 sameRunMs = 10 * 60 * 1000;
 
 QString textOf(const QJsonObject &line, const char *key, const char *otherKey)
@@ -132,7 +132,7 @@ int LogEntries::undoneOf(const QString &id) const
     return id.isEmpty() ? 0 : undoneOf(id, 0);
 }
 
-// Taking back what was taken back does it again. Made-up lines may go round in a circle.
+// Undoing an undo does it again. Forged lines may form a cycle.
 int LogEntries::undoneOf(const QString &id, int depth) const
 {
     constexpr int deepest = 16;

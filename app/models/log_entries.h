@@ -41,7 +41,7 @@ struct LogEntry
     QString output;
 };
 
-/** Entries that one start of an action made. */
+/** Entries made by one start of an action. */
 struct LogRun
 {
     QString id;       ///< as the lines carry it; empty where they carry none
@@ -53,25 +53,25 @@ struct LogRun
     int problems = 0; ///< entries that are neither done nor skipped
     int edits = 0;    ///< entries that can be reverted
     bool areEdits = false;
-    QString undoes; ///< the run that it took back; empty for none
+    QString undoes; ///< the run that it undid; empty for none
 };
 
 /**
- * The lines of a log in memory: compact, in the order of the file, growing at both of its ends, so that a large file can be
- * read from its newest line backwards and still be followed while it grows.
+ * The lines of a log in memory: compact, in the order of the file, growing at both of its ends: a large file is read
+ * from its newest line backwards, and can be followed while it grows.
  *
  * An entry is known by its place: 0 is the first one that was added at the newer end, and -1 the first at the older end.
  * A line is a JSON object with date, process, action, status, reason, input, output, inputPath, outputPath, bytes and run, or
  * with the keys LogDate, LogProcess, LogAction, LogStatus, LogI, LogO, LogIpath and LogOpath; whatever is missing is empty. Where a
- * path is given the name is its last part. A line of a run that takes another one back has undoes, the name of that run; one
- * with before and after is an edit of a comment.
+ * path is given the name is its last part. A line of a run that undoes another has the key "undoes" with the name of
+ * that run; one with before and after is an edit of a comment.
  */
 class LogEntries
 {
 public:
     enum class End { Newer, Older };
 
-    /** Adds what a line says; false, with nothing added, for a line that is not understood. */
+    /** Adds the entry of a line; false, with nothing added, if the line is not understood. */
     bool add(const QByteArray &line, End end);
     void clear();
 
@@ -84,11 +84,11 @@ public:
     const TextPool &texts() const { return m_texts; }
     const LogRun &run(int number) const { return m_runs[size_t(number)]; }
     int runCount() const { return int(m_runs.size()); }
-    /** The number of the run of that name; -1 where there is none. */
+    /** The number of the run of that name; -1 if there is none. */
     int runNamed(const QString &id) const { return id.isEmpty() ? -1 : m_runNumbers.value(id, -1); }
-    /** How many entries of the run of that name were taken back by later ones, and not done again since. */
+    /** How many entries of the run of that name later runs have undone, and not redone since. */
     int undoneOf(const QString &id) const;
-    /** Done, with another comment before than after. */
+    /** Done, and the comment differs before and after. */
     bool isRevertible(const LogEntry &entry) const;
     /** Numbers of the runs, those of the newer end of the log first. */
     const std::vector<int> &runOrder() const { return m_runOrder; }
@@ -109,7 +109,7 @@ private:
     std::vector<LogRun> m_runs;
     std::vector<int> m_runOrder;
     QHash<QString, int> m_runNumbers;
-    QHash<QString, int> m_undone; ///< entries that took one of the run of that name back
+    QHash<QString, int> m_undone; ///< entries that undid one of the run of that name
 };
 
 } // namespace window

@@ -31,7 +31,7 @@ QString longDateText(qint64 time)
     return time == 0 ? QString() : QLocale().toString(QDateTime::fromMSecsSinceEpoch(time), QLocale::LongFormat);
 }
 
-/** Sorts places by a key that is worked out once for each. */
+/** Sorts places by a key that is computed once for each. */
 template<typename Key> void sortBy(std::vector<int> &places, Qt::SortOrder order, const Key &keyOf)
 {
     std::vector<std::pair<decltype(keyOf(0)), int>> keyed;
@@ -87,7 +87,7 @@ void LogModel::follow(const QString &path)
     forget();
     m_path = path;
     m_older = isOpen ? file.readAll() : QByteArray();
-    // What has no line end yet is still being written.
+    // A line without an end is still being written.
     m_older.truncate(m_older.lastIndexOf('\n') + 1);
     m_readUpTo = m_older.size();
     m_head = m_older.left(headBytes);
@@ -329,7 +329,7 @@ QString LogModel::statusOf(const LogEntry &entry) const
     const QString shown = m_statusWords.value(word, word);
     const bool tells = m_tellsEdits && entry.reason == 0 && m_entries.isRevertible(entry);
     const QString reason = tells ? editWords(entry) : m_entries.texts().text(entry.reason);
-    // Languages differ in what stands before a colon; the list has the same words.
+    // Languages differ in the space before a colon; the list uses the same words.
     return reason.isEmpty() ? shown : QCoreApplication::translate("wording", "%1: %2").arg(shown, reason);
 }
 

@@ -8,7 +8,7 @@
 
 namespace window {
 
-/** Which entries of a log are shown. All that is set must hold. */
+/** Which entries of a log are shown. All conditions must hold. */
 struct LogFilter
 {
     QStringList words; ///< each must occur somewhere in the entry, in any case of letters
@@ -33,15 +33,15 @@ public:
 
     explicit LogModel(QObject *parent = nullptr);
 
-    /** Reads the file at @p path; only what was added where it was read before and has grown since. */
+    /** Reads the file at @p path; only the new part if it was read before and has grown since. */
     void follow(const QString &path);
     bool isReading() const { return m_slices.isActive(); }
     const LogEntries &entries() const { return m_entries; }
 
     void setHeadings(const QStringList &headings);
     /**
-     * How status words are shown, word by word; and what is said of an edit: under "edit" with both comments (%1 and %2), under
-     * "newEdit" and "lastEdit" with the only one.
+     * How status words are shown, word by word, and what is said of an edit: under "edit" with both comments (%1 and
+     * %2), under "newEdit" and "lastEdit" where there is only one.
      */
     void setStatusWords(const QHash<QString, QString> &shown);
     /** Whether the status of an edit says what was edited, because no column shows it. */
@@ -62,7 +62,7 @@ public:
     void sort(int column, Qt::SortOrder order) override;
 
 Q_SIGNALS:
-    /** More was read, or all of it. */
+    /** More of the file was read, or all of it. */
     void grown();
 
 private:
@@ -88,12 +88,12 @@ private:
     bool m_tellsEdits = true;
     int m_sortColumn = Date;
     Qt::SortOrder m_sortOrder = Qt::DescendingOrder;
-    /// What is known of the numbered texts, by word of the search: 0 not looked at, 1 the word is in it, 2 it is not.
+    /// What is known of each numbered text, per word of the search: 0 not looked at, 1 contains the word, 2 does not.
     mutable std::vector<std::vector<char>> m_textHasWord;
     QString m_path;
-    QByteArray m_head;     ///< the first bytes of the file, by which a new file of the same name is told
+    QByteArray m_head;     ///< the first bytes of the file, which reveal a new file of the same name
     qint64 m_readUpTo = 0; ///< bytes, the line end included
-    QByteArray m_older;    ///< what of the file is still to be read, backwards from its end
+    QByteArray m_older;    ///< what is still to be read of the file, backwards from its end
     QTimer m_slices;
 };
 

@@ -18,7 +18,7 @@ namespace window {
 namespace {
 constexpr int keptThumbnails = 800;
 
-/** The folder that holds all of @p path that was added: the innermost, where one lies within another. */
+/** The added folder that holds @p path: the innermost, where one is inside another. */
 QString rootOf(const QString &path, const QStringList &roots)
 {
     QString found;
@@ -28,7 +28,7 @@ QString rootOf(const QString &path, const QStringList &roots)
     return found;
 }
 
-/** Where a picture lies, from the folder that was added. */
+/** Where a picture is, starting at the folder that was added. */
 QString folderText(const PictureRow &row)
 {
     const QString folder = row.path.left(row.path.lastIndexOf(u'/'));
@@ -167,7 +167,7 @@ QVariant PictureModel::headerData(int section, Qt::Orientation orientation, int 
         return {};
     if (role == Qt::TextAlignmentRole)
         return int(Qt::AlignLeft | Qt::AlignVCenter);
-    // A heading that is cut off can be read in its tooltip.
+    // A heading that is cut off is shown in full in its tooltip.
     if (role != Qt::DisplayRole && role != Qt::ToolTipRole)
         return {};
     if (isProperty(section))
@@ -375,7 +375,7 @@ void PictureModel::clocksChanged()
 void PictureModel::setPath(int index, const QString &path)
 {
     PictureRow &row = m_rows[size_t(index)];
-    // In a swap two rows bear one path for a moment; the later one is the path's.
+    // During a swap two rows briefly have the same path; the later one owns it.
     if (m_idOfPath.value(row.path) == row.id) {
         m_idOfPath.remove(row.path);
         jobs::PictureRatings::ofProcess().set(row.path, 0);
@@ -408,7 +408,7 @@ void PictureModel::setStatus(int index, StatusKind kind, const QString &text, co
         row.results.clear();
     row.status = status;
     row.detail = detail;
-    changed(index, NewName, Status); // a long reason lies over the columns before it
+    changed(index, NewName, Status); // a long reason covers the columns before it
 }
 
 QPixmap PictureModel::thumbnail(int index) const
@@ -430,7 +430,7 @@ void PictureModel::askForThumbnail(int id, const ThumbnailAsk &ask)
 {
     const auto take = [this, id, ask](const jobs::ReadResult &result) {
         m_thumbnailAsks.remove(id);
-        if (result.image.isNull() && ask.shared) { // what others have kept may be damaged, or gone by now
+        if (result.image.isNull() && ask.shared) { // cached thumbnails of other programs may be damaged, or gone by now
             askForThumbnail(id, thumbnailAsk(ask.path, ask.pixels, ask.wanted, false));
             return;
         }
@@ -450,11 +450,12 @@ void PictureModel::takeThumbnail(int id, const jobs::ReadResult &result, const T
     if (row.thumbnailTried)
         return;
     m_thumbnails.insert(id, new QPixmap(QPixmap::fromImage(ask.thumbnailFrom(result))));
-    if (ask.isWorthKeeping(result)) // in a step of its own, since it is compressed
+    if (ask.isWorthKeeping(result)) // in a step of its own, because compressing takes time
         QMetaObject::invokeMethod(
             this,
             [ask, image = result.image] {
-                // Nobody waits for it: a full disk costs the others their thumbnail and the user nothing.
+                // Nobody waits for this: if the disk is full, other programs miss a thumbnail and the user misses
+                // nothing.
                 (void)platform::writeSharedThumbnail(*ask.shared, ask.path, image, ask.pixels);
             },
             Qt::QueuedConnection);
@@ -511,7 +512,7 @@ void PictureModel::takeProperties(int id, const jobs::ReadResult &result)
     row.properties = listedValues(result.value("values").toMap());
     m_propertiesRead += row.propertiesRead ? 0 : 1;
     row.propertiesOld = false;
-    row.propertiesRead = true; // of one that cannot be read too: it says nothing
+    row.propertiesRead = true; // also for an unreadable one, which has no values
     changed(index, FirstProperty, LastProperty);
     Q_EMIT propertiesArrived(id);
 }
@@ -537,7 +538,7 @@ void PictureModel::forget(int index)
     dropReading(row.id);
     row.headerRead = false;
     row.thumbnailTried = false;
-    row.propertiesOld = true; // and they count until they are read again: a row does not go and come
+    row.propertiesOld = true; // and they count until they are read again: a row does not disappear and return
     m_thumbnails.remove(row.id);
     changed(index, Thumbnail, Type);
 }

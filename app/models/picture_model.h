@@ -17,7 +17,7 @@
 
 namespace window {
 
-/** How a status is shown; the words beside it say the same. */
+/** How a status is drawn; its words say the same. */
 enum class StatusKind { None, Waiting, Planned, Busy, Good, Bad, Caution };
 
 /** One picture of the list. */
@@ -30,29 +30,29 @@ struct PictureRow
     bool isFolder = false;
     QString type; ///< in words, from the extension until the header was read
     qint64 bytes = -1;
-    QSize pixels; ///< upright; null while unknown and where the file is no readable picture
+    QSize pixels; ///< upright; null while unknown and if the file is no readable picture
     int orientation = 1;
     bool headerRead = false;
     bool thumbnailTried = false; ///< and it cannot be made
-    QString problem;             ///< why it is no picture that can be read
-    bool isReaderGone = false;   ///< that is because whoever read it crashed, or was ended
+    QString problem;             ///< why it cannot be read as a picture
+    bool isReaderGone = false;   ///< because the process that read it crashed, or was stopped
     QDateTime stated;            ///< when it was taken, by the camera's clock; not valid where the file states none
     QDateTime taken;             ///< the same by the corrected clock
     QString camera;              ///< empty where the file states none
     int rating = 0;              ///< stars, 1 to 5; 0 for none
-    ListedValues properties;     ///< of those that are wanted
+    ListedValues properties;     ///< of the wanted ones
     bool propertiesRead = false;
-    bool propertiesOld = false; ///< the file was written since
-    bool isTicked = true;       ///< runs work on it
-    QStringList results;        ///< the files that a run made of it, while the row says so
+    bool propertiesOld = false; ///< the file was written meanwhile
+    bool isTicked = true;       ///< runs include it
+    QStringList results;        ///< the files that a run made of it, as long as the row says so
     QString newName;
     QString newSize;
     StatusKind kind = StatusKind::None;
     QString status;
-    QString detail; ///< all of what is known of the status, for the tool tip
+    QString detail; ///< everything known about the status, for the tooltip
 };
 
-/** A row and where it stands among the others. */
+/** A row and its position among the others. */
 struct PlacedRow
 {
     int place = 0;
@@ -63,10 +63,10 @@ struct PlacedRow
 struct InputRule
 {
     bool folders = false;     ///< folders, and no files
-    bool anyFile = true;      ///< files of whatever kind
-    QSet<QString> extensions; ///< in lower case, where not any file is taken
+    bool anyFile = true;      ///< files of any kind
+    QSet<QString> extensions; ///< in lower case, unless any file is accepted
     int leastRating = 0;      ///< the user wants to see no others
-    PropertyFilter filter;    ///< nor those that it does not take; what is not read yet is not taken
+    PropertyFilter filter;    ///< nor those that it does not accept; what is not read yet is not accepted
 
     /** The kind of file is one that the action works on. */
     bool takesKindOf(const PictureRow &row) const;
@@ -77,7 +77,7 @@ struct InputRule
     }
 };
 
-/** The input list. Cells are plain text; thumbnails are held for a few hundred rows only. */
+/** The input list. Cells are plain text; thumbnails are kept for a few hundred rows only. */
 class PictureModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -93,7 +93,7 @@ public:
         Pixels,
         Bytes,
         Type,
-        FirstProperty, ///< properties that the user chose
+        FirstProperty, ///< properties chosen by the user
         LastProperty = FirstProperty + 7,
         NewName,
         NewSize,
@@ -109,41 +109,47 @@ public:
     Qt::ItemFlags flags(const QModelIndex &index) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
-    /** Appends the paths that are not in the list yet, in order; returns how many those were. @p roots: the folders that were added. */
+    /**
+     * Appends the paths that are not in the list yet, in order; returns how many were new. @p roots: the folders that
+     * were added.
+     */
     int add(const QStringList &paths, const QStringList &roots = {});
-    /** Other words for the heads of columns; those without one keep their own. */
+    /** Other titles for columns; those without one keep their own. */
     void setHeadings(const QHash<int, QString> &headings);
-    /** New names are what the list is about, and are drawn so. */
+    /** New names are what the list is about, and are drawn prominently. */
     bool stressesNewNames() const { return m_stressesNewNames; }
     void setStressesNewNames(bool on) { m_stressesNewNames = on; }
-    /** Takes rows out and returns them, the upper ones first; an id that no row has is passed over. */
+    /** Takes rows out and returns them, the upper ones first; unknown ids are ignored. */
     std::vector<PlacedRow> takeIds(const QList<int> &ids);
     std::vector<PlacedRow> takeAll();
-    /** Puts rows back where they stood, as just added; one whose path came into the list again is left out. */
+    /**
+     * Puts rows back in their former places as if just added; one whose path has been added again meanwhile is left
+     * out.
+     */
     void putBack(const std::vector<PlacedRow> &rows);
 
     const PictureRow &row(int index) const { return m_rows[size_t(index)]; }
     /** -1 where no row has that id. */
     int indexOfId(int id) const { return m_indexOfId.value(id, -1); }
 
-    /** With size and type, which are waited for if nobody has read the file yet. */
+    /** With size and type; waits for them if the file has not been read yet. */
     const PictureRow &withHeader(int index);
-    /** Has them read; headerArrived() tells of it, out of the event loop where they are not known already. */
+    /** Requests that they are read; headerArrived() reports them, from the event loop unless they are known already. */
     void wantHeader(int index, jobs::Urgency urgency);
-    /** Which properties are read of rows, by their names; what was read of others is forgotten. */
+    /** Which properties are read for rows, by name; values of others are dropped. */
     void setWantedProperties(const QStringList &names);
     const QStringList &wantedProperties() const { return m_wantedProperties; }
-    /** Which of them stand in columns, at most as many as there are, and what these are called. */
+    /** Which of them have columns, at most as many as there are, and their titles. */
     void setPropertyColumns(const QStringList &names, const QHash<QString, QString> &headings);
-    /** The property of a column; empty where it has none. */
+    /** The property of a column; empty if it has none. */
     QString propertyOf(int column) const { return m_propertyColumns.value(column - FirstProperty); }
-    /** Has the wanted ones read; propertiesArrived() tells of it, out of the event loop. */
+    /** Requests that the wanted ones are read; propertiesArrived() reports them, from the event loop. */
     void wantProperties(int index, jobs::Urgency urgency);
     int propertiesInWork() const { return int(m_propertyAsks.size()); }
-    /** Of how many rows they were read. */
+    /** For how many rows they were read. */
     int propertiesRead() const { return m_propertiesRead; }
 
-    /** The file of the row is at another path now; all that is known of it stays. */
+    /** The file of the row is at another path now; everything known about it stays. */
     void setPath(int index, const QString &path);
     void setPlan(int index, const QString &newName, const QString &newSize);
     /** @param text  shown with a capital, whatever it begins with: it may be part of a sentence elsewhere */
@@ -153,23 +159,26 @@ public:
     void setResults(int index, const QStringList &paths) { m_rows[size_t(index)].results = paths; }
     /** The ids of all rows, in the order of adding. */
     QList<int> order() const;
-    /** Puts the rows in another order; those that are not named come last. */
+    /** Puts the rows in another order; ids that are not listed come last. */
     void setOrder(const QList<int> &ids);
-    /** Whether runs work on the row. */
+    /** Whether runs include the row. */
     void setTicked(int index, bool on);
     /** @param stars  0 to 5 */
     void setRating(int index, int stars);
-    /** Clocks of cameras were set: looks at all dates again. See jobs::CameraClocks. */
+    /** The clocks of cameras were set: updates all dates. See jobs::CameraClocks. */
     void clocksChanged();
 
     bool hasThumbnail(int index) const { return m_thumbnails.contains(row(index).id); }
     QPixmap thumbnail(int index) const;
-    /** Has it made in that many pixels of the screen; thumbnailArrived() tells of it. What cannot be made is not tried again. */
+    /**
+     * Requests one of that many screen pixels; thumbnailArrived() reports it. One that cannot be made is not tried
+     * again.
+     */
     void wantThumbnail(int index, QSize devicePixels);
-    /** Whether thumbnails are taken from those that the programs of the desktop share, and kept there. */
+    /** Whether thumbnails are read from and written to the cache that the programs of a desktop share. */
     bool sharesThumbnails() const { return m_sharesThumbnails; }
     void setSharesThumbnails(bool shares) { m_sharesThumbnails = shares; }
-    /** Takes back what is wanted of rows but these. */
+    /** Withdraws all requests except those for these rows. */
     void dropThumbnailsBut(const QSet<int> &ids);
     /** How much is being read. */
     int headersInWork() const { return int(m_headers.size()); }
@@ -209,7 +218,7 @@ private:
     QHash<int, QString> m_headings;
     bool m_stressesNewNames = false;
     int m_nextId = 1;
-    jobs::Reader m_reader; ///< goes before what its answers change
+    jobs::Reader m_reader; ///< declared before the members that its answers change
 };
 
 } // namespace window

@@ -75,7 +75,7 @@ void PictureOrder::setFilter(const PropertyFilter &filter)
     invalidateFilter();
 }
 
-/** Numbers before texts, and what is not stated last. */
+/** Numbers before texts, and missing values last. */
 bool PictureOrder::isStatedBefore(const PictureRow &a, const PictureRow &b, const QString &property) const
 {
     const ListedValue first = a.properties.value(property);

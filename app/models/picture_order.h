@@ -10,7 +10,10 @@
 
 namespace window {
 
-/** Sorts by what the cells mean (numbers, natural order of names) and can show the problems, or some of the pictures, only. */
+/**
+ * Sorts by the meaning of cells (numbers, natural order of names) and can restrict the list to problems or to some
+ * pictures.
+ */
 class PictureOrder : public QSortFilterProxyModel
 {
     Q_OBJECT
@@ -21,11 +24,11 @@ public:
     bool problemsOnly() const { return m_problemsOnly; }
     /** Shows the pictures with these ids only; all for none. */
     void setOnly(const std::optional<QSet<int>> &ids);
-    /** Rows that an action does not work on are not shown. What setLeastRating() said stays. */
+    /** Rows that an action does not work on are hidden. What setLeastRating() set stays in force. */
     void setInput(const InputRule &rule);
-    /** Pictures with fewer stars are not shown, and no action works on them; 0: all are. */
+    /** Pictures with fewer stars are hidden, and no action works on them; 0: all are shown. */
     void setLeastRating(int stars);
-    /** Pictures that it does not take are not shown, and no action works on them. */
+    /** Pictures that it does not accept are hidden, and no action works on them. */
     void setFilter(const PropertyFilter &filter);
     const InputRule &input() const { return m_input; }
 

@@ -19,12 +19,12 @@ bool isSame(const ListedValue &value, const QString &text)
     if (value.words.compare(text, Qt::CaseInsensitive) == 0 || value.stated.compare(text, Qt::CaseInsensitive) == 0)
         return true;
     const auto number = numberIn(text);
-    // Fractions of a second are stated as decimals of them.
+    // Fractions of a second are stored as decimals.
     constexpr double tolerance = 1e-6;
     return number && value.number && std::abs(*number - *value.number) <= tolerance * std::abs(*number);
 }
 
-/** Below 0 where the picture says less, above where it says more. */
+/** Below 0 if the picture's value is less, above if it is more. */
 int compared(const ListedValue &value, const QString &text)
 {
     if (const auto number = numberIn(text); number && value.number)

@@ -6,7 +6,7 @@
 
 namespace window {
 
-/** How what a picture says is compared with what a user wrote. */
+/** How the value of a picture is compared with the text of a user. */
 enum class Comparison { Is, IsNot, Contains, Above, Below, Empty, Stated };
 
 /** "is", "isNot", "contains", "above", "below", "empty", "stated"; none for any other word. */
@@ -17,20 +17,20 @@ struct PropertyRule
 {
     QString property;
     Comparison comparison = Comparison::Is;
-    QString value; ///< as it was written; of no use for Empty and Stated
+    QString value; ///< as typed; unused for Empty and Stated
 
-    /** Whether the rule is fulfilled; numbers are compared as such where both are, dates and all else as text. */
+    /** Whether the rule is met; numbers are compared as such if both are, dates and everything else as text. */
     bool fits(const ListedValues &values) const;
 };
 
 enum class Join { All, Any };
 
-/** Which pictures of the list are wanted. Rules are joined by all or any; a typed text has to be found besides. */
+/** Which pictures of the list are wanted. Rules are combined by all or any; a typed text must also be found. */
 struct PropertyFilter
 {
     Join join = Join::All;
     QList<PropertyRule> rules;
-    QString text; ///< parts of it, between blanks, are each in the name or in a value
+    QString text; ///< its parts, separated by spaces, must each be in the name or in a value
 
     bool isEmpty() const { return rules.isEmpty() && text.isEmpty(); }
     bool takes(const QString &name, const ListedValues &values) const;

@@ -21,7 +21,7 @@ QString translated(const char *text)
     return QCoreApplication::translate("properties", text);
 }
 
-/** Up to six digits, and none that say nothing. */
+/** Up to six digits, without zeros at the end. */
 QString number(double value)
 {
     constexpr int digits = 6;
@@ -29,7 +29,7 @@ QString number(double value)
     return whole ? QLocale().toString(qint64(value)) : QLocale().toString(value, 'g', digits);
 }
 
-/** A count of pixels or bits; files that state nonsense are not counted in. */
+/** A count of pixels or bits; 0 for values that make no sense. */
 int countOf(double value)
 {
     return value >= 0 && value <= std::numeric_limits<int>::max() ? int(value) : 0;
@@ -57,8 +57,8 @@ QString aperture(double value)
 }
 
 /**
- * An aperture that is stated as the number of its stop. Thirds of a stop, which cameras round to eighths, have the numbers that
- * are written on lenses: 5.625 is f/7.1, not f/7.
+ * An aperture that is stated as a stop number. Thirds of a stop, which cameras round to eighths, get the numbers that
+ * are engraved on lenses: 5.625 is f/7.1, not f/7.
  */
 QString apertureOfStop(double stop)
 {
@@ -127,7 +127,7 @@ QString minutes(double degrees)
         .arg(QString::number(tenths % tenthsInMinute / 10.0, 'f', 1));
 }
 
-/** A coordinate with its sign; none where it is not there or further than @p most. */
+/** A coordinate with its sign; none if it is missing or its absolute value exceeds @p most. */
 std::optional<double> signedCoordinate(const QVariantMap &gps, const QString &key, QLatin1String negative, double most)
 {
     bool isNumber = false;
@@ -137,7 +137,7 @@ std::optional<double> signedCoordinate(const QVariantMap &gps, const QString &ke
     return gps.value(key + QLatin1String("Ref")).toString() == negative ? -size : size;
 }
 
-/** What a number of a property stands for. */
+/** What a numeric property stands for. */
 struct Meaning
 {
     const char *key;
@@ -187,7 +187,7 @@ QString withMeaning(const QString &key, double value)
                                        : QStringLiteral("%1 (%2)").arg(known->number).arg(translated(known->words));
 }
 
-/** Numbers that have a unit, or a form of their own. */
+/** Numbers that have a unit or a special form. */
 QString withUnit(const QString &key, double value, const QVariantMap &group)
 {
     using Form = QString (*)(double);
@@ -289,7 +289,7 @@ std::optional<Place> placeOf(const QVariantMap &properties)
 QString placeWords(const Place &place, PlaceForm form)
 {
     if (form == PlaceForm::Degrees) {
-        constexpr int decimals = 6; // a hand's breadth
+        constexpr int decimals = 6; // about a hand's width
         return QStringLiteral("%1, %2").arg(QString::number(place.latitude, 'f', decimals),
                                             QString::number(place.longitude, 'f', decimals));
     }

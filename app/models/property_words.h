@@ -12,7 +12,7 @@ namespace window {
  *
  * @param key    its key in the nested dictionaries
  * @param value  number, text, list, truth or data
- * @param group  what stands beside it, where the reference of a coordinate is found
+ * @param group  the properties beside it, among which the reference of a coordinate is found
  */
 QString propertyWords(const QString &key, const QVariant &value, const QVariantMap &group);
 
@@ -25,10 +25,10 @@ struct Place
 
 enum class PlaceForm { Degrees, Minutes };
 
-/** Where a picture with these properties was taken; none where they do not say, or say what is nowhere on earth. */
+/** Where a picture with these properties was taken; none if they do not say, or give a place outside the globe. */
 std::optional<Place> placeOf(const QVariantMap &properties);
 
-/** "48.858400, -2.294500", as maps understand it in any language, or "48° 51′ 30.2″ N, 2° 17′ 40.2″ W". */
+/** "48.858400, -2.294500", which maps understand in any language, or "48° 51′ 30.2″ N, 2° 17′ 40.2″ W". */
 QString placeWords(const Place &place, PlaceForm form);
 
 } // namespace window

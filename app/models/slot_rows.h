@@ -12,8 +12,8 @@ struct Slot
     QString key;     ///< the key in the form of a QKeySequence: "1", "A", "Shift+A"
     QString label;   ///< what the user calls it
     QString note;    ///< where it is
-    QString problem; ///< why nothing can go there; empty where something can
-    int count = 0;   ///< how many pictures went there
+    QString problem; ///< why nothing can be put there; empty if something can
+    int count = 0;   ///< how many pictures were put there
 };
 
 /** The slots as a list whose labels can be edited. */
@@ -37,7 +37,7 @@ public:
     Qt::ItemFlags flags(const QModelIndex &index) const override;
 
 Q_SIGNALS:
-    /** The user typed another label. */
+    /** The user changed the label. */
     void labelEdited(int row, const QString &label);
 
 private:

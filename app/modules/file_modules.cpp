@@ -22,7 +22,7 @@ namespace script {
 
 namespace {
 
-/** Scripts make them, with fields; their texts are never nothing. */
+/** Scripts create them and set their fields; their texts are never null. */
 template<typename T> ServiceEntry madeWithFields(const char *module)
 {
     ServiceEntry entry = serviceEntry<T>(module, true);
@@ -30,7 +30,7 @@ template<typename T> ServiceEntry madeWithFields(const char *module)
     return entry;
 }
 
-/** The same, with signals. What is connected keeps it, so whoever connects something says when it is of no use any more. */
+/** The same, with signals. A connection keeps them alive, so the caller says when one is no longer needed. */
 template<typename T> ServiceEntry madeWithSignals(const char *module)
 {
     ServiceEntry entry = madeWithFields<T>(module);

@@ -21,7 +21,7 @@ class ScriptEngine;
 /** The services of the modules "quorlin/files", "moves", "pictures", "tokens", "recipes", "records", "watch", "pages" and "web". */
 std::vector<ServiceEntry> fileServices();
 
-/** Those of them that look into pictures; each belongs to whoever is given it. */
+/** Those of them that read pictures; the caller owns each. */
 struct FileObjects
 {
     ProgramFiles *files;
@@ -30,7 +30,7 @@ struct FileObjects
     jobs::PageService *pages;
 };
 
-/** Adds the modules of fileServices(). They need no window. */
+/** Adds the modules of fileServices(). They work without windows. */
 void addFileModules(ScriptEngine &scripts);
 /** The same with other objects. */
 void addFileModules(ScriptEngine &scripts, const FileObjects &objects);

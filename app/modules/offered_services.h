@@ -6,7 +6,7 @@
 
 namespace script {
 
-/** Registers those of @p services that belong to @p module; the one that is an object of its own is @p object. */
+/** Registers those of @p services that belong to @p module; @p object is the one that is a single object. */
 void offerServices(ScriptEngine &scripts, const std::vector<ServiceEntry> &services, const QByteArray &module,
                    QObject *object);
 

@@ -12,7 +12,7 @@
 namespace script {
 namespace {
 
-/** A file below a folder of the data folder, without a way out of it. */
+/** A file inside a folder of the data folder; the path cannot escape from it. */
 bool isOwn(const QString &path, const QString &dataFolder)
 {
     return QDir::cleanPath(path) == path && path.startsWith(dataFolder + u'/') && !QFileInfo(path).isDir();

@@ -18,7 +18,7 @@ namespace {
 using platform::ErrorCode;
 using Outcome = platform::Result<QString>;
 
-constexpr int graceMs = 500; // what the thread may take to notice that time is up
+constexpr int graceMs = 500; // how late the thread may notice that time is up
 
 bool isWebAddress(const QUrl &address)
 {
@@ -60,7 +60,7 @@ Outcome fetched(QUrl address, DownloadBudget &budget, int redirects)
     }
 }
 
-/** One download in a thread of its own, which outlives whoever started it where a look-up of a host cannot be ended. */
+/** One download in a thread of its own. It outlives its owner if a host name lookup cannot be interrupted. */
 struct Job
 {
     QUrl address;
@@ -76,7 +76,7 @@ std::vector<std::weak_ptr<Job>> &startedJobs()
     return jobs;
 }
 
-/** Before the program ends: what the threads use is taken down behind them. */
+/** Called before the program ends: what the threads use is destroyed after them. */
 void endJobs()
 {
     for (const std::weak_ptr<Job> &each : startedJobs())
@@ -144,7 +144,7 @@ platform::Result<QString> downloadedText(const QUrl &address, const DownloadLimi
         return noWebAddress(address);
     const std::shared_ptr<Job> job = jobFor(address, limits);
     start(job, [] {});
-    // The look-up of a host knows no limits.
+    // Host name lookups have no timeout.
     const bool isDone = job->isDone.tryAcquire(1, limits.silenceMs + graceMs) ||
                         (job->budget.isConnected && job->isDone.tryAcquire(1, limits.wholeMs + graceMs));
     if (isDone)

@@ -12,20 +12,20 @@ namespace {
 
 using platform::ErrorCode;
 
-constexpr int sliceMs = 200; // how soon a download that was given up ends
+constexpr int sliceMs = 200; // how soon an abandoned download ends
 
 auto failed(const QString &why)
 {
     return platform::failure(ErrorCode::NotFound, why);
 }
 
-/** A head of an answer: its status line and its fields, whose names are in small letters. */
+/** The header of an answer: its status line and its fields, whose names are in lower case. */
 class Head
 {
 public:
     explicit Head(const QByteArray &text) : m_lines(QByteArray(text).replace('\r', "").split('\n')) {}
 
-    /** 0 where this is no answer of HTTP. */
+    /** 0 if this is no HTTP answer. */
     int status() const
     {
         const QByteArrayList words = m_lines.value(0).split(' ');
@@ -44,7 +44,7 @@ private:
     QByteArrayList m_lines;
 };
 
-/** A body that came in chunks; nothing where the last one is not there. */
+/** A body in chunks; nothing if the last one is missing. */
 std::optional<QByteArray> unchunked(const QByteArray &bytes)
 {
     QByteArray body;
@@ -90,10 +90,10 @@ public:
     }
 
 private:
-    /** For plain requests a proxy is asked for the whole address; everything else goes through a tunnel that it opens. */
+    /** Plain requests ask the proxy for the whole address; everything else uses a tunnel that the proxy opens. */
     bool asksProxy() const { return !m_isEncrypted && m_proxy.type() == QNetworkProxy::HttpProxy; }
 
-    /** Waits until @p condition says so, in slices, at most as long as there may be silence. */
+    /** Waits in slices until @p condition holds, at most for the longest allowed silence. */
     template<typename Condition, typename Wait> bool waited(Condition condition, Wait wait)
     {
         QDeadlineTimer silence(m_budget.silenceMs);
@@ -168,7 +168,7 @@ private:
         return true;
     }
 
-    /** Behind the empty line that ends the head; -1 while it has not come. */
+    /** Just behind the empty line that ends the header; -1 before it has arrived. */
     qsizetype bodyStart() const
     {
         const qsizetype at = m_bytes.indexOf("\r\n\r\n");
@@ -188,7 +188,7 @@ private:
             m_problem = QStringLiteral("this is no web server");
             return std::nullopt;
         }
-        if (answer.status < 200) { // only announces the answer
+        if (answer.status < 200) { // an interim answer
             m_bytes.remove(0, start);
             return wholeAnswer();
         }
@@ -207,7 +207,7 @@ private:
         const qint64 length = head.field("content-length").toLongLong(&hasLength);
         if (hasLength)
             return bytes.size() >= length ? std::optional(bytes.left(length)) : std::nullopt;
-        // The end of the connection is the end of the body.
+        // The body ends with the connection.
         while (readMore()) {
         }
         return m_problem.isEmpty() ? std::optional(m_bytes.mid(bodyStart())) : std::nullopt;

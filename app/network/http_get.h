@@ -10,13 +10,13 @@
 
 namespace app {
 
-/** What a download may cost; it runs out over several requests. */
+/** What a download may use; shared by all its requests. */
 struct DownloadBudget
 {
     QDeadlineTimer whole;
     int silenceMs = 0;                     ///< the longest wait for the next byte
-    qint64 bytes = 0;                      ///< heads and bodies together
-    std::atomic<bool> isConnected = false; ///< to any server yet
+    qint64 bytes = 0;                      ///< headers and bodies together
+    std::atomic<bool> isConnected = false; ///< of any server so far
     std::atomic<bool> isGivenUp = false;
 };
 
@@ -28,10 +28,10 @@ struct HttpAnswer
 };
 
 /**
- * Asks for one address and waits for the whole answer, through the proxy of the environment. Follows no redirect.
+ * Requests one address and waits for the whole answer, through the proxy of the environment. Follows no redirect.
  *
- * It blocks its thread and runs no event loop, so that nothing else happens meanwhile. Fails where nothing comes in time,
- * where more bytes come than the budget has left, also in front of the body, and for anything that is no such answer.
+ * Blocks its thread and runs no event loop, so nothing else happens meanwhile. Fails if nothing arrives in time, if
+ * more bytes arrive than the budget allows, also before the body, and for anything that is no HTTP answer.
  */
 platform::Result<HttpAnswer> httpGet(const QUrl &address, DownloadBudget &budget);
 

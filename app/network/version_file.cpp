@@ -17,7 +17,7 @@ QString fieldOf(const QStringList &fields, int index)
     return fields.at(index);
 }
 
-/** Whether field 1 begins with a number at all. */
+/** Whether field 1 begins with a number. */
 bool namesABuild(const QString &text)
 {
     QString field = text.section(u';', 1, 1).trimmed();
@@ -30,7 +30,7 @@ bool namesABuild(const QString &text)
 
 QUrl versionFileAddress()
 {
-    // The host is put before the path as it is, but for the "/" at its end that people write.
+    // The host is put in front of the path unchanged, except for a trailing "/".
     QString host = updateHost().trimmed();
     while (host.endsWith(u'/'))
         host.chop(1);

@@ -71,7 +71,7 @@ struct Span
             end = std::clamp(end + by, begin + 1, most);
     }
 
-    /** How long it can become while the edge that is not held stays, or the middle where none is held. */
+    /** How long it can become while the edge that is not held stays in place, or the middle if none is held. */
     double room() const
     {
         const double middle = (begin + end) / 2.0;
@@ -91,7 +91,7 @@ struct Span
     }
 };
 
-/** The span brought inside its bounds, as much of it as fits. */
+/** The span moved inside its bounds, or as much of it as fits. */
 Span inside(int begin, int length, int most, int side)
 {
     const int kept = std::clamp(length, 1, most);

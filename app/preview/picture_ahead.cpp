@@ -17,7 +17,7 @@ std::optional<QRectF> partIn(const jobs::ReadResult &result)
 
 namespace {
 
-constexpr size_t keptAhead = 6; // of each picture the whole and a part
+constexpr size_t keptAhead = 6; // the whole and a part of each picture
 
 ShownPicture pictureFrom(const jobs::ReadResult &result)
 {
@@ -29,7 +29,7 @@ ShownPicture pictureFrom(const jobs::ReadResult &result)
     picture.lacksMemory = result.value("lacksMemory").toBool();
     picture.part = partIn(result).value_or(picture.part);
     if (picture.problem.isEmpty() && (picture.image.isNull() || picture.full.isEmpty()))
-        picture.isReaderGone = true; // it said neither the one nor the other
+        picture.isReaderGone = true; // unless the worker said either
     return picture;
 }
 
@@ -54,7 +54,7 @@ void PictureAhead::want(const QStringList &paths, const QList<ShownRoom> &rooms)
     for (const QString &path : paths)
         for (const ShownRoom &room : rooms)
             m_wanted.append({path, room});
-    // What is in the making is not begun once more.
+    // What is already being made is not started again.
     const bool isWantedStill = (m_takePrepared && rooms.contains(m_preparing.room)) || m_wanted.contains(m_preparing);
     if (!m_preparing.path.isEmpty() && !isWantedStill) {
         m_soon.drop();
@@ -78,7 +78,7 @@ const PictureAhead::Kept *PictureAhead::find(const QString &path, const ShownRoo
     return info.lastModified() == found->changed && info.size() == found->bytes ? &*found : nullptr;
 }
 
-/** What was kept of the same picture for another place of the same kind is not asked for again. */
+/** What is cached of the same picture for another view of the same kind is not requested again. */
 void PictureAhead::forgetLike(const QString &path, const ShownRoom &room)
 {
     std::erase_if(m_kept, [&](const Kept &kept) { return kept.path == path && kept.room.isPart() == room.isPart(); });

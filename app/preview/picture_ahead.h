@@ -13,15 +13,15 @@
 
 namespace window {
 
-/** As much of a picture as can be seen, made by a worker. */
+/** As much of a picture as is visible, made by a worker. */
 struct ShownPicture
 {
-    QString problem;           ///< in words, where there is none
+    QString problem;           ///< in words, if there is none
     QSize full;                ///< pixels of the upright picture
     QImage image;              ///< for the screen
-    bool isReaderGone = false; ///< whoever read it crashed, or was ended
+    bool isReaderGone = false; ///< the process that read it crashed, or was stopped
     bool lacksMemory = false;
-    QRectF part = {0, 0, 1, 1}; ///< what of the picture the image is, from 0 to 1
+    QRectF part = {0, 0, 1, 1}; ///< the part of the picture that the image shows, from 0 to 1
 };
 
 /** How large pictures are shown, in pixels of the screen, and what of them. */
@@ -29,21 +29,22 @@ struct ShownRoom
 {
     QSizeF size;
     bool isCovered = false;
-    double scale = 0;    ///< pixels of the screen for one of the picture; 0: as many as the size allows
-    QPointF center = {}; ///< with a scale: what lies in the middle, from 0 to 1
+    double scale = 0;    ///< screen pixels per picture pixel; 0: as many as the size allows
+    QPointF center = {}; ///< with a scale: the point in the middle, from 0 to 1
     bool isPart() const { return scale > 0; }
     bool operator==(const ShownRoom &other) const = default;
 };
 
-/** The same for whoever makes the picture. */
+/** The same for the worker that makes the picture. */
 QVariantMap valuesOf(const ShownRoom &room);
 
-/** The part of a picture that was made, from 0 to 1; nothing where it is all of it. */
+/** The part of a picture that was made, from 0 to 1; nothing if it is the whole picture. */
 std::optional<QRectF> partIn(const jobs::ReadResult &result);
 
 /**
  * Pictures on their way to the screen: the one that is to be shown now, and those that will be shown soon or were a moment ago. Workers
- * make them. A few are kept as long as pictures are asked for, else the last one only. A file that changed meanwhile is read again.
+ * make them. A few are cached while pictures are being requested, otherwise only the last one. A file that has changed
+ * is read again.
  */
 class PictureAhead : public QObject
 {
@@ -52,12 +53,15 @@ class PictureAhead : public QObject
 public:
     explicit PictureAhead(QObject *parent) : QObject(parent) {}
 
-    /** The pictures that will probably be asked for, the most wanted first, each in all these rooms. */
+    /** The pictures that will probably be requested next, most likely first, each in all these view sizes. */
     void want(const QStringList &paths, const QList<ShownRoom> &rooms);
     bool has(const QString &path, const ShownRoom &room) const { return find(path, room) != nullptr; }
-    /** Lets go of a picture whose file was written. */
+    /** Forgets a picture whose file was written. */
     void forget(const QString &path);
-    /** Calls @p take with it: at once where it is there, else out of the event loop. Nobody waits for what was asked here before. */
+    /**
+     * Calls @p take with it: at once if it is cached, otherwise from the event loop. Earlier requests made here are
+     * dropped.
+     */
     void get(const QString &path, const ShownRoom &room, const std::function<void(const ShownPicture &picture)> &take);
 
 private:
@@ -88,10 +92,10 @@ private:
 
     size_t m_mostKept = 2;
     QList<Wanted> m_wanted;
-    Wanted m_preparing; ///< with an empty path where none is
+    Wanted m_preparing; ///< with an empty path for none
     jobs::Reader::Number m_preparingNumber = 0;
-    Take m_takePrepared;     ///< it is asked for meanwhile
-    std::deque<Kept> m_kept; ///< the one that was used last at the end
+    Take m_takePrepared;     ///< it has been requested since
+    std::deque<Kept> m_kept; ///< the most recently used last
     jobs::Reader m_now;
     jobs::Reader m_soon;
 };

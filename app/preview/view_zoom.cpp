@@ -8,7 +8,7 @@ namespace {
 
 constexpr std::array ladder = {1.0 / 32, 1.0 / 24, 1.0 / 16, 1.0 / 12, 1.0 / 8, 1.0 / 6, 1.0 / 4, 1.0 / 3, 1.0 / 2,
                                2.0 / 3,  1.0,      1.5,      2.0,      3.0,     4.0,     6.0,     8.0};
-/** What counts as the same scale. */
+/** Scales this close count as equal. */
 constexpr double hair = 1e-3;
 
 double along(double center, double shown, double begin, double length)

@@ -7,24 +7,24 @@
 namespace window {
 
 /**
- * How close a picture is looked at: as large as its place allows, or at a scale, with one of its points in the middle. Points of a picture
- * are counted from 0 to 1 on both sides, so that they mean the same in pictures of any size.
+ * How closely a picture is viewed: as large as its view allows, or at a scale with one of its points in the middle.
+ * Points are given as 0 to 1 in both directions, so that they mean the same in pictures of any size.
  */
 class ViewZoom
 {
 public:
-    /** False where the picture is as large as its place allows. */
+    /** False if the picture is as large as its view allows. */
     bool isOn() const { return m_scale > 0; }
-    /** Pixels of the screen for one of the picture, 1/32 to 8; 0 where it is as large as its place allows. */
+    /** Screen pixels per picture pixel, 1/32 to 8; 0 if it is as large as its view allows. */
     double scale() const { return m_scale; }
     void setScale(double scale);
     QPointF center() const { return m_center; }
     void setCenter(QPointF center) { m_center = center; }
 
     /**
-     * The next larger or smaller step, from @p fitted where none is chosen; 0 for what is no larger than that.
+     * The next larger or smaller step, starting at @p fitted if none is chosen; 0 for a step no larger than that.
      *
-     * @param fitted  the scale of the picture that is as large as its place allows
+     * @param fitted  the scale at which the picture is as large as its view allows
      */
     double steppedBy(int steps, double fitted) const;
 
@@ -34,17 +34,17 @@ private:
 };
 
 /**
- * Where a picture lies, whole, of which a point is in the middle of @p area: moved so that nothing of the area stays empty that the picture
- * could fill.
+ * The rectangle of the whole picture when one of its points is in the middle of @p area; moved so that no part of the
+ * area stays empty that the picture could fill.
  *
  * @param shown  its size there
  */
 QRectF placeAround(QPointF center, QSizeF shown, const QRectF &area);
 
-/** The point that lies in the middle of the area then. */
+/** The point that is in the middle of the area then. */
 QPointF centerOf(const QRectF &place, const QRectF &area);
 
-/** The point that has to be in the middle so that @p point of the picture lies at @p at of the area. */
+/** The point that must be in the middle so that @p point of the picture appears at @p at of the area. */
 QPointF centerFor(QPointF point, QPointF at, QSizeF shown, const QRectF &area);
 
 } // namespace window

@@ -7,7 +7,7 @@
 namespace app {
 namespace {
 
-/** Letters are measured at this size and drawn smaller, so that they are as wide on every device. */
+/** Text is measured at this size and drawn smaller, so that it has the same width on every device. */
 constexpr int fontPixels = 100;
 constexpr double hairline = 0.25;
 constexpr double fineLine = 0.5;
@@ -47,7 +47,7 @@ void drawTexts(QPainter &painter, const jobs::PageContent &page)
         drawText(painter, text, metrics);
 }
 
-/** A place whose picture cannot be read. */
+/** The box of a picture that cannot be read. */
 void drawMissing(QPainter &painter, const QRectF &place, const QColor &ink)
 {
     QColor faint = ink;

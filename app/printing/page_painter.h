@@ -8,12 +8,12 @@ class QPainter;
 
 namespace app {
 
-/** Draws a picture into its place; nothing for one whose pixels are not there. */
+/** Draws a picture into its box; nothing if its pixels are missing. */
 using DrawPicture = std::function<void(QPainter &painter, const jobs::PicturePlace &place)>;
 
 /**
- * Draws a page, in whose painter a unit is a point and the origin the corner of the paper: the same into a PDF, on a printer and on the
- * screen. Texts that are too long for their places end in an ellipsis.
+ * Draws a page, in points from the corner of the paper: the same for a PDF, a printer and the screen. Texts that are
+ * too long for their boxes end in an ellipsis.
  */
 void drawPage(QPainter &painter, const jobs::PageContent &page, const DrawPicture &drawPicture);
 

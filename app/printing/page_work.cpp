@@ -40,7 +40,7 @@ platform::PrintPages pagesFrom(const QVariantMap &order)
     return pages;
 }
 
-/** What a worker wrote into the memory that it was given; empty where that is not @p bytes. */
+/** What a worker wrote into the memory that it was given; empty if its size is not @p bytes. */
 QByteArray contentOf(const platform::Descriptor &file, qint64 bytes)
 {
     constexpr qint64 most = qint64(1) << 30;
@@ -69,7 +69,9 @@ QByteArray recipeJson(const jobs::PageSettings &settings, QSize size, bool isTur
         .toJson();
 }
 
-/** Why pictures cannot be converted to the profile, without the place that a recipe names first; empty where they can. */
+/**
+ * Why pictures cannot be converted to the profile, without the path that a recipe error begins with; empty if they can.
+ */
 QString profileProblem(const jobs::PageSettings &settings)
 {
     const auto recipe = image::readRecipe(recipeJson(settings, {1, 1}, false), QStringLiteral("/"));
@@ -147,7 +149,7 @@ void PageWork::begin(const QString &target, const QVariantMap &order)
     m_step.start();
 }
 
-/** One thing at a time, so that the event loop is never held up. */
+/** One thing at a time, so that the event loop is never blocked. */
 void PageWork::step()
 {
     if (!m_problem.isEmpty() && m_phase != Phase::Over) {
@@ -256,8 +258,8 @@ platform::Result<std::shared_ptr<const jobs::SharedRecipe>> PageWork::recipeFor(
 
 void PageWork::make()
 {
-    constexpr int ahead = 2; // so that a worker goes on while this process still writes its last picture
-    // One picture is written, or one handed over, and then others can go on.
+    constexpr int ahead = 2; // so that a worker continues while this process still writes its last picture
+    // Writes one picture, or hands one over, and then returns.
     const auto ready =
         std::find_if(m_made.begin(), m_made.end(), [this](const auto &made) { return m_given.count(made.first) == 0; });
     if (ready != m_made.end()) {

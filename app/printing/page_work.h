@@ -16,7 +16,7 @@ namespace app {
 
 /**
  * Pictures on pages, made into a PDF for a script: workers look into the pictures and encode them, and this process puts the pages together,
- * a little at a time from the event loop. What came of it is taken as it comes.
+ * a little at a time from the event loop. Results are collected as they arrive.
  */
 class PageWork : public QObject
 {
@@ -25,14 +25,14 @@ class PageWork : public QObject
     Q_PROPERTY(QVariantMap settings READ settings WRITE setSettings)
     /** Of the pictures, absolute, in their order. */
     Q_PROPERTY(QStringList paths READ paths WRITE setPaths)
-    /** What is wrong with the settings, a sentence; empty where nothing is. */
+    /** What is wrong with the settings, a sentence; empty if nothing is. */
     Q_PROPERTY(QString problem READ problem)
-    /** Of all pictures; 0 where the settings are wrong. */
+    /** Of all pictures; 0 if the settings are wrong. */
     Q_PROPERTY(int pages READ pages)
     /** Of a page as it is held, in points. */
     Q_PROPERTY(double pageWidth READ pageWidth)
     Q_PROPERTY(double pageHeight READ pageHeight)
-    /** What paper can be called: {word, width, height} each, upright, in millimetres. */
+    /** The named paper sizes: {word, width, height} each, upright, in millimetres. */
     Q_PROPERTY(QVariantList papers READ papers)
 
 public:
@@ -50,24 +50,29 @@ public:
     QVariantList papers() const;
 
     /**
-     * Begins to make the PDF. Once for one object.
+     * Starts making the PDF. Once per object.
      *
-     * @param target  of a new file, absolute, in a folder where nobody else makes any
-     * @param order   {from, to, copies, collated, backwards}; pages count from 1, and all of them are made where from is 0 or missing
+     * @param target  of a new file, absolute, in a folder that no other process writes to
+     * @param order   {from, to, copies, collated, backwards}; pages count from 1, and all of them are made if from is 0
+     * or missing
      */
     Q_INVOKABLE void begin(const QString &target, const QVariantMap &order);
     /**
-     * What has come: {picture, status, reason} for each picture, numbered from 0, with status "OK" or "Failed" and a sentence; last
-     * {problem, pages, bytes}, with a sentence where there is no file. Without any keys where there is nothing.
+     * The next result: {picture, status, reason} for each picture, numbered from 0, with status "OK" or "Failed" and a
+     * sentence; finally {problem, pages, bytes}, with a sentence if there is no file. No keys at all if nothing has
+     * arrived.
      */
     Q_INVOKABLE QVariantMap take();
-    /** Waits until nothing more comes; all of it can be taken then. For scripts without windows: everything else in the process goes on. */
+    /**
+     * Waits until nothing more arrives; then all results can be collected. For scripts without windows: everything else
+     * in the process continues.
+     */
     Q_INVOKABLE void wait();
-    /** Gives up what is not finished, of which nothing is left; the object is of no use any more. */
+    /** Abandons and removes what is not finished; the object is useless afterwards. */
     Q_INVOKABLE void close();
 
 Q_SIGNALS:
-    /** There is something to take(). Not from within begin(). */
+    /** There is something to take(). Never emitted from within begin(). */
     void arrived();
 
 private:
@@ -94,14 +99,14 @@ private:
     jobs::PageSettings m_settings;
     QString m_problem;
     Phase m_phase = Phase::Idle;
-    std::vector<int> m_order; ///< the pages that are made
-    size_t m_next = 0;        ///< of the list that the phase goes through
+    std::vector<int> m_order; ///< pages made so far
+    size_t m_next = 0;        ///< position in the list of the current phase
     QList<int> m_wanted;      ///< pictures on these pages
     std::map<int, jobs::PagePicture> m_known;
     std::unique_ptr<PdfPages> m_pdf;
     jobs::Reader m_reader;
     QList<int> m_toMake;
-    std::map<int, QSize> m_sizes; ///< of the pictures as they lie on pages, in pixels
+    std::map<int, QSize> m_sizes; ///< of the pictures as placed on pages, in pixels
     std::map<int, bool> m_turned;
     std::map<int, jobs::WorkerDesk::Number> m_given;
     struct Made

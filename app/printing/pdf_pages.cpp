@@ -25,7 +25,7 @@ Result<void> failure(const Error &error)
     return tl::unexpected<Error>(error);
 }
 
-/** The toolkit made something that is not as it was when this was written. */
+/** The output of the toolkit is not what it was when this was written. */
 Result<void> strangeSkeleton()
 {
     return failure({ErrorCode::WriteFailed, QCoreApplication::translate("pages", "The pages could not be created.")});
@@ -59,7 +59,7 @@ QByteArray imageDictionary(QSize size, const QByteArray &colors, const QByteArra
            QByteArray::number(size.height()) + "\n/BitsPerComponent 8\n/ColorSpace " + colors + "\n" + filter;
 }
 
-/** Where each object of a document begins, by its number, as its table says; empty where there is no such table. */
+/** The offset of each object of a document, by its number, from its table; empty if there is no such table. */
 QList<qint64> objectsIn(const QByteArray &document, qint64 *tableAt)
 {
     const qsizetype said = document.lastIndexOf("startxref");
@@ -141,7 +141,10 @@ Result<void> PdfPages::endPages()
     return read;
 }
 
-/** Writes all objects but the stand-ins, whose numbers are kept for the pictures: they follow in the order in which they were drawn. */
+/**
+ * Writes all objects except the stand-ins, whose numbers are kept for the pictures; these follow in the order in which
+ * they were drawn.
+ */
 Result<void> PdfPages::readSkeleton()
 {
     const QByteArray &document = m_skeleton.data();
@@ -192,7 +195,7 @@ bool PdfPages::writeObject(int number, const QByteArray &bytes)
     return write(QByteArray::number(number) + " 0 obj\n" + bytes + "endobj\n");
 }
 
-/** The object of a profile; pictures of one job have the same. */
+/** The object of a profile; the pictures of one job share one. */
 int PdfPages::profileObject(const QByteArray &profile, int components)
 {
     const auto known = m_profiles.constFind(profile);

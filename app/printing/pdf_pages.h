@@ -13,13 +13,13 @@
 namespace app {
 
 /**
- * A PDF of pages with pictures that somebody else encodes. The toolkit lays the pages out, with texts and fonts and a stand-in of one pixel
- * for each picture; the JPEGs take the places of the stand-ins, byte for byte, as they arrive. So this process neither decodes nor
- * encodes a picture, and holds none of them longer than it takes to write it.
+ * A PDF of pages whose pictures are encoded elsewhere. The toolkit lays out the pages, with texts, fonts and a stand-in
+ * of one pixel for each picture; the JPEGs replace the stand-ins, byte for byte, as they arrive. So this process
+ * neither decodes nor encodes a picture, and holds none of them longer than it takes to write it.
  *
  *     begin, addPage ... , endPages, then putPicture for each of pictures() in any order, finish
  *
- * Every step is short. Nothing is left of the file unless finish() was good.
+ * Every step is short. Unless finish() succeeds, the file is removed.
  */
 class PdfPages
 {
@@ -31,15 +31,18 @@ public:
 
     /** @param path  of a new file, in a folder that is there. Fails with WriteFailed */
     platform::Result<void> begin(const QString &path, const jobs::PageSettings &settings);
-    /** Adds a page behind the others. A picture that was on a page before is the same one again. */
+    /** Appends a page. A picture that is already on a page is shared. */
     void addPage(const jobs::PageContent &page);
-    /** No page comes any more. */
+    /** No further pages follow. */
     platform::Result<void> endPages();
     /** The numbers of the pictures that are on pages, as PicturePlace has them, in the order in which they were met. */
     const QList<int> &pictures() const { return m_pictures; }
-    /** Puts a picture into its places; empty where there is none, which are then grey. @param jpeg  grey or three colours */
+    /**
+     * Puts a picture into its places; empty if there is none, which leaves them grey. @param jpeg  grey or three
+     * colours
+     */
     platform::Result<void> putPicture(int picture, const QByteArray &jpeg);
-    /** All pictures were put. Answers the bytes of the file, which is on the disk then. */
+    /** All pictures have been put. Answers the size of the file in bytes, which is on the disk then. */
     platform::Result<qint64> finish();
 
 private:

@@ -17,9 +17,9 @@ namespace app {
 namespace {
 
 constexpr double pointsPerInch = 72;
-/** More pixels than this for an inch of paper nobody sees. */
+/** Nobody sees more pixels per inch of paper than this. */
 constexpr double finestDpi = 400;
-/** Up to so many pixels a PDF holds them without loss; above, what is a photograph, as JPEG. */
+/** A PDF holds pictures of up to so many pixels without loss; larger photographs become JPEG. */
 constexpr qint64 mostLossless = 4'000'000;
 
 QImage onWhite(const QImage &pixels)
@@ -53,7 +53,7 @@ void drawPages(QPagedPaintDevice &device, const QStringList &paths, PrintSetting
     QPainter painter;
     if (!painter.begin(&device))
         return;
-    // From here on a unit is a point and the origin the corner of the paper.
+    // From here on the unit is a point and the origin the corner of the paper.
     painter.scale(device.logicalDpiX() / pointsPerInch, device.logicalDpiY() / pointsPerInch);
     bool isFirst = true;
     for (const int page : pagesToPrint(int(paths.size()), pages)) {
@@ -77,7 +77,7 @@ QByteArray pdfOf(const QStringList &paths, const PrintSettings &settings, const 
     return buffer.data();
 }
 
-/** The picture that was opened last: it is asked for its size and for its pixels. */
+/** The last picture that was opened: both its size and its pixels are asked for. */
 struct OpenedPicture
 {
     QString path;

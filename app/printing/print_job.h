@@ -21,7 +21,7 @@ struct PrintSource
 {
     /** In points; empty for what cannot be read. */
     std::function<QSizeF(const QString &path)> size;
-    /** The pixels for the screen, in no more than about @p most on a side; null for what cannot be read. */
+    /** The pixels for the screen, no more than about @p most on a side; null if the picture cannot be read. */
     std::function<QImage(const QString &path, double most)> pixels;
 };
 
@@ -33,9 +33,9 @@ PrintSource decodedHere();
  * the panel, or into the PDF file that the panel named, which is written atomically.
  *
  * @param paths  a picture that cannot be read gives an empty page
- * @param settings  how they are laid on the pages; paper and orientation that the user chooses in the panel go before
+ * @param settings  how they are laid out; paper and orientation that the user chooses in the panel take precedence
  *
- * Pictures are upright and in sRGB, on white where they are transparent. Nothing reports what fails. Main thread; modal.
+ * Pictures are upright and in sRGB, on white where they are transparent. Failures are not reported. Main thread; modal.
  */
 void printPictures(const QStringList &paths, const PrintSettings &settings, const PrintSource &source = decodedHere());
 

@@ -6,7 +6,7 @@
 
 namespace app {
 
-/** How a picture that is larger than the page is brought onto it in one direction. */
+/** How a picture that is larger than the page is fitted in one direction. */
 enum class Pagination {
     Clip, ///< what does not fit is cut off
     Fit,  ///< the picture is scaled down until it fits
@@ -24,16 +24,16 @@ struct PrintSettings
 };
 
 /**
- * The settings of this run, which every print job changes in place and hands on to the next. At first: the paper of the
- * user's country, upright, with margins of an inch.
+ * The settings of this run, which every print job changes in place and passes on to the next. Initially: the paper of
+ * the user's country, upright, with margins of an inch.
  */
 PrintSettings &sharedPrintSettings();
 
-/** No margins, fitted in both directions, in the middle of the page; paper and orientation stay. */
+/** No margins, fitted in both directions, centred; paper and orientation stay. */
 void fitOnPage(PrintSettings &settings);
 
 /**
- * Where a picture lies on the page.
+ * The position of a picture on the page.
  *
  * @param picture  its size in points
  * @return points from the top left corner of the paper. The picture keeps its proportions and is never enlarged; where it is

@@ -11,7 +11,7 @@ namespace window {
 
 namespace {
 
-/** As long as a list may well be; beyond it all is read once more when it is asked for. */
+/** As long as a list may reasonably be; beyond that everything is read again when requested. */
 constexpr qsizetype mostKnown = 200'000;
 
 KnownPicture pictureFrom(const jobs::ReadResult &result)

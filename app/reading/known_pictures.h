@@ -13,18 +13,18 @@ namespace window {
 /** What the header of a file tells, as a worker read it. */
 struct KnownPicture
 {
-    QString problem;           ///< a sentence where the file is no picture that can be read
-    bool isReaderGone = false; ///< that is because whoever read it crashed, or was ended
-    QSize pixels;              ///< upright; null where there is a problem
+    QString problem;           ///< a sentence if the file cannot be read as a picture
+    bool isReaderGone = false; ///< because the process that read it crashed, or was stopped
+    QSize pixels;              ///< upright; null if there is a problem
     QSize stored;
     int orientation = 1;
-    QString type;  ///< identifier, by the content; empty where there is a problem
+    QString type;  ///< identifier, by the content; empty if there is a problem
     QSizeF points; ///< the size of the upright picture
     platform::PictureFacts facts;
 };
 
 /**
- * The headers of this process' pictures, each read once by a worker, and once more where its file has changed since. This process
+ * The headers of this process' pictures, each read once by a worker, and again if its file has changed. This process
  * reads none itself.
  */
 class KnownPictures
@@ -34,22 +34,22 @@ public:
 
     static KnownPictures &ofProcess();
 
-    /** What is known of the file as it is now; nothing where nobody has asked. */
+    /** What is known of the file in its present state; nothing if it was never requested. */
     std::optional<KnownPicture> find(const QString &path) const;
-    /** The same, read where nobody has asked yet: the process waits for that. */
+    /** The same, but read if it was never requested: the process waits for that. */
     KnownPicture now(const QString &path);
-    /** Has it read; @p take is called out of the event loop, unless @p reader drops it. */
+    /** Has it read; @p take is called from the event loop, unless @p reader drops it. */
     jobs::Reader::Number ask(jobs::Reader &reader, const QString &path, jobs::Urgency urgency, const Take &take);
 
 private:
-    /** By which a file is told from the one that was at its path before. */
+    /** Tells a file from the one that was at its path before. */
     struct Stamp
     {
         quint64 disk = 0;
         quint64 number = 0;
-        qint64 bytes = -1; ///< none is there
+        qint64 bytes = -1; ///< no file is there
         qint64 changedNs = 0;
-        qint64 sidecarChangedNs = 0; ///< what a sidecar says counts too
+        qint64 sidecarChangedNs = 0; ///< values of a sidecar count too
         bool operator==(const Stamp &other) const = default;
     };
     struct Entry

@@ -7,7 +7,7 @@
 
 /**
  * The services of scripts in a process with windows. What they tell of a picture comes from a worker, so that no decoder runs here; they
- * wait for it where it is not known yet.
+ * wait for it if it is not known yet.
  */
 namespace window {
 

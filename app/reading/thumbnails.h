@@ -11,15 +11,15 @@ namespace window {
 struct ThumbnailAsk
 {
     QString path; ///< of the picture
-    QSize pixels; ///< that it has, upright; empty where that is not known
+    QSize pixels; ///< that it has, upright; empty if unknown
     QSize wanted; ///< in pixels of the screen
-    /** That of the desktop, which is looked at first and made where it is missing; none where none is shared. */
+    /** That of the desktop, which is tried first and made if it is missing; none if none is shared. */
     std::optional<platform::SharedThumbnail> shared;
 
     jobs::ReadRequest request() const;
-    /** The middle of what came, as large as it was wanted; null where nothing came. */
+    /** The middle of what arrived, as large as requested; null if nothing arrived. */
     QImage thumbnailFrom(const jobs::ReadResult &result) const;
-    /** Whether other programs would be glad of what came. Asks the disk. */
+    /** Whether other programs could use what arrived. Reads the disk. */
     bool isWorthKeeping(const jobs::ReadResult &result) const;
 };
 

@@ -19,7 +19,9 @@
 namespace script {
 namespace {
 
-/** The global name under which the engine finds the running HostCall, for as long as it takes to look it up; then it is undefined. */
+/**
+ * The global name under which the engine finds the running HostCall while it looks it up; afterwards it is undefined.
+ */
 const QString hostName = QStringLiteral("quorlinHost");
 
 QString readableName(const QString &source)
@@ -28,7 +30,7 @@ QString readableName(const QString &source)
     return url.isLocalFile() ? url.toLocalFile() : source;
 }
 
-/** The topmost place of a trace, whose entries are "function:line:column:file", that lies in a script of the user's. */
+/** The topmost entry of a trace (entries are "function:line:column:file") that is in a user's script. */
 Location locationInTrace(const QStringList &trace)
 {
     static const QRegularExpression entryForm(QStringLiteral("^(.*?):(-?\\d+):(-?\\d+):(.*)$"));
@@ -63,7 +65,7 @@ ScriptEngine::ScriptEngine(std::vector<ServiceEntry> services, QObject *parent)
     m_language->tellRejection = [this](const QJSValue &reason, const Location &place) {
         reportUncaught(describe(reason, place));
     };
-    // There all the time: an engine whose global object loses properties mixes up those that were added later.
+    // Always defined: an engine whose global object loses properties mixes up those that were added later.
     m_engine->evaluate(QStringLiteral("Object.defineProperty(this, '%1', { writable: true })").arg(hostName));
     m_seam = std::make_unique<Seam>(*m_engine, std::move(services));
     m_seam->callHandler = [this](const QJSValue &function, const QJSValueList &values) {
@@ -110,12 +112,12 @@ platform::Result<QJSValue> ScriptEngine::importFile(const QString &path)
     if (!info.isFile())
         return platform::failure(platform::ErrorCode::NotFound, tr("Cannot read %1: no such file").arg(path));
     const QString file = info.absoluteFilePath();
-    // The engine would hand out a module again that stopped half way.
+    // The engine would hand out a half-evaluated module again.
     if (const auto failed = m_failedModules.constFind(file); failed != m_failedModules.constEnd())
         return platform::failure(platform::ErrorCode::InvalidValue, *failed);
     const auto load = [this, file] {
         const QJSValue loaded = m_engine->importModule(file);
-        // What fails before anything runs is answered, not thrown.
+        // A failure before anything runs is returned, not thrown.
         if (!m_engine->hasError() && loaded.isError())
             m_engine->throwError(loaded);
         return loaded;
@@ -162,7 +164,7 @@ platform::Result<QJSValue> ScriptEngine::run(const QString &program, const Body 
                              describe(value, isUsable(location) ? location : Location{file, 1}));
 }
 
-/** What was thrown in words, with its own place where it is an error that knows one. */
+/** A thrown value in words, with its own position if it is an error that has one. */
 QString ScriptEngine::describe(const QJSValue &thrown, const Location &otherwise) const
 {
     Location location;
@@ -177,7 +179,7 @@ QString ScriptEngine::textOf(const QJSValue &thrown) const
     return thrown.isError() ? thrown.toString() : nameAndMessage(thrown);
 }
 
-/** What was thrown and is no error, in the form of one. */
+/** A thrown value that is no error, wrapped as one. */
 QString ScriptEngine::nameAndMessage(const QJSValue &thrown) const
 {
     const QString name = thrown.property(QStringLiteral("name")).toString();

@@ -25,7 +25,7 @@ struct Location;
  * Modules there are from the start: "quorlin" (service classes, Picture), "quorlin/controls" (stand-ins),
  * "quorlin/panels" (answers to panels), "quorlin/defaults" (user defaults).
  *
- * How the application builds on it:
+ * How the application uses it:
  *
  *     script::ScriptEngine scripts;
  *     QJSValue window = scripts.engine().newObject();
@@ -67,7 +67,7 @@ public:
     /**
      * Loads and runs the module at @p path, relative to the current folder, and everything that it imports.
      *
-     * @return what the module exports. Fails with NotFound where there is no such file, otherwise with InvalidValue and
+     * @return what the module exports. Fails with NotFound if there is no such file, otherwise with InvalidValue and
      *         "FILE:LINE: NAME: MESSAGE".
      */
     platform::Result<QJSValue> importFile(const QString &path);
@@ -79,10 +79,10 @@ public:
     /** @p object as scripts get it: a service as its facade, a widget or other control as itself; C++ keeps owning it. */
     QJSValue controlValue(QObject *object);
 
-    /** Runs what settled promises and queued events have left to do, until nothing is left. */
+    /** Runs everything that settled promises and queued events have left to do. */
     void drain();
 
-    /** Says that an error had nowhere to go; "FILE:LINE: NAME: MESSAGE". */
+    /** Reports an error that nobody caught; "FILE:LINE: NAME: MESSAGE". */
     void reportUncaught(const QString &message);
 
 Q_SIGNALS:

@@ -17,12 +17,12 @@ struct Import
 QString textOf(const QString &path)
 {
     QFile file(path);
-    // A named pipe would never end.
+    // Opening a named pipe would block for ever.
     const bool canBeRead = QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly);
     return canBeRead ? QString::fromUtf8(file.readAll()) : QString();
 }
 
-/** What a module imports, and passes on, in the order in which it says so. */
+/** What a module imports and re-exports, in the order of its statements. */
 QList<Import> importsOf(const QString &path)
 {
     static const QRegularExpression form(

@@ -10,11 +10,12 @@ namespace script {
 namespace {
 
 /*
- * The engine's own operations go down into a list that holds itself until the stack is used up, which ends the process; where such a
- * list stands in itself, its text is empty, as the language has it.
+ * The engine's own operations recurse into a list that contains itself until the stack overflows, which ends the
+ * process. Where such a list contains itself, its text is empty, as the language defines it.
  *
- * Every promise that the engine makes is made by the constructor of another one, so that all of them pass through the one here. A promise is handled as soon as somebody
- * asks it with then(), which catch() does too; what then() answers is watched in its place.
+ * Every promise of the engine is created by the constructor of another one, so all of them pass through the one here. A
+ * promise counts as handled as soon as then() is called on it, which catch() does too; the promise that then() returns
+ * is watched instead.
  */
 const char *const source = R"js((function (host) {
     "use strict";
@@ -138,7 +139,7 @@ void Language::rejected(const QJSValue &reason, const QString &stack, const QJSV
     m_due.start();
 }
 
-/** One reaction after another runs in separate turns of the event loop; the last of them may still handle a rejection. */
+/** Each reaction runs in its own pass of the event loop; the last of them may still handle a rejection. */
 void Language::tellWhenQuiet()
 {
     constexpr int mostTurns = 100;

@@ -13,10 +13,11 @@
 namespace script {
 
 /**
- * What the language lacks in the engine, put into its own objects before any script runs; afterwards none of them can be changed.
+ * Fills gaps of the engine's language, in its own objects, before any script runs; afterwards none of these can be
+ * changed.
  *
- * The texts of a list that holds itself come to an end, numbers are written as their reader writes them, and a promise that is rejected
- * while nobody handles it is told, once everything that was due has run and still nobody does.
+ * The text of a list that contains itself ends, numbers are formatted for their reader, and a promise that is rejected
+ * and still unhandled once everything due has run is reported.
  */
 class Language : public QObject
 {
@@ -28,7 +29,7 @@ public:
     /** Called with what a promise was rejected with, and where the promise was made. */
     std::function<void(const QJSValue &reason, const Location &place)> tellRejection;
 
-    /** Tells at once of what nobody handled. True where there was something to look at. */
+    /** Reports at once what nobody handled. True if there was anything to look at. */
     bool tellRejections();
 
     // Called by its script only.

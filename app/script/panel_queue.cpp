@@ -13,7 +13,7 @@
 namespace script {
 namespace {
 
-/** Asks the queue first, then whoever answered panels before. */
+/** Asks the queue first, then the previous provider of panels. */
 class QueueProvider : public platform::PanelProvider
 {
 public:

@@ -12,7 +12,7 @@ namespace script {
 class ScriptEngine;
 class Seam;
 
-/** Answers of scripts to panels that nobody looks at, in the order in which they were queued. */
+/** Scripted answers to panels that nobody looks at, in the order in which they were queued. */
 class PanelQueue : public QObject
 {
     Q_OBJECT

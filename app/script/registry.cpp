@@ -60,7 +60,7 @@ ServiceEntry savePanels()
 
 } // namespace
 
-// One class a line, so that two who add one do not meet.
+// One class a line, so that two people who add one do not get a merge conflict.
 // clang-format off
 std::vector<ServiceEntry> registeredServices()
 {

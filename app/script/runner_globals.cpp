@@ -29,7 +29,7 @@ void ProcessExit::quit(const QJSValue &arguments)
         if (status < 0 || status > 255)
             throw platform::Raised::rangeError(
                 QStringLiteral("Expected a whole number from 0 to 255 for code but received %1").arg(status));
-        // Nothing of a script may run after this, not even a finally block, and every file is complete already.
+        // No script code may run after this, not even a finally block, and every file is complete already.
         std::fflush(nullptr);
         ::_exit(status);
         return QJSValue();

@@ -31,7 +31,8 @@ void handleMessage(QtMsgType type, const QMessageLogContext &context, const QStr
         const bool isOutput = type == QtDebugMsg || type == QtInfoMsg;
         writeLine(isOutput ? stdout : stderr, text);
     } else if (handlerBefore && !text.startsWith(QStringLiteral("QStandardPaths: XDG_RUNTIME_DIR"))) {
-        // That one says nothing to whoever reads the errors of a script, in every container without a session.
+        // Its message, which appears in every container without a session, means nothing to somebody who reads the
+        // errors of a script.
         handlerBefore(type, context, text);
     }
 }

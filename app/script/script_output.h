@@ -5,7 +5,7 @@ namespace script {
 /**
  * From now on print(...) and console.log(...) of scripts write plain lines to standard output, console.warn(...) and
  * console.error(...) to standard error, whatever the logging rules of the user's environment say. Messages of libraries
- * go where they went before.
+ * are handled as before.
  */
 void installScriptOutput();
 

@@ -4,12 +4,13 @@ namespace script {
 namespace {
 
 /*
- * Scripts never see a service itself. A facade is a frozen object whose fields are accessors and whose operations lie in
- * its prototype; what it stands for is an opaque value under a symbol that never leaves this function. The prototype's
- * own prototype answers every name that was not found with a TypeError. Objects that were set on a field are kept under
- * a second symbol, so that they live as long as the facade and come back as the same object. Such an object may also come back
- * from another object's field, which a service has set: then the engine's own wrapper of the service object, its shell, leads
- * to the facade. Scripts never see a shell; the facade keeps it alive inside a function.
+ * Scripts never see a service itself. A facade is a frozen object whose fields are accessors and whose operations are
+ * in its prototype; the service itself is an opaque value under a symbol that never leaves this function. The
+ * prototype's own prototype answers every name that was not found with a TypeError. Objects that were set on a field
+ * are kept under a second symbol, so that they live as long as the facade and come back as the same object. Such an
+ * object may also come back from another object's field, which a service has set: then the engine's own wrapper of the
+ * service object, its shell, leads to the facade. Scripts never see a shell; the facade keeps it alive inside a
+ * function.
  */
 const char *const source = R"js((function (seam) {
     "use strict";

@@ -4,10 +4,13 @@
 
 namespace script {
 
-/** The script that makes the facades: a function of the seam that answers {define, wrap, nativeOf, reclassify}. */
+/**
+ * The script that makes the facades: it evaluates to a function that takes the seam and answers {define, wrap,
+ * nativeOf, reclassify}.
+ */
 QString facadeSource();
 
-/** The file name under which that script is known in stacks; no error is said to have happened there. */
+/** The file name of that script in stacks; no error is ever reported there. */
 QString facadeFileName();
 
 } // namespace script

@@ -9,7 +9,7 @@ namespace script {
 
 class Values;
 
-/** A function of a script that an operation keeps, to call it later; none where the script gave null. */
+/** A function of a script that an operation keeps and calls later; none if the script gave null. */
 class Function
 {
 public:
@@ -20,8 +20,8 @@ public:
     /** False for none, and as soon as the engine is gone. */
     bool isCallable() const { return m_function.isCallable(); }
     /**
-     * What it answers; undefined where it cannot be called. What it throws is reported as an uncaught error, or answered as an error
-     * where nobody reports.
+     * What it returns; undefined if it cannot be called. What it throws is reported as an uncaught error, or returned
+     * as an error if nobody reports.
      */
     QJSValue call(const QVariantList &arguments = {}) const;
     /** The same with values of the script's own. */

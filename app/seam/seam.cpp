@@ -28,7 +28,7 @@ qint64 byteCount(const platform::Bitmap &bitmap)
     return samples * bitmap.bitsPerComponent() / 8;
 }
 
-/** How much memory a value may keep from being freed. */
+/** How much memory a value may keep alive. */
 qint64 pixelBytes(const QVariant &value)
 {
     if (value.metaType() == QMetaType::fromType<platform::Picture>())
@@ -51,7 +51,7 @@ QString arityText(const Operation &operation, int received)
         .arg(received);
 }
 
-/** Where the value itself lies, as the meta-call wants it. */
+/** The address of the value itself, as the meta-call expects it. */
 void *storage(QVariant &value, Kind kind)
 {
     return kind == Kind::Any ? static_cast<void *>(&value) : value.data();
@@ -62,7 +62,7 @@ QVariant emptyOf(Kind kind, QMetaType type)
     return kind == Kind::Nothing || kind == Kind::Any ? QVariant() : QVariant(type);
 }
 
-/** Text that is nothing and empty text: a field that is a member is left as it is where the two compare equal. */
+/** Null text and empty text: a member field is left unchanged if the two compare equal. */
 bool isOtherNothing(const QString &present, const QString &wanted)
 {
     return present.isEmpty() && wanted.isEmpty() && present.isNull() != wanted.isNull();
@@ -78,7 +78,7 @@ Values::NullText nullTextOf(const ServiceClass &service)
     return service.entry.answersNullTexts ? Values::NullText::Null : Values::NullText::Empty;
 }
 
-/** What is of no registered class: to be handed on only. */
+/** An object of no registered class, which can only be passed on. */
 ServiceEntry anyObject()
 {
     ServiceEntry entry;
@@ -91,7 +91,7 @@ ServiceEntry anyObject()
     return entry;
 }
 
-/** Said before the engine sees an object: what nobody has spoken for it takes, and deletes. */
+/** Said before the engine sees an object: it takes ownership of objects that have no owner, and deletes them. */
 void keepFromEngine(QObject *object)
 {
     QJSEngine::setObjectOwnership(object, QJSEngine::CppOwnership);
@@ -205,7 +205,7 @@ QJSValue Seam::exportsOf(const QByteArray &module)
     QJSValue exports = m_engine.newObject();
     for (size_t id = 0; id < m_classes.size(); ++id) {
         const ServiceEntry &entry = m_classes[id]->entry;
-        // What a window has is made by nobody, and found by its name.
+        // The controls of a window are not created by scripts but found by name.
         if (entry.module == module && !entry.hasOneFacade)
             exports.setProperty(nameOf(*m_classes[id]), entry.isOneObject
                                                             ? facadeOf(entry.object, Owner::Application)
@@ -222,7 +222,7 @@ const ServiceClass &Seam::classOf(const QMetaObject &ofObject) const
     return *m_classes[size_t(m_classIds.value(meta))];
 }
 
-/** The hold that scripts have on @p object; none where they have none, or had one on what lay there before. */
+/** The hold that scripts have on @p object; none if they have none, or had one on an earlier object at that address. */
 std::shared_ptr<Holding> Seam::holdingOf(QObject *object) const
 {
     const std::shared_ptr<Holding> holding = m_held.value(object).lock();
@@ -289,7 +289,7 @@ QJSValue Seam::shellOf(QObject *object) const
     return m_engine.newQObject(object);
 }
 
-/** Lets the object behind a facade lead back to it, as long as a script has the facade. */
+/** Makes the object behind a facade lead back to it, as long as a script holds the facade. */
 void Seam::attachToShell(const QJSValue &facade)
 {
     QObject *object = objectOf(facade);
@@ -350,7 +350,7 @@ QJSValue Seam::call(const QVariant &native, int operationId, const QJSValue &arg
     });
 }
 
-/** What a script gave to a member of @p owner. */
+/** What a script assigned to a member of @p owner. */
 QVariant Seam::fromScript(const ServiceClass &owner, const QJSValue &value, Kind kind, QMetaType type,
                           const QString &name) const
 {
@@ -389,7 +389,7 @@ QJSValue Seam::resultToScript(QObject *object, const QVariant &result, const Ope
     QObject *answered = called.operation->resultKind == Kind::Object ? result.value<QObject *>() : nullptr;
     if (answered && answered == object)
         return m_itself;
-    // What an operation made for the script belongs to the script.
+    // What an operation created for the script belongs to the script.
     if (answered && !answered->parent())
         return facadeOf(answered, Owner::Scripts);
     return m_values.toScript(result, nullTextOf(*called.owner));

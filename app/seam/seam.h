@@ -15,17 +15,17 @@
 namespace script {
 
 /**
- * The one hold that scripts have on a service object, shared by all its facades. The object may go first where it belongs to
- * the application; then another one may come to lie at the same address.
+ * The one hold that scripts have on a service object, shared by all its facades. The object may be destroyed first if
+ * it belongs to the application; then another one may get the same address.
  */
 struct Holding
 {
     QPointer<QObject> object;
-    /** Its facade was set on a field; see the facade's script. */
+    /** Its facade was assigned to a field; see the facade's script. */
     bool isAttached = false;
 };
 
-/** What lies behind a facade. */
+/** What is behind a facade. */
 struct Native
 {
     std::shared_ptr<Holding> holding;
@@ -36,7 +36,7 @@ struct Native
 /** Where in a script something happened. */
 struct Location
 {
-    QString file; ///< a path, or another name where the script is not a file; empty if unknown
+    QString file; ///< a path, or another name if the script is not a file; empty if unknown
     int line = 0;
 };
 
@@ -46,9 +46,9 @@ Location locationInStack(const QString &stack);
 /**
  * The one way from scripts to services.
  *
- * Makes the classes that scripts see and carries every call, read and write of a field: looks the operation up in what the
- * meta-object said, checks count and types of the arguments, converts them, calls, converts the result. Everything that
- * is thrown underneath ends here as an error of the script; a C++ exception that entered the engine would end the process.
+ * Makes the classes that scripts see and carries every call, read and write of a field: looks the operation up in the
+ * meta-object, checks count and types of the arguments, converts them, calls, converts the result. Everything that is
+ * thrown underneath ends here as an error of the script; a C++ exception that entered the engine would end the process.
  */
 class Seam : public QObject
 {
@@ -64,10 +64,13 @@ public:
     /** Adds a class, or the one object of a module. Before exportsOf() its module. */
     void add(ServiceEntry entry);
 
-    /** What `import ... from "module"` gives. */
+    /** What `import ... from "module"` yields. */
     QJSValue exportsOf(const QByteArray &module);
 
-    /** Who deletes an object without a parent: the scripts with their last facade of it, or the C++ that made it. */
+    /**
+     * Who deletes an object without a parent: the scripts with their last facade of it, or the C++ code that created
+     * it.
+     */
     enum class Owner { Scripts, Application };
 
     /**
@@ -79,8 +82,8 @@ public:
     QObject *objectOf(const QJSValue &value) const;
 
     /**
-     * Calls a function that a script connected to a signal or left with an operation, and answers what it does; whoever reports what
-     * such functions throw sets another one.
+     * Calls a function that a script connected to a signal or passed to an operation, and answers what it returns;
+     * replaced by whoever reports what such functions throw.
      */
     std::function<QJSValue(const QJSValue &function, const QJSValueList &values)> callHandler;
 
@@ -128,7 +131,7 @@ private:
     QJSValue operationTable(ServiceClass &service);
     QJSValue fieldTable(ServiceClass &service);
     QJSValue signalTable(ServiceClass &service);
-    /** At least that of any object. */
+    /** At least the alignment of any object. */
     const ServiceClass &classOf(const QMetaObject &meta) const;
     std::shared_ptr<Holding> holdingOf(QObject *object) const;
     QVariant hold(QObject *object, Owner owner);

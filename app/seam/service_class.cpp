@@ -98,7 +98,7 @@ Field fieldOf(const QMetaProperty &property)
 Signal signalOf(const QMetaObject &meta, int index)
 {
     Signal signal = {meta.method(index).name(), index, parametersOf(meta.method(index))};
-    // What is emitted is the signal with all its arguments, behind which the meta-object has the forms without them.
+    // The emitted signal has all arguments; after it the meta-object lists the forms with fewer.
     while (meta.method(signal.methodIndex).attributes() & QMetaMethod::Cloned)
         --signal.methodIndex;
     const bool isOne = signal.parameters.size() == 1;
@@ -138,7 +138,7 @@ void ServiceClass::addMembers(const ServiceEntry &described)
         addDeclared(*described.meta, described.base ? *described.meta->superClass() : QObject::staticMetaObject);
 }
 
-/** Looked up in the class of the entry itself: it may have another property under the name of one of its base. */
+/** Looked up in the class of the entry itself: that may redeclare a property of its base. */
 void ServiceClass::addListed(const Listed &listed)
 {
     const QMetaObject &meta = *entry.meta;

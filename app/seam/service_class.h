@@ -36,7 +36,7 @@ enum class Kind {
     Size,        ///< QSizeF
     Point,       ///< QPointF
     Rectangle,   ///< QRectF
-    Opaque,      ///< a bitmap handle and the like: handed on, never looked into
+    Opaque,      ///< a bitmap handle and the like: passed on, never inspected
     Picture,     ///< platform::Picture
     Object,      ///< a pointer to a QObject: a control, or a service
     ObjectList,  ///< QObjectList: controls or services, none of them null
@@ -73,17 +73,17 @@ struct Field
     Kind kind = Kind::Unreachable;
 };
 
-/** What an object tells whoever connects a function to it. */
+/** A signal of an object, to which functions can be connected. */
 struct Signal
 {
     QByteArray name;
-    int methodIndex = -1; ///< of the signal as it is emitted, which may tell more than scripts hear
+    int methodIndex = -1; ///< of the signal as emitted, which may carry more than scripts receive
     std::vector<Parameter> parameters;
 };
 
 /**
- * Which members of a class of the toolkit scripts have: names of properties, signatures of signals and slots as the meta-object has
- * them, separated by blanks. A signal with a default argument can be listed without it.
+ * Which members of a toolkit class scripts have: names of properties, signatures of signals and slots as in the
+ * meta-object, separated by spaces. A signal with a default argument can be listed without it.
  */
 struct Listed
 {
@@ -96,8 +96,8 @@ struct Listed
  * One class as the application offers it to scripts.
  *
  * Its operations are the public Q_INVOKABLE methods and its fields the Q_PROPERTYs, both in the order of declaration
- * and with those of base classes first. Operations that are called on the class itself are listed, separated by
- * blanks, in Q_CLASSINFO("ClassOperations", "..."); they run on one hidden object of the class.
+ * with those of base classes first. Operations that are called on the class itself are listed, separated by spaces, in
+ * Q_CLASSINFO("ClassOperations", "..."); they run on one hidden object of the class.
  */
 struct ServiceEntry
 {
@@ -111,23 +111,23 @@ struct ServiceEntry
     bool takesFields = false;
     /** It stands for a window, a view or a control: outlets without a class take it. */
     bool isControl = false;
-    /** Scripts can make one with new; otherwise they get such objects from operations only. */
+    /** Scripts can make one with new; otherwise only operations return them. */
     bool isMadeByScripts = true;
-    /** The module exports one object, under the name of the entry, in place of the class. */
+    /** The module exports one object, under the name of the entry, instead of the class. */
     bool isOneObject = false;
     /** That object; it must outlive the engine. */
     QObject *object = nullptr;
     /** Its signals are fields to which scripts connect functions. */
     bool offersSignals = false;
-    /** Whether a text that it answers may be nothing; otherwise it is empty then. */
+    /** Whether a text that it returns may be null; otherwise null becomes empty. */
     bool answersNullTexts = true;
     /** A number that is NaN or infinite is a TypeError. */
     bool takesFiniteNumbersOnly = false;
-    /** Scripts get the same facade each time, as long as the object lives. */
+    /** Scripts always get the same facade, as long as the object lives. */
     bool hasOneFacade = false;
-    /** The entry whose members it has too; then its own are those that its class itself declares. */
+    /** The entry whose members it has too; then its own are only those that its class declares. */
     std::shared_ptr<const ServiceEntry> base = {};
-    /** In place of what the class declares. */
+    /** Used instead of what the class declares. */
     std::optional<Listed> listed = {};
 };
 
@@ -139,8 +139,8 @@ template<typename T> ServiceEntry serviceEntry(const char *module = "quorlin", b
 }
 
 /**
- * The entry of a class that scripts do not make and whose signals they hear, with texts that are never nothing: one that belongs
- * to the windows and to the work of jobs, whose classes the contract of the services does not name.
+ * The entry of a class that scripts do not create but whose signals they receive, with texts that are never null: it
+ * belongs to windows and jobs, and the contract of the services does not list it.
  */
 template<typename T> ServiceEntry givenEntry(const char *module)
 {
@@ -165,7 +165,7 @@ template<typename T> ServiceEntry oneObject(const char *module, const char *name
     return entry;
 }
 
-/** What the meta-object of an entry says, looked up once. */
+/** The contents of the meta-object of an entry, looked up once. */
 struct ServiceClass
 {
     explicit ServiceClass(ServiceEntry description);
@@ -173,8 +173,8 @@ struct ServiceClass
     ServiceEntry entry;
     std::vector<Operation> operations;
     std::vector<Field> fields;
-    std::vector<Signal> signalList; ///< empty where none are offered
-    /** So many of them, the first ones, are those of the base. */
+    std::vector<Signal> signalList; ///< empty if none are offered
+    /** so many of them, the first ones, belong to the base */
     struct
     {
         size_t operations = 0;

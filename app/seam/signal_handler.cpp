@@ -9,7 +9,7 @@ namespace script {
 SignalHandler::SignalHandler(QObject &sender, const Signal &signal, QJSValue function, Seam &seam)
     : QObject(&seam), m_seam(seam), m_parameters(signal.parameters), m_function(std::move(function))
 {
-    // No slot of a meta-object: qt_metacall() is what is called, with the first index behind those of every object.
+    // There is no slot in any meta-object: qt_metacall() itself is called, with the first index after those of QObject.
     QMetaObject::connect(&sender, signal.methodIndex, this, QObject::staticMetaObject.methodCount(),
                          Qt::DirectConnection);
     connect(&sender, &QObject::destroyed, this, &QObject::deleteLater);
@@ -25,7 +25,7 @@ int SignalHandler::qt_metacall(QMetaObject::Call call, int id, void **arguments)
 
 void SignalHandler::run(void **arguments)
 {
-    // Objects may outlive the engine by a little.
+    // Objects may briefly outlive the engine.
     if (!m_function.isCallable())
         return;
     QJSValueList values;

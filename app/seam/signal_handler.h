@@ -10,8 +10,8 @@ namespace script {
 class Seam;
 
 /**
- * Calls a function of a script each time an object emits a signal, with the values of the signal as an operation would answer them.
- * It goes when the object goes; its parent is the seam.
+ * Calls a function of a script whenever an object emits a signal, with the arguments converted like results of an
+ * operation. Deleted with the object; its parent is the seam.
  */
 class SignalHandler : public QObject
 {

@@ -22,16 +22,16 @@
 namespace script {
 namespace {
 
-/** Deeper nesting than any real settings have; a list that holds itself ends here. */
+/** Deeper nesting than any real settings have; a list that contains itself ends here. */
 constexpr int deepestNesting = 64;
 
 /**
- * Lists that hold one list twice, which holds another one twice and so on, are more than memory holds after a few levels. A run over
- * half a million files is less than this.
+ * A list that contains one list twice, which contains another twice and so on, exceeds all memory after a few levels. A
+ * run over half a million files is less than this.
  */
 constexpr qint64 mostValues = 3'000'000;
 
-/** So much of a name of many levels is put into a sentence. */
+/** So much of a deeply nested name appears in a sentence. */
 constexpr qsizetype longestName = 120;
 
 constexpr double largestWholeNumber = 9007199254740992.0;
@@ -177,7 +177,7 @@ QVariant Values::numberToNative(const QJSValue &value, Kind kind, const QString 
     return kind == Kind::Whole ? QVariant(int(number)) : QVariant(uint(number));
 }
 
-/** Where an operation takes any object it means one thing that it writes as text. */
+/** An operation that takes any object means one that it writes as text. */
 QVariant Values::scalarToNative(const QJSValue &value, const QString &name) const
 {
     if (value.isNull())

@@ -18,7 +18,7 @@ namespace script {
 QString withArticle(const QString &noun);
 
 /**
- * Turns values of scripts into values of services and back, by the rules of the seam: nothing is converted in silence.
+ * Converts values between scripts and services by the rules of the seam: nothing is converted silently.
  *
  * What does not fit raises platform::Raised, a TypeError or a RangeError with a sentence of the form "Expected X for N but
  * received V".
@@ -32,31 +32,31 @@ public:
     std::function<QObject *(const QJSValue &)> objectOf;
     /** Whether an outlet for any control takes the object: a stand-in, a window or view, or a real control. */
     std::function<bool(const QObject &)> isControl;
-    /** Calls a function that a script left with an operation. */
+    /** Calls a function that a script passed to an operation. */
     std::function<QJSValue(const QJSValue &, const QJSValueList &)> callFunction;
-    /** The name that scripts know a class by. */
+    /** The name by which scripts know a class. */
     std::function<QString(const QMetaObject &)> wordOf;
     /** The facade of a service object or control. */
     std::function<QJSValue(QObject *)> facadeOf;
-    /** The same for an object that was made for the script and belongs to it from now on. */
+    /** The same for an object that was created for the script and belongs to it from now on. */
     std::function<QJSValue(QObject *)> facadeOfNew;
 
-    /** @p value as a value of exactly @p type; @p name is what the sentence calls it. */
+    /** @p value as a value of exactly @p type; @p name is its name in error messages. */
     QVariant toNative(const QJSValue &value, Kind kind, QMetaType type, const QString &name) const;
 
     /** A list of texts; null is none here. */
     QStringList textList(const QJSValue &value, const QString &name) const { return textListToNative(value, name); }
     /** The keys of a plain object. */
     QStringList keysOf(const QJSValue &value, const QString &name) const;
-    /** Whatever may stand inside a list: text, numbers, booleans, dates, data, lists, dictionaries, null. */
+    /** Whatever a list may contain: text, numbers, booleans, dates, data, lists, dictionaries, null. */
     QVariant anything(const QJSValue &value, const QString &name) const;
     /** The same, but null is refused. */
     QVariant setting(const QJSValue &value, const QString &name) const;
 
-    /** What a text that is nothing is in scripts. */
+    /** What scripts get for a null text. */
     enum class NullText { Null, Empty };
 
-    /** A service's value as scripts see it: null for what is nothing. */
+    /** A service's value as scripts see it: null for no value. */
     QJSValue toScript(const QVariant &value, NullText nullText = NullText::Null) const;
 
     /** A value in words: "abc" in quotation marks, numbers as they are, "a list" ... */

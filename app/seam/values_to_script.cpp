@@ -149,7 +149,7 @@ QJSValue Values::sharedTextsToScript(platform::SharedTexts texts) const
     return texts.form().value<QJSValue>();
 }
 
-/** Under this one name plain assignment would make the value the prototype of the object. */
+/** Plain assignment to this one name would set the prototype of the object. */
 void Values::setKey(QJSValue &object, const QString &key, const QJSValue &value) const
 {
     if (key == QStringLiteral("__proto__"))

@@ -13,7 +13,7 @@ class WindowBackend
 public:
     virtual ~WindowBackend() = default;
     virtual QRectF frame() const = 0;
-    /** Moves and sizes the window at once or with an animation; frame() answers the new frame from now on. */
+    /** Moves and sizes the window at once or with an animation; frame() returns the new frame immediately. */
     virtual void setFrame(const QRectF &frame, WindowExtent extent) = 0;
 };
 

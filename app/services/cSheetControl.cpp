@@ -13,7 +13,7 @@
 
 namespace {
 
-/** One folder, which may be made in the panel; nothing if the user cancels. */
+/** One folder, which may be created in the panel; nothing if the user cancels. */
 std::optional<QString> chosenFolder(const QString &message)
 {
     platform::PanelRequest request;
@@ -94,7 +94,7 @@ void cSheetControl::hInfoWindow(const QString &, const QString &titleKey, const 
     const QString message = hGetTranslation(messageKey, messageKey);
     platform::beginSheet(m_mainWindow, m_infoSheet);
     platform::setTextOf(m_infoTitle, title);
-    // As long as the title, not as the text that is there: what reaches past the text's end is left out of the range.
+    // As long as the title, not the text that is shown: what exceeds the text's end is not part of the range.
     platform::setTextOf(m_infoDescription, message + platform::textOf(m_infoDescription).mid(title.size()));
 }
 
@@ -128,7 +128,7 @@ void cSheetControl::hTextWMPresetsInfo(platform::Sender)
     showInfo(QStringLiteral("isSave"), QStringLiteral("isSaveMessage"));
 }
 
-// Pictures and texts are saved the same way, so this is the same sheet.
+// Pictures and texts are saved in the same way, so this is the same sheet.
 void cSheetControl::hImageWMPresetsInfo(platform::Sender sender)
 {
     hTextWMPresetsInfo(sender);

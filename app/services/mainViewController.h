@@ -7,11 +7,11 @@
 class mainViewController : public QObject
 {
     Q_OBJECT
-    /** The window that the content lies in. */
+    /** The window that holds the content. */
     Q_PROPERTY(QObject *window READ window WRITE setWindow)
 
 public:
-    /** Gives the window a transparent title bar and full opacity. Nothing happens without a window. */
+    /** Gives the window a transparent title bar and full opacity. Does nothing without a window. */
     Q_INVOKABLE void viewWillAppear();
 
     QObject *window() const { return m_window; }

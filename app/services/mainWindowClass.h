@@ -8,6 +8,6 @@ class mainWindowClass : public QObject
     Q_OBJECT
 
 public:
-    /** Called when the window was loaded; its look comes from its interface file, so that nothing is left to do. */
+    /** Called when the window was loaded; its appearance comes from its interface file, so nothing is left to do. */
     Q_INVOKABLE void windowDidLoad();
 };

@@ -8,7 +8,7 @@ namespace {
 
 enum class Takes { Nothing, Value };
 
-/** Options of the toolkit, which it takes out of the arguments with one or two dashes. */
+/** Options of the toolkit, which removes them from the arguments, with one or two dashes. */
 struct ToolkitOption
 {
     const char *name;
@@ -37,7 +37,7 @@ const ToolkitOption toolkitOptions[] = {
 
 const QString endOfOptions = QStringLiteral("--");
 
-/** The option of the toolkit that an argument is; null where it is none. */
+/** The toolkit option that an argument is; null if it is none. */
 const ToolkitOption *toolkitOption(const QString &argument)
 {
     const QString name = argument.mid(argument.startsWith(endOfOptions) ? 2 : 1).section(u'=', 0, 0);
@@ -46,7 +46,7 @@ const ToolkitOption *toolkitOption(const QString &argument)
     return found == std::end(toolkitOptions) ? nullptr : found;
 }
 
-/** What an option of ours lets the window open with; empty where it is none. */
+/** What the window opens with for one of our options; empty if it is none. */
 QString openingOf(const QString &argument)
 {
     if (argument == QStringLiteral("--new-recipe"))

@@ -11,15 +11,15 @@ struct CommandLine
     enum class Wish { Window, Help, Version, Unknown };
 
     Wish wish = Wish::Window;
-    QString unknown;  ///< the option that nobody knows
-    QString platform; ///< the window system that an option names
+    QString unknown;  ///< the unknown option
+    QString platform; ///< the window system that an option asks for
     QString
         opening; ///< what the window opens with: "recipe" for a new one, "watch" for a folder to be watched; or empty
 };
 
 /**
- * Looks through the arguments after the program's name. Options stand before a "--", if there is one; those that the toolkit takes for
- * itself are no wishes of this program, and neither are paths. The first wish counts.
+ * Scans the arguments after the program's name. Options end at a "--", if there is one; toolkit options and paths are
+ * ignored. The first request counts.
  */
 CommandLine commandLineFrom(const QStringList &arguments);
 

@@ -40,7 +40,7 @@ QLocale wantedLocale()
     const QLocale system = QLocale::system();
     const QLocale asked(platform::languageOfTexts());
     const bool isAsked = askedLanguage().section(u'-', 0, 0) == platform::languageOfTexts();
-    // The system without a language of its own writes as English does.
+    // If the system has no language of its own, numbers are written as in English.
     const bool isOwn = asked.language() == system.language() ||
                        (asked.language() == QLocale::English && system.language() == QLocale::C);
     return isAsked && !isOwn ? QLocale(asked.language(), system.territory()) : system;

@@ -4,10 +4,10 @@
 
 namespace app {
 
-/** Where a window that ends by a fault leaves its report, in the folder of this program's data, which is made. */
+/** Where a window leaves its report if it crashes, in the data folder of this program, which is created. */
 QString crashFile();
 
-/** Lets this process leave reports there that begin with the versions of program and libraries. */
+/** Lets this process write crash reports, which begin with the versions of the program and its libraries. */
 void keepCrashReports();
 
 } // namespace app

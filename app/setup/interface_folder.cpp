@@ -8,7 +8,8 @@ namespace window {
 
 namespace {
 
-// Anybody may make the folder of a build on another machine, so only a program within its build looks into it and its source.
+// On a machine with other users anybody may create a folder at the path of the build, so only a program inside its
+// build looks there and in its source.
 bool isInItsBuild(const QString &programFolder)
 {
     const QString build = QFileInfo(QStringLiteral(QUORLIN_BUILD_FOLDER)).canonicalFilePath();

@@ -6,12 +6,12 @@
 
 namespace app {
 
-/** The folder of the pictures that come with the program; it need not be there. */
+/** The folder of the pictures that come with the program; it need not exist. */
 QString samplesFolder();
 
 /**
  * Puts a copy of those pictures where the user may work on them: a folder "Quorlin Samples" among the user's pictures, which is
- * returned. A folder of that name that is there is taken as it is. Fails as platform::copyItem() does.
+ * returned. An existing folder of that name is used as it is. Fails as platform::copyItem() does.
  */
 platform::Result<QString> copySamples();
 

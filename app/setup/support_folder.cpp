@@ -38,7 +38,7 @@ bool areSame(const QString &one, const QString &other)
            first.readAll() == second.readAll();
 }
 
-// Whether a folder has a file that the supplied patterns do not have just like it.
+// Whether a folder contains a file that differs from the supplied patterns.
 bool hasOwnFiles(const QString &folder, const QString &supplied)
 {
     QDirIterator files(folder, QDir::Files | QDir::Hidden | QDir::System, QDirIterator::Subdirectories);
@@ -50,7 +50,7 @@ bool hasOwnFiles(const QString &folder, const QString &supplied)
     return false;
 }
 
-// What the user put there can be had back from the trash.
+// What the user put there can be restored from the trash.
 void removePatterns(const QString &folder, const QString &supplied)
 {
     if (!hasOwnFiles(folder, supplied) || !platform::moveToTrash(folder))

@@ -7,7 +7,7 @@
 /** The folder of the user's own patterns and watermarks: how it is set up, and how it is remembered. */
 namespace app {
 
-/** What becomes of patterns that the chosen folder has from an earlier time. */
+/** What happens to patterns that the chosen folder has from an earlier time. */
 enum class OldPatterns { Replace, Keep };
 
 /** The patterns that come with the program. */
@@ -19,18 +19,18 @@ QString suppliedPatterns();
  * the patterns copied from @p patterns, the watermarks' path ("WatermarksDestination").
  *
  * @param root      absolute path; the paths below it are put directly behind it
- * @param patterns  the folder to copy; where patterns are kept, or cannot be removed, nothing is copied
+ * @param patterns  the folder to copy; if patterns are kept, or cannot be removed, nothing is copied
  *
- * Patterns that are replaced go to the trash where there are others among them than the supplied ones.
+ * Replaced patterns go to the trash if any of them is not a supplied one.
  *
- * Folders that cannot be made and copies that fail are passed over; the paths are remembered all the same.
+ * Folders that cannot be created and copies that fail are ignored; the paths are remembered all the same.
  */
 void setUpSupportFolder(const QString &root, const QString &patterns, OldPatterns old);
 
 /** Whether a support folder was ever chosen. */
 bool isSupportFolderKnown();
 
-/** The path of the folder that was chosen; fails when it is gone, or another took its place. */
+/** The path of the chosen folder; fails if it is gone, or another has taken its place. */
 platform::Result<QString> supportFolder();
 
 } // namespace app

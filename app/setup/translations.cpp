@@ -23,7 +23,7 @@ public:
 
 } // namespace
 
-// The toolkit asks the table that was installed last first.
+// The toolkit asks the most recently installed table first.
 Translations::Translations(const QString &language)
 {
     const QString toolkit = QLibraryInfo::path(QLibraryInfo::TranslationsPath) + QStringLiteral("/qtbase_%1.qm");

@@ -24,7 +24,7 @@ QDBusMessage inhibitCall(const QString &title)
     return call;
 }
 
-/** Nobody works in the program: none of its windows is in front. */
+/** No window of the program is in front. */
 bool isInBackground()
 {
     const QWidget *active = QApplication::activeWindow();
@@ -84,7 +84,7 @@ void DesktopSigns::letSleep()
         PortalSigns::letSleep(std::exchange(m_promise, {}));
 }
 
-// The promise holds as long as what was answered is open, also where this process ends early.
+// The inhibition lasts as long as the returned descriptor is open, so it ends with this process too.
 void DesktopSigns::stayAwakeWithoutPortal(const QString &title)
 {
     const QDBusConnection bus = QDBusConnection::systemBus();
@@ -129,7 +129,7 @@ void DesktopSigns::notifyWithoutPortal(const QString &title, const QString &summ
         return;
     QDBusMessage call =
         QDBusMessage::createMethodCall(notifications, notificationsPath, notifications, QStringLiteral("Notify"));
-    // Servers take the text for markup.
+    // Servers interpret the text as markup.
     const QStringList actions = {QStringLiteral("default"), tr("Show")};
     call.setArguments({QStringLiteral("Quorlin"), m_notification, QStringLiteral("com.brelmark.Quorlin"), title,
                        summary.toHtmlEscaped(), actions,

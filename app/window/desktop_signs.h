@@ -13,11 +13,11 @@ class QDBusUnixFileDescriptor;
 namespace window {
 
 /**
- * What the desktop is told of a job: that the machine must not sleep meanwhile, how far it is, and, where the window is in the
- * background, that it has ended.
+ * What the desktop is told about a job: that the machine must not sleep, how far the job is, and, if the window is in
+ * the background, that it has ended.
  *
- * All of it is asked over the buses of the desktop, the portal first, without waiting for an answer; a desktop that does not know one of them does
- * without it.
+ * All of it goes over the buses of the desktop, the portal first, without waiting for an answer; on a desktop without
+ * one of these services that part has no effect.
  */
 class DesktopSigns : public QObject
 {
@@ -28,18 +28,18 @@ public:
     ~DesktopSigns() override;
     Q_DISABLE_COPY_MOVE(DesktopSigns)
 
-    /** The window that the user is led back to. */
+    /** The window that a notification leads back to. */
     void setWindow(QWidget *window) { m_window = window; }
 
     /**
-     * A job is under way: the machine stays awake until jobEnded().
+     * A job has begun: the machine stays awake until jobEnded().
      *
-     * @param title    what the job is called
-     * @param percent  how far it is, 0 to 100; anything else where nobody knows
+     * @param title    the name of the job
+     * @param percent  how far it is, 0 to 100; anything else if unknown
      */
     Q_INVOKABLE void jobGoesOn(const QString &title, int percent);
 
-    /** The job is over; @p summary is told where no window of the program is in front. Empty: nothing is told. */
+    /** The job is over; @p summary is shown if no window of the program is in front. Empty: nothing is shown. */
     Q_INVOKABLE void jobEnded(const QString &title, const QString &summary);
 
     /** Whether the desktop has promised to stay awake. */
@@ -59,9 +59,9 @@ private:
 
     QPointer<QWidget> m_window;
     PortalSigns m_portal;
-    QString m_promise;                                ///< of the portal, that the machine stays awake
-    std::unique_ptr<QDBusUnixFileDescriptor> m_awake; ///< the same of who lets it sleep
-    int m_jobs = 0;                                   ///< how many have begun, so that a late answer is known to be one
+    QString m_promise;                                ///< from the portal, that the machine stays awake
+    std::unique_ptr<QDBusUnixFileDescriptor> m_awake; ///< the same from the service that controls sleep
+    int m_jobs = 0;                                   ///< how many jobs have begun, so that late answers are recognised
     bool m_isOn = false;
     int m_percent = -1;
     uint m_notification = 0;

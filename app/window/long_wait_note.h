@@ -9,8 +9,8 @@
 namespace window {
 
 /**
- * Says that something takes long which the program has to wait for, with a button that gives it up. The windows are drawn meanwhile, and
- * timers go on; nothing but that button can be chosen, as with any question.
+ * Shows that the program must wait for something that takes long, with a button that gives up waiting. Windows are
+ * repainted and timers run meanwhile; nothing but that button can be used, as with any question.
  */
 class LongWaitNote : public jobs::LongWait
 {

@@ -13,7 +13,8 @@ namespace window {
 
 MainFrame::MainFrame(QMainWindow &window) : m_window(&window)
 {
-    // Keys of menu entries work only while something that holds the entry can be seen, and the menu bar goes away.
+    // Shortcuts of menu entries work only while something that contains the entry is visible, and the menu bar gets
+    // hidden.
     const QList<QAction *> actions = window.findChildren<QAction *>();
     for (QAction *action : actions)
         if (!action->shortcut().isEmpty())
@@ -23,7 +24,7 @@ MainFrame::MainFrame(QMainWindow &window) : m_window(&window)
         if (QWidget *bar = shown ? shown->menuWidget() : nullptr)
             bar->setVisible(visible);
     });
-    // The first screen is the one that the window stands on.
+    // The first screen is the one that the window is on.
     platform::setScreenProvider([this] {
         const QWidget *shown = m_window.data();
         return shown ? QRectF(shown->screen()->geometry()) : QRectF();
@@ -61,7 +62,7 @@ void MainFrame::setFrame(const QRectF &frame, app::WindowExtent extent)
     const bool isMaximised = std::exchange(m_wasMaximised, false);
     window->setWindowState(isMaximised ? Qt::WindowMaximized : Qt::WindowNoState);
     window->show();
-    // A maximised window keeps the frame that it has without that.
+    // A maximised window keeps its normal frame.
     if (!isMaximised)
         window->setGeometry(frame.toRect());
 }

@@ -9,12 +9,12 @@ namespace window {
 
 /**
  * The main window as the full-screen service handles it. Frames are those of the content, without the title bar. It fills the
- * screen that it stands on, and is maximised again afterwards where it was before.
+ * screen that it is on, and is maximised again afterwards if it was before.
  */
 class MainFrame : public app::WindowBackend
 {
 public:
-    /** Shows and hides the menu bar of @p window from now on when the service says so. */
+    /** From now on shows and hides the menu bar of @p window when the service says so. */
     explicit MainFrame(QMainWindow &window);
     ~MainFrame() override;
 
@@ -24,7 +24,7 @@ public:
 private:
     QPointer<QMainWindow> m_window;
     bool m_wasMaximised = false;
-    QRectF m_screenFrame; ///< while the window covers the screen; the desktop tells the real one only later
+    QRectF m_screenFrame; ///< while the window covers the screen; the desktop reports the real frame only later
 };
 
 } // namespace window

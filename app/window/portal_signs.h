@@ -10,8 +10,8 @@ class QDBusMessage;
 namespace window {
 
 /**
- * What the desktop portal does for programs: it lets the machine stay awake and shows notifications, also for those that run in a box of
- * their own and reach nothing else. Nothing here waits for an answer.
+ * What the desktop portal does for programs, also for sandboxed ones that reach nothing else: it keeps the machine
+ * awake and shows notifications. Nothing here waits for an answer.
  */
 class PortalSigns : public QObject
 {
@@ -21,14 +21,14 @@ public:
     explicit PortalSigns(QObject *parent = nullptr);
 
     /**
-     * Asks that the machine does not go to sleep.
+     * Requests that the machine does not go to sleep.
      *
-     * @param answered  is told what stands for the promise, to be handed to letSleep(); empty where no portal gave one
+     * @param answered  receives the handle of the request, for letSleep(); empty if no portal granted one
      */
     void stayAwake(const QString &reason, const std::function<void(const QString &promise)> &answered);
     static void letSleep(const QString &promise);
 
-    /** Shows a notification in the place of the one before. @param answered  whether a portal took it */
+    /** Shows a notification that replaces the previous one. @param answered  whether a portal accepted it */
     void notify(const QString &title, const QString &text, const std::function<void(bool isTaken)> &answered);
 
 Q_SIGNALS:

@@ -28,7 +28,7 @@ namespace {
 const QString paperKey = QStringLiteral("PrintPaper");
 const QString landscapeKey = QStringLiteral("PrintLandscape");
 
-/** What the user chose in an earlier run, taken up once. */
+/** The user's choice from an earlier run, restored once. */
 void recallPage(QPageLayout &page)
 {
     const QVariant paper = platform::userDefault(paperKey);
@@ -42,7 +42,7 @@ void recallPage(QPageLayout &page)
     page.setOrientation(platform::userDefault(landscapeKey).toBool() ? QPageLayout::Landscape : QPageLayout::Portrait);
 }
 
-/** For a file that ends too early too, which is an error for whoever waits for it. */
+/** Also for a file that ends too early, which is an error for whoever waits for it. */
 app::VersionAnswer answerTo(const platform::Result<QString> &text, int build)
 {
     try {

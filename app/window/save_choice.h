@@ -10,7 +10,7 @@
 
 namespace window {
 
-/** A save panel for scripts, with a form of theirs under the list of files. Made by Shell::saveChoice(). */
+/** A save panel for scripts that contains a form of theirs under the list of files. Made by Shell::saveChoice(). */
 class SaveChoice : public QObject
 {
     Q_OBJECT
@@ -19,20 +19,20 @@ public:
     using QObject::QObject;
 
     /**
-     * Shows the panel and waits until it closes. What is typed gets the extension unless it ends in one of the same type, as "a.jpg" does
-     * where the extension is "jpeg".
+     * Shows the panel and waits until it closes. The extension is appended to the typed name unless that ends in one of
+     * the same type, as "a.jpg" does for the extension "jpeg".
      *
-     * @param view       lies in the panel and is given back
-     * @param name       that is offered, without extension
-     * @param folder     where the panel begins; the desktop where it is not there
+     * @param view       embedded in the panel and handed back afterwards
+     * @param name       the suggested name, without extension
+     * @param folder     where the panel opens; the desktop if it does not exist
      * @param wantsTags  with a field for tags
-     * @return {path, tags}, or null where it was cancelled; a file that is at the path may be replaced, which was asked
+     * @return {path, tags}, or null if it was cancelled; a file at the path may be replaced, since the panel has asked
      */
     Q_INVOKABLE QVariant choose(window::Form *view, const QString &name, const QString &folder,
                                 const QString &extension, bool wantsTags);
-    /** Another type, while the panel is up: the name that stands in it gets this extension. */
+    /** Changes the type while the panel is open: the name in it gets this extension. */
     Q_INVOKABLE void setExtension(const QString &extension);
-    /** Gives a file tags, where its disk has them. */
+    /** Adds tags to a file, if its file system supports them. */
     Q_INVOKABLE void tag(const QString &path, const QStringList &tags) const;
 
 private:

@@ -13,7 +13,7 @@ using script::ServiceEntry;
 
 const char *const shellModule = "quorlin/shell";
 
-/** A window with sheets is what the outlets of services take for one. */
+/** Outlets of services accept a window with sheets as a window. */
 ServiceEntry sheetHosts()
 {
     ServiceEntry entry = script::givenEntry<SheetHost>(shellModule);

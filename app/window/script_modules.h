@@ -10,7 +10,9 @@ namespace window {
 
 class Shell;
 
-/** The services of the modules "quorlin/shell" and "quorlin/program", and the classes of what they hand out. */
+/**
+ * The services of the modules "quorlin/shell" and "quorlin/program", and the classes of the objects that they return.
+ */
 std::vector<script::ServiceEntry> windowServices();
 
 /** Adds the modules of windowServices(). */

@@ -34,7 +34,7 @@ namespace {
 
 const QVariant nothing = QVariant::fromValue(nullptr);
 
-// The toolkit makes a box as wide as its text, and the frame cuts off a title that is wider.
+// The toolkit makes a box as wide as its text, and a wider title is cut off by the frame.
 void makeRoomForTitle(QMessageBox &box)
 {
     constexpr int besidePx = 120; // the buttons of the frame
@@ -91,7 +91,7 @@ Question questionFrom(const QVariantMap &dictionary)
 Shell::Shell(const QString &interfaceFolder, Theme &theme, QObject *parent)
     : QObject(parent), m_folder(interfaceFolder), m_theme(theme)
 {
-    // Some settings are set while windows close: scripts hear of it when that is done.
+    // Some settings are saved while windows close: scripts are told after that.
     platform::tellOfUnkeptUserDefaults([this] { QTimer::singleShot(0, this, &Shell::settingsNotKept); });
 }
 
@@ -329,7 +329,7 @@ void Shell::closeAll()
 {
     m_fullScreen.attach(nullptr);
     m_mainFrame.reset();
-    // A pane that was put into a window goes with it.
+    // A pane that was put into a window is deleted with it.
     QList<QWidget *> windows;
     std::copy_if(m_windows.cbegin(), m_windows.cend(), std::back_inserter(windows),
                  [](const QWidget *widget) { return widget && widget->parentWidget() == nullptr; });

@@ -34,19 +34,19 @@ class Shell : public QObject
     Q_PROPERTY(QStringList arguments READ arguments CONSTANT)
     Q_PROPERTY(QString opening READ opening CONSTANT)
     Q_PROPERTY(QString interfaceFolder READ interfaceFolder CONSTANT)
-    /** False while a change of the settings could not be written. */
+    /** False once a change of the settings could not be saved. */
     Q_PROPERTY(bool keepsSettings READ keepsSettings)
     /** Whether the main window fills the screen. */
     Q_PROPERTY(bool fullScreen READ isFullScreen)
 
 public:
-    /** @param interfaceFolder  the folder of main.js, from which .ui files are named */
+    /** @param interfaceFolder  the folder of main.js; .ui files are named relative to it */
     Shell(const QString &interfaceFolder, Theme &theme, QObject *parent = nullptr);
     ~Shell() override;
     Q_DISABLE_COPY_MOVE(Shell)
 
     Theme *theme() const { return &m_theme; }
-    /** What the desktop is told of jobs. */
+    /** What the desktop is told about jobs. */
     DesktopSigns *desktop() { return &m_desktop; }
     bool keepsSettings() const;
     QString version() const { return QStringLiteral(QUORLIN_VERSION); }
@@ -73,7 +73,7 @@ public:
     Q_INVOKABLE window::ComparePreview *largePreview(window::Form *form);
     /** Lays a widget over all of its window and gives it the focus. */
     Q_INVOKABLE void cover(QWidget *widget);
-    /** The window of the form, as the services know it that open sheets; see SheetHost. */
+    /** The window of the form as services that open sheets know it; see SheetHost. */
     Q_INVOKABLE window::SheetHost *sheetHost(window::Form *form);
 
     Q_INVOKABLE window::ScriptTimer *timer(const script::Function &handler);
@@ -84,49 +84,50 @@ public:
     /**
      * Asks the user and waits for the answer.
      *
-     * @param question  {title, text, detail, buttons: [text, ...], initial (index), escape (index), check (text)}; another key, or
-     *                  another kind of value, is a TypeError
+     * @param question  {title, text, detail, buttons: [text, ...], initial (index), escape (index), check (text)}; any
+     * other key, or
+     *                  another type of value, is a TypeError
      * @return {button (index), checked}
      */
     Q_INVOKABLE QVariantMap ask(const QVariantMap &question);
     /** The folder that was chosen, or null. */
     Q_INVOKABLE QVariant chooseFolder(const QString &title, const QString &start);
-    /** The same with the parts of a form under the folders. */
+    /** The same with parts of a form below the folders. */
     Q_INVOKABLE QVariant chooseFolderWith(const QString &title, const QString &start, window::Form *form);
-    /** The paths of the files with one of the extensions, or of any files for none, that were chosen. */
+    /** The paths of the chosen files, which have one of the extensions; without extensions, any files. */
     Q_INVOKABLE QStringList chooseFiles(const QString &title, const QString &folder, const QStringList &extensions);
-    /** The path of a file with one of the extensions that was chosen, or null. */
+    /** The path of the chosen file, which has one of the extensions, or null. */
     Q_INVOKABLE QVariant chooseFile(const QString &title, const QString &folder, const QStringList &extensions);
     /** The path of a file to write, or null. */
     Q_INVOKABLE QVariant chooseNewFile(const QString &title, const QString &folder, const QString &name,
                                        const QString &extension);
-    /** Shows a folder in the file manager; false where there is none. */
+    /** Shows a folder in the file manager; false if there is none. */
     Q_INVOKABLE bool openFolder(const QString &folder);
-    /** Opens a file with the program that the desktop has for its kind; false where there is none. */
+    /** Opens a file with the desktop's program for its type; false if there is none. */
     Q_INVOKABLE bool openFile(const QString &path);
-    /** A folder for what is of no use once the program has ended, and gone then; empty where none can be made. */
+    /** A temporary folder that is removed when the program ends; empty if none can be made. */
     Q_INVOKABLE QString temporaryFolder();
     /** Shows a file in its folder; see window::showInFolder(). */
     Q_INVOKABLE void showInFolder(const QString &path);
-    /** Local paths on the clipboard: files that were copied, or lines of text that are paths. */
+    /** Local paths on the clipboard: copied files, or lines of text that are paths. */
     Q_INVOKABLE QStringList clipboardPaths() const;
     /** Puts a text on the clipboard. */
     Q_INVOKABLE void copyText(const QString &text);
     Q_INVOKABLE void quit();
 
-    /** The main window of the program, once a script made one. */
+    /** The main window of the program, once a script has made one. */
     Form *mainForm() const { return m_mainForm; }
-    /** Tells which form is the main window, so that it can fill the screen. */
+    /** Sets which form is the main window, so that it can fill the screen. */
     Q_INVOKABLE void setMainForm(window::Form *form);
-    /** The window fills the screen, without its menu bar, or goes back to where it was. */
+    /** The window fills the screen, without its menu bar, or returns to its former place. */
     Q_INVOKABLE void toggleFullScreen();
     bool isFullScreen() const { return m_fullScreen.property("fullscreenState").toInt() != 0; }
 
-    /** Deletes all windows that were loaded. */
+    /** Deletes all loaded windows. */
     void closeAll();
 
 Q_SIGNALS:
-    /** A change of the settings cannot be written; told once in the life of the program. */
+    /** A change of the settings could not be saved; emitted once in the life of the program. */
     void settingsNotKept();
 
 private:

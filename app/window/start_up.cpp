@@ -36,7 +36,7 @@ StartUp::StartUp(QApplication &application)
     describeOwnControls();
     m_theme = std::make_unique<Theme>(application, folder + QStringLiteral("/themes"));
     m_shell = std::make_unique<Shell>(folder, *m_theme);
-    // The engine's queue of answers comes before the dialogs.
+    // The engine's queue of answers takes precedence over the dialogs.
     platform::setPanelProvider(std::make_unique<DialogPanels>());
     platform::setWindowControls(std::make_unique<WidgetControls>());
     m_scripts = std::make_unique<script::ScriptEngine>();
@@ -56,7 +56,7 @@ void StartUp::useLanguage()
     jobs::WorkerDesk::useTexts(m_translations->files());
 }
 
-// The windows go first: their controls still hold functions of the scripts.
+// The windows are destroyed first: their controls still hold functions of the scripts.
 StartUp::~StartUp()
 {
     m_shell->closeAll();

@@ -22,7 +22,7 @@ namespace window {
 class Shell;
 class Theme;
 
-/** Everything that stands before the application loop: theme, panels, script engine, and the scripts themselves. */
+/** Everything before the application loop: theme, panels, script engine, and the scripts themselves. */
 class StartUp
 {
 public:
@@ -33,12 +33,12 @@ public:
      * Loads main.js of the interface folder, which opens the main window.
      *
      * @param arguments  files and folders that the program was started with
-     * @param opening  "recipe", "watch", or nothing: what the window is to open with
-     * @return false if a script failed to load; the user was told then, in words with file and line
+     * @param opening  "recipe", "watch", or nothing: what the window opens with
+     * @return false if a script failed to load; the user has been told then, with file and line
      */
     bool loadScripts(const QStringList &arguments, const QString &opening = QString());
 
-    /** What loadScripts() failed with; empty if it did not. */
+    /** Why loadScripts() failed; empty if it did not. */
     QString problem() const { return m_problem; }
     Shell &shell() { return *m_shell; }
     script::ScriptEngine &scripts() { return *m_scripts; }
@@ -54,7 +54,7 @@ private:
     std::unique_ptr<script::ScriptEngine> m_scripts;
 };
 
-/** Tells the user, in a window of its own, that a script could not be loaded. Waits until it is closed. */
+/** Tells the user, in a separate window, that a script could not be loaded. Waits until it is closed. */
 void tellFatalProblem(const QString &problem);
 
 } // namespace window

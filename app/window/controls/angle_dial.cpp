@@ -68,7 +68,7 @@ void AngleDial::paintEvent(QPaintEvent *)
     for (int degrees = 0; degrees < 360; degrees += 45)
         painter.drawLine(onCircle(centre, radius - 3, degrees),
                          onCircle(centre, radius - (degrees % 90 == 0 ? 8 : 6), degrees));
-    // How far the picture is turned, as a sector from the top.
+    // How far the picture is turned, drawn as a sector from the top.
     const double inner = radius - 12;
     const QRectF sector(centre.x() - inner, centre.y() - inner, 2 * inner, 2 * inner);
     painter.setPen(Qt::NoPen);
@@ -109,7 +109,7 @@ void AngleDial::follow(const QMouseEvent &event)
 
 void AngleDial::wheelEvent(QWheelEvent *event)
 {
-    // A wheel that only passes by scrolls what is around.
+    // A mouse wheel without the focus on the dial scrolls what is around it.
     if (!hasFocus() || event->angleDelta().y() == 0)
         return event->ignore();
     const double step = event->modifiers() & Qt::ShiftModifier ? 0.1 : 1;

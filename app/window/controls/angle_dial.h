@@ -7,7 +7,7 @@ namespace window {
 /**
  * A dial for an angle in degrees, -180 to 180 in tenths; anticlockwise is positive, 0 points up.
  *
- * One tab stop. The mouse drags the hand, which catches at each 15 degrees (with Shift it does not); the wheel and the
+ * One tab stop. The mouse drags the hand, which snaps to multiples of 15 degrees (not with Shift); the wheel and the
  * arrow keys turn by 1 degree, with Shift by 0.1, Page Up and Page Down by 15; Home sets 0.
  */
 class AngleDial : public QWidget
@@ -19,7 +19,7 @@ public:
     explicit AngleDial(QWidget *parent = nullptr);
 
     double value() const { return m_value; }
-    /** Any angle; it is brought into the range and rounded to tenths. */
+    /** Any angle; it is brought into range and rounded to tenths. */
     void setValue(double degrees);
 
     QSize sizeHint() const override { return {72, 72}; }
@@ -27,7 +27,7 @@ public:
 
 Q_SIGNALS:
     void valueChanged(double degrees);
-    /** As valueChanged, but only where a person turned the dial. */
+    /** As valueChanged, but only if a person turned the dial. */
     void turned(double degrees);
 
 protected:

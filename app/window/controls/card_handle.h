@@ -4,7 +4,7 @@
 
 namespace window {
 
-/** The place by which a card in a column of cards is dragged to another place; the arrow keys move it too. */
+/** The handle by which a card in a column of cards is dragged to another place; the arrow keys move it too. */
 class CardHandle : public QWidget
 {
     Q_OBJECT

@@ -12,7 +12,7 @@ namespace {
 constexpr int paddingPx = 7;
 constexpr int gapPx = 3;
 constexpr int leadingPx = 5;
-// Widths of letters are no whole pixels.
+// Text widths are not whole pixels.
 constexpr int roundingPx = 2;
 } // namespace
 

@@ -6,7 +6,7 @@
 
 namespace window {
 
-/** A line of text in which some parts stand in a coloured frame, such as the tokens of a pattern. Wraps. */
+/** A line of text in which some parts are in a coloured frame, such as the tokens of a pattern. Wraps. */
 class ChipLabel : public QWidget
 {
     Q_OBJECT
@@ -14,7 +14,7 @@ class ChipLabel : public QWidget
 public:
     explicit ChipLabel(QWidget *parent = nullptr);
 
-    /** @param chips  for each text whether it stands in a frame */
+    /** @param chips  for each text whether it is in a frame */
     Q_INVOKABLE void setParts(const QStringList &texts, const QVariantList &chips);
 
     bool hasHeightForWidth() const override { return true; }
@@ -34,7 +34,7 @@ private:
     };
 
     int lineHeight() const;
-    /** The parts, each with its place in that width; a part that is wider is cut off at the end. */
+    /** The parts, each with its position for that width; a part that is wider is cut off at the end. */
     QList<Part> laidOut(int width) const;
 
     QList<Part> m_parts;

@@ -37,8 +37,8 @@ void ColorWell::take(const QColor &color)
 void ColorWell::openChooser()
 {
     const QColor before = m_color;
-    // The chooser is not modal to the colour alone: what is chosen can be seen in the preview at once, and Cancel brings
-    // the old one back.
+    // The chooser does not block the preview: a chosen colour is visible there at once, and Cancel restores the old
+    // one.
     QColorDialog dialog(m_color, window());
     dialog.setObjectName(QStringLiteral("colorChooser"));
     dialog.setWindowTitle(accessibleName());

@@ -23,7 +23,7 @@ public:
 
 Q_SIGNALS:
     void colorChanged(const QString &color);
-    /** As colorChanged, but only where a person chose the colour. */
+    /** As colorChanged, but only if a person chose the colour. */
     void chosen(const QString &color);
 
 protected:

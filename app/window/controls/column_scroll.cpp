@@ -22,7 +22,7 @@ QSize ColumnScroll::minimumSizeHint() const
     return {qMax(leastWidthPx, content + bar + 2 * frameWidth()), leastHeightPx};
 }
 
-// The area itself looks only at the size of its content.
+// The base class considers only the size of its content.
 bool ColumnScroll::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == widget() && event->type() == QEvent::LayoutRequest)

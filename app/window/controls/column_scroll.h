@@ -4,7 +4,7 @@
 
 namespace window {
 
-/** An area that is scrolled up and down only: it is never narrower than what is in it. */
+/** An area that scrolls vertically only: it is never narrower than its content. */
 class ColumnScroll : public QScrollArea
 {
     Q_OBJECT

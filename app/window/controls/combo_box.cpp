@@ -15,13 +15,13 @@ constexpr int besideEntryPx = 34;
 constexpr int mostPx = 560;
 } // namespace
 
-// Entries may come after the box was shown.
+// Entries may be added after the box was shown.
 ComboBox::ComboBox(QWidget *parent) : QComboBox(parent)
 {
     setSizeAdjustPolicy(AdjustToContents);
 }
 
-// The toolkit keeps this size when the entries change.
+// The toolkit does not update this size when the entries change.
 QSize ComboBox::minimumSizeHint() const
 {
     return sizeAdjustPolicy() == AdjustToContents ? sizeHint() : withBearing(QComboBox::minimumSizeHint());
@@ -59,7 +59,7 @@ void ComboBox::paintEvent(QPaintEvent *)
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }
 
-// To those who do not see it the toolkit says what is chosen in a box, and leaves it to a label to say what the box is for.
+// To screen readers the toolkit says what is chosen in a box, and leaves it to a label to say what the box is for.
 void ComboBox::showEvent(QShowEvent *event)
 {
     const QList<QLabel *> labels = parentWidget()

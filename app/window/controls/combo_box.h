@@ -7,8 +7,8 @@ class QLabel;
 namespace window {
 
 /**
- * A combo box whose entries can be read however narrow it is: a chosen entry that has no room ends in an ellipsis and stands in the
- * tooltip, if the box has none of its own, and the list opens as wide as its entries need.
+ * A combo box whose entries stay readable however narrow it is: a chosen entry without enough room ends in an ellipsis
+ * and is shown in the tooltip, if the box has none of its own, and the list opens as wide as its entries need.
  */
 class ComboBox : public QComboBox
 {
@@ -20,7 +20,7 @@ public:
     QSize sizeHint() const override { return withBearing(QComboBox::sizeHint()); }
     QSize minimumSizeHint() const override;
     void showPopup() override;
-    /** The widest text that can be read while the box is closed, in pixels. */
+    /** The widest text that is readable while the box is closed, in pixels. */
     int roomForText() const;
 
 protected:
@@ -33,8 +33,8 @@ private:
     static QSize withBearing(QSize ink) { return {ink.width() + 8, ink.height()}; }
     int widthOf(int entry) const;
 
-    QLabel *m_label = nullptr; ///< says what the box is for where no label beside it does
-    QString m_tip;             ///< the tooltip that the box gave itself
+    QLabel *m_label = nullptr; ///< says what the box is for if no label beside it does
+    QString m_tip;             ///< the tooltip that was set on the box
 };
 
 } // namespace window

@@ -20,7 +20,7 @@ QSize ElidedLabel::minimumSizeHint() const
     return {qMin(whole.width(), leastPx), whole.height()};
 }
 
-// The text may be set in many ways, but all of them end here.
+// There are many ways to set the text, but all of them end here.
 void ElidedLabel::paintEvent(QPaintEvent *)
 {
     QStylePainter painter(this);

@@ -4,7 +4,10 @@
 
 namespace window {
 
-/** One line of text that ends in an ellipsis where there is no room for it; then the whole is the tooltip, if the label has none of its own. */
+/**
+ * One line of text that ends in an ellipsis if it does not fit; then the tooltip shows all of it, unless the label has
+ * one of its own.
+ */
 class ElidedLabel : public QLabel
 {
     Q_OBJECT
@@ -18,7 +21,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    QString m_tip; ///< the tooltip that the label gave itself
+    QString m_tip; ///< the tooltip that was set on the label
 };
 
 } // namespace window

@@ -6,7 +6,7 @@ namespace window {
 
 void NumberBox::showValue(double value)
 {
-    // As the toolkit rounds: through the text that stands for the value.
+    // Rounds as the toolkit does: through the text of the value.
     const double rounded = QString::number(qBound(minimum(), value, maximum()), 'f', decimals()).toDouble();
     if (!hasFocus() || rounded != this->value())
         setValue(value);

@@ -5,11 +5,11 @@
 namespace window {
 
 /**
- * A field for numbers with decimals that leaves alone what a person is typing.
+ * A field for numbers with decimals that does not interfere with typing.
  *
- * Every key that makes a number tells the pane, and the pane writes its settings back into its fields. The value that the
- * field has already is therefore not written again, since "12." would become "12" before the next digit. Both the point and
- * the comma are the decimal point of the reader's language: nobody types a separator of thousands, and 12.5 read as 125
+ * Every key that makes a number tells the pane, and the pane writes its settings back into its fields. So a value that
+ * the field already has is not written again, since "12." would become "12" before the next digit. Both point and comma
+ * are accepted as the decimal point of the reader's language: nobody types a thousands separator, and 12.5 read as 125
  * would be worse than a beep.
  */
 class NumberBox : public QDoubleSpinBox
@@ -18,7 +18,7 @@ class NumberBox : public QDoubleSpinBox
     Q_PROPERTY(double value READ value WRITE showValue USER true)
     Q_PROPERTY(int decimals READ decimals WRITE showDecimals)
     Q_PROPERTY(QString suffix READ suffix WRITE showSuffix)
-    /** Leaves out zeros behind the decimal point, and the point with them. */
+    /** Leaves out zeros at the end of the decimals, and the point with them. */
     Q_PROPERTY(bool isShort READ isShort WRITE setShort)
 
 public:

@@ -23,7 +23,7 @@ public:
     QSize minimumSizeHint() const override { return {neededWidth(), 120}; }
 
 Q_SIGNALS:
-    /** A person chose a page. */
+    /** The user chose a page. */
     void chosen(const QString &name);
 
 private:

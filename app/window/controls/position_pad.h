@@ -5,7 +5,7 @@
 namespace window {
 
 /**
- * Three rows of three places of which one is chosen, or none: where a smaller thing lies in a larger one.
+ * Nine positions in three rows, of which one or none is chosen: where a smaller thing is placed within a larger one.
  *
  * Places are numbered row by row from the top left, 0 to 8; -1 is none of them. One tab stop; the arrow keys move the choice.
  */
@@ -21,7 +21,7 @@ public:
     int selectedSegment() const { return m_selected; }
     /** -1 for none; other numbers outside 0 to 8 are ignored. */
     void setSelectedSegment(int place);
-    /** What the nine places are called, for those who do not see them. */
+    /** The names of the nine positions, for screen readers. */
     QStringList names() const { return m_names; }
     void setNames(const QStringList &names);
 
@@ -30,7 +30,7 @@ public:
 
 Q_SIGNALS:
     void selectionChanged(int place);
-    /** As selectionChanged, but only where a person made the choice. */
+    /** As selectionChanged, but only if a person made the choice. */
     void chosen(int place);
 
 protected:

@@ -22,12 +22,12 @@ public:
     /**
      * The entries, in their order.
      *
-     * @param words  what an entry is also found by, beside its title and its explanation
+     * @param words  further words by which an entry is found, besides its title and explanation
      */
     Q_INVOKABLE void setEntries(const QStringList &titles, const QStringList &explanations, const QStringList &words,
                                 const QVariantList &values);
     Q_INVOKABLE void setPlaceholder(const QString &text);
-    /** Opens under a control, or over it where there is no room; everything is shown again. */
+    /** Opens below a control, or above it if there is no room; everything is shown again. */
     Q_INVOKABLE void popUp(QWidget *control);
 
 Q_SIGNALS:

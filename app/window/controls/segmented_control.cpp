@@ -63,7 +63,7 @@ QSize SegmentedControl::minimumSizeHint() const
     return {textWidth(int(m_segments.size())) + int(m_segments.size()) * paddingPx, heightPx};
 }
 
-// Of the first texts together, as wide as they are when chosen.
+// The width of the first texts together, drawn as chosen.
 int SegmentedControl::textWidth(int texts) const
 {
     QFont bold = font();
@@ -75,7 +75,7 @@ int SegmentedControl::textWidth(int texts) const
     return width;
 }
 
-// Each text with the same room around it; whole pixels, so that the dividing lines stay sharp.
+// The same margin around each text; whole pixels, so that the dividing lines stay sharp.
 QRectF SegmentedControl::segmentRect(int index) const
 {
     const int count = int(m_segments.size());
@@ -132,7 +132,7 @@ int SegmentedControl::segmentAt(const QPointF &place) const
     return -1;
 }
 
-// The arrow keys belong to the choice while it has the focus, also where a window has other uses for them.
+// While it has the focus the arrow keys change the choice, even in a window that uses them otherwise.
 bool SegmentedControl::event(QEvent *event)
 {
     if (event->type() == QEvent::ToolTip && !m_tips.isEmpty()) {

@@ -22,7 +22,7 @@ public:
 
     QStringList segments() const { return m_segments; }
     void setSegments(const QStringList &segments);
-    /** What the tool tip says over each segment; empty: the tool tip of the control, over all of them. */
+    /** The tooltip of each segment; empty: the tooltip of the control, for all of them. */
     QStringList tips() const { return m_tips; }
     void setTips(const QStringList &tips);
     int selectedSegment() const { return m_selected; }
@@ -34,7 +34,7 @@ public:
 
 Q_SIGNALS:
     void selectionChanged(int index);
-    /** As selectionChanged, but only where a person made the choice. */
+    /** As selectionChanged, but only if a person made the choice. */
     void chosen(int index);
 
 protected:

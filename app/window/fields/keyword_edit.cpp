@@ -75,7 +75,7 @@ void KeywordEdit::take(const QString &word)
     setCursorPosition(first + int(word.size()));
 }
 
-// Return takes the word that is marked and starts nothing.
+// Return accepts the highlighted word and has no other effect.
 void KeywordEdit::keyPressEvent(QKeyEvent *event)
 {
     const bool isOffering = m_completer->popup()->isVisible();

@@ -8,7 +8,7 @@ class QStringListModel;
 
 namespace window {
 
-/** A field for words with commas or semicolons between them, which offers known words that go on from what is typed of one. */
+/** A field for words separated by commas or semicolons, which completes known words while one is being typed. */
 class KeywordEdit : public QLineEdit
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    /** From where to where in the text the word reaches that the cursor is in, blanks around it left out. */
+    /** The range of the word that the cursor is in, without surrounding spaces. */
     std::pair<int, int> wordAtCursor() const;
     void offer();
     void take(const QString &word);

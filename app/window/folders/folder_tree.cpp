@@ -29,7 +29,7 @@ constexpr int iconPx = 18;
 constexpr int indentPx = 16;
 constexpr int gapPx = 5;
 constexpr int marginPx = 10;
-/** With more folders than these only the first levels are open at first. */
+/** With more folders than these only the top levels are open initially. */
 constexpr int mostOpened = 300;
 
 QFont smaller(QFont font)
@@ -39,7 +39,7 @@ QFont smaller(QFont font)
     return font;
 }
 
-/** Draws from right to left what stands at the end of a row; tells where the rest ends. */
+/** Draws the trailing parts of a row from right to left; answers where the rest ends. */
 int paintEnd(QPainter &painter, const QStyleOptionViewItem &option, const QModelIndex &index)
 {
     const QString total = QLocale().toString(index.data(totalRole).toInt());
@@ -184,7 +184,7 @@ void FolderTree::addFolders(const QVariantList &folders)
     }
 }
 
-// Puts every waiting folder under the one above it; answers those at the top.
+// Puts every waiting folder under its parent; answers those at the top.
 QList<QTreeWidgetItem *> FolderTree::joinWaiting()
 {
     std::sort(m_waiting.begin(), m_waiting.end(),
@@ -260,7 +260,7 @@ void FolderTree::drawRow(QPainter *painter, const QStyleOptionViewItem &option, 
         painter->fillRect(option.rect, Theme::color(QStringLiteral("row")));
     else if (option.state & QStyle::State_MouseOver)
         painter->fillRect(option.rect, Theme::color(QStringLiteral("hover")));
-    // The style would paint the place before the branch in its own colour.
+    // The style would paint the area before the branch in its own colour.
     QStyleOptionViewItem quiet = option;
     quiet.palette.setBrush(QPalette::Highlight, Qt::transparent);
     QTreeWidget::drawRow(painter, quiet, index);

@@ -11,15 +11,15 @@
 namespace window {
 
 /**
- * Folders with counts of files, as they will be after a run: new ones are marked, and those that are there say so.
+ * Folders with counts of files, as they will be after a run: new ones are marked, and existing ones say so.
  *
- * Arrow keys walk, open and close; Escape chooses nothing. What was opened, closed and chosen stays so when the folders are set
- * again, as far as they are among them.
+ * Arrow keys walk, open and close; Escape clears the choice. What was opened, closed and chosen is kept when the
+ * folders are set again, as far as those still exist.
  */
 class FolderTree : public QTreeWidget
 {
     Q_OBJECT
-    /** The path of the chosen folder; empty where none is. */
+    /** The path of the chosen folder; empty if none is. */
     Q_PROPERTY(QString chosenFolder READ chosen WRITE setChosen NOTIFY folderChosen)
 
 public:
@@ -30,10 +30,10 @@ public:
 
     /**
      * @param folders  [{path, above (path of the folder above, "" for a root), name, total (files in it and below), isNew}],
-     *                 each behind the one above it; they are shown in natural order of their names
+     *                 parents before their children; they are shown in natural order of their names
      */
     Q_INVOKABLE void setFolders(const QVariantList &folders);
-    /** The same in parts, for thousands of folders: what was shown stays until showFolders(). */
+    /** The same in parts, for thousands of folders: the old tree is shown until showFolders(). */
     Q_INVOKABLE void beginFolders();
     Q_INVOKABLE void addFolders(const QVariantList &folders);
     Q_INVOKABLE void showFolders();

@@ -5,7 +5,7 @@
 
 namespace window {
 
-/** The actions in groups. Arrow keys move over the actions and pass the headings. */
+/** The actions in groups. Arrow keys move between the actions and skip the headings. */
 class SideBar : public QListWidget
 {
     Q_OBJECT
@@ -15,11 +15,11 @@ public:
     explicit SideBar(QWidget *parent = nullptr);
 
     Q_INVOKABLE void addGroup(const QString &title);
-    /** @param name  what actionChosen() says; @param iconName  a file of the icon folder */
+    /** @param name  as passed to actionChosen(); @param iconName  a file of the icon folder */
     Q_INVOKABLE void addEntry(const QString &name, const QString &title, const QString &iconName);
-    /** Another name of an entry that shows one of several things; its name is that of the one that was chosen last. */
+    /** Another name of an entry that shows one of several actions; its current name is that of the last one chosen. */
     Q_INVOKABLE void addFace(const QString &name, const QString &entryName);
-    /** An entry that is off is drawn faint and cannot be chosen. */
+    /** A disabled entry is drawn faint and cannot be chosen. */
     Q_INVOKABLE void setEntryEnabled(const QString &name, bool enabled);
 
     QString currentAction() const;

@@ -9,7 +9,7 @@ namespace window {
 
 namespace {
 
-/** The dial says and takes its angle as a number. */
+/** Exposes the angle of the dial as a number that can be read and set. */
 class AccessibleDial : public QAccessibleWidget, public QAccessibleValueInterface
 {
 public:
@@ -36,7 +36,7 @@ private:
     AngleDial *m_dial;
 };
 
-/** What is chosen in a group of choices stands in its description. */
+/** The current choice of a group of choices is its description. */
 const QHash<QString, QAccessible::Role> &roles()
 {
     static const QHash<QString, QAccessible::Role> all = {

@@ -2,7 +2,7 @@
 
 namespace window {
 
-/** Tells those who do not see them what our own controls are. Called once before the first window, and again without harm. */
+/** Describes our own controls to screen readers. Called once before the first window; calling it again is harmless. */
 void describeOwnControls();
 
 } // namespace window

@@ -50,7 +50,7 @@ template<typename T> ServiceEntry control(const char *name)
     return entry;
 }
 
-/** A class of the toolkit: what it has itself, and what is listed of it. */
+/** A toolkit class: its own declarations, and the listed members. */
 template<typename T> ServiceEntry listed(const char *name, const ServiceEntry *base, const Listed &members)
 {
     ServiceEntry entry = control<T>(name);

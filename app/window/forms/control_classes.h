@@ -7,8 +7,8 @@
 namespace window {
 
 /**
- * The classes of controls as scripts have them in "quorlin/shell": of those of the toolkit a few members, of our own what they declare
- * and what every widget has. A control of another class is what the nearest of them above it is.
+ * The control classes that scripts have in "quorlin/shell": a few members of the toolkit's, and of our own what they
+ * declare and what every widget has. A control of any other class appears as its nearest listed base class.
  */
 std::vector<script::ServiceEntry> controlClasses();
 

@@ -19,13 +19,13 @@ void SheetHost::setSheet(QObject *sheet)
     auto *dialog = qobject_cast<QDialog *>(sheet);
     if (!sheet)
         m_sheet = nullptr;
-    // A window is no sheet of itself, nor of what lies in it.
+    // A window cannot be a sheet of itself or of its children.
     if (!dialog || dialog == &m_window || dialog->isAncestorOf(&m_window))
         return;
     if (dialog->parentWidget() != &m_window)
         dialog->setParent(&m_window, dialog->windowFlags());
     m_sheet = dialog;
-    // A dialog asks for the height of its texts as if they were as wide as they like.
+    // A dialog computes the height of its texts as if they were never wrapped.
     const QLayout *layout = dialog->layout();
     const QSize least = dialog->sizeHint().expandedTo(dialog->size());
     if (layout && layout->hasHeightForWidth())

@@ -6,19 +6,22 @@
 
 namespace window {
 
-/** A window as the services know it that open sheets: a dialog that is set as its sheet opens on it. */
+/** A window to which services attach sheets: a dialog that is set as its sheet opens on it. */
 class SheetHost : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(QObject *sheet READ sheet WRITE setSheet)
 
 public:
-    /** @param window  lives longer, and owns the sheets from when they first open */
+    /** @param window  lives longer, and owns the sheets once they have opened */
     explicit SheetHost(QWidget &window);
 
     /** The sheet that is open, or null. */
     QObject *sheet() const;
-    /** Opens a dialog; it blocks this window and nothing waits for it. Null forgets it, other objects are passed over. */
+    /**
+     * Opens a dialog that blocks this window; the call does not wait for it. Null forgets it; other objects are
+     * ignored.
+     */
     void setSheet(QObject *sheet);
 
 private:

@@ -32,7 +32,7 @@ namespace window {
 
 namespace {
 
-/** Knows the controls of this program beside those of the toolkit. */
+/** Creates the controls of this program besides those of the toolkit. */
 class Loader : public QUiLoader
 {
 public:
@@ -52,7 +52,7 @@ void collectPlaced(const QLayout *layout, QWidgetList &children)
 {
     for (int i = 0; layout && i < layout->count(); ++i) {
         QLayoutItem *item = layout->itemAt(i);
-        // A menu that opens as a window of its own is no place to walk to.
+        // A menu that opens as a window of its own is no tab stop.
         if (item->widget() && !item->widget()->isWindow())
             children.append(item->widget());
         else if (item->layout())
@@ -60,7 +60,7 @@ void collectPlaced(const QLayout *layout, QWidgetList &children)
     }
 }
 
-// The children of a widget as they lie: those of its layout by their places, then those that no layout places.
+// The children of a widget in visual order: those of its layout by position, then those without a layout.
 QWidgetList childrenAsTheyLie(const QWidget *widget)
 {
     QWidgetList children;
@@ -79,11 +79,11 @@ void collectTabStops(QWidget *widget, QWidgetList &stops)
     const bool isStop = widget->focusPolicy() & Qt::TabFocus;
     if (isStop)
         stops.append(widget);
-    // The headings of a table come behind its rows.
+    // The header of a table comes after its rows.
     auto *table = qobject_cast<QTableView *>(widget);
     if (isStop && table && table->horizontalHeader()->focusPolicy() & Qt::TabFocus)
         stops.append(table->horizontalHeader());
-    // What is inside a control such as a spin box is its own affair.
+    // The inside of a control such as a spin box is not our business.
     if (isStop)
         return;
     const QWidgetList children = childrenAsTheyLie(widget);
@@ -100,7 +100,7 @@ QMenu *menuOf(QObject *object)
     return button ? button->menu() : qobject_cast<QMenu *>(object);
 }
 
-// What a form says of keys beside the first one of an entry.
+// The shortcuts that a form gives an entry besides its first.
 void takeFurtherKeys(const QWidget &root)
 {
     const QList<QAction *> actions = root.findChildren<QAction *>();
@@ -109,7 +109,7 @@ void takeFurtherKeys(const QWidget &root)
             action->setShortcuts(action->shortcuts() + QKeySequence::listFromString(more));
 }
 
-// Labels whose form says for how many lines they have room, so that nothing moves when their text takes more than one.
+// Labels whose form reserves room for several lines, so that nothing moves when their text needs more than one.
 void keepLines(const QWidget &root)
 {
     const QList<QLabel *> labels = root.findChildren<QLabel *>();
@@ -125,7 +125,7 @@ Form::Form(QWidget *root, const QString &file, QObject *parent) : QObject(parent
     root->installEventFilter(this);
     takeFurtherKeys(*root);
     keepLines(*root);
-    // In a dialog Return presses the button that has the focus, whatever else is the button for Return elsewhere in it.
+    // In a dialog Return presses the focused button, whatever its default button is.
     const QList<QPushButton *> buttons =
         qobject_cast<QDialog *>(root) ? root->findChildren<QPushButton *>() : QList<QPushButton *>();
     for (QPushButton *button : buttons)
@@ -179,7 +179,7 @@ void Form::place(const QString &name, Form *other)
     const bool isSound = container && container->layout() && other && other->root();
     if (!isSound)
         return;
-    // A window cannot go into itself, nor into what lies in it.
+    // A window cannot be put into itself or one of its children.
     const bool isInside = other->root() == container || other->root()->isAncestorOf(container);
     if (isInside)
         throw platform::Raised::typeError(
@@ -267,7 +267,7 @@ void Form::setLook(const QString &name, const QString &property, const QString &
     if (!widget)
         return;
     const QByteArray key = property.toUtf8();
-    // A look is a word beside the properties of the control; those are set as its fields.
+    // A look is a word stored beside the properties of the control, which are set as fields.
     if (key.isEmpty() || key.startsWith('_') || widget->metaObject()->indexOfProperty(key) >= 0)
         throw platform::Raised::typeError(
             QStringLiteral("Expected the name of a look for property but received \"%1\"").arg(property));
@@ -292,7 +292,7 @@ void Form::setMenu(const QString &name, const QStringList &texts, const QVariant
             continue;
         }
         const QVariant value = values.value(i);
-        // An ampersand in a folder's name is no mnemonic.
+        // An ampersand in a folder's name does not mark a mnemonic.
         QAction *action = menu->addAction(QString(texts.at(i)).replace(QLatin1Char('&'), QLatin1String("&&")));
         action->setEnabled(!value.isNull());
         connect(action, &QAction::triggered, this, [chosen, value] { chosen.call({value}); });
@@ -334,7 +334,7 @@ void Form::close()
         m_root->close();
 }
 
-// A window at its first start may be larger than a small screen. That of the offscreen platform is seen by nobody.
+// At its first start a window may be larger than a small screen. The offscreen platform has no viewer to care.
 static void fitToScreen(QWidget &window)
 {
     if (QGuiApplication::platformName() != QLatin1String("offscreen"))

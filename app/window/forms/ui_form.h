@@ -11,12 +11,12 @@
 
 namespace window {
 
-/** A window or pane that was loaded from a .ui file, as scripts handle it. */
+/** A window or pane loaded from a .ui file, as scripts use it. */
 class Form : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(bool shown READ isShown WRITE setShown)
-    /** What the desktop writes over a window and into its list of windows. */
+    /** The window title and the name in the desktop's list of windows. */
     Q_PROPERTY(QString title READ title WRITE setTitle)
 
 public:
@@ -31,45 +31,50 @@ public:
     QString title() const;
     void setTitle(const QString &title);
 
-    /** The control, action or menu of that name; throws a ReferenceError where there is none. */
+    /** The control, action or menu of that name; throws a ReferenceError if there is none. */
     Q_INVOKABLE QObject *control(const QString &name);
     Q_INVOKABLE QStringList names() const;
 
     /** Puts another form into the layout of the container @p name. */
     Q_INVOKABLE void place(const QString &name, window::Form *other);
-    /** Lets the Tab key walk over the controls as they lie: row by row, container by container. */
+    /** Makes the Tab key follow the layout: row by row, container by container. */
     Q_INVOKABLE void arrangeTabs();
-    /** The entries of a combo box: texts to read and the values that stand behind them; "-" is a separator. */
+    /** The entries of a combo box: texts and the values behind them; "-" is a separator. */
     Q_INVOKABLE void setItems(const QString &name, const QStringList &texts, const QVariantList &values);
     Q_INVOKABLE QVariant value(const QString &name);
-    /** Chooses the entry with that value; false where there is none. */
+    /** Chooses the entry with that value; false if there is none. */
     Q_INVOKABLE bool chooseValue(const QString &name, const QVariant &value);
     Q_INVOKABLE void setIcon(const QString &name, const QString &icon);
-    /** Sets a property that the style sheet looks at and draws the control again. */
+    /** Sets a property that the style sheet uses and redraws the control. */
     Q_INVOKABLE void setLook(const QString &name, const QString &property, const QString &value);
     /** The entries of a menu, or of the menu of a button: each calls @p chosen with its value. "-" is a separator, and an
      * entry whose value is null cannot be chosen. */
     Q_INVOKABLE void setMenu(const QString &name, const QStringList &texts, const QVariantList &values,
                              const script::Function &chosen);
-    /** Sizes of the parts of a splitter, in pixels; what the user set and was remembered wins. */
+    /**
+     * Sizes of the parts of a splitter, in pixels; a size that the user set and that was remembered takes precedence.
+     */
     Q_INVOKABLE void setSplit(const QString &name, const QVariantList &sizes);
-    /** Makes several tool actions or menu entries exclude one another. */
+    /** Makes several tool actions or menu entries mutually exclusive. */
     Q_INVOKABLE void group(const QStringList &names);
 
     Q_INVOKABLE void show();
-    /** Brings the window before the others. */
+    /** Brings the window to the front. */
     Q_INVOKABLE void raise();
     Q_INVOKABLE void close();
-    /** Keeps size, place and splitters of this window under @p key, and takes up what was kept; at first it fits the screen. */
+    /**
+     * Remembers size, position and splitters of this window under @p key, and restores them; at first it fits the
+     * screen.
+     */
     Q_INVOKABLE void remember(const QString &key);
-    /** Called when the user closes the window; where it returns false the window stays. */
+    /** Called when the user closes the window; if it returns false, the window stays open. */
     Q_INVOKABLE void onClose(const script::Function &handler) { m_onClose = handler; }
 
     /** Gives all labels with the role "field" of the forms the width of the widest, so that the fields line up. */
     static void alignFields(const QList<Form *> &forms);
 
 Q_SIGNALS:
-    /** The user closes the window, and nothing has kept it open. */
+    /** The user closed the window, and nothing kept it open. */
     void closing();
 
 protected:

@@ -8,9 +8,9 @@ namespace window {
 class WidgetControls : public platform::WindowControls
 {
 public:
-    /** Of a QTabWidget or QTabBar, without the mark of its key; null where no tab is chosen. */
+    /** Of a QTabWidget or QTabBar, without its mnemonic mark; null if no tab is chosen. */
     std::optional<QString> selectedLabel(const QObject &control) const override;
-    /** Of a QCheckBox: 1, 0, or -1 where it is partly checked. */
+    /** Of a QCheckBox: 1, 0, or -1 if it is partly checked. */
     std::optional<int> state(const QObject &control) const override;
     /** Of a QComboBox. */
     std::optional<QStringList> titles(const QObject &control) const override;

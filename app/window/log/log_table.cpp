@@ -20,7 +20,7 @@ namespace {
 
 constexpr int rowHeightPx = 30;
 constexpr int paddingPx = 20;
-/** Shares, in per cent, of the width that the date leaves; the last column takes the rest. */
+/** Shares in percent of the width that the date leaves; the last column takes the rest. */
 constexpr int shares[] = {0, 20, 18, 30, 16, 0};
 /** The same while comments are shown, which need the most room. */
 constexpr int sharesOfComments[] = {0, 15, 15, 10, 0, 15, 22};
@@ -120,7 +120,7 @@ void LogTable::showRun(int number)
     filter();
 }
 
-// The chosen entry stays chosen where it is still shown.
+// The chosen entry stays chosen if it is still shown.
 void LogTable::filter()
 {
     const bool hasCurrent = currentIndex().isValid();

@@ -21,12 +21,12 @@ class LogTable : public QTableView
     Q_PROPERTY(int chosenCount READ chosenCount)
     /** Of the chosen entries, those that are edits which can be reverted. */
     Q_PROPERTY(int chosenEditCount READ chosenEditCount)
-    /** Whether the columns of old and new comments are shown, in place of those of results. */
+    /** Whether the columns of old and new comments are shown instead of those of results. */
     Q_PROPERTY(bool comments READ showsComments WRITE setShowsComments)
     /** How many entries are shown, in the reader's own form: "12,400". */
     Q_PROPERTY(QString shownText READ shownText)
     Q_PROPERTY(bool reading READ isReading)
-    /** Widths and order of the columns and what is sorted by, as a text to be kept; "" for the first arrangement. */
+    /** Widths, order and sorting of the columns as a text for the settings; "" for the default. */
     Q_PROPERTY(QString columns READ columns WRITE setColumns)
 
 public:
@@ -46,7 +46,7 @@ public:
 
     /** @param shown  how each status word is shown */
     Q_INVOKABLE void setTexts(const QStringList &headings, const QVariantMap &shown);
-    /** Reads the log file, or what was added to it; from the event loop, the newest entries first. */
+    /** Reads the log file, or what was added to it, from the event loop, newest entries first. */
     Q_INVOKABLE void follow(const QString &path);
     /**
      * Shows the entries in which every word of @p text occurs, in any case of letters, with @p status if it is not empty,
@@ -63,12 +63,12 @@ public:
     Q_INVOKABLE QVariantList chosenEdits() const { return editMaps(placesOfChosenEdits()); }
     /** All edits of a run, by its number, the newest first, whether they are shown or not. */
     QVariantList editsOfRun(int number) const;
-    /** Puts the chosen rows on the clipboard, their cells between tabs; returns how many. */
+    /** Copies the chosen rows to the clipboard, cells separated by tabs; returns how many. */
     Q_INVOKABLE int copyChosen() const;
     Q_INVOKABLE void selectRow(int row) { setCurrentIndex(m_model.index(row, 0)); }
 
 Q_SIGNALS:
-    /** Something else is shown or chosen. */
+    /** The shown or chosen entries changed. */
     void changed();
     void openRequested();
 
@@ -88,7 +88,7 @@ private:
 
     LogModel m_model;
     LogFilter m_filter;
-    bool m_columnsChosen = false; ///< by hand; then their widths are left alone
+    bool m_columnsChosen = false; ///< by hand; then their widths are not adjusted
     bool m_arranging = false;
     bool m_showsComments = false;
 };

@@ -21,7 +21,7 @@ namespace {
 constexpr int rowHeightPx = 50;
 constexpr int smallFontPx = 12;
 
-/** A line of what was done, and below it, fainter, when and how often. */
+/** A line with the action, and below it, fainter, its date and counts. */
 class RunDelegate : public QStyledItemDelegate
 {
 public:
@@ -49,7 +49,7 @@ public:
     }
 
 private:
-    // A text on the right, then one on the left in the room that is left.
+    // Draws a text on the right, then one on the left in the remaining space.
     static void paintLine(QPainter &painter, const QRect &place, Qt::Alignment line, const QString &left,
                           const QFont &leftFont, const QString &right, const QFont &rightFont, const char *rightColor)
     {
@@ -99,7 +99,7 @@ void RunRows::forget()
     endResetModel();
 }
 
-// The runs are as many as the log has at this moment, or as it had when its rows were told.
+// The log's current number of runs, or the number when its rows were last announced.
 void RunRows::update()
 {
     const int rows = m_log->entries().runCount() + 1;
@@ -209,7 +209,7 @@ void RunList::follow(LogTable *table, const QVariantMap &texts)
     if (m_table)
         m_table->logModel().disconnect(this);
     m_table = table;
-    // Before the rows hear of it, which ask for the table.
+    // Connected before the rows' own handler, which asks for the table.
     connect(&table->logModel(), &QObject::destroyed, this, [this] { m_table = nullptr; });
     m_rows.setTexts(texts);
     m_rows.follow(&table->logModel());
@@ -263,7 +263,7 @@ void RunList::chooseAll()
     setCurrentIndex(m_rows.index(0));
 }
 
-// More of the log was read, or it is another one.
+// More of the log was read, or it was replaced.
 void RunList::keepChoice()
 {
     if (m_table && m_number >= m_table->logModel().entries().runCount()) {

@@ -24,13 +24,13 @@ public:
 
     void follow(LogModel *log);
     /**
-     * {all, undo, redo, of}. In undo and redo %1 stands for the run that was taken back or done again; in of %1 is that, and
-     * %2 the date of the run that it took back.
+     * {all, undo, redo, of}. In undo and redo %1 stands for the undone or redone run; in of %1 is that text, and %2 the
+     * date of the run that was undone.
      */
     void setTexts(const QVariantMap &texts) { m_texts = texts; }
-    /** What was done: "Rename", or "Undo of Rename" for a run that took one back. */
+    /** The title: "Rename", or "Undo of Rename" for a run that undid one. */
     QString title(int number) const;
-    /** The same, with the date of the run that was taken back. */
+    /** The same, with the date of the run that was undone. */
     QString longTitle(int number) const;
     int rowOf(int run) const;
 
@@ -42,7 +42,7 @@ private:
     void forget();
     QVariant cell(int number, int role) const;
 
-    LogModel *m_log = nullptr; ///< null again when its table is gone
+    LogModel *m_log = nullptr; ///< null again once its table is destroyed
     QVariantMap m_texts;
     int m_rows = 0;
 };
@@ -51,7 +51,7 @@ private:
 class RunList : public QListView
 {
     Q_OBJECT
-    /** The run that is chosen, as its entries name it; empty for all, and for a run that they do not name. */
+    /** The chosen run, named as in its entries; empty for all, and for a run without a name. */
     Q_PROPERTY(QString run READ run)
 
 public:
@@ -61,13 +61,13 @@ public:
     Q_INVOKABLE void follow(window::LogTable *table, const QVariantMap &texts);
     QString run() const;
     /**
-     * The chosen run: {count (of its entries), problems, process, title (with what it took back), areEdits (of comments), edits (how
-     * many can be reverted), undone (how many entries were taken back since)}; null where all are shown.
+     * The chosen run: {count (of its entries), problems, process, title (with what it undid), areEdits (of comments),
+     * edits (how many can be reverted), undone (how many entries were undone since)}; null if all are shown.
      */
     Q_INVOKABLE QVariant chosen() const;
     /** The edits of the chosen run; see LogTable::editsOfRun(). */
     Q_INVOKABLE QVariantList edits() const;
-    /** Chooses the run with that name; false where the log has none. */
+    /** Chooses the run with that name; false if the log has none. */
     Q_INVOKABLE bool choose(const QString &run);
     Q_INVOKABLE void chooseAll();
 

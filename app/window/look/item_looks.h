@@ -4,7 +4,7 @@
 
 namespace window {
 
-/** Cells of a table that are read, not worked in: a hairline below each row, and no frame round the current cell alone. */
+/** Cells of a table for reading only: a hairline below each row, and no frame around the current cell. */
 class QuietCellDelegate : public QStyledItemDelegate
 {
     Q_OBJECT

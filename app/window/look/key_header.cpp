@@ -16,7 +16,7 @@ KeyHeader::KeyHeader(QWidget *parent) : QHeaderView(Qt::Horizontal, parent)
     setAccessibleDescription(tr("Left and Right choose a column, Space sorts by it"));
 }
 
-// The arrow keys belong to the headings while they have the focus, also where a window has other uses for them.
+// While they have the focus the arrow keys belong to the headings, even in a window that uses them otherwise.
 bool KeyHeader::event(QEvent *event)
 {
     if (event->type() == QEvent::ShortcutOverride) {
@@ -45,7 +45,7 @@ void KeyHeader::keyPressEvent(QKeyEvent *event)
     }
 }
 
-// Past columns that are hidden; stays at the ends.
+// Skips hidden columns; stops at the ends.
 void KeyHeader::step(int by)
 {
     for (int place = m_place + by; place >= 0 && place < count(); place += by)
@@ -56,7 +56,7 @@ void KeyHeader::step(int by)
     showPlace();
 }
 
-// One after the other: the first first, the last first, and unsorted where the table can be that.
+// Cycles through first first, last first, and unsorted if the table supports that.
 void KeyHeader::sort()
 {
     const int column = logicalIndex(m_place);

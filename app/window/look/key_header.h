@@ -5,8 +5,8 @@
 namespace window {
 
 /**
- * The headings of a table, which sort it by keyboard too: the Tab key leads to them, left and right arrow keys walk over them, and
- * Space or Return sorts by the one with the frame, the other way round when pressed again.
+ * Table headings that can be sorted by keyboard: Tab reaches them, the left and right arrow keys move between them, and
+ * Space or Return sorts by the one with the frame, reversed when pressed again.
  */
 class KeyHeader : public QHeaderView
 {

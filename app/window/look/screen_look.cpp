@@ -35,7 +35,7 @@ QDBusMessage propertyCall(const QString &path, const QString &interface, const Q
     return call;
 }
 
-/** Calls @p take(value) with what a call over the bus of the system answers; nothing where it fails. */
+/** Calls @p take(value) with the answer of a call over the system bus; without a value if it fails. */
 template<typename Value, typename Take> void ask(const QDBusMessage &call, QObject *owner, const Take &take)
 {
     auto *answer = new QDBusPendingCallWatcher(QDBusConnection::systemBus().asyncCall(call, answerMs), owner);
@@ -84,7 +84,7 @@ const ScreenLook::Screen &ScreenLook::lookOf(const QScreen *screen)
     return m_screens[name];
 }
 
-// A profile that was measured meanwhile is found when the user comes back to the window.
+// A newly measured profile is picked up when the user returns to the window.
 void ScreenLook::lookAgain()
 {
     const QList<QScreen *> screens = QGuiApplication::screens();

@@ -13,8 +13,8 @@ class QScreen;
 namespace window {
 
 /**
- * Pictures in the colours of the screen that shows them: by the profile that the window system holds for it, else the one of the
- * desktop's colour manager, else as they are. Results are never made of these.
+ * Shows pictures in the colours of their screen: by the profile of the window system, else that of the desktop's colour
+ * manager, else unconverted. Results never pass through here.
  */
 class ScreenLook : public QObject
 {
@@ -27,11 +27,11 @@ public:
     /** @p image, which is sRGB, for @p screen. */
     QImage shown(const QImage &image, const QScreen *screen);
 
-    /** Asks the window system again: a screen may have been measured meanwhile. */
+    /** Asks the window system again: a screen may have been calibrated meanwhile. */
     void lookAgain();
 
 Q_SIGNALS:
-    /** A screen has other colours than before. */
+    /** The colours of a screen changed. */
     void changed();
 
 private:

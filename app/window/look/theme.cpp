@@ -81,10 +81,10 @@ QPalette paletteOf()
 }
 
 /**
- * Fusion without icons on buttons of dialogs, and with the keys of menus underlined only while Alt is held.
+ * Fusion without icons on dialog buttons, and with menu mnemonics underlined only while Alt is held.
  *
- * No text is taken for a page because of a name in it, such as "a<h1>b.jpg": labels, those of questions and tool tips among
- * them, show what they say, unless they were made for pages.
+ * No text is taken for rich text because of a name in it, such as "a<h1>b.jpg": labels, including those of questions
+ * and tooltips, show plain text, unless they were made for pages.
  */
 class CalmStyle : public QProxyStyle
 {
@@ -120,7 +120,7 @@ QString withScaledFonts(QString sheet)
     return sheet;
 }
 
-/** The desktop's preference over the settings portal: 1 dark, 2 light, nothing where it cannot be asked. */
+/** The desktop's preference over the settings portal: 1 dark, 2 light, nothing if it cannot be asked. */
 int portalColorScheme()
 {
     QDBusConnection bus = QDBusConnection::sessionBus();
@@ -146,7 +146,7 @@ Theme::Theme(QApplication &application, const QString &folder, QObject *parent)
     : QObject(parent), m_application(application), m_folder(folder),
       m_systemPaletteIsDark(application.palette().color(QPalette::Window).lightness() < 128)
 {
-    // A path in a style sheet would have to do without quotation marks, ampersands and more; a prefix stands for it.
+    // A path in a style sheet could not contain quotation marks, ampersands and more; a prefix stands for it.
     QDir::setSearchPaths(QStringLiteral("theme"), {folder});
     application.setStyle(new CalmStyle);
     useReadableFont();
@@ -163,7 +163,7 @@ QColor Theme::color(const QString &name)
                             : colors.value(name, QColor(Qt::magenta));
 }
 
-// Sizes are meant for letters of about 13 pixels; what a desktop has is near enough to that or meant to be larger.
+// Sizes are designed for a font of about 13 pixels; what a desktop has is close to that or intentionally larger.
 int Theme::scaled(int fontPx)
 {
     constexpr double usualPx = 13;
@@ -205,7 +205,7 @@ void Theme::portalSettingChanged(const QString &group, const QString &key)
         apply(wanted());
 }
 
-// A desktop without a font of its own falls back to DejaVu Sans, which is wide and coarse in small sizes.
+// A desktop without a configured font falls back to DejaVu Sans, which is wide and coarse in small sizes.
 void Theme::useReadableFont()
 {
     const QString better = QStringLiteral("Inter");
@@ -244,7 +244,7 @@ void Theme::apply(Appearance appearance)
 {
     const QString name = appearance == Appearance::Dark ? QStringLiteral("dark") : QStringLiteral("light");
     current() = {appearance, colorsOf(m_folder + QLatin1Char('/') + name + QStringLiteral(".json"))};
-    if (current().colors.isEmpty()) { // without its files the program still has to say so, and legibly
+    if (current().colors.isEmpty()) { // without its files the program must still be able to say so, legibly
         m_application.setPalette(m_application.style()->standardPalette());
         m_application.setStyleSheet({});
         Q_EMIT changed();

@@ -5,9 +5,9 @@
 namespace window {
 
 /**
- * The words of the toolkit's dialogs that its own translations lack in one of our languages, or say otherwise than our windows
- * do. The toolkit asks the installed translators for them under these names, ours first. Nothing looks into this list: it
- * stands here so that the texts are collected, translated and checked like our own.
+ * Texts of the toolkit's dialogs that its own translations lack in one of our languages, or word differently from our
+ * windows. The toolkit asks the installed translators for them under these names, ours first. Nothing reads this list:
+ * it exists so that the texts are collected, translated and checked like our own.
  */
 // clang-format off
 inline constexpr const char *toolkitGaps[] = {

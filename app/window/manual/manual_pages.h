@@ -7,8 +7,8 @@ namespace window {
 
 /**
  * The pages of a manual: Markdown files of one folder in English, and in sub-folders named by a language ("de") the same pages in that
- * language. What a language lacks is English. A page is named as its file is without ".md"; its headings have the same order in each
- * language, so a number tells which one is meant.
+ * language. Missing pages are shown in English. A page is named like its file without ".md"; its headings are in the
+ * same order in each language, so that a number identifies one.
  */
 class ManualPages
 {
@@ -16,19 +16,19 @@ public:
     /** @param language  a code such as "de"; of one without a folder all pages are English */
     explicit ManualPages(const QString &folder = {}, const QString &language = {});
 
-    /** "index", then the others in the order in which it links to them, then those that it does not name. */
+    /** "index", then the others in the order of its links, then those without a link. */
     QStringList names() const;
-    /** The Markdown of a page; empty where there is none. */
+    /** The Markdown of a page; empty if there is none. */
     QString text(const QString &page) const;
-    /** What is read on a page. */
+    /** The text of a page as read. */
     QString plainText(const QString &page) const;
     /** The first heading of a page, or its name. */
     QString title(const QString &page) const;
-    /** The number of the heading that a link of a page leads to, by its own words or else by the English ones; -1 for none. */
+    /** The number of the heading that a link leads to, by its own text or else by the English one; -1 for none. */
     int headingOfLink(const QString &page, const QString &anchor) const;
     /** The number of the heading with this anchor in the English page; -1 for none. */
     int headingInEnglish(const QString &page, const QString &anchor) const;
-    /** Where a picture is that a page shows: that of its language, or else the English one, a folder above. */
+    /** Where a picture of a page is: that of its language, or else the English one, a folder above. */
     QString picture(const QString &page, const QString &name) const;
 
 private:
@@ -38,7 +38,7 @@ private:
     QString m_own;
 };
 
-/** The anchor that a heading is linked to by: small letters and digits, hyphens for blanks, nothing else. */
+/** The anchor of a heading: lower-case letters and digits, hyphens for spaces, nothing else. */
 QString anchorOfHeading(const QString &heading);
 
 } // namespace window

@@ -22,11 +22,11 @@ namespace {
 
 constexpr int widestTextPx = 760;
 constexpr int marginPx = 24;
-/** Of the screen, for a picture that is shown large. */
+/** Share of the screen for a picture that is shown enlarged. */
 constexpr double largestShare = 0.9;
 const QString pictureScheme = QStringLiteral("picture");
 
-// A picture leads to itself, large: by mouse and by keyboard.
+// A picture links to its enlarged view, by mouse and keyboard.
 void makeLinkOfPicture(QTextDocument &document, const QTextBlock &block)
 {
     for (auto part = block.begin(); !part.atEnd(); ++part) {
@@ -41,11 +41,11 @@ void makeLinkOfPicture(QTextDocument &document, const QTextBlock &block)
         link.setAnchorHref(pictureScheme + u':' + fragment.charFormat().toImageFormat().name());
         link.setToolTip(ManualView::tr("Show large"));
         picture.mergeCharFormat(link);
-        return; // the fragments are others now
+        return; // the fragments are replaced
     }
 }
 
-// What Markdown leaves to whoever draws it: room between the lines and paragraphs, and colours of the theme.
+// What Markdown leaves to the renderer: line and paragraph spacing, and colours of the theme.
 void dress(QTextDocument &document)
 {
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
@@ -194,7 +194,7 @@ void ManualView::follow(const QUrl &link)
     visit({target, anchor.isEmpty() ? -1 : m_pages.headingOfLink(target, anchor)});
 }
 
-/** A picture of the manual, the one for the appearance that is shown. */
+/** The version of a picture for the current appearance. */
 QImage ManualView::picture(const QString &name) const
 {
     const QString path = m_pages.picture(page(), name);
@@ -209,7 +209,7 @@ QVariant ManualView::loadResource(int type, const QUrl &name)
     const QImage found = picture(name.path());
     if (found.width() <= m_drawnWidth)
         return found;
-    // The document would leave out pixels of what is wider than the text.
+    // The document would drop pixels of a picture wider than the text.
     const double ratio = devicePixelRatioF();
     QImage shown = found.scaledToWidth(qMin(found.width(), qRound(m_drawnWidth * ratio)), Qt::SmoothTransformation);
     shown.setDevicePixelRatio(double(shown.width()) / m_drawnWidth);
@@ -237,7 +237,7 @@ void ManualView::showLarge(const QString &name)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSizeConstraint(QLayout::SetFixedSize);
     layout->addWidget(label);
-    window->open(); // Esc closes it, and not the manual behind it
+    window->open(); // Esc closes it, but not the manual behind it
 }
 
 bool ManualView::findFromHere(const QString &text)
@@ -271,7 +271,7 @@ void ManualView::resizeEvent(QResizeEvent *event)
         redraw();
 }
 
-// An open manual does not keep the program from ending.
+// An open manual does not keep the program running.
 void ManualView::showEvent(QShowEvent *event)
 {
     window()->setAttribute(Qt::WA_QuitOnClose, false);

@@ -9,7 +9,7 @@ namespace window {
 
 /**
  * Shows the pages of a manual, which are linked with one another and have pictures. A picture NAME-light.png is shown as NAME-dark.png
- * in the dark appearance, where there is one.
+ * in the dark appearance, if there is one.
  */
 class ManualView : public QTextBrowser
 {
@@ -26,18 +26,18 @@ public:
     /** {name, title} of every page, in the order of ManualPages. */
     Q_INVOKABLE QVariantList pages() const;
     /**
-     * Shows a page, and if @p anchor is not empty the heading that has this anchor in the English page, in whatever language it is. A
-     * page that is missing is said to be.
+     * Shows a page, and if @p anchor is not empty the heading that has this anchor in the English page, in whatever
+     * language. Says so if a page is missing.
      */
     Q_INVOKABLE void open(const QString &page, const QString &anchor);
     Q_INVOKABLE void goBack() { goTo(m_at - 1); }
     Q_INVOKABLE void goForward() { goTo(m_at + 1); }
     /**
-     * Shows the next place of a text: behind the one that is marked, else from the beginning of the page, and at its end on the
-     * next page that has it; false where no page has it.
+     * Finds the next occurrence of a text: after the selected one, else from the beginning of the page, and at its end
+     * on the next page that has it; false if no page has it.
      */
     Q_INVOKABLE bool findNext(const QString &text);
-    /** Draws the page again, as after a change of the appearance. */
+    /** Redraws the page, as after a change of the appearance. */
     Q_INVOKABLE void redraw();
 
     QString page() const;

@@ -46,7 +46,7 @@ void prepareOpen(QFileDialog &dialog, const platform::PanelRequest &request)
         dialog.setNameFilter(panelFilter(*request.types));
 }
 
-/** Shows a view under the files of a dialog, which is then the toolkit's own, and gives it back. */
+/** Puts a view under the files of a dialog, which must be the toolkit's own, and hands it back afterwards. */
 class ViewBelow
 {
 public:
@@ -70,7 +70,7 @@ private:
     QPointer<QWidget> m_view;
 };
 
-/** The first of these that is there: what was asked for, the folder of the last panel, pictures, home. */
+/** The first of these that exists: the requested folder, the folder of the last panel, pictures, home. */
 QString startFolder(const platform::PanelRequest &request)
 {
     const QString last = request.folder.isEmpty() ? platform::userDefault(lastFolderKey).toString() : QString();
@@ -81,7 +81,7 @@ QString startFolder(const platform::PanelRequest &request)
     return QDir::homePath();
 }
 
-/** Shows the panel; false where it is cancelled. */
+/** Shows the panel; false if it is cancelled. */
 bool isAccepted(QFileDialog &dialog, const platform::PanelRequest &request)
 {
     dialog.setDirectory(startFolder(request));

@@ -5,11 +5,12 @@
 namespace window {
 
 /**
- * Shows file dialogs: the desktop's own for opening, one of the toolkit's for saving, since that can hold a view and tags.
+ * Shows file dialogs: the desktop's own for opening, the toolkit's for saving, since that one can contain a view and
+ * tags.
  *
- * A save panel gives a name the extension of the allowed type, which follows when the type changes while it is open; a name
- * with another extension gets that one behind it, unless other types are allowed. A panel whose folder is not there starts in
- * the folder of pictures, or at home.
+ * A save panel gives a name the extension of the allowed type, and updates it when the type changes while it is open; a
+ * name with another extension gets it appended, unless other types are allowed. A panel whose folder does not exist
+ * starts in the folder of pictures, or at home.
  */
 class DialogPanels : public platform::PanelProvider
 {

@@ -15,8 +15,8 @@ std::shared_ptr<QPrinter> printerFor(const QPageLayout &page)
 {
     auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
     printer->setCreator(QStringLiteral("Quorlin"));
-    printer->setDocName(QStringLiteral("Quorlin")); // what print queues show
-    // Without a printer the dialog prints into a file, and wants to be told the name of one.
+    printer->setDocName(QStringLiteral("Quorlin")); // the title that print queues show
+    // Without a printer the dialog prints to a file, and requires a file name.
     if (QPrinterInfo::availablePrinterNames().isEmpty())
         printer->setOutputFileName(QDir::homePath() + QStringLiteral("/Quorlin.pdf"));
     printer->setPageLayout(page);
@@ -24,7 +24,7 @@ std::shared_ptr<QPrinter> printerFor(const QPageLayout &page)
     return printer;
 }
 
-/** What is left to whoever draws the pages: a print system that makes copies by itself is told of them. */
+/** What remains for whoever draws the pages: a print system that makes copies itself is told how many. */
 platform::PrintPages chosenPages(const QPrinter &printer)
 {
     platform::PrintPages pages;
@@ -52,7 +52,7 @@ platform::PanelAnswer runPrintDialog(const platform::PanelRequest &request)
     }
     if (dialog.exec() != QDialog::Accepted)
         return {};
-    // The dialog may have put margins back that the printer likes.
+    // The dialog may have restored margins that suit the printer.
     printer->setFullPage(true);
     printer->setPageMargins(request.page.margins(), request.page.units());
     platform::PanelAnswer answer;
@@ -81,7 +81,7 @@ PrinterChoice chosenPrinter(const platform::PanelAnswer &answer)
                                                              : QStringLiteral("sides=two-sided-short-edge"));
     if (printer->colorMode() == QPrinter::GrayScale)
         option(QStringLiteral("print-color-mode=monochrome"));
-    // The pages are as large as the paper already.
+    // The pages already have the size of the paper.
     const QSizeF paper = printer->pageLayout().pageSize().size(QPageSize::Millimeter);
     option(QStringLiteral("media=Custom.%1x%2mm").arg(paper.width()).arg(paper.height()));
     option(QStringLiteral("print-scaling=none"));

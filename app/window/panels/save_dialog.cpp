@@ -30,7 +30,7 @@ QLineEdit *nameField(const QFileDialog &dialog)
 
 constexpr int placesWidth = 170;
 constexpr int nameRow = 2;            // of the toolkit's own layout
-constexpr double mostOfScreen = 0.95; // the frame of the window comes on top
+constexpr double mostOfScreen = 0.95; // the frame of the window is added to this
 
 QString sizeKey(const QWidget *view)
 {
@@ -63,7 +63,7 @@ SaveDialog::SaveDialog(const platform::PanelRequest &request, QWidget *parent)
     setAcceptMode(AcceptSave);
     setFileMode(AnyFile);
     setOption(DontUseNativeDialog);
-    setOption(DontConfirmOverwrite); // asked about the name with its extension
+    setOption(DontConfirmOverwrite); // the question names the file with its extension
     setWindowTitle(request.message.isEmpty() ? tr("Save As") : request.message);
     selectFile(request.name);
     allow(request.types.value_or(QStringList()));
@@ -90,7 +90,7 @@ void SaveDialog::allow(const QStringList &types)
     QStringList shown;
     for (const QString &type : types)
         shown += platform::extensionsOfSameType(type);
-    setNameFilter(panelFilter(shown)); // which may take for an extension what is none
+    setNameFilter(panelFilter(shown)); // which may mistake part of a name for an extension
     setDefaultSuffix(types.constFirst());
     if (field)
         field->setText(renamedTo(name, types.constFirst(), before));
@@ -100,7 +100,7 @@ void SaveDialog::arrange(const platform::PanelRequest &request)
 {
     auto *grid = qobject_cast<QGridLayout *>(layout());
     const auto part = [this](const char *name) { return findChild<QWidget *>(QString::fromLatin1(name)); };
-    // Only the allowed type can be chosen there.
+    // Only the allowed type can be selected there.
     part("fileTypeLabel")->hide();
     part("fileTypeCombo")->hide();
     auto *buttons = findChild<QDialogButtonBox *>(QStringLiteral("buttonBox"));
@@ -113,7 +113,7 @@ void SaveDialog::arrange(const platform::PanelRequest &request)
     showNames();
     if (request.showsTagField)
         addTagField(grid);
-    // The window that the panel stands on cannot lie in the panel.
+    // The window that owns the panel cannot be inside the panel.
     auto *view = qobject_cast<QWidget *>(request.accessory.data());
     if (view && !view->isAncestorOf(this))
         addView(grid, view);
@@ -121,17 +121,17 @@ void SaveDialog::arrange(const platform::PanelRequest &request)
     grid->addWidget(buttons, grid->rowCount(), 0, 1, -1);
 }
 
-/** Room for the names of files and places, which the toolkit cuts short. */
+/** Enough width for names of files and places, which the toolkit truncates. */
 void SaveDialog::showNames()
 {
     setLabelText(LookIn, tr("Save in:"));
-    // A path may be longer than any window is wide.
+    // A path may be wider than any window.
     if (auto *path = findChild<QComboBox *>(QStringLiteral("lookInCombo"))) {
         path->setToolTip(path->currentText());
         connect(path, &QComboBox::currentTextChanged, path, &QComboBox::setToolTip);
     }
     if (auto *list = findChild<QTreeView *>(QStringLiteral("treeView"))) {
-        constexpr int measuredRows = 50; // all of a folder would take long
+        constexpr int measuredRows = 50; // listing a whole folder would take long
         list->header()->setResizeContentsPrecision(measuredRows);
         list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
         list->header()->setSectionResizeMode(0, QHeaderView::Stretch);

@@ -10,10 +10,11 @@ class QLineEdit;
 namespace window {
 
 /**
- * A save panel with a view of the caller's in it, whose types can change while it is open, and a field for tags.
+ * A save panel that contains a view of the caller's, whose types can change while it is open, and that has a field for
+ * tags.
  *
- * From the top: the files, the name, the tags, the view, the buttons. It is large enough to look around in and opens as large
- * as it was when it closed last; one with a view and one without remember that apart.
+ * From the top: files, name, tags, view, buttons. It is large enough to look around in and opens at its last size;
+ * panels with and without a view remember that separately.
  */
 class SaveDialog : public QFileDialog
 {
@@ -21,10 +22,10 @@ class SaveDialog : public QFileDialog
 
 public:
     SaveDialog(const platform::PanelRequest &request, QWidget *parent);
-    /** Gives the caller's view back. */
+    /** Hands back the caller's view. */
     ~SaveDialog() override;
 
-    /** The chosen path, with the extension that it must have. */
+    /** The chosen path, with the required extension. */
     QString chosenPath() const;
     QStringList tags() const;
 
@@ -48,11 +49,12 @@ private:
     QLineEdit *m_tags = nullptr;
 };
 
-/** The path with the extension of the first type behind it, unless it has one that means any of the types. */
+/** The path with the extension of the first type appended, unless it has one that means any of the types. */
 QString withAllowedExtension(const QString &path, const QStringList &types);
 
 /**
- * A file name with @p extension in the place of one that means the type @p before; any other stays part of the name. Without
+ * A file name with @p extension instead of one that means the type @p before; any other extension stays part of the
+ * name. Without
  * @p before, a name that has an extension of the type already keeps it.
  */
 QString renamedTo(const QString &name, const QString &extension, const QString &before);

@@ -8,7 +8,7 @@ namespace window {
 class DateBox : public QDateEdit
 {
     Q_OBJECT
-    /** Such as "2026-08-14"; what is no day is passed over. */
+    /** Such as "2026-08-14"; anything that is not a day is ignored. */
     Q_PROPERTY(QString day READ day WRITE setDay NOTIFY dayChanged)
 
 public:

@@ -16,7 +16,7 @@ public:
     explicit DropTarget(QWidget *window);
 
     bool isOpen() const { return m_open; }
-    /** Closed, drops are refused: while a job runs. */
+    /** While closed, drops are refused: a job is running. */
     void setOpen(bool open) { m_open = open; }
     Q_INVOKABLE void setMessage(const QString &message);
 

@@ -58,7 +58,7 @@ bool ListEdits::redo(PictureModel &model)
     return true;
 }
 
-// Undone or done again, an edit brings its rows to the other side.
+// Undoing or redoing an edit swaps its rows with what it stored.
 void ListEdits::turn(Edit &edit, PictureModel &model)
 {
     if (edit.isOrder) {

@@ -6,7 +6,7 @@
 
 namespace window {
 
-/** What was put into the list, taken out of it and put in another order, to be undone and done again in turn. The newest 100 edits are kept. */
+/** What was added to the list, removed from it or reordered, for undo and redo. The newest 100 edits are kept. */
 class ListEdits
 {
 public:
@@ -15,10 +15,10 @@ public:
     /** These rows were taken out. */
     void removed(std::vector<PlacedRow> rows);
 
-    /** The rows stood in this order, and stand in another one now. */
+    /** The rows had this order, and have another one now. */
     void ordered(QList<int> before);
 
-    /** False where nothing is left to undo, or to do again. */
+    /** False if nothing is left to undo, or to redo. */
     bool undo(PictureModel &model);
     bool redo(PictureModel &model);
 
@@ -28,14 +28,14 @@ private:
         QList<int> ids;
         std::vector<PlacedRow> rows; ///< while they are not in the list
         bool areIn = false;
-        bool isOrder = false; ///< ids are all rows as they stood on the other side of it
+        bool isOrder = false; ///< ids are all rows in the order of the other state
     };
 
     void keep(Edit edit);
     static void turn(Edit &edit, PictureModel &model);
 
     std::deque<Edit> m_edits;
-    size_t m_standing = 0; ///< so many of them stand; those behind were undone
+    size_t m_standing = 0; ///< so many are in effect; those after them were undone
 };
 
 } // namespace window

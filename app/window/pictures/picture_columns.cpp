@@ -1,4 +1,4 @@
-// The columns of the picture list: which are shown, what stands over them, and how wide they are.
+// The columns of the picture list: which are shown, their titles, and their widths.
 
 #include "app/window/pictures/picture_table.h"
 
@@ -25,8 +25,8 @@ namespace {
 
 constexpr int rowHeightPx = 36;
 constexpr int narrowestTextPx = 60;
-constexpr int mostWidthPx = 4000; ///< of a kept width, whatever it says
-/** What the texts have besides, where dates and cameras are shown unasked. */
+constexpr int mostWidthPx = 4000; ///< limit of a stored width
+/** What texts get in addition, where dates and cameras are shown by default. */
 constexpr int comfortPx = 260;
 
 struct ColumnKind
@@ -34,11 +34,11 @@ struct ColumnKind
     const char *name;
     int widthPx;       ///< 0: shares what the others leave
     int share;         ///< of it
-    int stressedShare; ///< where the list is about new names
-    int leastPx;       ///< of a text, before columns that say less are left out for it
+    int stressedShare; ///< when the list is about new names
+    int leastPx;       ///< of a text, before less important columns are hidden for it
 };
 
-// What is told beside the picture too, the least first.
+// Also shown beside the picture; least important first.
 constexpr std::array<PictureModel::Column, 4> dispensable = {PictureModel::Camera, PictureModel::Taken,
                                                              PictureModel::Type, PictureModel::Bytes};
 
@@ -49,7 +49,7 @@ constexpr std::array<ColumnKind, PictureModel::ColumnCount> kinds = {
      {"property4", 116, 0, 0, 0}, {"property5", 116, 0, 0, 0}, {"property6", 116, 0, 0, 0}, {"property7", 116, 0, 0, 0},
      {"property8", 116, 0, 0, 0}, {"newName", 0, 2, 4, 110},   {"newSize", 92, 0, 0, 0},    {"status", 0, 5, 4, 120}}};
 
-// The texts of a kept layout.
+// The texts of a stored layout.
 const QLatin1String orderKey("order");
 const QLatin1String widthsKey("widths");
 const QLatin1String shownKey("shown");
@@ -102,7 +102,7 @@ void PictureTable::prepareHeader()
         if (!m_arranging)
             columnsChanged();
     });
-    // Sorting by the thumbnail means nothing; it leads back to the order of adding.
+    // Sorting by thumbnail is meaningless; it restores the order of adding.
     connect(header, &QHeaderView::sortIndicatorChanged, this, [this, header](int column) {
         if (column == PictureModel::Thumbnail)
             header->setSortIndicator(-1, Qt::AscendingOrder);
@@ -118,7 +118,7 @@ void PictureTable::prepareHeader()
     });
 }
 
-/** Whether all that the list is sorted by is known of each row. */
+/** Whether everything that the list is sorted by is known for each row. */
 bool PictureTable::isReadFor(int column) const
 {
     if (!m_model.propertyOf(column).isEmpty() && !arePropertiesRead())
@@ -149,7 +149,7 @@ void PictureTable::showColumnMenu()
     menu.exec(horizontalHeader()->mapToGlobal(QPoint(0, horizontalHeader()->height())));
 }
 
-/** All columns that there can be, but those that a row is known by. */
+/** All possible columns, except those that identify a row. */
 void PictureTable::addColumnEntries(QMenu &menu)
 {
     for (size_t column = 0; column < kinds.size(); ++column) {
@@ -176,12 +176,12 @@ void PictureTable::addColumnEntries(QMenu &menu)
 void PictureTable::chooseColumn(size_t column, bool on)
 {
     m_wanted.insert(int(column), on);
-    m_columnsChosen = false; // the widths are those of other columns
+    m_columnsChosen = false; // the widths belong to other columns
     showColumns();
     Q_EMIT layoutChanged();
 }
 
-/** The columns in the order in which they are declared. */
+/** The columns in the order of their declaration. */
 void PictureTable::layOutAsFirst()
 {
     QHeaderView *header = horizontalHeader();
@@ -212,14 +212,14 @@ QString PictureTable::columnLayout() const
     return QString::fromUtf8(QJsonDocument(layout).toJson(QJsonDocument::Compact));
 }
 
-// A column that was kept and is none any more is passed over, and so is what is no width.
+// A stored column that no longer exists is ignored, and so is an invalid width.
 void PictureTable::setColumnLayout(const QString &text)
 {
     const QJsonObject layout = QJsonDocument::fromJson(text.toUtf8()).object();
     QHeaderView *header = horizontalHeader();
     layOutAsFirst();
     const QScopedValueRollback<bool> arranging(m_arranging, true);
-    int place = 1; // behind the thumbnail
+    int place = 1; // after the thumbnail
     const QJsonArray order = layout.value(orderKey).toArray();
     for (const QJsonValue &name : order)
         if (const int column = columnNamed(name.toString()); column > 0 && header->visualIndex(column) >= place)
@@ -297,13 +297,13 @@ bool PictureTable::isShown(size_t column) const
            !m_leftOut.contains(int(column));
 }
 
-/** What a column of numbers takes, with its heading. */
+/** The width of a numeric column with its heading. */
 int PictureTable::fixedWidth(size_t column) const
 {
     return qMax(kinds[column].widthPx, horizontalHeader()->sectionSizeHint(int(column)));
 }
 
-/** Leaves columns out where texts would have too little room, unless the user has arranged them. */
+/** Hides columns if texts would have too little room, unless the user has arranged them. */
 void PictureTable::chooseDispensable()
 {
     if (m_columnsChosen)
@@ -332,7 +332,7 @@ bool PictureTable::isStatusCut(int id) const
 void PictureTable::changeEvent(QEvent *event)
 {
     QTableView::changeEvent(event);
-    // Two lines of a status have room.
+    // Two lines of a status fit.
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
         verticalHeader()->setDefaultSectionSize(qMax(rowHeightPx, 2 * fontMetrics().height() + 4));
 }
@@ -360,7 +360,7 @@ void PictureTable::arrangeColumns()
     const auto leastOf = [&](size_t i) {
         return headings > room ? narrowestTextPx : qMax(narrowestTextPx, horizontalHeader()->sectionSizeHint(int(i)));
     };
-    // Where not even narrow texts have room, a long heading is cut off, since the list is not to be moved sideways.
+    // If even narrow texts do not fit, a long heading is truncated, since the list must not scroll sideways.
     int lacking = qMax(0, int(texts.size()) * narrowestTextPx - room);
     const auto cutWidth = [&](size_t i) {
         const int given = qMin(lacking, fixedWidth(i) - kinds[i].widthPx);

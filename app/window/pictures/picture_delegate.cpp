@@ -73,7 +73,7 @@ void PictureDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
     painter->restore();
 }
 
-// A bar before chosen rows, for colour alone says it to few; a frame round the row of the keyboard.
+// A bar in front of chosen rows, since colour alone is not enough; a frame around the row with the keyboard focus.
 void PictureDelegate::paintPlace(QPainter &painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
     constexpr int barPx = 3;
@@ -95,7 +95,7 @@ bool PictureDelegate::isStatusCut(const PictureRow &row, const QFont &font) cons
     return !fitsInTwoLines(row.status, metrics, statusWidth(first));
 }
 
-/** Whether the status lies over a cell. */
+/** Whether the status covers a cell. */
 bool PictureDelegate::isCovered(const PictureRow &row, const QFont &font, int column) const
 {
     const auto first = statusColumn(row, m_header, QFontMetrics(statusFont(font, row.kind)), paddingsPx);

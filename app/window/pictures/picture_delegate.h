@@ -8,7 +8,7 @@
 
 namespace window {
 
-/** Draws one cell of the picture list: thumbnail, plain text, or a status whose colour says what its words say. */
+/** Draws one cell of the picture list: thumbnail, plain text, or a status whose colour repeats what its words say. */
 class PictureDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -17,13 +17,13 @@ public:
     PictureDelegate(const PictureModel &model, const QAbstractProxyModel &order, const QHeaderView &header,
                     QObject *parent);
 
-    /** Whether not all words of the status of a row can be read. */
+    /** Whether the status of a row is truncated. */
     bool isStatusCut(const PictureRow &row, const QFont &font) const;
 
     /** In logical pixels. */
     static QSize thumbnailSize() { return {36, 26}; }
 
-    /** Where in the cell of a thumbnail the box of the tick stands; a click beside it counts too. */
+    /** Where the check box is in the thumbnail cell; a click beside it counts too. */
     static QRect tickPlace(const QRect &cell);
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;

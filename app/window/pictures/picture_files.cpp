@@ -1,4 +1,4 @@
-// The files of rows, on their way out of the window; and rows that change places.
+// The files of rows, copied or dragged out of the window; and rows that are reordered.
 
 #include "app/window/pictures/picture_table.h"
 
@@ -16,7 +16,7 @@ namespace window {
 
 namespace {
 
-/** What file managers, mail and browsers take, and editors as text. */
+/** For file managers, mail and browsers, and as text for editors. */
 std::unique_ptr<QMimeData> mimeDataOf(const QStringList &paths)
 {
     auto data = std::make_unique<QMimeData>();
@@ -57,7 +57,7 @@ int PictureTable::copyFiles()
     return int(files.size());
 }
 
-// Nothing leaves the list, whatever somebody does with it.
+// Nothing leaves the list, whatever a drop target does.
 void PictureTable::startDrag(Qt::DropActions)
 {
     const QStringList files = chosenFiles();
@@ -93,7 +93,7 @@ int PictureTable::moveSelected(int by)
     }
     m_edits.ordered(m_model.order());
     m_model.setOrder(shown);
-    horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder); // which tells of the order too
+    horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder); // which also reports the order
     m_order.sort(-1);
     Q_EMIT orderChanged();
     scrollTo(currentIndex());

@@ -72,7 +72,7 @@ void PictureTable::showAll()
     wakeLoader();
 }
 
-// Rows that a filter hides have no place of their own: then the order of adding holds.
+// Rows hidden by a filter have no position; then the order of adding applies.
 std::vector<int> PictureTable::rowsInOrder() const
 {
     std::vector<int> rows;
@@ -127,7 +127,7 @@ void PictureTable::removeIds(const QVariantList &ids)
     rowsChanged();
 }
 
-// Rows came back or went away.
+// Rows reappeared or went away.
 void PictureTable::rowsChanged()
 {
     countTaken();

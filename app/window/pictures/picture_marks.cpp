@@ -1,4 +1,4 @@
-// What the user marks in the picture list, and what it knows of the cameras: ticks and clocks.
+// What the user marks in the picture list, and what it knows about cameras: ticks and clocks.
 
 #include "app/window/pictures/picture_table.h"
 
@@ -92,7 +92,7 @@ QVariantList PictureTable::ratings() const
     return found;
 }
 
-/** What is shown, and in which order, may depend on ratings. */
+/** The visible rows and their order may depend on ratings. */
 void PictureTable::rated()
 {
     const bool isSorted = horizontalHeader()->sortIndicatorSection() == PictureModel::Rating;
@@ -145,7 +145,9 @@ void PictureTable::tickAll()
     tick(rowsInOrder(), true);
 }
 
-/** Whether it is a click on the box of a row, which is done then: of all chosen rows, where this is one of them. */
+/**
+ * Whether it is a click on the check box of a row, which is handled then, for all chosen rows if this is one of them.
+ */
 bool PictureTable::pressTick(const QMouseEvent &event)
 {
     const QModelIndex index = indexAt(event.pos());
@@ -171,7 +173,7 @@ void PictureTable::mousePressEvent(QMouseEvent *event)
         QTableView::mousePressEvent(event);
 }
 
-// Of a quick second click on a box both count.
+// Both clicks of a double click on a box count.
 void PictureTable::mouseDoubleClickEvent(QMouseEvent *event)
 {
     if (!pressTick(*event))

@@ -1,4 +1,4 @@
-// Properties of pictures in the list: as columns, and to tell which pictures are shown.
+// Properties of pictures in the list: as columns, and for filtering.
 
 #include "app/window/pictures/picture_table.h"
 
@@ -18,7 +18,7 @@ namespace {
 constexpr int sliceMs = 8;
 constexpr int pauseMs = 4;
 constexpr int mostAsked = 32;
-/** Filtering the list takes longer than reading one picture; the reader wants to see something happen all the same. */
+/** Filtering the list takes longer than reading one picture; the user wants to see progress all the same. */
 constexpr int progressMs = 400;
 constexpr int mostRules = 50;
 
@@ -82,7 +82,7 @@ void PictureTable::setPropertyColumns(const QStringList &names)
     const QString sorted = m_model.propertyOf(horizontalHeader()->sortIndicatorSection());
     m_model.setPropertyColumns(m_propertyColumns, headings);
     wantProperties();
-    if (!sorted.isEmpty() && before != m_propertyColumns) // the column that it was sorted by may be another one now
+    if (!sorted.isEmpty() && before != m_propertyColumns) // the sorted column may be another one now
         horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
     showColumns();
     viewport()->update();
@@ -90,7 +90,7 @@ void PictureTable::setPropertyColumns(const QStringList &names)
         Q_EMIT propertyColumnsChanged();
 }
 
-/** Those of the columns and of the filter; a typed text may stand in any that is offered. */
+/** Those of the columns and of the filter; a typed text may be in any that is offered. */
 void PictureTable::wantProperties()
 {
     QStringList names = m_propertyColumns;
@@ -140,7 +140,7 @@ void PictureTable::setFilter(const QVariantMap &map)
     Q_EMIT filterChanged();
 }
 
-/** What was read since may belong to the list, or not. */
+/** Newly read values may add rows to the list, or remove them. */
 void PictureTable::filterAgain()
 {
     const int before = m_taken;
@@ -164,7 +164,7 @@ bool PictureTable::arePropertiesRead() const
            (m_propertiesUpTo >= m_model.rowCount() && m_model.propertiesInWork() == 0);
 }
 
-/** All rows are read where the list is sorted or filtered by what they say; those that are seen, in any case. */
+/** All rows are read if the list is sorted or filtered by properties; visible ones in any case. */
 void PictureTable::loadProperties()
 {
     if (!needsAllProperties()) {
@@ -192,10 +192,10 @@ void PictureTable::loadProperties()
         filterAgain();
     Q_EMIT propertiesProgress(isOver ? m_model.rowCount() : m_model.propertiesRead(), m_model.rowCount());
     if (isOver && !m_resortPending)
-        Q_EMIT orderChanged(); // whoever waited for the list to be settled
+        Q_EMIT orderChanged(); // whoever waits for the list to settle
 }
 
-/** A chosen column is taken away here; which there are is chosen elsewhere. */
+/** A chosen column is removed here; columns are chosen elsewhere. */
 void PictureTable::addPropertyEntries(QMenu &menu)
 {
     for (const QString &name : std::as_const(m_propertyColumns)) {

@@ -16,9 +16,9 @@ namespace window {
 namespace {
 
 constexpr int sliceMs = 2;
-/** Between slices the event loop is left alone this long, so that reading ahead takes a part of one processor only. */
+/** The event loop is left alone this long between slices, so that reading ahead uses only part of one processor. */
 constexpr int pauseMs = 1;
-/** So many are asked for at a time: enough for all workers, and few enough that what is scrolled to comes soon. */
+/** So many are requested at a time: enough for all workers, and few enough that what the user scrolls to comes soon. */
 constexpr int mostHeaders = 32;
 constexpr int mostThumbnails = 4;
 
@@ -160,7 +160,7 @@ QVariantList PictureTable::selectedIds() const
     return found;
 }
 
-// Not setCurrentIndex(), which adds to what is chosen while Ctrl is held, as it is for Ctrl+Right.
+// Not setCurrentIndex(), which extends the selection while Ctrl is held, as it is for Ctrl+Right.
 void PictureTable::choose(const QModelIndex &index)
 {
     selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
@@ -250,7 +250,7 @@ QModelIndex PictureTable::shownIndex(int id) const
     return index < 0 ? QModelIndex() : m_order.mapFromSource(m_model.index(index, PictureModel::Name));
 }
 
-// Left and right walk the list as up and down do: the columns of a row are not places of their own.
+// Left and right move through the list as up and down do: the columns of a row cannot be current by themselves.
 QModelIndex PictureTable::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
 {
     if (action == MoveLeft)
@@ -312,7 +312,7 @@ void PictureTable::loadSlice()
     }
 }
 
-/** What can be seen comes first; what cannot be seen any more is not waited for. */
+/** Visible rows come first; requests for rows that are no longer visible are dropped. */
 void PictureTable::loadVisible()
 {
     if (!isVisible() || m_order.rowCount() == 0)

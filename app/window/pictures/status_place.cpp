@@ -4,7 +4,7 @@ namespace window {
 
 namespace {
 
-/** How many characters have room in a line, whole words where it holds one. */
+/** How many characters fit in a line; whole words if at least one fits. */
 qsizetype lineEnd(const QString &text, const QFontMetrics &metrics, int widthPx)
 {
     if (metrics.horizontalAdvance(text) <= widthPx)
@@ -44,7 +44,7 @@ PictureModel::Column statusColumn(const PictureRow &row, const QHeaderView &head
     PictureModel::Column first = PictureModel::Status;
     int width = header.sectionSize(first) - paddingPx;
     for (const PictureModel::Column before : {PictureModel::NewSize, PictureModel::NewName}) {
-        // What will be made has a name that is wanted.
+        // The name of a future result is what the user wants to see.
         const bool mayCover = before == PictureModel::NewSize || isReason(row.kind);
         if (!mayCover || fitsInTwoLines(row.status, metrics, width))
             break;

@@ -23,7 +23,7 @@ constexpr int settleMs = 90;
 constexpr int nextPictureMs = 15;
 constexpr int lateMs = 250;
 
-/** What is left for a picture beside the lines of text. */
+/** The height left for a picture beside the lines of text. */
 QSizeF roomFor(const QRect &area)
 {
     const QSizeF room = QSizeF(area.size()) - QSizeF(2 * marginPx, 2 * (badgeMarginPx + 2 * badgeStepPx));
@@ -228,7 +228,7 @@ void ComparePreview::load()
         takePicture({});
         return;
     }
-    if (m_shownPath == m_path && !m_base.isNull()) { // of another size, until it is there as it should be
+    if (m_shownPath == m_path && !m_base.isNull()) { // of another size, until the right one arrives
         fitViews();
         placeCropFrame();
         update();
@@ -260,7 +260,7 @@ void ComparePreview::takePicture(const ShownPicture &picture)
     }
 }
 
-/** A picture that takes its time leaves an empty place and not another picture's. */
+/** A picture that takes long leaves an empty area rather than another picture. */
 void ComparePreview::clearLate()
 {
     if (m_shownPath == m_path)

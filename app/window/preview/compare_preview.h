@@ -25,21 +25,22 @@ struct PreviewHost;
 /**
  * The current picture and, beside it, what the settings make of it, on a dark surround.
  *
- * Workers make both, as large as they are on the screen, when picture and size have settled; meanwhile what was there before stays for a
- * moment. One result is made at a time, and after it the last one that was asked for. A reader that crashes costs a sentence in the
- * place of the picture. With "fit" a picture is never shown larger than its own pixels; with "fill" it covers its half. With a zoom both
- * are shown at that scale with the same point in the middle, and of what can be seen then workers make the pixels that it has.
+ * Workers make both at their size on the screen, once picture and size have settled; the previous ones stay visible for
+ * a moment. One result is made at a time, then the one requested last. If the reading worker crashes, a sentence
+ * replaces the picture. With "fit" a picture is never shown larger than its own pixels; with "fill" it covers its half.
+ * With a zoom both are shown at that scale with the same point in the middle, and of what can be seen then workers make
+ * the pixels that it has.
  */
 class ComparePreview : public QWidget
 {
     Q_OBJECT
     Q_PROPERTY(bool fill READ fill WRITE setFill)
     Q_PROPERTY(bool showsResult READ showsResult WRITE setShowsResult)
-    /** Original and result have the same place, and the result is seen where there is one. */
+    /** Original and result share one area; the result is shown if there is one. */
     Q_PROPERTY(bool single READ isSingle WRITE setSingle)
-    /** Pixels of the screen for one of the picture, 1/32 to 8; 0: as large as the place allows. */
+    /** Screen pixels per picture pixel, 1/32 to 8; 0: as large as the area allows. */
     Q_PROPERTY(double zoom READ zoom WRITE setZoom NOTIFY zoomChanged)
-    /** What is shown, for now, in the place of a picture that is not there; empty for the usual sentence. */
+    /** What is shown, for now, instead of a missing picture; empty for the usual sentence. */
     Q_PROPERTY(QString problem READ problem WRITE setProblem)
     /** The size that the file of the result will have, see resultEstimated(); -1 while it is not known. */
     Q_PROPERTY(double estimatedBytes READ estimatedBytes)
@@ -60,12 +61,12 @@ public:
 
     QString problem() const { return m_givenProblem; }
     void setProblem(const QString &problem);
-    /** Why the picture cannot be shown, in words; empty where it can. */
+    /** Why the picture cannot be shown, in words; empty if it can. */
     QString shownProblem() const { return m_problem; }
 
     double estimatedBytes() const { return m_estimatedBytes; }
 
-    /** Shows the picture at @p path, or nothing where it is empty. */
+    /** Shows the picture at @p path, or nothing if that is empty. */
     Q_INVOKABLE void showPicture(const QString &path);
     /** Pictures that will probably be shown next, the likeliest first: they are decoded beforehand. */
     Q_INVOKABLE void prepare(const QStringList &paths);
@@ -81,19 +82,19 @@ public:
     Q_INVOKABLE void showResult(const QVariantMap &result);
     Q_INVOKABLE void setTitles(const QString &original, const QString &result);
     Q_INVOKABLE void setCaptions(const QString &original, const QString &result);
-    /** A second line under the result: what it will not hold. */
+    /** A second line under the result: what it will not preserve. */
     Q_INVOKABLE void setNotes(const QString &notes);
 
     /**
      * A frame on the original that can be moved and sized: {x, y, width, height: pixels of the upright original; ratio:
-     * width by height to keep, 0 for free; isFound: it lies where the result comes from, which whoever makes that says}; null takes it
-     * away. Meanwhile the result is shown at the original's scale.
+     * width by height to keep, 0 for free; isFound: its position is reported by the worker that makes the result}; null
+     * removes it. While there is one, the result is shown at the original's scale.
      */
     Q_INVOKABLE void setCropFrame(const QVariantMap &frame);
-    /** A Picture that is drawn over the whole original, or null; it is seen where there is a crop frame. */
+    /** A Picture that is drawn over the whole original, or null; visible while there is a crop frame. */
     Q_INVOKABLE void setOverlay(const platform::Picture &picture);
 
-    /** Covers the parent from now on, also when that changes its size. */
+    /** From now on covers the parent, also when that changes its size. */
     void coverParent();
 
     QSize sizeHint() const override { return {640, 360}; }
@@ -103,14 +104,14 @@ Q_SIGNALS:
     void stepRequested(int rows);
     void largePreviewRequested();
     void closeRequested();
-    /** A picture is on the screen. */
+    /** A picture was shown. */
     void pictureShown();
-    /** The part of it that can be seen at a scale is on the screen, with its own pixels. */
+    /** The visible part of it at a scale was shown with its full pixels. */
     void partShown();
     void zoomChanged();
-    /** A result was made and is on the screen. */
+    /** A result was made and shown. */
     void resultShown();
-    /** How large the file of the result will be: as large as the one that a worker has made of it, a while after the last change. */
+    /** The expected size of the result's file: that of one made by a worker, a while after the last change. */
     void resultEstimated(double bytes);
     /** The user moved or sized the crop frame; pixels of the upright original. */
     void cropFrameEdited(int x, int y, int width, int height);
@@ -130,7 +131,7 @@ protected:
     void focusOutEvent(QFocusEvent *event) override;
 
 private:
-    /** What was asked for last. */
+    /** What was requested last. */
     struct Wanted
     {
         QVariantList edits;
@@ -148,13 +149,13 @@ private:
         QImage image;
         QRectF place = {0, 0, 1, 1};
     };
-    /** A picture on this widget, and what of the widget is its own. */
+    /** A picture on this widget, and which area of the widget belongs to it. */
     struct ZoomedPlace
     {
         QRectF picture;
         QRect area;
     };
-    /** What a result was made of. */
+    /** The input of a result. */
     struct MadeOf
     {
         QString path;
@@ -224,45 +225,45 @@ private:
 
     QString m_path;
     PictureAhead m_ahead;
-    QString m_shownPath;              ///< of the picture that is shown, which is another one for a moment
+    QString m_shownPath;              ///< of the picture shown, which may briefly be the previous one
     QSize m_full;                     ///< its upright pixels
-    QPointer<const QScreen> m_screen; ///< whose colours the next have
-    QImage m_baseImage;               ///< the same as the next, for the screen
+    QPointer<const QScreen> m_screen; ///< whose colours the following images have
+    QImage m_baseImage;               ///< the following image converted for the screen
     platform::Bitmap m_base;          ///< the picture at about its size on the screen
-    platform::Picture m_picture;      ///< the same, one of its own pixels a point
-    QString m_problem;                ///< in words, where the picture cannot be shown
-    QString m_givenProblem;           ///< what stands there instead
+    platform::Picture m_picture;      ///< the same, one pixel of its own per point
+    QString m_problem;                ///< in words, if the picture cannot be shown
+    QString m_givenProblem;           ///< shown instead
     std::unique_ptr<PreviewHost> m_mainHost;
     std::unique_ptr<PreviewHost> m_cropHost;
     myMainPhotoView m_mainView;
     my2ndPhotoView m_cropView;
     CropFrameEditor *m_cropFrame;
     double m_frameRatio = 0;
-    bool m_isFrameFound = false; ///< with the result, by whoever makes it
+    bool m_isFrameFound = false; ///< reported with the result by the worker that makes it
     platform::Picture m_overlay;
     QTimer m_settled;
-    QTimer m_moved; ///< the part that is looked at
+    QTimer m_moved; ///< the part being viewed
     QTimer m_asked;
     bool m_fill = false;
     bool m_showsResult = true;
     bool m_isSingle = false;
-    bool m_isFlipped = false; ///< the original is seen in the place of the result
+    bool m_isFlipped = false; ///< the original is shown instead of the result
     ViewZoom m_zoom;
     Part m_part;           ///< of the original, at the scale
-    QString m_partProblem; ///< in words, where it cannot be had
+    QString m_partProblem; ///< in words, if it cannot be made
     std::optional<QPointF> m_heldAt;
     Pane m_heldPane = Pane::Original;
     int m_turned = 0; ///< of the wheel, less than a step
     Wanted m_wanted;
     jobs::Reader m_resultReader;
     jobs::Reader m_bytesReader;
-    bool m_isResultStale = false; ///< another one was asked for while one is made
+    bool m_isResultStale = false; ///< another one was requested while one is being made
     QSize m_resultFull;
     QImage m_resultImage;
     Part m_resultPart; ///< of the result, at the scale
     MadeOf m_askedOf;
     MadeOf m_wholeOf; ///< m_resultImage
-    QTimer m_late;    ///< what was shown before is no longer kept
+    QTimer m_late;    ///< what was shown before is dropped
     QTimer m_still;   ///< the settings have not changed for a while
     double m_estimatedBytes = -1;
     QString m_resultProblem;

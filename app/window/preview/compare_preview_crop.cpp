@@ -15,20 +15,20 @@ void ComparePreview::setCropFrame(const QVariantMap &frame)
     const platform::Fields fields(frame, QStringLiteral("frame"),
                                   {QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("width"),
                                    QStringLiteral("height"), QStringLiteral("ratio"), QStringLiteral("isFound")});
-    // No picture is larger, and sums of two of them are still whole numbers.
+    // No picture is larger, and the sum of two such sizes still fits an int.
     static constexpr double most = 1'000'000'000;
     const auto whole = [&fields](const char *name) { return qRound(qBound(-most, fields.number(name, 0), most)); };
     const bool wasShown = m_cropFrame->isShown();
     m_frameRatio = fields.number("ratio", 0);
     m_isFrameFound = fields.truth("isFound", false);
-    // Until the result is there, the frame stays where it was.
+    // The frame stays where it was until the result arrives.
     if (!m_isFrameFound)
         m_cropFrame->setFrame(QRect(whole("x"), whole("y"), whole("width"), whole("height")), m_frameRatio);
     if (wasShown != m_cropFrame->isShown())
         m_asked.start(0);
 }
 
-/** Where a frame lies that a worker has found. */
+/** Where a worker has placed the frame. */
 void ComparePreview::takeFoundFrame(const jobs::ReadResult &result)
 {
     const auto whole = [&result](const char *key) { return result.value(key).toInt(); };
@@ -60,7 +60,7 @@ void ComparePreview::prepareOverlay()
 
 /**
  * Hands the result to the crop preview view, which shows it at the scale of the original: in the middle of an empty picture
- * of the original's size, fitted into the bounds that the original's view has published.
+ * of the original's size, fitted into the bounds published by the original's view.
  */
 void ComparePreview::showCropped()
 {

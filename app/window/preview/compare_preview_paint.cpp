@@ -98,7 +98,7 @@ void ComparePreview::paintResult(QPainter &painter) const
     painter.restore();
 }
 
-/** A part with its own pixels, and around it, as long as that is looked at, what there is of the whole. */
+/** A part with its full pixels, and around it, while that part is viewed, what is available of the whole. */
 void ComparePreview::paintZoomed(QPainter &painter, const ZoomedPlace &place, const QImage &whole,
                                  const Part &part) const
 {
@@ -120,13 +120,13 @@ void ComparePreview::paintZoomed(QPainter &painter, const ZoomedPlace &place, co
         return;
     const QSize pixels = wholePixels(target.size() * ratio);
     if (pixels == part.image.size()) {
-        // Its pixels are those of the screen: nothing may be between them.
+        // Its pixels match those of the screen: no scaling may come between.
         QImage image = part.image;
         image.setDevicePixelRatio(ratio);
         painter.drawImage(QPointF(qRound(target.left() * ratio) / ratio, qRound(target.top() * ratio) / ratio), image);
         return;
     }
-    constexpr int squares = 2; // from here on each pixel is seen
+    constexpr int squares = 2; // from here on individual pixels are visible
     painter.setRenderHint(QPainter::SmoothPixmapTransform, pixels.width() < squares * part.image.width());
     painter.drawImage(target, part.image);
 }

@@ -10,7 +10,7 @@
 namespace window {
 
 namespace {
-/** What a setting costs is worked out when nobody changes it. */
+/** The effect of a setting on the size is computed once nobody is changing it. */
 constexpr int stillMs = 500;
 } // namespace
 
@@ -35,12 +35,12 @@ void ComparePreview::render()
         return;
     }
     askForResult();
-    // A second view of the same result does not make its file once more.
+    // Viewing the same result again does not make its file again.
     if (!m_isSingle)
         m_still.start(stillMs);
 }
 
-/** What is known of the file without looking into it, for tokens. */
+/** What is known about the file without reading it, for tokens. */
 QVariantMap ComparePreview::factValues() const
 {
     const text::TokenFacts facts = jobs::factsOfFile(m_path, 0, true);

@@ -10,7 +10,7 @@
 
 #include <algorithm>
 
-// How close both pictures are looked at, and the mouse and the keys for that.
+// The zoom of both pictures, and the mouse and keys for it.
 namespace window {
 
 namespace {
@@ -50,13 +50,13 @@ QRect ComparePreview::areaOf(Pane pane) const
     return pane == Pane::Result ? resultArea() : originalArea();
 }
 
-/** The scale of the original that is as large as its place allows. */
+/** The scale of the original at which it is as large as its area allows. */
 double ComparePreview::fittedScale() const
 {
     return m_full.isEmpty() ? 1 : shownSize(m_full, originalArea()).width() * devicePixelRatioF() / m_full.width();
 }
 
-/** A result that is smaller than its original is not made smaller than its place allows, either. */
+/** A result smaller than its original is not shown smaller than its area allows, either. */
 double ComparePreview::resultScale() const
 {
     const QSize pixels = m_wanted.size;
@@ -66,14 +66,14 @@ double ComparePreview::resultScale() const
     return std::max(m_zoom.scale(), fitted);
 }
 
-/** The frame of a crop, as far as there is a picture in it. */
+/** The frame of a crop, clipped to the picture. */
 QRectF ComparePreview::framedPart() const
 {
     const QRectF part = m_cropFrame->isShown() ? QRectF(m_cropFrame->frame()) : QRectF();
     return part.intersected(QRectF(QPointF(0, 0), m_full));
 }
 
-/** The point of the result that shows what is at a point of the original. */
+/** The point of the result that corresponds to a point of the original. */
 QPointF ComparePreview::toResult(QPointF point) const
 {
     const QRectF part = framedPart();
@@ -164,7 +164,7 @@ void ComparePreview::setZoomAt(double scale, QPointF at, Pane pane)
     const QRectF area = areaOf(pane);
     const double last = m_zoom.scale();
     m_zoom.setScale(scale);
-    // The middle stays as it is, whatever places are rounded to.
+    // The middle stays exact, whatever positions are rounded to.
     if (!before.isEmpty() && m_zoom.isOn() && at != area.center()) {
         const QPointF away = at - before.topLeft();
         const QPointF point = inside({away.x() / before.width(), away.y() / before.height()});
@@ -216,7 +216,7 @@ void ComparePreview::flip(bool on)
     update();
 }
 
-/** A title, and behind it how close it is looked at. */
+/** A title, followed by the zoom. */
 QString ComparePreview::titled(const QString &title, double scale) const
 {
     if (!(scale > 0))
@@ -274,7 +274,7 @@ void ComparePreview::mouseDoubleClickEvent(QMouseEvent *)
     Q_EMIT largePreviewRequested();
 }
 
-/** False for a key that has another meaning. */
+/** False for a key with another meaning. */
 bool ComparePreview::takeZoomKey(const QKeyEvent &event)
 {
     const QRect area = originalArea();

@@ -142,7 +142,7 @@ void CropFrameEditor::mousePressEvent(QMouseEvent *event)
     m_held = event->button() == Qt::LeftButton ? gripAt(shownFrame(), event->position(), reachPx) : Grip::None;
     m_heldFrame = m_frame;
     m_heldAt = event->position();
-    // Beside the frame the press is one on the preview itself.
+    // A press outside the frame is one on the preview itself.
     if (m_held == Grip::None)
         event->ignore();
     else
@@ -172,7 +172,7 @@ void CropFrameEditor::mouseReleaseEvent(QMouseEvent *event)
 
 bool CropFrameEditor::event(QEvent *event)
 {
-    // The arrow keys are the frame's before any menu entry or shortcut gets them.
+    // The frame gets the arrow keys before any menu entry or shortcut does.
     if (event->type() == QEvent::ShortcutOverride) {
         const auto *key = static_cast<QKeyEvent *>(event);
         if (isArrow(key->key())) {

@@ -8,7 +8,7 @@
 namespace window {
 
 /**
- * The frame of a crop over the picture that is cut: shown, and moved and sized with the mouse and, when it has the focus,
+ * The frame of a crop over the picture being cropped: shown, moved and sized with the mouse and, when it has the focus,
  * with the arrow keys.
  */
 class CropFrameEditor : public QWidget
@@ -22,9 +22,9 @@ public:
     void setFrame(const QRect &frame, double ratio);
     QRect frame() const { return m_frame; }
     bool isShown() const { return !m_frame.isEmpty(); }
-    /** What is drawn over the whole picture instead of a frame of this widget's own; null for none. */
+    /** Drawn over the whole picture instead of this widget's own frame; null for none. */
     void setOverlay(const QImage &overlay);
-    /** Where the picture of @p pixels is on the parent, and the part of that to be seen. */
+    /** Where the picture of @p pixels is on the parent, and which part of that is visible. */
     void setPlace(const QRectF &picture, const QRect &area, QSize pixels);
 
     /** The frame on this widget. */

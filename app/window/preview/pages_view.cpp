@@ -18,8 +18,8 @@ namespace window {
 
 namespace {
 
-constexpr double around = 18; // of the pages, and between two
-/** Stands for a picture that nobody has looked into yet. */
+constexpr double around = 18; // around the pages, and between two
+/** Stands for a picture that has not been read yet. */
 constexpr QSize unknownPixels(300, 200);
 constexpr QRgb edgeColor = qRgb(136, 136, 140);
 constexpr double edge = 0.5;
@@ -108,7 +108,7 @@ jobs::PageJob PagesView::job() const
     return {m_settings, int(m_paths.size()), [this](int number) { return pictureAt(number); }};
 }
 
-/** Asks for what is seen and not known. */
+/** Requests what is visible and not known yet. */
 void PagesView::look()
 {
     m_isStale = false;
@@ -199,7 +199,7 @@ void PagesView::paintEvent(QPaintEvent *)
         app::drawPage(painter, jobs::contentOf(job(), page),
                       [this](QPainter &own, const jobs::PicturePlace &place) { drawPicture(own, place); });
         painter.restore();
-        // Dark pages stand out of a dark window too.
+        // Dark pages stand out from a dark window too.
         painter.setPen(QPen(QColor(edgeColor), 1));
         painter.setBrush(Qt::NoBrush);
         painter.drawRect(area.adjusted(-edge, -edge, edge, edge));

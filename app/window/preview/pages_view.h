@@ -13,17 +13,17 @@
 namespace window {
 
 /**
- * Pages with pictures, as they will be printed: as many side by side as there is room for. Pictures come from workers as their pages come
- * into view.
+ * Pages with pictures, as they will be printed: as many side by side as fit. Pictures come from workers as their pages
+ * come into view.
  */
 class PagesView : public QWidget
 {
     Q_OBJECT
     /** How many pages there are. */
     Q_PROPERTY(int pages READ pages)
-    /** The first that is seen, from 0; one outside of them is the nearest. */
+    /** The first visible one, from 0; a number out of range means the nearest. */
     Q_PROPERTY(int first READ first WRITE setFirst)
-    /** How many are seen side by side. */
+    /** How many are visible side by side. */
     Q_PROPERTY(int side READ side)
 
 public:
@@ -34,17 +34,17 @@ public:
     void setFirst(int page);
     int side() const;
 
-    /** @param settings  see jobs::pageSettingsFrom(); those that make no sense leave what is shown as it is */
+    /** @param settings  see jobs::pageSettingsFrom(); invalid ones leave everything as it is */
     Q_INVOKABLE void showPages(const QVariantMap &settings, const QStringList &paths);
 
-    /** Whether all pictures of the pages that are seen are there. */
+    /** Whether all pictures of the visible pages have arrived. */
     bool isComplete() const { return m_asked.isEmpty() && !m_isStale; }
 
     QSize sizeHint() const override { return {480, 360}; }
     QSize minimumSizeHint() const override { return {120, 120}; }
 
 Q_SIGNALS:
-    /** Other pages are seen, or there are more or fewer of them. */
+    /** Other pages became visible, or their number changed. */
     void turned();
 
 protected:
@@ -57,7 +57,7 @@ private:
     struct Shown
     {
         QImage image;
-        QSizeF room; ///< that it was asked for, in pixels of the screen
+        QSizeF room; ///< the requested size, in screen pixels
     };
 
     double scale() const;
@@ -71,7 +71,7 @@ private:
     jobs::PageSettings m_settings;
     QStringList m_paths;
     int m_first = 0;
-    int m_angle = 0; ///< of the wheel, that has turned no page yet
+    int m_angle = 0; ///< of the wheel, not enough yet to turn a page
     bool m_isStale = true;
     QHash<QString, jobs::PagePicture> m_known;
     QHash<QString, Shown> m_shown;

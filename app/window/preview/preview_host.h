@@ -7,7 +7,7 @@
 
 namespace window {
 
-/** Stands for the scroll view around a view: its content is the place that the preview has given it. */
+/** Stands for the scroll view around a view: its content is the area that the preview has given it. */
 struct PreviewHost : views::ViewHost
 {
     explicit PreviewHost(QWidget &shown) : widget(shown) {}

@@ -10,7 +10,10 @@ namespace {
 
 constexpr int badgePaddingPx = 20;
 
-/** The text in lines that have room in so many pixels, broken between words; a word that is wider than a line is elided, no line begins with a dot. */
+/**
+ * The text in lines that fit in so many pixels, broken between words; a word wider than a line is elided, and no line
+ * begins with a dot.
+ */
 QStringList linesOf(const QString &text, const QFontMetrics &metrics, int widthPx)
 {
     QStringList lines;

@@ -7,7 +7,7 @@
 
 namespace window {
 
-/** How many bytes results will have: workers make them as a run would, and nothing is written. */
+/** How many bytes results will have: workers make them as a run would, but nothing is written. */
 class SizeEstimate : public QObject
 {
     Q_OBJECT
@@ -16,24 +16,24 @@ public:
     using QObject::QObject;
 
     /**
-     * Has the result of one picture made, after those that were asked for before.
+     * Queues the making of one picture's result.
      *
-     * @param number  what measured() calls it
-     * @param result  {recipe}, or {type: identifier, quality: code} of a conversion; other keys are passed over
+     * @param number  identifies it in measured()
+     * @param result  {recipe}, or {type: identifier, quality: code} of a conversion; other keys are ignored
      */
     Q_INVOKABLE void measure(int number, const QString &path, const QVariantMap &result);
-    /** Forgets what was asked for. */
+    /** Drops all requests. */
     Q_INVOKABLE void stop();
 
 Q_SIGNALS:
-    /** @param bytes  -1 where nothing came of it */
+    /** @param bytes  -1 if it could not be made */
     void measured(int number, double bytes);
 
 private:
     jobs::Reader m_reader;
 };
 
-/** What a worker is asked so that it says how many bytes a result has; see SizeEstimate::measure(). */
+/** The request to a worker for the size of a result; see SizeEstimate::measure(). */
 jobs::ReadRequest bytesRequest(const QString &path, const QVariantMap &result);
 
 } // namespace window

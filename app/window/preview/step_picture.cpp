@@ -12,7 +12,7 @@ namespace {
 
 constexpr int settlesMs = 200;
 
-/** The files that edits name; none where they make no sense. */
+/** The files that edits name; none if the edits are invalid. */
 QStringList filesNamedBy(const QVariantList &edits)
 {
     image::RecipeFiles named = {QStringLiteral("/")};
@@ -48,7 +48,7 @@ void StepPicture::showEdits(const QString &path, const QVariantList &edits)
     }
 }
 
-/** Nobody sees it before. */
+/** It is not visible before. */
 void StepPicture::showEvent(QShowEvent *event)
 {
     if (m_isOld && !m_path.isEmpty())

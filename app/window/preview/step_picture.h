@@ -10,7 +10,8 @@
 namespace window {
 
 /**
- * A small picture of what some edits make of a picture. It is made by a worker, when things have settled; what was shown stays until then.
+ * A small picture of the effect of some edits. It is made by a worker once things have settled; the previous one stays
+ * until then.
  */
 class StepPicture : public QWidget
 {
@@ -20,8 +21,8 @@ public:
     explicit StepPicture(QWidget *parent = nullptr);
 
     /**
-     * Shows the picture at @p path with the edits done to it, see jobs/reading/preview_edits.h; nothing for an empty path, and for what
-     * cannot be made.
+     * Shows the picture at @p path with the edits applied, see jobs/reading/preview_edits.h; nothing for an empty path,
+     * and for what cannot be made.
      */
     Q_INVOKABLE void showEdits(const QString &path, const QVariantList &edits);
 
@@ -40,7 +41,7 @@ private:
 
     QString m_path;
     QVariantList m_edits;
-    bool m_isOld = false; ///< what is shown is not what is wanted
+    bool m_isOld = false; ///< what is shown is out of date
     QImage m_image;
     QTimer m_settled;
     jobs::Reader m_reader;

@@ -18,10 +18,10 @@ namespace {
 
 constexpr int rowHeightPx = 24;
 constexpr int leastValuePx = 90;
-/** Before the name of what pictures beside one another do not share. */
+/** Precedes the name of a property in which the compared pictures differ. */
 const QString differs = QStringLiteral("≠ ");
 
-/** "Exposure time: 1/250 s", and below a branch each of its lines, further in. */
+/** "Exposure time: 1/250 s", and below a branch each of its lines, indented. */
 void addLines(QStringList &lines, const QTreeWidgetItem &item, int depth)
 {
     QStringList values;
@@ -65,7 +65,7 @@ void PropertyTree::addMenu()
         addAction(text, this, [this, form = form] { copyPlace(form); })->setObjectName(form);
 }
 
-/** Of pictures beside one another, what any of them has. */
+/** For compared pictures, the properties that any of them has. */
 void PropertyTree::add(const QList<QVariantMap> &pictures, QTreeWidgetItem *above)
 {
     QMap<QString, bool> names; // and whether it is a branch
@@ -115,7 +115,7 @@ void PropertyTree::useColumns(const QStringList &paths)
         headings << (paths.size() > 1 ? path.section(u'/', -1) : tr("Value"));
     setColumnCount(int(headings.size()));
     setHeaderLabels(headings);
-    // Names take their share, and values the rest, evenly.
+    // Names get their share of the width, and values the rest, evenly.
     const int values = qMax(1, int(paths.size()));
     const int room = qMax(0, viewport()->width() - header()->sectionSize(0));
     for (int column = 1; column < values; ++column)
@@ -169,7 +169,7 @@ bool PropertyTree::hasWord(const QTreeWidgetItem &item, const QString &word)
     return false;
 }
 
-/** Shown is what matches, what lies below a name that matches, and the way to it. */
+/** Shown are matches, everything below a matching name, and the path to them. */
 bool PropertyTree::filter(QTreeWidgetItem *item, bool isShown)
 {
     bool matches = true;
@@ -181,7 +181,7 @@ bool PropertyTree::filter(QTreeWidgetItem *item, bool isShown)
         any = filter(item->child(i), isShown) || any;
     item->setHidden(!any);
     if (!m_words.isEmpty() && any && item->childCount() > 0) {
-        const QStringList closed = m_closed; // found is shown, whatever was closed before
+        const QStringList closed = m_closed; // matches are shown, even inside closed branches
         item->setExpanded(true);
         m_closed = closed;
     }

@@ -10,16 +10,17 @@
 namespace window {
 
 /**
- * The properties of one picture as a tree with names and values, units in words; searched, and copied by value or branch.
+ * The properties of one picture as a tree of names and values, with units in words; searchable, and copied by value or
+ * branch.
  *
- * What was opened and closed stays so from picture to picture.
+ * Opened and closed branches stay so from picture to picture.
  */
 class PropertyTree : public QTreeWidget
 {
     Q_OBJECT
     /** How many values are shown. */
     Q_PROPERTY(int shownCount READ shownCount)
-    /** Whether the picture tells where it was taken. */
+    /** Whether the picture says where it was taken. */
     Q_PROPERTY(bool hasPlace READ hasPlace)
 
 public:
@@ -28,22 +29,25 @@ public:
     int shownCount() const;
     bool hasPlace() const { return m_place.has_value(); }
 
-    /** Shows the properties of the file at @p path; false, and nothing shown, for what is no picture. */
+    /** Shows the properties of the file at @p path; false, with nothing shown, if it is no picture. */
     Q_INVOKABLE bool showFile(const QString &path);
     /**
-     * Shows the properties of several files beside one another, a column each; a property that they do not share has a mark before its
-     * name. False, and nothing shown, where one of them is no picture.
+     * Compares the properties of several files, a column each; a property in which they differ has a mark before its
+     * name. False, with nothing shown, if one of them is no picture.
      */
     Q_INVOKABLE bool showFiles(const QStringList &paths);
     /** How many properties have the mark. */
     Q_INVOKABLE int differenceCount() const;
     /** Shows the values in whose name or words every word of @p text occurs, in any case of letters. */
     Q_INVOKABLE void look(const QString &text);
-    /** Puts the chosen value, or all of the chosen branch, on the clipboard; returns how many lines. */
+    /** Copies the chosen value, or the whole chosen branch, to the clipboard; returns how many lines. */
     Q_INVOKABLE int copyChosen() const;
-    /** Puts the place on the clipboard, in "degrees" or in "minutes", and returns it; see placeWords(). */
+    /** Copies the location to the clipboard, in "degrees" or in "minutes", and returns it; see placeWords(). */
     Q_INVOKABLE QString copyPlace(const QString &form) const;
-    /** The value in words of a property, by the names shown: ["Exif", "F-number"]; "" where it is not there. For tests and scripts. */
+    /**
+     * The value in words of a property, by the names shown: ["Exif", "F-number"]; "" if it does not exist. For tests
+     * and scripts.
+     */
     Q_INVOKABLE QString words(const QStringList &names) const;
 
 protected:

@@ -7,7 +7,7 @@ namespace window {
 class SlotList;
 struct Slot;
 
-/** Draws a slot: its key, its label above where it is or what is wrong, and how many pictures went there. */
+/** Draws a slot: its key, and its label above its path or problem, and how many pictures were put there. */
 class SlotDelegate : public QStyledItemDelegate
 {
     Q_OBJECT

@@ -24,7 +24,7 @@ namespace {
 constexpr int litMs = 260;
 constexpr int slotHeightPx = 44;
 constexpr int leastShown = 5;
-/** With more slots than fit they stand in two columns, where these are wide enough to be read. */
+/** If the slots do not fit they are arranged in two columns, provided these are wide enough to be read. */
 constexpr int narrowestColumnPx = 136;
 
 QStringList foldersIn(const QMimeData *data)
@@ -92,8 +92,8 @@ QSize SlotList::minimumSizeHint() const
     return {180, slotHeightPx * qBound(1, m_rows.count(), leastShown) + 4};
 }
 
-// Up, Down and F2 belong to the list while it has the focus, also where a window has other uses for them. To the left and
-// right nothing is to be chosen.
+// While it has the focus the list handles Up, Down and F2, even in a window that uses them otherwise. Left and Right
+// have no meaning here.
 bool SlotList::event(QEvent *event)
 {
     if (event->type() == QEvent::ShortcutOverride) {
@@ -116,7 +116,7 @@ void SlotList::makeShortcuts()
         delete m_shortcuts.takeLast();
     for (int row = int(m_shortcuts.size()); row < m_rows.count(); ++row) {
         auto *shortcut = new QShortcut(this);
-        // A key that is held down sorts one picture, not thirty.
+        // Holding down a key sorts one picture, not thirty.
         shortcut->setAutoRepeat(false);
         shortcut->setEnabled(m_active);
         connect(shortcut, &QShortcut::activated, this, [this, row] { Q_EMIT slotChosen(row); });
@@ -178,7 +178,7 @@ void SlotList::resizeEvent(QResizeEvent *event)
 
 void SlotList::keyPressEvent(QKeyEvent *event)
 {
-    // The field of a label hands its Return on, and that chooses nothing.
+    // The label field passes its Return on; that must not choose anything.
     const bool isEnter = (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && state() != EditingState;
     if (isEnter && m_active && currentIndex().isValid() && event->modifiers() == Qt::NoModifier)
         Q_EMIT slotChosen(current());

@@ -11,17 +11,17 @@ class QShortcut;
 namespace window {
 
 /**
- * Folders as slots with keys. A key, a click or Enter chooses a slot; F2 edits its label; slots are dragged to another place, and
- * folders that are dropped on the list become new ones. What that does is the script's affair.
+ * Folders as slots with keys. A key, a click or Enter chooses a slot; F2 edits its label; slots can be dragged to
+ * another place, and folders dropped on the list become new ones. The script decides what each of these does.
  *
- * The keys work wherever the focus is in the window, but in fields that take text, while the list is visible and active.
+ * While the list is visible and active the keys work wherever the focus is in the window, except in text fields.
  */
 class SlotList : public QListView
 {
     Q_OBJECT
     Q_PROPERTY(bool active READ isActive WRITE setActive)
     Q_PROPERTY(int count READ count)
-    /** The row that the menu and the keyboard work on; -1 where there is none. */
+    /** The row that the menu and the keyboard act on; -1 if there is none. */
     Q_PROPERTY(int currentRow READ current)
 
 public:
@@ -34,10 +34,10 @@ public:
 
     /** @param slots  [{key ("1", "A", "Shift+A"), label, note, problem, count}, ...], see window::Slot */
     Q_INVOKABLE void setSlots(const QVariantList &slots);
-    /** The entries of the menu of a slot and what they are called; "-" is a separator. */
+    /** The entries of a slot's menu and their texts; "-" is a separator. */
     Q_INVOKABLE void setMenu(const QStringList &texts, const QStringList &words);
     Q_INVOKABLE void editLabel(int row);
-    /** Lights a slot up for a moment, because something went there. */
+    /** Highlights a slot for a moment, because something was put there. */
     Q_INVOKABLE void light(int row);
     Q_INVOKABLE void reveal(int row);
     Q_INVOKABLE void choose(int row) { setCurrentIndex(m_rows.index(row)); }
@@ -53,11 +53,11 @@ public:
 Q_SIGNALS:
     void slotChosen(int row);
     void labelEdited(int row, const QString &label);
-    /** A slot was dragged so that it should stand at @p to. */
+    /** A slot was dragged to the position @p to. */
     void slotMoved(int from, int to);
     void foldersDropped(const QStringList &paths);
     void menuChosen(int row, const QString &word);
-    /** Another slot is the one that the menu and the keyboard work on. */
+    /** Another slot is now the one that the menu and the keyboard act on. */
     void currentSlotChanged(int row);
 
 protected:

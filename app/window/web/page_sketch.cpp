@@ -98,7 +98,7 @@ QList<QRectF> PageSketch::places(const QString &style, const QList<double> &rati
     return style == QStringLiteral("rows") ? rowPlaces(ratios, width, below) : storyPlaces(ratios, width, below);
 }
 
-// Both as large as they fit, the one that a reader by daylight sees first.
+// Both as large as possible; the one seen in daylight comes first.
 void PageSketch::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);

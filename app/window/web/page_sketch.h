@@ -7,13 +7,13 @@
 namespace window {
 
 /**
- * A sketch of a web page: how its title, text and pictures lie in the style and the colours of the settings, by daylight and, beside it, in
- * the dark. No picture is looked into.
+ * A sketch of a web page: how title, text and pictures are laid out in the style and colours of the settings, light
+ * and, beside it, dark. No picture is read.
  */
 class PageSketch : public QWidget
 {
     Q_OBJECT
-    /** "grid", "rows" or "story"; any other word is passed over. */
+    /** "grid", "rows" or "story"; any other word is ignored. */
     Q_PROPERTY(QString style READ style WRITE setStyle)
     /** "#rrggbb"; see text::pageColors(). */
     Q_PROPERTY(QString lightPaper READ lightPaper WRITE setLightPaper)
@@ -41,10 +41,12 @@ public:
     bool hasCaptions() const { return m_hasCaptions; }
     void setCaptions(bool on) { change(m_hasCaptions, on); }
 
-    /** Width by height of the first pictures; usual ones where none are given, or one is not above 0. */
+    /** Width by height of the first pictures; typical ones if none are given, or one is not above 0. */
     Q_INVOKABLE void setRatios(const QVariantList &ratios);
 
-    /** Where the pictures lie in a page of that width, in pixels; see the style. The last row of "rows" is not filled. */
+    /**
+     * Where the pictures are in a page of that width, in pixels; see the style. The last row of "rows" is not filled.
+     */
     static QList<QRectF> places(const QString &style, const QList<double> &ratios, double width, bool hasCaptions);
 
     QSize sizeHint() const override { return {300, 170}; }
