@@ -27,7 +27,7 @@ function foundPatterns() {
     return typeof folder === "string" && folder !== "" ? files.collect([folder], PICTURE_INPUT, [], []).paths : [];
 }
 
-// The path whose file has the name of that one; undefined where there is none.
+// The path whose file has the same name; undefined if there is none.
 function named(paths, path) {
     return paths.find((other) => splitPath(other).name === splitPath(path).name);
 }

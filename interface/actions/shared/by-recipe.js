@@ -59,7 +59,7 @@ function remarksOn(photo, told) {
                           isCutOff(told.cut) ? [qsTr("smaller than asked for")] : []);
 }
 
-// What the result lacks, in sentences.
+// What the result will lack, in sentences.
 function notesOn(told) {
     return told.losses.concat(isCutOff(told.cut) ? [qsTr("The frame extends past the edge of the picture")] : []);
 }

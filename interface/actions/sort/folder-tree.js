@@ -73,7 +73,7 @@ export class FolderBook {
         const there = this.folderIn(node, wanted);
         const path = joinPath(node.path, there === "" ? wanted : there);
         const known = this.bases[path];
-        if (known !== undefined) { // a base that lies below another one
+        if (known !== undefined) { // a base that is below another one
             known.parent = node;
             known.name = splitPath(path).name;
             return known;

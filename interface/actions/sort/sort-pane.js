@@ -188,7 +188,7 @@ export class SortPane extends Pane {
         this.changed();
     }
 
-    /** Shows what becomes of the current file; there is nothing to preview. */
+    /** Shows what happens to the current file; there is nothing to preview. */
     show(photo, services) {
         this.photo = photo;
         this.services = services;

@@ -19,7 +19,7 @@ export function idsInScope(window, settings) {
     return ticked.filter((id) => chosen[id] === true);
 }
 
-// What each picture says of itself is asked; known(path) says what is known of it, or null.
+// Requests the metadata of each picture; known(path) is what is cached, or null.
 function* tasksFor(window, ids, known) {
     for (let i = 0; i < ids.length; i += 1) {
         const photo = window.pictures.photo(ids[i]);
@@ -153,7 +153,7 @@ export class FieldPlan extends LivePlan {
             known: (path) => this.statedOf(path),
             keep: (path, said) => { known[path] = said; },
         });
-        return planning; // the engine loses a generator that is called where it is returned
+        return planning; // the engine loses a generator that is returned by the call that creates it
     }
 
     // Answers to requests of an abandoned plan are dropped.

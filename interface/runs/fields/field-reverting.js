@@ -51,7 +51,7 @@ function* tasksOf(files, undone) {
  * was logged, and null while it waits; it returns a message, or "".
  *
  * @param asker   see FieldAsker
- * @param goesOn  false if it is to stop after the pictures that are in work
+ * @param goesOn  false if it is to stop after the pictures in progress
  */
 export function* revertingFields(asker, files, undone, goesOn) {
     const run = newRunName();

@@ -6,7 +6,7 @@ import { FieldWork } from "quorlin/files";
 import { recipes } from "quorlin/recipes";
 import { guard } from "../../lib/guard.js";
 
-// A worker need not wait for its next file while the answer to another is written down.
+// A worker need not wait for its next file while another answer is being recorded.
 function mostAtOnce() {
     return recipes.processors() + 1;
 }
@@ -37,11 +37,13 @@ export class FieldAsker {
     }
 
     /**
-     * Yields {task, said} for each task, as answers come, and null while it waits. Tasks that write the same file follow one another.
+     * Yields {task, said} for each task, as answers arrive, and null while it waits. Tasks that write the same file
+     * follow one another.
      *
-     * @param tasks   their generator: {ask(work), which asks something of a FieldWork, or said where that is known; file that is written,
+     * @param tasks   their generator: {ask(work), which asks something of a FieldWork, or said if known; the file that
+     * is written,
      *                "" for none}
-     * @param goesOn  false where no more are to be begun; those that are begun are answered
+     * @param goesOn  false if no more are to be started; those that were started are answered
      */
     * each(tasks, goesOn) {
         const open = [];
@@ -101,7 +103,8 @@ export class FieldAsker {
         return { task: task, work: work };
     }
 
-    // The first of them whose answer is there: what a file was given is written down at once, whatever another one takes.
+    // The first of them whose answer has arrived: a change of a file is recorded at once, however long another one
+    // takes.
     answered(open) {
         for (const begun of open) {
             const said = begun.work === null ? begun.task.said : begun.work.take();

@@ -1,6 +1,6 @@
-// Which properties of pictures stand in columns of the list, and which pictures it shows: rows of property, comparison and value, a typed
-// text, and filters that are kept under names.
-// Services used: defaults (kept filters and columns).
+// Which properties of pictures are columns of the list, and which pictures it shows: rows of property, comparison and
+// value, a typed text, and named filters.
+// Services used: defaults (saved filters and columns).
 
 import { defaults } from "quorlin/defaults";
 import { shell } from "quorlin/shell";
@@ -26,7 +26,7 @@ function needsValue(comparison) {
     return comparison !== "empty" && comparison !== "stated";
 }
 
-/** The rules of rows that say enough to be used. */
+/** The rules of rows that are complete. */
 export function rulesOf(rows) {
     return rows.filter((row) => row.property !== "" && (row.value.trim() !== "" || !needsValue(row.comparison)))
         .map((row) => ({ property: row.property, comparison: row.comparison, value: row.value }));
@@ -36,7 +36,7 @@ function emptyRow() {
     return { property: "", comparison: "is", value: "" };
 }
 
-// What was kept may have been written by another version, or by hand.
+// Saved settings may have been written by another version, or by hand.
 function keptFilters() {
     return recall(defaults, FILTERS_KEY, { filters: [] }).filters.filter((each) => each !== null &&
         typeof each === "object" && typeof each.name === "string" && typeof each.text === "string" &&
@@ -45,7 +45,7 @@ function keptFilters() {
             typeof rule.value === "string" && comparisons().some((one) => one[0] === rule.comparison)));
 }
 
-/** Gives the list the columns that were kept. */
+/** Gives the list the saved columns. */
 export function restoreColumns(list) {
     const names = recall(defaults, COLUMNS_KEY, { names: [] }).names.filter((name) => typeof name === "string");
     const words = {};
@@ -123,7 +123,7 @@ export class ListProperties {
         return this.words[name] || name.slice(name.lastIndexOf("|") + 1);
     }
 
-    // The menu is that of the current picture, which may be another one now. Row 0 stands for the columns.
+    // The menu is that of the current picture, which may be another one now. Row 0 represents the columns.
     ask(control, row) {
         const offered = this.list.offeredProperties();
         offered.forEach((each) => { this.words[each.name] = each.words; });
@@ -175,7 +175,7 @@ export class ListProperties {
         this.apply();
     }
 
-    // Esc and the bar over the list show all pictures too.
+    // Esc and the bar above the list show all pictures too.
     filterChanged() {
         if (!this.list.filtered && (rulesOf(this.rows).length > 0 || this.control("propText").text !== "")) {
             this.rows = [emptyRow()];
