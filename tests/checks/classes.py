@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
-"""classes.py ROOT: no two classes of C++ have one name.
+"""classes.py ROOT: no two C++ classes have the same name.
 
-The compiler sees one file at a time and says nothing where two files that are linked into one program define different classes of the
-same name: the linker keeps the constructor of one of them for both. Classes that only their own file uses stand in a namespace without
-a name.
+The compiler sees one file at a time and reports nothing if two files that are linked into one program define different
+classes of the same name: the linker keeps the constructor of one of them for both. Classes that only their own file
+uses belong in an unnamed namespace.
 """
 import re
 import sys
@@ -16,7 +16,7 @@ CLASS = re.compile(r"(?<!enum )\b(?:class|struct|union)\s+(?:Q_\w+_EXPORT\s+)?([
 
 
 def classes(text):
-    """(line, full name) of every class that other files could meet: not inside of others, of functions or of nameless namespaces."""
+    """(line, full name) of every class visible to other files: not inside others, functions or unnamed namespaces."""
     code = re.sub(r"^#.*$", lambda m: " " * len(m.group()), tree.code_only(text), flags=re.M)
     opened = {m.end() - 1: m.group(1) or "" for m in NAMESPACE.finditer(code)}
     defined = {m.end() - 1: (m.start(), m.group(1)) for m in CLASS.finditer(code)}

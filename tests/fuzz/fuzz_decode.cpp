@@ -65,7 +65,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     store(QByteArray(reinterpret_cast<const char *>(data), qsizetype(size)));
     const platform::PictureFacts facts = platform::pictureFacts(scratchFile());
     const auto source = platform::ImageSource::open(scratchFile());
-    // The facts of a JPEG, and of a raw file, are told without the decoder.
+    // The facts of a JPEG, and of a raw file, are read without the decoder.
     const bool isByDecoder = !facts.pixels.isEmpty() && facts.typeIdentifier != QLatin1String("public.jpeg");
     require(source || !isByDecoder);
     (void)platform::readUserComment(scratchFile());

@@ -1,6 +1,6 @@
 // measure_reactions FOLDER: the window converts all pictures of a folder to JPEG, PNG and JPEG 2000, while somebody moves the mouse and types;
-// prints how long it took until each move and each key was dealt with and shown. Fails where one of a hundred takes 50 ms, or any 100 ms.
-// For bench/window.
+// prints how long it took until each move and each key was handled and shown. Fails if one in a hundred takes 50 ms, or
+// any takes 100 ms. For bench/window.
 
 #include "tests/gui/support/window_driver.h"
 

@@ -27,7 +27,7 @@ double secondsOf(const timeval &time)
 /** CPU seconds of a process that lives, from its line in /proc. */
 double cpuOf(const QByteArray &process)
 {
-    constexpr int userTime = 11; // counted from behind the name
+    constexpr int userTime = 11; // counted from after the name
     QFile file(QStringLiteral("/proc/%1/stat").arg(QString::fromLatin1(process)));
     if (!file.open(QIODevice::ReadOnly))
         return 0;

@@ -529,7 +529,8 @@ private:
     std::unique_ptr<WindowDriver> m_driver;
 };
 
-// From the key to the next picture on the screen, with pictures of 24 megapixels; the bound is generous, the figure is told.
+// From the key to the next picture on the screen, with pictures of 24 megapixels; the bound is generous, the figure is
+// printed.
 void Hand::theNextPictureIsThereWithoutAWait()
 {
     QImage large(6000, 4000, QImage::Format_RGB32);

@@ -108,7 +108,7 @@ private Q_SLOTS:
         auto *button = m_driver->control<QPushButton>(QTest::currentDataTag());
         QCOMPARE(button->text(), QStringLiteral("?"));
         QVERIFY(!button->accessibleName().isEmpty());
-        // The first text leaves nothing behind in the second.
+        // The first text leaves no trace in the second.
         m_driver->control<QPushButton>("infoSimulation")->click();
         m_driver->click("infoClose");
         button->click();

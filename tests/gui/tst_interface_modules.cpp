@@ -107,7 +107,7 @@ private Q_SLOTS:
             QTest::newRow(pane) << QStringList{base + QStringLiteral(".js")}
                                 << QStringList{base + QStringLiteral(".ui")};
         }
-        // What all panes have in common must be in each; one stands for all.
+        // What all panes share must be in each; one represents all.
         QTest::newRow("pane") << QStringList{QStringLiteral("actions/shared/pane.js")}
                               << QStringList{QStringLiteral("actions/resize/resize-pane.ui")};
     }
@@ -219,7 +219,7 @@ private Q_SLOTS:
     }
 
 private:
-    /** What a module with this text fails with; empty where it does not. */
+    /** The error of a module with this text; empty if it has none. */
     QString runScript(QString text)
     {
         QTemporaryDir folder;

@@ -44,7 +44,7 @@ QStringList sameEverywhere()
 
 } // namespace
 
-/** Every window in every language: nothing is cut off, nothing lies on something else, nothing stays English. */
+/** Every window in every language: nothing is cut off, nothing overlaps, nothing stays English. */
 class Languages : public QObject
 {
     Q_OBJECT

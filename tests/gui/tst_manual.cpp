@@ -148,7 +148,7 @@ private Q_SLOTS:
         QVERIFY(drawn.width() > 200 && drawn.width() <= 760);
         const int grey = qGray(drawn.pixel(drawn.width() / 2, drawn.height() / 2));
         QVERIFY2(grey > 90 && grey < 165, qPrintable(QString::number(grey)));
-        // By keyboard: the picture is a link behind those of the text.
+        // By keyboard: the picture is a link after those of the text.
         view()->setFocus();
         for (int i = 0; i < 3; ++i)
             QTest::keyClick(view(), Qt::Key_Tab);

@@ -540,7 +540,7 @@ void TestMetadataPage::saysThatAFileCannotBeWritten()
     QCOMPARE(commentOf(path("a.jpg")), QStringLiteral("new"));
 }
 
-// What it takes is told, and bounded nowhere: the machines that run this are shared.
+// The duration is printed but not limited: the machines that run this are shared.
 void TestMetadataPage::tenThousandEditsStayFluid()
 {
     constexpr int count = 10000;

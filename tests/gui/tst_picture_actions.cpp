@@ -413,7 +413,7 @@ private Q_SLOTS:
         m_driver->show(qPrintable(action));
         save("a.png", quarters({40, 30}));
         m_driver->drop({m_pictures});
-        // Notes of the plan may move what lies below them.
+        // Notes of the plan may move what is below them.
         QVERIFY2(m_driver->waitFor([this] {
             return !m_driver->cell(0, PictureModel::NewName).isEmpty() ||
                    !m_driver->control<QWidget>("startButton")->isEnabled();
@@ -439,7 +439,7 @@ private Q_SLOTS:
         QStringList visited;
         int lastRow = -1;
         for (int i = 0; i < 60 && !wanted.isEmpty(); ++i) {
-            // To the control itself: what lies around it scrolls to the next one.
+            // To the control itself: its surroundings scroll to the next one.
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
             QWidget *now = QApplication::focusWidget();
             visited.append(now ? now->objectName() : QString());

@@ -350,7 +350,7 @@ private Q_SLOTS:
         m_driver->control<window::SegmentedControl>("under")->setSelectedSegment(1);
         QVERIFY(m_driver->control<QComboBox>("pattern")->findData(patterns + QStringLiteral("/paper.png")) >= 0);
         QCOMPARE(m_driver->control<QComboBox>("pattern")->findText(QStringLiteral("paper.png")), -1);
-        // The preset means the pattern of that name, wherever it lies.
+        // The preset means the pattern of that name, wherever it is.
         m_driver->choose("preset", QStringLiteral("=On paper"));
         QCOMPARE(chosen(), QStringLiteral("On paper"));
         QCOMPARE(m_driver->control<QComboBox>("pattern")->currentData().toString(),

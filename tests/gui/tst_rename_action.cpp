@@ -179,7 +179,7 @@ private Q_SLOTS:
     {
         files({"c.jpg", "d.jpg"});
         m_driver->drop({m_folder});
-        // "c" becomes "d" and the other way round, by way of a letter that neither has.
+        // "c" becomes "d" and vice versa, by way of a letter that neither has.
         replaceBy("c", "#");
         replaceBy("d", "c");
         replaceBy("#", "d");

@@ -42,7 +42,7 @@ void whenOpen(const std::function<void(window::SaveDialog &)> &work)
     });
 }
 
-/** Looks at the next message, which it must close. */
+/** Visits the next message, which it must close. */
 void whenTold(const std::function<void(QMessageBox &)> &look)
 {
     QTimer::singleShot(30, [look] {

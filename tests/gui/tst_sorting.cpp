@@ -371,7 +371,10 @@ private Q_SLOTS:
     }
 
 private:
-    /** Makes a change, waits until the tree shows it, and tells how long that and the longest pause of the window took. */
+    /**
+     * Makes a change, waits until the tree shows it, and reports how long that and the longest pause of the window
+     * took.
+     */
     void measure(const char *what, const std::function<void()> &change, int folders)
     {
         qint64 longest = 0;

@@ -9,7 +9,7 @@
 #include <QPlainTextEdit>
 #include <QTest>
 
-/** A comment that was typed is written, or thrown away by whoever typed it; nothing else loses it. */
+/** A typed comment is written, or discarded by its author; nothing else loses it. */
 class TestTypedComments : public QObject
 {
     Q_OBJECT

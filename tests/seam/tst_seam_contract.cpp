@@ -157,7 +157,7 @@ Declarations registered()
     return all;
 }
 
-/** The parts of a text between separators that stand in no bracket. */
+/** The parts of a text between separators that are not in brackets. */
 QStringList partsOf(const QString &text, QChar separator)
 {
     QStringList parts = {QString()};

@@ -64,7 +64,7 @@ void TestSeamDefaults::readsWhatEarlierVersionsNested()
     QCOMPARE(read, QVariant(QVariantList{QVariantList{1, QStringLiteral("@x")}, QStringLiteral("a")}));
 }
 
-/** The settings folder is a file here, so that nothing can be written whoever the user is. */
+/** The settings folder is a file here, so that nothing can be written by any user. */
 void TestSeamDefaults::holdsWhatCannotBeWritten()
 {
     QTemporaryDir folder;

@@ -6,7 +6,7 @@
 #include <QJSEngine>
 #include <QTest>
 
-/** Says something to whoever listens. */
+/** Emits a signal with a value. */
 class Sender : public QObject
 {
     Q_OBJECT

@@ -5,7 +5,7 @@
 #include <QJSEngine>
 #include <QTest>
 
-/** The objects that stand for services in scripts: what they let through, and how long what they hold lives. */
+/** The objects that represent services in scripts: what they let through, and how long what they hold lives. */
 class TestSeamFacade : public QObject
 {
     Q_OBJECT

@@ -5,7 +5,7 @@
 #include <QFile>
 #include <QTest>
 
-/** The modules of jobs and windows behind the facade: nothing is converted in silence there either. */
+/** The modules of jobs and windows behind the facade: nothing is converted silently there either. */
 class TestSeamModules : public QObject
 {
     Q_OBJECT

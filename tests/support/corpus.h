@@ -7,7 +7,7 @@
 
 /**
  * Where the collection of real pictures is: the folder that QUORLIN_TEST_CORPUS names when the test runs, else the one
- * that the build was told of. It is an addition to the pictures of the tests themselves, and may not be there.
+ * that the build was told of. It is an addition to the pictures of the tests themselves, and may be missing.
  */
 inline QString corpusFolder()
 {
@@ -57,7 +57,7 @@ inline QStringList picturesThere(std::initializer_list<const char *> names)
     return there;
 }
 
-/** Leaves a test function that reads the collection of real pictures where that is not there. */
+/** Leaves a test function that reads the collection of real pictures if that is missing. */
 #define SKIP_WITHOUT_CORPUS()                                                                                          \
     do {                                                                                                               \
         if (!corpusIsThere())                                                                                          \

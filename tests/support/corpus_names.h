@@ -16,7 +16,7 @@ struct CorpusName
     QString upper;
 };
 
-/** The text behind the escapes of the corpus: \\ \t \n \r. */
+/** The text represented by the escapes of the corpus: \\ \t \n \r. */
 inline QString unescaped(const QString &text)
 {
     QString result;
@@ -31,7 +31,7 @@ inline QString unescaped(const QString &text)
     return result;
 }
 
-/** Those of the tests themselves, and those of the corpus where it is there. */
+/** Those of the tests themselves, and those of the corpus if it exists. */
 inline QList<CorpusName> corpusNames()
 {
     QList<CorpusName> names;

@@ -9,7 +9,7 @@
 /** Pictures that state when and with what they were taken. */
 namespace pictures {
 
-/** @param date  "2026:08:14 10:20:30"; none is stated where it is empty, and no camera where that is */
+/** @param date  "2026:08:14 10:20:30"; if it is empty none is stated, and likewise the camera */
 inline QByteArray stamped(const QByteArray &jpeg, const QString &date, const QString &model)
 {
     QVariantMap exif;

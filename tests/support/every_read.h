@@ -19,7 +19,7 @@ struct EveryRead
 {
     enum class Fail { Once, FromThenOn };
 
-    static inline int count = 0; ///< reads of the file since it was told
+    static inline int count = 0; ///< reads of the file since this was reset
 
     /** The @p number-th read of the file from now on fails, and those after it as @p fail says. */
     static void spoil(const QString &path, int number, Fail fail)

@@ -20,7 +20,7 @@ struct Row
     int depth = 0; ///< bits of a channel or of an index; 0 for drawings
     QString colourModel;
     bool hasAlpha = false;
-    double dpi = 0; ///< 0 where none is stated
+    double dpi = 0; ///< 0 if none is stated
     int images = 0;
     QString profile;
     bool isDecodable = false;
@@ -50,7 +50,9 @@ inline Row rowFrom(const QStringList &cell)
     return row;
 }
 
-/** The rows of one table; the folder of the picture is put before its name, and @p mark before the name that is told. */
+/**
+ * The rows of one table; the folder of the picture is prefixed to its name, and @p mark to the name that is reported.
+ */
 inline QList<Row> tableOf(const QString &pictures, const QString &mark)
 {
     QFile file(pictures + QStringLiteral("/EXPECT.tsv"));
@@ -70,8 +72,8 @@ inline QList<Row> tableOf(const QString &pictures, const QString &mark)
 }
 
 /**
- * The corpus, where it is there, and the pictures of the tests themselves, which always are and whose names begin with
- * "own/". @p folder picks those of one folder of either, or one picture.
+ * The corpus, if it exists, and the pictures of the tests themselves, which always exist and whose names begin with
+ * "own/". @p folder selects those of one folder of either, or one picture.
  */
 inline QList<Row> rows(const QString &folder = {})
 {

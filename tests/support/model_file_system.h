@@ -37,7 +37,7 @@ private:
     int m_burnt = 0;
 };
 
-/** A file system in memory. What lies below "/other" is on another disk. */
+/** A file system in memory. What is below "/other" is on another disk. */
 class ModelFileSystem : public platform::FileSystem
 {
 public:
@@ -424,7 +424,7 @@ private:
     {
         return !otherIsFat || deviceOf(path) == 1 || !platform::lastPathComponent(path).contains(u':');
     }
-    /** The path with the links above its last component followed, and that one too where it is a folder's. */
+    /** The path with the links above its last component resolved, and also that one if it is a folder's. */
     QString canonical(const QString &path, int depth = 0) const
     {
         if (!followsLinks || path.size() < 2 || depth > mostLinks)

@@ -4,7 +4,8 @@
 
 /**
  * Keeps all settings in @p folder from now on. The toolkit asks the environment for their place only once in a process, so a
- * variable set later would leave them where a test before put them, or with whoever runs the tests.
+ * variable set later would leave them where an earlier test put them, or among the settings of the user who runs the
+ * tests.
  */
 inline void keepSettingsIn(const QString &folder)
 {

@@ -65,7 +65,7 @@ private:
     QTemporaryDir m_home;
 };
 
-/** 62 values of which the first three are given; the rest is "value 3" to "value 61". */
+/** 62 values of which the first three are given; the rest are "value 3" to "value 61". */
 inline QStringList presetRow(const QString &name, const QString &process, const QString &action)
 {
     QStringList row = {name, process, action};

@@ -13,7 +13,10 @@
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
-/** A language that nobody speaks: English in brackets, with accents, and 40 % longer. What stands outside of brackets is not translated. */
+/**
+ * A language that nobody speaks: English in brackets, with accents, and 40 % longer. What is outside brackets is not
+ * translated.
+ */
 namespace pseudo {
 
 constexpr double longer = 1.4;
@@ -27,7 +30,7 @@ inline QChar accented(QChar letter)
     return at < 0 ? letter : signs.at(at);
 }
 
-/** A word with as many letters more as are owed; the last vowel stands several times. */
+/** A word lengthened by the letters due; its last vowel is repeated. */
 inline QString stretched(const QString &word, double &owed)
 {
     QString out;
@@ -95,7 +98,7 @@ inline bool runTool(const QString &name, const QStringList &arguments)
     return QProcess::execute(QLibraryInfo::path(QLibraryInfo::BinariesPath) + u'/' + name, arguments) == 0;
 }
 
-/** Writes the translations of the messages of a .ts file; contexts, texts and what tells texts apart stay. */
+/** Writes the translations of the messages of a .ts file; contexts, texts and disambiguations stay. */
 inline void translateMessages(QXmlStreamReader &from, QXmlStreamWriter &to)
 {
     QString source;

@@ -23,7 +23,7 @@ template<typename T> void appendBig(QByteArray &bytes, T number)
     bytes.append(text, sizeof number);
 }
 
-/** The numbers one behind the other, low bytes first. */
+/** Consecutive little-endian numbers. */
 template<typename T> QByteArray packed(const QList<T> &numbers)
 {
     QByteArray bytes;
@@ -38,7 +38,7 @@ struct TiffKind
     int bits = 8;
     int samples = 3;
     int sampleFormat = 1; ///< 1 without, 2 with sign, 3 floating point
-    QList<int> others;    ///< meanings of the samples behind the colours
+    QList<int> others;    ///< meanings of the samples after the colours
 };
 
 /** A TIFF file of @p width pixels a row in one strip. */
@@ -101,11 +101,11 @@ struct PsdKind
     int mode = 3;
     int bits = 8;
     int channels = 3;
-    int layers = 0; ///< below 0: the first channel behind the colours is transparency
+    int layers = 0; ///< below 0: the first channel after the colours is transparency
     bool isLarge = false;
 };
 
-/** A Photoshop file; @p planes are the channels one behind the other, as they are stored. */
+/** A Photoshop file; @p planes are the consecutive channels, as they are stored. */
 inline QByteArray psd(const PsdKind &kind, int width, int height, const QByteArray &planes, bool inRuns = false)
 {
     QByteArray file("8BPS");

@@ -7,7 +7,7 @@
 /** Small pictures that tests make themselves. */
 namespace pictures {
 
-/** Every pixel tells where it is: red is x, green is y, blue their sum, modulo 256. */
+/** Every pixel encodes its position: red is x, green is y, blue their sum, modulo 256. */
 inline QImage gradient(int width, int height)
 {
     QImage image(width, height, QImage::Format_RGB32);

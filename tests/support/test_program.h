@@ -3,9 +3,9 @@
 #include <QTest>
 
 /**
- * Many tests in one program: each is known to it under the name of its file, and the program does the one under whose name it
- * is called. QUORLIN_TEST(Class) stands where QTEST_GUILESS_MAIN(Class) would, QUORLIN_GUI_TEST(Class) where QTEST_MAIN(Class)
- * would; a file with a main of its own stays a program of its own.
+ * Many tests in one program: each is known by the name of its file, and the program runs the one under whose name it is
+ * started. QUORLIN_TEST(Class) stands where QTEST_GUILESS_MAIN(Class) would, QUORLIN_GUI_TEST(Class) where
+ * QTEST_MAIN(Class) would; a file with a main of its own stays a program of its own.
  */
 namespace tests {
 

@@ -11,8 +11,8 @@
 #include <memory>
 
 /**
- * A server of this process that answers every request as the test says, from a thread of its own: whoever waits for the answer
- * may stand still.
+ * A server in this process that answers every request as the test says, from a thread of its own: the client may block
+ * while it waits.
  */
 class WebServer
 {

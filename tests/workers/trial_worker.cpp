@@ -43,12 +43,12 @@ int succeeded(bool isDone)
     return isDone ? 0 : errno;
 }
 
-/** The input that the worker has open lies among its descriptors, behind its socket. */
+/** The input that the worker has open is among its descriptors, after its socket. */
 int eachDescriptor(int (*attack)(int descriptor))
 {
     constexpr int first = 4;
     constexpr int behind = 64;
-    int problem = EBADF; // where there is none
+    int problem = EBADF; // if there is none
     for (int descriptor = first; descriptor < behind; ++descriptor)
         if ((::fcntl(descriptor, F_GETFL) & O_ACCMODE) == O_RDONLY && ::fcntl(descriptor, F_GETFD) >= 0)
             problem = std::min(problem, attack(descriptor));
@@ -127,7 +127,7 @@ int attack(const QString &what)
     return attackOnInput(what);
 }
 
-/** @return why nothing is made of the picture; empty where it is a picture like any other */
+/** @return why nothing is made of the picture; empty if it is a picture like any other */
 QString trial(const QString &path, QLatin1String prefix)
 {
     const QString name = QFileInfo(path).completeBaseName();

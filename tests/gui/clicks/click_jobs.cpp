@@ -67,7 +67,7 @@ public:
         return m_driver->waitForSummary().isEmpty() ? QStringLiteral("no summary came") : QString();
     }
 
-    /** All files below the folder, by what stands behind it. */
+    /** All files below the folder, by relative path. */
     QStringList files() const
     {
         QStringList found;
@@ -107,7 +107,7 @@ QString webCopies(Work &work, Program)
                                 QStringLiteral("party/night/Web/c.jpg"), QStringLiteral("party/night/c.jpg")});
 }
 
-// The names are the date and a counter, with nothing between them but a blank.
+// The names are the date and a counter, separated by a space only.
 QString renameByDate(Work &work, Program)
 {
     for (int i = 1; i <= 3; ++i) {

@@ -3,7 +3,10 @@
 #include <QList>
 #include <QString>
 
-/** Jobs of everyday as a person does them by the shortest way that the manual tells, with the clicks and keys that they take. */
+/**
+ * Everyday jobs done by a person in the shortest way that the manual describes, with the clicks and keys that they
+ * take.
+ */
 namespace clicks {
 
 /** Which program is worked: the ways to a comment differ. */
@@ -16,7 +19,7 @@ struct Job
 {
     QString name;
     int count = 0;   ///< clicks and chords from the folder dropped to the summary shown
-    QString problem; ///< why it was not done; empty where it was
+    QString problem; ///< why it was not done; empty if it was
 };
 
 /**

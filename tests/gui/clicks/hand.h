@@ -19,7 +19,7 @@ class Hand
 public:
     int count() const { return m_count; }
 
-    /** Ends the program where another control lies over it, or where it cannot be used. */
+    /** Ends the program if another control covers it, or if it cannot be used. */
     void click(QWidget &control);
     void click(QWidget &control, QPoint at);
     /** Opens a box and clicks an entry: two clicks. */

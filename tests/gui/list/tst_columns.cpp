@@ -13,7 +13,7 @@ using window::PictureModel;
 
 namespace {
 
-/** The parts of the interface whose texts become reasons in the list, and those of the engine. */
+/** The parts of the interface whose texts appear as reasons in the list, and those of the engine. */
 QSet<QString> contextsOf(const QString &action)
 {
     if (action == QLatin1String("rename"))
@@ -65,7 +65,9 @@ QList<Text> textsIn(const QString &language)
     return texts;
 }
 
-/** What the list can say of a picture, the word for the status before it, and names or sizes where they belong. */
+/**
+ * What the list can say about a picture, preceded by the word for the status, with names or sizes where they belong.
+ */
 QStringList reasonsIn(const QString &language, const QString &action)
 {
     const QList<Text> texts = textsIn(language);
@@ -90,7 +92,7 @@ QStringList reasonsIn(const QString &language, const QString &action)
     return reasons;
 }
 
-/** What the list can say of a picture that will be written, each with one of the remarks on its result. */
+/** What the list can say about a picture that will be written, each with one of the remarks about its result. */
 QStringList plansIn(const QString &language)
 {
     QStringList plans;
@@ -98,7 +100,7 @@ QStringList plansIn(const QString &language)
     for (const Text &text : textsIn(language)) {
         if (!text.source.at(0).isLower() && !text.source.startsWith(u'%'))
             continue;
-        // Of counts the form of many.
+        // The plural form of counts.
         QString own = text.translation.simplified().section(QStringLiteral("%n"), -1);
         own = text.source.contains(QLatin1String("%n")) ? QStringLiteral("12") + own : text.translation;
         own.replace(QLatin1String("%1"), QStringLiteral("4000×3000"));
@@ -192,7 +194,7 @@ void TestColumns::everyPlanCanBeRead_data()
         QTest::addRow("%s", language) << QString::fromLatin1(language);
 }
 
-// The name that a result will have is not covered by it.
+// The future name of a result is not covered by it.
 void TestColumns::everyPlanCanBeRead()
 {
     QFETCH(QString, language);

@@ -147,7 +147,7 @@ void TestListNotes::theTitleTellsHowFarARunIs_data()
     QTest::addColumn<QString>("language");
     QTest::addColumn<QString>("title");
     QTest::newRow("English") << QStringLiteral("en") << QStringLiteral("^[1-9][0-9]?% – Resize – Quorlin$");
-    // What stands before the sign does not break.
+    // The space before the sign does not break.
     QTest::newRow("German") << QStringLiteral("de") << QStringLiteral("^[1-9][0-9]?\u00A0% – Skalieren – Quorlin$");
     QTest::newRow("French") << QStringLiteral("fr")
                             << QStringLiteral("^[1-9][0-9]?\u00A0% – Redimensionner – Quorlin$");

@@ -15,7 +15,7 @@
 
 using window::PictureModel;
 
-/** Properties of pictures as columns of the list, the order by them, and filters of what is shown and processed. */
+/** Properties of pictures as columns of the list, sorting by them, and filters of what is shown and processed. */
 class TestListProperties : public QObject
 {
     Q_OBJECT
@@ -151,7 +151,7 @@ void TestListProperties::anyPropertyIsAColumn()
 {
     chooseProperty("propAddColumn", QStringLiteral("Copyright"));
     chooseProperty("propAddColumn", QStringLiteral("ISO speed ratings"));
-    // Only the current picture's own properties tell of this one.
+    // Only the current picture's own properties include this one.
     chooseProperty("propAddColumn", QStringLiteral("JFIF: X density"));
     QVERIFY(m_driver->waitFor([this] {
         return column(PictureModel::FirstProperty) ==
@@ -182,7 +182,7 @@ void TestListProperties::sortsNumbersAsNumbers()
 {
     chooseProperty("propAddColumn", QStringLiteral("ISO speed ratings"));
     list().horizontalHeader()->setSortIndicator(PictureModel::FirstProperty, Qt::DescendingOrder);
-    // As texts 800 comes before 6400 and 12800.
+    // As text, 800 comes before 6400 and 12800.
     QVERIFY(m_driver->waitFor([this] { return shownNames().indexOf(QStringLiteral("a.jpg")) > 1; }));
     list().horizontalHeader()->setSortIndicator(PictureModel::FirstProperty, Qt::AscendingOrder);
     QVERIFY(
@@ -245,7 +245,7 @@ void TestListProperties::typedTextIsSearchedInNamesAndValues()
     QVERIFY(shows({QStringLiteral("a.jpg"), QStringLiteral("d.jpg")}));
     part<QLineEdit>("propText")->setText(QStringLiteral("d. ann"));
     QVERIFY(shows({QStringLiteral("d.jpg")}));
-    part<QLineEdit>("propText")->setText(QStringLiteral("Copyright")); // what a property is called is no value
+    part<QLineEdit>("propText")->setText(QStringLiteral("Copyright")); // the name of a property is not a value
     QVERIFY(shows({}));
     part<QLineEdit>("propText")->setText({});
     QVERIFY(m_driver->waitFor([this] { return list().count() == 4; }));

@@ -126,7 +126,7 @@ void TestListTools::rowsAreMovedByHand()
     m_driver->trigger("clearAction");
     m_driver->trigger("undoAction");
     QCOMPARE(shownNames(), moved);
-    // From an order that is sorted the shown one becomes that of adding.
+    // From a sorted order, the order shown becomes that of adding.
     m_driver->pictures().horizontalHeader()->setSortIndicator(PictureModel::Name, Qt::DescendingOrder);
     QCOMPARE(shownNames(), QStringList({names[2], names[1], names[0]}));
     m_driver->pictures().selectRow(0);

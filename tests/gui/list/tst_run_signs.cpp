@@ -84,7 +84,7 @@ class Portal : public QObject
     Q_OBJECT
 
 public:
-    /** Whether there is one; a bus answers no for it where there is none. */
+    /** Whether there is one; a bus answers no if there is none. */
     void answerOn(QDBusConnection bus, bool answers)
     {
         if (answers)
@@ -191,7 +191,7 @@ public Q_SLOTS:
 
 } // namespace
 
-/** What the desktop is told of a run, over buses of the test's own. */
+/** What the desktop is told about a run, over buses of the test's own. */
 class TestRunSigns : public QObject
 {
     Q_OBJECT

@@ -95,7 +95,7 @@ void TestTicks::boxesAreClickedAndWorkedByKeys()
     QCOMPARE(list.tickedCount(), 3);
     list.selectAll();
     QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, box);
-    QCOMPARE(list.tickedCount(), 0); // one of the chosen rows stands for all
+    QCOMPARE(list.tickedCount(), 0); // one of the selected rows represents all
     QCOMPARE(m_driver->control<QAction>("tickAllAction")->shortcut(), QKeySequence(QStringLiteral("Ctrl+Shift+T")));
     QCOMPARE(m_driver->control<QAction>("tickAction")->shortcut(), QKeySequence(QStringLiteral("Ctrl+T")));
     m_driver->trigger("tickAllAction");

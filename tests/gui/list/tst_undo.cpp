@@ -12,7 +12,7 @@
 
 using window::PictureModel;
 
-/** Ctrl+Z takes back the latest thing that was done since the start, and says before what that is. */
+/** Ctrl+Z undoes the latest change since the start, and says beforehand what that is. */
 class TestUndo : public QObject
 {
     Q_OBJECT

@@ -92,7 +92,7 @@ void TestWatching::settingsStayAsTheyAreMeanwhile()
     QVERIFY2(part("watchBar")->height() <= 48, qPrintable(QString::number(part("watchBar")->height())));
     m_driver->click("watchStop");
     QVERIFY(part("startButton")->isEnabled() && part("outputHost")->isEnabled());
-    m_driver->show("rename"); // files are not moved behind the user's back
+    m_driver->show("rename"); // files are not moved without the user's knowledge
     QVERIFY(!m_driver->control<QAction>("watchAction")->isEnabled());
 }
 

@@ -328,7 +328,7 @@ void MetadataForm::revertsFromTheLogAfterARestart()
     QVERIFY(m_driver->waitFor([this] {
         return m_driver->text("logRunNote").startsWith(QStringLiteral("4 pictures can be reverted. Old values: "));
     }));
-    // What was written into one of them is shown where that is chosen.
+    // A value written into one of them is shown when that one is selected.
     table->selectRow(0);
     QVERIFY(m_driver->waitFor([this] { return m_driver->text("logRunNote") == QStringLiteral("Title: “Later”"); }));
     table->clearSelection();
@@ -476,7 +476,7 @@ void MetadataForm::manyAreWrittenAndReverted()
 
 void MetadataForm::picturesOfOneSidecarFollowOneAnother()
 {
-    // "one.xmp" is that of both, and each adds its word to it.
+    // "one.xmp" belongs to both, and each adds its word to it.
     m_more = std::make_unique<QTemporaryDir>();
     for (const char *name : {"one.bmp", "one.BMP"})
         QVERIFY(QFile::copy(path("d.bmp"), m_more->filePath(QString::fromLatin1(name))));
@@ -512,7 +512,7 @@ void MetadataForm::whatIsWrittenWhenARunStopsIsKept()
     for (const QFileInfo &each : QDir(m_more->path()).entryInfoList(QDir::Files))
         written += pictures::bytesOf(each.filePath()).contains("Stopped") ? 1 : 0;
     QVERIFY(written < 200);
-    // What is in a file is in the log too, so that it can be reverted.
+    // What is in a file is logged too, so that it can be reverted.
     m_driver->click("undoButton");
     QVERIFY(m_driver->waitFor([&] {
         return m_driver->text("statusText").startsWith(QStringLiteral("%1 pictures reverted").arg(written + 4));

@@ -8,7 +8,7 @@
 #include <QImage>
 #include <QTest>
 
-/** The properties of pictures that are chosen together stand beside one another. */
+/** The properties of selected pictures are shown side by side. */
 class SideBySide : public QObject
 {
     Q_OBJECT
@@ -64,7 +64,7 @@ void SideBySide::chosenPicturesStandBesideOneAnother()
     QVERIFY(!property(QStringLiteral("Pixel height"))->text(0).startsWith(u'≠'));
     QCOMPARE(tree().differenceCount(), 1);
     QCOMPARE(m_driver->text("metaFound"), QStringLiteral("3 pictures, differences: 1"));
-    // What stands in a column is copied from there.
+    // The contents of a column are copied from there.
     tree().setCurrentItem(width, 2);
     QTest::keyClick(&tree(), Qt::Key_C, Qt::ControlModifier);
     QVERIFY(QGuiApplication::clipboard()->text().startsWith(QLatin1String("48")));

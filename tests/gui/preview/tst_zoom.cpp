@@ -76,7 +76,7 @@ private Q_SLOTS:
     void showsTheResultInThePlaceOfTheOriginal();
 
 private:
-    /** Colours in the middle of both halves, where no line of text is. */
+    /** Colours in the middle of both halves, away from any text. */
     QImage seen(bool isResult) const;
     static QImage part(const QImage &image, QPoint middle);
     QRgb middle(bool isResult) const;

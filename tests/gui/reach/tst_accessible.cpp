@@ -30,7 +30,7 @@ QString whichIs(const QAccessibleInterface &control)
                                          object ? QString::fromLatin1(object->metaObject()->className()) : QString());
 }
 
-/** What those who do not see a control are not told of it. */
+/** Information about a control that screen readers do not get. */
 QStringList lacksOf(const QAccessibleInterface &control)
 {
     QStringList lacks;
@@ -45,7 +45,7 @@ QStringList lacksOf(const QAccessibleInterface &control)
     return lacks;
 }
 
-/** Walks over what can take the focus now; a list tells of its rows itself. */
+/** Visits everything that can take the focus now; a list reports its rows itself. */
 class Walk
 {
 public:
@@ -85,7 +85,7 @@ private:
 
 } // namespace
 
-/** What the window tells those who do not see it. */
+/** What the window tells users of screen readers. */
 class Accessible : public QObject
 {
     Q_OBJECT

@@ -18,7 +18,7 @@ namespace {
 
 const char *const inside = "QUORLIN_TEST_UNDER_X";
 
-/** Takes what a bus of accessibility tells of changed names. */
+/** Receives what an accessibility bus reports about changed names. */
 class Listener : public QObject
 {
     Q_OBJECT
@@ -32,7 +32,7 @@ public Q_SLOTS:
         const QVariantList values = message.arguments();
         if (values.value(0).toString() != QLatin1String("accessible-name"))
             return;
-        // The toolkit tells whose name it is; what that is has to be asked for.
+        // The toolkit says whose name it is; the new name must be requested.
         QDBusMessage call =
             QDBusMessage::createMethodCall(message.service(), message.path(),
                                            QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
@@ -49,7 +49,7 @@ public Q_SLOTS:
 } // namespace
 
 /**
- * State changes are told to those who do not see the window. The windowless platform of the toolkit tells nobody anything, so the test
+ * State changes are reported to screen readers. The windowless platform of the toolkit reports nothing, so the test
  * runs itself once more, on a display and a bus of its own.
  */
 class Announcements : public QObject
@@ -130,7 +130,7 @@ void Announcements::listen()
     QVERIFY2(answer.type() != QDBusMessage::ErrorMessage, qPrintable(answer.errorMessage()));
 }
 
-// The toolkit drops what it would tell until it has heard from the bus that somebody listens, a moment after the start.
+// The toolkit drops events until the bus has told it that somebody listens, a moment after the start.
 bool Announcements::isHeard(WindowDriver &driver)
 {
     QLabel probe(&driver.window());

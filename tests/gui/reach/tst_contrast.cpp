@@ -13,7 +13,7 @@ namespace {
 constexpr double textRatio = 4.5;
 constexpr double graphicRatio = 3.0;
 
-/** What stands on what. */
+/** What is drawn on what. */
 struct Pair
 {
     const char *front;
@@ -85,7 +85,9 @@ double contrast(const QColor &one, const QColor &other)
 
 } // namespace
 
-/** Whether what the themes show can be told from what it stands on: text by 4.5 to 1, signs and frames by 3 to 1. */
+/**
+ * Whether what the themes draw is distinguishable from its background: text by 4.5 to 1, signs and frames by 3 to 1.
+ */
 class Contrast : public QObject
 {
     Q_OBJECT

@@ -26,14 +26,14 @@ QRect placeIn(const QWidget &window, const QWidget &widget)
     return {widget.mapTo(&window, QPoint(0, 0)), widget.size()};
 }
 
-/** A control of one line, as texts stand beside it. */
+/** A control of one line, like the text beside it. */
 bool isOneLine(const QWidget &widget)
 {
     return qobject_cast<const QComboBox *>(&widget) || qobject_cast<const QAbstractSpinBox *>(&widget) ||
            qobject_cast<const QLineEdit *>(&widget);
 }
 
-/** What lies beside the label of a field: the field, or the row of controls that it is in. */
+/** What is beside the label of a field: the field, or the row of controls that contains it. */
 const QWidget &rowOf(const QWidget &field)
 {
     const QWidget *row = &field;
@@ -48,7 +48,7 @@ bool isPath(const QString &text)
     return text.startsWith(u'~') || text.startsWith(u'/');
 }
 
-/** Names that others gave, or can give: the box of presets shows them in its list and its tooltip. */
+/** Names that users gave, or can give: the box of presets shows them in its list and its tooltip. */
 bool isNamedByOthers(const QComboBox &box)
 {
     return box.objectName() == QLatin1String("preset") || box.objectName() == QLatin1String("markFont") ||
@@ -57,7 +57,7 @@ bool isNamedByOthers(const QComboBox &box)
 
 } // namespace
 
-/** Where things stand in the panes at 1280 x 720: labels beside their fields, and nothing that moves or is cut off. */
+/** The layout of the panes at 1280 x 720: labels beside their fields, and nothing that moves or is cut off. */
 class PaneLayout : public QObject
 {
     Q_OBJECT
@@ -115,7 +115,7 @@ private:
     QWidget &settings() { return *m_driver->control<QWidget>("settings"); }
     QRect placeOf(const char *name) { return placeIn(m_driver->window(), *m_driver->control<QWidget>(name)); }
 
-    /** Labels of the settings that stand before a field of one line. */
+    /** Labels of the settings that precede a one-line field. */
     QList<QLabel *> labels()
     {
         QList<QLabel *> found;
@@ -167,7 +167,7 @@ void PaneLayout::labelsAndFieldsLineUp()
     QVERIFY2(seen > 40, qPrintable(QString::number(seen)));
 }
 
-// What was chosen is not all: the others are read as well when the box is open, and are as wide.
+// The chosen entry is not all: the others are read as well when the box is open, and are as wide.
 void PaneLayout::everyChoiceCanBeRead()
 {
     QFETCH(QString, language);
@@ -268,7 +268,7 @@ void PaneLayout::titlesOfQuestionsHaveRoom()
     QVERIFY2(width >= needed + 100, qPrintable(QStringLiteral("%1 of %2").arg(width).arg(needed)));
 }
 
-// What differs at the end of a long note is painted, and the caption above it makes room.
+// The difference at the end of a long note is painted, and the caption above it makes room.
 void PaneLayout::allOfANoteUnderAResultIsSeen()
 {
     begin(QStringLiteral("en"));

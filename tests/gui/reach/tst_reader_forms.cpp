@@ -10,13 +10,13 @@
 
 namespace {
 
-/** So many that a separator is wanted, and no other number of the window. */
+/** So large that a separator is expected, and unlike any other number of the window. */
 constexpr int many = 1234;
 
 const char *const actionNames[] = {"resize", "crop", "turn", "round", "background", "watermark", "recipe", "convert",
                                    "rename", "sort", "hand", "web",   "contact",    "metadata",  "fields", "log"};
 
-/** What is wrong with a text as readers of any language have numbers and dates. */
+/** What is wrong with a text for readers whose numbers and dates are written differently. */
 QString wrongForm(const QString &text)
 {
     static const QRegularExpression bareNumber(QStringLiteral("(?<![\\d.,\\w])%1(?![\\d\\w])").arg(many));
@@ -34,7 +34,7 @@ QString wrongForm(const QString &text)
 
 } // namespace
 
-/** Numbers and dates in every pane are in the reader's own form. */
+/** Numbers and dates in every pane are in the reader's own format. */
 class ReaderForms : public QObject
 {
     Q_OBJECT
@@ -59,7 +59,7 @@ private:
 
     std::unique_ptr<WindowDriver> m_driver;
     QStringList m_problems;
-    QString m_number; ///< as it should be seen
+    QString m_number; ///< as it should appear
     QString m_date;
     bool m_isDateSeen = false;
     int m_seen = 0;
@@ -79,7 +79,7 @@ void ReaderForms::begin(const QString &language)
 {
     qputenv("QUORLIN_LANGUAGE", language.toLatin1());
     m_driver = WindowDriver::started();
-    // The tests speak the language of machines, which has no separators.
+    // Tests run in the C locale, which has no separators.
     if (language == QLatin1String("en"))
         QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
     m_driver->window().resize(1440, 900);
@@ -88,7 +88,7 @@ void ReaderForms::begin(const QString &language)
     m_seen = 0;
 }
 
-// Their names have no digits that a number or a date could be.
+// Their names have no digits that could be part of a number or a date.
 void ReaderForms::addMany()
 {
     const QByteArray picture = pictures::datedJpeg(QStringLiteral("2026:08:14 10:20:30"));

@@ -187,7 +187,7 @@ private Q_SLOTS:
         QCOMPARE(m_driver->control<window::SegmentedControl>("cropMode")->selectedSegment(), 1);
         QCOMPARE(m_driver->control<QDoubleSpinBox>("cropWidth")->value(), 200.0);
         QCOMPARE(m_driver->control<QDoubleSpinBox>("cropHeight")->value(), 150.0);
-        // In the centre it would lie at 100, 75.
+        // Centred, it would be at 100, 75.
         QCOMPARE(m_driver->control<window::PositionPad>("position")->selectedSegment(), 4);
         QCOMPARE(m_driver->control<QDoubleSpinBox>("offsetX")->value(), 10.0);
         QCOMPARE(m_driver->control<QDoubleSpinBox>("offsetY")->value(), -15.0);

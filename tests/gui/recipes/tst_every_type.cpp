@@ -76,8 +76,7 @@ private Q_SLOTS:
         auto driver = WindowDriver::showing("resize");
         add(*driver, QStringLiteral("animated.gif"));
         QFile raw(driver->inputFolder() + QStringLiteral("/camera.dng"));
-        const QByteArray preview =
-            pictures::bytesOf(picturePath("own/formats/rgb.jpg")); // 60 x 40, and it lies on its side
+        const QByteArray preview = pictures::bytesOf(picturePath("own/formats/rgb.jpg")); // 60 x 40, stored sideways
         QVERIFY(raw.open(QIODevice::WriteOnly) && raw.write(pictures::rawFileWith(preview, 6)) > 0);
         raw.close();
         driver->drop({driver->inputFolder()});

@@ -390,7 +390,7 @@ private Q_SLOTS:
         QVERIFY(QDir().mkpath(other));
         m_driver->drop({m_folder});
         auto *keeps = m_driver->control<QCheckBox>("keepSubfolders");
-        QVERIFY(!keeps->isVisible()); // results lie beside their pictures
+        QVERIFY(!keeps->isVisible()); // results go beside their pictures
         WindowDriver::answerPanels({other});
         m_driver->choose("base", QStringLiteral("choose"));
         QVERIFY(keeps->isVisible());

@@ -22,7 +22,7 @@ using window::PictureModel;
 
 namespace {
 
-/** Where the pixels of an image differ from one colour; empty where none does. */
+/** Where the pixels of an image differ from one colour; empty if none does. */
 QRect inkOf(const QImage &image, QColor ground)
 {
     QRect ink;
@@ -62,7 +62,7 @@ private Q_SLOTS:
         text->setFocus();
         text->selectAll();
         QTest::keyClicks(text, QStringLiteral("Jane Doe, {name}"));
-        // What is typed stays as it is typed, and so does the place where it is typed.
+        // Text being typed is left alone, and so is the cursor.
         QCOMPARE(text->toPlainText(), QStringLiteral("Jane Doe, {name}"));
         QCOMPARE(m_driver->text("resultText"), QStringLiteral("400×200 → 400×200"));
         QVERIFY2(m_driver->waitFor([this] { return !m_driver->cell(1, PictureModel::NewSize).isEmpty(); }), "no plan");
@@ -161,7 +161,7 @@ private Q_SLOTS:
         run(QStringLiteral("1 picture done"));
         const QRect ink = inkOf(QImage(at("Watermarked/a.png")), Qt::darkBlue);
         QCOMPARE(ink, QRect(200, 100, 200, 100));
-        // A picture that is chosen is one of the menu, and one that goes away is missed.
+        // A selected picture is in the menu, and one that disappears is reported.
         m_driver->answerPanels({at("a.png")});
         m_driver->choose("markPicture", QStringLiteral("choose"));
         QCOMPARE(m_driver->control<QComboBox>("markPicture")->currentData().toString(), at("a.png"));

@@ -13,7 +13,10 @@
 
 using window::PictureModel;
 
-/** Pictures that are broken, or made to break whoever reads them, are added and worked on: the window stays, and each row says why. */
+/**
+ * Pictures that are broken, or made to crash whoever reads them, are added and processed: the window survives, and each
+ * row says why.
+ */
 class BrokenPictures : public QObject
 {
     Q_OBJECT

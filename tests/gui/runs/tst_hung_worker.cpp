@@ -15,7 +15,7 @@
 
 #include <unistd.h>
 
-/** A worker that answers no more leaves the window alive: what has to be waited for can be given up. */
+/** A worker that no longer answers leaves the window responsive: waiting can be abandoned. */
 class HungWorker : public QObject
 {
     Q_OBJECT
@@ -62,7 +62,10 @@ private:
         return nullptr;
     }
 
-    /** Does @p does while all workers stand still; counts how often the event loop came by, and answers once that was often. */
+    /**
+     * Does @p does while all workers are stopped; counts the passes of the event loop, and answers once that is high
+     * enough.
+     */
     template<typename Does> void whileStopped(Does does, const std::function<void()> &answer)
     {
         constexpr int enough = 20;

@@ -209,7 +209,7 @@ private:
         return names;
     }
 
-    /** A run of four files as a crash leaves it after some of them; one of which nothing is left has ended. */
+    /** A run of four files as left by a crash after some of them; one of which nothing is left has ended. */
     void interrupt(int done)
     {
         platform::DiskFileSystem disk;

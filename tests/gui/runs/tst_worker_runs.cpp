@@ -20,7 +20,7 @@
 using jobs::WorkerDesk;
 using window::PictureModel;
 
-/** Runs of the window are carried out by workers, and nobody can tell how many. */
+/** Runs of the window are carried out by workers, whose number is unknown. */
 class WorkerRuns : public QObject
 {
     Q_OBJECT
@@ -195,7 +195,7 @@ void WorkerRuns::saysThatAPictureIsGone()
     m_driver->drop({m_pictures});
     WorkerDesk::ofProcess().setSize(1);
     m_driver->click("startButton");
-    // The plan is made; the last picture goes before it has its turn.
+    // The plan is made; the last picture is removed before it is processed.
     QVERIFY(m_driver->waitFor([this] { return m_driver->cell(0, PictureModel::Status) != QStringLiteral("Ready"); }));
     QVERIFY(QFile::remove(m_pictures + QStringLiteral("/p02.jpg")));
     const QString summary = m_driver->waitForSummary();

@@ -121,7 +121,7 @@ inline int act(int argc, char **argv)
     return 0;
 }
 
-/** What became of a window. */
+/** The outcome for a window. */
 struct Ended
 {
     bool isKilled = false;

@@ -46,7 +46,7 @@ private:
         return m_pictures + QStringLiteral("/Pages/") + QLatin1String(name);
     }
     QStringList filesBeside() const;
-    /** A line for each picture in a PDF; -1 where nobody can tell. */
+    /** A line for each picture in a PDF; -1 if unknown. */
     int picturesIn(const QString &path) const;
 
     std::unique_ptr<WindowDriver> m_driver;

@@ -268,7 +268,7 @@ QString nameOf(const QWidget &widget)
            QStringLiteral(") ");
 }
 
-/** Parts that the toolkit puts where it wants, those of its file panel among them. */
+/** Parts that the toolkit positions itself, including those of its file panel. */
 bool isInner(const QWidget &widget)
 {
     const auto *panel = qobject_cast<const QFileDialog *>(widget.window());

@@ -12,7 +12,7 @@
 /** Who may do what with files, and folders that are shared by means of access lists. */
 namespace rights {
 
-/** Of one file: mode, owner, group, and the access list where it has one. */
+/** Of one file: mode, owner, group, and the access list if it has one. */
 inline QString of(const QString &path)
 {
     struct stat item = {};

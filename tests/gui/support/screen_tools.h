@@ -19,7 +19,7 @@ void choosePreset(WindowDriver &driver, const char *name);
  * once in each appearance, 1440 x 900 large.
  *
  * @param work  gets the program, the folder of the samples, and the path of a picture without its ending: "-light" or "-dark"
- *              behind the name that it is asked for
+ *              after the name that is requested
  */
 using PicturePath = std::function<QString(const char *name)>;
 int makeScreenshots(int argc, char **argv,

@@ -89,7 +89,7 @@ QStringList shownTexts(const QWidget &window)
             if (!text.isEmpty())
                 found.append(name + QStringLiteral(": ") + text);
     };
-    // What the cards make of names, and parts of views that their view has told of.
+    // Names computed by the cards, and parts of views that their view has reported.
     static const QStringList others = {QStringLiteral("cardExample"), QStringLiteral("exampleNew"),
                                        QStringLiteral("exampleNow")};
     add(window.objectName(), textsOf(window) + QStringList{window.windowTitle()});

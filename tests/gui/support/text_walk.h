@@ -7,7 +7,7 @@
 QStringList shownTexts(const QWidget &window);
 
 /**
- * The words of the texts that stand outside of brackets, where the window speaks the language of tests/support/pseudo_texts.h.
+ * The words of the texts outside brackets, when the window speaks the language of tests/support/pseudo_texts.h.
  *
  * @param known  words that are the same in every language, such as names and units
  */

@@ -21,7 +21,10 @@
 class WindowDriver
 {
 public:
-    /** @param home  where settings and logs are, to find them again in another process; without it a folder that goes with the driver */
+    /**
+     * @param home  where settings and logs are, to be found again by another process; by default a folder that is
+     * removed with the driver
+     */
     explicit WindowDriver(QApplication &application, const QString &home = QString());
     ~WindowDriver();
 
@@ -40,7 +43,7 @@ public:
     window::StartUp &startUp() { return *m_startUp; }
     window::PictureTable &pictures() { return *control<window::PictureTable>("pictures"); }
 
-    /** The control of that name, the one that is shown where several panes have one; ends the test where there is none. */
+    /** The control of that name, the visible one if several panes have one; ends the test if there is none. */
     template<typename T> T *control(const char *name)
     {
         const QList<T *> found = window().findChildren<T *>(QString::fromLatin1(name));

@@ -73,7 +73,7 @@ WindowTour::WindowTour(WindowDriver &driver, QSize size, Look look)
     startAgain();
 }
 
-// Panels for files and folders are those of the toolkit; where one would open, a folder is chosen.
+// Panels for files and folders are those of the toolkit; when one would open, a folder is chosen.
 void WindowTour::startAgain()
 {
     m_driver.startAgain();

@@ -6,8 +6,9 @@
 #include <QTimer>
 
 /**
- * Leads through all that the program shows: each action without and with pictures, each choice of its settings, its cards and
- * slots, a run and its summary, every sheet, and questions that come up. At each place the window, or the sheet, is handed to whoever looks.
+ * Visits everything that the program shows: each action without and with pictures, each choice of its settings, its
+ * cards and slots, a run and its summary, every sheet, and questions that come up. At each stop the window, or the
+ * sheet, is passed to the caller.
  */
 class WindowTour
 {

@@ -1,7 +1,7 @@
 import { FieldAsker } from "../../../interface/runs/fields/field-work.js";
 import { equal, finish, isTrue, test } from "../check.js";
 
-// Stand-ins for what workers do: each is told to answer, in whatever order.
+// Stand-ins for the work of workers: each is told to answer, in any order.
 class Work {
     constructor() {
         this.asked = [];
@@ -62,7 +62,7 @@ test("asks as many at a time as it may, and takes answers as they come", () => {
     at(made, "c").answer();
     equal(steps.next().value.task.name, "c");
     equal(steps.next().value, null);
-    equal(made.length, 3); // the one that is free is asked again
+    equal(made.length, 3); // the free one is asked again
     at(made, "d").answer();
     at(made, "a").answer();
     equal(steps.next().value.task.name, "a");

@@ -168,7 +168,7 @@ void TestSeamFiles::changesPropertyLists_data()
         "true");
 }
 
-/** FOLDER/pipe.jpg is a named pipe that nobody writes into: whoever opened it like a file would wait for ever. */
+/** FOLDER/pipe.jpg is a named pipe without a writer: opening it like a file would block for ever. */
 void TestSeamFiles::waitsForNoPipe_data()
 {
     QTest::addColumn<QString>("expression");

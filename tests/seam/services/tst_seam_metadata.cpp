@@ -8,7 +8,7 @@
 
 namespace {
 
-/** A module body that reports what each expression gives, with a service and stand-ins on all its outlets. */
+/** A module body that reports the value of each expression, with a service and stand-ins on all its outlets. */
 QString withPane(const QString &expressions)
 {
     return QStringLiteral(R"(

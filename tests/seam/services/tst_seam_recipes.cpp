@@ -49,7 +49,7 @@ void TestSeamRecipes::initTestCase()
     m_run.write(QStringLiteral("none.png"), QStringLiteral("no picture"));
 }
 
-/** DO stands for the operations and OUT for the output of the recipe R(DO, OUT). */
+/** DO represents the operations and OUT the output of the recipe R(DO, OUT). */
 QString TestSeamRecipes::answer(QString expression)
 {
     const QString module =

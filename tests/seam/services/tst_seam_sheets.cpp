@@ -94,7 +94,7 @@ void TestSeamSheets::useTables(const char *table)
     qputenv("QUORLIN_INTERFACE", QFile::encodeName(m_folder->filePath(QStringLiteral("interface"))));
 }
 
-/** What the script reports, as JSON between blanks. */
+/** The script's report, as JSON between spaces. */
 QString TestSeamSheets::outcomeOf(const QString &script)
 {
     ScriptRun run;

@@ -9,7 +9,7 @@ int EchoService::livingCount = 0;
 
 namespace {
 
-/** A value with its type, so that 3, "3" and 3.0 are told apart. */
+/** A value with its type, so that 3, "3" and 3.0 are distinguished. */
 QString inWords(const QVariant &value)
 {
     if (!value.isValid())

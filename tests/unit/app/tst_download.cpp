@@ -13,7 +13,7 @@ const QByteArray allowed = QByteArray(19'900, 'x');
 const app::DownloadLimits limits = {.silenceMs = 700, .wholeMs = 1500, .bytes = 20'000};
 const QString path = QStringLiteral("/version/Quorlin.txt");
 
-/** The text, or "failed" where the sentence says that, of which address, and why. */
+/** The text, or "failed" if the sentence says that, which address, and why. */
 QString outcomeOf(const QUrl &address)
 {
     const auto text = app::downloadedText(address, limits);

@@ -9,7 +9,7 @@ using platform::Flag;
 
 namespace {
 
-/** A real window that remembers what it was told. */
+/** A real window that records the calls. */
 class RecordingWindow : public app::WindowBackend
 {
 public:

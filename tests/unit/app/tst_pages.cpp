@@ -94,7 +94,7 @@ QByteArray said(const QString &program, const QStringList &arguments)
     return process.readAllStandardOutput();
 }
 
-/** What lies on the pages, in words: sizes of pages, pixels of pictures, places of texts in points. */
+/** The contents of the pages, in words: sizes of pages, pixels of pictures, positions of texts in points. */
 QString factsOf(const QString &pdf)
 {
     QStringList facts;

@@ -46,7 +46,7 @@ private Q_SLOTS:
         QCOMPARE(zoom.steppedBy(3, fitted), 8.0);
     }
 
-    /** A small picture is larger than it is where it fills its place: the steps above that are left. */
+    /** A small picture is enlarged if it fills its area: the steps above that are omitted. */
     void stepsFromALargeFit()
     {
         QCOMPARE(ViewZoom().steppedBy(1, 2.5), 3.0);

@@ -85,7 +85,7 @@ void TestBindMount::takesBackNoCopyThatIsItsOriginal()
     qputenv("XDG_DATA_HOME", QFile::encodeName(here.path("data")));
     QVERIFY(here.write("old/a.jpg", "a picture"));
     QVERIFY(QDir().mkpath(here.path("new")) && QDir().mkpath(here.path("journals")));
-    const pid_t child = ::fork(); // what it mounts goes with it
+    const pid_t child = ::fork(); // what it mounts disappears with it
     if (child == 0)
         ::_exit(takeBack(here, isPlannedBefore));
     int status = 0;

@@ -42,7 +42,7 @@ bool savedAt72Dpi(QImage picture, const QString &path)
     return picture.save(path);
 }
 
-/** The first value behind a name in a PDF file. */
+/** The first value after a name in a PDF file. */
 QByteArray entryOf(const QByteArray &pdf, const char *name)
 {
     const QRegularExpression entry(QRegularExpression::escape(QString::fromLatin1(name)) +
@@ -50,7 +50,7 @@ QByteArray entryOf(const QByteArray &pdf, const char *name)
     return entry.match(QString::fromLatin1(pdf)).captured(1).toLatin1();
 }
 
-/** A tag that tells how many pixels there are, which is set right where it was wrong. */
+/** A tag that states how many pixels there are, corrected if it was wrong. */
 bool statesSize(const QString &tag)
 {
     return tag.contains(QLatin1String("Pixel")) || tag.startsWith(QLatin1String("tiff:Image"));
@@ -63,7 +63,7 @@ public:
     explicit RenameWatch(const QString &folder) : m_queue(inotify_init1(IN_NONBLOCK))
     {
         inotify_add_watch(m_queue, QFile::encodeName(folder).constData(),
-                          IN_MOVED_FROM | IN_MOVED_TO); // the same event twice in a row is told once
+                          IN_MOVED_FROM | IN_MOVED_TO); // the same event twice in a row is reported once
     }
     ~RenameWatch() { ::close(m_queue); }
     Q_DISABLE_COPY_MOVE(RenameWatch)

@@ -141,7 +141,9 @@ MoveOrderForm formOf(std::vector<MoveItem> items)
     return form;
 }
 
-/** What is done in one try: first what is only there to be taken back, then what the others meddle with. */
+/**
+ * The contents of one try: first operations that exist only to be undone, then those that the others interfere with.
+ */
 struct Work
 {
     std::function<void(const Place &)> before;
@@ -206,7 +208,7 @@ int stride()
     return tests::isSlowRun() ? 1 : 5;
 }
 
-/** Runs the work in a process that ends at the given call; false where it ended before. */
+/** Runs the work in a process that ends at the given call; false if it ended before. */
 bool killAt(int call, const std::function<void()> &work, Disk disk = Disk::RenamesExclusively)
 {
     const pid_t child = ::fork();

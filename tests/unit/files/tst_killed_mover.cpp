@@ -20,7 +20,7 @@ namespace {
 
 using Tree = std::map<QString, QByteArray>;
 
-/** A folder with files and folders, another one on another disk where there is one, and a run that turns them over. */
+/** A folder with files and folders, another one on another disk if there is one, and a run that rearranges them. */
 class Place
 {
 public:

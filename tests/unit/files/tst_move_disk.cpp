@@ -19,7 +19,7 @@ namespace {
 
 using Tree = std::map<QString, QByteArray>;
 
-/** A world as the model has it, on the disk: "/in" in one place and "/other" on another disk where there is one. */
+/** A world like the model's, on the disk: "/in" in one place and "/other" on another disk if there is one. */
 class Twin
 {
 public:
@@ -54,7 +54,7 @@ public:
         return form;
     }
 
-    /** What is on the disk, as the model would tell it. */
+    /** What is on the disk, in the form of the model. */
     Tree everything() const
     {
         Tree all;
@@ -89,7 +89,7 @@ Tree withoutTop(Tree tree)
     return tree;
 }
 
-/** Copies that were taken back are in the trash of the other disk, which is not the test's. */
+/** Copies that were undone are in the trash of the other disk, which is not the test's. */
 void emptyTrashOf(const JournalShelf &shelf)
 {
     for (const QString &name : shelf.names())

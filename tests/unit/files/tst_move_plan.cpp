@@ -14,7 +14,10 @@ QString text(const char *utf8)
     return QString::fromUtf8(utf8);
 }
 
-/** "a>b" moves, "a+b" copies, "a=b" links; "#" behind it asks for a number, "@2" names the leader. Names are those of "/d". */
+/**
+ * "a>b" moves, "a+b" copies, "a=b" links; a following "#" requests a number, "@2" names the leader. Names are those of
+ * "/d".
+ */
 MoveWish wishFrom(QString line)
 {
     MoveWish wish;
@@ -34,7 +37,7 @@ MoveWish wishFrom(QString line)
     return wish;
 }
 
-/** "ready", "same" or the code of the refusal; behind it the code and the other path or the number that was given. */
+/** "ready", "same" or the code of the refusal, followed by the code and the other path or the assigned number. */
 QString wordsFor(const PlannedMove &planned, const MoveWish &wish)
 {
     QString words = planned.status == PlanStatus::Same    ? QStringLiteral("same")
@@ -52,7 +55,7 @@ QString wordsFor(const PlannedMove &planned, const MoveWish &wish)
 
 } // namespace
 
-/** What becomes of wishes, before anything moves. */
+/** The outcome of requests, before anything moves. */
 class TestMovePlan : public QObject
 {
     Q_OBJECT
@@ -110,7 +113,7 @@ void TestMovePlan::judgesEveryWish_data()
     one("a link that leads nowhere is in the way", "a.jpg>link", "refused taken /d/link");
 }
 
-/** Plans of which the wishes have to do with each other. */
+/** Plans whose requests affect one another. */
 void TestMovePlan::judgesWishesTogether_data()
 {
     QTest::addColumn<QStringList>("wishes");

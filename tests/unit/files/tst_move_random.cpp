@@ -31,7 +31,7 @@ QByteArray story(bool isRight, quint32 seed, const World &world, const std::map<
 
 } // namespace
 
-/** Thousands of made-up plans: nothing is ever lost or replaced, and what was done can be taken back. */
+/** Thousands of generated plans: nothing is ever lost or replaced, and what was done can be undone. */
 class TestMoveRandom : public QObject
 {
     Q_OBJECT

@@ -28,7 +28,7 @@ MoveItem move(const char *from, const char *to, int leader = -1)
 
 } // namespace
 
-/** A run, its journal, and what becomes of items when something goes wrong. */
+/** A run, its journal, and what happens to items when something goes wrong. */
 class TestMoveRun : public QObject
 {
     Q_OBJECT

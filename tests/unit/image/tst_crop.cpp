@@ -119,7 +119,7 @@ void Crop::placesNineRectangles_data()
     QTest::addColumn<int>("x");
     QTest::addColumn<int>("cutY");
     QTest::addColumn<int>("frameY");
-    // A rectangle of 60 x 40 on 101 x 83: 41 and 43 lie outside it. Moved by 7 to the right and 3 down.
+    // A rectangle of 60 x 40 on 101 x 83: 41 and 43 are outside it. Moved by 7 to the right and 3 down.
     QTest::newRow("top left") << 0 << 7 << 3 << 43 - 3;
     QTest::newRow("top centre") << 1 << 20 + 7 << 3 << 43 - 3;
     QTest::newRow("top right") << 2 << 41 + 7 << 3 << 43 - 3;
@@ -219,7 +219,7 @@ void Crop::cutsWhatReachesOutside()
     QTEST(image::visiblePart(rect, QSize(100, 50)), "visible");
 }
 
-// In the middle row an odd rest is halved from two sides, so that the two may lie one pixel apart there.
+// In the middle row an odd remainder is halved from two sides, so that the two may be one pixel apart there.
 void Crop::frameAndCutAgree()
 {
     QRandomGenerator random(20261121);

@@ -40,7 +40,7 @@ private Q_SLOTS:
         QCOMPARE(service.resizeImage(camera, 30, 2, out(), QStringLiteral("public.tiff"), {}), QStringLiteral("OK"));
         const QString path = out() + QStringLiteral("tall.tiff");
         const Metadata written = metadataOf(path);
-        // The pixels stand upright already, and the entry of the source is carried all the same.
+        // The pixels are upright already, and the tag of the source is copied nevertheless.
         QCOMPARE(written.orientation(), 6);
         QCOMPARE(ImageSource::open(path)->storedSize(), QSize(20, 30));
         QCOMPARE(group(written, "{TIFF}").value(QStringLiteral("Make")),

@@ -265,7 +265,7 @@ void RoundCorners::laysABandOverTheEdge()
     QCOMPARE(cut->pixel(20, 60), opaque(source.pixel(20, 60)));
     QCOMPARE(cut->pixel(100, 20), opaque(source.pixel(100, 20)));
     QCOMPARE(cut->pixel(179, 60), opaque(source.pixel(179, 60)));
-    // A radius of 30 that is not reduced by the band: the arc begins 30 behind the band.
+    // A radius of 30 that is not reduced by the band: the arc begins 30 after the band.
     QCOMPARE(cut->pixel(50, 20), opaque(source.pixel(50, 20)));
     QVERIFY(cut->pixel(46, 20) != opaque(source.pixel(46, 20)));
 }

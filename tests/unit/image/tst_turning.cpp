@@ -25,7 +25,7 @@ Bitmap storedPixels(const QString &path)
         .value_or(Bitmap());
 }
 
-/** Three quarters white, with a red corner at the top right: it tells every turn from every other. */
+/** Three quarters white, with a red corner at the top right: it distinguishes every rotation. */
 QImage asymmetric(int width, int height)
 {
     QImage image = pictures::plain(width, height, Qt::white, QImage::Format_RGB888);
@@ -274,7 +274,9 @@ private Q_SLOTS:
         QCOMPARE(QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList{name});
     }
 
-    /** The tag is neither obeyed nor dropped: where a properties dictionary reaches the file it tells the same as before. */
+    /**
+     * The tag is neither applied nor dropped: if a properties dictionary reaches the file, it says the same as before.
+     */
     void leavesTheOrientationTagAlone_data()
     {
         QTest::addColumn<QString>("path");

@@ -6,7 +6,7 @@
 
 using jobs::partInView;
 
-/** Which part of a picture is asked for where it is seen larger than its room. */
+/** Which part of a picture is requested if it is larger than its room. */
 class TestPartInView : public QObject
 {
     Q_OBJECT

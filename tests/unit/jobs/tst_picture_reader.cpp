@@ -20,7 +20,7 @@
 using namespace jobs;
 using platform::Message;
 
-/** What workers tell of pictures that this process does not open, and what it does not believe. */
+/** What workers report about pictures that this process does not open, and what it does not trust. */
 class TestPictureReader : public QObject
 {
     Q_OBJECT
@@ -306,7 +306,7 @@ void TestPictureReader::usesFilesThatComeAlong()
     QCOMPARE(shown.message.problem, QString());
     QVERIFY(qRed(shown.image.pixel(64, 50)) > 200); // the left half of the mark, in the right half of the picture
     QCOMPARE(asked.ask(Reading::Plan, {path, mark}, {{QStringLiteral("recipe"), made}}).value("width").toInt(), 80);
-    // What was not handed over is not there, whatever stands on the disk.
+    // What was not passed over is not there, whatever is on the disk.
     QVERIFY(!asked.ask(Reading::Result, path, values).message.problem.isEmpty());
     QVERIFY(!asked.ask(Reading::Plan, path, {{QStringLiteral("recipe"), made}}).message.problem.isEmpty());
 }

@@ -11,7 +11,7 @@
 
 using namespace jobs;
 
-/** What comes into watched folders, whether the system tells of it or the folders are looked through. */
+/** What arrives in watched folders, whether the system reports it or the folders are scanned. */
 class TestPictureWatch : public QObject
 {
     Q_OBJECT

@@ -160,7 +160,7 @@ void TestPreviewEdits::doesARecipeAsTheFileIsMade()
         image::rendered({{operation, false}}, {start.bitmap, image::stageOf(start.bitmap)}, image::FillText());
     QVERIFY(expected);
     QCOMPARE(made({recipe({mark("Lake")})}, start).bitmap.toRawImage(), expected->bitmap.toRawImage());
-    // A token stands for what the picture at the path has.
+    // The value of a token is that of the picture at the path.
     QCOMPARE(made({recipe({mark("{name}")})}, start).bitmap.toRawImage(), expected->bitmap.toRawImage());
     QVERIFY(made({recipe({mark("{extension}")})}, start).bitmap.toRawImage() != expected->bitmap.toRawImage());
     const Rendition sized = made({recipe({edit("resize", one("longest", 60))}), edit("flatten")}, start);

@@ -73,7 +73,7 @@ Picture bluePicture()
 
 } // namespace
 
-/** The two preview views: what each operation leaves behind. */
+/** The two preview views: the effects of each operation. */
 class TestPhotoViews : public QObject
 {
     Q_OBJECT

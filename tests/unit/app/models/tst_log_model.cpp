@@ -9,7 +9,7 @@
 
 namespace {
 
-// One line of a log; `minute` stands for its date.
+// One line of a log; `minute` determines its date.
 QByteArray line(int minute, const char *name, const char *status, const char *run)
 {
     const QString text = QStringLiteral(

@@ -129,7 +129,7 @@ Operation anyOperation(QRandomGenerator &random)
     }
 }
 
-/** Each operation on all the pixels of the one before; none where nothing is left. */
+/** Each operation on all the pixels of the previous one; none if nothing is left. */
 std::optional<QImage> oneByOne(const QList<Operation> &operations, const QString &path)
 {
     const Bitmap bitmap = ImageSource::open(path).value().decode().value();

@@ -8,7 +8,7 @@
 
 using image::Recipe;
 
-/** A recipe is taken as it stands or refused in one sentence that begins with the place. */
+/** A recipe is accepted unchanged or rejected in one sentence that begins with the place. */
 class TestRecipeReader : public QObject
 {
     Q_OBJECT

@@ -14,7 +14,7 @@ using namespace image;
 using platform::Bitmap;
 using platform::ImageSource;
 
-/** However few pixels a recipe has decoded for a result: it is as if all of them had been there. */
+/** However few pixels a recipe has decoded for a result: it is as if all of them had been used. */
 class TestRecipeScaling : public QObject
 {
     Q_OBJECT
@@ -30,7 +30,7 @@ namespace {
 
 enum class Pattern { Checks, Upright, Level, Slanted, Colours };
 
-/** A fine pattern in middle tones, so that it is no line art, of cells of so many pixels. */
+/** A fine pattern in middle tones, so that it is no line art, with cells of so many pixels. */
 QImage patterned(Pattern pattern, int cell, QSize size)
 {
     const QRgb light = pattern == Pattern::Colours ? qRgb(210, 120, 60) : qRgb(208, 208, 208);
@@ -86,7 +86,7 @@ QImage plainly(const Recipe &recipe, int index, const ImageSource &source)
     return bitmap ? bitmap->toRawImage().convertToFormat(QImage::Format_RGBA8888) : QImage();
 }
 
-/** A sentence where they are further from each other than they may be. */
+/** A sentence if they differ by more than allowed. */
 QString tooFar(const QImage &one, const QImage &other)
 {
     constexpr double mostMean = 1;

@@ -59,7 +59,7 @@ private Q_SLOTS:
         QVERIFY(!sharedThumbnail(m_folder->filePath(QStringLiteral("gone.jpg")), {4000, 3000}, {72, 54}));
     }
 
-    // As md5sum tells it of "file:///srv/photos/me.png".
+    // As computed by md5sum for "file:///srv/photos/me.png".
     void theNameIsTheSumOfTheAddress()
     {
         QDir().mkpath(m_folder->filePath(QStringLiteral("cache")));

@@ -9,7 +9,7 @@
 
 using namespace platform;
 
-/** The trash: what lies in it, what file managers are told, and that nothing is ever lost. */
+/** The trash: its contents, what file managers are told, and that nothing is ever lost. */
 class TestTrash : public QObject
 {
     Q_OBJECT
@@ -241,7 +241,7 @@ void TestTrash::usesTheTrashOfAnotherFileSystem()
     QCOMPARE(info.readAll().split('\n').at(1), "Path=" + other.path(name).mid(9).toUtf8());
     QVERIFY(other.names().isEmpty() && m_home->names("data/Trash/files").isEmpty());
     QVERIFY(QFile::remove(trash + QStringLiteral("/files/") + name) && info.remove());
-    for (const char *folder : {"/files", "/info", ""}) // where others lie in it, it stays
+    for (const char *folder : {"/files", "/info", ""}) // it stays if others have items in it
         QDir().rmdir(trash + QString::fromLatin1(folder));
 }
 

@@ -66,7 +66,7 @@ bool killAt(int call, bool hasNameless, const std::function<void()> &work)
         ::pause();
 }
 
-/** The process that works in a namespace of processes of its own; 0 where none can be made. */
+/** The process that works in a PID namespace of its own; 0 if none can be created. */
 pid_t beginInAnotherNamespace(const QString &path)
 {
     int ends[2] = {-1, -1};
@@ -76,7 +76,7 @@ pid_t beginInAnotherNamespace(const QString &path)
     if (outer == 0) {
         ::setpgid(0, 0);
         if (::unshare(CLONE_NEWPID) != 0 || ::fork() == 0) {
-            // The first process of a namespace ends with whoever made it.
+            // The first process of a namespace ends with its creator.
             if (::getpid() == 1)
                 beginAndStay(path, ends[1]);
             ::_exit(1);
@@ -98,7 +98,7 @@ pid_t beginInAnotherNamespace(const QString &path)
 
 } // namespace
 
-/** What a kill leaves of a file that was being written goes with the next start, wherever it lies. */
+/** The next start removes what a kill left of a file being written, wherever it is. */
 class TestUnfinishedFiles : public QObject
 {
     Q_OBJECT
@@ -146,7 +146,7 @@ void TestUnfinishedFiles::areGoneAfterAKillAndASweep()
     QVERIFY(calls > 3 && left > 0);
 }
 
-/** Such a process cannot be seen from here, and its number is that of another one; only its signs of life tell. */
+/** Such a process cannot be seen from here, and its number is that of another one; only its lock reveals it. */
 void TestUnfinishedFiles::stayWhileSomebodyElsewhereWritesThem()
 {
     const Place place;

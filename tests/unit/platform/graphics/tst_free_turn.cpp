@@ -89,7 +89,7 @@ private Q_SLOTS:
         QVERIFY2(difference(without, with) <= 1, qPrintable(QString::number(difference(without, with))));
     }
 
-    /** Wherever the picture lies on the canvas, and however little of it: nothing outside it is read. */
+    /** Wherever the picture is on the canvas, and however little of it: nothing outside it is read. */
     void drawsAnyPartOfAnySize_data()
     {
         QTest::addColumn<QSize>("size");
@@ -116,7 +116,7 @@ private Q_SLOTS:
                     }
                 if (centre == QPointF(-40, 3))
                     QCOMPARE(seen, 0.0);
-                if (centre == QPointF(15, 15)) // as much is to be seen as there is; edges are told in steps
+                if (centre == QPointF(15, 15)) // as much is visible as exists; edges are quantised in steps
                     QVERIFY2(std::abs(seen - size.width() * size.height()) < 0.35 * (size.width() + size.height()),
                              qPrintable(QString::number(seen)));
             }

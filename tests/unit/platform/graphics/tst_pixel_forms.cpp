@@ -257,7 +257,7 @@ private Q_SLOTS:
     void readsRunsThatCopyJumpAndEnd()
     {
         const QList<quint32> palette = {0x000000, 0xFF0000, 0x00FF00, 0x0000FF};
-        // The lowest row: colours 1 and 2 in turn, then three that stand one by one; from there one to the right and one up.
+        // The lowest row: colours 1 and 2 alternating, then three single ones; from there one to the right and one up.
         const QByteArray runs("\x03\x12\x00\x03\x31\x20\x00\x02\x01\x01\x01\x30\x00\x01", 14);
         const Bitmap bitmap = decoded(pictures::bmp({4, 2, {}, palette}, 8, 2, runs));
         QVERIFY(!bitmap.isNull());

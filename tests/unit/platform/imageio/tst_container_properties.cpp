@@ -73,7 +73,7 @@ QByteArray asItIs(const QByteArray &data)
     return data + trailer + '\0';
 }
 
-/** One pixel, with XMP in front of it or behind it. */
+/** One pixel, with XMP before or after it. */
 QByteArray gif(const QByteArray &block, bool isBehind)
 {
     const QByteArray xmp = "!\xff\x0bXMP DataXMP" + block;

@@ -21,7 +21,7 @@ Q_DECLARE_METATYPE(EveryRead::Fail)
 
 namespace {
 
-/** What came of it, as one text that two tries can be compared by; empty where it failed. */
+/** The outcome as one text by which two tries can be compared; empty if it failed. */
 using Work = std::function<QByteArray(const QString &path)>;
 
 QByteArray told(const QVariant &value)

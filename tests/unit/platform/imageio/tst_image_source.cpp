@@ -67,7 +67,7 @@ private Q_SLOTS:
             return;
         }
         QVERIFY2(source.has_value(), source ? "" : qPrintable(source.error().message));
-        // A container that turns its picture itself has its stored size behind that turn.
+        // A container that rotates its picture itself has its stored size before that rotation.
         const bool isTurnedByContainer = row.format == QLatin1String("HEIC") || row.format == QLatin1String("AVIF");
         const bool isDrawn = row.format == QLatin1String("PDF");
         if (!isDrawn)
@@ -270,7 +270,7 @@ private Q_SLOTS:
     void doesNotStretchWhatIsNoWholeNumberOfBlocks()
     {
         QFETCH(QSize, stored);
-        // Slopes tell places: a shift of a pixel in the result changes its value by a known step.
+        // Slopes encode positions: a shift of a pixel in the result changes its value by a known step.
         constexpr int part = 8; // only the last eighth of a side rises
         const auto height = [](int place, int side) {
             return std::max(0, (place - side + side / part) * part * 255 / side);

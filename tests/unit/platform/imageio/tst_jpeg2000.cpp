@@ -27,7 +27,7 @@ QByteArray box(const char *name, const QByteArray &data)
     return size + name + data;
 }
 
-/** What stands in a box of colours that names one of the known spaces. */
+/** The contents of a colour box that names one of the known spaces. */
 QByteArray knownSpace(int number)
 {
     return QByteArray("\1\0\0\0\0", 5) + big16(number);

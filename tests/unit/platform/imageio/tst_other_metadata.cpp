@@ -1,4 +1,4 @@
-// Files whose metadata changes while no pixel is encoded again, and what lies beside the picture in a file.
+// Files whose metadata changes while no pixel is encoded again, and what accompanies the picture in a file.
 
 #include "platform/imageio/convert/other_metadata.h"
 #include "platform/imageio/encode/image_destination.h"
@@ -98,7 +98,7 @@ private Q_SLOTS:
         QFETCH(const FileFormat, format);
         const QByteArray before = fileOf(format);
         QVERIFY(before.contains("Hamburg"));
-        const bool opensWithMore = format != FileFormat::Jpeg2000; // whose chain of boxes has to be whole
+        const bool opensWithMore = format != FileFormat::Jpeg2000; // whose chain of boxes must be complete
         const auto source = ImageSource::fromData(opensWithMore ? before + "rubbish behind the end" : before);
         QVERIFY(source);
         const Metadata known = source->metadata().value();

@@ -35,7 +35,7 @@ template<typename Number> QByteArray big(Number value)
 
 using Tags = QList<std::pair<quint16, QByteArray>>;
 
-/** A directory of texts that stands at @p offset, with its values behind it; a pointer to another one where asked for. */
+/** A directory of texts at @p offset, followed by its values; a pointer to another one if requested. */
 QByteArray directory(const Tags &tags, qsizetype offset, quint16 orientation = 0, bool leadsOn = false)
 {
     const qsizetype entries = tags.size() + (orientation ? 1 : 0) + (leadsOn ? 1 : 0);
@@ -43,7 +43,7 @@ QByteArray directory(const Tags &tags, qsizetype offset, quint16 orientation = 0
     QByteArray head = big(quint16(entries));
     QByteArray values;
     for (const auto &[tag, text] : tags) {
-        const QByteArray value = text.leftJustified(5, ' ') + '\0'; // never so short that it stands in the entry
+        const QByteArray value = text.leftJustified(5, ' ') + '\0'; // never so short that it is stored in the entry
         head += big(tag) + big(quint16(2)) + big(quint32(value.size())) + big(quint32(valuesAt + values.size()));
         values += value;
     }

@@ -50,7 +50,7 @@ QImage pixelsOf(const QByteArray &file)
 
 struct Difference
 {
-    double decibels = 0; ///< how far the mean square lies below 255
+    double decibels = 0; ///< how far the mean square is below 255
     std::array<double, 3> shift = {};
     int largest = 0;
 };
@@ -104,7 +104,7 @@ platform::JpegResize wholeAt(QSize size, double finer = 1)
 
 } // namespace
 
-/** JPEGs that become smaller JPEGs as planes of brightness and colour. */
+/** JPEGs that are reduced to smaller JPEGs as planes of brightness and colour. */
 class ResizedJpeg : public QObject
 {
     Q_OBJECT

@@ -23,7 +23,7 @@ QByteArray shortEntry(const TiffForm &form, quint16 tag, quint16 value)
     return form.entry(tag, tiffType::shortType, 1, form.bytes(value, 2));
 }
 
-/** A file whose first directory has these entries, which lie at its end. */
+/** A file whose first directory has these entries, which are at its end. */
 QByteArray fileWith(const TiffForm &form, const QByteArray &entries, quint64 next = 0)
 {
     return header(form, quint64(form.headerSize())) + form.directory(entries, next);

@@ -159,7 +159,7 @@ void TestWholePicture::refusesWhatIsCut()
 
 void TestWholePicture::keepsOddFilesThatAreWhole()
 {
-    // Other bytes behind the end of a picture are no part of it.
+    // Other bytes after the end of a picture are not part of it.
     for (const char *name : {"a.png", "a.jpg", "a.gif", "a.bmp", "a.tif", "a.jp2", "a.psd", "a.webp"}) {
         const QString longer = at(QStringLiteral("longer-") + QString::fromLatin1(name));
         write(longer, pictures::bytesOf(at(QString::fromLatin1(name))) + QByteArray(5, '\0'));

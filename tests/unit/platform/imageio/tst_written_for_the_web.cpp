@@ -211,7 +211,7 @@ private Q_SLOTS:
                                               again.pixelColor(x, y).name(QColor::HexArgb))));
     }
 
-    /** A large JPEG XL is made of several frames, which are one picture to whoever reads it. */
+    /** A large JPEG XL consists of several frames, which are one picture to every reader. */
     void isOnePictureWhereEncodingItTakesSeveralFrames_data()
     {
         QTest::addColumn<QImage::Format>("format");

@@ -76,7 +76,7 @@ constexpr Kind kinds[] = {
     {"pdf", "pdf", std::nullopt, false, false, false},
 };
 
-/** Set by exiftool in the source; by name of group and tag as it then tells them. */
+/** Set by exiftool in the source; by name of group and tag as it then reports them. */
 const QList<std::pair<QString, QString>> &exifTags()
 {
     static const QList<std::pair<QString, QString>> tags = {
@@ -153,7 +153,9 @@ QStringList camerasThere()
     return paths;
 }
 
-/** The bytes of the maker note as they stand in the file. What exiftool extracts it has put together, with places of that file. */
+/**
+ * The bytes of the maker note as stored in the file. What exiftool extracts is reassembled, with offsets of that file.
+ */
 QByteArray makerNote(const QString &path)
 {
     static const QRegularExpression place(QStringLiteral("Tag 0x927c \\((\\d+) bytes[^\\n]*\\n[ |]*([0-9a-f]+): "));

@@ -45,7 +45,7 @@ QByteArray jpeg2000()
                   : QByteArray();
 }
 
-/** Made by the encoder's own program; empty where that is not installed. */
+/** Made by the encoder's own program; empty if that is not installed. */
 QByteArray webp()
 {
     const ScratchFolder folder;
@@ -75,7 +75,7 @@ QByteArray mutated(QByteArray bytes, QRandomGenerator &random)
     }
 }
 
-/** The picture that a file shows; none where it cannot be opened, and a null image where its pixels are damaged. */
+/** The picture that a file shows; none if it cannot be opened, and a null image if its pixels are damaged. */
 std::optional<QImage> shownBy(const QString &path)
 {
     const auto source = ImageSource::open(path);

@@ -116,7 +116,7 @@ QImage storedPixels(const QByteArray &file)
                   : QImage();
 }
 
-/** As the decoder hands it on; from the bytes where it cannot open the picture. */
+/** As passed on by the decoder; from the bytes if it cannot open the picture. */
 Metadata metadataOfPicture(const QString &path)
 {
     const auto source = platform::ImageSource::open(pictureNamed(path));
@@ -129,7 +129,7 @@ QByteArray pixelsOf(const QByteArray &jpeg)
     return jpeg.mid(jpeg.indexOf("\xff\xdb"));
 }
 
-/** Tags that tell how a file stores its pixels, or that are the old file's own. */
+/** Tags that describe how a file stores its pixels, or that are the old file's own. */
 bool belongsToTheOldFile(const QString &tag)
 {
     static const QRegularExpression structure(QStringLiteral(
@@ -232,7 +232,7 @@ void TheMetadata::readsCommentAndOrientation()
     QCOMPARE(metadata.orientation(), orientation);
 }
 
-/** What a picture's tags became in another file, one line for each that is not what it was. */
+/** What happened to a picture's tags in another file, one line for each that has changed. */
 QString TheMetadata::lostTags(const QString &path, const Tags &after) const
 {
     static const QRegularExpression carried(

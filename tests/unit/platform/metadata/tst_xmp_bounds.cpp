@@ -1,4 +1,4 @@
-// A packet of XMP with too many properties to be taken apart is carried and not read, wherever it stands.
+// A packet of XMP with too many properties to be parsed is copied but not read, wherever it is.
 
 #include "platform/imageio/metadata/metadata.h"
 #include "platform/imageio/xmp/xmp_bounds.h"
