@@ -1,5 +1,5 @@
-// A worker that says of every picture what can be said of any, and sleeps as long as it is told to in place of computing. It starts no
-// library, so that many of them start as fast on two processors as others do on many.
+// A worker that reports the same about every picture, and sleeps as long as it is told to instead of computing. It
+// initialises no library, so that many of them start as fast on two processors as others do on many.
 
 #include "jobs/crew/recipe_worker.h"
 #include "platform/workers/worker_pool.h"

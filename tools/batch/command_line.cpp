@@ -97,7 +97,7 @@ const std::map<QString, TakeFlag> &flags()
     return all;
 }
 
-/** Takes one option, with the argument behind it where it needs one; answers what is wrong. */
+/** Reads one option, with its argument if it needs one; answers what is wrong. */
 QString takeOption(CommandLine &line, const QString &argument, QStringList &rest)
 {
     const qsizetype equals = argument.startsWith(QLatin1String("--")) ? argument.indexOf(u'=') : -1;
@@ -141,7 +141,7 @@ CommandLine readCommandLine(const QStringList &arguments)
     CommandLine line;
     QStringList rest = arguments;
     QStringList names;
-    bool isOver = false; // behind -- everything is a name
+    bool isOver = false; // after -- everything is a name
     while (!rest.isEmpty()) {
         const QString argument = rest.takeFirst();
         if (!isOver && argument == QLatin1String("--")) {

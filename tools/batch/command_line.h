@@ -33,10 +33,10 @@ struct CommandLine
     bool asksForHelp = false;
     bool asksForVersion = false;
 
-    QString problem; ///< a sentence where it makes no sense
+    QString problem; ///< a sentence if it is invalid
 };
 
-/** Reads the arguments behind the program's name. */
+/** Reads the arguments after the program's name. */
 CommandLine readCommandLine(const QStringList &arguments);
 
 /** What --help says, on one screen. */

@@ -89,7 +89,7 @@ int carryOut(Request &request, const CommandLine &line)
     return summary.failed + summary.notSupported > 0 ? SomeFailed : Done;
 }
 
-/** What nobody opened must not become the number of a file that is opened later. */
+/** A descriptor that nobody opened must not become the number of a file opened later. */
 void openStandardStreams()
 {
     for (int descriptor = 0; descriptor <= STDERR_FILENO; ++descriptor)
@@ -160,7 +160,7 @@ int main(int argc, char **argv)
         return answer(presetNames());
     for (const int signal : {SIGINT, SIGTERM, SIGHUP})
         std::signal(signal, stop);
-    for (const int signal : {SIGPIPE, SIGXFSZ}) // what cannot be written is told by the call that writes
+    for (const int signal : {SIGPIPE, SIGXFSZ}) // write errors are reported by the call that writes
         std::signal(signal, SIG_IGN);
     Request request = requestFrom(line);
     return request.problem.isEmpty() ? carryOut(request, line) : refuse(request.problem);

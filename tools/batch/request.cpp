@@ -54,7 +54,10 @@ platform::Result<QByteArray> recipeFile(const CommandLine &line)
                              QStringLiteral("there is no preset \"%1\"; see --list-presets").arg(line.preset));
 }
 
-/** Has a worker open what the recipe names, since this process opens no picture. @return what is wrong; empty where nothing is */
+/**
+ * Has a worker open what the recipe names, since this process opens no picture. @return what is wrong; empty if nothing
+ * is
+ */
 QString readRecipe(Request &request, const QByteArray &file, const CommandLine &line)
 {
     image::RecipeFiles named;

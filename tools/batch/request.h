@@ -14,7 +14,7 @@ struct Request
     jobs::BatchOptions options;
     jobs::WatchLock lock;
     std::unique_ptr<jobs::Crew> crew; ///< that knows the recipe
-    QString problem;                  ///< a sentence where it cannot be carried out
+    QString problem;                  ///< a sentence if it cannot be carried out
 };
 
 Request requestFrom(const CommandLine &line);

@@ -21,7 +21,7 @@ void limit(int what, rlim_t amount)
     ::setrlimit(__rlimit_resource(what), &both);
 }
 
-/** What stands behind the one that looks how much memory there is: a step that takes all at once is quicker than any look. */
+/** What backs up the memory watchdog: a step that allocates everything at once is faster than any check. */
 void limitAddresses(qint64 residentBytes)
 {
 #if !defined(__SANITIZE_ADDRESS__)
@@ -58,7 +58,7 @@ int runWorker(int count, char **arguments, const jobs::WorkerTrial &trial)
     if (count < own)
         return EXIT_FAILURE;
     platform::endWithParent(std::atoi(arguments[1]));
-    limit(RLIMIT_CORE, 0); // nobody's pictures lie about
+    limit(RLIMIT_CORE, 0); // no pictures of users are around
     limitAddresses(std::atoll(arguments[2]));
     const QCoreApplication application(count, arguments);
     const Tables tables(arguments + own, arguments + count);
