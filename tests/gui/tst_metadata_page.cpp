@@ -578,7 +578,7 @@ void TestMetadataPage::tenThousandEditsStayFluid()
     clock.restart();
     log()->selectAll();
     const qint64 selected = clock.restart();
-    QCOMPARE(m_driver->control<QPushButton>("logRevert")->text(), QStringLiteral("Revert 10000 Comments"));
+    QCOMPARE(m_driver->control<QPushButton>("logRevert")->text(), QStringLiteral("Revert 10,000 Comments"));
     m_driver->click("logRevert"); // none of the files is there: what is left is the list's own work
     qint64 step = 0;
     while (!button("logStop")->isHidden()) {
@@ -589,7 +589,7 @@ void TestMetadataPage::tenThousandEditsStayFluid()
     }
     const qint64 reverted = clock.elapsed();
     QVERIFY(m_driver->waitFor([this] { return !log()->isReading() && log()->totalCount() == 2 * count; }));
-    QVERIFY2(note().startsWith(QStringLiteral("0 comments reverted · 10000 problems")), qPrintable(note()));
+    QVERIFY2(note().startsWith(QStringLiteral("0 comments reverted · 10,000 problems")), qPrintable(note()));
     qInfo("%d edits: first rows after %lld ms, longest slice while reading %lld ms; all chosen in %lld ms; as many "
           "reverts in %lld ms, longest slice %lld ms",
           count, qlonglong(first), qlonglong(longest), qlonglong(selected), qlonglong(reverted), qlonglong(step));

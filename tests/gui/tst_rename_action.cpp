@@ -332,7 +332,7 @@ private Q_SLOTS:
         addStep("New text");
         auto *field = m_driver->control<QLineEdit>("firstText");
         field->setText(QStringLiteral("{name} {counter:00001}"));
-        QVERIFY(waitForOperation("Rename 10000 Files"));
+        QVERIFY(waitForOperation("Rename 10,000 Files"));
         QElapsedTimer clock;
         qint64 longest = 0;
         qint64 worked = 0;
@@ -354,10 +354,10 @@ private Q_SLOTS:
         qInfo("10000 names: planned %lld ms after the last key, %lld ms of processor time, longest stop of the window "
               "%lld ms",
               clock.elapsed(), worked, longest);
-        QVERIFY(waitForOperation("Rename 10000 Files"));
+        QVERIFY(waitForOperation("Rename 10,000 Files"));
         clock.restart();
         m_driver->click("startButton");
-        QVERIFY(m_driver->waitForSummary().startsWith(QStringLiteral("10000 files renamed, 0 problems")));
+        QVERIFY(m_driver->waitForSummary().startsWith(QStringLiteral("10,000 files renamed, 0 problems")));
         qInfo("10000 files renamed in %lld ms", clock.elapsed());
         QCOMPARE(namesIn(m_folder).size(), 10000);
         QVERIFY(QFile::exists(path("IMG_9999 10000 lake.txt")));

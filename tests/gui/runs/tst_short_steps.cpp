@@ -203,7 +203,7 @@ private:
         constexpr int count = 4000; // one step that grew with their number would be seen
         beginRenaming(count);
         const QString said = run();
-        QVERIFY2(said.startsWith(QStringLiteral("%1 files renamed, 0 problems").arg(count)), qPrintable(said));
+        QVERIFY2(said.startsWith(QStringLiteral("%L1 files renamed, 0 problems").arg(count)), qPrintable(said));
     }
 
     void undoRenaming()
@@ -214,7 +214,7 @@ private:
         MeasuredApplication::longest().clear();
         m_driver->control<QAction>("undoAction")->trigger();
         const QString said = m_driver->waitForSummary();
-        QVERIFY2(said.startsWith(QStringLiteral("%1 names restored").arg(count)), qPrintable(said));
+        QVERIFY2(said.startsWith(QStringLiteral("%L1 names restored").arg(count)), qPrintable(said));
     }
 
     void beginRenaming(int count)
