@@ -182,6 +182,74 @@ private Q_SLOTS:
         QVERIFY2(opened.isEmpty(), qPrintable(opened.join(u' ')));
     }
 
+    /** The program ends in the middle of a run, and the next one does the rest, as it was to be done. */
+    void goesOnWhereItWasInterrupted()
+    {
+        constexpr int count = 8;
+        for (int i = 0; i < count; ++i) // the first take longest
+            save(qPrintable(QStringLiteral("p%1.png").arg(i)), qRgba(200, 40, 20, 120), QSize(2400, 1600) / (i + 1));
+        m_driver->choose("target", QStringLiteral("webp"));
+        m_driver->choose("convertQuality", QStringLiteral("3"));
+        m_driver->drop({m_folder});
+        WorkerDesk::ofProcess().setSize(1);
+        const QDir results(m_folder + QStringLiteral("/Converted"));
+        m_driver->click("startButton");
+        QVERIFY(m_driver->waitFor([&] { return results.entryList(QDir::Files).size() >= 2; }));
+        m_driver->click("pauseButton");
+        QVERIFY(
+            m_driver->waitFor([this] { return m_driver->text("statusDetail").startsWith(QStringLiteral("paused")); }));
+        QMap<QString, QDateTime> before;
+        for (const QFileInfo &file : results.entryInfoList(QDir::Files))
+            before.insert(file.fileName(), file.lastModified());
+        QVERIFY(before.size() >= 2 && before.size() < count);
+        m_driver->startAgain();
+        QCOMPARE(m_driver->text("interruptedNote"),
+                 QStringLiteral("Converting was interrupted: %1 of 8 pictures are done.").arg(before.size()));
+        m_driver->click("interruptedGo");
+        const QString summary = m_driver->waitForSummary();
+        QVERIFY2(summary.startsWith(QStringLiteral("8 pictures done")), qPrintable(summary));
+        QCOMPARE(results.entryList(QDir::Files).size(), count);
+        for (const QFileInfo &file : results.entryInfoList(QDir::Files)) {
+            QCOMPARE(file.suffix(), QStringLiteral("webp"));
+            QVERIFY(platform::ImageSource::canOpen(file.filePath()));
+            if (before.contains(file.fileName()))
+                QCOMPARE(file.lastModified(), before[file.fileName()]);
+        }
+    }
+
+    void asksOnceWhereTheDiskIsFull_data()
+    {
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<QString>("summary");
+        QTest::addColumn<int>("made");
+        QTest::newRow("room was made") << QStringLiteral("Retry") << QStringLiteral("3 pictures done") << 3;
+        QTest::newRow("elsewhere") << QStringLiteral("Choose Folder…") << QStringLiteral("3 pictures done") << 2;
+        QTest::newRow("given up") << QStringLiteral("Cancel") << QStringLiteral("Cancelled: 2 pictures done · 1 failed")
+                                  << 2;
+    }
+
+    void asksOnceWhereTheDiskIsFull()
+    {
+        QFETCH(QString, answer);
+        QFETCH(QString, summary);
+        QFETCH(int, made);
+        WorkerDesk::useProgram(QStringLiteral(QUORLIN_TRIAL_WORKER));
+        WorkerDesk::ofProcess().setSize(1);
+        save("a.png");
+        save("full-b.png"); // finds no room once
+        save("full-c.png");
+        m_driver->drop({m_folder});
+        const QDir results(m_folder + QStringLiteral("/Converted"));
+        const QDir others(m_driver->folder() + QStringLiteral("/others"));
+        QVERIFY(QDir().mkpath(others.path()));
+        WindowDriver::answerPanels({others.path()});
+        WindowDriver::answerNextQuestion(answer);
+        run(summary);
+        const auto all = QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot;
+        QCOMPARE(results.entryList(all).size(), made);
+        QCOMPARE(others.entryList(all).size(), answer == QStringLiteral("Choose Folder…") ? 1 : 0);
+    }
+
     void bringsBackWhatItReplaced()
     {
         QFile original(m_folder + QStringLiteral("/a.jpg"));
@@ -272,9 +340,9 @@ private Q_SLOTS:
     }
 
 private:
-    void save(const char *name, QRgb color = qRgba(200, 40, 20, 120))
+    void save(const char *name, QRgb color = qRgba(200, 40, 20, 120), QSize size = {64, 48})
     {
-        QImage image(64, 48, QImage::Format_ARGB32);
+        QImage image(size, QImage::Format_ARGB32);
         image.fill(QColor::fromRgba(color));
         image.setDotsPerMeterX(2835);
         image.setDotsPerMeterY(2835);
