@@ -128,7 +128,7 @@ private Q_SLOTS:
         QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("f.jpg")));
         add({"a.JPG", "b.txt", ".jpg", "jpg"});
         m_model->add({m_folder->filePath(QStringLiteral("f.jpg"))});
-        m_order->setInput({folders, anyFile, extensions});
+        m_order->setInput({folders, anyFile, extensions, 0, {}});
         QTEST(names(), "shown");
         QCOMPARE(m_order->input().folders, folders);
     }
