@@ -21,7 +21,7 @@ namespace {
 constexpr int rowHeightPx = 30;
 constexpr int paddingPx = 20;
 /** Shares in percent of the width that the date leaves; the last column takes the rest. */
-constexpr int shares[] = {0, 20, 18, 30, 16, 0};
+constexpr int shares[] = {0, 20, 18, 29, 17, 0};
 /** The same while comments are shown, which need the most room. */
 constexpr int sharesOfComments[] = {0, 15, 15, 10, 0, 15, 22};
 
