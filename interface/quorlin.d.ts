@@ -918,6 +918,8 @@ declare module "quorlin/files" {
         owners(paths: texts): { [identity: string]: string[] };
         /** All entries of a folder, in no order; empty where it cannot be read. */
         names(folder: text): string[];
+        /** Those that end in one of these, whatever their case. */
+        namesEndingIn(folder: text, endings: texts): string[];
         /** Its folders. */
         folders(folder: text): string[];
         /** Files and folders as they were dropped, as the list to work on. "*" takes every file; an empty list of listed means those taken. */
@@ -2278,6 +2280,7 @@ declare module "quorlin/shell" {
         /** In the order of ids(). */
         tickedIds(): list;
         tickedPaths(): texts;
+        pathsOf(ids: list): texts;
         untickedIds(): list;
         /** Of the chosen rows. */
         toggleTicks(): null;

@@ -24,6 +24,7 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
+#include <algorithm>
 #include <cmath>
 
 namespace files {
@@ -101,6 +102,17 @@ QStringList FileService::names(const QString &folder) const
 {
     return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
                                   QDir::Unsorted);
+}
+
+QStringList FileService::namesEndingIn(const QString &folder, const QStringList &endings) const
+{
+    QStringList found = names(folder);
+    found.removeIf([&endings](const QString &name) {
+        return std::none_of(endings.begin(), endings.end(), [&name](const QString &ending) {
+            return name.size() > ending.size() && name.endsWith(ending, Qt::CaseInsensitive);
+        });
+    });
+    return found;
 }
 
 QStringList FileService::folders(const QString &folder) const

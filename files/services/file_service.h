@@ -46,6 +46,8 @@ public:
     Q_INVOKABLE QVariantMap owners(const QStringList &paths) const;
     /** Names of all entries of a folder, including hidden ones, in no particular order; empty if it cannot be read. */
     Q_INVOKABLE QStringList names(const QString &folder) const;
+    /** Those of names() that end in one of these, whatever their case, and have a character before it. */
+    Q_INVOKABLE QStringList namesEndingIn(const QString &folder, const QStringList &endings) const;
     /**
      * The names of the folders in a folder, including hidden ones, in no particular order; empty if it cannot be read.
      */

@@ -1,11 +1,12 @@
 // Files that belong to a picture and move with it: settings of other programs, previews and voice notes that have its
-// name. Services used: files (names), passed in.
+// name. Services used: files (namesEndingIn), passed in.
 
 import { emptyTable, joinPath, splitPath } from "./names.js";
 
 /** Extensions of such files, in lower case. */
 export const SIDECARS = ["xmp", "aae", "thm", "pp3", "dop", "cos", "on1", "wav"];
 
+const ENDINGS = SIDECARS.map((ending) => "." + ending);
 const ENDING = new RegExp("[^.]\\.(" + SIDECARS.join("|") + ")$", "i");
 
 /**
@@ -47,7 +48,8 @@ export class Sidecars {
     inFolder(folder) {
         if (this.folders[folder] === undefined) {
             const found = emptyTable();
-            this.files.names(folder).filter((name) => ENDING.test(name))
+            // Ten thousand names of pictures are not handed over to be thrown away here.
+            this.files.namesEndingIn(folder, ENDINGS).filter((name) => ENDING.test(name))
                 .forEach((name) => push(found, splitPath(name).base, name));
             this.folders[folder] = found;
         }

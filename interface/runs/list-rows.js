@@ -26,14 +26,21 @@ export function showUnticked(list, isFinal) {
     });
 }
 
+/** A generator that returns the paths of these rows, read some at a time: ten thousand at once would be noticed. */
+export function* pathsInParts(list, ids) {
+    const paths = [];
+    for (let i = 0; i < ids.length; i += ROWS_AT_ONCE) {
+        list.pathsOf(ids.slice(i, i + ROWS_AT_ONCE)).forEach((path) => paths.push(path));
+        yield ids.length;
+    }
+    return paths;
+}
+
 /** A generator that makes what rowsByPath() does, some rows at a time. */
 export function* rowsByPathInParts(list) {
     const table = emptyTable();
-    let ids = list.ids();
-    yield 0;
-    const paths = list.paths();
-    // Rows may have been added meanwhile.
-    ids = ids.length === paths.length ? ids : list.ids();
+    const ids = list.ids();
+    const paths = yield* pathsInParts(list, ids);
     for (let i = 0; i < paths.length; i += ROWS_AT_ONCE) {
         paths.slice(i, i + ROWS_AT_ONCE).forEach((path, j) => { table[path] = ids[i + j]; });
         yield i;

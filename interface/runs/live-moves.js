@@ -3,6 +3,7 @@
 import { itemOf, planMoves, shownName } from "./move-plan.js";
 import { stateOf } from "./move-words.js";
 import { splitPath } from "../lib/names.js";
+import { pathsInParts } from "./list-rows.js";
 import { LivePlan } from "./live-plan.js";
 
 // A plan is made in slices of rows, so that the window stays responsive while ten thousand of them are shown.
@@ -87,7 +88,8 @@ export class LiveMoves extends LivePlan {
     // The pane may have something to show beside the list.
     * planAll(ids, settings) {
         const window = this.window;
-        const rows = { ids: ids, paths: window.pictures.tickedPaths() };
+        const paths = yield* pathsInParts(window.pictures, ids);
+        const rows = { ids: ids, paths: paths };
         const plan = yield* showPlan(window, rows, settings, (id) => this.isFinal(id));
         if (window.pane.showPlan !== undefined) {
             yield* window.pane.showPlan(plan, ids);

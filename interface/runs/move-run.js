@@ -6,7 +6,7 @@ import { MovedFolders } from "./moved-folders.js";
 import { refusalText } from "./move-words.js";
 import { splitPath } from "../lib/names.js";
 import { clockText, Progress } from "./progress.js";
-import { rowsByPathInParts } from "./list-rows.js";
+import { pathsInParts, rowsByPathInParts } from "./list-rows.js";
 import { logRow } from "./report.js";
 import { retryRows } from "./retry.js";
 import { DiskNeeds, roomText } from "./room.js";
@@ -21,6 +21,7 @@ const TELL_MS = 100;
 const ROWS_A_SLICE = 50;
 const ITEMS_AT_ONCE = 50;
 const WORK_MS = 1;
+const SHOWN = Object.freeze({});
 
 // Has the engine check everything and record what is to be done; returns {run} or {problem}.
 function* prepared(moves, title, items) {
@@ -106,18 +107,10 @@ export class MoveRun extends BaseRun {
         this.changed();
     }
 
-    // With very many rows ids and paths are requested in two steps, and rows may have been added in between.
-    readPaths() {
-        const list = this.window.pictures;
-        this.paths = list.tickedPaths();
-        this.ids = this.paths.length === this.ids.length ? this.ids : list.tickedIds();
-    }
-
     * plan() {
         const window = this.window;
         if (this.paths === null) {
-            yield 0;
-            this.readPaths();
+            this.paths = yield* pathsInParts(window.pictures, this.ids);
         }
         const plan = yield* showPlan(window, { ids: this.ids, paths: this.paths }, this.settings, () => false);
         plan.ready = yield* readyItems(plan);
@@ -274,15 +267,22 @@ export class MoveRun extends BaseRun {
         this.unfinished = [];
     }
 
+    // That a run has begun is shown in a step of its own: the whole window changes with it.
+    * shownFirst(work) {
+        this.showProgress();
+        yield SHOWN;
+        const value = yield* work;
+        return value;
+    }
+
     // work is a generator; take() gets what it yields for each file.
     carryOut(run, work, take) {
         this.id = run;
         this.phase = "running";
         this.progress = new Progress(this.items.map(() => 1));
         this.steppedMs = Date.now();
-        this.job.start(work, guard("moves.step", take),
+        this.job.start(this.shownFirst(work), guard("moves.step", (step) => step !== SHOWN && take(step)),
                        guard("moves.end", (how, value) => this.runEnded(how, value)));
-        this.showProgress();
     }
 
     takeResult(result) {

@@ -20,6 +20,11 @@ export class FakeFiles {
                  bytes: typeof entry === "number" ? entry : -1, writable: true };
     }
 
+    // What does not end so is left out by whoever asks.
+    namesEndingIn(folder) {
+        return this.names(folder);
+    }
+
     names(spelling) {
         const folder = this.folderIdentity(spelling);
         return Object.keys(this.entries).filter((path) => splitPath(path).folder === folder)

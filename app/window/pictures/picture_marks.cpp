@@ -36,6 +36,16 @@ QStringList PictureTable::tickedPaths() const
     return found;
 }
 
+QStringList PictureTable::pathsOf(const QVariantList &ids) const
+{
+    QStringList found;
+    for (const QVariant &id : ids) {
+        const int row = m_model.indexOfId(id.toInt());
+        found.append(row < 0 ? QString() : m_model.row(row).path);
+    }
+    return found;
+}
+
 QVariantList PictureTable::untickedIds() const
 {
     QVariantList found;

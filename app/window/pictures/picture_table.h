@@ -150,6 +150,8 @@ public:
     /** Of these, the pictures that are ticked. */
     Q_INVOKABLE QVariantList tickedIds() const;
     Q_INVOKABLE QStringList tickedPaths() const;
+    /** The paths of the pictures with these ids; empty for one that is gone. */
+    Q_INVOKABLE QStringList pathsOf(const QVariantList &ids) const;
     /** The pictures that are not. */
     Q_INVOKABLE QVariantList untickedIds() const;
     /** Unticks the chosen rows, or ticks them if none of them is ticked. */

@@ -145,7 +145,7 @@ test("sortsTenThousandFilesInSlices", () => {
     }
     const services = servicesWith(dates);
     const names = Object.keys(dates).map((path) => path.slice("/in/".length));
-    services.files.names = () => names;
+    services.files.namesEndingIn = () => names;
     services.files.folders = () => [];
     for (const round of ["first", "next"]) {
         const work = sort.rows(Object.keys(dates), sort.defaults, services);

@@ -3,7 +3,9 @@ import { equal, finish, test } from "../check.js";
 
 function sidecarsAmong(names) {
     const asked = [];
-    const sidecars = new Sidecars({ names: (folder) => { asked.push(folder); return folder === "/a" ? names : []; } });
+    const sidecars = new Sidecars({
+        namesEndingIn: (folder) => { asked.push(folder); return folder === "/a" ? names : []; },
+    });
     return { of: (path) => sidecars.of(path), owner: (path) => sidecars.ownerOf(path), asked: asked };
 }
 
