@@ -5,10 +5,9 @@ import shutil
 import statistics
 import subprocess
 import sys
-import threading
-import time
 from pathlib import Path
 
+from measure import MemoryWatch, copies
 from picture_size import size_of
 
 ROOT = Path(__file__).resolve().parent.parent
@@ -23,35 +22,6 @@ FEW = min(COUNT, 16)
 
 def script(name):
     return [str(PROGRAMS / "quorlin-script"), str(ROOT / "bench" / name)]
-
-
-class MemoryWatch(threading.Thread):
-    """The most that a process and its children had together, what they share counted once, in MB."""
-
-    def __init__(self, pid):
-        super().__init__(daemon=True)
-        self.pid, self.most, self.goes_on = pid, 0, True
-
-    def members(self):
-        found = [self.pid]
-        for task in Path(f"/proc/{self.pid}/task").glob("*/children"):
-            try:
-                found += [int(pid) for pid in task.read_text().split()]
-            except OSError:
-                pass
-        return found
-
-    def run(self):
-        while self.goes_on:
-            total = 0
-            for pid in self.members():
-                try:
-                    lines = Path(f"/proc/{pid}/smaps_rollup").read_text().splitlines()
-                    total += sum(int(line.split()[1]) for line in lines if line.startswith("Pss:"))
-                except OSError:
-                    pass
-            self.most = max(self.most, total / 1024)
-            time.sleep(0.05)
 
 
 def cost(command, watches=False):
@@ -80,11 +50,7 @@ class Workshop:
         place = self.folder / f"in{count}"
         if not place.exists():
             place.mkdir()
-            originals = sorted(CORPUS.glob("*.jpg"))
-            if not originals:
-                sys.exit(f"bench: there are no photographs in {CORPUS}")
-            for i in range(count):
-                shutil.copy(originals[i % len(originals)], place / f"p{i:03}.jpg")
+            copies(CORPUS, place, count)
         return place
 
     def run(self, command, count, watches=False, only=None):
