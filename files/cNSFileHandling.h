@@ -39,8 +39,7 @@ public:
      * names: "16-Nov-2026T03-52-09", local time.
      *
      * @param formatCode  0, 1 or 2, as number or text: a new stamp, always in the same format. Anything else: the stamp
-     * that the
-     *                    object returned before
+     *                    that the object returned before
      * @return "(null)" if there is none: nothing is at the path, or nothing was returned before. A link has dates of
      * its own
      */

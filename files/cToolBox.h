@@ -71,8 +71,7 @@ public:
      * Copies a file beside itself under @p newName.
      *
      * @return "successfull", spelled so, or "Failed". If the name is taken, that file stays as it is, and the copy
-     * remains
-     *         under the name with "-temp" appended
+     *         remains under the name with "-temp" appended
      */
     Q_INVOKABLE QString hStoreFiles(const QString &source, const QString &newName);
 

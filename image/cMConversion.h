@@ -23,8 +23,7 @@ public:
      * @param unit        "mm", "cm", "inch", "pica" (4.2175176 mm) or "punt" (0.3527777777778 mm): converted with the
      *                    resolution, which is kept in myDPIvalue; "pixel" and any other are taken as pixels
      * @return fractions of a pixel are truncated, of picas they are rounded; 0 if the result is not a number or
-     * infinite, the
-     *         nearest whole number of 32 bits if it does not fit
+     *         infinite, the nearest whole number of 32 bits if it does not fit
      */
     Q_INVOKABLE float convertXtoPixel(const QString &path, const QString &targetUnit, const QString &unit, float value);
 

@@ -55,8 +55,7 @@ public:
      * page of a TIFF with several pages is kept.
      *
      * @return "OK" whenever the file could be opened as a picture, else "Failed". A file that cannot be written, or
-     * whose
-     *         type has no place for a comment, stays as it is; hGetExifUc() returns its present comment
+     *         whose type has no place for a comment, stays as it is; hGetExifUc() returns its present comment
      */
     Q_INVOKABLE QString hSetExifData(const QString &path, const QString &comment);
 

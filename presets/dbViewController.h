@@ -89,8 +89,7 @@ public:
      * The rows that match, each as its 62 fields with "|" between them, in the order of their IDs.
      *
      * @return a new list if rows match. If none does, the list of the last query that found rows, emptied for everybody
-     * who
-     *         still has it; if the query fails, that list unchanged. Null if no query has found rows yet.
+     *         who still has it; if the query fails, that list unchanged. Null if no query has found rows yet.
      */
     Q_INVOKABLE platform::SharedTexts checkForActionType(const QString &table, const QString &column,
                                                          const QString &value);

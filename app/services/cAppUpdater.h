@@ -19,8 +19,7 @@ public:
      *
      * @param runningBuild  the build number of this program
      * @return a list of three texts, the fields 0, 2 and 3 of the file, if its build is greater; otherwise null, also
-     * if
-     *         the download fails for whatever reason
+     *         if the download fails for whatever reason
      *
      * Raises a RangeError for a file with too few fields: see app::newerVersion().
      */

@@ -85,8 +85,7 @@ public:
      * Asks the user and waits for the answer.
      *
      * @param question  {title, text, detail, buttons: [text, ...], initial (index), escape (index), check (text)}; any
-     * other key, or
-     *                  another type of value, is a TypeError
+     *                  other key, or another type of value, is a TypeError
      * @return {button (index), checked}
      */
     Q_INVOKABLE QVariantMap ask(const QVariantMap &question);

@@ -84,8 +84,7 @@ public:
      * Moves a finished file into place, in one step, within one file system.
      *
      * @param replaced  the identity() of the file at @p to that may be replaced and whose permissions are kept; "" for
-     * none.
-     *                  Anything else there is never touched
+     *                  none. Anything else there is never touched
      * @return {status: "OK", "Taken" or "Failed", message}
      */
     Q_INVOKABLE QVariantMap place(const QString &from, const QString &to, const QString &replaced) const;

@@ -9,10 +9,10 @@
 //   usesList false for a page that does not work on the list: adding pictures then leads back to the action before
 // With a step:
 //   step     plain data in, plain data out: defaults, describe(settings), validate(settings) and what its manner
-//   requires
+//            requires
 //   pane     the class of its settings
 //   presets  {form, starting}: which setting is stored in which column (see presets/preset-forms.js), and what it
-//   starts with; optional
+//            starts with; optional
 //   lists(settings)  what the rows of the list are: "pictures", "files" of any kind, or "folders" themselves
 //   takes    the extensions of pictures that it accepts, in any case of letters
 //   takesAlong(settings)  true if the files that belong to a picture move with it (lib/sidecars.js); optional

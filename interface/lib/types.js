@@ -41,7 +41,7 @@ const RAW = pictures.rawTypes().map((type) => type.extension);
 /** The files of written types, by extension. */
 export const PICTURE_INPUT = ["jpg", "jpeg", "tif", "tiff", "png", "jp2", "gif", "bmp"];
 
-// Types that are rendered first: pages and drawings have no pixels of their own.
+// Types that are rendered first: pages and drawings contain no pixels.
 const DRAWN = ["com.adobe.pdf", "public.svg-image"];
 
 function extensionsWhere(isWanted) {

@@ -74,7 +74,7 @@ export function clearRows(files) {
     return files.writeText(logPath(files), "");
 }
 
-/** A name for a run that starts now, for its rows. Runs of the move engine have names of their own. */
+/** Names a run that starts now, for its rows in the log. The move engine names its runs itself. */
 export function newRunName() {
     return new Date().toISOString() + "-" + Math.floor(Math.random() * 1e6);
 }

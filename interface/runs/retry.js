@@ -7,10 +7,8 @@ import { emptyTable } from "../lib/names.js";
  * @param unfinished  the items that failed, and those that waited for them: see readyItems() of move-plan.js
  * @param wished      the rows of the plan that they come from
  * @return [{from, wish (a row as steps make them), of (the index of the row it comes from), isAlong}]: the same
- * requests as before, each
- *         with those of its companions that are still where they were. A companion whose leader was moved is requested
- *         by itself,
- *         under the name planned for it.
+ *         requests as before, each with those of its companions that are still where they were. A companion whose
+ *         leader was moved is requested by itself, under the name planned for it.
  */
 export function retryRows(unfinished, wished) {
     const waiting = emptyTable();

@@ -71,8 +71,7 @@ public:
      * Plans a picture as an earlier batch did that was interrupted; to be asked in the same order, in place of plan().
      *
      * @param earlier  {root, width, height (of the picture in pixels), planned, done}, the last two one path an output:
-     * its planned path,
-     *                 or empty if there was nothing to make; and the existing result, or empty
+     *                 its planned path, or empty if there was nothing to make; and the existing result, or empty
      * @return the outputs that are still to be made. What has taken a name meanwhile is treated as the recipe says.
      */
     Q_INVOKABLE QVariantList planAgain(int index, const QVariantMap &earlier);

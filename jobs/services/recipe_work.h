@@ -35,8 +35,7 @@ public:
      *
      * @param number  what its result is known by, from 0; not that of another one that has no result yet
      * @param task    {path, target, recipe, width, height, noted}; the sizes are those of the picture, 0 if unknown;
-     * noted
-     *                (default true) records that the file is a result. No other process may create files in the
+     *                noted (default true) records that the file is a result. No other process may create files in the
      *                target's folder
      */
     Q_INVOKABLE void give(int number, const QVariantMap &task);

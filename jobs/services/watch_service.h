@@ -30,8 +30,7 @@ public:
      *
      * @param work  what is done with them: two programs do not do the same in the same folder
      * @return {code, detail}: code is empty if it is watched, "missing" if there is no such folder, "taken" if it is
-     * watched
-     *         for the same work already, "system" where the system cannot watch it, and detail then says why
+     *         watched for the same work already, "system" where the system cannot watch it, and detail then says why
      */
     Q_INVOKABLE QVariantMap start(const QString &folder, const QString &work);
     /** Watches no folder any more. */

@@ -43,8 +43,7 @@ struct Splice
  * symbolic link is replaced by a changed copy of its target; another hard link keeps the old file.
  *
  * @param check  is called before the new file replaces the old one, with a path to the new file; if it objects, its
- * failure is
- *               returned and the old file stays
+ *               failure is returned and the old file stays
  *
  * Fails with WriteFailed, also if somebody else writes to the source meanwhile; the file is then unchanged.
  */

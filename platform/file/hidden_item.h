@@ -22,8 +22,7 @@ public:
     /**
      * @param hidden  the hidden path
      * @param item    what was copied, the name of what was moved aside, the file that an unfinished one is to replace,
-     * or what is
-     *                to get the reserved or second name
+     *                or what is to get the reserved or second name
      * @param copy    the path of the copy
      */
     HiddenItem(What what, const QString &hidden, const QString &item, const QString &copy = {});

@@ -10,7 +10,7 @@ class TokenText : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(QString pattern READ pattern WRITE setPattern)
-    /** Replacements for missing values, by the names of tokens; and one for all that have none of their own. */
+    /** Replacements for missing values, by the names of tokens, and one for all other tokens. */
     Q_PROPERTY(QVariantMap standIns READ standIns WRITE setStandIns)
     Q_PROPERTY(QString standIn MEMBER m_standIn)
     /**
@@ -38,8 +38,7 @@ public:
      * The text for one file, followed by the names of the tokens for which it has no value.
      *
      * @param facts  from FileService::facts(); null if needsFacts is false, or nothing is known. Raises a TypeError for
-     * one
-     *               of another type
+     *               one of another type
      * @param index  how many files come before this one, for counters; whole, or a RangeError is raised
      */
     Q_INVOKABLE QStringList expand(const QString &path, const QVariantMap &facts, double index) const;

@@ -1,5 +1,5 @@
 // Changes fields of metadata, and removes private data. Plain data in, plain data out. An empty setting leaves its
-// field as it is; cleared fields are listed in a setting of their own.
+// field as it is; a separate setting lists the fields to be cleared.
 // Services used: tokens, files (plannedFields).
 
 import { files } from "quorlin/files";

@@ -83,7 +83,7 @@ function takenField(output) {
                    ["current", qsTr("Skip if up to date")]]);
 }
 
-/** The fields of an output, in its present state; it is changed in place. Its operations have cards of their own. */
+/** The fields that edit an output, which is changed in place. Its operations have separate cards. */
 export function outputFields(output) {
     const type = output.type || "original";
     const dates = keyed(output, "dates", "now");

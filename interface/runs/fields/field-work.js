@@ -1,5 +1,5 @@
-// Asks workers for the fields of pictures and has them write, as many files at a time as there are processors. Generators that yield null
-// while they wait.
+// Has workers read and write the fields of pictures, one more file at a time than there are processors. Its generators
+// yield null while they wait.
 // Services used: files (FieldWork), recipes (processors).
 
 import { FieldWork } from "quorlin/files";
@@ -40,9 +40,8 @@ export class FieldAsker {
      * Yields {task, said} for each task, as answers arrive, and null while it waits. Tasks that write the same file
      * follow one another.
      *
-     * @param tasks   their generator: {ask(work), which asks something of a FieldWork, or said if known; the file that
-     * is written,
-     *                "" for none}
+     * @param tasks   their generator: {ask(work), which asks something of a FieldWork, or said if known; file: the one
+     *                that is written, "" for none}
      * @param goesOn  false if no more are to be started; those that were started are answered
      */
     * each(tasks, goesOn) {

@@ -30,8 +30,7 @@ struct JpegResize
  * much.
  *
  * @return none if this way is not possible: for all except upright JPEGs of grey or of brightness and colours about
- * which
- *         the decoder has nothing to report, for sizes that are not smaller, and if memory is short
+ *         which the decoder has nothing to report, for sizes that are not smaller, and if memory is short
  */
 std::optional<QByteArray> resizedJpeg(const ImageSource &source, const JpegResize &resize,
                                       const EncodeOptions &options);

@@ -22,8 +22,7 @@ enum class SecondDirectory { IsPage, IsThumbnail };
  * @param dropsThumbnail  the second directory is unlinked and becomes zeros, with its picture; only if it is a
  * thumbnail
  * @return splices in ascending order; none if @p bytes do not begin like a TIFF file, if a directory is not within
- * them, or
- *         if pixels would change
+ *         them, or if pixels would change
  */
 std::optional<QList<Splice>> tagSplices(const QByteArray &bytes, const QList<TagChange> &changes, bool dropsThumbnail);
 

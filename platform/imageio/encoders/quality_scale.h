@@ -5,7 +5,7 @@
 namespace platform {
 
 /**
- * The equivalent of a quality of 1 to 100 for encoders with scales of their own: about as close to the picture as a
+ * The equivalent of a quality of 1 to 100 for encoders that use another scale: about as close to the picture as a
  * JPEG of that quality, measured on photographs by the mean squared difference. 100 is the best that each offers short
  * of lossless.
  */

@@ -43,8 +43,7 @@ QByteArray graftIntoTiff(const QByteArray &encoded, const GraftedBlocks &blocks)
  * The same around pixels that do not exist yet.
  *
  * @param bare        the encoded file without its pixels, its tail directly after its header, with the pixels belonging
- * between
- *                    the two: offsets of strips are those of the whole file, all others are valid in @p bare
+ *                    between the two: offsets of strips are those of the whole file, all others are valid in @p bare
  * @param pixelBytes  how many bytes were omitted; an odd number is followed by a zero
  */
 FileEnds graftAroundPixels(const QByteArray &bare, qint64 pixelBytes, const GraftedBlocks &blocks);

@@ -16,7 +16,7 @@ bool isStandardGroup(const std::string &group)
     return group == "Image" || group == "Photo" || group == "GPSInfo" || group == "Iop";
 }
 
-/** Directories of raw files that contain pictures of their own. */
+/** Directories of raw files that describe further pictures. */
 bool isOtherImageGroup(const std::string &group)
 {
     return group.rfind("SubImage", 0) == 0 || group.rfind("SubThumb", 0) == 0 || group.rfind("PanasonicRaw", 0) == 0;

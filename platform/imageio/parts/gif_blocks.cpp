@@ -7,8 +7,7 @@
 // "GIF89a" | width, height (2 each) | flags | background | aspect | colours, then blocks:
 //
 //     "!" kind | pieces       an extension; the application block of XMP has the packet as it is, followed by bytes
-//     that
-//                             lead a reader that takes its letters for lengths of pieces to its end
+//                             that lead a reader that takes its letters for lengths of pieces to its end
 //     "," place | colours | pieces       a picture
 //     ";"                     the end
 //

@@ -9,7 +9,7 @@
 namespace platform {
 namespace {
 
-/** First bytes of the files of makers who do not use TIFF's number, or who put a mark of their own after it. */
+/** First bytes of raw files whose makers replace TIFF's number, or add a mark after it. */
 const std::array<QByteArray, 6> rawMarks = {QByteArray("IIRO"),
                                             QByteArray("IIRS"),
                                             QByteArray("MMOR"),
