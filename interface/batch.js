@@ -1,6 +1,6 @@
 // Resizes pictures without windows, one after the other, through the same step as the window:
 //     quorlin-script interface/batch.js OUTDIR FILE...
-// Every file gets a longest side of 1600 pixels in its own type; a name that is taken is numbered. Prints what was written
+// Every file gets a longest side of 1600 pixels in its own type; a name that exists gets a number. Prints what was written
 // and where. The exit status is 0 if every picture became a file, 1 if not, 2 for a bad command line.
 
 import { files } from "quorlin/files";

@@ -450,7 +450,7 @@ void PictureModel::takeThumbnail(int id, const jobs::ReadResult &result, const T
     if (row.thumbnailTried)
         return;
     m_thumbnails.insert(id, new QPixmap(QPixmap::fromImage(ask.thumbnailFrom(result))));
-    if (ask.isWorthKeeping(result)) // in a step of its own, because compressing takes time
+    if (ask.isWorthKeeping(result)) // later, because compressing takes time
         QMetaObject::invokeMethod(
             this,
             [ask, image = result.image] {

@@ -60,7 +60,7 @@ Outcome fetched(QUrl address, DownloadBudget &budget, int redirects)
     }
 }
 
-/** One download in a thread of its own. It outlives its owner if a host name lookup cannot be interrupted. */
+/** One download in a separate thread. It outlives its owner if a host name lookup cannot be interrupted. */
 struct Job
 {
     QUrl address;

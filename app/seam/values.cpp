@@ -41,7 +41,7 @@ QString notEmptyNull(const QString &text)
     return text.isNull() ? QStringLiteral("") : text;
 }
 
-/** Whole numbers stay whole, so that 3 is written "3" wherever a service formats it. */
+/** Whole numbers stay whole, so that every service formats 3 as "3". */
 QVariant wholeOrNot(double number)
 {
     const bool isWhole = std::trunc(number) == number && std::abs(number) <= largestWholeNumber;

@@ -42,7 +42,7 @@ void recallPage(QPageLayout &page)
     page.setOrientation(platform::userDefault(landscapeKey).toBool() ? QPageLayout::Landscape : QPageLayout::Portrait);
 }
 
-/** Also for a file that ends too early, which is an error for whoever waits for it. */
+/** Also for a file that ends too early, which is an error for the caller. */
 app::VersionAnswer answerTo(const platform::Result<QString> &text, int build)
 {
     try {

@@ -80,7 +80,7 @@ int openOwn(const QByteArray &path)
     return -1;
 }
 
-// Empties the open folder, wherever its name leads by now, and removes it if the name is still its own.
+// Empties the open folder, even if its name now belongs to something else, and removes it if it still has the name.
 void removeOpen(int descriptor, const QByteArray &path)
 {
     std::error_code error;

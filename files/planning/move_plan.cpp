@@ -334,7 +334,7 @@ private:
         }
         if (m_isOrdering && m_at == count()) {
             m_ordering.emplace(std::move(m_displacements));
-            --m_at; // this stage goes on
+            --m_at; // continue this stage
         }
     }
 

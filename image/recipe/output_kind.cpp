@@ -76,7 +76,7 @@ bool canRewriteMetadata(OutputType type, std::optional<double> dpi)
     case OutputType::Gif:
     case OutputType::JpegXl:
         return true;
-    case OutputType::Jpeg2000: // a box of its own may state its resolution
+    case OutputType::Jpeg2000: // a separate box may state its resolution
         return !dpi;
     case OutputType::Original:
     case OutputType::Tiff:

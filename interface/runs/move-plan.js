@@ -20,7 +20,7 @@ const NONE = Object.freeze([]);
  *   caution  what replaces a missing value, in words: shown as the status of a row that is ready
  *   notes    further remarks, for the tooltip
  *   along    [{from, to}]: files that move with this one; if one of them cannot, this one stays too
- *   goesWith the index of the row that this one moves with, or -1; then it has no request of its own
+ *   goesWith the index of the row that this one moves with, or -1; such a row has no separate request
  *   shown    what the column of new names shows; the name of `to` if this is ""
  */
 export function row(changes) {

@@ -267,7 +267,7 @@ export class MoveRun extends BaseRun {
         this.unfinished = [];
     }
 
-    // That a run has begun is shown in a step of its own: the whole window changes with it.
+    // Showing that a run has begun is a separate step, since it changes the whole window.
     * shownFirst(work) {
         this.showProgress();
         yield SHOWN;
@@ -357,7 +357,7 @@ export class MoveRun extends BaseRun {
         return item.row === undefined ? this.rowAt[item.from] || 0 : this.ids[item.row];
     }
 
-    // A file that moved with another may have a row of its own.
+    // A file that moved with another may have its own row in the list.
     followed(from, to) {
         const id = this.rowAt[from];
         if (id !== undefined) {

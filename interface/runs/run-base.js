@@ -141,7 +141,7 @@ export class BaseRun {
         this.changed();
     }
 
-    /** The same while it goes on as before. */
+    /** Shows the progress without other changes. */
     showShare() {
         this.noteProgress();
         this.progressed();

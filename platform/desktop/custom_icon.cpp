@@ -73,7 +73,7 @@ Result<void> setIconOfFolder(const QString &folder, const QByteArray &png)
     return written ? replaceFile(settings, withIcon(text, QByteArray("./") + folderIcon)) : written;
 }
 
-/** Tells the desktop, which stores such metadata in a database of its own; without a desktop this has no effect. */
+/** Tells the desktop, which stores such metadata in its database; without a desktop this has no effect. */
 bool tellDesktop(const QByteArray &path, const QByteArray &location)
 {
     const std::unique_ptr<GFile, decltype(&g_object_unref)> file(g_file_new_for_path(path.constData()), g_object_unref);

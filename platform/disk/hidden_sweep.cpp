@@ -45,7 +45,7 @@ QString text(const QJsonObject &object, const char *key)
     return object[QLatin1String(key)].toString();
 }
 
-/** Only names of our own form are touched, whatever a note says. */
+/** Only names in our format are removed, whatever a note says. */
 bool isHiddenName(const QString &path)
 {
     return path.startsWith(u'/') && lastPathComponent(path).startsWith(QStringLiteral(".quorlin-"));

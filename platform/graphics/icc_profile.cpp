@@ -39,7 +39,7 @@ std::vector<quint8> probeColours()
 /** Whether the conversion to sRGB, the same that pictures get, leaves the test colours unchanged. */
 bool meansSrgb(const QByteArray &profile)
 {
-    // A context of its own: error handlers set by others do not apply.
+    // A separate context: error handlers set by others do not apply.
     const std::unique_ptr<std::remove_pointer_t<cmsContext>, decltype(&cmsDeleteContext)> context(
         cmsCreateContext(nullptr, nullptr), &cmsDeleteContext);
     const auto size = cmsUInt32Number(profile.size());

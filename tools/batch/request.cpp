@@ -133,7 +133,7 @@ void watchFolders(Request &request, const CommandLine &line)
         request.problem = watch.error().message;
 }
 
-/** A preset may keep the tree by itself, below a folder of its own unless another one is named. */
+/** A preset may keep the tree without the option, below its folder unless another one is named. */
 jobs::Destination destinationFor(const CommandLine &line)
 {
     const auto preset = line.preset.isEmpty() ? std::nullopt : jobs::presetNamed(line.preset);

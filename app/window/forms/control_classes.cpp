@@ -60,7 +60,7 @@ template<typename T> ServiceEntry listed(const char *name, const ServiceEntry *b
     return entry;
 }
 
-/** A class of our own, under its own name. */
+/** One of our control classes, under the name of the class. */
 template<typename T> ServiceEntry own(const ServiceEntry &base)
 {
     const QByteArray name = T::staticMetaObject.className();

@@ -52,7 +52,7 @@ void collectPlaced(const QLayout *layout, QWidgetList &children)
 {
     for (int i = 0; layout && i < layout->count(); ++i) {
         QLayoutItem *item = layout->itemAt(i);
-        // A menu that opens as a window of its own is no tab stop.
+        // A menu that opens as a separate window is not a tab stop.
         if (item->widget() && !item->widget()->isWindow())
             children.append(item->widget());
         else if (item->layout())

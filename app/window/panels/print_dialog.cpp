@@ -24,7 +24,7 @@ std::shared_ptr<QPrinter> printerFor(const QPageLayout &page)
     return printer;
 }
 
-/** What remains for whoever draws the pages: a print system that makes copies itself is told how many. */
+/** What the code that draws the pages has to do: a print system that makes copies itself is only told how many. */
 platform::PrintPages chosenPages(const QPrinter &printer)
 {
     platform::PrintPages pages;

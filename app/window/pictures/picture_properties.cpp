@@ -192,7 +192,7 @@ void PictureTable::loadProperties()
         filterAgain();
     Q_EMIT propertiesProgress(isOver ? m_model.rowCount() : m_model.propertiesRead(), m_model.rowCount());
     if (isOver && !m_resortPending)
-        Q_EMIT orderChanged(); // whoever waits for the list to settle
+        Q_EMIT orderChanged(); // for code that waits for the list to settle
 }
 
 /** A chosen column is removed here; columns are chosen elsewhere. */

@@ -1,4 +1,4 @@
-// The folder of a page: made beside its destination and moved there when complete; an earlier page of ours is updated.
+// The folder of a page: made beside its destination and moved there when complete; an earlier page made by Quorlin is updated.
 // Pure but for translation; the services are passed in.
 // Services used: files, webPages, fileHandling (hWritHTMLFile).
 
@@ -15,7 +15,7 @@ const VERSION = 1;
 const PICTURES = "pictures";
 const MOST_NUMBERS = 10000;
 
-/** The files of the page in a folder, by their relative paths; null if it is no page of ours. */
+/** The files of the page in a folder, by their relative paths; null if Quorlin did not make it. */
 export function ownFiles(folder, services) {
     const text = services.files.info(joinPath(folder, MARKER)).exists
         ? services.files.readText(joinPath(folder, MARKER)) : null;
@@ -80,7 +80,7 @@ export class PageFolder {
         return files.makeFolder(this.folder);
     }
 
-    // Only if the user wants it, and only a page of ours that nobody has changed.
+    // Only if the user wants it, and only a page made by Quorlin that nobody has changed.
     lookAtTarget() {
         const files = this.services.files;
         if (this.place.ifTaken !== "update" || !files.info(this.target).exists) {

@@ -121,7 +121,7 @@ export function describe(settings) {
             settings.type.toUpperCase() + " " + settings.quality].join(", ");
 }
 
-// The largest file of a picture as a recipe of its own.
+// A recipe for the largest file of a picture alone.
 function largeRecipe(settings) {
     const recipe = recipeOf(settings, "");
     return { quorlin: 1, operations: [], outputs: [recipe.outputs[recipe.outputs.length - 1]] };

@@ -132,7 +132,7 @@ function makeOne(item, step, settings, services, workshop) {
              bytes: bytes, width: made.width, height: made.height };
 }
 
-// An exception in a step is a bug of ours; the other pictures are not affected.
+// An exception in a step is a bug; the other pictures are not affected.
 function finalResult(item, step, settings, services, workshop) {
     const started = Date.now();
     let result;

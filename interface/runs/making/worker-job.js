@@ -81,7 +81,7 @@ class WorkerJob {
         return null;
     }
 
-    // An exception in a step is a bug of ours; the other pictures are not affected.
+    // An exception in a step is a bug; the other pictures are not affected.
     tryGive(index) {
         try {
             return this.give(index);

@@ -1,5 +1,5 @@
 // The action that is shown: its settings, its pane, and the output block under it. Panes are created when first shown;
-// each action has settings of its own.
+// each action has separate settings.
 
 import { defaults } from "quorlin/defaults";
 import { shell } from "quorlin/shell";

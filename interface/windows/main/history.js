@@ -156,7 +156,7 @@ export class History {
         return this.own.indexOf(id) >= 0;
     }
 
-    // A page with an undo of its own has the keys to itself.
+    // A page that handles undo gets the keys.
     isOpen() {
         const page = this.window.shownPage;
         return !this.window.run.isBusy() && (page === null || page.hasUndo !== true);

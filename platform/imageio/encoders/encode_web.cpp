@@ -30,7 +30,7 @@ QByteArray encodeWebp(const VImage &image, const Compression &compression)
             ->set("Q", compression.quality)
             ->set("lossless", compression.isLossless)
             ->set("effort", compression.isLossless ? effortWithoutLoss : effort)));
-    // The library has inserted an EXIF block of its own.
+    // The library has inserted an EXIF block, which is removed.
     const auto chunks = webpChunksOf(file);
     return chunks ? webpWithMetadata(*chunks, {}, {}) : file;
 }

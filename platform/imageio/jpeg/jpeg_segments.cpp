@@ -36,7 +36,7 @@ bool isBoundToThisFile(uchar marker, const QByteArray &payload)
     return (marker == 0xe0 && payload.startsWith("JFXX")) || (marker == 0xe2 && payload.startsWith("MPF"));
 }
 
-/** A block too large for one segment continues in the next one, which then has no header of its own. */
+/** A block too large for one segment continues in the next one, which then has no header. */
 void takeExif(JpegSegments &segments, JpegSegments::Range range, const QByteArray &block)
 {
     const bool hasHeader = block.startsWith("II*") || block.startsWith(QByteArray("MM\0*", 4));

@@ -224,7 +224,7 @@ PictureFacts factsOf(QIODevice &file, const QString &path, const Open &open)
 {
     const QByteArray head = file.peek(contentHeadBytes);
     const Content content = contentOf(head);
-    if (content == Content::Unknown && !isCameraRaw(head)) // raw files of some makers have a mark of their own
+    if (content == Content::Unknown && !isCameraRaw(head)) // some makers have a special mark for raw files
         return {};
     if (const auto known = content == Content::Jpeg ? factsOfJpeg(file) : std::nullopt)
         return *known;

@@ -118,7 +118,7 @@ private:
     }
 
     TiffReader m_file;
-    // Two long lists that are read in parallel, each in blocks of its own.
+    // Two long lists that are read in parallel, each in separate blocks.
     TiffReader m_offsets;
     TiffReader m_lengths;
     bool m_isSound = true;
