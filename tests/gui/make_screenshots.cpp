@@ -139,7 +139,7 @@ void showSaveAs(WindowDriver &driver, const QString &name)
     driver.trigger("saveAsAction");
 }
 
-// What asks for something without a window of its own, and the preferences.
+// Bars that ask for something inside the window, and the preferences.
 void showAsking(WindowDriver &driver, const QString &name)
 {
     driver.control<QPushButton>("presetMenu")->menu()->actions().at(1)->trigger();

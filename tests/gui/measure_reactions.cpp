@@ -35,7 +35,7 @@ double nowMs()
     return double(now.tv_sec) * 1e3 + double(now.tv_nsec) / 1e6;
 }
 
-/** The person: a process of its own, that nothing here holds up. Says through a pipe when it does something. */
+/** The person: a separate process, which nothing here can delay. Reports its actions through a pipe. */
 int beginPerson()
 {
     std::array<int, 2> ends = {-1, -1};

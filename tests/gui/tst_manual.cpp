@@ -65,7 +65,7 @@ private Q_SLOTS:
         QCOMPARE(view()->page(), QStringLiteral("index"));
     }
 
-    // A link leads to the heading of its own language, code to the one that the English page calls so.
+    // A link opens the heading in its language, code the one with that name on the English page.
     void pagesAreThoseOfTheLanguage()
     {
         QVERIFY(QDir().mkpath(manual() + QStringLiteral("/de")));

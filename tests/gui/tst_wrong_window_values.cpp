@@ -100,7 +100,7 @@ void TestWrongWindowValues::areAnsweredByTheContract()
     setGlobal("deadControls", lost.property(QStringLiteral("controls")));
     setGlobal("formFiles", engine.toScriptValue(formFiles()));
     setGlobal("isLong", tests::isSlowRun());
-    // What asks is answered, so that the script goes on.
+    // Questions are answered, so that the script continues.
     QTimer answers;
     connect(&answers, &QTimer::timeout, this, [] {
         if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget()))

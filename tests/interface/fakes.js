@@ -20,7 +20,7 @@ export class FakeFiles {
                  bytes: typeof entry === "number" ? entry : -1, writable: true };
     }
 
-    // What does not end so is left out by whoever asks.
+    // The caller leaves out what does not end so.
     namesEndingIn(folder) {
         return this.names(folder);
     }

@@ -90,7 +90,7 @@ void TestSeamFacade::letsThroughWhatTheClassDeclares()
     QFETCH(QString, expression);
     QFETCH(QString, outcome);
     const QString value = run.valueOf(expression);
-    // Where the name is called at once the engine puts words of its own around ours.
+    // If the name is called at once, the engine adds words to our message.
     if (value.endsWith(QStringLiteral(" is not a function")))
         QVERIFY2(value.startsWith(QStringLiteral("TypeError: ")) && value.contains(outcome), qPrintable(value));
     else

@@ -1,7 +1,7 @@
 // Calls every operation, and sets every field, of every service, stand-in and desk with values of every wrong kind.
 // It prints violations of the contract: an answer that is undefined, or an error of a kind that no operation raises.
 //
-// Arguments: a folder of its own, and "pairs" for two wrong values at a time as well.
+// Arguments: a separate folder, and "pairs" for two wrong values at a time as well.
 
 import { Messenger, MyModel, MyObjectControler, Picture, ZtFFullScreen, ZtImageHandling, Ztbookmarks, cEditMetaData, cMConversion,
          cNSFileHandling, cNSStringHandling, cPrint, cSheetControl, cToolBox, dbViewController, mMeta, mainViewController,
@@ -49,7 +49,7 @@ const PLAIN = [folder + "/p.png", 1, [], {}, null];
 let calls = 0;
 let faults = 0;
 
-// Never as text of its own: the engine does not end with a list that holds itself.
+// Never converted to text: with a list that contains itself the engine does not end.
 function said(value) {
     if (typeof value === "string") {
         return JSON.stringify(value.slice(0, 30));

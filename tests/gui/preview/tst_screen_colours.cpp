@@ -46,7 +46,7 @@ QByteArray digest(const QString &path)
 
 } // namespace
 
-/** Pictures are shown in the colours of the screen, and nothing else has them. Runs itself once more, on a display of its own. */
+/** Pictures are shown in the colours of the screen, and nothing else is. Runs itself once more, on a separate display. */
 class ScreenColours : public QObject
 {
     Q_OBJECT

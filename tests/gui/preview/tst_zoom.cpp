@@ -16,7 +16,7 @@ namespace {
 constexpr QSize photoSize(1500, 1000);
 constexpr QSize viewSize(800, 400);
 
-/** Every pixel has a colour of its own. */
+/** Every pixel has a different colour. */
 QImage numberedPixels()
 {
     QImage image(photoSize, QImage::Format_RGB32);

@@ -50,7 +50,7 @@ public Q_SLOTS:
 
 /**
  * State changes are reported to screen readers. The windowless platform of the toolkit reports nothing, so the test
- * runs itself once more, on a display and a bus of its own.
+ * runs itself once more, on a separate display and bus.
  */
 class Announcements : public QObject
 {

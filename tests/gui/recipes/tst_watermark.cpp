@@ -184,7 +184,7 @@ private Q_SLOTS:
         m_driver->choose("preset", QStringLiteral("=Copyright, dark"));
         QVERIFY(!m_driver->control<QCheckBox>("markTile")->isChecked());
         QCOMPARE(m_driver->control<QDoubleSpinBox>("markOpacity")->value(), 60.0);
-        // A text of two lines, in an alphabet of its own, is there again in another session.
+        // A text of two lines, not all of it in Latin letters, is there again in another session.
         type("Ünicode ’ 写真\nsecond");
         m_driver->startAgain();
         m_driver->show("watermark");

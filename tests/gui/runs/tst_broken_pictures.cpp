@@ -14,7 +14,7 @@
 using window::PictureModel;
 
 /**
- * Pictures that are broken, or made to crash whoever reads them, are added and processed: the window survives, and each
+ * Pictures that are broken, or made to crash their readers, are added and processed: the window survives, and each
  * row says why.
  */
 class BrokenPictures : public QObject
@@ -114,7 +114,7 @@ void BrokenPictures::addAndRun(const Facts &facts)
     QCOMPARE(logged.size(), rows);
     for (int row = 0; row < rows; ++row)
         checkRow(row, facts, logged[row]);
-    // It goes on with others as before.
+    // It continues with others as before.
     QImage image(90, 60, QImage::Format_RGB32);
     image.fill(Qt::darkGreen);
     const QString sound = m_driver->folder() + QStringLiteral("/sound.png");

@@ -47,7 +47,7 @@ private Q_SLOTS:
             m_driver->waitFor([this] { return m_driver->text("printText") == QStringLiteral("out.pdf: 3 pages"); }));
         QCOMPARE(pictures::bytesOf(out).count("/Subtype /Image"), 5);
         QVERIFY2(opened.isEmpty(), qPrintable(opened.join(u' ')));
-        // The next print begins with the same settings, and the action has settings of its own.
+        // The next print begins with the same settings, and the action has separate settings.
         m_driver->click("printClose");
         m_driver->startAgain();
         m_driver->drop({folder});

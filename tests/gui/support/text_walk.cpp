@@ -38,7 +38,7 @@ QStringList textsOfModel(const QAbstractItemModel &model, const QList<int> &name
 
 QStringList textsOfAction(const QAction &action)
 {
-    // A button has an action of its own for its menu, with no text.
+    // The action that a button has for its menu has no text.
     return {QString(action.text()).remove(u'&'), action.toolTip().remove(u'&'), action.statusTip()};
 }
 

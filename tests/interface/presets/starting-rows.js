@@ -5,7 +5,7 @@ import { startingPresets } from "../../../interface/presets/starting-presets.js"
 import { KINDS } from "./kinds.js";
 
 const rows = [];
-// The command has the path of its own patterns in a recipe. The engine does not tell a module its path, but a stack
+// The command puts the path of its patterns into a recipe. The engine does not tell a module its path, but a stack
 // does.
 const PATTERNS = new Error("").stack.match(/(?:file:\/\/)?(\/[^\n]*)\/tests\/interface\/presets\//)[1]
     + "/interface/patterns";

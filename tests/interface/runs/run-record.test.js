@@ -147,7 +147,7 @@ test("knowsEachOutputOfAPicture", () => {
     const done = doneResults(read, files);
     equal(outputsNow(read.items[0], 0, done).map((each) => [each.status, each.bytes]), [["OK", 5], ["OK", 7]]);
     equal(outputsNow(read.items[1], 1, done).map((each) => each.status), ["OK", "ready"]);
-    // One that goes on has the same to say.
+    // A record that is continued says the same.
     const again = new FakeRecords();
     const now = read.items.map((each, i) => Object.assign({}, each, { photo: photo(each.of, 40, 30),
                                                                       outputs: outputsNow(each, i, done) }));

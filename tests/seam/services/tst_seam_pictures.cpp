@@ -78,7 +78,7 @@ void TestSeamPictures::answersWhatItIsAsked()
     const QString opened =
         QStringLiteral("((p) => (%1))(Picture.open('FOLDER/a.png'))").replace(QStringLiteral("%1"), expression);
     const QString value = m_run.valueOf(withFile(opened));
-    // Where the name is called at once the engine puts words of its own around ours.
+    // If the name is called at once, the engine adds words to our message.
     if (value.endsWith(QStringLiteral(" is not a function")))
         QVERIFY2(value.contains(outcome), qPrintable(value));
     else

@@ -33,7 +33,7 @@ int refusalOf(Disk disk, std::string_view call)
     return !isRefused ? 0 : call == "link" ? EPERM : EINVAL;
 }
 
-/** Pictures on two disks, with a data folder of their own, and what is done to them. */
+/** Pictures on two disks, with a separate data folder, and what is done to them. */
 class Place
 {
 public:
@@ -396,7 +396,7 @@ void TestEveryCall::losesNothingByAnotherProgram()
         const QList<QByteArray> contents = place.contents();
         QVERIFY2(!isDone || operation == "takes away" || contents.contains("new"), told);
         for (const char *content : {"a", "b", "c", "d"}) {
-            // What it has written over is gone by its own will.
+            // It has overwritten these itself.
             const bool isOverwritten = (operation == "writes into" || operation == "saves over") && *content < 'c';
             QVERIFY2(isOverwritten || contents.contains(content), told + "\nmissing: " + content);
         }

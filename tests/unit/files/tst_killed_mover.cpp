@@ -142,7 +142,7 @@ private:
     QRandomGenerator m_random{7};
 };
 
-/** Runs @p work in a process of its own and kills it after a random time, counted from its sign if it @p waits for that. */
+/** Runs @p work in a separate process and kills it after a random time, which starts at its signal if it @p waits for one. */
 template<typename Work> void TestKilledMover::kill(Work work, bool waits, int mostMicroseconds)
 {
     int sign[2] = {-1, -1};

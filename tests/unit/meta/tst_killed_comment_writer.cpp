@@ -83,7 +83,7 @@ void TestKilledCommentWriter::leavesTheOldFileOrTheNewOne()
     qInfo("%d kills: %d left the one file, %d the other; %d temporary files are left", kills, old, kills - old,
           int(litter));
     QVERIFY(old > 0 && old < kills);
-    QVERIFY(litter <= kills / 10); // a file has a name of its own for an instant only, unless it is stopped just then
+    QVERIFY(litter <= kills / 10); // it has a name for an instant only, unless the process is stopped just then
 }
 
 QUORLIN_TEST(TestKilledCommentWriter)

@@ -45,7 +45,7 @@ private Q_SLOTS:
     void leavesASoundFileWhileItIsSeeded();
 
 private:
-    /** Runs @p writer in a process of its own and kills it after a random time. True if it was still running. */
+    /** Runs @p writer in a separate process and kills it after a random time. True if it was still running. */
     template<typename Writer> bool killed(Writer writer, int mostMicroseconds);
     QRandomGenerator m_random{5};
 };

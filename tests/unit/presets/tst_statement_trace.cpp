@@ -19,7 +19,7 @@ int note(unsigned what, void *, void *, void *text)
 {
     const QString statement =
         what == SQLITE_TRACE_STMT ? QString::fromUtf8(static_cast<const char *>(text)) : QString();
-    // How the database reads its own list of tables is no affair of ours.
+    // How the database reads its list of tables is not checked.
     if (what == SQLITE_TRACE_CLOSE)
         events().append(QStringLiteral("close"));
     else if (!statement.contains(QStringLiteral("sqlite_master")))

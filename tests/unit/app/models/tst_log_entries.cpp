@@ -17,7 +17,7 @@ QByteArray text(const QJsonObject &line)
     return QJsonDocument(line).toJson(QJsonDocument::Compact);
 }
 
-// A line without a run of its own, of the given minute.
+// A line that belongs to no run, of the given minute.
 QJsonObject bare(int minute, const char *status = "OK")
 {
     return {{QStringLiteral("date"), QStringLiteral("2026-11-21T10:%1:00.000Z").arg(minute, 2, 10, QLatin1Char('0'))},

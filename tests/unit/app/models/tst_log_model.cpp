@@ -126,7 +126,7 @@ private Q_SLOTS:
         m_model->setStatusWords({{QStringLiteral("Failed"), QStringLiteral("Misslungen")}});
         write(line(1, "a.jpg", "OK", "one") + line(2, "b.jpg", "Failed", "one") + line(3, "été.jpg", "OK", "one"));
         if (qstrcmp(QTest::currentDataTag(), "two words") == 0)
-            found.prepend(QStringLiteral("été.jpg ")); // "Lake" has an a of its own
+            found.prepend(QStringLiteral("été.jpg ")); // "Lake" also has an a
         m_model->setFilter({text.split(QLatin1Char(' ')), {}, -1});
         QCOMPARE(names(), found);
     }

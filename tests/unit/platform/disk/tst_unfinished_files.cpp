@@ -66,7 +66,7 @@ bool killAt(int call, bool hasNameless, const std::function<void()> &work)
         ::pause();
 }
 
-/** The process that works in a PID namespace of its own; 0 if none can be created. */
+/** The process that works in a separate PID namespace; 0 if none can be created. */
 pid_t beginInAnotherNamespace(const QString &path)
 {
     int ends[2] = {-1, -1};
@@ -165,7 +165,7 @@ void TestUnfinishedFiles::stayWhileSomebodyElsewhereWritesThem()
     QCOMPARE(place.content(), QByteArray("the old one"));
 }
 
-/** A note that was tampered with, or that another program answers, leads to nothing but an unfinished file of ours. */
+/** A note that was tampered with, or that another program uses, can only lead to an unfinished file made by Quorlin. */
 void TestUnfinishedFiles::areNoReasonToTouchOthers()
 {
     const ScratchFolder here;

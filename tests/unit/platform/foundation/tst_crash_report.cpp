@@ -11,7 +11,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-/** What a process leaves that ends by a fault of its own. */
+/** The report that a crashing process leaves. */
 class TestCrashReport : public QObject
 {
     Q_OBJECT

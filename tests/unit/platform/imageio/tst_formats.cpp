@@ -17,7 +17,7 @@ Q_DECLARE_METATYPE(const platform::Format *)
 
 namespace {
 
-/** A PNG file: half transparent, 16 bits, a profile of its own, and a resolution. */
+/** A PNG file: half transparent, 16 bits, an embedded profile, and a resolution. */
 QByteArray rich()
 {
     QImage image(40, 30, QImage::Format_RGBA64);

@@ -273,7 +273,7 @@ private Q_SLOTS:
         const auto again =
             ImageSource::fromData(*file).and_then([](const ImageSource &source) { return source.decode(); });
         QVERIFY(again);
-        if (format == FileFormat::JpegXl) // says the same in words of its own where something is lost
+        if (format == FileFormat::JpegXl) // a lossy file has an equivalent profile
             QVERIFY(!again->iccProfile().isEmpty());
         else
             QCOMPARE(again->iccProfile(), bitmap.iccProfile());

@@ -1,5 +1,5 @@
-// One picture with tags of every group through every type that is written, read back by a reader that is not ours and by our own;
-// and the same with less of it.
+// One picture with tags of every group is written in every type, and read back by another program and by our reader;
+// the same is done with less metadata.
 
 #include "platform/file/atomic_file.h"
 #include "platform/imageio/convert/pdf_page.h"
