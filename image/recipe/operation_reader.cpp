@@ -16,6 +16,7 @@ namespace image {
 namespace {
 
 constexpr double longestSide = 100'000;
+constexpr qsizetype longestPath = 200; ///< that a sentence quotes in full
 
 constexpr Word<Place> placesOfParts[] = {
     {"top left", Place::TopLeft},
@@ -129,7 +130,7 @@ void readRatio(RecipeKeys &keys, CropOperation &crop)
     if (parts.size() != 2 || !isFirst || !isSecond || !isUsable(crop.width) || !isUsable(crop.height))
         keys.complain("ratio",
                       sentence(QT_TRANSLATE_NOOP("recipe", "two numbers separated by a colon such as 3:2, not \"%1\""))
-                          .arg(ratio));
+                          .arg(shortened(ratio)));
 }
 
 Operation cropFrom(RecipeKeys &keys)
@@ -220,7 +221,8 @@ RecipePicture pictureNamed(RecipeKeys &keys, const char *key, const RecipeFiles 
                              .and_then([](const auto &file) { return platform::ImageSource::fromLent(file); })
                              .value_or(platform::ImageSource());
     if (name.isEmpty() || (files.areOpened && picture.source.isNull()))
-        keys.complain(key, sentence(QT_TRANSLATE_NOOP("recipe", "there is no picture \"%1\"")).arg(name));
+        keys.complain(
+            key, sentence(QT_TRANSLATE_NOOP("recipe", "there is no picture \"%1\"")).arg(shortened(name, longestPath)));
     return picture;
 }
 
@@ -255,7 +257,8 @@ void readLetters(RecipeKeys &keys, WatermarkOperation &mark)
         keys.complain("text", problems.first());
     mark.font = keys.text("font").value_or(QString());
     if (!mark.font.isEmpty() && !platform::hasFont(mark.font))
-        keys.complain("font", sentence(QT_TRANSLATE_NOOP("recipe", "there is no font \"%1\"")).arg(mark.font));
+        keys.complain("font",
+                      sentence(QT_TRANSLATE_NOOP("recipe", "there is no font \"%1\"")).arg(shortened(mark.font)));
     mark.color = keys.color("color").value_or(mark.color);
 }
 
@@ -351,7 +354,7 @@ ProfileOperation profileNamed(RecipeKeys &keys, const char *key, const QString &
         keys.complain(
             key, sentence(QT_TRANSLATE_NOOP("recipe",
                                             "sRGB, Display P3, Adobe RGB, gray or the path of an ICC file, not \"%1\""))
-                     .arg(name));
+                     .arg(shortened(name, longestPath)));
     return {path, profile};
 }
 

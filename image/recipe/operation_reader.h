@@ -2,8 +2,8 @@
 
 // Inside image/recipe.
 
+#include "image/recipe/keys/recipe_keys.h"
 #include "image/recipe/recipe.h"
-#include "image/recipe/recipe_keys.h"
 #include "image/recipe/recipe_reader.h"
 
 namespace image {

@@ -1,8 +1,9 @@
 #include "image/recipe/recipe_reader.h"
 
+#include "image/recipe/keys/recipe_keys.h"
+#include "image/recipe/keys/repeated_key.h"
 #include "image/recipe/operation_reader.h"
 #include "image/recipe/plan.h"
-#include "image/recipe/recipe_keys.h"
 #include "image/recipe/sentence.h"
 #include "platform/file/lent_file.h"
 #include "platform/file/regular_file.h"
@@ -162,6 +163,8 @@ Result<Recipe> readRecipe(const QByteArray &json, const RecipeFiles &files)
     RecipeProblem problem;
     RecipeKeys keys(document.object(), {}, problem);
     const Recipe recipe = recipeFrom(keys, files);
+    if (const QString place = problem.isThere() ? QString() : repeatedKey(json); !place.isEmpty())
+        problem.state(place, sentence(QT_TRANSLATE_NOOP("recipe", "it is there twice")));
     if (problem.isThere())
         return platform::failure(platform::ErrorCode::InvalidValue, problem.sentence());
     return recipe;

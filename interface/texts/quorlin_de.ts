@@ -8233,6 +8233,14 @@
         <source>writing was stopped because it took too long</source>
         <translation>das Schreiben dauerte zu lange und wurde abgebrochen</translation>
     </message>
+    <message>
+        <source>it contains half a character, %1</source>
+        <translation>enthält ein halbes Zeichen, %1</translation>
+    </message>
+    <message>
+        <source>it is there twice</source>
+        <translation>steht zweimal da</translation>
+    </message>
 </context>
 <context>
     <name>recipe-action</name>

@@ -8233,6 +8233,14 @@
         <source>writing was stopped because it took too long</source>
         <translation>l’écriture a été arrêtée car elle durait trop longtemps</translation>
     </message>
+    <message>
+        <source>it contains half a character, %1</source>
+        <translation>contient une moitié de caractère, %1</translation>
+    </message>
+    <message>
+        <source>it is there twice</source>
+        <translation>figure deux fois</translation>
+    </message>
 </context>
 <context>
     <name>recipe-action</name>

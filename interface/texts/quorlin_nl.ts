@@ -8233,6 +8233,14 @@
         <source>writing was stopped because it took too long</source>
         <translation>het schrijven duurde te lang en is gestopt</translation>
     </message>
+    <message>
+        <source>it contains half a character, %1</source>
+        <translation>bevat een half teken, %1</translation>
+    </message>
+    <message>
+        <source>it is there twice</source>
+        <translation>staat er twee keer</translation>
+    </message>
 </context>
 <context>
     <name>recipe-action</name>

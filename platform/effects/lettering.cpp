@@ -76,7 +76,8 @@ bool hasFont(const QString &font)
     const Description description = descriptionOf(font);
     const char *family = pango_font_description_get_family(description.get());
     const QString name = QString::fromUtf8(family);
-    return family && (isGeneric(name) || installedFamilies().contains(name, Qt::CaseInsensitive));
+    const bool hasSize = (pango_font_description_get_set_fields(description.get()) & PANGO_FONT_MASK_SIZE) != 0;
+    return family && !hasSize && (isGeneric(name) || installedFamilies().contains(name, Qt::CaseInsensitive));
 }
 
 QStringList fontFamilies()

@@ -8,7 +8,10 @@
 
 namespace platform {
 
-/** True if a font of that family, such as "DejaVu Sans" or "Sans Bold", is installed, so that no substitute is used. */
+/**
+ * True if a font of that family, such as "DejaVu Sans" or "Sans Bold", is installed, so that no substitute is used.
+ * False with a number at the end, which would be read as a size that nothing has.
+ */
 bool hasFont(const QString &font);
 
 /** The names of the installed font families, in alphabetical order; none is empty. */

@@ -6,6 +6,7 @@ import os
 import pty
 import sqlite3
 import unittest
+import zlib
 
 import batch_world
 from batch_world import BatchTest, png
@@ -99,6 +100,22 @@ class BadRequests(BatchTest):
         self.plain()
         self.path("list").write_text("a.png\n")
         self.refuse("--from", "list", "--report", "list", "r.quorlin")
+
+    def test_what_a_recipe_names_is_no_report(self):
+        png(self.path("a.png"))
+        png(self.path("mark.png"))
+        self.plain(profile="Display P3")
+        self.run_batch("--to", "wide", "r.quorlin", "a.png")
+        wide = self.path("wide/a.png").read_bytes()
+        chunk = wide.index(b"iCCP")
+        packed = wide[chunk + 4:chunk + 4 + int.from_bytes(wide[chunk - 4:chunk], "big")]
+        self.path("own.icc").write_bytes(zlib.decompress(packed[packed.index(b"\0") + 2:]))
+        self.recipe({"quorlin": 1, "operations": [{"do": "watermark", "picture": "mark.png"}, {"do": "profile", "to": "own.icc"}],
+                     "outputs": [{"type": "png"}]})
+        for name in ("mark.png", "own.icc"):
+            before = self.path(name).read_bytes()
+            self.refuse("--report", name, "r.quorlin", "a.png")
+            self.assertEqual(self.path(name).read_bytes(), before)
 
     def test_a_report_on_a_closed_standard_output(self):
         png(self.path("in/a.png"))

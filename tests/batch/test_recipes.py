@@ -100,6 +100,22 @@ class Recipes(BatchTest):
         self.run_batch("r.quorlin", "in", status=2)
         self.assertIn('outputs[0].operations[0].longest: a whole number from 1 to 100000, not "big"', self.said)
 
+    def test_odd_keys_and_names(self):
+        for text, sentence in (
+                (r'{"quorlin": 1, "outputs": [{"a\nb": 1}]}', r'outputs[0]."a\nb": unknown key'),
+                ('{"quorlin": 1, "outputs": [{"": 1}]}', 'outputs[0]."": unknown key'),
+                ('{"quorlin": 1, "outputs": [{}], "%s": 1}' % ("k" * 100000), "k" * 60 + "…: unknown key"),
+                (r'{"quorlin": 1, "outputs": [{"name": "a\ud800"}]}',
+                 r"outputs[0].name: it contains half a character, \ud800"),
+                ('{"quorlin": 1, "outputs": [{"maxBytes": 1e17}]}',
+                 "outputs[0].maxBytes: a whole number from 1 to 1000000000000000, not 100000000000000000"),
+                ('{"quorlin": 1, "outputs": [{"type": "png", "type": "jpeg"}]}', "outputs[0].type: it is there twice")):
+            with self.subTest(sentence=sentence):
+                self.recipe(text)
+                self.run_batch("--to", "out", "r.quorlin", "in", status=2)
+                self.assertEqual(self.said, f"quorlin-batch: r.quorlin: {sentence}\n")
+                self.assertFalse(self.path("out").exists())
+
     def test_what_is_no_recipe(self):
         for text, begin in (("", "line 1: "), ("{", "line 1: "), ('{"quorlin": 1,\n\n"outputs": }', "line 3: "), ("[]", ""),
                             ("\u00ff", "line 1: ")):

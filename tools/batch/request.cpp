@@ -74,9 +74,10 @@ QString readRecipe(Request &request, const QByteArray &file, const CommandLine &
 }
 
 /** Whether the report would be written over something that is read. */
-bool wouldLoseAFile(const CommandLine &line)
+bool wouldLoseAFile(const CommandLine &line, const image::Recipe &recipe)
 {
-    const QStringList read = QStringList{line.recipe, line.plan, line.from} + line.inputs;
+    const QStringList named = image::filesOf(recipe) + line.inputs;
+    const QStringList read = QStringList{pathOfRecipe(line), line.plan, line.from} + named;
     return !line.report.isEmpty() && line.report != QLatin1String("-") &&
            std::any_of(read.begin(), read.end(),
                        [&line](const QString &path) { return !path.isEmpty() && isSameFile(path, line.report); });
@@ -160,7 +161,7 @@ Request requestFrom(const CommandLine &line)
     request.options.recipe = jobs::recipeName(*file);
     request.options.settings = jobs::settingsOf(request.recipe, request.options.recipe);
     request.options.made = jobs::madeWith(*file, request.recipe);
-    if (wouldLoseAFile(line)) {
+    if (wouldLoseAFile(line, request.recipe)) {
         request.problem = QStringLiteral("%1 is read, so it cannot be the report").arg(line.report);
         return request;
     }

@@ -128,6 +128,38 @@ void refusedOutputs()
 
 } // namespace
 
+/** Keys and texts that cannot be quoted as they are. */
+static void refusedOddities()
+{
+    refusedOperation("a key of two lines", R"({"do": "sharpen", "a\nb": 1})", R"(operations[1]."a\nb": unknown key)");
+    refusedOperation("a key that turns the line", R"({"do": "sharpen", "a\u202eb": 1})",
+                     R"(operations[1]."a\u202eb": unknown key)");
+    refusedOperation("an empty key", R"({"do": "sharpen", "": 1})", R"(operations[1]."": unknown key)");
+    refusedOperation("a long key", R"({"do": "sharpen", ")" + QByteArray(100'000, 'k') + R"(": 1})",
+                     "operations[1].kkk");
+    refusedOperation("a long token", R"({"do": "watermark", "text": "{)" + QByteArray(100'000, 'k') + R"(}"})",
+                     "operations[1].text: ");
+    refusedOperation("a token of two lines", R"({"do": "watermark", "text": "{a\nb}"})", "operations[1].text: ");
+    refusedOperation("a ratio of two lines", R"({"do": "crop", "ratio": "1\n2"})", "operations[1].ratio: ");
+    refusedOperation("a long picture", R"({"do": "watermark", "picture": ")" + QByteArray(100'000, 'k') + R"("})",
+                     "operations[1].picture: there is no picture \"kkk");
+    refusedOperation("a font with a size", R"({"do": "watermark", "text": "a", "font": "Sans 400"})",
+                     "operations[1].font: there is no font \"Sans 400\"");
+    refusedOutput("half a character", R"({"name": "a\ud800b"})",
+                  R"(outputs[0].name: it contains half a character, \ud800)");
+    refusedOutput("the other half", R"({"folder": "a\udfffb"})",
+                  R"(outputs[0].folder: it contains half a character, \udfff)");
+    refusedOutput("more bytes than there are", R"({"maxBytes": 1e16})",
+                  "outputs[0].maxBytes: a whole number from 1 to 1000000000000000, not 1");
+    refusedOperation("a key twice", R"({"do": "resize", "width": 5, "width": 6})",
+                     "operations[1].width: it is there twice");
+    refusedOperation("a key twice, escaped", R"({"do": "resize", "width": 5, "\u0077idth": 5})",
+                     "operations[1].width: it is there twice");
+    refusedOutput("a key of an operation twice",
+                  R"({"operations": [{"do": "sharpen"}, {"do": "flip", "do": "flip", "direction": "vertical"}]})",
+                  "outputs[0].operations[1].do: it is there twice");
+}
+
 void TestRecipeReader::readsAllKeys()
 {
     const auto recipe = image::readRecipe(R"({
@@ -190,6 +222,7 @@ void TestRecipeReader::refuses_data()
     refusedSizes();
     refusedOperations();
     refusedOutputs();
+    refusedOddities();
     QTest::newRow("no outputs") << QByteArray(R"({"quorlin": 1})") << QStringLiteral("outputs: ");
     QTest::newRow("an empty list of outputs")
         << QByteArray(R"({"quorlin": 1, "outputs": []})") << QStringLiteral("outputs: ");
@@ -209,6 +242,8 @@ void TestRecipeReader::refuses()
     const QString sentence = recipe.error().message;
     QVERIFY2(sentence.startsWith(place), qPrintable(sentence));
     QVERIFY2(!sentence.contains(u'\n') && sentence.size() > place.size() - 1, qPrintable(sentence));
+    constexpr qsizetype longest = 500;
+    QVERIFY2(sentence.size() < longest, qPrintable(sentence.left(longest)));
 }
 
 void TestRecipeReader::takes_data()
@@ -217,6 +252,12 @@ void TestRecipeReader::takes_data()
     QTest::newRow("a fraction in a unit") << withOperation(R"({"do": "resize", "width": 10.5, "unit": "mm"})");
     QTest::newRow("percent with a fraction") << withOperation(R"({"do": "resize", "percent": 12.5})");
     QTest::newRow("a wide ratio") << withOperation(R"({"do": "crop", "ratio": "2.35:1"})");
+    QTest::newRow("the same key in two objects")
+        << withOperation(R"({"do": "frame", "width": 1}, {"do": "frame", "width": 2})");
+    QTest::newRow("keys and brackets in a text")
+        << withOperation(R"({"do": "watermark", "text": "\"size\": 1, {{ \"size\": 2, [}\\", "size": 3})");
+    QTest::newRow("a sign of two halves") << withOutput(R"({"name": "\ud83d\udcf7"})");
+    QTest::newRow("a byte of a path") << withOutput(R"({"folder": "a\udcff"})");
     QTest::newRow("an ellipse") << withOperation(R"({"do": "round", "shape": "ellipse"})");
     QTest::newRow("a frame of nothing") << withOperation(R"({"do": "frame", "width": 0})");
     QTest::newRow("braces") << withOperation(R"({"do": "watermark", "text": "{{a}"})");

@@ -1,5 +1,6 @@
-#include "image/recipe/recipe_keys.h"
+#include "image/recipe/keys/recipe_keys.h"
 #include "image/recipe/sentence.h"
+#include "platform/foundation/paths.h"
 
 #include <QJsonDocument>
 
@@ -11,7 +12,7 @@ namespace {
 
 QString plain(double number)
 {
-    constexpr int digits = 15;
+    constexpr int digits = 16; // so that the largest whole number in any range is written in full
     return QString::number(number, 'g', digits);
 }
 
@@ -25,16 +26,66 @@ QString expectedNumber(const NumberRange &range)
     return form.arg(plain(range.least), plain(range.most));
 }
 
+QString escaped(QChar sign)
+{
+    constexpr int digits = 4;
+    constexpr int hexadecimal = 16;
+    return QStringLiteral("\\u%1").arg(int(sign.unicode()), digits, hexadecimal, QLatin1Char('0'));
+}
+
+/** Half of a pair without the other half, unless it represents a byte of a path. */
+bool isHalfCharacter(const QString &text, qsizetype at)
+{
+    if (!text[at].isSurrogate())
+        return false;
+    const bool hasLower = text[at].isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate();
+    const bool hasUpper = text[at].isLowSurrogate() && at > 0 && text[at - 1].isHighSurrogate();
+    return !hasLower && !hasUpper && !platform::canBeAPath(text.mid(at, 1));
+}
+
+/** Without anything that would break the line or change the direction of what follows. */
+QString onOneLine(const QString &text)
+{
+    QString line;
+    for (qsizetype at = 0; at < text.size(); ++at) {
+        const QChar::Category category = text[at].category();
+        const bool isOdd = category == QChar::Other_Control || category == QChar::Other_Format ||
+                           category == QChar::Separator_Line || category == QChar::Separator_Paragraph ||
+                           isHalfCharacter(text, at);
+        line += isOdd ? escaped(text[at]) : QString(text[at]);
+    }
+    return line;
+}
+
 /** A value as in the file, truncated if it is long. */
 QString written(const QJsonValue &value)
 {
-    constexpr qsizetype longest = 60;
     const QString list = QString::fromUtf8(QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact));
-    const QString own = list.mid(1, list.size() - 2);
-    return own.size() > longest ? own.left(longest) + u'…' : own;
+    return shortened(list.mid(1, list.size() - 2));
 }
 
 } // namespace
+
+QString shortened(const QString &text, qsizetype longest)
+{
+    if (text.size() <= longest)
+        return text;
+    return text.left(text[longest - 1].isHighSurrogate() ? longest - 1 : longest) + u'…';
+}
+
+QString placeOfKey(const QString &place, const QString &key)
+{
+    const auto isOfWord = [](QChar sign) { return sign.isLetterOrNumber() || sign == u'_' || sign == u'-'; };
+    const bool isWord = !key.isEmpty() && std::all_of(key.begin(), key.end(), isOfWord);
+    return (place.isEmpty() ? place : place + u'.') + (isWord ? shortened(key) : written(key));
+}
+
+void RecipeProblem::state(const QString &place, const QString &what)
+{
+    constexpr qsizetype longest = 300;
+    if (m_sentence.isEmpty())
+        m_sentence = onOneLine(place.isEmpty() ? what : place + QLatin1String(": ") + shortened(what, longest));
+}
 
 std::optional<QColor> recipeColor(const QString &text)
 {
@@ -117,10 +168,19 @@ std::optional<QString> RecipeKeys::text(const char *key)
     const QJsonValue value = take(key);
     if (value.isUndefined())
         return std::nullopt;
-    if (value.isString() && !value.toString().contains(QChar(u'\0')))
-        return value.toString();
-    refuse(key, sentence(QT_TRANSLATE_NOOP("recipe", "text")), value);
-    return std::nullopt;
+    const QString text = value.toString();
+    if (!value.isString() || text.contains(QChar(u'\0'))) {
+        refuse(key, sentence(QT_TRANSLATE_NOOP("recipe", "text")), value);
+        return std::nullopt;
+    }
+    for (qsizetype at = 0; at < text.size(); ++at) {
+        if (isHalfCharacter(text, at)) {
+            complain(key,
+                     sentence(QT_TRANSLATE_NOOP("recipe", "it contains half a character, %1")).arg(escaped(text[at])));
+            return std::nullopt;
+        }
+    }
+    return text;
 }
 
 std::optional<bool> RecipeKeys::flag(const char *key)
@@ -210,8 +270,7 @@ void RecipeKeys::finish()
 {
     for (auto key = m_object.begin(); key != m_object.end(); ++key)
         if (!m_taken.contains(key.key()))
-            m_problem->state(m_place.isEmpty() ? key.key() : m_place + u'.' + key.key(),
-                             sentence(QT_TRANSLATE_NOOP("recipe", "unknown key")));
+            m_problem->state(placeOfKey(m_place, key.key()), sentence(QT_TRANSLATE_NOOP("recipe", "unknown key")));
 }
 
 } // namespace image

@@ -34,11 +34,8 @@ class RecipeProblem
 public:
     bool isThere() const { return !m_sentence.isEmpty(); }
     const QString &sentence() const { return m_sentence; }
-    void state(const QString &place, const QString &what)
-    {
-        if (m_sentence.isEmpty())
-            m_sentence = place.isEmpty() ? what : place + QLatin1String(": ") + what;
-    }
+    /** Kept if it is the first; on one line and of moderate length, whatever of the file it quotes. */
+    void state(const QString &place, const QString &what);
 
 private:
     QString m_sentence;
@@ -109,6 +106,12 @@ private:
     RecipeProblem *m_problem;
     QSet<QString> m_taken;
 };
+
+/** A key of the file that may be anything; in quotation marks unless it is a word. */
+QString placeOfKey(const QString &place, const QString &key);
+
+/** The beginning of a text of the file that a sentence quotes. */
+QString shortened(const QString &text, qsizetype longest = 60);
 
 /** A colour of a recipe; none for other text. */
 std::optional<QColor> recipeColor(const QString &text);
