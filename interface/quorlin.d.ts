@@ -1015,13 +1015,15 @@ declare module "quorlin/files" {
         readonly arrived: Signal<() => any>;
         /** Asks what the fields of a file are: {name: {value, exif, iptc, xmp, disputed}}. */
         look(path: text): null;
-        /** Changes fields; what is done to a file is done once it can be taken. */
+        /** Prepares a change of fields; its answer has isReady where there is something to place(). */
         write(path: text, work: dictionary): null;
-        /** Makes the old file again with what the answer to write() had as undo; fails where it was changed since. */
+        /** The change that was prepared last takes its place; another request gives it up. */
+        place(): { problem: string; changed: boolean; file: string };
+        /** Makes the old file again with what the answer to write() had as undo, at once; fails where it was changed since. */
         revert(path: text, undo: text): null;
         /** The answer; without any keys before it has come. */
-        take(): { problem?: string; fields?: any; inPlace?: boolean; sidecar?: string; changed?: boolean; file?: string; undo?: string;
-                  before?: any; after?: any };
+        take(): { problem?: string; fields?: any; inPlace?: boolean; sidecar?: string; changed?: boolean; isReady?: boolean; file?: string;
+                  undo?: string; before?: any; after?: any };
         /** Gives up what was asked; the object is of no use any more. */
         close(): null;
     }

@@ -61,11 +61,19 @@ platform::Result<void> appendPrivateLines(const QString &path, const QByteArray 
     if (::mkdir(folder.constData(), onlyMyFolder) != 0 && errno != EEXIST)
         return failed();
     const platform::Descriptor file(::open(platform::encodedPath(path).constData(),
-                                           O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC | O_NOFOLLOW, onlyMine));
-    if (!file.isOpen() || ::write(file.number(), lines.constData(), size_t(lines.size())) != lines.size() ||
-        ::fdatasync(file.number()) != 0)
+                                           O_RDWR | O_APPEND | O_CREAT | O_CLOEXEC | O_NOFOLLOW, onlyMine));
+    struct stat before = {};
+    if (!file.isOpen() || ::fstat(file.number(), &before) != 0)
         return failed();
-    return {};
+    char last = '\n';
+    const bool endsInALine = before.st_size > 0 && ::pread(file.number(), &last, 1, before.st_size - 1) == 1;
+    const QByteArray bytes = endsInALine && last != '\n' ? '\n' + lines : lines;
+    if (::write(file.number(), bytes.constData(), size_t(bytes.size())) == bytes.size() &&
+        ::fdatasync(file.number()) == 0)
+        return {};
+    const auto failure = failed();
+    (void)::ftruncate(file.number(), before.st_size); // half a line is of no use
+    return failure;
 }
 
 platform::Result<void> keepNewestLines(const QString &path, int most, int limit)

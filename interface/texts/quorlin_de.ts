@@ -1267,6 +1267,13 @@
         <source>Continue</source>
         <translation>Fortsetzen</translation>
     </message>
+    <message numerus="yes">
+        <source>Writing metadata was interrupted: %n pictures were changed. You can revert them in the log.</source>
+        <translation>
+            <numerusform>Das Schreiben von Metadaten wurde unterbrochen: %n Bild wurde geändert. Im Protokoll können Sie es zurücksetzen.</numerusform>
+            <numerusform>Das Schreiben von Metadaten wurde unterbrochen: %n Bilder wurden geändert. Im Protokoll können Sie sie zurücksetzen.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>LogPage</name>
@@ -8241,6 +8248,10 @@
         <source>it is there twice</source>
         <translation>steht zweimal da</translation>
     </message>
+    <message>
+        <source>Metadata of its sidecar file is left out, since the file is copied</source>
+        <translation>Die Metadaten der Begleitdatei fehlen, da die Datei kopiert wird</translation>
+    </message>
 </context>
 <context>
     <name>recipe-action</name>
@@ -13191,6 +13202,13 @@
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>field-work</name>
+    <message>
+        <source>its old values cannot be kept: %1</source>
+        <translation>die alten Werte können nicht aufbewahrt werden: %1</translation>
     </message>
 </context>
 </TS>

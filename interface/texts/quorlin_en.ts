@@ -390,6 +390,16 @@
     </message>
 </context>
 <context>
+    <name>interrupted-bar</name>
+    <message numerus="yes">
+        <source>Writing metadata was interrupted: %n pictures were changed. You can revert them in the log.</source>
+        <translation>
+            <numerusform>Writing metadata was interrupted: %n picture was changed. You can revert it in the log.</numerusform>
+            <numerusform>Writing metadata was interrupted: %n pictures were changed. You can revert them in the log.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>list-tools</name>
     <message numerus="yes">
         <source>%n files copied</source>

@@ -1267,6 +1267,13 @@
         <source>Continue</source>
         <translation>Continuer</translation>
     </message>
+    <message numerus="yes">
+        <source>Writing metadata was interrupted: %n pictures were changed. You can revert them in the log.</source>
+        <translation>
+            <numerusform>L’écriture des métadonnées a été interrompue : %n image a été modifiée. Le journal permet d’annuler l’écriture.</numerusform>
+            <numerusform>L’écriture des métadonnées a été interrompue : %n images ont été modifiées. Le journal permet d’annuler l’écriture.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>LogPage</name>
@@ -8241,6 +8248,10 @@
         <source>it is there twice</source>
         <translation>figure deux fois</translation>
     </message>
+    <message>
+        <source>Metadata of its sidecar file is left out, since the file is copied</source>
+        <translation>Les métadonnées du fichier annexe sont omises, car le fichier est copié</translation>
+    </message>
 </context>
 <context>
     <name>recipe-action</name>
@@ -13191,6 +13202,13 @@
     <message>
         <source>Close</source>
         <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>field-work</name>
+    <message>
+        <source>its old values cannot be kept: %1</source>
+        <translation>ses anciennes valeurs ne peuvent pas être conservées : %1</translation>
     </message>
 </context>
 </TS>

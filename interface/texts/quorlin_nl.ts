@@ -1267,6 +1267,13 @@
         <source>Continue</source>
         <translation>Doorgaan</translation>
     </message>
+    <message numerus="yes">
+        <source>Writing metadata was interrupted: %n pictures were changed. You can revert them in the log.</source>
+        <translation>
+            <numerusform>Het schrijven van metadata is onderbroken: %n foto is gewijzigd. U kunt dit in het logboek terugdraaien.</numerusform>
+            <numerusform>Het schrijven van metadata is onderbroken: %n foto’s zijn gewijzigd. U kunt dit in het logboek terugdraaien.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>LogPage</name>
@@ -8241,6 +8248,10 @@
         <source>it is there twice</source>
         <translation>staat er twee keer</translation>
     </message>
+    <message>
+        <source>Metadata of its sidecar file is left out, since the file is copied</source>
+        <translation>Metadata van het sidecarbestand ontbreekt, omdat het bestand wordt gekopieerd</translation>
+    </message>
 </context>
 <context>
     <name>recipe-action</name>
@@ -13191,6 +13202,13 @@
     <message>
         <source>Close</source>
         <translation>Sluiten</translation>
+    </message>
+</context>
+<context>
+    <name>field-work</name>
+    <message>
+        <source>its old values cannot be kept: %1</source>
+        <translation>de oude waarden kunnen niet worden bewaard: %1</translation>
     </message>
 </context>
 </TS>

@@ -36,6 +36,8 @@ AnswerMessage reverted(const File &picture, const File &copy, const File &copyTo
     const auto undo = pictureUndo(text);
     if (!undo)
         return failed(QStringLiteral("revert"));
+    if (!undo->before.isEmpty() && platform::digestOf(*picture) == undo->before)
+        return {}; // the edit never took its place, or was reverted already
     const auto done = platform::revertMetadata(picture, copy->descriptor(), copyToRead, undo->splices, undo->digest);
     AnswerMessage answer = failed(done ? QString() : done.error().message);
     answer.values.insert(key("changes"), bool(done));
@@ -50,7 +52,8 @@ AnswerMessage editedCopy(const File &picture, const File &copy, const File &copy
     AnswerMessage answer;
     answer.values = {{key("changes"), edited->isChanged}};
     if (edited->isChanged) {
-        answer.values.insert(key("undo"), undoText(PictureUndo{edited->undo, platform::digestOf(*copyToRead)}));
+        answer.values.insert(key("undo"), undoText(PictureUndo{edited->undo, platform::digestOf(*copyToRead),
+                                                               platform::digestOf(*picture)}));
         answer.values.insert(key("after"), fieldValues(copyToRead, {}));
     }
     return answer;

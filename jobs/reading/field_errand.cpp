@@ -26,8 +26,8 @@ QString changedSince(const QString &path)
 
 } // namespace
 
-FieldErrand::FieldErrand(const QString &path, const QVariantMap &work, Take take)
-    : m_path(path), m_work(work), m_take(std::move(take))
+FieldErrand::FieldErrand(const QString &path, const QVariantMap &work, Placing placing, Take take)
+    : m_path(path), m_work(work), m_placing(placing), m_take(std::move(take))
 {
 }
 
@@ -61,17 +61,21 @@ bool FieldErrand::revertSidecar(const QString &undo)
     const auto old = sidecarUndo(undo);
     if (!old)
         return false;
-    const meta::Sidecar sidecar{old->path, true};
-    const auto now = meta::packetOf(sidecar);
-    if (!now || *now != old->now) {
+    const bool isThere = QFile::exists(old->path);
+    const auto now = meta::packetOf({old->path, isThere});
+    const bool isOld = now && *now == old->before && isThere != old->before.isEmpty(); // the edit was never placed
+    if (!isOld && (!now || *now != old->now)) {
         fail(changedSince(old->path));
         return true;
     }
-    if (old->before.isEmpty() ? !QFile::remove(old->path) : !platform::replaceFile(old->path, old->before)) {
+    const auto restored = [&] {
+        return old->before.isEmpty() ? QFile::remove(old->path) : bool(platform::replaceFile(old->path, old->before));
+    };
+    if (!isOld && !restored()) {
         fail(QCoreApplication::translate("jobs", "%1 cannot be written.").arg(old->path));
         return true;
     }
-    answer({{key("problem"), QStringLiteral("")}, {key("changed"), true}, {key("file"), old->path}});
+    answer({{key("problem"), QStringLiteral("")}, {key("changed"), !isOld}, {key("file"), old->path}});
     return true;
 }
 
@@ -80,39 +84,46 @@ Errand::Turn FieldErrand::take(platform::Message &message)
     const auto said = fromMessage<AnswerMessage>(message);
     if (!said || !message.files.empty() || !m_file)
         return Turn::Nonsense;
-    QString problem = said->problem;
-    const bool changes = problem.isEmpty() && said->values.value(key("changes")).toBool();
-    if (changes)
-        problem = place(said->values);
+    const bool changes = said->problem.isEmpty() && said->values.value(key("changes")).toBool();
+    m_newPacket = said->values.value(key("packet")).toByteArray();
     QVariantMap result = said->values;
     result.remove(key("packet"));
     result.remove(key("changes"));
-    result.insert(key("problem"), problem.isEmpty() ? QStringLiteral("") : problem);
-    result.insert(key("changed"), changes && problem.isEmpty());
-    result.insert(key("file"), m_written.isEmpty() ? m_path : m_written);
-    result.insert(key("undo"), m_undo.isEmpty() ? said->values.value(key("undo")).toString() : m_undo);
+    result.insert(key("problem"), said->problem.isEmpty() ? QStringLiteral("") : said->problem);
+    result.insert(key("changed"), false);
+    result.insert(key("file"), changes && isSidecar() ? m_sidecar : m_path);
+    if (changes && isSidecar())
+        result.insert(key("undo"), undoText(SidecarUndo{m_sidecar, m_packet, m_newPacket}));
+    if (changes && m_placing == Placing::AtOnce)
+        result.insert(place());
+    else if (changes)
+        result.insert(key("isReady"), true);
     answer(result);
     return Turn::Over;
 }
 
-QString FieldErrand::place(const QVariantMap &said)
+QVariantMap FieldErrand::place()
 {
-    const QByteArray packet = said.value(key("packet")).toByteArray();
-    if (!packet.isEmpty())
-        return placeSidecar(packet);
+    const QString problem = !m_file ? changedSince(m_path) : isSidecar() ? placeSidecar() : placeFile();
+    m_file.reset();
+    return {{key("problem"), problem.isEmpty() ? QStringLiteral("") : problem},
+            {key("changed"), problem.isEmpty()},
+            {key("file"), isSidecar() ? m_sidecar : m_path}};
+}
+
+QString FieldErrand::placeFile()
+{
     const auto placed = m_file->takePlace();
     return placed ? QString() : placed.error().message;
 }
 
-QString FieldErrand::placeSidecar(const QByteArray &packet)
+QString FieldErrand::placeSidecar()
 {
     const meta::Sidecar sidecar = meta::sidecarOf(m_path);
     const auto now = meta::packetOf(sidecar);
     if (!now || *now != m_packet || sidecar.path != m_sidecar) // somebody wrote to it meanwhile
         return changedSince(m_sidecar);
-    const auto written = platform::replaceFile(m_sidecar, packet);
-    m_written = m_sidecar;
-    m_undo = undoText(SidecarUndo{m_sidecar, m_packet, packet});
+    const auto written = platform::replaceFile(m_sidecar, m_newPacket);
     return written ? QString() : written.error().message;
 }
 
@@ -123,7 +134,8 @@ void FieldErrand::fail(const QString &reason)
 
 void FieldErrand::answer(QVariantMap answer)
 {
-    m_file.reset();
+    if (!answer.value(key("isReady")).toBool())
+        m_file.reset();
     if (const Take take = std::exchange(m_take, {}))
         take(answer);
 }
@@ -132,9 +144,9 @@ QVariantMap writeFieldsNow(const QString &path, const QVariantMap &work)
 {
     QVariantMap answer;
     WorkerDesk &desk = WorkerDesk::forWaiting();
-    desk.finish(
-        desk.add(std::make_shared<FieldErrand>(path, work, [&answer](const QVariantMap &said) { answer = said; }),
-                 Urgency::Now));
+    desk.finish(desk.add(std::make_shared<FieldErrand>(path, work, FieldErrand::Placing::AtOnce,
+                                                       [&answer](const QVariantMap &said) { answer = said; }),
+                         Urgency::Now));
     return answer;
 }
 

@@ -23,12 +23,17 @@ public:
      * meta::fieldMap().
      */
     using Take = std::function<void(const QVariantMap &answer)>;
+    /** Whether the edit takes its place by itself, or by place(): the answer is then {isReady: true} besides. */
+    enum class Placing { AtOnce, OnRequest };
 
     /**
      * @param work  see meta::workFrom(); {revert: undo} restores the old file, which fails if it was changed since
      * @param take  is called once, unless the errand is dropped before; then the file is as it was
      */
-    FieldErrand(const QString &path, const QVariantMap &work, Take take);
+    FieldErrand(const QString &path, const QVariantMap &work, Placing placing, Take take);
+
+    /** The edit that was ready takes its place; {problem, changed, file}. An errand that is dropped instead changes nothing. */
+    QVariantMap place();
 
     std::vector<platform::Message> begin(Hand &hand) override;
     Turn take(platform::Message &message) override;
@@ -36,18 +41,19 @@ public:
     int seconds() const override { return 120; }
 
 private:
-    QString place(const QVariantMap &said);
-    QString placeSidecar(const QByteArray &packet);
+    bool isSidecar() const { return !m_newPacket.isEmpty(); }
+    QString placeFile();
+    QString placeSidecar();
     bool revertSidecar(const QString &undo);
     void answer(QVariantMap answer);
 
     QString m_path;
     QVariantMap m_work;
+    Placing m_placing;
     Take m_take;
     QString m_sidecar;
-    QByteArray m_packet; ///< of the sidecar as it was; empty if there was none
-    QString m_written;
-    QString m_undo;
+    QByteArray m_packet;    ///< of the sidecar as it was; empty if there was none
+    QByteArray m_newPacket; ///< empty if the picture itself is changed
     std::unique_ptr<platform::EditedFile> m_file;
 };
 

@@ -40,7 +40,8 @@ QString undoText(const PictureUndo &undo)
     for (const platform::Splice &each : undo.splices)
         splices.append(
             QJsonObject{{key("at"), each.at}, {key("size"), each.removed}, {key("old"), base64(each.inserted)}});
-    return textOf({{key("splices"), splices}, {key("digest"), base64(undo.digest)}});
+    return textOf(
+        {{key("splices"), splices}, {key("digest"), base64(undo.digest)}, {key("before"), base64(undo.before)}});
 }
 
 QString undoText(const SidecarUndo &undo)
@@ -53,7 +54,7 @@ std::optional<PictureUndo> pictureUndo(const QString &text)
     const QJsonObject object = objectOf(text);
     if (!object.value(key("splices")).isArray())
         return std::nullopt;
-    PictureUndo undo{{}, bytesOf(object.value(key("digest")))};
+    PictureUndo undo{{}, bytesOf(object.value(key("digest"))), bytesOf(object.value(key("before")))};
     for (const QJsonValue each : object.value(key("splices")).toArray())
         undo.splices.append(
             {qint64(each[key("at")].toDouble()), qint64(each[key("size")].toDouble()), bytesOf(each[key("old")])});

@@ -15,6 +15,7 @@ struct PictureUndo
 {
     QList<platform::Splice> splices;
     QByteArray digest;
+    QByteArray before = {}; ///< the digest of the old file; empty in texts of older versions
 };
 
 struct SidecarUndo

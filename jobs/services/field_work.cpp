@@ -18,6 +18,7 @@ FieldWork::~FieldWork()
 void FieldWork::ask(const std::shared_ptr<Errand> &errand)
 {
     m_answer.reset();
+    m_prepared.reset();
     m_asked = WorkerDesk::ofProcess().add(errand, Urgency::Soon);
 }
 
@@ -30,12 +31,26 @@ void FieldWork::look(const QString &path)
 
 void FieldWork::write(const QString &path, const QVariantMap &work)
 {
-    ask(std::make_shared<FieldErrand>(path, work, [this](const QVariantMap &answer) { keep(answer); }));
+    const auto errand = std::make_shared<FieldErrand>(path, work, FieldErrand::Placing::OnRequest,
+                                                      [this](const QVariantMap &answer) { keep(answer); });
+    ask(errand);
+    m_prepared = errand;
+}
+
+QVariantMap FieldWork::place()
+{
+    const auto prepared = std::exchange(m_prepared, nullptr);
+    if (!prepared || m_asked != 0)
+        return {{QStringLiteral("problem"), QStringLiteral("nothing is ready")},
+                {QStringLiteral("changed"), false},
+                {QStringLiteral("file"), QStringLiteral("")}};
+    return prepared->place();
 }
 
 void FieldWork::revert(const QString &path, const QString &undo)
 {
-    write(path, {{QStringLiteral("revert"), undo}});
+    ask(std::make_shared<FieldErrand>(path, QVariantMap{{QStringLiteral("revert"), undo}}, FieldErrand::Placing::AtOnce,
+                                      [this](const QVariantMap &answer) { keep(answer); }));
 }
 
 void FieldWork::keep(const QVariantMap &answer)
@@ -55,6 +70,7 @@ void FieldWork::close()
     if (const WorkerDesk::Number asked = std::exchange(m_asked, 0); asked != 0)
         WorkerDesk::ofProcess().drop(asked);
     m_answer.reset();
+    m_prepared.reset();
     deleteLater();
 }
 

@@ -10,6 +10,8 @@
 
 namespace jobs {
 
+class FieldErrand;
+
 /**
  * Fields of metadata that a script has read and written by workers, one file at a time: it asks, and takes the answer when that has
  * come. The next thing is asked after it was taken.
@@ -24,9 +26,11 @@ public:
 
     /** Asks what the fields of a file are: {fields, inPlace, sidecar, problem}, see fieldsAnswer(). */
     Q_INVOKABLE void look(const QString &path);
-    /** Changes them, see FieldErrand. What is done to a file is done once it can be taken. */
+    /** Prepares a change of them, see FieldErrand. Its answer has isReady where there is something to place(). */
     Q_INVOKABLE void write(const QString &path, const QVariantMap &work);
-    /** Restores the old file with the undo data from write(); fails if it was changed since. */
+    /** The change that was prepared last takes its place; {problem, changed, file}. Another request gives it up. */
+    Q_INVOKABLE QVariantMap place();
+    /** Restores the old file with the undo data from write(), and at once; fails if it was changed since. */
     Q_INVOKABLE void revert(const QString &path, const QString &undo);
     /** The answer; without any keys before it has come. */
     Q_INVOKABLE QVariantMap take();
@@ -41,6 +45,7 @@ private:
     void ask(const std::shared_ptr<Errand> &errand);
     void keep(const QVariantMap &answer);
 
+    std::shared_ptr<FieldErrand> m_prepared;
     WorkerDesk::Number m_asked = 0;
     std::optional<QVariantMap> m_answer;
 };

@@ -1,6 +1,7 @@
 // A run that changes the metadata of pictures, and the revert of one.
 
 import { files } from "quorlin/files";
+import { runRecords } from "quorlin/records";
 import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";
 import { splitPath } from "../../lib/names.js";
@@ -13,7 +14,8 @@ import { BaseRun } from "../run-base.js";
 import { idsInScope, isReady, planningFields, showItem } from "./field-plan.js";
 import { revertingFields, revertSummary } from "./field-reverting.js";
 import { FieldAsker } from "./field-work.js";
-import { forgetUnlogged, keepValues, valuesOf } from "./kept-values.js";
+import { KeptRun } from "./kept-run.js";
+import { forgetUnlogged, valuesOf } from "./kept-values.js";
 
 const TELL_MS = 100;
 // The question names so many pictures that disagree with themselves.
@@ -36,6 +38,7 @@ export class FieldRun extends BaseRun {
         this.isReverting = false;
         this.reverted = 0;
         this.kept = "";
+        this.keptRun = null;
         this.toldMs = 0;
         this.steppedMs = 0;
     }
@@ -123,6 +126,8 @@ export class FieldRun extends BaseRun {
         this.items.filter(isReady)
             .forEach((item) => window.pictures.setStatus(item.id, "waiting", qsTr("waiting"), ""));
         this.steppedMs = Date.now();
+        this.keptRun = new KeptRun(files, runRecords, { run: this.id, process: window.action.title(),
+                                                        action: window.action.step.describe(this.settings) });
         const work = this.writing();
         this.job.start(work, guard("run.step", (event) => this.takeResult(event)),
                        guard("run.end", (how, value) => this.runEnded(how, value)));
@@ -134,7 +139,8 @@ export class FieldRun extends BaseRun {
             const item = this.items[i];
             yield { index: i, file: isReady(item) ? item.sidecar || item.path : "",
                     said: isReady(item) ? undefined : { problem: item.problem, changed: false, file: item.path },
-                    ask: (work) => work.write(item.path, item.work) };
+                    ask: (work) => work.write(item.path, item.work), keep: (said) => this.keep(item, said),
+                    unwritten: () => this.keptRun.unwritten(item.path) };
         }
     }
 
@@ -156,7 +162,6 @@ export class FieldRun extends BaseRun {
             Object.assign(result, { status: "Skipped", reason: qsTr("already has these values") });
         } else {
             result.reason = said.file === item.path ? "" : fill(qsTr("in %1"), result.name);
-            this.keep(item, said);
         }
         const row = logRow(result, this.window.action.title(), this.window.action.step.describe(this.settings),
                            new Date().toISOString(), this.id);
@@ -166,7 +171,7 @@ export class FieldRun extends BaseRun {
     }
 
     keep(item, said) {
-        this.kept = this.kept || keepValues(files, this.id, {
+        return this.keptRun.keep({
             path: item.path, file: said.file, before: changedFields(item.planned, said.before),
             after: changedFields(item.planned, said.after), undo: said.undo,
         });
@@ -193,6 +198,7 @@ export class FieldRun extends BaseRun {
 
     runEnded(how, value) {
         this.isComplete = how === "done" && !this.isStopping;
+        this.keptRun.end();
         this.filesChanged();
         this.window.pane.written(this.settings);
         const problem = this.kept || trimRows(files) || forgetUnlogged(files) || this.keepSettings()

@@ -5,6 +5,7 @@
 import { FieldWork } from "quorlin/files";
 import { recipes } from "quorlin/recipes";
 import { guard } from "../../lib/guard.js";
+import { fill } from "../../lib/wording.js";
 
 // A worker need not wait for its next file while another answer is being recorded.
 function mostAtOnce() {
@@ -41,7 +42,8 @@ export class FieldAsker {
      * follow one another.
      *
      * @param tasks   their generator: {ask(work), which asks something of a FieldWork, or said if known; file: the one
-     *                that is written, "" for none}
+     *                that is written, "" for none; keep(said), which stores the old values before an edit takes its
+     *                place and returns a message if it cannot; unwritten(), called if the edit then fails}
      * @param goesOn  false if no more are to be started; those that were started are answered
      */
     * each(tasks, goesOn) {
@@ -108,10 +110,24 @@ export class FieldAsker {
         for (const begun of open) {
             const said = begun.work === null ? begun.task.said : begun.work.take();
             if (said.problem !== undefined) {
+                const placed = said.isReady === true ? this.placed(begun, said) : said;
                 this.idle = this.idle.concat(begun.work === null ? [] : [begun.work]);
-                return { begun: begun, said: said };
+                return { begun: begun, said: placed };
             }
         }
         return null;
+    }
+
+    // What cannot be reverted is not written.
+    placed(begun, said) {
+        const problem = begun.task.keep(said);
+        if (problem !== "") {
+            return Object.assign(said, { problem: fill(qsTr("its old values cannot be kept: %1"), problem) });
+        }
+        Object.assign(said, begun.work.place());
+        if (said.problem !== "") {
+            begun.task.unwritten();
+        }
+        return said;
     }
 }

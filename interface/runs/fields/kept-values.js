@@ -1,12 +1,14 @@
 // What runs wrote into the metadata of pictures: old and new values and what restores the old file, in a separate file
 // for each run, beside the log. The run's name in the log leads to it. The file service is passed in.
 //
-// A line is {path, file, before, after, undo} for a picture that was written, or {reverted: number of its line} for one
-// whose old values were restored; before and after have the fields that changed, each a list of texts.
+// A line is {path, file, was, before, after, undo} for a picture that is about to be written, {unwritten: path} if it
+// was not after all, or {reverted: number of its line} for one whose old values were restored; was is the identity of the
+// file before, before and after have the fields that changed, each a list of texts.
 
 import { logPath } from "../log-file.js";
 
 const FOLDER = "/metadata-values";
+const UNDER_WAY = "/metadata-runs";
 
 function folderOf(files) {
     return files.dataFolder + FOLDER;
@@ -32,6 +34,11 @@ export function keepValues(files, run, values) {
     return files.appendPrivate(valuesPath(files, run), JSON.stringify(values) + "\n");
 }
 
+/** Records that nothing was written into the picture at a path; returns a message if that failed. */
+export function noteUnwritten(files, run, path) {
+    return files.appendPrivate(valuesPath(files, run), JSON.stringify({ unwritten: path }) + "\n");
+}
+
 /** Records that the picture of a line has its old values again; returns a message if that failed. */
 export function noteReverted(files, run, line) {
     return files.appendPrivate(valuesPath(files, run), JSON.stringify({ reverted: line }) + "\n");
@@ -49,10 +56,12 @@ function read(line) {
 /** What a run wrote and was not reverted, newest first: {line, path, file, before, after, undo}. */
 export function valuesOf(files, run) {
     const lines = (files.readText(valuesPath(files, run)) || "").split("\n").map(read);
-    const reverted = lines.map((each) => each.reverted);
+    const reverted = new Set(lines.map((each) => each.reverted));
+    const unwritten = new Set(lines.map((each) => each.unwritten));
     const kept = [];
     lines.forEach((each, i) => {
-        if (typeof each.path === "string" && typeof each.undo === "string" && reverted.indexOf(i) < 0) {
+        if (typeof each.path === "string" && typeof each.undo === "string" && !reverted.has(i)
+            && !unwritten.has(each.path)) {
             kept.push(Object.assign(each, { line: i }));
         }
     });
@@ -92,9 +101,26 @@ export function forgetAllValues(files) {
     return forgetThose(files, runsKept(files));
 }
 
-/** Removes what is stored for runs that are no longer in the log; returns a message if that failed. */
+/** The folder of the records of runs that are under way, of any window, or were interrupted. */
+export function underWayFolder(files) {
+    return files.dataFolder + UNDER_WAY;
+}
+
+/** What these records say: {name: of the file, run, process, action}. */
+export function runsUnderWay(files) {
+    const folder = underWayFolder(files);
+    return files.names(folder)
+        .map((name) => Object.assign(read(files.readText(folder + "/" + name) || ""), { name: name }))
+        .filter((head) => typeof head.run === "string");
+}
+
+/**
+ * Removes what is stored for runs that are no longer in the log; returns a message if that failed. A run that is under
+ * way may not be in it yet.
+ */
 export function forgetUnlogged(files) {
-    const runs = runsKept(files);
+    const underWay = runsUnderWay(files).map((head) => head.run);
+    const runs = runsKept(files).filter((run) => underWay.indexOf(run) < 0);
     const log = runs.length === 0 ? "" : files.readText(logPath(files)) || "";
     return forgetThose(files, runs.filter((run) => log.indexOf("\"run\":" + JSON.stringify(run)) < 0));
 }

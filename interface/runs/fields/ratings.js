@@ -2,13 +2,14 @@
 // marks of the list only. Services used: files, shell (ask, job).
 
 import { files } from "quorlin/files";
+import { runRecords } from "quorlin/records";
 import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";
 import { emptyTable, splitPath } from "../../lib/names.js";
 import { fill, problemsText } from "../../lib/wording.js";
 import { revertingFields, revertSummary } from "./field-reverting.js";
 import { FieldAsker } from "./field-work.js";
-import { keepValues } from "./kept-values.js";
+import { KeptRun } from "./kept-run.js";
 import { appendRows, newRunName, trimRows } from "../log-file.js";
 import { logRow } from "../report.js";
 
@@ -19,12 +20,19 @@ function ratingOf(fields) {
 }
 
 // Two pictures may have one sidecar.
-function* writesOf(photos) {
+function* writesOf(photos, keptRun) {
     for (const photo of photos) {
         const change = photo.rating > 0 ? { set: [String(photo.rating)] } : { clear: true };
         yield { photo: photo, file: splitPath(photo.path).folder + "/" + splitPath(photo.path).base,
-                ask: (work) => work.write(photo.path, { fields: { rating: change } }) };
+                ask: (work) => work.write(photo.path, { fields: { rating: change } }),
+                keep: (said) => keptRun.keep({ path: photo.path, file: said.file, before: ratingOf(said.before),
+                                               after: ratingOf(said.after), undo: said.undo }),
+                unwritten: () => keptRun.unwritten(photo.path) };
     }
+}
+
+function logAction() {
+    return qsTr("Write ratings");
 }
 
 export class Ratings {
@@ -98,12 +106,15 @@ export class Ratings {
     }
 
     * writing(photos) {
-        for (const answer of this.newAsker().each(writesOf(photos), () => true)) {
+        const head = { run: this.run, process: qsTr("Metadata"), action: logAction() };
+        const keptRun = new KeptRun(files, runRecords, head);
+        for (const answer of this.newAsker().each(writesOf(photos, keptRun), () => true)) {
             if (answer !== null) {
                 this.take(answer.task.photo, answer.said);
             }
             yield answer;
         }
+        keptRun.end();
         return "";
     }
 
@@ -118,13 +129,7 @@ export class Ratings {
         if (said.problem === "") {
             this.written[photo.path] = photo.rating;
         }
-        const kept = said.problem === "" && said.changed ? this.keep(photo, said) : "";
-        this.sum.problem = this.sum.problem || kept || this.log(photo, said);
-    }
-
-    keep(photo, said) {
-        return keepValues(files, this.run, { path: photo.path, file: said.file, before: ratingOf(said.before),
-                                             after: ratingOf(said.after), undo: said.undo });
+        this.sum.problem = this.sum.problem || this.log(photo, said);
     }
 
     // What is in a file is logged, whatever happens to this program afterwards.
@@ -132,7 +137,7 @@ export class Ratings {
         const ok = said.problem === "";
         const result = { status: ok ? "OK" : "Failed", reason: said.problem, photo: photo,
                          name: splitPath(said.file || photo.path).name, path: said.file || photo.path };
-        return appendRows(files, [logRow(result, qsTr("Metadata"), qsTr("Write ratings"), new Date().toISOString(),
+        return appendRows(files, [logRow(result, qsTr("Metadata"), logAction(), new Date().toISOString(),
                                          this.run)]);
     }
 

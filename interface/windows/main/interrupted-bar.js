@@ -14,6 +14,7 @@ import { interruptedMoves, interruptedPictures, interruptedText, restText,
 import { appendRows, keepRows } from "../../runs/log-file.js";
 import { doneResults } from "../../runs/making/run-record.js";
 import { recoveredWords } from "../../runs/recovered.js";
+import { settleKeptRuns } from "../../runs/fields/kept-run.js";
 import { removeUnfinished } from "../../runs/site/unfinished.js";
 
 // Runs that moved files have been completed by then: a user who does not answer is asked again.
@@ -44,6 +45,7 @@ export class InterruptedBar {
         this.waiting = [].concat(written, moved);
         this.waiting.forEach((work) => this.window.pictures.addPaths(work.places, []));
         this.tellEnded(recovered);
+        this.tellEdited(settleKeptRuns(files, runRecords));
         this.window.history.lookForEarlier();
         this.own(recovered, written);
         this.changed();
@@ -62,6 +64,14 @@ export class InterruptedBar {
                         buttons: [qsTr("Continue")], initial: 0, escape: 0, check: "" });
         } else if (quiet !== null) {
             this.window.sayBeside(quiet.text);
+        }
+    }
+
+    // What a run wrote into pictures before it was interrupted stays there.
+    tellEdited(counts) {
+        if (counts.length > 0) {
+            const all = counts.reduce((sum, count) => sum + count, 0);
+            this.window.sayBeside(qsTr("Writing metadata was interrupted: %n pictures were changed. You can revert them in the log.", "", all));
         }
     }
 

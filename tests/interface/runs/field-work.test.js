@@ -1,6 +1,9 @@
 import { FieldAsker } from "../../../interface/runs/fields/field-work.js";
 import { equal, finish, isTrue, test } from "../check.js";
 
+// What happened to prepared edits, in order.
+let placing = [];
+
 // Stand-ins for the work of workers: each is told to answer, in any order.
 class Work {
     constructor() {
@@ -14,6 +17,17 @@ class Work {
 
     answer() {
         this.said = { problem: "", path: this.asked[this.asked.length - 1] };
+    }
+
+    // An edit that is made and waits for its place.
+    prepare(placed) {
+        this.said = { problem: "", isReady: true, changed: false, undo: "u" };
+        this.placed = placed;
+    }
+
+    place() {
+        placing.push("place");
+        return this.placed;
     }
 
     take() {
@@ -117,6 +131,38 @@ test("passes on what is known without asking", () => {
     };
     equal(asker.each(known(), always).next().value.said.problem, "it cannot be read");
     equal(made.length, 0);
+});
+
+// The answer for one picture whose edit is prepared; problem: of storing its old values.
+function afterPreparing(problem, placed) {
+    const { asker, made } = askerOf(1);
+    const task = { file: "a", ask: (work) => work.write("a"),
+                   keep: (said) => { placing.push("keep " + said.undo); return problem; },
+                   unwritten: () => { placing.push("unwritten"); } };
+    placing = [];
+    const answers = asker.each([task][Symbol.iterator](), always);
+    answers.next();
+    made[0].prepare(placed);
+    return answers.next().value.said;
+}
+
+test("stores old values before an edit takes its place", () => {
+    const said = afterPreparing("", { problem: "", changed: true, file: "a" });
+    equal(placing, ["keep u", "place"]);
+    equal([said.problem, said.changed, said.file], ["", true, "a"]);
+});
+
+test("writes nothing whose old values cannot be stored", () => {
+    const said = afterPreparing("the disk is full", { problem: "", changed: true, file: "a" });
+    equal(placing, ["keep u"]);
+    equal(said.problem, "its old values cannot be kept: the disk is full");
+    isTrue(said.changed === false);
+});
+
+test("says where an edit did not take its place", () => {
+    const said = afterPreparing("", { problem: "the file is write-protected", changed: false, file: "a" });
+    equal(placing, ["keep u", "place", "unwritten"]);
+    equal([said.problem, said.changed], ["the file is write-protected", false]);
 });
 
 finish();
