@@ -4,6 +4,7 @@
 #include "jobs/camera_clocks.h"
 #include "jobs/path_hash.h"
 #include "jobs/records/picture_ratings.h"
+#include "meta/sidecar_metadata.h"
 #include "platform/disk/disk_file_system.h"
 #include "platform/disk/folders.h"
 #include "platform/disk/item_facts.h"
@@ -137,7 +138,7 @@ text::TokenFacts withPictureFacts(const text::TokenFacts &facts, const platform:
 
 text::TokenFacts factsOfPicture(const QString &path, int index)
 {
-    return withPictureFacts(factsOfFile(path, index, true), platform::pictureFacts(path));
+    return withPictureFacts(factsOfFile(path, index, true), meta::factsWithSidecar(path));
 }
 
 QString nameFrom(const QString &pattern, const text::TokenFacts &facts, QSize size)

@@ -63,7 +63,7 @@ QString ReadingFiles::profileName(const QString &path) const
 
 QVariantMap ReadingFiles::lostMetadata(const QString &from, const QString &to) const
 {
-    const ReadResult had = read(Reading::Properties, from);
+    const ReadResult had = read(Reading::Properties, from, jobs::askingFields(from));
     const ReadResult has = read(Reading::Properties, to);
     return files::lostBetween(had.value("properties").toMap(), has.value("properties").toMap(),
                               had.isGood() ? has.problem : had.problem);
@@ -141,7 +141,9 @@ text::TokenFacts ReadingRecipes::tokenFacts(const QString &path, int index) cons
 
 QVariantMap ReadingPages::textsOf(const QString &path) const
 {
-    return jobs::pageTextValues(read(Reading::Properties, path).value("properties").toMap());
+    const QVariantMap sidecar = jobs::askingFields(path);
+    return jobs::pageTextValues(read(Reading::Properties, path, sidecar).value("properties").toMap(),
+                                read(Reading::Fields, path, sidecar).value("fields").toMap());
 }
 
 } // namespace window

@@ -163,7 +163,7 @@ Result<QByteArray> fileOfSamePixels(const ImageSource &source, const RecipeOutpu
     if (plan.type == OutputType::Pdf)
         return pageOfSamePixels(source, output, plan);
     const Result<QByteArray> file = lyingFile(source, plan);
-    if (!file || !changesMetadata(output))
+    if (!file || !rewritesMetadata(output, source, plan.type))
         return file;
     return ImageSource::fromData(*file).and_then([&](const ImageSource &lying) {
         return optionsFor(source, output).and_then([&](const platform::EncodeOptions &options) -> Result<QByteArray> {

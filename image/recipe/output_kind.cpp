@@ -2,6 +2,7 @@
 #include "image/recipe/sentence.h"
 
 #include "platform/imageio/convert/other_metadata.h"
+#include "platform/imageio/edits/changed_metadata.h"
 #include "platform/imageio/encode/image_destination.h"
 #include "platform/imageio/formats/encoding_memory.h"
 #include "platform/imageio/formats/formats.h"
@@ -88,6 +89,11 @@ bool canRewriteMetadata(OutputType type, std::optional<double> dpi)
     return false;
 }
 
+bool rewritesMetadata(const RecipeOutput &output, const platform::ImageSource &source, OutputType type)
+{
+    return changesMetadata(output) || (platform::hasChangedMetadata(source) && canRewriteMetadata(type, {}));
+}
+
 /** Parts of the file that apply to it alone. */
 QStringList lossesOfParts(const platform::ImageSource &source)
 {
@@ -172,7 +178,10 @@ QStringList lossesOf(const OutputPlan &plan, const RecipeOutput &output, const S
                      const platform::ImageSource &source)
 {
     QStringList losses = lossesOfMetadata(plan, output, source);
-    if (!plan.isLossless || changesMetadata(output))
+    if (plan.isLossless && platform::hasChangedMetadata(source) && !rewritesMetadata(output, source, plan.type))
+        losses.append(sentence(
+            QT_TRANSLATE_NOOP("recipe", "Metadata of its sidecar file is left out, since the file is copied")));
+    if (!plan.isLossless || rewritesMetadata(output, source, plan.type))
         losses += lossesOfParts(source);
     if (!plan.isLossless) {
         losses += lossesOfPixels(plan, output, end, source.pixelFacts().value_or(platform::PixelFacts()));

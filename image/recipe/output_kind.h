@@ -20,6 +20,9 @@ bool changesMetadata(const RecipeOutput &output);
  */
 bool canRewriteMetadata(OutputType type, std::optional<double> dpi);
 
+/** True if a file of the same pixels is no copy of the source's. */
+bool rewritesMetadata(const RecipeOutput &output, const platform::ImageSource &source, OutputType type);
+
 /** Why a file of the planned size is not made, in a sentence: the memory that it would need. Empty if it is. */
 QString refusalFor(const OutputPlan &plan, const RecipeOutput &output, const Stage &end, int bits);
 

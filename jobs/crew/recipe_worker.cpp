@@ -102,7 +102,7 @@ private:
             planned.facts = meta::withSidecar(platform::pictureFacts(file), file, told->packet);
         m_facts = withPictureFacts(m_facts, planned.facts);
         if (source) {
-            m_source = *source;
+            m_source = meta::withSidecar(*source, file, told->packet);
             m_plans = image::planOf(m_recipe, m_source);
             planned.plans = m_plans;
             planned.pixels = m_source.uprightSize();

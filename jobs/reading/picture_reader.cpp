@@ -88,7 +88,13 @@ public:
     const std::shared_ptr<const LentFile> &file() const { return m_files.first(); }
     /** Those that came along, from 1. */
     std::shared_ptr<const LentFile> other(int place) const { return m_files.value(place); }
-    Result<ImageSource> source() const { return ImageSource::fromLent(file()); }
+    /** With the metadata of its sidecar, if the packet of that came along. */
+    Result<ImageSource> source() const
+    {
+        return ImageSource::fromLent(file()).map([this](const ImageSource &source) {
+            return meta::withSidecar(source, file(), value("packet").toByteArray());
+        });
+    }
 
     int whole(const char *name) const { return m_read.values.value(key(name)).toInt(); }
     QVariant value(const char *name) const { return m_read.values.value(key(name)); }

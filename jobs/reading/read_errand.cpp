@@ -1,6 +1,7 @@
 #include "jobs/reading/read_errand.h"
 
 #include "image/recipe/sentence.h"
+#include "meta/metadata_file.h"
 #include "platform/descriptors/shared_image.h"
 #include "platform/file/lent_file.h"
 
@@ -19,13 +20,26 @@ QSize ReadResult::size(const char *width, const char *height) const
     return !size.isEmpty() && size.width() <= longest && size.height() <= longest ? size : QSize();
 }
 
+namespace {
+
+/** What is made of a picture has the metadata of its sidecar too. */
+QVariantMap valuesWithSidecar(const ReadRequest &request)
+{
+    QVariantMap values = request.values;
+    if (request.what == Reading::Result || request.what == Reading::Plan || request.what == Reading::Bytes)
+        values.insert(QStringLiteral("packet"), meta::packetBeside(request.path));
+    return values;
+}
+
+} // namespace
+
 std::vector<Message> ReadErrand::begin(Hand &)
 {
     if (!m_take)
         return {};
     m_isBegun = true;
     const QStringList paths = QStringList{m_request.path} + m_request.files;
-    Message message = toMessage(ReadMessage{m_request.what, m_request.values, paths});
+    Message message = toMessage(ReadMessage{m_request.what, valuesWithSidecar(m_request), paths});
     for (const QString &path : paths) {
         auto file = platform::LentFile::open(path);
         if (!file) {

@@ -1,6 +1,8 @@
 #include "jobs/services/page_service.h"
 
 #include "jobs/services/page_texts.h"
+#include "meta/metadata_file.h"
+#include "meta/sidecar_metadata.h"
 
 #include "platform/file/regular_file.h"
 #include "platform/imageio/source/image_source.h"
@@ -126,8 +128,10 @@ bool PageService::needsTexts(const QString &pattern) const
 QVariantMap PageService::textsOf(const QString &path) const
 {
     const auto properties =
-        platform::ImageSource::open(path).and_then([](const auto &source) { return source.properties(); });
-    return pageTextValues(properties.value_or(QVariantMap()));
+        meta::openedWithSidecar(path).and_then([](const auto &source) { return source.properties(); });
+    const auto fields = meta::readFields(path);
+    return pageTextValues(properties.value_or(QVariantMap()),
+                          fields.value_or(QVariantMap()).value(key("fields")).toMap());
 }
 
 QString PageService::caption(const QString &pattern, const QString &path, const QVariantMap &facts,
@@ -167,10 +171,10 @@ bool PageService::removeKnown(const QString &path, const QStringList &fingerprin
     return !found.isEmpty() && fingerprints.contains(found) && QFile::remove(path);
 }
 
-QVariantMap pageTextValues(const QVariantMap &properties)
+QVariantMap pageTextValues(const QVariantMap &properties, const QVariantMap &fields)
 {
     QVariantMap values;
-    const QHash<QString, QString> texts = pageTexts(properties);
+    const QHash<QString, QString> texts = pageTexts(properties, fields);
     for (auto entry = texts.begin(); entry != texts.end(); ++entry)
         values.insert(entry.key(), entry.value());
     return values;

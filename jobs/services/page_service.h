@@ -64,6 +64,6 @@ public:
 };
 
 /** What PageService::textsOf() answers of the properties of a picture. */
-QVariantMap pageTextValues(const QVariantMap &properties);
+QVariantMap pageTextValues(const QVariantMap &properties, const QVariantMap &fields);
 
 } // namespace jobs

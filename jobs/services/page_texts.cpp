@@ -73,17 +73,16 @@ QString coordinates(const QVariantMap &gps)
 
 } // namespace
 
-QHash<QString, QString> pageTexts(const QVariantMap &properties)
+QHash<QString, QString> pageTexts(const QVariantMap &properties, const QVariantMap &fields)
 {
     QHash<QString, QString> texts;
     for (const Row &row : rows()) {
-        for (const Place &place : row.places) {
-            const QString text = textAt(properties, place);
-            if (!text.isEmpty()) {
-                texts.insert(QLatin1String(row.token), text);
-                break;
-            }
-        }
+        const QVariantMap field = fields.value(QLatin1String(row.token)).toMap();
+        QString text = field.value(QStringLiteral("value")).toStringList().join(QStringLiteral(", "));
+        for (auto place = row.places.begin(); place != row.places.end() && text.isEmpty(); ++place)
+            text = textAt(properties, *place);
+        if (!text.isEmpty())
+            texts.insert(QLatin1String(row.token), text);
     }
     if (const QString place = coordinates(properties.value(QStringLiteral("{GPS}")).toMap()); !place.isEmpty())
         texts.insert(QStringLiteral("coordinates"), place);

@@ -11,6 +11,7 @@
 #include "jobs/result_files.h"
 #include "jobs/result_mark.h"
 #include "jobs/services/recipe_work.h"
+#include "meta/sidecar_metadata.h"
 #include "platform/effects/lettering.h"
 #include "platform/file/atomic_file.h"
 #include "platform/foundation/file_names.h"
@@ -74,7 +75,7 @@ struct Task
 Result<Task> taskFor(const QString &path, const QVariantMap &object)
 {
     return recipeFrom(object, {QStringLiteral("/")}).and_then([&](const Recipe &recipe) {
-        return ImageSource::open(path).map([&](const ImageSource &source) {
+        return meta::openedWithSidecar(path).map([&](const ImageSource &source) {
             return Task{recipe, source, image::planOf(recipe, source).first()};
         });
     });

@@ -22,6 +22,11 @@ struct Metadata::Blocks
     /** Chunks of a PNG file that can be copied to another: texts, gamma, primaries. */
     QByteArray pngChunks;
     QStringList comments; ///< of the file itself, not of EXIF
+
+    static Metadata withComments(const Metadata &metadata, const QStringList &comments)
+    {
+        return metadata.withComments(comments);
+    }
 };
 
 /** Initialises exiv2 once: its XMP parser, its support of HEIC and AVIF, and no output on standard error. */

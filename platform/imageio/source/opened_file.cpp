@@ -8,7 +8,16 @@ namespace platform {
 
 Metadata ImageSource::File::metadata() const
 {
+    if (otherMetadata)
+        return *otherMetadata;
     return isRaw() ? metadataOf(raw, Content::Tiff) : metadataOf(bytes, content);
+}
+
+ImageSource ImageSource::File::withMetadata(const ImageSource &source, const Metadata &metadata)
+{
+    File file = *source.file();
+    file.otherMetadata = std::make_shared<const Metadata>(metadata);
+    return ImageSource(std::make_shared<const File>(std::move(file)));
 }
 
 Result<void> memoryIsLeftToDecode(const ImageSource::File &file, const vips::VImage &image, const Outcome &outcome)

@@ -18,6 +18,7 @@ struct ImageSource::File
     QSize storedSize;
     int imageCount = 1;
     int orientation = 1;
+    std::shared_ptr<const Metadata> otherMetadata; ///< instead of the file's; usually none
 
     /** The name of the file in messages. */
     QString name() const { return path().isEmpty() ? QStringLiteral("the data") : path(); }
@@ -28,6 +29,8 @@ struct ImageSource::File
      * Throws vips::VError if the file can no longer be read.
      */
     Metadata metadata() const;
+    /** The same picture with other metadata. */
+    static ImageSource withMetadata(const ImageSource &source, const Metadata &metadata);
 };
 
 /**
