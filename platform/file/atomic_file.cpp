@@ -74,14 +74,6 @@ bool copyBytes(int source, qint64 position, qint64 size, int copy)
     return true;
 }
 
-/** True if somebody has written to the file since. */
-bool isChanged(int file, const struct stat &before)
-{
-    struct stat now = {};
-    return ::fstat(file, &now) != 0 || now.st_size != before.st_size || now.st_mtim.tv_sec != before.st_mtim.tv_sec ||
-           now.st_mtim.tv_nsec != before.st_mtim.tv_nsec;
-}
-
 } // namespace
 
 Result<void> replaceFile(const QString &path, const QByteArray &bytes)
@@ -106,9 +98,8 @@ Result<void> spliceFile(const QFile &source, const QList<Splice> &splices,
         return checked;
     if (!file.takeAttributesOf(source.handle()))
         return writeFailure(path, errno);
-    if (isChanged(source.handle(), before))
-        return writeFailure(path, EBUSY);
-    return file.takePlace() ? Result<void>() : writeFailure(path, errno);
+    return file.takePlace([&] { return isUnchanged(path, source.handle(), before); }) ? Result<void>()
+                                                                                      : writeFailure(path, errno);
 }
 
 int copySpliced(int source, const QList<Splice> &splices, int copy)

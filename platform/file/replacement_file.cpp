@@ -97,13 +97,9 @@ Result<void> EditedFile::takePlace()
         return protectedFile(m_path);
     if (!m_copy->takeAttributesOf(m_file->descriptor()))
         return writeFailure(m_path, errno);
-    struct stat now = {};
-    const bool isSame = ::fstat(m_file->descriptor(), &now) == 0 && now.st_size == m_before.st_size &&
-                        now.st_mtim.tv_sec == m_before.st_mtim.tv_sec &&
-                        now.st_mtim.tv_nsec == m_before.st_mtim.tv_nsec;
-    if (!isSame)
-        return writeFailure(m_path, EBUSY);
-    return m_copy->takePlace() ? Result<void>() : writeFailure(m_path, errno);
+    return m_copy->takePlace([this] { return isUnchanged(m_path, m_file->descriptor(), m_before); })
+               ? Result<void>()
+               : writeFailure(m_path, errno);
 }
 
 } // namespace platform

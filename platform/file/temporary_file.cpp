@@ -37,6 +37,19 @@ tl::unexpected<Error> writeFailure(const QString &path, int code)
                                                .arg(path, QString::fromLocal8Bit(std::strerror(code))));
 }
 
+bool isUnchanged(const QString &path, int file, const struct stat &before)
+{
+    struct stat now = {};
+    struct stat there = {};
+    const bool isSame = ::fstat(file, &now) == 0 && now.st_size == before.st_size &&
+                        now.st_mtim.tv_sec == before.st_mtim.tv_sec && now.st_mtim.tv_nsec == before.st_mtim.tv_nsec;
+    // Another program may have saved over it, which leaves the open file as it is.
+    const bool isThere =
+        ::stat(encodedPath(path).constData(), &there) == 0 && there.st_dev == now.st_dev && there.st_ino == now.st_ino;
+    errno = EBUSY;
+    return isSame && isThere;
+}
+
 TemporaryFile::TemporaryFile(const QString &target)
     : m_target(encodedPath(target)), m_folder(encodedPath(QFileInfo(target).path()))
 {
@@ -212,7 +225,7 @@ bool TemporaryFile::nameIt()
     return false;
 }
 
-bool TemporaryFile::takePlace()
+bool TemporaryFile::takePlace(const std::function<bool()> &mayTake)
 {
     if (::fdatasync(m_descriptor) != 0 || (m_name.isEmpty() && !nameIt()))
         return false;
@@ -220,8 +233,8 @@ bool TemporaryFile::takePlace()
     // its name.
     const int alive = ::fcntl(m_descriptor, F_DUPFD_CLOEXEC, 0);
     const int descriptor = std::exchange(m_descriptor, -1);
-    const bool isNamed =
-        ::close(descriptor) == 0 && mayBeReplaced(m_target) && ::rename(m_name.constData(), m_target.constData()) == 0;
+    const bool isNamed = ::close(descriptor) == 0 && mayBeReplaced(m_target) && mayTake() &&
+                         ::rename(m_name.constData(), m_target.constData()) == 0;
     const int problem = errno;
     if (alive >= 0)
         ::close(alive);

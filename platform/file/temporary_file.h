@@ -8,14 +8,22 @@
 #include <QByteArray>
 #include <QString>
 
+#include <functional>
 #include <optional>
 
+#include <sys/stat.h>
 #include <sys/types.h>
 
 namespace platform {
 
 /** The message about a file that could not be written; @p code is an errno. */
 tl::unexpected<Error> writeFailure(const QString &path, int code);
+
+/**
+ * Whether an open file is still the one at its path, and nobody has written to it; @p before is its state when it was
+ * opened. A link at the path is followed. Sets errno to EBUSY if not.
+ */
+bool isUnchanged(const QString &path, int file, const struct stat &before);
 
 /**
  * A new file without a name until it replaces another one, so that a process that ends in between leaves nothing
@@ -42,8 +50,12 @@ public:
     bool takePermissions();
     /** Permissions, extended attributes, access lists and, as far as this user may, the owner of an open file. */
     bool takeAttributesOf(int source);
-    /** Syncs to the disk, closes, and replaces the target. A symbolic link there is replaced. */
-    bool takePlace();
+    /**
+     * Syncs to the disk, closes, and replaces the target. A symbolic link there is replaced.
+     *
+     * @param mayTake  is asked immediately before that, and sets errno if it answers false
+     */
+    bool takePlace(const std::function<bool()> &mayTake = [] { return true; });
 
 private:
     bool copyByHand(int source, qint64 position, qint64 size);
