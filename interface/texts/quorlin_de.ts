@@ -52,7 +52,7 @@
     </message>
     <message>
         <source>Add only files of a certain type, size, date or name</source>
-        <translation>Nur Dateien mit bestimmtem Typ, Datum, Namen oder bestimmter Größe hinzufügen</translation>
+        <translation>Nur Dateien hinzufügen, deren Typ, Größe, Datum oder Name passt</translation>
     </message>
     <message>
         <source>T&amp;ypes</source>
@@ -473,6 +473,18 @@
         <source>Name of the file, without .pdf</source>
         <translation>Name der Datei, ohne .pdf</translation>
     </message>
+    <message>
+        <source>Higher quality means larger files</source>
+        <translation>Höhere Qualität bedeutet größere Dateien</translation>
+    </message>
+    <message>
+        <source>Converts the colours. sRGB suits screens and most printers.</source>
+        <translation>Rechnet die Farben um. sRGB eignet sich für Bildschirme und die meisten Drucker.</translation>
+    </message>
+    <message>
+        <source>A higher resolution means larger files</source>
+        <translation>Eine höhere Auflösung bedeutet größere Dateien</translation>
+    </message>
 </context>
 <context>
     <name>ConvertPane</name>
@@ -666,6 +678,14 @@
     <message>
         <source>Dots per inch</source>
         <translation>Punkte pro Zoll</translation>
+    </message>
+    <message>
+        <source> dpi</source>
+        <translation> dpi</translation>
+    </message>
+    <message>
+        <source>Turns lengths into pixels and is written into the file</source>
+        <translation>Rechnet Längen in Pixel um und wird in die Datei geschrieben</translation>
     </message>
 </context>
 <context>
@@ -1085,6 +1105,10 @@
     <message>
         <source>Direction</source>
         <translation>Schreibrichtung</translation>
+    </message>
+    <message>
+        <source>Higher quality means larger files</source>
+        <translation>Höhere Qualität bedeutet größere Dateien</translation>
     </message>
 </context>
 <context>
@@ -2156,6 +2180,10 @@
         <source>Write All as JPEG</source>
         <translation>Alle als JPEG schreiben</translation>
     </message>
+    <message>
+        <source>Higher quality means larger files</source>
+        <translation>Höhere Qualität bedeutet größere Dateien</translation>
+    </message>
 </context>
 <context>
     <name>Preferences</name>
@@ -2777,6 +2805,14 @@
         <source>Colour around the picture</source>
         <translation>Farbe um das Bild</translation>
     </message>
+    <message>
+        <source> dpi</source>
+        <translation> dpi</translation>
+    </message>
+    <message>
+        <source>Turns lengths into pixels and is written into the file</source>
+        <translation>Rechnet Längen in Pixel um und wird in die Datei geschrieben</translation>
+    </message>
 </context>
 <context>
     <name>RoundPane</name>
@@ -2866,6 +2902,10 @@
     <message>
         <source>Preview of the original and the saved picture</source>
         <translation>Vorschau von Original und gespeichertem Bild</translation>
+    </message>
+    <message>
+        <source>Higher quality means larger files</source>
+        <translation>Höhere Qualität bedeutet größere Dateien</translation>
     </message>
 </context>
 <context>
@@ -5714,6 +5754,30 @@
         <source>Top and bottom</source>
         <translation>Oben und unten</translation>
     </message>
+    <message>
+        <source>Converts the colours. sRGB suits screens and the web.</source>
+        <translation>Rechnet die Farben um. sRGB eignet sich für Bildschirme und das Web.</translation>
+    </message>
+    <message>
+        <source>A colour profile with the extension .icc or .icm</source>
+        <translation>Ein Farbprofil mit der Endung .icc oder .icm</translation>
+    </message>
+    <message>
+        <source>Dots per inch used to turn lengths into pixels</source>
+        <translation>Punkte pro Zoll, mit denen Längen in Pixel umgerechnet werden</translation>
+    </message>
+    <message>
+        <source>dpi</source>
+        <translation>dpi</translation>
+    </message>
+    <message>
+        <source>MP</source>
+        <translation>MP</translation>
+    </message>
+    <message>
+        <source>Otherwise lengths use the resolution of each picture</source>
+        <translation>Sonst gilt für Längen die Auflösung des jeweiligen Bildes</translation>
+    </message>
 </context>
 <context>
     <name>output-fields</name>
@@ -5802,10 +5866,6 @@
         <translation>Auflösung setzen</translation>
     </message>
     <message>
-        <source>Resolution</source>
-        <translation>Auflösung</translation>
-    </message>
-    <message>
         <source>Transparency</source>
         <translation>Transparenz</translation>
     </message>
@@ -5816,6 +5876,38 @@
     <message>
         <source>Skip if up to date</source>
         <translation>Überspringen, wenn aktuell</translation>
+    </message>
+    <message>
+        <source>Higher quality means larger files</source>
+        <translation>Höhere Qualität bedeutet größere Dateien</translation>
+    </message>
+    <message>
+        <source>Keeps every pixel exactly; the files are larger</source>
+        <translation>Erhält jeden Pixel genau; die Dateien werden größer</translation>
+    </message>
+    <message>
+        <source>Otherwise JPEG files keep their quality, and other types get %1</source>
+        <translation>Sonst behalten JPEG-Dateien ihre Qualität und andere Typen erhalten %1</translation>
+    </message>
+    <message>
+        <source>Otherwise the quality is %1</source>
+        <translation>Sonst ist die Qualität %1</translation>
+    </message>
+    <message>
+        <source>Dots per inch written into the file; its pixels do not change</source>
+        <translation>Punkte pro Zoll, die in die Datei geschrieben werden; ihre Pixel ändern sich nicht</translation>
+    </message>
+    <message>
+        <source>For printing and layout programs; no pixel changes</source>
+        <translation>Für Druck- und Layoutprogramme; kein Pixel ändert sich</translation>
+    </message>
+    <message>
+        <source>Replaces transparency in file types that cannot hold it</source>
+        <translation>Ersetzt Transparenz in Dateitypen, die keine kennen</translation>
+    </message>
+    <message>
+        <source>kB</source>
+        <translation>kB</translation>
     </message>
 </context>
 <context>
@@ -9352,6 +9444,10 @@
         <source>Other</source>
         <translation>Andere</translation>
     </message>
+    <message>
+        <source>dpi</source>
+        <translation>dpi</translation>
+    </message>
 </context>
 <context>
     <name>risky-names</name>
@@ -12066,14 +12162,14 @@
     </message>
     <message>
         <source>Stopped:</source>
-        <translation>Angehalten:</translation>
+        <translation>Gestoppt:</translation>
     </message>
 </context>
 <context>
     <name>field-run</name>
     <message>
         <source>Stopped:</source>
-        <translation>Angehalten:</translation>
+        <translation>Gestoppt:</translation>
     </message>
     <message>
         <source>Cancelled before the first picture. Nothing was written.</source>

@@ -473,6 +473,18 @@
         <source>Name of the file, without .pdf</source>
         <translation>Nom du fichier, sans .pdf</translation>
     </message>
+    <message>
+        <source>Higher quality means larger files</source>
+        <translation>Plus la qualité est haute, plus le fichier est lourd</translation>
+    </message>
+    <message>
+        <source>Converts the colours. sRGB suits screens and most printers.</source>
+        <translation>Convertit les couleurs. sRGB convient aux écrans et à la plupart des imprimantes.</translation>
+    </message>
+    <message>
+        <source>A higher resolution means larger files</source>
+        <translation>Plus la résolution est haute, plus le fichier est lourd</translation>
+    </message>
 </context>
 <context>
     <name>ConvertPane</name>
@@ -666,6 +678,14 @@
     <message>
         <source>Dots per inch</source>
         <translation>Points par pouce</translation>
+    </message>
+    <message>
+        <source> dpi</source>
+        <translation> ppp</translation>
+    </message>
+    <message>
+        <source>Turns lengths into pixels and is written into the file</source>
+        <translation>Convertit les longueurs en pixels et est écrite dans le fichier</translation>
     </message>
 </context>
 <context>
@@ -1085,6 +1105,10 @@
     <message>
         <source>Direction</source>
         <translation>Sens d’écriture</translation>
+    </message>
+    <message>
+        <source>Higher quality means larger files</source>
+        <translation>Plus la qualité est haute, plus le fichier est lourd</translation>
     </message>
 </context>
 <context>
@@ -2156,6 +2180,10 @@
         <source>Write All as JPEG</source>
         <translation>Tout écrire en JPEG</translation>
     </message>
+    <message>
+        <source>Higher quality means larger files</source>
+        <translation>Plus la qualité est haute, plus le fichier est lourd</translation>
+    </message>
 </context>
 <context>
     <name>Preferences</name>
@@ -2777,6 +2805,14 @@
         <source>Colour around the picture</source>
         <translation>Couleur autour de l’image</translation>
     </message>
+    <message>
+        <source> dpi</source>
+        <translation> ppp</translation>
+    </message>
+    <message>
+        <source>Turns lengths into pixels and is written into the file</source>
+        <translation>Convertit les longueurs en pixels et est écrite dans le fichier</translation>
+    </message>
 </context>
 <context>
     <name>RoundPane</name>
@@ -2866,6 +2902,10 @@
     <message>
         <source>Preview of the original and the saved picture</source>
         <translation>Aperçu de l’original et de l’image enregistrée</translation>
+    </message>
+    <message>
+        <source>Higher quality means larger files</source>
+        <translation>Plus la qualité est haute, plus le fichier est lourd</translation>
     </message>
 </context>
 <context>
@@ -4738,7 +4778,7 @@
     </message>
     <message>
         <source>Reading properties: %1 of %2</source>
-        <translation>Lecture des propriétés : %1 sur %2</translation>
+        <translation>Lecture des propriétés : %1 sur %2</translation>
     </message>
 </context>
 <context>
@@ -5241,7 +5281,7 @@
     </message>
     <message>
         <source>cancelled</source>
-        <translation>interrompu</translation>
+        <translation>arrêté</translation>
     </message>
     <message>
         <source>Cancelled:</source>
@@ -5714,6 +5754,30 @@
         <source>Top and bottom</source>
         <translation>Haut et bas</translation>
     </message>
+    <message>
+        <source>Converts the colours. sRGB suits screens and the web.</source>
+        <translation>Convertit les couleurs. sRGB convient aux écrans et au web.</translation>
+    </message>
+    <message>
+        <source>A colour profile with the extension .icc or .icm</source>
+        <translation>Un profil colorimétrique d’extension .icc ou .icm</translation>
+    </message>
+    <message>
+        <source>Dots per inch used to turn lengths into pixels</source>
+        <translation>Points par pouce servant à convertir les longueurs en pixels</translation>
+    </message>
+    <message>
+        <source>dpi</source>
+        <translation>ppp</translation>
+    </message>
+    <message>
+        <source>MP</source>
+        <translation>Mpx</translation>
+    </message>
+    <message>
+        <source>Otherwise lengths use the resolution of each picture</source>
+        <translation>Sinon, les longueurs utilisent la résolution de chaque image</translation>
+    </message>
 </context>
 <context>
     <name>output-fields</name>
@@ -5802,10 +5866,6 @@
         <translation>Fixer la résolution</translation>
     </message>
     <message>
-        <source>Resolution</source>
-        <translation>Résolution</translation>
-    </message>
-    <message>
         <source>Transparency</source>
         <translation>Transparence</translation>
     </message>
@@ -5816,6 +5876,38 @@
     <message>
         <source>Skip if up to date</source>
         <translation>Ignorer si à jour</translation>
+    </message>
+    <message>
+        <source>Higher quality means larger files</source>
+        <translation>Plus la qualité est haute, plus le fichier est lourd</translation>
+    </message>
+    <message>
+        <source>Keeps every pixel exactly; the files are larger</source>
+        <translation>Conserve chaque pixel à l’identique ; les fichiers sont plus lourds</translation>
+    </message>
+    <message>
+        <source>Otherwise JPEG files keep their quality, and other types get %1</source>
+        <translation>Sinon, les fichiers JPEG gardent leur qualité et les autres types prennent %1</translation>
+    </message>
+    <message>
+        <source>Otherwise the quality is %1</source>
+        <translation>Sinon, la qualité est de %1</translation>
+    </message>
+    <message>
+        <source>Dots per inch written into the file; its pixels do not change</source>
+        <translation>Points par pouce écrits dans le fichier ; ses pixels ne changent pas</translation>
+    </message>
+    <message>
+        <source>For printing and layout programs; no pixel changes</source>
+        <translation>Pour l’impression et la mise en page ; aucun pixel ne change</translation>
+    </message>
+    <message>
+        <source>Replaces transparency in file types that cannot hold it</source>
+        <translation>Remplace la transparence dans les formats qui n’en ont pas</translation>
+    </message>
+    <message>
+        <source>kB</source>
+        <translation>ko</translation>
     </message>
 </context>
 <context>
@@ -5968,7 +6060,7 @@
     <name>plan</name>
     <message>
         <source>cancelled</source>
-        <translation>interrompu</translation>
+        <translation>arrêté</translation>
     </message>
     <message>
         <source>another picture in this run has the same new name</source>
@@ -6166,7 +6258,7 @@
     </message>
     <message>
         <source>Cannot write the comment into %1: %2</source>
-        <translation>Le commentaire ne peut pas être écrit dans %1 : %2</translation>
+        <translation>Le commentaire ne peut pas être écrit dans %1 : %2</translation>
     </message>
     <message>
         <source>the picture could not be read afterwards</source>
@@ -6182,7 +6274,7 @@
     </message>
     <message>
         <source>Cannot change the metadata of %1: %2</source>
-        <translation>Les métadonnées de %1 ne peuvent pas être modifiées : %2</translation>
+        <translation>Les métadonnées de %1 ne peuvent pas être modifiées : %2</translation>
     </message>
     <message>
         <source>it cannot be read</source>
@@ -6202,7 +6294,7 @@
     </message>
     <message>
         <source>Cannot read %1: %2 x %3 pixels are more than the memory allows</source>
-        <translation>%1 ne peut pas être lu : %2 × %3 pixels dépassent la mémoire disponible</translation>
+        <translation>%1 ne peut pas être lu : %2 × %3 pixels dépassent la mémoire disponible</translation>
     </message>
     <message>
         <source>its header is damaged</source>
@@ -9352,6 +9444,10 @@
         <source>Other</source>
         <translation>Autre</translation>
     </message>
+    <message>
+        <source>dpi</source>
+        <translation>ppp</translation>
+    </message>
 </context>
 <context>
     <name>risky-names</name>
@@ -9651,7 +9747,7 @@
     </message>
     <message>
         <source>cancelled</source>
-        <translation>interrompu</translation>
+        <translation>arrêté</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -9729,7 +9825,7 @@
     </message>
     <message>
         <source>cancelled, the page was not made</source>
-        <translation>interrompu, la page n’a pas été créée</translation>
+        <translation>arrêté, la page n’a pas été créée</translation>
     </message>
     <message>
         <source>the page was not made: %1</source>
@@ -10219,13 +10315,13 @@
     <message numerus="yes">
         <source>%n stars or more</source>
         <translation>
-            <numerusform>%n étoile et plus</numerusform>
-            <numerusform>%n étoiles et plus</numerusform>
+            <numerusform>%n étoile ou plus</numerusform>
+            <numerusform>%n étoiles ou plus</numerusform>
         </translation>
     </message>
     <message>
         <source>Only pictures that match the filter are processed: %1</source>
-        <translation>Seules les images qui correspondent au filtre sont traitées : %1</translation>
+        <translation>Seules les images qui correspondent au filtre sont traitées : %1</translation>
     </message>
 </context>
 <context>
@@ -11632,8 +11728,8 @@
     <message numerus="yes">
         <source>Only %n stars or more</source>
         <translation>
-            <numerusform>Seulement %n étoile et plus</numerusform>
-            <numerusform>Seulement %n étoiles et plus</numerusform>
+            <numerusform>Seulement %n étoile ou plus</numerusform>
+            <numerusform>Seulement %n étoiles ou plus</numerusform>
         </translation>
     </message>
     <message>
@@ -11835,7 +11931,7 @@
     </message>
     <message>
         <source>Cancel Run</source>
-        <translation>Interrompre le traitement</translation>
+        <translation>Arrêter le traitement</translation>
     </message>
     <message>
         <source>Do this for all</source>
@@ -11889,7 +11985,7 @@
     </message>
     <message>
         <source>cancelled</source>
-        <translation>interrompu</translation>
+        <translation>arrêté</translation>
     </message>
     <message numerus="yes">
         <source>%n pictures done</source>
@@ -12066,18 +12162,18 @@
     </message>
     <message>
         <source>Stopped:</source>
-        <translation>Interrompu :</translation>
+        <translation>Arrêté :</translation>
     </message>
 </context>
 <context>
     <name>field-run</name>
     <message>
         <source>Stopped:</source>
-        <translation>Interrompu :</translation>
+        <translation>Arrêté :</translation>
     </message>
     <message>
         <source>Cancelled before the first picture. Nothing was written.</source>
-        <translation>Annulé avant la première image. Rien n’a été écrit.</translation>
+        <translation>Arrêté avant la première image. Rien n’a été écrit.</translation>
     </message>
     <message numerus="yes">
         <source>Dry run: %n pictures would be changed</source>
@@ -13114,7 +13210,7 @@
     </message>
     <message>
         <source>Shown: %1</source>
-        <translation>Affichées : %1</translation>
+        <translation>Affichées : %1</translation>
     </message>
     <message>
         <source>All pictures are shown</source>

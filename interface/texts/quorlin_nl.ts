@@ -473,6 +473,18 @@
         <source>Name of the file, without .pdf</source>
         <translation>Naam van het bestand, zonder .pdf</translation>
     </message>
+    <message>
+        <source>Higher quality means larger files</source>
+        <translation>Hogere kwaliteit betekent grotere bestanden</translation>
+    </message>
+    <message>
+        <source>Converts the colours. sRGB suits screens and most printers.</source>
+        <translation>Rekent de kleuren om. sRGB is geschikt voor beeldschermen en de meeste printers.</translation>
+    </message>
+    <message>
+        <source>A higher resolution means larger files</source>
+        <translation>Een hogere resolutie betekent grotere bestanden</translation>
+    </message>
 </context>
 <context>
     <name>ConvertPane</name>
@@ -666,6 +678,14 @@
     <message>
         <source>Dots per inch</source>
         <translation>Punten per inch</translation>
+    </message>
+    <message>
+        <source> dpi</source>
+        <translation> dpi</translation>
+    </message>
+    <message>
+        <source>Turns lengths into pixels and is written into the file</source>
+        <translation>Rekent lengtes om in pixels en komt in het bestand te staan</translation>
     </message>
 </context>
 <context>
@@ -1085,6 +1105,10 @@
     <message>
         <source>Direction</source>
         <translation>Schrijfrichting</translation>
+    </message>
+    <message>
+        <source>Higher quality means larger files</source>
+        <translation>Hogere kwaliteit betekent grotere bestanden</translation>
     </message>
 </context>
 <context>
@@ -2156,6 +2180,10 @@
         <source>Write All as JPEG</source>
         <translation>Alles als JPEG schrijven</translation>
     </message>
+    <message>
+        <source>Higher quality means larger files</source>
+        <translation>Hogere kwaliteit betekent grotere bestanden</translation>
+    </message>
 </context>
 <context>
     <name>Preferences</name>
@@ -2777,6 +2805,14 @@
         <source>Colour around the picture</source>
         <translation>Kleur rond de foto</translation>
     </message>
+    <message>
+        <source> dpi</source>
+        <translation> dpi</translation>
+    </message>
+    <message>
+        <source>Turns lengths into pixels and is written into the file</source>
+        <translation>Rekent lengtes om in pixels en komt in het bestand te staan</translation>
+    </message>
 </context>
 <context>
     <name>RoundPane</name>
@@ -2866,6 +2902,10 @@
     <message>
         <source>Preview of the original and the saved picture</source>
         <translation>Voorvertoning van het origineel en de bewaarde foto</translation>
+    </message>
+    <message>
+        <source>Higher quality means larger files</source>
+        <translation>Hogere kwaliteit betekent grotere bestanden</translation>
     </message>
 </context>
 <context>
@@ -5714,6 +5754,30 @@
         <source>Top and bottom</source>
         <translation>Boven en onder</translation>
     </message>
+    <message>
+        <source>Converts the colours. sRGB suits screens and the web.</source>
+        <translation>Rekent de kleuren om. sRGB is geschikt voor beeldschermen en het web.</translation>
+    </message>
+    <message>
+        <source>A colour profile with the extension .icc or .icm</source>
+        <translation>Een kleurprofiel met de extensie .icc of .icm</translation>
+    </message>
+    <message>
+        <source>Dots per inch used to turn lengths into pixels</source>
+        <translation>Punten per inch waarmee lengtes in pixels worden omgerekend</translation>
+    </message>
+    <message>
+        <source>dpi</source>
+        <translation>dpi</translation>
+    </message>
+    <message>
+        <source>MP</source>
+        <translation>MP</translation>
+    </message>
+    <message>
+        <source>Otherwise lengths use the resolution of each picture</source>
+        <translation>Anders gebruiken lengtes de resolutie van elke foto</translation>
+    </message>
 </context>
 <context>
     <name>output-fields</name>
@@ -5802,10 +5866,6 @@
         <translation>Resolutie instellen</translation>
     </message>
     <message>
-        <source>Resolution</source>
-        <translation>Resolutie</translation>
-    </message>
-    <message>
         <source>Transparency</source>
         <translation>Transparantie</translation>
     </message>
@@ -5816,6 +5876,38 @@
     <message>
         <source>Skip if up to date</source>
         <translation>Overslaan indien actueel</translation>
+    </message>
+    <message>
+        <source>Higher quality means larger files</source>
+        <translation>Hogere kwaliteit betekent grotere bestanden</translation>
+    </message>
+    <message>
+        <source>Keeps every pixel exactly; the files are larger</source>
+        <translation>Behoudt elke pixel precies; de bestanden worden groter</translation>
+    </message>
+    <message>
+        <source>Otherwise JPEG files keep their quality, and other types get %1</source>
+        <translation>Anders houden JPEG-bestanden hun kwaliteit en krijgen andere typen %1</translation>
+    </message>
+    <message>
+        <source>Otherwise the quality is %1</source>
+        <translation>Anders is de kwaliteit %1</translation>
+    </message>
+    <message>
+        <source>Dots per inch written into the file; its pixels do not change</source>
+        <translation>Punten per inch die in het bestand komen te staan; de pixels veranderen niet</translation>
+    </message>
+    <message>
+        <source>For printing and layout programs; no pixel changes</source>
+        <translation>Voor afdrukken en opmaken; geen pixel verandert</translation>
+    </message>
+    <message>
+        <source>Replaces transparency in file types that cannot hold it</source>
+        <translation>Vervangt transparantie in bestandstypen die dat niet kennen</translation>
+    </message>
+    <message>
+        <source>kB</source>
+        <translation>kB</translation>
     </message>
 </context>
 <context>
@@ -6158,7 +6250,7 @@
     </message>
     <message>
         <source>this is not a picture</source>
-        <translation>dit is geen afbeelding</translation>
+        <translation>dit is geen foto</translation>
     </message>
     <message>
         <source>this type of file cannot hold a comment</source>
@@ -6170,7 +6262,7 @@
     </message>
     <message>
         <source>the picture could not be read afterwards</source>
-        <translation>de afbeelding kon daarna niet worden gelezen</translation>
+        <translation>de foto kon daarna niet worden gelezen</translation>
     </message>
     <message>
         <source>the comment could not be read afterwards</source>
@@ -6218,11 +6310,11 @@
     </message>
     <message>
         <source>There is no image %1</source>
-        <translation>Er is geen afbeelding %1</translation>
+        <translation>Er is geen foto %1</translation>
     </message>
     <message>
         <source>There is nothing of the picture in that part</source>
-        <translation>In dat deel ligt niets van de afbeelding</translation>
+        <translation>In dat deel ligt niets van de foto</translation>
     </message>
     <message>
         <source>no such file</source>
@@ -9352,12 +9444,16 @@
         <source>Other</source>
         <translation>Andere</translation>
     </message>
+    <message>
+        <source>dpi</source>
+        <translation>dpi</translation>
+    </message>
 </context>
 <context>
     <name>risky-names</name>
     <message>
         <source>other systems reserve the name %1</source>
-        <translation>andere systemen houden de naam %1 voor zichzelf</translation>
+        <translation>andere systemen reserveren de naam %1</translation>
     </message>
     <message>
         <source>other systems do not allow %1</source>

@@ -1,7 +1,7 @@
 // How one setting of a recipe is edited: a field is {kind, label, get(), set(value)} and what its kind needs besides.
 // Kinds: "number" (least, most, decimals, suffix), "text" and "lines" (tokens: values of the picture can be inserted),
 // "choice" (choices: [value, words]), "color", "position" (one of the nine), "check", "file" (types: extensions) and
-// "folder". Pure but for translation.
+// "folder". Any of them may have a tip, which explains words that not everybody knows. Pure but for translation.
 
 /** The nine places of recipes, row by row as the pad counts them. */
 export const PLACES =
@@ -25,6 +25,16 @@ export function keyed(object, key, usual) {
 
 function field(kind, label, access, more) {
     return Object.assign({ kind: kind, label: label }, access, more);
+}
+
+/** The same field with a tooltip. */
+export function explained(tip, plain) {
+    return Object.assign(plain, { tip: tip });
+}
+
+/** The same fields, the first of them with a tooltip. */
+export function explainedFirst(tip, fields) {
+    return [explained(tip, fields[0])].concat(fields.slice(1));
 }
 
 /** range: the minimum and maximum. */

@@ -4,7 +4,8 @@
 import { recipes } from "quorlin/recipes";
 import { PICTURE_INPUT } from "../../lib/types.js";
 import {
-    ATTENTION, check, choice, color, file, keyed, lines, number, optional, position, positionOrAttention, text,
+    ATTENTION, check, choice, color, explained, explainedFirst, file, keyed, lines, number, optional, position,
+    positionOrAttention, text,
 } from "./field-kinds.js";
 
 const MOST_PIXELS = 100000;
@@ -47,6 +48,11 @@ function lengthOf(operation, label, access, mayBeNothing) {
     return number(label, access, [mayBeNothing ? 0 : least, MOST_PIXELS], inPixels ? 0 : 2, "");
 }
 
+/** The field of the key dpi. */
+export function resolutionField(object, tip) {
+    return explained(tip, number(qsTr("Resolution"), keyed(object, "dpi", undefined), [1, MOST_DPI], 0, qsTr("dpi")));
+}
+
 function unitFields(operation) {
     const unit = keyed(operation, "unit", PIXEL);
     const choose = (value) => {
@@ -58,9 +64,11 @@ function unitFields(operation) {
     const fields = [choice(qsTr("Unit"), { get: unit.get, set: choose }, unitWords())];
     return unit.get() === PIXEL
                ? fields
-               : fields.concat(optional(
-                     qsTr("At a chosen resolution"), operation, "dpi", 300,
-                     () => [number(qsTr("Resolution"), keyed(operation, "dpi", undefined), [1, MOST_DPI], 0, "dpi")]));
+               : fields.concat(explainedFirst(
+                     qsTr("Otherwise lengths use the resolution of each picture"),
+                     optional(qsTr("At a chosen resolution"), operation, "dpi", 300,
+                              () => [resolutionField(operation,
+                                                     qsTr("Dots per inch used to turn lengths into pixels"))])));
 }
 
 function pairAt(operation, key, index) {
@@ -99,7 +107,8 @@ function resizeFields(operation) {
     const sizes = {
         percent: () => [number(qsTr("Size"), keyed(operation, "percent", undefined), [0.01, MOST_PERCENT], 2, "%")],
         megapixels:
-            () => [number(qsTr("Size"), keyed(operation, "megapixels", undefined), [0.01, MOST_PERCENT], 2, "MP")],
+            () => [number(qsTr("Size"), keyed(operation, "megapixels", undefined), [0.01, MOST_PERCENT], 2,
+                          qsTr("MP"))],
         box: () => boxFields(operation),
     };
     const hasLengths = sizes[key] === undefined || key === "box";
@@ -253,8 +262,11 @@ export function profileFields(object, key, none) {
     };
     const words = (none === "" ? [] : [["", none]])
         .concat(known.map((name) => [name, name === "gray" ? qsTr("Grey") : name]), [["file", qsTr("A profile file")]]);
-    const fields = [choice(qsTr("Profile"), access, words)];
-    return isFile ? fields.concat([file(qsTr("File"), keyed(object, key, undefined), ["icc", "icm"])]) : fields;
+    const fields = [explained(qsTr("Converts the colours. sRGB suits screens and the web."),
+                              choice(qsTr("Profile"), access, words))];
+    const chosen = () => explained(qsTr("A colour profile with the extension .icc or .icm"),
+                                   file(qsTr("File"), keyed(object, key, undefined), ["icc", "icm"]));
+    return isFile ? fields.concat([chosen()]) : fields;
 }
 
 const FIELDS = {

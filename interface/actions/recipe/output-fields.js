@@ -1,7 +1,10 @@
 // The settings of an output of a recipe as fields; see field-kinds.js. Pure but for translation.
 
-import { check, choice, color, folder, keyed, number, optional, text } from "./field-kinds.js";
-import { profileFields } from "./operation-fields.js";
+import { fill } from "../../lib/wording.js";
+import {
+    check, choice, color, explained, explainedFirst, folder, keyed, number, optional, text,
+} from "./field-kinds.js";
+import { profileFields, resolutionField } from "./operation-fields.js";
 
 const WITH_QUALITY = ["original", "jpeg", "webp", "avif", "jxl", "jp2"];
 const WITH_LOSSLESS = ["original", "webp", "jxl", "jp2"];
@@ -32,6 +35,11 @@ function typeField(output) {
     return choice(qsTr("File type"), { get: type.get, set: choose }, typeWords());
 }
 
+function usualText(type) {
+    return fill(type === "original" ? qsTr("Otherwise JPEG files keep their quality, and other types get %1")
+                                    : qsTr("Otherwise the quality is %1"), USUAL_QUALITY);
+}
+
 function qualityFields(output) {
     const type = output.type || "original";
     const lossless = keyed(output, "lossless", false);
@@ -42,22 +50,26 @@ function qualityFields(output) {
         }
     };
     const fields = WITH_LOSSLESS.indexOf(type) >= 0
-                       ? [check(type === "original" ? qsTr("Lossless if the type allows it") : qsTr("Lossless"),
-                                { get: lossless.get, set: choose })]
+                       ? [explained(qsTr("Keeps every pixel exactly; the files are larger"),
+                                    check(type === "original" ? qsTr("Lossless if the type allows it")
+                                                              : qsTr("Lossless"),
+                                          { get: lossless.get, set: choose }))]
                        : [];
     if (WITH_QUALITY.indexOf(type) < 0 || lossless.get()) {
         return fields;
     }
-    return fields.concat(
+    return fields.concat(explainedFirst(
+        usualText(type),
         optional(qsTr("Choose the quality"), output, "quality", USUAL_QUALITY,
-                 () => [number(qsTr("Quality"), keyed(output, "quality", undefined), [1, 100], 0, "")]));
+                 () => [explained(qsTr("Higher quality means larger files"),
+                                  number(qsTr("Quality"), keyed(output, "quality", undefined), [1, 100], 0, ""))])));
 }
 
 function sizeFields(output) {
     const limit = { get: () => output.maxBytes / KILOBYTE,
                     set: (value) => { output.maxBytes = Math.max(1, Math.round(value * KILOBYTE)); } };
     return optional(qsTr("Limit the file size"), output, "maxBytes", KILOBYTE * KILOBYTE,
-                    () => [number(qsTr("At most"), limit, [1, MOST_KILOBYTES], 0, "kB")]);
+                    () => [number(qsTr("At most"), limit, [1, MOST_KILOBYTES], 0, qsTr("kB"))]);
 }
 
 function metadataFields(output) {
@@ -83,6 +95,14 @@ function takenField(output) {
                    ["current", qsTr("Skip if up to date")]]);
 }
 
+function resolutionFields(output) {
+    return explainedFirst(
+        qsTr("For printing and layout programs; no pixel changes"),
+        optional(qsTr("Set the resolution"), output, "dpi", 300,
+                 () => [resolutionField(output,
+                                        qsTr("Dots per inch written into the file; its pixels do not change"))]));
+}
+
 /** The fields that edit an output, which is changed in place. Its operations have separate cards. */
 export function outputFields(output) {
     const type = output.type || "original";
@@ -94,10 +114,10 @@ export function outputFields(output) {
             folder(qsTr("Folder"), keyed(output, "folder", ""))
         ],
         profileFields(output, "profile", qsTr("Keep")), metadataFields(output),
-        optional(qsTr("Set the resolution"), output, "dpi", 300,
-                 () => [number(qsTr("Resolution"), keyed(output, "dpi", undefined), [1, 10000], 0, "dpi")]),
-        WITHOUT_TRANSPARENCY.indexOf(type) < 0 ? [] : [color(qsTr("Transparency"),
-                                                             keyed(output, "matte", "#ffffff"))],
+        resolutionFields(output),
+        WITHOUT_TRANSPARENCY.indexOf(type) < 0
+            ? [] : [explained(qsTr("Replaces transparency in file types that cannot hold it"),
+                              color(qsTr("Transparency"), keyed(output, "matte", "#ffffff")))],
         [
             check(qsTr("Keep the file date"),
                   { get: () => dates.get() === "keep", set: (on) => dates.set(on ? "keep" : "now") }),

@@ -98,6 +98,7 @@ export class RecipeField {
         this.control("fieldChoose").visible = field.kind === "file" || field.kind === "folder";
         this.control("fieldLabel").text = BARE.indexOf(field.kind) >= 0 ? "" : field.label;
         this.control(own).accessibleName = field.label;
+        this.control(own).toolTip = field.tip || "";
         this.showValue(field, own);
         this.filling = false;
     }

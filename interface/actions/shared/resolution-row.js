@@ -42,7 +42,7 @@ export class ResolutionRow {
         this.pane.visible(["resolutionLabel", "resolutionHost"], isOn);
         this.pane.visible(["dpi"], isOn && choice === "typed");
         if (settings.dpi > 0) {
-            this.pane.showLength("dpi", settings.dpi, PIXEL, "dpi");
+            this.pane.showLength("dpi", settings.dpi, PIXEL, qsTr("dpi"));
         }
     }
 }
