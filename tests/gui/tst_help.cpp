@@ -9,15 +9,12 @@
 #include "tests/support/web_server.h"
 
 #include <QApplication>
-#include <QCheckBox>
 #include <QClipboard>
-#include <QComboBox>
 #include <QDesktopServices>
 #include <QDialog>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QJSEngine>
-#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -276,51 +273,6 @@ private Q_SLOTS:
         QVERIFY2(clock.elapsed() < 4500, qPrintable(QString::number(clock.elapsed())));
         QCOMPARE(m_driver->text("statusText"), before);
         QVERIFY(!QApplication::activeModalWidget());
-    }
-
-    void preferencesAreKept()
-    {
-        m_driver->trigger("preferencesAction");
-        for (const auto &[box, value] :
-             {std::pair{"wishLanguage", "fr"}, {"wishAppearance", "dark"}, {"wishTaken", "skip"}})
-            m_driver->choose(box, QString::fromLatin1(value));
-        auto *rows = m_driver->control<QComboBox>("wishLogRows");
-        rows->setCurrentIndex(0);
-        Q_EMIT rows->activated(0);
-        m_driver->control<QCheckBox>("wishUpdate")->click();
-        QVERIFY(m_driver->control<QAction>("darkAppearanceAction")->isChecked());
-        m_driver->click("preferencesDone");
-        m_driver->startAgain();
-        m_driver->trigger("preferencesAction");
-        QVERIFY(isOpen(sheet("preferencesWindow")));
-        QCOMPARE(m_driver->control<QComboBox>("wishLanguage")->currentText(), QStringLiteral("Français"));
-        QCOMPARE(m_driver->control<QComboBox>("wishAppearance")->currentData().toString(), QStringLiteral("dark"));
-        QCOMPARE(m_driver->control<QComboBox>("wishTaken")->currentData().toString(), QStringLiteral("skip"));
-        QCOMPARE(m_driver->control<QComboBox>("wishLogRows")->currentData().toInt(), 1000);
-        QVERIFY(m_driver->control<QCheckBox>("wishUpdate")->isChecked());
-        m_driver->choose("wishLanguage", QStringLiteral("system"));
-        QVERIFY(!platform::userDefault(QStringLiteral("Language")).isValid());
-        m_driver->choose("wishAppearance", QStringLiteral("system"));
-        m_driver->click("preferencesDone");
-        // An action that was never used starts as wished.
-        m_driver->show("round");
-        QCOMPARE(m_driver->control<QComboBox>("ifTaken")->currentData().toString(), QStringLiteral("skip"));
-    }
-
-    // Each with a sentence that explains it; with more than twelve they would need a field to search in.
-    void preferencesAreExplainedAndFew()
-    {
-        m_driver->trigger("preferencesAction");
-        const QWidget &window = *sheet("preferencesWindow");
-        const QList<QWidget *> wishes =
-            window.findChildren<QWidget *>(QRegularExpression(QStringLiteral("^wish[A-Z]")));
-        QVERIFY2(wishes.size() >= 9, qPrintable(QString::number(wishes.size())));
-        QVERIFY(wishes.size() + 1 <= 12 || window.findChild<QLineEdit *>(QStringLiteral("wishSearch")));
-        for (const QWidget *each : wishes) {
-            const QString name = each->objectName().mid(4);
-            auto *note = window.findChild<QLabel *>(name.at(0).toLower() + name.mid(1) + QStringLiteral("Note"));
-            QVERIFY2(note && note->text().endsWith(u'.'), qPrintable(name));
-        }
     }
 
     void printsTheChosenPictures()

@@ -21,6 +21,7 @@ private Q_SLOTS:
     void init();
     void cleanup() { m_driver.reset(); }
     void editsOfTheListAreUndoneAndDoneAgain();
+    void hundredEditsAreKept();
     void theLatestThingIsUndoneFirst();
     void aRunIsUndoneFromAnotherAction();
     void aRunOfAnEarlierStartIsUndoneAfterAQuestion();
@@ -98,6 +99,29 @@ void TestUndo::editsOfTheListAreUndoneAndDoneAgain()
     m_driver->drop({path(QStringLiteral("B.JPG"))});
     QCOMPARE(listed(), QStringLiteral("A.JPG C.JPG B.JPG"));
     QVERIFY(!isEnabled("redoAction")); // another way was taken
+}
+
+void TestUndo::hundredEditsAreKept()
+{
+    m_driver->drop({m_driver->inputFolder()});
+    const QString first = listed();
+    window::PictureTable &list = m_driver->pictures();
+    list.selectRow(0);
+    constexpr int edits = 104; // an even number: the row is where it was
+    for (int i = 0; i < edits; ++i)
+        m_driver->trigger(i % 2 == 0 ? "moveDownAction" : "moveUpAction");
+    QCOMPARE(listed(), first);
+    constexpr int kept = 100;
+    for (int i = 0; i < kept; ++i) {
+        QVERIFY2(isEnabled("undoAction"), qPrintable(QString::number(i)));
+        m_driver->trigger("undoAction");
+        QCOMPARE(listed() == first, i % 2 == 1);
+    }
+    QVERIFY(!isEnabled("undoAction"));
+    for (int i = 0; i < kept; ++i)
+        m_driver->trigger("redoAction");
+    QVERIFY(!isEnabled("redoAction"));
+    QCOMPARE(listed(), first);
 }
 
 void TestUndo::theLatestThingIsUndoneFirst()

@@ -27,6 +27,8 @@ private Q_SLOTS:
     void makesTheSameWithAnyNumber();
     void keepsItsWorkers();
     void isPoliteToOthers();
+    void takesNoMoreMemoryThanItMay_data();
+    void takesNoMoreMemoryThanItMay();
     void answersForEachPicture_data();
     void answersForEachPicture();
     void dropsWhatIsWaitingAndWhatIsMade();
@@ -161,6 +163,86 @@ void TestWorkerDesk::isPoliteToOthers()
                  std::min(most, ::getpriority(PRIO_PROCESS, 0) + 10));
     }
     QCOMPARE(workers, 1);
+}
+
+namespace {
+
+/** Errands that go on until they are dropped. */
+struct AtOnce
+{
+    int now = 0;
+    int begun = 0;
+};
+
+/** An errand that a worker never finishes, with what it says of its memory. */
+class LongErrand : public RecipeErrand
+{
+public:
+    LongErrand(const World &world, const QString &name, qint64 bytes, AtOnce &counts)
+        : RecipeErrand(world.shared, {world.folder.path(qPrintable(name)), world.target(name), 0, true, QSize(64, 48)},
+                       [](const RecipeResult &result) { QFAIL(qPrintable(result.reason)); }),
+          m_bytes(bytes), m_counts(counts)
+    {
+    }
+    ~LongErrand() override { m_counts.now -= m_isBegun ? 1 : 0; }
+
+    std::vector<platform::Message> begin(Hand &hand) override
+    {
+        m_isBegun = true;
+        ++m_counts.now;
+        ++m_counts.begun;
+        return RecipeErrand::begin(hand);
+    }
+    qint64 expectedBytes() const override { return m_bytes; }
+
+private:
+    qint64 m_bytes;
+    AtOnce &m_counts;
+    bool m_isBegun = false;
+};
+
+} // namespace
+
+void TestWorkerDesk::takesNoMoreMemoryThanItMay_data()
+{
+    QTest::addColumn<qint64>("most");
+    QTest::addColumn<int>("atOnce");
+    QTest::newRow("what is free") << qint64(0) << 3;
+    QTest::newRow("all three") << qint64(40) << 3;
+    QTest::newRow("two") << qint64(25) << 2;
+    QTest::newRow("one at a time") << qint64(15) << 1;
+    QTest::newRow("less than one takes") << qint64(5) << 1;
+}
+
+// Workers for which there is no memory do what needs none and is not urgent, so it shows that they were ready.
+void TestWorkerDesk::takesNoMoreMemoryThanItMay()
+{
+    QFETCH(qint64, most);
+    QFETCH(int, atOnce);
+    constexpr int megabyteBits = 20;
+    constexpr int workers = 3;
+    constexpr int largeOnes = 5;
+    World world;
+    AtOnce large;
+    AtOnce small;
+    WorkerDesk desk({QStringLiteral(QUORLIN_TRIAL_WORKER), workers, {300, qint64(512) << megabyteBits, 10}});
+    desk.setMostMemory(most << megabyteBits);
+    QList<WorkerDesk::Number> asked;
+    const auto add = [&](const QString &name, qint64 megabytes, AtOnce &counts, Urgency urgency) {
+        world.add(name);
+        asked.append(desk.add(std::make_shared<LongErrand>(world, name, megabytes << megabyteBits, counts), urgency));
+    };
+    for (int i = 0; i < largeOnes; ++i)
+        add(QStringLiteral("try-hang-large%1.png").arg(i), 10, large, Urgency::Soon);
+    for (int i = 0; i < workers; ++i)
+        add(QStringLiteral("try-hang-small%1.png").arg(i), 0, small, Urgency::Later);
+    for (int over = 0; over < largeOnes; ++over) {
+        QTRY_COMPARE_WITH_TIMEOUT(large.now + small.now, workers, 30000);
+        QCOMPARE(large.now, std::min(atOnce, largeOnes - over));
+        QCOMPARE(large.begun, large.now + over);
+        desk.drop(asked.takeFirst());
+    }
+    QCOMPARE(large.now, 0);
 }
 
 void TestWorkerDesk::answersForEachPicture_data()
