@@ -2,12 +2,10 @@
 
 #include "app/window/pictures/picture_table.h"
 
-#include "app/window/pictures/picture_delegate.h"
-
+#include "app/window/pictures/column_widths.h"
 #include "platform/foundation/raised.h"
 #include "platform/values/fields.h"
 
-#include <QEvent>
 #include <QHeaderView>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -17,15 +15,15 @@
 #include <QSignalBlocker>
 
 #include <array>
-#include <numeric>
+#include <vector>
 
 namespace window {
 
 namespace {
 
-constexpr int rowHeightPx = 36;
-constexpr int narrowestTextPx = 60;
-constexpr int mostWidthPx = 4000; ///< limit of a stored width
+constexpr int leastNamePx = 140;   ///< beside columns that the user added
+constexpr int leastStatusPx = 160; ///< beside them
+constexpr int mostWidthPx = 4000;  ///< limit of a stored width
 /** What texts get in addition, where dates and cameras are shown by default. */
 constexpr int comfortPx = 260;
 
@@ -323,57 +321,30 @@ void PictureTable::chooseDispensable()
     }
 }
 
-bool PictureTable::isStatusCut(int id) const
-{
-    const auto *delegate = qobject_cast<const PictureDelegate *>(itemDelegate());
-    return delegate->isStatusCut(m_model.row(m_model.indexOfId(id)), font());
-}
-
-void PictureTable::changeEvent(QEvent *event)
-{
-    QTableView::changeEvent(event);
-    // Two lines of a status fit.
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
-        verticalHeader()->setDefaultSectionSize(qMax(rowHeightPx, 2 * fontMetrics().height() + 4));
-}
-
 void PictureTable::arrangeColumns()
 {
     if (m_columnsChosen)
         return;
     const QScopedValueRollback<bool> arranging(m_arranging, true);
-    int room = viewport()->width();
-    int shares = 0;
-    const auto shareOf = [this](size_t i) {
-        return m_model.stressesNewNames() ? kinds[i].stressedShare : kinds[i].share;
-    };
-    QList<size_t> texts;
-    for (size_t i = 0; i < kinds.size(); ++i) {
-        room -= isShown(i) && kinds[i].widthPx > 0 ? fixedWidth(i) : 0;
-        shares += isShown(i) && kinds[i].widthPx == 0 ? shareOf(i) : 0;
-        if (isShown(i) && kinds[i].widthPx == 0)
-            texts.append(i);
-    }
-    const int headings = std::accumulate(texts.begin(), texts.end(), 0, [this](int sum, size_t i) {
-        return sum + qMax(narrowestTextPx, horizontalHeader()->sectionSizeHint(int(i)));
-    });
-    const auto leastOf = [&](size_t i) {
-        return headings > room ? narrowestTextPx : qMax(narrowestTextPx, horizontalHeader()->sectionSizeHint(int(i)));
-    };
-    // If even narrow texts do not fit, a long heading is truncated, since the list must not scroll sideways.
-    int lacking = qMax(0, int(texts.size()) * narrowestTextPx - room);
-    const auto cutWidth = [&](size_t i) {
-        const int given = qMin(lacking, fixedWidth(i) - kinds[i].widthPx);
-        lacking -= given;
-        return fixedWidth(i) - given;
-    };
-    const int spare = qMax(0, room - (headings > room ? int(texts.size()) * narrowestTextPx : headings));
-    for (size_t i = 0; i < kinds.size(); ++i) {
-        if (!isShown(i))
+    std::vector<ColumnNeed> needs;
+    QList<int> shown;
+    for (int i = 0; i < PictureModel::ColumnCount; ++i) {
+        if (!isShown(size_t(i)))
             continue;
-        const int text = leastOf(i) + spare * shareOf(i) / qMax(1, shares);
-        horizontalHeader()->resizeSection(int(i), kinds[i].widthPx > 0 ? cutWidth(i) : text);
+        const ColumnKind &kind = kinds[size_t(i)];
+        const bool isName = i == PictureModel::Name || i == PictureModel::NewName;
+        const int least = isName ? leastNamePx : i == PictureModel::Status ? leastStatusPx : kind.leastPx;
+        const int share = m_model.stressesNewNames() ? kind.stressedShare : kind.share;
+        needs.push_back({kind.widthPx, horizontalHeader()->sectionSizeHint(i), share, least, isName,
+                         isProperty(i) || m_wanted.value(i)});
+        shown.append(i);
     }
+    const int room = viewport()->width();
+    const std::vector<int> sideways = sidewaysWidths(needs, room);
+    const std::vector<int> widths = sideways.empty() ? fittingWidths(needs, room) : sideways;
+    horizontalHeader()->setStretchLastSection(sideways.empty());
+    for (size_t i = 0; i < widths.size(); ++i)
+        horizontalHeader()->resizeSection(shown[int(i)], widths[i]);
 }
 
 } // namespace window

@@ -5,6 +5,7 @@
 
 #include "platform/foundation/raised.h"
 
+#include <QEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScrollBar>
@@ -15,6 +16,7 @@ namespace window {
 
 namespace {
 
+constexpr int rowHeightPx = 36;
 constexpr int sliceMs = 2;
 /** The event loop is left alone this long between slices, so that reading ahead uses only part of one processor. */
 constexpr int pauseMs = 1;
@@ -60,6 +62,20 @@ PictureTable::PictureTable(QWidget *parent) : QTableView(parent), m_order(m_mode
     connect(&m_model, &PictureModel::headerArrived, this, &PictureTable::wakeLoader);
     connect(&m_model, &PictureModel::thumbnailArrived, this, &PictureTable::wakeLoader);
     connect(&m_model, &PictureModel::propertiesArrived, this, &PictureTable::wakeLoader);
+}
+
+bool PictureTable::isStatusCut(int id) const
+{
+    const auto *delegate = qobject_cast<const PictureDelegate *>(itemDelegate());
+    return delegate->isStatusCut(m_model.row(m_model.indexOfId(id)), font());
+}
+
+void PictureTable::changeEvent(QEvent *event)
+{
+    QTableView::changeEvent(event);
+    // Two lines of a status fit.
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        verticalHeader()->setDefaultSectionSize(qMax(rowHeightPx, 2 * fontMetrics().height() + 4));
 }
 
 int PictureTable::count() const

@@ -6,6 +6,7 @@
 #include <QHeaderView>
 #include <QImage>
 #include <QScopeGuard>
+#include <QScrollBar>
 #include <QTest>
 #include <QXmlStreamReader>
 
@@ -131,6 +132,8 @@ private Q_SLOTS:
     void everyPlanCanBeRead_data();
     void everyPlanCanBeRead();
     void theFolderIsShownWherePicturesLieInSeveral();
+    void namesKeepTheirRoomBesideAddedColumns_data();
+    void namesKeepTheirRoomBesideAddedColumns();
     void whatTheUserDidIsKept();
     void aWrongLayoutIsNoLayout();
 
@@ -240,6 +243,42 @@ void TestColumns::theFolderIsShownWherePicturesLieInSeveral()
     m_driver->pictures().selectRow(1);
     m_driver->trigger("removeAction");
     QVERIFY(header().isSectionHidden(PictureModel::Folder));
+}
+
+void TestColumns::namesKeepTheirRoomBesideAddedColumns_data()
+{
+    everyPlanCanBeRead_data();
+}
+
+void TestColumns::namesKeepTheirRoomBesideAddedColumns()
+{
+    QFETCH(QString, language);
+    qputenv("QUORLIN_LANGUAGE", language.toLatin1());
+    const auto usual = qScopeGuard([] { qunsetenv("QUORLIN_LANGUAGE"); });
+    m_driver->startAgain();
+    picture(QStringLiteral("a.png"));
+    m_driver->window().resize(1280, 720);
+    m_driver->show("resize");
+    m_driver->drop({m_driver->inputFolder()});
+    window::PictureTable &list = m_driver->pictures();
+    const QScrollBar &sideways = *list.horizontalScrollBar();
+    QCoreApplication::processEvents();
+    QCOMPARE(sideways.maximum(), 0);
+    for (const int added : {1, 2, 4}) {
+        list.setPropertyColumns(QStringList{QStringLiteral("title"), QStringLiteral("creator"),
+                                            QStringLiteral("copyright"), QStringLiteral("city")}
+                                    .mid(0, added));
+        QCoreApplication::processEvents();
+        for (const auto column : {PictureModel::Name, PictureModel::NewName})
+            QVERIFY2(header().sectionSize(column) >= 140, qPrintable(QString::number(header().sectionSize(column))));
+        QVERIFY2(header().sectionSize(PictureModel::Status) >= 120,
+                 qPrintable(QString::number(header().sectionSize(PictureModel::Status))));
+    }
+    QVERIFY(sideways.maximum() > 0);
+    list.setPropertyColumns({});
+    QCoreApplication::processEvents();
+    QCOMPARE(sideways.maximum(), 0);
+    QCOMPARE(header().length(), list.viewport()->width());
 }
 
 void TestColumns::whatTheUserDidIsKept()
