@@ -166,7 +166,7 @@ export class PresetPane {
         const texts = this.presets
             .map((preset) => (changed && preset === this.chosen ? "• " + preset.name : stateWord(preset)));
         const values = this.presets.map((preset) => this.valueOf(preset));
-        this.form.setItems("preset", [qsTr("None")].concat(texts), [""].concat(values));
+        this.form.setItems("preset", [qsTr("No preset")].concat(texts), [""].concat(values));
         this.form.chooseValue("preset", none ? "" : this.valueOf(this.chosen));
         this.form.control("preset").enabled = this.store.problem === "" && this.presets.length > 0;
         const name = none ? "" : this.chosen.name;
@@ -253,10 +253,8 @@ export class PresetPane {
 
     showEditing() {
         const on = this.editing !== "";
-        for (const name of ["nameLabel", "presetName", "nameButtons"]) {
-            this.form.control(name).visible = on;
-        }
-        for (const name of ["presetLabel", "presetHost"]) {
+        this.form.control("presetRows").visible = on;
+        for (const name of ["preset", "presetMenu", "infoPresets"]) {
             this.form.control(name).visible = !on;
         }
         this.form.control("presetEscape").enabled = on;

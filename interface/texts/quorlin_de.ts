@@ -1240,7 +1240,7 @@
     </message>
     <message>
         <source>Prints of 9 × 13 cm to cut</source>
-        <translation>Abzüge von 9 × 13 cm zum Ausschneiden</translation>
+        <translation>Abzüge 9 × 13 cm zum Schneiden</translation>
     </message>
 </context>
 <context>
@@ -6407,10 +6407,6 @@
         <translation>%1 (beschädigt)</translation>
     </message>
     <message>
-        <source>None</source>
-        <translation>Keine</translation>
-    </message>
-    <message>
         <source>%1, changed</source>
         <translation>%1, geändert</translation>
     </message>
@@ -6518,6 +6514,10 @@
     <message>
         <source>This name is in use. The preset will be called “%1”.</source>
         <translation>Dieser Name ist vergeben. Die Vorgabe heißt dann „%1“.</translation>
+    </message>
+    <message>
+        <source>No preset</source>
+        <translation>Keine Vorgabe</translation>
     </message>
 </context>
 <context>
@@ -11488,7 +11488,7 @@
     </message>
     <message>
         <source>Story on warm paper</source>
-        <translation>Bildgeschichte auf warmem Hintergrund</translation>
+        <translation>Geschichte auf warmem Papier</translation>
     </message>
     <message>
         <source>For clients, with download</source>
@@ -13079,12 +13079,12 @@
 <context>
     <name>metadata-fields-presets</name>
     <message>
-        <source>Copyright with the year of the picture</source>
-        <translation>Copyright mit dem Jahr des Bildes</translation>
+        <source>Copyright with the year</source>
+        <translation>Copyright mit Aufnahmejahr</translation>
     </message>
     <message>
-        <source>Headline from the name of the folder</source>
-        <translation>Überschrift aus dem Namen des Ordners</translation>
+        <source>Headline from the folder name</source>
+        <translation>Überschrift aus Ordnername</translation>
     </message>
     <message>
         <source>Remove private data</source>

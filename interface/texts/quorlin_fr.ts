@@ -6407,10 +6407,6 @@
         <translation>%1 (endommagé)</translation>
     </message>
     <message>
-        <source>None</source>
-        <translation>Aucun</translation>
-    </message>
-    <message>
         <source>%1, changed</source>
         <translation>%1, modifié</translation>
     </message>
@@ -6518,6 +6514,10 @@
     <message>
         <source>This name is in use. The preset will be called “%1”.</source>
         <translation>Ce nom est déjà utilisé. Le préréglage s’appellera «&#x202f;%1&#x202f;».</translation>
+    </message>
+    <message>
+        <source>No preset</source>
+        <translation>Aucun préréglage</translation>
     </message>
 </context>
 <context>
@@ -11492,7 +11492,7 @@
     </message>
     <message>
         <source>For clients, with download</source>
-        <translation>Pour les clients, avec téléchargement</translation>
+        <translation>Clients, avec téléchargement</translation>
     </message>
 </context>
 <context>
@@ -13079,12 +13079,12 @@
 <context>
     <name>metadata-fields-presets</name>
     <message>
-        <source>Copyright with the year of the picture</source>
-        <translation>Copyright avec l’année de l’image</translation>
+        <source>Copyright with the year</source>
+        <translation>Copyright avec l’année</translation>
     </message>
     <message>
-        <source>Headline from the name of the folder</source>
-        <translation>Titre court d’après le nom du dossier</translation>
+        <source>Headline from the folder name</source>
+        <translation>Titre tiré du nom du dossier</translation>
     </message>
     <message>
         <source>Remove private data</source>

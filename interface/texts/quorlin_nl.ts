@@ -1240,7 +1240,7 @@
     </message>
     <message>
         <source>Prints of 9 × 13 cm to cut</source>
-        <translation>Afdrukken van 9 × 13 cm om te snijden</translation>
+        <translation>Afdrukken 9 × 13 cm, snijden</translation>
     </message>
 </context>
 <context>
@@ -6407,10 +6407,6 @@
         <translation>%1 (beschadigd)</translation>
     </message>
     <message>
-        <source>None</source>
-        <translation>Geen</translation>
-    </message>
-    <message>
         <source>%1, changed</source>
         <translation>%1, gewijzigd</translation>
     </message>
@@ -6518,6 +6514,10 @@
     <message>
         <source>This name is in use. The preset will be called “%1”.</source>
         <translation>Deze naam is in gebruik. De voorinstelling heet dan “%1”.</translation>
+    </message>
+    <message>
+        <source>No preset</source>
+        <translation>Geen voorinstelling</translation>
     </message>
 </context>
 <context>
@@ -13079,11 +13079,11 @@
 <context>
     <name>metadata-fields-presets</name>
     <message>
-        <source>Copyright with the year of the picture</source>
-        <translation>Copyright met het jaar van de foto</translation>
+        <source>Copyright with the year</source>
+        <translation>Copyright met het jaar</translation>
     </message>
     <message>
-        <source>Headline from the name of the folder</source>
+        <source>Headline from the folder name</source>
         <translation>Kop uit de naam van de map</translation>
     </message>
     <message>

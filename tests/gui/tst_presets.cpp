@@ -41,7 +41,7 @@ private Q_SLOTS:
         m_driver->show(qPrintable(action));
         QVERIFY(names().size() >= 4);
         QVERIFY(names().contains(starting));
-        QCOMPARE(chosen(), QStringLiteral("None"));
+        QCOMPARE(chosen(), QStringLiteral("No preset"));
         QStringList all = names();
         all.removeFirst();
         for (const QString &name : all) {
@@ -60,7 +60,7 @@ private Q_SLOTS:
         WindowDriver::answerNextQuestion(QStringLiteral("Delete"));
         act("Delete…");
         QVERIFY(!names().contains(QStringLiteral("Mail 1024")));
-        QCOMPARE(chosen(), QStringLiteral("None"));
+        QCOMPARE(chosen(), QStringLiteral("No preset"));
         QCOMPARE(number("value"), 1024.0);
         m_driver->startAgain();
         QVERIFY(!names().contains(QStringLiteral("Mail 1024")));
@@ -151,13 +151,13 @@ private Q_SLOTS:
     void noneStaysAChoiceAndKeepsTheSettings()
     {
         m_driver->choose("preset", QStringLiteral("=Web 1600"));
-        QCOMPARE(names().constFirst(), QStringLiteral("None"));
+        QCOMPARE(names().constFirst(), QStringLiteral("No preset"));
         m_driver->choose("preset", QString());
-        QCOMPARE(chosen(), QStringLiteral("None"));
+        QCOMPARE(chosen(), QStringLiteral("No preset"));
         QCOMPARE(number("value"), 1600.0);
         QVERIFY(!entry("Delete…")->isEnabled());
         m_driver->startAgain();
-        QCOMPARE(chosen(), QStringLiteral("None"));
+        QCOMPARE(chosen(), QStringLiteral("No preset"));
     }
 
     void aSimulationIsNoChangeOfAPreset()

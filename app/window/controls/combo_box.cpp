@@ -54,7 +54,7 @@ void ComboBox::paintEvent(QPaintEvent *)
     QStylePainter painter(this);
     QStyleOptionComboBox option;
     initStyleOption(&option);
-    option.currentText = fontMetrics().elidedText(option.currentText, Qt::ElideRight, roomForText());
+    option.currentText = fontMetrics().elidedText(option.currentText, Qt::ElideMiddle, roomForText());
     painter.drawComplexControl(QStyle::CC_ComboBox, option);
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }

@@ -18,8 +18,8 @@ export const presets = {
         StrField52: ["cleared", "text"], StrField53: ["removed", "text"],
     }),
     starting: () => [
-        [qsTr("Copyright with the year of the picture"), { copyright: "© {taken:yyyy}" }],
-        [qsTr("Headline from the name of the folder"), { headline: "{folder}" }],
+        [qsTr("Copyright with the year"), { copyright: "© {taken:yyyy}" }],
+        [qsTr("Headline from the folder name"), { headline: "{folder}" }],
         [qsTr("Remove private data"), { removed: "places serialNumbers names faces" }],
     ],
 };

@@ -8,10 +8,13 @@
 
 #include <QAbstractSpinBox>
 #include <QApplication>
+#include <QEnterEvent>
 #include <QFontMetrics>
 #include <QGridLayout>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QSet>
 #include <QTest>
 #include <QTimer>
@@ -19,7 +22,7 @@
 namespace {
 
 const char *const actionNames[] = {"resize",  "crop",   "turn", "round", "background", "watermark",
-                                   "convert", "rename", "sort", "web",   "contact"};
+                                   "convert", "rename", "sort", "web",   "contact",    "fields"};
 
 QRect placeIn(const QWidget &window, const QWidget &widget)
 {
@@ -48,11 +51,11 @@ bool isPath(const QString &text)
     return text.startsWith(u'~') || text.startsWith(u'/');
 }
 
-/** Names that users gave, or can give: the box of presets shows them in its list and its tooltip. */
+/** Names that users gave: of fonts, and of files of theirs. */
 bool isNamedByOthers(const QComboBox &box)
 {
-    return box.objectName() == QLatin1String("preset") || box.objectName() == QLatin1String("markFont") ||
-           box.objectName() == QLatin1String("markPicture") || box.objectName() == QLatin1String("pattern");
+    return box.objectName() == QLatin1String("markFont") || box.objectName() == QLatin1String("markPicture") ||
+           box.objectName() == QLatin1String("pattern");
 }
 
 } // namespace
@@ -71,8 +74,11 @@ private Q_SLOTS:
 
     void labelsAndFieldsLineUp_data() { languages(); }
     void labelsAndFieldsLineUp();
+    void theNameOfAPresetLinesUp_data() { languages(); }
+    void theNameOfAPresetLinesUp();
     void everyChoiceCanBeRead_data() { languages(); }
     void everyChoiceCanBeRead();
+    void theEndOfALongNameIsSeen();
     void theUnitsOfACropStandBesideItsSizes();
     void nothingMovesWhenTheResultTakesTwoLines_data();
     void nothingMovesWhenTheResultTakesTwoLines();
@@ -167,6 +173,21 @@ void PaneLayout::labelsAndFieldsLineUp()
     QVERIFY2(seen > 40, qPrintable(QString::number(seen)));
 }
 
+void PaneLayout::theNameOfAPresetLinesUp()
+{
+    QFETCH(QString, language);
+    begin(language);
+    for (const char *action : {"resize", "contact"}) {
+        show(action);
+        m_driver->control<QPushButton>("presetMenu")->menu()->actions().at(1)->trigger();
+        settle();
+        QVERIFY(m_driver->control<QLineEdit>("presetName")->isVisible());
+        const QStringList problems = misplaced(QString::fromLatin1(action));
+        QVERIFY2(problems.isEmpty(), qPrintable(problems.join(u'\n')));
+        m_driver->trigger("presetEscape");
+    }
+}
+
 // The chosen entry is not all: the others are read as well when the box is open, and are as wide.
 void PaneLayout::everyChoiceCanBeRead()
 {
@@ -176,9 +197,12 @@ void PaneLayout::everyChoiceCanBeRead()
     int seen = 0;
     for (const char *action : actionNames) {
         show(action);
+        const auto *preset = m_driver->control<window::ComboBox>("preset");
+        QVERIFY2(preset->isVisible() && preset->count() >= 4, action); // those supplied are there
         for (const auto *box : settings().findChildren<window::ComboBox *>())
             for (int i = 0; i < box->count() && box->isVisible() && !isNamedByOthers(*box); ++i) {
-                const QString text = box->itemText(i);
+                // Changed settings put a dot before the name.
+                const QString text = (box == preset && i > 0 ? QStringLiteral("• ") : QString()) + box->itemText(i);
                 ++seen;
                 if (!isPath(text) && box->fontMetrics().horizontalAdvance(text) > box->roomForText())
                     problems.append(QStringLiteral("%1, %2: %3 (%4 of %5)")
@@ -190,6 +214,28 @@ void PaneLayout::everyChoiceCanBeRead()
     problems.removeDuplicates();
     QVERIFY2(problems.isEmpty(), qPrintable(problems.join(u'\n')));
     QVERIFY2(seen > 200, qPrintable(QString::number(seen)));
+}
+
+// Names that users give are not bound to fit.
+void PaneLayout::theEndOfALongNameIsSeen()
+{
+    begin(QStringLiteral("en"));
+    show("resize");
+    auto *box = m_driver->control<window::ComboBox>("preset");
+    box->setToolTip(QString());
+    const auto seenWith = [box](const QString &name) {
+        box->addItem(name);
+        box->setCurrentIndex(box->count() - 1);
+        QEnterEvent enter(QPointF(5, 5), QPointF(5, 5), QPointF(5, 5));
+        QCoreApplication::sendEvent(box, &enter);
+        return box->grab().toImage();
+    };
+    const QString name = QStringLiteral("Pictures of the wedding of Anna and Tom for the album, part ");
+    QVERIFY(box->fontMetrics().horizontalAdvance(name) > box->roomForText());
+    const QImage first = seenWith(name + u'1');
+    QCOMPARE(box->toolTip(), name + u'1');
+    QVERIFY(seenWith(name + u'2') != first);
+    QVERIFY(seenWith(name + u'1') == first);
 }
 
 void PaneLayout::theUnitsOfACropStandBesideItsSizes()
