@@ -56,6 +56,11 @@ export class Sidecars {
         return this.folders[folder];
     }
 
+    /** Whether there are any in a folder. Most have none, and then their files need not be looked up. */
+    areIn(folder) {
+        return Object.keys(this.inFolder(folder)).length > 0;
+    }
+
     /**
      * The sidecars of a file that do not belong to another one: [{name, ending}]. ending is what follows the file's own
      * name without extension: ".xmp", ".jpg.xmp". A sidecar has none itself.

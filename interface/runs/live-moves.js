@@ -1,6 +1,6 @@
 // What a run that moves files would do, in the list. Services used: those of the step, moves (plan).
 
-import { itemOf, planMoves, shownName } from "./move-plan.js";
+import { isPlainlyReady, itemOf, planMoves, row, shownName } from "./move-plan.js";
 import { stateOf } from "./move-words.js";
 import { splitPath } from "../lib/names.js";
 import { pathsInParts } from "./list-rows.js";
@@ -13,12 +13,16 @@ const TELL_MS = 400;
 
 /** Shows the state of one row of a plan; returns "ready", "same", "along" or "attention". */
 export function showRow(list, id, plan, i, paths) {
-    const row = plan.rows[i];
+    const wish = plan.rows[i];
     const item = itemOf(plan, i);
-    const state = stateOf(row, item, row.goesWith >= 0 ? splitPath(paths[row.goesWith]).name : "");
-    list.setPlan(id, shownName(row, item), "");
+    const state = stateOf(wish, item, wish.goesWith >= 0 ? splitPath(paths[wish.goesWith]).name : "");
+    list.setPlan(id, shownName(wish, item), "");
     list.setStatus(id, state.kind, state.text, state.detail);
     return state.state;
+}
+
+function shownUpTo(named, before) {
+    return named.from < named.to ? named.to : before;
 }
 
 /**
@@ -33,6 +37,7 @@ export function* showPlan(window, rows, settings, isFinal) {
     const { ids, paths } = rows;
     const planning = planMoves(paths, window.action.step, settings, window.services);
     let part = planning.next();
+    let shown = 0;
     while (!part.done) {
         const named = part.value;
         for (let i = named.from; i < named.to; i += 1) {
@@ -40,13 +45,22 @@ export function* showPlan(window, rows, settings, isFinal) {
                 list.setPlan(ids[i], shownName(named.rows[i], null) || splitPath(named.rows[i].to).name, "");
             }
         }
+        shown = shownUpTo(named, shown);
         yield named.to;
         part = planning.next();
     }
     const plan = part.value;
+    const plain = stateOf(row({}), { status: "ready", code: "" }, "");
     plan.states = [];
     for (let i = 0; i < plan.rows.length; i += 1) {
-        plan.states.push(isFinal(ids[i]) ? null : showRow(list, ids[i], plan, i, paths));
+        if (isFinal(ids[i])) {
+            plan.states.push(null);
+        } else if (i < shown && isPlainlyReady(plan, i)) {
+            list.setStatus(ids[i], plain.kind, plain.text, plain.detail); // its name is there
+            plan.states.push(plain.state);
+        } else {
+            plan.states.push(showRow(list, ids[i], plan, i, paths));
+        }
         if (i % ROWS_A_SLICE === ROWS_A_SLICE - 1) {
             yield plan.rows.length;
         }

@@ -9,6 +9,10 @@ const WORK_MS = 1;
 
 const NONE = Object.freeze([]);
 
+// Rows only have what differs from this: with all of it, ten thousand of them would keep the engine busy.
+const USUAL = { to: "", kind: "move", number: false, skips: false, isLeft: false, caution: "", notes: NONE, along: NONE,
+                goesWith: -1, shown: "", status: "", reason: "" };
+
 /**
  * What a step's rows() says about one row; see row() for the defaults.
  *
@@ -24,13 +28,27 @@ const NONE = Object.freeze([]);
  *   shown    what the column of new names shows; the name of `to` if this is ""
  */
 export function row(changes) {
-    const made = Object.assign({ to: "", kind: "move", number: false, skips: false, isLeft: false, caution: "",
-                                 notes: NONE, along: NONE, goesWith: -1,
-                                 shown: "", status: "", reason: "" }, changes);
+    const made = Object.assign(Object.create(USUAL), changes);
     if (made.along.length === 0) {
         made.along = NONE;
     }
     return made;
+}
+
+/** The same for the most frequent row: a path without remarks, and what is shown for it. */
+export function plainRow(to, shown) {
+    const made = Object.create(USUAL);
+    made.to = to;
+    made.shown = shown;
+    return made;
+}
+
+// The requests of a row. What is as usual is not told: all of it is converted for the engine.
+function tellWish(told, path, wish, at) {
+    const { kind, number, along } = wish;
+    told.push(kind === USUAL.kind && !number ? { from: path, to: wish.to }
+                                             : { kind: kind, from: path, to: wish.to, number: number });
+    along.forEach((other) => told.push({ kind: kind, from: other.from, to: other.to, number: number, leader: at }));
 }
 
 // Passes the requests of all rows that are not left out to the engine. {ofRow, count}: ofRow is the position of a row's
@@ -40,14 +58,12 @@ function* tellWishes(tell, paths, rows, leftOut, part) {
     let count = 0;
     let told = [];
     for (let i = 0; i < rows.length; i += 1) {
-        const { kind, to, number, along } = rows[i];
-        const isAsked = to !== "" && leftOut[i] === undefined;
+        const wish = rows[i];
+        const isAsked = wish.to !== "" && leftOut[i] === undefined;
         ofRow.push(isAsked ? count : -1);
         if (isAsked) {
-            told.push({ kind: kind, from: paths[i], to: to, number: number, leader: -1 });
-            along.forEach((other) =>
-                told.push({ kind: kind, from: other.from, to: other.to, number: number, leader: ofRow[i] }));
-            count += 1 + along.length;
+            tellWish(told, paths[i], wish, count);
+            count += 1 + wish.along.length;
         }
         if (told.length >= AT_ONCE || i === rows.length - 1) {
             tell(told);
@@ -133,6 +149,14 @@ export function itemOf(plan, i) {
     }
     const at = plan.ofRow[i];
     return at < 0 ? null : plan.items[at] || { status: "ready", code: "", other: "", to: plan.rows[i].to };
+}
+
+/** True for a row without remarks whose request is ready exactly as made. */
+export function isPlainlyReady(plan, i) {
+    const at = plan.ofRow[i];
+    const wish = plan.rows[i];
+    return at >= 0 && plan.items[at] === null && plan.leftOut[i] === undefined && wish.along === NONE
+        && wish.notes === NONE && wish.caution === "";
 }
 
 /** True if the file of a row is to be carried out. */

@@ -3,6 +3,8 @@
 import { splitPath } from "../../lib/names.js";
 import { prepared } from "./name-steps.js";
 
+const NONE = Object.freeze([]);
+
 export class NameChain {
     /**
      * @param steps    those of name-steps.js; disabled ones are skipped
@@ -18,17 +20,17 @@ export class NameChain {
     }
 
     /**
-     * The new name of one file or folder: {name, base, extension, missing: tokens without a value, short: indices of the steps
-     * that could not change it because it is too short, cut: "half" or "mark" if a character was split, trace: the name
-     * after each step that was applied, by the step's index, if it is asked for}.
+     * The new name of one file or folder: {old: the parts of its path, name, base, extension, missing: tokens without a
+     * value, short: indices of the steps that could not change it because it is too short, cut: "half" or "mark" if a
+     * character was split, trace: the name after each step that was applied, by the step's index, if it is asked for}.
      *
      * Files must be passed in order, because of the counters.
      */
     apply(path, isFolder, facts, wantsTrace) {
         const file = splitPath(path);
         const now = isFolder ? { base: file.name, extension: "" } : { base: file.base, extension: file.extension };
-        const told = { name: file.name, base: now.base, extension: now.extension, missing: [], short: [], cut: "",
-                       trace: wantsTrace ? {} : null };
+        const told = { old: file, name: file.name, base: now.base, extension: now.extension, missing: NONE, short: NONE,
+                       cut: "", trace: wantsTrace ? {} : null };
         const context = { folder: file.folder, extension: now.extension, facts: facts };
         for (let i = 0; i < this.steps.length; i += 1) {
             context.extension = now.extension;
@@ -80,12 +82,12 @@ function joined(now) {
 
 function note(told, made, index) {
     if (made.short) {
-        told.short.push(index);
+        told.short = told.short.concat([index]);
     }
     if (made.cut && told.cut !== "half") {
         told.cut = made.cut;
     }
-    if (made.missing) {
-        made.missing.forEach((token) => { told.missing.push(token); });
+    if (made.missing && made.missing.length > 0) {
+        told.missing = told.missing.concat(made.missing);
     }
 }

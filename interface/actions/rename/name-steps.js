@@ -204,7 +204,7 @@ export function prepared(step, names, missing) {
         const index = counts ? nextIndex(step, counters, context) : 0;
         most = Math.max(most, index);
         const expanded = made.expand(path, context.facts, index);
-        return { text: expanded[0], missing: expanded.slice(1) };
+        return expanded.length === 1 ? { text: expanded[0] } : { text: expanded[0], missing: expanded.slice(1) };
     };
     return { step: step, needsFacts: made.needsFacts || (counts && step.counterScope === "date"), counts: counts,
              apply: apply, digits: () => digitsFor(step.pattern, most) };

@@ -2,7 +2,7 @@
 // Plain data in, plain data out; the run that moves files carries out what rows() requests.
 
 import { tokens } from "quorlin/tokens";
-import { row } from "../../runs/move-plan.js";
+import { plainRow, row } from "../../runs/move-plan.js";
 import { NameChain } from "./name-chain.js";
 import { stepFrom, stepProblems } from "./name-steps.js";
 import { emptyTable, joinPath, splitPath } from "../../lib/names.js";
@@ -15,6 +15,9 @@ import { fill } from "../../lib/wording.js";
 // Names are made for about this long before the window gets control again.
 const SLICE_MS = 1;
 const LOOKED_UP = 250;
+
+const NOTHING = Object.freeze([]);
+const NOBODY = { of: () => NOTHING, leader: () => -1 };
 
 export const MOST_STEPS = 30;
 
@@ -68,10 +71,7 @@ function cautionOf(made) {
 }
 
 function notesOf(made, oldName) {
-    const notes = [];
-    if (made.cut === "mark") {
-        notes.push(qsTr("separates a letter from its accent"));
-    }
+    const notes = made.cut === "mark" ? [qsTr("separates a letter from its accent")] : NOTHING;
     const risk = made.name === oldName ? "" : riskOf(made.name);
     return risk === "" ? notes : notes.concat([risk]);
 }
@@ -84,19 +84,45 @@ function companion(folder, other, old, made) {
     return { from: joinPath(folder, other.name), to: joinPath(folder, made.base + ending) };
 }
 
-function wish(path, made, companions) {
-    const old = splitPath(path);
+function wish(made, companions) {
+    const old = made.old;
     if (hasHalf(made.name)) {
         return row({ status: "Failed", reason: qsTr("would split a character"), shown: "–" });
     }
-    return row({ to: joinPath(old.folder, made.name), shown: made.name === "" ? "–" : made.name,
-                 caution: cautionOf(made), notes: notesOf(made, old.name),
+    const to = joinPath(old.folder, made.name);
+    const shown = made.name === "" ? "–" : made.name;
+    const notes = notesOf(made, old.name);
+    if (made.missing.length === 0 && notes.length === 0 && companions.length === 0) {
+        return plainRow(to, shown);
+    }
+    return row({ to: to, shown: shown, caution: cautionOf(made), notes: notes,
                  along: companions.map((other) => companion(old.folder, other, old, made)) });
+}
+
+// Whether the folder of any file has sidecars. Files of one folder come in sequence, so it is seldom asked for.
+function* haveSidecars(paths, sidecars) {
+    let before = "";
+    let found = false;
+    for (let i = 0; i < paths.length && !found; i += 1) {
+        const end = paths[i].lastIndexOf("/") + 1;
+        if (end !== before.length || !paths[i].startsWith(before)) {
+            before = paths[i].slice(0, end);
+            found = sidecars.areIn(splitPath(paths[i]).folder);
+        }
+        if (i % LOOKED_UP === LOOKED_UP - 1) {
+            yield i;
+        }
+    }
+    return found;
 }
 
 // The sidecars of every file, and for each sidecar that is in the list itself the row of its picture. Built in slices.
 function* companionsOf(paths, services) {
     const sidecars = new Sidecars(services.files);
+    const areThere = yield* haveSidecars(paths, sidecars);
+    if (!areThere) {
+        return NOBODY;
+    }
     const found = [];
     const at = emptyTable();
     for (let i = 0; i < paths.length; i += 1) {
@@ -110,8 +136,6 @@ function* companionsOf(paths, services) {
              leader: (path) => (sidecars.ownerOf(path) === undefined ? -1 : at[sidecars.ownerOf(path)]) };
 }
 
-const NOBODY = { of: () => [], leader: () => -1 };
-
 function rowFor(path, i, context) {
     const leader = context.companions.leader(path);
     if (leader >= 0) {
@@ -119,8 +143,10 @@ function rowFor(path, i, context) {
     }
     const facts = context.chain.needsFacts ? context.services.facts.of(path) : null;
     const made = context.chain.apply(path, context.areFolders, facts, false);
-    made.short.forEach((step) => { context.short[step] = (context.short[step] || 0) + 1; });
-    return wish(path, made, context.companions.of(i));
+    for (let k = 0; k < made.short.length; k += 1) {
+        context.short[made.short[k]] = (context.short[made.short[k]] || 0) + 1;
+    }
+    return wish(made, context.companions.of(i));
 }
 
 // A sidecar shows the name that it will have beside its picture.

@@ -6,7 +6,8 @@ function sidecarsAmong(names) {
     const sidecars = new Sidecars({
         namesEndingIn: (folder) => { asked.push(folder); return folder === "/a" ? names : []; },
     });
-    return { of: (path) => sidecars.of(path), owner: (path) => sidecars.ownerOf(path), asked: asked };
+    return { of: (path) => sidecars.of(path), owner: (path) => sidecars.ownerOf(path),
+             areIn: (folder) => sidecars.areIn(folder), asked: asked };
 }
 
 const ROWS = [
@@ -26,6 +27,13 @@ for (const row of ROWS) {
     test("finds what belongs to " + row[1] + " among " + row[0].join(" "),
          () => equal(sidecarsAmong(row[0]).of(row[1]), row[2]));
 }
+
+test("tellsWhetherAFolderHasAny", () => {
+    const sidecars = sidecarsAmong(["a.jpg", "b.xmp"]);
+    equal([sidecars.areIn("/a"), sidecars.areIn("/b"), sidecars.areIn("/a")], [true, false, true]);
+    equal(sidecars.asked, ["/a", "/b"]);
+    equal(sidecarsAmong(["a.jpg", ".xmp"]).areIn("/a"), false);
+});
 
 test("givesASidecarToOnePictureOnly", () => {
     const sidecars = sidecarsAmong(["a.jpg", "a.cr2", "a.xmp"]);
