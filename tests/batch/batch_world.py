@@ -62,6 +62,10 @@ class BatchTest(unittest.TestCase):
         """The lines of the report without the summary, which is checked against them."""
         return self.checked(self.run_batch("--report", "-", *arguments, status=status, **options))
 
+    def by_input(self, lines):
+        """Lines by the names of their inputs: they are in the order in which workers finished them."""
+        return {os.path.basename(line["input"]): line for line in lines}
+
     def checked(self, report):
         lines = [json.loads(line) for line in report.decode().splitlines()]
         summary = lines.pop()["summary"]
