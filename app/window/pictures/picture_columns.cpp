@@ -342,7 +342,9 @@ void PictureTable::arrangeColumns()
     const int room = viewport()->width();
     const std::vector<int> sideways = sidewaysWidths(needs, room);
     const std::vector<int> widths = sideways.empty() ? fittingWidths(needs, room) : sideways;
-    horizontalHeader()->setStretchLastSection(sideways.empty());
+    // It lays out all columns, also where it is what it was.
+    if (horizontalHeader()->stretchLastSection() != sideways.empty())
+        horizontalHeader()->setStretchLastSection(sideways.empty());
     for (size_t i = 0; i < widths.size(); ++i)
         horizontalHeader()->resizeSection(shown[int(i)], widths[i]);
 }
