@@ -29,9 +29,14 @@ export class WebPane extends Pane {
     constructor(settings, changed, window) {
         super("actions/web/web-pane.ui", web, settings, changed);
         this.window = window;
-        this.preview = new WebPreview(window.services, (text) => this.told(text));
+        this.preview = this.newPreview();
         this.join();
         this.fill();
+    }
+
+    // The engine does not know `this` in a function that the constructor of a derived class makes.
+    newPreview() {
+        return new WebPreview(this.window.services, (text) => this.told(text));
     }
 
     join() {

@@ -236,7 +236,7 @@ void KilledFields::revertAll(const Home &home, const QMap<QString, QByteArray> &
 
 void KilledFields::revertsAfterAKillAtAnyCall()
 {
-    const int stride = std::max(1, m_calls / tests::repetitions(4, 100));
+    const int stride = std::max(1, m_calls / tests::repetitions(4, 60));
     int tries = 0;
     m_changed = 0;
     for (int call = 1 + QRandomGenerator::global()->bounded(stride); call <= m_calls; call += stride, ++tries) {
