@@ -150,17 +150,27 @@ QString ZtImageHandling::resizeImage2(const QString &path, quint32 width, quint3
     return writeResized(target, QSize(newImgW, newImgH), QRect(filled.offset, box));
 }
 
+std::optional<QString> ZtImageHandling::writtenStraight(const Target &target, const MakeJpeg &make)
+{
+    if (!isJpeg(target.type))
+        return std::nullopt;
+    EncodeOptions options;
+    options.lossyQuality = image::qualityForCode(target.qualityCode);
+    const std::optional<QByteArray> file = make(options);
+    if (!file)
+        return std::nullopt;
+    properties = QVariantMap{{qualityKey(), *options.lossyQuality}};
+    return image::writeAnswering(target.basePath + image::extensionForType(target.type), *file);
+}
+
 QString ZtImageHandling::writeResized(const Target &target, QSize size, std::optional<QRect> kept)
 {
-    if (isJpeg(target.type)) {
-        EncodeOptions options;
-        options.lossyQuality = image::qualityForCode(target.qualityCode);
-        const QRect part = kept.value_or(QRect(QPoint(0, 0), size));
-        if (const auto file = platform::resizedJpeg(imageCIImage, {size, part}, options)) {
-            properties = QVariantMap{{qualityKey(), *options.lossyQuality}};
-            return image::writeAnswering(target.basePath + image::extensionForType(target.type), *file);
-        }
-    }
+    const QRect part = kept.value_or(QRect(QPoint(0, 0), size));
+    const auto resize = [&](const EncodeOptions &options) {
+        return platform::resizedJpeg(imageCIImage, {size, part}, options);
+    };
+    if (const auto answer = writtenStraight(target, resize))
+        return *answer;
     const platform::Forms forms = image::formsFor(target.type);
     const Result<Bitmap> drawn =
         kept ? image::resizedAndCut(imageCIImage, size, *kept, forms) : image::resized(imageCIImage, size, forms);

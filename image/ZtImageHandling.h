@@ -192,6 +192,9 @@ private:
     void openUpright(const QString &path);
     QString write(const Target &target, const platform::Bitmap &bitmap,
                   const platform::Result<platform::EncodeOptions> &ofSource);
+    using MakeJpeg = std::function<std::optional<QByteArray>(const platform::EncodeOptions &)>;
+    /** The answer to a JPEG made of the open one without a bitmap; none if it cannot be made, or for another type. */
+    std::optional<QString> writtenStraight(const Target &target, const MakeJpeg &make);
     /** The open picture at another size, or its kept part. */
     QString writeResized(const Target &target, QSize size, std::optional<QRect> kept = {});
     /** Reads the crop sheet; answers the rectangle and keeps its origin. @p size belongs to the tab "W x H". */

@@ -6,6 +6,7 @@
 #include "image/overlay.h"
 #include "platform/controls/controls.h"
 #include "platform/foundation/paths.h"
+#include "platform/imageio/convert/cropped_jpeg.h"
 #include "platform/imageio/formats/type_identifiers.h"
 
 #include <array>
@@ -94,12 +95,16 @@ QString ZtImageHandling::cropImage(const QString &path, int width, int height, c
     openUpright(path);
     const image::CropRect rect = readCrop(QSize(width, height), image::CropSpace::TopLeft);
     const QRect part = image::visiblePart(rect, imageCIImage.uprightSize());
+    const Target target = {image::outputBase(prefix, path), myFileType, qualityCode};
+    const auto crop = [&](const EncodeOptions &options) { return platform::croppedJpeg(imageCIImage, part, options); };
+    if (const auto answer = writtenStraight(target, crop))
+        return *answer;
     const Result<Bitmap> kept = imageCIImage.decodePart(part, image::formsFor(myFileType));
     // An unreadable source is not reported; if nothing of a good one is left, the writer reports it.
     if (!kept && (imageCIImage.isNull() || !part.isEmpty()))
         return image::statusFailed();
     const bool carriesMetadata = myFileType == QLatin1String("public.tiff");
-    return write({image::outputBase(prefix, path), myFileType, qualityCode}, kept.value_or(Bitmap()),
+    return write(target, kept.value_or(Bitmap()),
                  carriesMetadata ? image::optionsCarrying(imageCIImage) : EncodeOptions());
 }
 

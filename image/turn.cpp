@@ -75,7 +75,12 @@ Result<Bitmap> turned(const Bitmap &bitmap, double degrees)
 {
     if (const auto exact = platform::exactTurn(degrees))
         return platform::turned(bitmap, *exact);
-    return platform::turned(bitmap, freeTurn(turnedBox(QSizeF(bitmap.size()), degrees), degrees));
+    return platform::turned(bitmap, freeTurnOf(bitmap.size(), degrees));
+}
+
+FreeTurn freeTurnOf(QSize size, double degrees)
+{
+    return freeTurn(turnedBox(QSizeF(size), degrees), degrees);
 }
 
 platform::ExactTurn exactFlip(Qt::Orientation axis)

@@ -19,6 +19,9 @@ QSizeF turnedBox(QSizeF size, double degrees);
  */
 platform::Result<platform::Bitmap> turned(const platform::Bitmap &bitmap, double degrees);
 
+/** How that draws a bitmap of @p size; the canvas is empty if it cannot be made. */
+platform::FreeTurn freeTurnOf(QSize size, double degrees);
+
 /** Qt::Horizontal swaps left and right, Qt::Vertical top and bottom. */
 platform::ExactTurn exactFlip(Qt::Orientation axis);
 

@@ -4,6 +4,7 @@
 #include "image/turn.h"
 #include "platform/foundation/log.h"
 #include "platform/imageio/convert/lossless_turn.h"
+#include "platform/imageio/convert/turned_jpeg.h"
 #include "platform/imageio/source/image_source.h"
 
 namespace image {
@@ -50,6 +51,16 @@ Result<EncodeOptions> optionsFor(const ImageSource &source, std::optional<FileFo
     });
 }
 
+/** From JPEG to JPEG without any detour; none if that is not possible. */
+std::optional<QByteArray> turnedAsJpeg(const ImageSource &source, const Turning &turning)
+{
+    if (turning.exact)
+        return platform::turnedWithoutLoss(source, *turning.exact);
+    const Result<EncodeOptions> options = optionsFor(source, FileFormat::Jpeg, turning);
+    return options ? platform::turnedJpeg(source, freeTurnOf(source.storedSize(), turning.degrees), Qt::black, *options)
+                   : std::nullopt;
+}
+
 } // namespace
 
 Turning Turning::flip(Qt::Orientation axis)
@@ -68,8 +79,8 @@ QString turnFile(const QString &sourcePath, const QString &targetPath, const QSt
     if (!source)
         return isNoSource(source.error()) ? noSource() : noImage();
     const std::optional<FileFormat> format = platform::fileFormatForType(type);
-    if (turning.exact && format == FileFormat::Jpeg)
-        if (const std::optional<QByteArray> file = platform::turnedWithoutLoss(*source, *turning.exact))
+    if (format == FileFormat::Jpeg)
+        if (const std::optional<QByteArray> file = turnedAsJpeg(*source, turning))
             return writeAnswering(targetPath, *file);
     platform::DecodeOptions asStored;
     asStored.orientation = platform::Orientation::AsStored;

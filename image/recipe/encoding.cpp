@@ -3,9 +3,11 @@
 #include "image/recipe/output_kind.h"
 #include "image/recipe/sentence.h"
 #include "platform/graphics/compose.h"
+#include "platform/imageio/convert/cropped_jpeg.h"
 #include "platform/imageio/convert/lossless_turn.h"
 #include "platform/imageio/convert/other_metadata.h"
 #include "platform/imageio/convert/pdf_page.h"
+#include "platform/imageio/convert/turned_jpeg.h"
 #include "platform/imageio/encode/image_destination.h"
 #include "platform/imageio/exif/orientation_mark.h"
 
@@ -129,6 +131,16 @@ Result<platform::EncodeOptions> optionsFor(const ImageSource &source, const Reci
     });
 }
 
+/** What the file of a JPEG that becomes another one has besides its pixels. */
+std::optional<platform::EncodeOptions> jpegOptionsFor(const ImageSource &source, const RecipeOutput &output)
+{
+    Result<platform::EncodeOptions> options = optionsFor(source, output);
+    if (!options)
+        return std::nullopt;
+    options->quality = chosenQuality(output, OutputType::Jpeg, true);
+    return *options;
+}
+
 /** The page of a JPEG whose scan is copied unchanged, or turned without encoding. */
 Result<QByteArray> pageOfSamePixels(const ImageSource &source, const RecipeOutput &output, const OutputPlan &plan)
 {
@@ -192,11 +204,23 @@ Result<QByteArray> encodedFile(const Bitmap &bitmap, const ImageSource &source, 
 std::optional<QByteArray> resizedFile(const ImageSource &source, const platform::JpegResize &resize,
                                       const RecipeOutput &output)
 {
-    platform::Result<platform::EncodeOptions> options = optionsFor(source, output);
-    if (!options)
-        return std::nullopt;
-    options->quality = chosenQuality(output, OutputType::Jpeg, true);
-    return platform::resizedJpeg(source, resize, *options);
+    const auto options = jpegOptionsFor(source, output);
+    return options ? platform::resizedJpeg(source, resize, *options) : std::nullopt;
+}
+
+std::optional<QByteArray> croppedFile(const ImageSource &source, const QRect &part, const RecipeOutput &output)
+{
+    const auto options = jpegOptionsFor(source, output);
+    return options ? platform::croppedJpeg(source, part, *options) : std::nullopt;
+}
+
+std::optional<QByteArray> freelyTurnedFile(const ImageSource &source, const TurnOperation &turn,
+                                           const RecipeOutput &output)
+{
+    const auto options = jpegOptionsFor(source, output);
+    return options ? platform::turnedJpeg(source, freeTurnFor(turn, source.uprightSize()),
+                                          turn.color.value_or(output.matte), *options)
+                   : std::nullopt;
 }
 
 } // namespace image

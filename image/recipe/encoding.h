@@ -25,4 +25,12 @@ platform::Result<QByteArray> encodedFile(const platform::Bitmap &bitmap, const p
 std::optional<QByteArray> resizedFile(const platform::ImageSource &source, const platform::JpegResize &resize,
                                       const RecipeOutput &output);
 
+/** The same for one that only crops it; see platform::croppedJpeg(). */
+std::optional<QByteArray> croppedFile(const platform::ImageSource &source, const QRect &part,
+                                      const RecipeOutput &output);
+
+/** The same for one that only turns an upright picture by an angle; see platform::turnedJpeg(). */
+std::optional<QByteArray> freelyTurnedFile(const platform::ImageSource &source, const TurnOperation &turn,
+                                           const RecipeOutput &output);
+
 } // namespace image

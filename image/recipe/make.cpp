@@ -33,6 +33,16 @@ First firstOf(const QList<RecipeStep> &steps, const Stage &stage)
     return first;
 }
 
+/** The operation, if it is all that happens to the pixels. */
+const Operation *onlyOperation(const QList<RecipeStep> &steps, const Stage &stage)
+{
+    const First first = firstOf(steps, stage);
+    const auto isOff = [](const RecipeStep &step) { return step.isOff; };
+    const bool isAll =
+        first.index >= 0 && !first.isTurned && std::all_of(steps.begin() + first.index + 1, steps.end(), isOff);
+    return isAll ? &steps[first.index].operation : nullptr;
+}
+
 /** The operation that a decoder can do itself: a resize to fewer pixels, or a crop at a known position. */
 const ResizeOperation *shrinkingResize(const Operation &operation, const Stage &stage)
 {
@@ -46,11 +56,8 @@ const ResizeOperation *shrinkingResize(const Operation &operation, const Stage &
 /** The resize, if that is all that happens to the pixels, with at most a crop at a known position. */
 std::optional<platform::JpegResize> onlyResize(const QList<RecipeStep> &steps, const Stage &stage)
 {
-    const First first = firstOf(steps, stage);
-    const auto isOff = [](const RecipeStep &step) { return step.isOff; };
-    if (first.index < 0 || first.isTurned || !std::all_of(steps.begin() + first.index + 1, steps.end(), isOff))
-        return std::nullopt;
-    const auto *resize = shrinkingResize(steps[first.index].operation, stage);
+    const Operation *only = onlyOperation(steps, stage);
+    const auto *resize = only ? shrinkingResize(*only, stage) : nullptr;
     if (!resize || resize->scale.dpi || resize->position == Place::Attention)
         return std::nullopt;
     const Fitting fitting = fittingOf(*resize, stage);
@@ -170,7 +177,7 @@ private:
         if (indices.size() == 1) {
             const int index = indices.first();
             const QList<RecipeStep> steps = m_recipe.operations + stepsOf(m_recipe.outputs[index]);
-            if (const auto made = resizedOnly(index, steps))
+            if (const auto made = madeStraight(index, steps))
                 return m_take(index, *made);
             give(index, m_decoding.behind(steps, m_fill));
             return;
@@ -178,15 +185,29 @@ private:
         giveAll(indices, m_decoding.behind(m_recipe.operations, m_fill), {});
     }
 
-    /** The output of a JPEG that is only reduced. */
-    std::optional<MadeOutput> resizedOnly(int index, const QList<RecipeStep> &steps) const
+    /** The output of a JPEG that is only reduced, cropped, or turned by an angle. */
+    std::optional<MadeOutput> madeStraight(int index, const QList<RecipeStep> &steps) const
     {
         const RecipeOutput &output = m_recipe.outputs[index];
-        const auto resize = m_plans[index].type == OutputType::Jpeg && !output.maxBytes
-                                ? onlyResize(steps, m_stage)
-                                : std::optional<platform::JpegResize>();
-        const auto file = resize ? resizedFile(m_source, *resize, output) : std::nullopt;
-        return file ? std::optional(MadeOutput{index, *file, resize->kept.size(), false}) : std::nullopt;
+        if (m_plans[index].type != OutputType::Jpeg || output.maxBytes)
+            return std::nullopt;
+        if (const auto resize = onlyResize(steps, m_stage))
+            return madeOf(index, resizedFile(m_source, *resize, output), resize->kept.size());
+        const Operation *only = onlyOperation(steps, m_stage);
+        const auto *crop = only ? std::get_if<CropOperation>(only) : nullptr;
+        if (crop && crop->position != Place::Attention && !crop->scale.dpi) {
+            const QRect part = cropPartOf(*crop, m_stage);
+            return madeOf(index, croppedFile(m_source, part, output), part.size());
+        }
+        const bool isUpright = m_source.orientation() == 1;
+        const auto *turn = only && isUpright ? std::get_if<TurnOperation>(only) : nullptr;
+        return turn ? madeOf(index, freelyTurnedFile(m_source, *turn, output), turnedCanvas(*turn, m_stage.size))
+                    : std::nullopt;
+    }
+
+    static std::optional<MadeOutput> madeOf(int index, const std::optional<QByteArray> &file, QSize size)
+    {
+        return file ? std::optional(MadeOutput{index, *file, size, false}) : std::nullopt;
     }
 
     /** Each output starts by itself: all from one decode, which is as small as the largest of them allows. */

@@ -103,9 +103,7 @@ public:
 
     Result<Bitmap> operator()(const TurnOperation &turn) const
     {
-        const QSize canvas = turnedCanvas(turn, m_before.bitmap.size());
-        const platform::FreeTurn free = {-turn.degrees, canvas, QPointF(canvas.width() / 2.0, canvas.height() / 2.0),
-                                         platform::Surroundings::Transparent};
+        const platform::FreeTurn free = freeTurnFor(turn, m_before.bitmap.size());
         return platform::turned(m_before.bitmap, free).and_then([&](const Bitmap &bitmap) {
             return turn.color ? withCorners(bitmap, free, *turn.color) : Result<Bitmap>(bitmap);
         });

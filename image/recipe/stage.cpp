@@ -363,6 +363,13 @@ QSize turnedCanvas(const TurnOperation &turn, QSize size)
     return {wholeSide(box.width() + hair), wholeSide(box.height() + hair)};
 }
 
+platform::FreeTurn freeTurnFor(const TurnOperation &turn, QSize size)
+{
+    const QSize canvas = turnedCanvas(turn, size);
+    return {-turn.degrees, canvas, QPointF(canvas.width() / 2.0, canvas.height() / 2.0),
+            platform::Surroundings::Transparent};
+}
+
 Result<Change> changeOf(const Operation &operation, const Stage &stage)
 {
     return std::visit(Changes(stage), operation);

@@ -66,6 +66,9 @@ QPoint placeOf(Place place, QSize inner, QSize outer);
 /** The canvas of a picture that is turned. */
 QSize turnedCanvas(const TurnOperation &turn, QSize size);
 
+/** How a picture of @p size is drawn on that canvas. */
+platform::FreeTurn freeTurnFor(const TurnOperation &turn, QSize size);
+
 /**
  * The effect of the operation on a picture; fails with InvalidValue if nothing would be left, with TooLarge if the
  * result is too large.

@@ -1,6 +1,7 @@
 #include "platform/graphics/free_turn.h"
 
 #include "platform/planes/cubic_pairs.h"
+#include "platform/planes/turn_placement.h"
 
 #include <algorithm>
 #include <array>
@@ -16,8 +17,7 @@ namespace {
 
 using vips::VImage;
 
-/** Positions between two pixels are divided into so many steps. */
-constexpr int stepBits = 10;
+constexpr int stepBits = turnStepBits;
 
 using WeightTable = std::array<CubicWeights, 1 << stepBits>;
 
@@ -32,108 +32,11 @@ const WeightTable &cubicWeights()
     return table;
 }
 
-/** A position in whole pixels and 2^-32 of one, so that stepping along a row costs an addition. */
-class Position
-{
-public:
-    explicit Position(double pixels) : m_value(qint64(std::floor(pixels * one))) {}
-    void step(Position by, int times = 1) { m_value += by.m_value * times; }
-    int pixel() const { return int(m_value >> bits); }
-    qint64 value() const { return m_value; }
-    size_t stepInPixel() const { return size_t(m_value >> (bits - stepBits)) & ((1 << stepBits) - 1); }
-
-private:
-    static constexpr int bits = 32;
-    static constexpr double one = 4294967296.0;
-    qint64 m_value;
-};
-
-/** The position of the picture on the canvas, from the top left corner of the first pixel. */
-class Placement
-{
-public:
-    Placement(const VImage &picture, const FreeTurn &turn)
-        : m_width(picture.width()), m_height(picture.height()), m_centre(turn.centre)
-    {
-        constexpr double radiansPerDegree = 0.017453292519943295;
-        m_cosine = std::cos(turn.degrees * radiansPerDegree);
-        m_sine = std::sin(turn.degrees * radiansPerDegree);
-    }
-
-    /** One pixel to the right on the canvas is this far horizontally and vertically in the picture. */
-    QPointF step() const { return {m_cosine, m_sine}; }
-
-    /** The point of the picture under the centre of a canvas pixel. */
-    QPointF inPicture(int column, int row) const
-    {
-        const double across = column + 0.5 - m_centre.x();
-        const double down = row + 0.5 - m_centre.y();
-        return {across * m_cosine - down * m_sine + m_width / 2, across * m_sine + down * m_cosine + m_height / 2};
-    }
-
-    /** How much of a pixel of the canvas the picture covers, 0 to 1. */
-    float coverage(int column, int row) const
-    {
-        const QPointF place = inPicture(column, row);
-        const double across = std::clamp(std::min(place.x(), m_width - place.x()) + 0.5, 0.0, 1.0);
-        const double down = std::clamp(std::min(place.y(), m_height - place.y()) + 0.5, 0.0, 1.0);
-        return float(across * down);
-    }
-
-    struct Columns
-    {
-        int first = 0;
-        int end = 0; ///< one past the last
-    };
-
-    /** The columns of a row that are in the picture, enlarged by @p margin pixels on each side, within @p limits. */
-    Columns columnsWithin(double margin, int row, Columns limits) const
-    {
-        const double down = row + 0.5 - m_centre.y();
-        Span span = {limits.first - m_centre.x(), limits.end + 1 - m_centre.x()};
-        span.cut(m_cosine, -down * m_sine, m_width / 2 + margin);
-        span.cut(m_sine, down * m_cosine, m_height / 2 + margin);
-        if (!(span.from < span.to))
-            return {limits.end, limits.end};
-        const auto column = [&](double across) {
-            return std::clamp(int(std::ceil(across + m_centre.x() - 0.5)), limits.first, limits.end);
-        };
-        return {column(span.from), column(span.to)};
-    }
-
-private:
-    /** The part of a line on which |slope * t + offset| stays below a bound. */
-    struct Span
-    {
-        double from;
-        double to;
-
-        void cut(double slope, double offset, double bound)
-        {
-            if (slope == 0) {
-                if (std::abs(offset) >= bound)
-                    to = from;
-                return;
-            }
-            const double one = (-bound - offset) / slope;
-            const double other = (bound - offset) / slope;
-            from = std::max(from, std::min(one, other));
-            to = std::min(to, std::max(one, other));
-        }
-    };
-
-    double m_width;
-    double m_height;
-    QPointF m_centre;
-    double m_cosine = 1;
-    double m_sine = 0;
-};
-
 /** All that drawing needs to know; the library's threads share it and change nothing. */
 struct Job
 {
     VImage picture; ///< in memory
-    Placement placement;
+    TurnPlacement placement;
     bool addsAlpha;
     bool hasAlpha; ///< existing in the picture or added
     float opaque;  ///< the alpha of an opaque pixel
@@ -151,10 +54,10 @@ public:
     }
 
     /** The pixels of @p row in @p columns, to @p out. */
-    void draw(int row, Placement::Columns columns, Component *out)
+    void draw(int row, TurnPlacement::Columns columns, Component *out)
     {
-        const Placement::Columns touched = m_job.placement.columnsWithin(0.5, row, columns);
-        Placement::Columns whole = m_job.placement.columnsWithin(-0.5, row, touched);
+        const TurnPlacement::Columns touched = m_job.placement.columnsTouched(row, columns);
+        TurnPlacement::Columns whole = m_job.placement.columnsCovered(row, touched);
         const auto at = [&](int column) { return out + ptrdiff_t(column - columns.first) * m_outBands; };
         std::fill(out, at(touched.first), Component(0));
         drawFaded(row, {touched.first, whole.first}, at(touched.first));
@@ -164,15 +67,15 @@ public:
     }
 
 private:
-    void drawWhole(int row, Placement::Columns columns, Component *out)
+    void drawWhole(int row, TurnPlacement::Columns columns, Component *out)
     {
         // From the corner of a pixel to its centre; then the nearest step, not the previous one.
         constexpr double shift = -0.5 + 0.5 / (1 << stepBits);
         const QPointF start = m_job.placement.inPicture(columns.first, row) + QPointF(shift, shift);
-        const Position across(m_job.placement.step().x());
-        const Position down(m_job.placement.step().y());
-        Position x(start.x());
-        Position y(start.y());
+        const TurnPosition across(m_job.placement.step().x());
+        const TurnPosition down(m_job.placement.step().y());
+        TurnPosition x(start.x());
+        TurnPosition y(start.y());
         bool arePairsMade = m_job.addsAlpha;
         for (int column = columns.first; column < columns.end; ++column, out += m_outBands) {
             if (!arePairsMade && isInside(x, y)) {
@@ -193,7 +96,7 @@ private:
         }
     }
 
-    void drawFaded(int row, Placement::Columns columns, Component *out)
+    void drawFaded(int row, TurnPlacement::Columns columns, Component *out)
     {
         const int firstFaded = m_job.hasAlpha ? m_outBands - 1 : 0;
         for (int column = columns.first; column < columns.end; ++column, out += m_outBands) {
@@ -205,7 +108,7 @@ private:
     }
 
     /** Whether the window is in the picture, including everything that may be read after it. */
-    bool isInside(Position x, Position y) const
+    bool isInside(TurnPosition x, TurnPosition y) const
     {
         const int left = x.pixel() - 1;
         const int top = y.pixel() - 1;
@@ -215,8 +118,8 @@ private:
 
     struct Places
     {
-        Position x;
-        Position y;
+        TurnPosition x;
+        TurnPosition y;
     };
 
     /** Makes pixels two at a time, starting at one whose window is inside, and answers how many; perhaps none. */
@@ -312,8 +215,8 @@ VImage turnedFreely(const VImage &image, const FreeTurn &turn)
     const VipsBandFormat format = image.format();
     const VImage picture = (isDrawnAsItIs(format) ? image : image.cast(VIPS_FORMAT_FLOAT)).copy_memory();
     const bool addsAlpha = turn.surroundings == Surroundings::Transparent && !hasTransparency(picture);
-    Job job = {picture, Placement(picture, turn), addsAlpha, addsAlpha || hasTransparency(picture),
-               float(opaqueValue(picture))};
+    Job job = {picture, TurnPlacement({picture.width(), picture.height()}, turn.degrees, turn.centre), addsAlpha,
+               addsAlpha || hasTransparency(picture), float(opaqueValue(picture))};
     const VImage canvas(vips_image_new());
     VipsImage *out = canvas.get_image();
     if (vips_image_pipelinev(out, VIPS_DEMAND_STYLE_SMALLTILE, picture.get_image(), nullptr) != 0)

@@ -1,13 +1,9 @@
 #include "platform/imageio/convert/resized_jpeg.h"
 
 #include "platform/foundation/memory_left.h"
-#include "platform/imageio/encode/carrying.h"
-#include "platform/imageio/encoders/encoders.h"
-#include "platform/imageio/facts/resolution.h"
-#include "platform/imageio/jpeg/decoded_planes.h"
+#include "platform/imageio/convert/jpeg_from_jpeg.h"
 #include "platform/imageio/jpeg/plane_rows.h"
 #include "platform/imageio/jpeg/shrunk_jpeg.h"
-#include "platform/imageio/source/opened_file.h"
 #include "platform/planes/plane_scaler.h"
 
 #include <algorithm>
@@ -183,28 +179,16 @@ Directions directionsOf(QSize stored, const JpegResize &resize, int shrink)
 std::optional<QByteArray> resizedFile(const ImageSource::File &file, const JpegResize &resize,
                                       const EncodeOptions &options)
 {
-    const QByteArray jpeg = file.bytes.all();
-    const std::optional<PlaneFacts> facts = planeFacts(jpeg);
+    const JpegFromJpeg made(file, options);
+    const std::optional<PlaneFacts> &facts = made.facts();
     const int shrink = shrinkFor(file.storedSize, resize);
-    if (!facts || facts->stored != file.storedSize || !isMemoryLeft(*facts, jpeg.size(), resize, shrink))
+    if (!facts || !isMemoryLeft(*facts, made.source().size(), resize, shrink))
         return std::nullopt;
-    const bool statesResolution = options.resolution == WriteResolution::Yes;
-    const Resolution resolution = statesResolution ? resolutionOf(file.bytes, file.content) : Resolution();
-    JpegSettings settings;
-    settings.quality = jpegQualityOf(options);
-    settings.resolution = writtenResolution(resolution, options);
-    if (const auto header = settings.quality ? std::nullopt : jpegHeaderOf(file.bytes, file.content))
-        settings.sourceTables = header->quantisation;
-    auto planes = newPlanes(jpeg, shrink, directionsOf(facts->stored, resize, shrink), settings, resize.isFine);
+    auto planes =
+        newPlanes(made.source(), shrink, directionsOf(facts->stored, resize, shrink), made.settings(), resize.isFine);
     if (!planes)
         return std::nullopt;
-    EncodeOptions known = options;
-    known.metadata = carriedMetadata(resolution, FileFormat::Jpeg, options);
-    const Result<QByteArray> encoded =
-        encodeJpegPlanes(std::move(*planes), facts->profile, settings).and_then([&](const QByteArray &bytes) {
-            return withMetadata(bytes, resize.kept.size(), FileFormat::Jpeg, known);
-        });
-    return encoded ? std::optional(*encoded) : std::nullopt;
+    return made.finished(encodeJpegPlanes(std::move(*planes), facts->profile, made.settings()), resize.kept.size());
 }
 
 } // namespace

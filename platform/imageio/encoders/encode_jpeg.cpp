@@ -127,21 +127,19 @@ void writeProfile(jpeg_compress_struct &info, const QByteArray &profile)
         jpeg_write_icc_profile(&info, reinterpret_cast<const JOCTET *>(profile.constData()), unsigned(profile.size()));
 }
 
-/** Rows are passed to the encoder unchanged, except CMYK, which is inverted as readers expect. */
-void writeRows(jpeg_compress_struct &info, const vips::VImage &image, std::vector<JSAMPLE> &scratch)
+/** CMYK is inverted, as readers expect. */
+bool writeRows(jpeg_compress_struct &info, const NextPixelRow &next, std::vector<JSAMPLE> &row)
 {
-    const auto *data = static_cast<const JSAMPLE *>(image.data());
-    const size_t rowBytes = VIPS_IMAGE_SIZEOF_LINE(image.get_image());
     const bool isInverted = info.in_color_space == JCS_CMYK;
     while (info.next_scanline < info.image_height) {
-        const JSAMPLE *row = data + rowBytes * info.next_scanline;
+        if (!next(row.data()))
+            return false;
         if (isInverted)
-            std::transform(row, row + rowBytes, scratch.begin(), [](JSAMPLE ink) { return JSAMPLE(MAXJSAMPLE - ink); });
-        else
-            std::copy(row, row + rowBytes, scratch.begin());
-        JSAMPLE *line = scratch.data();
+            std::transform(row.begin(), row.end(), row.begin(), [](JSAMPLE ink) { return JSAMPLE(MAXJSAMPLE - ink); });
+        JSAMPLE *line = row.data();
         jpeg_write_scanlines(&info, &line, 1);
     }
+    return true;
 }
 
 /** The encoder reads whole blocks: the last sample of a row is repeated. */
@@ -176,30 +174,113 @@ void writePlanes(jpeg_compress_struct &info, JpegPlanes &planes, std::vector<std
     }
 }
 
+/** Some rows of each plane, as many as the encoder takes at once. */
+class DrawnBands
+{
+public:
+    void makeRoom(const jpeg_compress_struct &info)
+    {
+        for (int i = 0; i < info.num_components; ++i) {
+            const jpeg_component_info &component = info.comp_info[i];
+            Band &band = m_bands[size_t(i)];
+            band.size = QSize(int(component.downsampled_width), int(component.downsampled_height));
+            band.rowBytes = size_t(component.width_in_blocks) * DCTSIZE;
+            band.rows.resize(size_t(component.v_samp_factor) * DCTSIZE);
+            band.samples.resize(band.rowBytes * band.rows.size());
+        }
+    }
+
+    /** The band that follows; the encoder reads whole blocks, so that the last samples and rows are repeated. */
+    JSAMPIMAGE next(int planes, const DrawPlaneRows &draw)
+    {
+        for (int i = 0; i < planes; ++i) {
+            Band &band = m_bands[size_t(i)];
+            const int height = int(band.rows.size());
+            const int count = std::min(height, band.size.height() - band.first);
+            for (int y = 0; y < height; ++y)
+                band.rows[size_t(y)] = band.samples.data() + band.rowBytes * size_t(std::min(y, count - 1));
+            draw(i, band.first, count, band.rows.data());
+            for (int y = 0; y < count; ++y)
+                std::fill(band.rows[size_t(y)] + band.size.width(), band.rows[size_t(y)] + band.rowBytes,
+                          band.rows[size_t(y)][band.size.width() - 1]);
+            band.first += height;
+            m_planes[size_t(i)] = band.rows.data();
+        }
+        return m_planes.data();
+    }
+
+private:
+    struct Band
+    {
+        QSize size;
+        size_t rowBytes = 0;
+        int first = 0;
+        std::vector<JSAMPLE> samples;
+        std::vector<JSAMPROW> rows;
+    };
+
+    std::array<Band, MAX_COMPONENTS> m_bands;
+    std::array<JSAMPARRAY, MAX_COMPONENTS> m_planes = {};
+};
+
+void writeBands(jpeg_compress_struct &info, DrawnBands &bands, const DrawPlaneRows &draw)
+{
+    bands.makeRoom(info);
+    while (info.next_scanline < info.image_height)
+        jpeg_write_raw_data(&info, bands.next(info.num_components, draw), JDIMENSION(info.max_v_samp_factor) * DCTSIZE);
+}
+
 tl::unexpected<Error> notMade(const JpegErrorManager &errors)
 {
     return failure(ErrorCode::WriteFailed, QCoreApplication::translate("platform", "The JPEG could not be created: %1")
                                                .arg(QString::fromLatin1(errors.message)));
 }
 
-} // namespace
+/** What is given to the encoder: rows of pixels, or planes as they are stored. */
+enum class Input { Pixels, Planes };
 
-Result<QByteArray> encodeJpeg(const vips::VImage &image, const JpegSettings &settings)
+/** Gives the encoder all that it wants; false if there is no more. */
+using WriteAll = std::function<bool(jpeg_compress_struct &)>;
+
+Result<QByteArray> encoded(QSize size, int components, Input input, const WriteAll &write, const QByteArray &profile,
+                           const JpegSettings &settings)
 {
     Encoder encoder;
-    std::vector<JSAMPLE> scratch(VIPS_IMAGE_SIZEOF_LINE(image.get_image()));
     encoder.info.err = prepare(encoder.errors);
-    const QByteArray profile = iccProfileOf(image);
     if (setjmp(encoder.errors.jump))
         return notMade(encoder.errors);
     jpeg_create_compress(&encoder.info);
     jpeg_mem_dest(&encoder.info, &encoder.bytes, &encoder.size);
-    configure(encoder.info, {image.width(), image.height()}, image.bands(), settings);
+    configure(encoder.info, size, components, settings);
+    encoder.info.raw_data_in = boolean(input == Input::Planes);
     jpeg_start_compress(&encoder.info, TRUE);
     writeProfile(encoder.info, profile);
-    writeRows(encoder.info, image, scratch);
+    if (!write(encoder.info))
+        return notMade(encoder.errors);
     jpeg_finish_compress(&encoder.info);
     return QByteArray(reinterpret_cast<const char *>(encoder.bytes), qsizetype(encoder.size));
+}
+
+} // namespace
+
+Result<QByteArray> encodeJpeg(const vips::VImage &image, const JpegSettings &settings)
+{
+    const auto *data = static_cast<const JSAMPLE *>(image.data());
+    const size_t rowBytes = VIPS_IMAGE_SIZEOF_LINE(image.get_image());
+    const auto next = [&data, rowBytes](uchar *row) {
+        std::copy_n(data, rowBytes, row);
+        data += rowBytes;
+        return true;
+    };
+    return encodeJpegPixels({image.width(), image.height()}, image.bands(), next, iccProfileOf(image), settings);
+}
+
+Result<QByteArray> encodeJpegPixels(QSize size, int bands, const NextPixelRow &next, const QByteArray &profile,
+                                    const JpegSettings &settings)
+{
+    std::vector<JSAMPLE> row(size_t(size.width()) * size_t(bands));
+    const auto write = [&](jpeg_compress_struct &info) { return writeRows(info, next, row); };
+    return encoded(size, bands, Input::Pixels, write, profile, settings);
 }
 
 QSize jpegSampling(const JpegSettings &settings, int components)
@@ -217,21 +298,24 @@ QSize jpegSampling(const JpegSettings &settings, int components)
 
 Result<QByteArray> encodeJpegPlanes(JpegPlanes planes, const QByteArray &profile, const JpegSettings &settings)
 {
-    Encoder encoder;
     std::vector<std::vector<JSAMPROW>> rows(planes.size());
     std::for_each(planes.begin(), planes.end(), fillBlocks);
-    encoder.info.err = prepare(encoder.errors);
-    if (setjmp(encoder.errors.jump))
-        return notMade(encoder.errors);
-    jpeg_create_compress(&encoder.info);
-    jpeg_mem_dest(&encoder.info, &encoder.bytes, &encoder.size);
-    configure(encoder.info, planes.front().size(), int(planes.size()), settings);
-    encoder.info.raw_data_in = TRUE;
-    jpeg_start_compress(&encoder.info, TRUE);
-    writeProfile(encoder.info, profile);
-    writePlanes(encoder.info, planes, rows);
-    jpeg_finish_compress(&encoder.info);
-    return QByteArray(reinterpret_cast<const char *>(encoder.bytes), qsizetype(encoder.size));
+    const auto write = [&](jpeg_compress_struct &info) {
+        writePlanes(info, planes, rows);
+        return true;
+    };
+    return encoded(planes.front().size(), int(planes.size()), Input::Planes, write, profile, settings);
+}
+
+Result<QByteArray> encodeJpegRows(QSize size, int components, const DrawPlaneRows &draw, const QByteArray &profile,
+                                  const JpegSettings &settings)
+{
+    DrawnBands bands;
+    const auto write = [&](jpeg_compress_struct &info) {
+        writeBands(info, bands, draw);
+        return true;
+    };
+    return encoded(size, components, Input::Planes, write, profile, settings);
 }
 
 } // namespace platform

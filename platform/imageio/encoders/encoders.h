@@ -8,6 +8,7 @@
 #include "platform/imageio/metadata/container_blocks.h"
 #include "platform/planes/plane.h"
 
+#include <functional>
 #include <vector>
 
 namespace platform {
@@ -26,6 +27,13 @@ struct JpegSettings
 /** 8 bit grey, RGB or CMYK pixels in memory as a baseline JPEG with the profile of the image. */
 Result<QByteArray> encodeJpeg(const vips::VImage &image, const JpegSettings &settings);
 
+/** Fills the next row of pixels, from top to bottom; false if there is none. */
+using NextPixelRow = std::function<bool(uchar *row)>;
+
+/** The same from rows, of which no more than one is in memory. */
+Result<QByteArray> encodeJpegPixels(QSize size, int bands, const NextPixelRow &next, const QByteArray &profile,
+                                    const JpegSettings &settings);
+
 /** Brightness, alone or with JPEG's two colour differences. */
 using JpegPlanes = std::vector<Plane>;
 
@@ -34,6 +42,13 @@ QSize jpegSampling(const JpegSettings &settings, int components);
 
 /** The same file from planes of the sizes given by jpegSampling(); brightness has the size of the picture. */
 Result<QByteArray> encodeJpegPlanes(JpegPlanes planes, const QByteArray &profile, const JpegSettings &settings);
+
+/** Draws @p count rows of a plane from row @p first on. Rows are asked for from top to bottom. */
+using DrawPlaneRows = std::function<void(int plane, int first, int count, uchar *const *rows)>;
+
+/** The same for planes that are drawn while they are encoded, so that they are never complete. */
+Result<QByteArray> encodeJpegRows(QSize size, int components, const DrawPlaneRows &draw, const QByteArray &profile,
+                                  const JpegSettings &settings);
 
 /** These throw vips::VError. */
 QByteArray encodePng(const vips::VImage &image, Resolution resolution);

@@ -2,6 +2,7 @@
 
 #include "platform/graphics/resample.h"
 #include "platform/imageio/source/image_source.h"
+#include "platform/imageio/source/screen_pixels.h"
 
 namespace platform {
 
@@ -144,6 +145,10 @@ Result<Bitmap> Picture::scaledTo(QSize pixels) const
         return failure(ErrorCode::InvalidValue, QStringLiteral("There is no picture to scale"));
     if (m_contents->scaled.size() == pixels)
         return m_contents->scaled;
+    // The first size is made without any detour; what is asked for other sizes decodes a step that serves them all.
+    const bool isFirst = !isDecoded() && m_contents->scaled.isNull() && m_contents->reduced.isNull();
+    if (const auto straight = isFirst ? screenPixelsOf(m_contents->source, pixels) : std::nullopt)
+        return m_contents->scaled = *straight;
     if (!isDecoded()) {
         Result<Bitmap> decoded = decodedAt(pixels);
         if (!decoded)

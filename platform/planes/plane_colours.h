@@ -1,0 +1,12 @@
+#pragma once
+
+// Private to the platform.
+
+#include <QtGlobal>
+
+namespace platform {
+
+/** Makes red, green and blue of brightness and JPEG's two colour differences, @p count of each; the same everywhere. */
+void coloursOf(const uchar *brightness, const uchar *blueness, const uchar *redness, uchar *rgb, int count);
+
+} // namespace platform

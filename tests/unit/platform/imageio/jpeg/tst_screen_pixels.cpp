@@ -1,0 +1,135 @@
+#include "platform/imageio/source/screen_pixels.h"
+
+#include "platform/graphics/resample.h"
+#include "tests/support/expected_pictures.h"
+#include "tests/support/test_program.h"
+#include "tests/unit/platform/imageio/jpeg/jpeg_difference.h"
+
+#include <QTest>
+
+using platform::Bitmap;
+using platform::ImageSource;
+using tests::Difference;
+using tests::differenceOf;
+using tests::jpegOf;
+using tests::photograph;
+
+namespace {
+
+QImage colours(const Bitmap &bitmap)
+{
+    return bitmap.toRawImage().convertToFormat(QImage::Format_RGB888);
+}
+
+} // namespace
+
+/** JPEGs that are shown small, made from the decoder's planes. */
+class ScreenPixels : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void areAsGoodAsTheLongWayAtAnySize();
+    void areUpright_data();
+    void areUpright();
+    void leaveOtherPicturesToTheLongWay_data();
+    void leaveOtherPicturesToTheLongWay();
+};
+
+/** Both ways against all pixels scaled. */
+void ScreenPixels::areAsGoodAsTheLongWayAtAnySize()
+{
+    QRandomGenerator random(3);
+    int largest = 0;
+    for (int i = 0; i < tests::repetitions(20, 500); ++i) {
+        const QSize size(random.bounded(100, 900), random.bounded(100, 700));
+        const QImage image = photograph(size, quint32(i));
+        const bool isGrey = i % 5 == 4;
+        const Bitmap pixels = Bitmap::fromImage(isGrey ? image.convertToFormat(QImage::Format_Grayscale8) : image);
+        const auto source = ImageSource::fromData(jpegOf(pixels, i % 2 == 0 ? 85 : 93));
+        QVERIFY(source);
+        const QSize wanted(random.bounded(size.width() / 9 + 1, size.width() / 2 + 1),
+                           random.bounded(size.height() / 9 + 1, size.height() / 2 + 1));
+        const auto made = platform::screenPixelsOf(*source, wanted);
+        QVERIFY(made);
+        QCOMPARE(made->size(), wanted);
+        QCOMPARE(made->bandCount(), isGrey ? 1 : 3);
+        const auto whole = source->decode().and_then([&](const Bitmap &b) { return platform::resample(b, wanted); });
+        const auto halved =
+            source->decodeAtLeast(wanted).and_then([&](const Bitmap &b) { return platform::resample(b, wanted); });
+        QVERIFY(whole && halved);
+        const Difference found = differenceOf(colours(*made), colours(*whole));
+        const Difference long_ = differenceOf(colours(*halved), colours(*whole));
+        largest = std::max(largest, differenceOf(colours(*made), colours(*halved)).largest);
+        const QByteArray about = QStringLiteral("%1x%2 to %3x%4: %5 dB, the long way %6 dB")
+                                     .arg(size.width())
+                                     .arg(size.height())
+                                     .arg(wanted.width())
+                                     .arg(wanted.height())
+                                     .arg(found.decibels)
+                                     .arg(long_.decibels)
+                                     .toUtf8();
+        // Colours are halved with brightness and not decoded at twice the size, which is seen below 45 dB at the most.
+        constexpr double nobodySees = 45;
+        QVERIFY2(found.decibels > std::min(long_.decibels - 0.3, nobodySees), about.constData());
+    }
+    qInfo("at most %d levels from the long way", largest);
+}
+
+void ScreenPixels::areUpright_data()
+{
+    QTest::addColumn<QString>("file");
+    for (const expected::Row &row : expected::rows(QStringLiteral("orientation/")))
+        if (row.isDecodable && row.path.endsWith(QLatin1String(".jpg")))
+            QTest::newRow(qPrintable(row.name)) << row.path;
+}
+
+void ScreenPixels::areUpright()
+{
+    QFETCH(QString, file);
+    const auto source = ImageSource::open(file);
+    QVERIFY(source);
+    const QSize wanted = source->uprightSize() / 3;
+    const auto made = platform::screenPixelsOf(*source, wanted);
+    constexpr int shortestSide = 64;
+    QCOMPARE(made.has_value(), std::min(source->storedSize().width(), source->storedSize().height()) >= shortestSide);
+    if (!made)
+        return;
+    const auto other = source->decodeScaled(wanted);
+    QVERIFY(other);
+    QCOMPARE(made->size(), other->size());
+    QCOMPARE(made->horizontalDpi(), other->horizontalDpi());
+    QCOMPARE(made->verticalDpi(), other->verticalDpi());
+    QCOMPARE(made->iccProfile(), other->iccProfile());
+    QVERIFY(differenceOf(colours(*made), colours(*other)).decibels > 30);
+}
+
+void ScreenPixels::leaveOtherPicturesToTheLongWay_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name : {"cmyk-adobe.jpg", "rgb-without-conversion.jpg", "sampled-3x1.jpg"})
+        QTest::newRow(name) << QStringLiteral(QUORLIN_TEST_DATA "/jpeg/") + QString::fromLatin1(name);
+}
+
+void ScreenPixels::leaveOtherPicturesToTheLongWay()
+{
+    QFETCH(QString, name);
+    const auto source = ImageSource::open(name);
+    QVERIFY(source);
+    QVERIFY(!platform::screenPixelsOf(*source, source->uprightSize() / 3));
+    const QByteArray whole = jpegOf(Bitmap::fromImage(photograph({200, 100}, 1)), 80);
+    const auto plain = ImageSource::fromData(whole);
+    QVERIFY(plain);
+    QVERIFY(platform::screenPixelsOf(*plain, {100, 50}));
+    QVERIFY(!platform::screenPixelsOf(*plain, {101, 50})); // more than half
+    QVERIFY(!platform::screenPixelsOf(*plain, {0, 50}));
+    QVERIFY(!platform::screenPixelsOf(*plain, {1, 50})); // further than the weights reach
+    QByteArray damaged = whole;
+    damaged.replace(whole.size() * 3 / 4, 2, "\xff\xd3"); // a marker in the middle of the coefficients
+    const auto odd = ImageSource::fromData(damaged);
+    QVERIFY(odd);
+    QVERIFY(!platform::screenPixelsOf(*odd, {50, 25}));
+}
+
+QUORLIN_TEST(ScreenPixels)
+#include "tst_screen_pixels.moc"
