@@ -74,7 +74,7 @@ TASKS = {
               {"operations": [{"do": "flip", "direction": "horizontal"}], "outputs": [{}]}, 1.0, 120, count=FEW,
               others={"jpegtran": (each('jpegtran -flip horizontal -copy all -outfile "$out/${f##*/}" "$f"'), 0.85)}),
     "d7": Task("full {i} {o} -q 92", ("turn.js", "d7"),
-               jpeg(92, {"do": "turn", "degrees": -7.5, "color": "#000000"}), 2.7, 140, count=FEW, size=None),
+               {"operations": [{"do": "turn", "degrees": -7.5, "color": "#000000"}], "outputs": [{}]}, 2.7, 140, count=FEW, size=None),
     "f": Task("crop {i} {o}", ("mask.js", "f"), jpeg(90, {"do": "crop", "width": 3000, "height": 2250}), 1.15, 80, count=FEW,
               size=lambda width, height: (min(width, 3000), min(height, 2250)),
               others={"jpegtran": (each('jpegtran -crop 3000x2250+496+368 -copy all -outfile "$out/${f##*/}" "$f"'), 1.05)}),
