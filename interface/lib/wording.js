@@ -24,9 +24,9 @@ export function fillNumbers(text, ...numbers) {
     return fill(text, ...numbers.map(numberText));
 }
 
-/** 39.68 gives "39.7 %" in the reader's number format, with a non-breaking space where there is one. */
+/** 39.68 gives "39.7%" in the reader's form, with a non-breaking space where there is one. */
 export function percent(value) {
-    return (Math.round(value * 10) / 10).toLocaleString() + "\u00a0%";
+    return fill(qsTr("%1%"), (Math.round(value * 10) / 10).toLocaleString());
 }
 
 /** The path with the home folder written as "~". */

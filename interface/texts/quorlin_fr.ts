@@ -11872,6 +11872,10 @@
             <numerusform>%n problèmes</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1 %</translation>
+    </message>
 </context>
 <context>
     <name>worker-job</name>
