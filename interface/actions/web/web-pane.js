@@ -34,7 +34,7 @@ export class WebPane extends Pane {
         this.fill();
     }
 
-    // The engine does not know `this` in a function that the constructor of a derived class makes.
+    // Not in the constructor: there the engine gave the function no `this`.
     newPreview() {
         return new WebPreview(this.window.services, (text) => this.told(text));
     }
