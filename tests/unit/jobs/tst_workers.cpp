@@ -35,6 +35,7 @@ private Q_SLOTS:
     void survivesSignals_data();
     void survivesSignals();
     void makesTheSameWithAnyNumber();
+    void usesOneProcessorEach();
     void stops_data();
     void stops();
     void diesWithItsParent();
@@ -351,6 +352,31 @@ void TestWorkers::makesTheSameWithAnyNumber()
     QCOMPARE(reports[1], reports[0]);
     QCOMPARE(reports[2], reports[0]);
     QVERIFY(files[1] == files[0] && files[2] == files[0] && !files[0].isEmpty());
+}
+
+/** However many there are, and whatever its environment wants: the others are for other workers. */
+void TestWorkers::usesOneProcessorEach()
+{
+    constexpr qsizetype wanted = 16;
+    qputenv("VIPS_CONCURRENCY", QByteArray::number(wanted));
+    World world;
+    world.addMany(4, {3000, 2000});
+    qsizetype most = 0;
+    QTimer looks;
+    QObject::connect(&looks, &QTimer::timeout, &looks, [&most] {
+        for (const pid_t worker : childProcesses())
+            most = std::max(
+                most,
+                QDir(QStringLiteral("/proc/%1/task").arg(worker)).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size());
+    });
+    looks.start(2);
+    batches::Run run;
+    run.crew = {batches::workerProgram(), 1, {}};
+    const auto lines = batches::sortedLinesOf(recipe, world.pictures, run);
+    qunsetenv("VIPS_CONCURRENCY");
+    QCOMPARE(run.summary.ok, int(lines.size()));
+    // One that works, one that waits for it, and one that writes.
+    QVERIFY2(most > 1 && most < wanted / 2, qPrintable(QString::number(most)));
 }
 
 void TestWorkers::stops_data()
