@@ -9,16 +9,10 @@ import { webPages } from "quorlin/web";
 import { KnownFacts } from "./lib/known-facts.js";
 import { emptyTable } from "./lib/names.js";
 
-// In the form of the conversion service, but without opening a picture in this process if others do that.
-const lengths = {
-    getPictureDPI: (path) => pictures.resolution(path),
-    convertXtoPixel: (path, _target, unit, value) => pictures.inPixels(value, unit, pictures.resolution(path)),
-};
-
-/** {units, fileHandling, files, facts, names, moves, webPages, pictures, recipes, unitCache}. */
+/** {fileHandling, files, facts, names, moves, webPages, pictures, recipes, unitCache}. */
 export function makeServices() {
     return {
-        units: lengths, fileHandling: new cNSFileHandling(), files: files,
+        fileHandling: new cNSFileHandling(), files: files,
         facts: new KnownFacts(files), names: new cNSStringHandling(),
         pictures: pictures, recipes: recipes, moves: moves, webPages: webPages,
         unitCache: emptyTable(),

@@ -1,5 +1,5 @@
-// Lengths in units of printing, and the pixels that they are in a picture of a given resolution. Services used: units
-// (convertXtoPixel, getPictureDPI); what they say about a file is cached in unitCache.
+// Lengths in units of printing, and the pixels that they are in a picture of a given resolution. Services used:
+// pictures (resolution, inPixels); what they say about a file is cached in unitCache.
 
 export const PIXEL = "pixel";
 /** The names that the conversion uses. */
@@ -33,12 +33,12 @@ export function toPixels(photo, unit, value, services) {
         return Math.trunc(value);
     }
     return remembered(services, photo.path + "\n" + unit + "\n" + value,
-                      () => services.units.convertXtoPixel(photo.path, PIXEL, unit, value));
+                      () => services.pictures.inPixels(value, unit, services.pictures.resolution(photo.path)));
 }
 
 /** The resolution of a picture, in whole dots per inch. */
 export function dpiOf(photo, services) {
-    return remembered(services, photo.path, () => services.units.getPictureDPI(photo.path));
+    return remembered(services, photo.path, () => services.pictures.resolution(photo.path));
 }
 
 export const MOST_DPI = 10000;

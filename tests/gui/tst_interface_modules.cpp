@@ -79,6 +79,24 @@ private Q_SLOTS:
         QVERIFY2(module.has_value(), module ? "" : qPrintable(module.error().message));
     }
 
+    /** These work in the process that calls them, and are there for scripts of users. */
+    void callsNothingThatOpensPicturesHere()
+    {
+        const QSet<QString> operations = {QStringLiteral("hShowCropBox"),    QStringLiteral("getPictureDPI"),
+                                          QStringLiteral("convertXtoPixel"), QStringLiteral("hiDoNothing"),
+                                          QStringLiteral("btEMDchooseFile"), QStringLiteral("btEMDchooseFolder"),
+                                          QStringLiteral("printService")};
+        const QSet<QString> classes = {QStringLiteral("ZtImageHandling"), QStringLiteral("cMConversion"),
+                                       QStringLiteral("mMeta"), QStringLiteral("cEditMetaData"),
+                                       QStringLiteral("cPrint")};
+        const QString contract = textOf(interfacePath(QStringLiteral("quorlin.d.ts")));
+        for (const QString &name : operations + classes)
+            QVERIFY2(contract.contains(name), qPrintable(name));
+        for (const QString &path : filesEnding(QStringLiteral(".js")))
+            for (const QString &word : captures(textOf(path), R"(\b(\w+)\b)"))
+                QVERIFY2(!operations.contains(word) && !classes.contains(word), qPrintable(path + u' ' + word));
+    }
+
     void everyControlThatAModuleNamesIsInItsForm_data()
     {
         QTest::addColumn<QStringList>("modules");

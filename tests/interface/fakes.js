@@ -213,14 +213,14 @@ export function fakeServices(written, status) {
                 files.sizes = written;
                 return services.patternProblem || "";
             },
+            // 254 dots per inch: ten to the millimetre.
+            asked: 0,
+            resolution: () => 254,
+            inPixels: (value, unit) => {
+                services.pictures.asked += 1;
+                return Math.trunc(value * { mm: 10, cm: 100, inch: 254 }[unit]);
+            },
         },
-        // 254 dots per inch: ten to the millimetre.
-        units: { asked: 0,
-                 getPictureDPI: () => 254,
-                 convertXtoPixel: (path, target, unit, value) => {
-                     services.units.asked += 1;
-                     return Math.trunc(value * { mm: 10, cm: 100, inch: 254 }[unit]);
-                 } },
     };
     return services;
 }

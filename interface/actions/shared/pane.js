@@ -152,7 +152,7 @@ export class Pane {
 
     // The resolution stated by the picture.
     ownDpi(photo, services) {
-        const isNeeded = this.settings.unit !== undefined && Boolean(services.units);
+        const isNeeded = this.settings.unit !== undefined && Boolean(services.pictures);
         return isNeeded && photo !== null && photo.width > 0 ? dpiOf(photo, services) : USUAL_DPI;
     }
 

@@ -6,7 +6,7 @@ const picture = photo("/p/a.jpg", 4000, 3000);
 
 test("leavesPixelsAlone", () => {
     const services = fakeServices({});
-    equal([toPixels(picture, "pixel", 1600, services), services.units.asked], [1600, 0]);
+    equal([toPixels(picture, "pixel", 1600, services), services.pictures.asked], [1600, 0]);
 });
 
 test("changesOnlyTheNamedLengths", () => {
