@@ -1558,6 +1558,8 @@ declare module "quorlin/moves" {
         date: string;
         count: whole;
         done: whole;
+        /** The same as people count: what was put aside, and what took its place, are one. */
+        files: whole;
         state: "open" | "done" | "cancelled" | "undone" | "recovered";
         /** The run that this one takes back, or empty. */
         undoes: string;
@@ -1604,6 +1606,8 @@ declare module "quorlin/moves" {
         dropOrder(order: text): null;
         /** Carries out one more item; null after the last one. */
         next(run: text): (Outcome & { index: whole }) | null;
+        /** After an item that failed with the code "full": next() tries it again. False where that cannot be. */
+        again(run: text): boolean;
         /** Empty, or what went wrong. May come before the last item: every file then has its old or its new name. */
         end(run: text): string;
         /** A run whose items are added one by one. */

@@ -166,7 +166,7 @@ private:
             return takeMaking(line[key("making")].toString());
         if (line.contains(key("item")))
             return addItem(line);
-        for (const char *word : {"done", "failed", "copied", "takenBack"})
+        for (const char *word : {"done", "failed", "copied", "takenBack", "again"})
             if (line.contains(key(word)))
                 return takeNews(word, line);
         return true;
@@ -207,6 +207,7 @@ private:
         run.end = line[key("end")].toString();
         run.count = line[key("count")].toInt();
         run.doneAtEnd = line[key("done")].toInt();
+        run.filesAtEnd = line[key("files")].toInt(run.doneAtEnd);
         return true;
     }
 
@@ -228,6 +229,10 @@ private:
             record->path = line[key("path")].toString();
         } else if (word == "copied") {
             record->copied = stateFrom(line[key("is")]);
+        } else if (word == "again") {
+            const MoveItem item = record->item;
+            *record = MoveRecord();
+            record->item = item;
         } else {
             record->stand = Stand::TakenBack;
         }
@@ -364,6 +369,11 @@ QByteArray takenBackLine(int index)
     return lineOf({{key("takenBack"), index}});
 }
 
+QByteArray againLine(int index)
+{
+    return lineOf({{key("again"), index}});
+}
+
 QByteArray copiedLine(int index, const ItemState &state)
 {
     return lineOf({{key("copied"), index}, {key("is"), stateObject(state)}});
@@ -379,9 +389,9 @@ QByteArray cutLine()
     return '\n' + lineOf({{key("cut"), true}});
 }
 
-QByteArray endLine(const QString &end, int count, int done)
+QByteArray endLine(const QString &end, int count, int done, int files)
 {
-    return lineOf({{key("end"), end}, {key("count"), count}, {key("done"), done}});
+    return lineOf({{key("end"), end}, {key("count"), count}, {key("done"), done}, {key("files"), files}});
 }
 
 class RecordReading::Reader : public JournalReader

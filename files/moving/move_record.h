@@ -84,6 +84,7 @@ struct RunRecord
     QStringList made; ///< folders that the run made
     QString end;      ///< "done", "cancelled" or "recovered"; empty while it is open
     int doneAtEnd = 0;
+    int filesAtEnd = 0;     ///< as filesOf() counts
     bool isWhole = true;    ///< false: the last line was truncated
     bool isBegun = false;   ///< a line says that something was done
     bool isDamaged = false; ///< lines cannot be read, or say something impossible
@@ -105,11 +106,13 @@ QByteArray itemLine(int index, const MoveItem &item);
 QByteArray doneLine(int index, const MoveRecord &record);
 QByteArray failedLine(int index, const MoveRecord &record);
 QByteArray takenBackLine(int index);
+/** An item that failed is to be carried out after all. */
+QByteArray againLine(int index);
 QByteArray copiedLine(int index, const platform::ItemState &state);
 QByteArray makingLine(const QString &folder);
 /** Completes a truncated line. */
 QByteArray cutLine();
-QByteArray endLine(const QString &end, int count, int done);
+QByteArray endLine(const QString &end, int count, int done, int files);
 
 /**
  * A journal read back. Every line has a checksum that reveals damage; damaged lines are skipped, and so is a truncated

@@ -2,6 +2,7 @@
 
 #include "files/moving/move_beginning.h"
 #include "files/moving/move_paths.h"
+#include "files/moving/standing_items.h"
 #include "files/planning/move_names.h"
 
 #include "platform/foundation/paths.h"
@@ -105,6 +106,20 @@ std::optional<MoveResult> MoveRun::next()
     MoveResult result = m_results.front();
     m_results.pop_front();
     return result;
+}
+
+bool MoveRun::again()
+{
+    const bool isOneStep = m_step == m_groupEnd && m_groupEnd == m_groupBegin + 1 && m_results.empty();
+    const int index = isOneStep ? m_record.steps[m_groupBegin].item : -1;
+    if (index < 0 || at(index).stand != Stand::Failed || at(index).why != MoveProblem::Full)
+        return false;
+    MoveRecord waiting;
+    waiting.item = at(index).item;
+    at(index) = waiting;
+    (void)note(againLine(index));
+    m_step = m_groupBegin;
+    return true;
 }
 
 /** Items that cannot be ordered have no step. */
@@ -283,15 +298,17 @@ void MoveRun::close(const QString &end)
     for (const QString &folder : m_touched)
         m_disk.settle(folder);
     const auto isAside = [](const MoveRecord &record) { return record.stand == Stand::Aside; };
-    const auto isDone = [](const MoveRecord &record) { return record.stand == Stand::Done; };
-    const auto done = std::count_if(m_record.items.begin(), m_record.items.end(), isDone);
+    const std::vector<int> doneItems = doneItemsOf(m_record);
+    const int done = int(doneItems.size());
+    const int files = filesOf(m_record, doneItems);
     // The next start tries again to restore or remove what could not be, and so it does with an incomplete journal.
     if (!m_unwritten.isEmpty())
         m_trouble = note({}, Lasting::AtOnce);
     if (m_trouble && !m_operations.hasLeftOver() && std::none_of(m_record.items.begin(), m_record.items.end(), isAside))
-        m_trouble = note(endLine(end, int(m_record.items.size()), int(done)), Lasting::AtOnce);
+        m_trouble = note(endLine(end, int(m_record.items.size()), done, files), Lasting::AtOnce);
     m_record.end = end;
-    m_record.doneAtEnd = int(done);
+    m_record.doneAtEnd = done;
+    m_record.filesAtEnd = files;
     m_shelf.letGo(m_record.id);
 }
 

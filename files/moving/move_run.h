@@ -58,6 +58,8 @@ public:
 
     /** Carries out one more item; nothing after the last one. */
     std::optional<MoveResult> next();
+    /** Has next() try the last item again if it failed because the disk is full. False if it did not, or is part of a circle. */
+    bool again();
     /** Ends the run, even before its last item. Fails if the journal could not be completed. */
     platform::Result<void> end();
 

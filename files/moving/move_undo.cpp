@@ -292,7 +292,7 @@ Undoable undoableItems(const JournalShelf &shelf, const QString &run)
     while (!journals.step())
         ;
     const std::vector<int> standing = journals.items();
-    return {int(standing.size()), whyNot(journals.record(), standing)};
+    return {filesOf(journals.record(), standing), whyNot(journals.record(), standing)};
 }
 
 std::vector<RunSummary> listRuns(const JournalShelf &shelf)

@@ -1,8 +1,24 @@
 #include "files/moving/standing_items.h"
 
+#include <QHash>
+
+#include <algorithm>
 #include <utility>
 
 namespace files {
+namespace {
+
+bool leaves(Operation operation)
+{
+    return operation == Operation::Move || operation == Operation::Trash || operation == Operation::RemoveCopy;
+}
+
+bool takes(Operation operation)
+{
+    return operation == Operation::Move || operation == Operation::Copy || operation == Operation::Restore;
+}
+
+} // namespace
 
 StandingItems::StandingItems(const JournalShelf &shelf, const QString &run)
     : m_shelf(shelf), m_run(run), m_names(shelf.names())
@@ -82,6 +98,35 @@ std::vector<bool> StandingItems::standing(const QString &name)
                 stands[size_t(of)] = false;
     }
     return stands;
+}
+
+std::vector<int> doneItemsOf(const RunRecord &run)
+{
+    std::vector<int> done;
+    for (int i = 0; i < int(run.items.size()); ++i)
+        if (run.items[size_t(i)].stand == Stand::Done)
+            done.push_back(i);
+    return done;
+}
+
+int filesOf(const RunRecord &run, const std::vector<int> &items)
+{
+    const auto isMoved = [&run](int index) { return run.items[size_t(index)].item.operation == Operation::Move; };
+    if (std::all_of(items.begin(), items.end(), isMoved))
+        return int(items.size());
+    QHash<QString, Operation> takers;
+    for (const int index : items)
+        if (const MoveItem &item = run.items[size_t(index)].item; takes(item.operation))
+            takers.insert(item.to, item.operation);
+    const auto isPutAside = [&](int index) {
+        const MoveItem &item = run.items[size_t(index)].item;
+        const auto taker = takers.constFind(item.from);
+        if (!leaves(item.operation) || taker == takers.constEnd())
+            return false;
+        // Where one file is moved to the place that another was moved from, these are two.
+        return item.operation != Operation::Move || *taker != Operation::Move;
+    };
+    return int(items.size()) - int(std::count_if(items.begin(), items.end(), isPutAside));
 }
 
 } // namespace files

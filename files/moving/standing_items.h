@@ -46,4 +46,13 @@ private:
     std::set<QString> m_seen; ///< a damaged journal can name itself as undone
 };
 
+/** The items of a run that are done. */
+std::vector<int> doneItemsOf(const RunRecord &run);
+
+/**
+ * How many files these items of a run are to the user: a file that was put aside and the result in its place are one, and so they are when
+ * both are undone.
+ */
+int filesOf(const RunRecord &run, const std::vector<int> &items);
+
 } // namespace files

@@ -20,8 +20,7 @@ void UndoableRuns::ended(const RunRecord &run)
     lookForNewRuns();
     forget(run.undoes);
     Undoable answer;
-    for (const MoveRecord &item : run.items)
-        answer.count += item.isKnown && item.stand == Stand::Done;
+    answer.count = run.filesAtEnd;
     answer.why = answer.count > 0 ? MoveProblem::None : MoveProblem::EmptyRun;
     m_known[run.id] = answer;
 }

@@ -97,8 +97,8 @@ QVariantMap mapOf(const RunSummary &summary)
 {
     return {{QStringLiteral("id"), summary.run.id},          {QStringLiteral("title"), summary.run.title},
             {QStringLiteral("date"), summary.run.date},      {QStringLiteral("count"), summary.run.count},
-            {QStringLiteral("done"), summary.run.doneAtEnd}, {QStringLiteral("state"), summary.state},
-            {QStringLiteral("undoes"), summary.run.undoes}};
+            {QStringLiteral("done"), summary.run.doneAtEnd}, {QStringLiteral("files"), summary.run.filesAtEnd},
+            {QStringLiteral("state"), summary.state},        {QStringLiteral("undoes"), summary.run.undoes}};
 }
 
 QVariantMap mapOf(const RecoveredRun &run)
@@ -120,6 +120,8 @@ template<typename Values> QVariantList listOf(const Values &values)
     return list;
 }
 
+std::function<std::unique_ptr<platform::FileSystem>()> diskSource;
+
 QVariantMap failed(MoveProblem why, const QString &message, const QString &path)
 {
     return mapOf(MoveResult{-1, Stand::Failed, why, message, path});
@@ -127,9 +129,14 @@ QVariantMap failed(MoveProblem why, const QString &message, const QString &path)
 
 } // namespace
 
+void MoveService::setDiskSource(std::function<std::unique_ptr<platform::FileSystem>()> source)
+{
+    diskSource = std::move(source);
+}
+
 MoveService::MoveService(QObject *parent)
-    : MoveService(std::make_unique<platform::DiskFileSystem>(), std::make_unique<DiskJournalShelf>(journalFolder()),
-                  parent)
+    : MoveService(diskSource ? diskSource() : std::make_unique<platform::DiskFileSystem>(),
+                  std::make_unique<DiskJournalShelf>(journalFolder()), parent)
 {
 }
 
@@ -294,6 +301,12 @@ QVariant MoveService::next(const QString &run)
     MoveRun *active = found(run);
     const auto result = active ? active->next() : std::nullopt;
     return result ? QVariant(mapOf(*result)) : nothing;
+}
+
+bool MoveService::again(const QString &run)
+{
+    MoveRun *active = found(run);
+    return active && active->again();
 }
 
 QString MoveService::end(const QString &run)

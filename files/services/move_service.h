@@ -10,6 +10,7 @@
 #include <QObject>
 #include <QVariant>
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -70,6 +71,8 @@ public:
     Q_INVOKABLE void dropOrder(const QString &order);
     /** {index, status: "OK", "Failed" or "Skipped", code, message, path}; null after the last item and for an unknown run. */
     Q_INVOKABLE QVariant next(const QString &run);
+    /** After an item that failed with the code "full": next() tries it again. False if that is not possible. */
+    Q_INVOKABLE bool again(const QString &run);
     /** Ends a run, even before its last item. */
     Q_INVOKABLE QString end(const QString &run);
 
@@ -103,12 +106,18 @@ public:
      */
     Q_INVOKABLE QString beginUndo(const QString &run);
     Q_INVOKABLE QVariantList itemsOf(const QString &run, int from, int to) const;
-    /** [{id, title, date, count, done, state, undoes}], the newest first; see listRuns(). */
+    /** [{id, title, date, count, done, files, state, undoes}], the newest first; see listRuns(). */
     Q_INVOKABLE QVariantList runs() const;
     /** Recovers interrupted runs: [{id, title, done, finished, takenBack, left, problems}]. Once, at start. */
     Q_INVOKABLE QVariantList recover();
     /** What is left to do of a run that recover() ended: {items: [{kind, from, to, leader}], places}, see restOf(). */
     Q_INVOKABLE QVariantMap rest(const QString &run) const;
+
+    /**
+     * Tests have disks as full as they like: what services that are made from now on see a disk through, until it is set to
+     * nothing.
+     */
+    static void setDiskSource(std::function<std::unique_ptr<platform::FileSystem>()> source);
 
 private:
     /** A plan being made; it is started when the last request is known. */

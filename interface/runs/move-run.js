@@ -2,6 +2,7 @@
 
 import { guard } from "../lib/guard.js";
 import { isReadyRow, itemOf, readyItems, settled } from "./move-plan.js";
+import { askForRoom, restIn } from "./making/full-disk.js";
 import { MovedFolders } from "./moved-folders.js";
 import { refusalText } from "./move-words.js";
 import { splitPath } from "../lib/names.js";
@@ -67,6 +68,10 @@ export class MoveRun extends BaseRun {
         this.again = [];
         this.wished = null;
         this.filled = null;
+        /** The folder in which a run goes on whose own is full; "" for none. */
+        this.elsewhere = "";
+        this.goesOn = false;
+        this.unkept = "";
     }
 
     /** The folders that got files, if filling folders is what the action does. */
@@ -172,12 +177,17 @@ export class MoveRun extends BaseRun {
             this.finish(how === "failed" ? String(plan) : qsTr("Cancelled before the first file. Nothing was moved."));
             return;
         }
-        this.wished = [];
+        this.startMoving();
+        this.beginAgain(plan, again);
+    }
+
+    beginAgain(plan, again) {
+        this.wished = this.wished || [];
         again.forEach((row) => { this.wished[row.of] = row.wish; });
+        this.done = [];
         this.items = plan.ready
             .map((item) =>
                 Object.assign({}, item, { row: again[item.row].of, along: item.along || again[item.row].isAlong }));
-        this.startMoving();
         again.forEach((row, i) => {
             if (!isReadyRow(plan, i)) {
                 this.noteFailed({ kind: row.wish.kind, from: row.from, to: row.wish.to, row: row.of,
@@ -223,7 +233,7 @@ export class MoveRun extends BaseRun {
 
     begin() {
         if (this.window.action.fillsFolders) {
-            this.filled = new MovedFolders(this.window.services.files, this.items.map((item) => item.to));
+            this.filled = this.filled || new MovedFolders(this.window.services.files);
         }
         const work = this.preparing();
         this.job.start(work, () => undefined, guard("moves.begun", (how, begun) => this.begun(how, begun)));
@@ -231,15 +241,22 @@ export class MoveRun extends BaseRun {
 
     * preparing() {
         this.rowAt = yield* rowsByPathInParts(this.window.pictures);
+        for (let i = 0; i < this.items.length && this.filled !== null; i += 1) {
+            this.filled.expect(this.items[i].to);
+            if (i % ITEMS_AT_ONCE === ITEMS_AT_ONCE - 1) {
+                yield i;
+            }
+        }
         const begun = yield* prepared(this.window.services.moves, this.title, this.items);
         return begun;
     }
 
     begun(how, begun) {
-        if (how !== "done") {
-            this.finish(how === "failed" ? String(begun) : qsTr("Cancelled before the first file. Nothing was moved."));
-        } else if (begun.problem) {
-            this.finish(begun.problem);
+        const problem = how === "failed" ? String(begun) : begun && begun.problem;
+        if (this.goesOn && (how !== "done" || problem)) {
+            this.runEnded(problem ? "failed" : "cancelled", problem);
+        } else if (how !== "done" || problem) {
+            this.finish(problem || qsTr("Cancelled before the first file. Nothing was moved."));
         } else {
             this.carryOut(begun.run, carriedOut(this.window.services.moves, begun.run),
                           (result) => this.takeResult(result));
@@ -287,6 +304,9 @@ export class MoveRun extends BaseRun {
 
     takeResult(result) {
         const item = this.items[result.index];
+        if (result.code === "full" && this.isTriedAgain(item)) {
+            return;
+        }
         const told = { status: result.status, reason: result.message, path: result.path || item.to };
         this.done[result.index] = true;
         // Companions of a file that failed wait for it.
@@ -296,6 +316,45 @@ export class MoveRun extends BaseRun {
             this.noteResult(item, told);
         }
         this.countOne();
+    }
+
+    // A full disk is asked about. If the answer is to go on, the file has no result yet.
+    isTriedAgain(item) {
+        const wish = this.wished === null || item.row === undefined ? {} : this.wished[item.row];
+        const answer = askForRoom(wish.base || splitPath(item.to).folder, qsTr("Finished files are kept."),
+                                  wish.base !== undefined);
+        this.steppedMs = Date.now();
+        if (answer.isStopped || answer.folder !== null) {
+            this.elsewhere = answer.folder || "";
+            this.job.cancel();
+            return answer.folder !== null;
+        }
+        return this.window.services.moves.again(this.id);
+    }
+
+    // What is not done goes to another folder, in a second run.
+    goOnElsewhere() {
+        const left = this.items.filter((_item, i) => !this.done[i]);
+        const rest = restIn(this.elsewhere, retryRows(left, this.wished), this.wished);
+        this.elsewhere = "";
+        this.goesOn = true;
+        const work = this.planRest(rest);
+        this.job.start(work, () => undefined, guard("moves.elsewhere", (how, plan) => {
+            if (how === "done") {
+                this.beginAgain(plan, rest);
+            } else {
+                this.runEnded(how, plan);
+            }
+        }));
+    }
+
+    // What is done belongs to the run that ends here.
+    * planRest(rest) {
+        this.unkept = yield* this.keepLog();
+        this.keptRows = this.rows.length;
+        this.window.history.lookForRun();
+        const plan = yield* this.planAgain(rest);
+        return plan;
     }
 
     // One more file is done.
@@ -368,6 +427,10 @@ export class MoveRun extends BaseRun {
     }
 
     runEnded(how, value) {
+        if (this.elsewhere !== "" && !this.isAbandoned) {
+            this.goOnElsewhere();
+            return;
+        }
         const work = this.ending(how, value);
         this.endWith(work);
     }
@@ -381,7 +444,7 @@ export class MoveRun extends BaseRun {
             }
         }
         const problem = yield* this.keepLog();
-        const told = [how === "done" && value ? value : "", problem].filter((text) => text);
+        const told = [how === "done" && value ? value : "", problem || this.unkept].filter((text) => text);
         this.last = null;
         this.rowAt = null;
         this.again = this.undoes === "" && this.wished !== null ? retryRows(this.unfinished, this.wished) : [];
@@ -398,11 +461,19 @@ export class MoveRun extends BaseRun {
         this.window.reloadPreview();
     }
 
+    // What a run had put aside and what took its place are one file.
+    filesDone() {
+        const run = this.undone === null
+            ? undefined : this.window.services.moves.runs().find((each) => each.id === this.id);
+        return run === undefined ? this.moved : run.files;
+    }
+
     summaryText(how) {
         const action = this.window.action;
         const folders = this.filled === null ? undefined : this.filled.sum();
+        const number = this.filesDone();
         const done = this.undoes === ""
-            ? action.done(this.moved, this.settings, folders) : action.undone(this.moved, this.settings);
+            ? action.done(number, this.settings, folders) : action.undone(number, this.settings);
         const parts = [done + ", " + problemsText(this.problems)];
         if (this.undoes === "" && this.leftOut > 0) {
             parts.push(fillNumbers(qsTr("%1 left out"), this.leftOut));
@@ -443,9 +514,9 @@ export class MoveRun extends BaseRun {
         const run = last.run;
         const action = this.window.action;
         const isOther = run.title !== action.title();
-        const own = () => (run.undoes ? action.undone(run.done, null) : action.done(run.done, null));
+        const own = () => (run.undoes ? action.undone(run.files, null) : action.done(run.files, null));
         const words = isOther
-            ? fill(qsTr("%1, %2"), run.title, qsTr("%n files", "", run.done)) : own();
+            ? fill(qsTr("%1, %2"), run.title, qsTr("%n files", "", run.files)) : own();
         return fill(qsTr("Last run: %1, %2"), words, problemsText(Math.max(0, run.count - run.done)));
     }
 

@@ -3,15 +3,18 @@
 import { emptyTable, splitPath } from "../lib/names.js";
 
 export class MovedFolders {
-    /** @param paths  destinations of files; checked before the run */
-    constructor(files, paths) {
+    constructor(files) {
         this.files = files;
         this.seen = emptyTable();
         this.missing = [];
         /** The folders that got files, in that order. */
         this.used = [];
         this.isUsed = emptyTable();
-        paths.forEach((path) => this.look(splitPath(path).folder));
+    }
+
+    /** A file is about to go to that path. */
+    expect(path) {
+        this.look(splitPath(path).folder);
     }
 
     // If a folder exists, so do its parents.

@@ -5,6 +5,7 @@ import { runRecords } from "quorlin/records";
 import { shell } from "quorlin/shell";
 import { guard } from "../lib/guard.js";
 import { Flow } from "./making/flow.js";
+import { askForRoom } from "./making/full-disk.js";
 import { replacedFolder, Replacing } from "./making/replacing.js";
 import { RunRecord } from "./making/run-record.js";
 import { runByWorkers } from "./making/worker-job.js";
@@ -251,16 +252,14 @@ export class WriteRun extends BaseRun {
 
     // The run waits until there is room.
     askAboutRoom(item) {
-        const answer = shell.ask({
-            title: qsTr("The disk is full"), text: fill(qsTr("There is no space left in %1."), item.folder),
-            detail: qsTr("Finished pictures are kept. Free some space and try again, or choose another folder."),
-            buttons: [qsTr("Retry"), qsTr("Choose Folder…"), qsTr("Cancel")], initial: 0, escape: 2, check: "",
-        });
-        const folder = answer.button === 1 ? shell.chooseFolder(qsTr("Save the rest to"), item.folder) : null;
-        if (answer.button === 2 || (answer.button === 1 && folder === null)) {
+        this.roomAnswered(askForRoom(item.folder, qsTr("Finished pictures are kept."), true));
+    }
+
+    roomAnswered(answer) {
+        if (answer.isStopped) {
             this.flow.stop();
         } else {
-            this.flow.answerRoom(folder);
+            this.flow.answerRoom(answer.folder);
         }
     }
 

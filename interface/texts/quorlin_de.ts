@@ -5310,6 +5310,10 @@
         <source>Last run: %1, %2</source>
         <translation>Letzter Durchlauf: %1, %2</translation>
     </message>
+    <message>
+        <source>Finished files are kept.</source>
+        <translation>Fertige Dateien bleiben erhalten.</translation>
+    </message>
 </context>
 <context>
     <name>move-words</name>
@@ -9792,26 +9796,6 @@
 <context>
     <name>site-run</name>
     <message>
-        <source>The disk is full</source>
-        <translation>Der Datenträger ist voll</translation>
-    </message>
-    <message>
-        <source>There is no space left in %1.</source>
-        <translation>In %1 ist kein Speicherplatz mehr frei.</translation>
-    </message>
-    <message>
-        <source>Free some space and try again.</source>
-        <translation>Geben Sie Speicherplatz frei und versuchen Sie es noch einmal.</translation>
-    </message>
-    <message>
-        <source>Retry</source>
-        <translation>Erneut versuchen</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
-    </message>
-    <message>
         <source>done, waiting for the page</source>
         <translation>fertig, wartet auf die Seite</translation>
     </message>
@@ -12031,36 +12015,16 @@
         <translation>Die ersetzten Dateien (%1) kommen in den Papierkorb. „Rückgängig“ holt sie zurück.</translation>
     </message>
     <message>
-        <source>The disk is full</source>
-        <translation>Der Datenträger ist voll</translation>
-    </message>
-    <message>
-        <source>There is no space left in %1.</source>
-        <translation>In %1 ist kein Platz mehr.</translation>
-    </message>
-    <message>
-        <source>Finished pictures are kept. Free some space and try again, or choose another folder.</source>
-        <translation>Fertige Bilder bleiben erhalten. Schaffen Sie Platz und versuchen Sie es erneut, oder wählen Sie einen anderen Ordner.</translation>
-    </message>
-    <message>
-        <source>Retry</source>
-        <translation>Erneut versuchen</translation>
-    </message>
-    <message>
-        <source>Choose Folder…</source>
-        <translation>Ordner wählen …</translation>
-    </message>
-    <message>
-        <source>Save the rest to</source>
-        <translation>Den Rest speichern in</translation>
-    </message>
-    <message>
         <source>Undo</source>
         <translation>Rückgängig</translation>
     </message>
     <message>
         <source>On a disk without a trash they are kept in the folder “%1”.</source>
         <translation>Auf Datenträgern ohne Papierkorb bleiben sie im Ordner „%1“ erhalten.</translation>
+    </message>
+    <message>
+        <source>Finished pictures are kept.</source>
+        <translation>Fertige Bilder bleiben erhalten.</translation>
     </message>
 </context>
 <context>
@@ -13309,6 +13273,41 @@
     <message>
         <source>its old values cannot be kept: %1</source>
         <translation>die alten Werte können nicht aufbewahrt werden: %1</translation>
+    </message>
+</context>
+<context>
+    <name>full-disk</name>
+    <message>
+        <source>The disk is full</source>
+        <translation>Der Datenträger ist voll</translation>
+    </message>
+    <message>
+        <source>There is no space left in %1.</source>
+        <translation>In %1 ist kein Platz mehr.</translation>
+    </message>
+    <message>
+        <source>Free some space and try again, or choose another folder.</source>
+        <translation>Schaffen Sie Platz und versuchen Sie es erneut, oder wählen Sie einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>Free some space and try again.</source>
+        <translation>Schaffen Sie Platz und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Erneut versuchen</translation>
+    </message>
+    <message>
+        <source>Choose Folder…</source>
+        <translation>Ordner wählen …</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Save the rest to</source>
+        <translation>Den Rest speichern in</translation>
     </message>
 </context>
 </TS>

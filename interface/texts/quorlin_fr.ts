@@ -5310,6 +5310,10 @@
         <source>Last run: %1, %2</source>
         <translation>Dernier traitement&#x202f;: %1, %2</translation>
     </message>
+    <message>
+        <source>Finished files are kept.</source>
+        <translation>Les fichiers terminés sont gardés.</translation>
+    </message>
 </context>
 <context>
     <name>move-words</name>
@@ -9792,26 +9796,6 @@
 <context>
     <name>site-run</name>
     <message>
-        <source>The disk is full</source>
-        <translation>Le disque est plein</translation>
-    </message>
-    <message>
-        <source>There is no space left in %1.</source>
-        <translation>Il n’y a plus d’espace dans %1.</translation>
-    </message>
-    <message>
-        <source>Free some space and try again.</source>
-        <translation>Libérez de l’espace et réessayez.</translation>
-    </message>
-    <message>
-        <source>Retry</source>
-        <translation>Réessayer</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Annuler</translation>
-    </message>
-    <message>
         <source>done, waiting for the page</source>
         <translation>terminé, attend la page</translation>
     </message>
@@ -12031,36 +12015,16 @@
         <translation>Les fichiers remplacés (%1) vont à la corbeille. «&#x202f;Annuler&#x202f;» les restaure.</translation>
     </message>
     <message>
-        <source>The disk is full</source>
-        <translation>Le disque est plein</translation>
-    </message>
-    <message>
-        <source>There is no space left in %1.</source>
-        <translation>Il n’y a plus de place dans %1.</translation>
-    </message>
-    <message>
-        <source>Finished pictures are kept. Free some space and try again, or choose another folder.</source>
-        <translation>Les images terminées sont gardées. Libérez de la place et réessayez, ou choisissez un autre dossier.</translation>
-    </message>
-    <message>
-        <source>Retry</source>
-        <translation>Réessayer</translation>
-    </message>
-    <message>
-        <source>Choose Folder…</source>
-        <translation>Choisir un dossier…</translation>
-    </message>
-    <message>
-        <source>Save the rest to</source>
-        <translation>Enregistrer le reste dans</translation>
-    </message>
-    <message>
         <source>Undo</source>
         <translation>Annuler</translation>
     </message>
     <message>
         <source>On a disk without a trash they are kept in the folder “%1”.</source>
         <translation>Sur un disque sans corbeille, ils sont conservés dans le dossier «&#x202f;%1&#x202f;».</translation>
+    </message>
+    <message>
+        <source>Finished pictures are kept.</source>
+        <translation>Les images terminées sont gardées.</translation>
     </message>
 </context>
 <context>
@@ -13309,6 +13273,41 @@
     <message>
         <source>its old values cannot be kept: %1</source>
         <translation>ses anciennes valeurs ne peuvent pas être conservées : %1</translation>
+    </message>
+</context>
+<context>
+    <name>full-disk</name>
+    <message>
+        <source>The disk is full</source>
+        <translation>Le disque est plein</translation>
+    </message>
+    <message>
+        <source>There is no space left in %1.</source>
+        <translation>Il n’y a plus de place dans %1.</translation>
+    </message>
+    <message>
+        <source>Free some space and try again, or choose another folder.</source>
+        <translation>Libérez de la place et réessayez, ou choisissez un autre dossier.</translation>
+    </message>
+    <message>
+        <source>Free some space and try again.</source>
+        <translation>Libérez de la place et réessayez.</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message>
+        <source>Choose Folder…</source>
+        <translation>Choisir un dossier…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Save the rest to</source>
+        <translation>Enregistrer le reste dans</translation>
     </message>
 </context>
 </TS>

@@ -5310,6 +5310,10 @@
         <source>Last run: %1, %2</source>
         <translation>Laatste opdracht: %1, %2</translation>
     </message>
+    <message>
+        <source>Finished files are kept.</source>
+        <translation>Bestanden die klaar zijn, blijven bewaard.</translation>
+    </message>
 </context>
 <context>
     <name>move-words</name>
@@ -9792,26 +9796,6 @@
 <context>
     <name>site-run</name>
     <message>
-        <source>The disk is full</source>
-        <translation>De schijf is vol</translation>
-    </message>
-    <message>
-        <source>There is no space left in %1.</source>
-        <translation>Er is geen ruimte meer in %1.</translation>
-    </message>
-    <message>
-        <source>Free some space and try again.</source>
-        <translation>Maak ruimte vrij en probeer het opnieuw.</translation>
-    </message>
-    <message>
-        <source>Retry</source>
-        <translation>Opnieuw proberen</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Annuleren</translation>
-    </message>
-    <message>
         <source>done, waiting for the page</source>
         <translation>klaar, wacht op de pagina</translation>
     </message>
@@ -12031,36 +12015,16 @@
         <translation>De vervangen bestanden (%1) gaan naar de prullenbak. Met Ongedaan maken komen ze terug.</translation>
     </message>
     <message>
-        <source>The disk is full</source>
-        <translation>De schijf is vol</translation>
-    </message>
-    <message>
-        <source>There is no space left in %1.</source>
-        <translation>Er is geen ruimte meer in %1.</translation>
-    </message>
-    <message>
-        <source>Finished pictures are kept. Free some space and try again, or choose another folder.</source>
-        <translation>Foto’s die klaar zijn, blijven bewaard. Maak ruimte vrij en probeer opnieuw, of kies een andere map.</translation>
-    </message>
-    <message>
-        <source>Retry</source>
-        <translation>Opnieuw proberen</translation>
-    </message>
-    <message>
-        <source>Choose Folder…</source>
-        <translation>Map kiezen…</translation>
-    </message>
-    <message>
-        <source>Save the rest to</source>
-        <translation>De rest bewaren in</translation>
-    </message>
-    <message>
         <source>Undo</source>
         <translation>Ongedaan maken</translation>
     </message>
     <message>
         <source>On a disk without a trash they are kept in the folder “%1”.</source>
         <translation>Op een schijf zonder prullenbak blijven ze bewaard in de map “%1”.</translation>
+    </message>
+    <message>
+        <source>Finished pictures are kept.</source>
+        <translation>Foto’s die klaar zijn, blijven bewaard.</translation>
     </message>
 </context>
 <context>
@@ -13309,6 +13273,41 @@
     <message>
         <source>its old values cannot be kept: %1</source>
         <translation>de oude waarden kunnen niet worden bewaard: %1</translation>
+    </message>
+</context>
+<context>
+    <name>full-disk</name>
+    <message>
+        <source>The disk is full</source>
+        <translation>De schijf is vol</translation>
+    </message>
+    <message>
+        <source>There is no space left in %1.</source>
+        <translation>Er is geen ruimte meer in %1.</translation>
+    </message>
+    <message>
+        <source>Free some space and try again, or choose another folder.</source>
+        <translation>Maak ruimte vrij en probeer opnieuw, of kies een andere map.</translation>
+    </message>
+    <message>
+        <source>Free some space and try again.</source>
+        <translation>Maak ruimte vrij en probeer het opnieuw.</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Opnieuw proberen</translation>
+    </message>
+    <message>
+        <source>Choose Folder…</source>
+        <translation>Map kiezen…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Save the rest to</source>
+        <translation>De rest bewaren in</translation>
     </message>
 </context>
 </TS>

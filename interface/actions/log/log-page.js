@@ -339,7 +339,7 @@ export class LogPage {
     }
 
     undoRun() {
-        this.undo = { rows: [], done: 0, problems: 0, count: 0, places: {} };
+        this.undo = { run: "", rows: [], done: 0, problems: 0, count: 0, places: {} };
         const work = this.beginningUndo();
         this.job.start(work, () => undefined, guard("log.undoBegun", (end, begun) => this.undoBegun(end, begun)));
         this.showRun();
@@ -358,6 +358,7 @@ export class LogPage {
             this.show();
             return;
         }
+        this.undo.run = begun.run;
         this.undo.count = begun.items.length + begun.problems.length;
         const undone = { id: this.runs.run, process: this.runs.chosen().process,
                          action: undoAction(this.words.isRedo) };
@@ -391,7 +392,8 @@ export class LogPage {
     undoKept(how, problem) {
         const undo = this.undo;
         this.undo = null;
-        const done = qsTr("%n files restored", "", undo.done);
+        const run = this.window.services.moves.runs().find((each) => each.id === undo.run);
+        const done = qsTr("%n files restored", "", run === undefined ? undo.done : run.files);
         const parts = [done]
             .concat(undo.problems > 0 ? [problemsText(undo.problems)] : [], problem ? [problem] : []);
         this.window.sayBeside((how === "cancelled" ? qsTr("Stopped:") + " " : "") + parts.join(" · "));

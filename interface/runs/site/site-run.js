@@ -6,9 +6,9 @@
 import { defaults } from "quorlin/defaults";
 import { files } from "quorlin/files";
 import { program } from "quorlin/program";
-import { shell } from "quorlin/shell";
 import { joinPath } from "../../lib/names.js";
 import { fill } from "../../lib/wording.js";
+import { askForRoom } from "../making/full-disk.js";
 import { RecipeRun } from "../recipes/recipe-run.js";
 import { logRow } from "../report.js";
 import { movedTo, picturesOf } from "./site-files.js";
@@ -88,16 +88,7 @@ export class SiteRun extends RecipeRun {
     }
 
     askAboutRoom() {
-        const answer = shell.ask({
-            title: qsTr("The disk is full"), text: fill(qsTr("There is no space left in %1."), this.place.parent),
-            detail: qsTr("Free some space and try again."), buttons: [qsTr("Retry"), qsTr("Cancel")],
-            initial: 0, escape: 1, check: "",
-        });
-        if (answer.button === 1) {
-            this.flow.stop();
-        } else {
-            this.flow.answerRoom(null);
-        }
+        this.roomAnswered(askForRoom(this.place.parent, "", false));
     }
 
     takeResult(index, result) {

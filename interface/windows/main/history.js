@@ -25,7 +25,7 @@ const WORDS = {
 };
 
 function stepOf(run) {
-    return { kind: "run", count: run.done, title: run.title, id: run.id };
+    return { kind: "run", count: run.files, title: run.title, id: run.id };
 }
 
 function newestRun() {
@@ -37,7 +37,7 @@ function newestRun() {
 function mayUndoEarlier(run) {
     const answer = shell.ask({
         title: qsTr("Undo an earlier run"),
-        text: fill(qsTr("%1 (%n files) belongs to an earlier session. Undo it?", "", run.done),
+        text: fill(qsTr("%1 (%n files) belongs to an earlier session. Undo it?", "", run.files),
                    run.title),
         detail: files.dateText(run.date), check: "", initial: 1, escape: 1,
         buttons: [qsTr("Undo It"), qsTr("Leave It")],
@@ -114,7 +114,7 @@ export class History {
             this.own.push(run.id);
             this.keep(stepOf(run));
         } else {
-            step.count = run.done;
+            step.count = run.files;
         }
     }
 

@@ -8,12 +8,14 @@
 
 #include "files/moving/journal_shelf.h"
 #include "files/moving/move_run.h"
+#include "files/services/move_service.h"
 
 #include "platform/desktop/user_defaults.h"
 #include "platform/disk/disk_file_system.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QDirIterator>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QProgressBar>
@@ -38,6 +40,7 @@ private Q_SLOTS:
     void cleanup()
     {
         files::setDiskSpaceSource({});
+        files::MoveService::setDiskSource({});
         m_driver.reset();
     }
 
@@ -178,7 +181,78 @@ private Q_SLOTS:
                  qPrintable(summary));
     }
 
+    void goesOnWhereThereIsRoomAgain()
+    {
+        copyIntoATightDisk();
+        WindowDriver::answerNextQuestion(QStringLiteral("Retry"));
+        TightDisk::roomLater = 100;
+        m_driver->click("startButton");
+        const QString summary = m_driver->waitForSummary();
+        QVERIFY2(summary.startsWith(QLatin1String("5 files copied into 1 folder")) && summary.contains(u", 0 problems"),
+                 qPrintable(summary));
+        QCOMPARE(TightDisk::refused, 1);
+        QCOMPARE(filesBelow("../sorted"), 5);
+        m_driver->click("undoButton");
+        QVERIFY(m_driver->waitForSummary().startsWith(QLatin1String("5 files restored")));
+        QCOMPARE(filesBelow("../sorted"), 0);
+    }
+
+    void putsTheRestElsewhereWhereADiskIsFull()
+    {
+        copyIntoATightDisk();
+        QVERIFY(QDir().mkpath(at("../more")));
+        WindowDriver::answerPanels({QDir::cleanPath(at("../more"))});
+        WindowDriver::answerNextQuestion(QStringLiteral("Choose Folder…"));
+        m_driver->click("startButton");
+        const QString summary = m_driver->waitForSummary();
+        QVERIFY2(summary.startsWith(QLatin1String("5 files copied into 2 folders")) &&
+                     summary.contains(u", 0 problems"),
+                 qPrintable(summary));
+        QCOMPARE(filesBelow("../sorted"), 2);
+        QCOMPARE(filesBelow("../more"), 3);
+        for (int row = 0; row < 5; ++row)
+            QCOMPARE(m_driver->cell(row, PictureModel::Status), QStringLiteral("Done"));
+        for (const int left : {2, 0}) { // two runs, the later one first
+            m_driver->control<QAction>("undoAction")->trigger();
+            QVERIFY(m_driver->waitForSummary().contains(QLatin1String("restored")));
+            QCOMPARE(filesBelow("../sorted"), left);
+            QCOMPARE(filesBelow("../more"), 0);
+        }
+    }
+
+    void keepsWhatIsDoneWhereADiskIsFull()
+    {
+        copyIntoATightDisk();
+        WindowDriver::answerNextQuestion(QStringLiteral("Cancel"));
+        m_driver->click("startButton");
+        const QString summary = m_driver->waitForSummary();
+        QVERIFY2(summary.startsWith(QLatin1String("Cancelled: 2 files copied into 1 folder")) &&
+                     summary.contains(u", 1 problem"),
+                 qPrintable(summary));
+        QCOMPARE(filesBelow("../sorted"), 2);
+        QCOMPARE(TightDisk::refused, 1); // the others were not tried
+    }
+
 private:
+    /** Holds so many files. */
+    class TightDisk : public platform::DiskFileSystem
+    {
+    public:
+        static inline int room = 0;
+        static inline int roomLater = 0; ///< once it was full
+        static inline int refused = 0;
+
+        std::error_code copy(const QString &from, const QString &to) override
+        {
+            const bool isHere = to.contains(QLatin1String("/sorted/"));
+            if (!isHere || room-- > 0)
+                return DiskFileSystem::copy(from, to);
+            ++refused;
+            room = roomLater;
+            return std::make_error_code(std::errc::no_space_on_device);
+        }
+    };
+
     static constexpr int many = 400;
 
     QString at(const char *name, int number = 0) const
@@ -268,6 +342,39 @@ private:
         QVERIFY(m_driver->waitFor([this] {
             return m_driver->control<QAbstractButton>("startButton")->isEnabled() &&
                    m_driver->text("sortTreeProblem").contains(QLatin1String("has only 999 bytes free"));
+        }));
+    }
+
+    int filesBelow(const char *folder) const
+    {
+        int count = 0;
+        for (QDirIterator files(at(folder), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories); files.hasNext();
+             ++count)
+            files.next();
+        return count;
+    }
+
+    /** Five files are to be copied, and there is room for two. */
+    void copyIntoATightDisk()
+    {
+        files::MoveService::setDiskSource([] { return std::make_unique<TightDisk>(); });
+        m_driver->startAgain();
+        for (int i = 0; i < 5; ++i)
+            write(QStringLiteral("a%1.jpg").arg(i));
+        QVERIFY(QDir().mkpath(at("../sorted")));
+        TightDisk::room = 2;
+        TightDisk::roomLater = 0;
+        TightDisk::refused = 0;
+        m_driver->show("sort");
+        m_driver->drop({at("")});
+        WindowDriver::answerPanels({QDir::cleanPath(at("../sorted"))});
+        m_driver->choose("sortDestination", QStringLiteral("choose"));
+        auto *kind = m_driver->control<window::SegmentedControl>("sortKind");
+        QTest::keyClick(kind, Qt::Key_Home);
+        QTest::keyClick(kind, Qt::Key_Right);
+        QVERIFY(m_driver->waitFor([this] {
+            const auto *start = m_driver->control<QAbstractButton>("startButton");
+            return start->isEnabled() && start->text() == QStringLiteral("Copy 5 Files into Folders");
         }));
     }
 

@@ -238,6 +238,8 @@ void WorkerRuns::bringsBackWhatItReplaced()
     const auto permissions = QFile(m_pictures + QStringLiteral("/p01.jpg")).permissions();
     QVERIFY(!permissions.testFlag(QFile::ReadOther) && permissions.testFlag(QFile::ReadGroup));
     QVERIFY(m_driver->control<QAbstractButton>("undoButton")->isVisible());
+    // Each picture was put aside and replaced; that is one file.
+    QCOMPARE(m_driver->control<QAction>("undoAction")->text(), QStringLiteral("Undo Resize of 2 Files"));
     m_driver->click("undoButton");
     QVERIFY(m_driver->waitFor([&] { return content("p00.jpg") == old[0] && content("p01.jpg") == old[1]; }));
     QCOMPARE(QDir(m_pictures).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),

@@ -1,6 +1,7 @@
 #include "files/moving/move_paths.h"
 #include "files/moving/move_recovery.h"
 #include "files/moving/move_undo.h"
+#include "files/moving/standing_items.h"
 #include "tests/support/model_shelf.h"
 #include "tests/support/scratch_folder.h"
 #include "tests/support/test_program.h"
@@ -57,6 +58,8 @@ private Q_SLOTS:
     void looksForNothingWhenTheRunIsUnknown();
     void readsNoLinkToADevice();
     void findsItsWayWhereFoldersGoRound();
+    void countsWhatIsReplacedWithItsResult_data();
+    void countsWhatIsReplacedWithItsResult();
 };
 
 void TestMoveJournal::knowsALineThatWasChanged()
@@ -242,6 +245,48 @@ void TestMoveJournal::findsItsWayWhereFoldersGoRound()
         QVERIFY(!now(QString::fromUtf8(path), -1).isEmpty());
         (void)now.wasCopied(QString::fromUtf8(path), -1);
     }
+}
+
+void TestMoveJournal::countsWhatIsReplacedWithItsResult_data()
+{
+    QTest::addColumn<std::vector<MoveItem>>("items");
+    QTest::addColumn<int>("files");
+    using Items = std::vector<MoveItem>;
+    const MoveItem trashed = move("/d/a", "", Operation::Trash);
+    const MoveItem result = move("/u/a", "/d/a", Operation::Copy);
+    QTest::newRow("into the trash") << Items{trashed, result} << 1;
+    QTest::newRow("into a folder") << Items{move("/d/a", "/d/Replaced/a"), result} << 1;
+    QTest::newRow("and one that was new") << Items{trashed, result, move("/u/b", "/d/b", Operation::Copy)} << 2;
+    QTest::newRow("undone") << Items{move("/d/a", "/u/a", Operation::RemoveCopy),
+                                     move("/t/a", "/d/a", Operation::Restore)}
+                            << 1;
+    QTest::newRow("undone from a folder")
+        << Items{move("/d/a", "/u/a", Operation::RemoveCopy), move("/d/Replaced/a", "/d/a")} << 1;
+    QTest::newRow("trashed alone") << Items{trashed} << 1;
+    QTest::newRow("two that change places") << Items{move("/d/a", "/d/b"), move("/d/b", "/d/a")} << 2;
+    QTest::newRow("one after another, and a copy")
+        << Items{move("/d/a", "/d/b"), move("/d/c", "/d/a"), move("/d/e", "/d/f", Operation::Copy)} << 3;
+}
+
+void TestMoveJournal::countsWhatIsReplacedWithItsResult()
+{
+    QFETCH(const std::vector<MoveItem>, items);
+    QFETCH(const int, files);
+    RunRecord run;
+    for (const MoveItem &item : items) {
+        MoveRecord record;
+        record.item = item;
+        record.stand = Stand::Done;
+        run.items.push_back(record);
+    }
+    QCOMPARE(filesOf(run, doneItemsOf(run)), files);
+    run.items.front().stand = Stand::Failed;
+    QCOMPARE(doneItemsOf(run).size(), items.size() - 1);
+    QByteArray journal = head("r", "", int(items.size())) + endLine(QStringLiteral("done"), int(items.size()), 9, 7);
+    QCOMPARE(readRecord(journal).filesAtEnd, 7);
+    // Journals of earlier versions have the one number only.
+    journal = head("r", "") + "{\"end\":\"done\",\"count\":1,\"done\":9}\n";
+    QCOMPARE(readRecord(journal).filesAtEnd, 9);
 }
 
 QUORLIN_TEST(TestMoveJournal)

@@ -53,6 +53,8 @@ private Q_SLOTS:
     void keepsWhatIsSavedAtTheLastMoment();
     void leavesNothingOfAFolderThatCannotLeave();
     void saysWhatADiskCannotHold();
+    void triesAgainWhatFoundNoRoom();
+    void triesNothingElseAgain();
     void settlesEveryNewFolderOnTheWayToAnotherDisk();
     void endsNoRunWhoseJournalLacksALine();
     void keepsNoPlaceholderAndNoPlaceOfOthers();
@@ -374,6 +376,43 @@ void TestMoveRun::saysWhatADiskCannotHold()
     QVERIFY(undo.problems.empty());
     QCOMPARE(carriedOut(undo.form.items), QStringList(QStringLiteral("OK")));
     QCOMPARE(m_disk->bytes(at("a")), QByteArray("a"));
+}
+
+void TestMoveRun::triesAgainWhatFoundNoRoom()
+{
+    MoveOrderForm form;
+    form.items = {item(Operation::Copy, "a", "/other/a"), item(Operation::Copy, "b", "/other/b", 0),
+                  item(Operation::Copy, "c", "/other/c")};
+    const auto run = MoveRun::begin(*m_disk, *m_shelf, form);
+    QVERIFY(run && !(*run)->again());
+    m_disk->roomOnOther = 0;
+    for (int i = 0; i < 3; ++i) {
+        const auto full = (*run)->next();
+        QVERIFY(full && full->index == 0 && full->why == MoveProblem::Full);
+        QVERIFY((*run)->again());
+        QVERIFY(!(*run)->again()); // it waits by now
+        QCOMPARE(readRecord(*m_shelf->read((*run)->id())).items[0].stand, Stand::Waiting);
+    }
+    m_disk->roomOnOther = -1;
+    for (int i = 0; i < 3; ++i)
+        QCOMPARE((*run)->next()->stand, Stand::Done); // what goes with it goes too
+    QVERIFY(!(*run)->next() && (*run)->end());
+    QCOMPARE(m_disk->bytes(QStringLiteral("/other/a")), QByteArray("a"));
+    const RunRecord record = readRecord(*m_shelf->read((*run)->id()));
+    QCOMPARE(record.doneAtEnd, 3);
+    QVERIFY(record.isWhole && !record.isDamaged && record.items[0].stand == Stand::Done);
+}
+
+void TestMoveRun::triesNothingElseAgain()
+{
+    MoveOrderForm form;
+    form.items = {move("a", "x"), move("b", "c"), move("c", "b")};
+    const auto run = MoveRun::begin(*m_disk, *m_shelf, form);
+    m_disk->addFile(at("x"), "x");
+    QVERIFY(run);
+    while (const auto result = (*run)->next())
+        QVERIFY(!(*run)->again());
+    QVERIFY((*run)->end());
 }
 
 void TestMoveRun::settlesEveryNewFolderOnTheWayToAnotherDisk()
