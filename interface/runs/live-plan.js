@@ -3,7 +3,7 @@
 
 import { copyOf } from "../lib/copies.js";
 import { guard } from "../lib/guard.js";
-import { emptyTable } from "../lib/names.js";
+import { Marks } from "../lib/marks.js";
 import { shell } from "quorlin/shell";
 import { showUnticked } from "./list-rows.js";
 
@@ -13,7 +13,7 @@ export class LivePlan {
         this.window = window;
         this.planned = planned;
         this.job = shell.job();
-        this.finished = emptyTable();
+        this.finished = new Marks();
         this.ids = [];
         this.next = 0;
         this.settleMs = 180;
@@ -61,15 +61,15 @@ export class LivePlan {
 
     /** Rows that show the result of a run keep it until the settings change. */
     keepFinal(id) {
-        this.finished[id] = true;
+        this.finished.add(id);
     }
 
     forgetFinal() {
-        this.finished = emptyTable();
+        this.finished = new Marks();
     }
 
     isFinal(id) {
-        return this.finished[id] === true;
+        return this.finished.has(id);
     }
 
     start() {

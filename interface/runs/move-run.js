@@ -3,6 +3,7 @@
 import { guard } from "../lib/guard.js";
 import { isReadyRow, itemOf, readyItems, settled } from "./move-plan.js";
 import { askForRoom, restIn } from "./making/full-disk.js";
+import { Marks } from "../lib/marks.js";
 import { MovedFolders } from "./moved-folders.js";
 import { refusalText } from "./move-words.js";
 import { splitPath } from "../lib/names.js";
@@ -184,7 +185,7 @@ export class MoveRun extends BaseRun {
     beginAgain(plan, again) {
         this.wished = this.wished || [];
         again.forEach((row) => { this.wished[row.of] = row.wish; });
-        this.done = [];
+        this.done = new Marks();
         this.items = plan.ready
             .map((item) =>
                 Object.assign({}, item, { row: again[item.row].of, along: item.along || again[item.row].isAlong }));
@@ -279,7 +280,7 @@ export class MoveRun extends BaseRun {
     }
 
     startMoving() {
-        this.done = [];
+        this.done = new Marks();
         this.moved = 0;
         this.unfinished = [];
     }
@@ -308,7 +309,7 @@ export class MoveRun extends BaseRun {
             return;
         }
         const told = { status: result.status, reason: result.message, path: result.path || item.to };
-        this.done[result.index] = true;
+        this.done.add(result.index);
         // Companions of a file that failed wait for it.
         if (result.status === "Failed" || result.code === "leader") {
             this.noteFailed(item, told);
@@ -334,7 +335,7 @@ export class MoveRun extends BaseRun {
 
     // What is not done goes to another folder, in a second run.
     goOnElsewhere() {
-        const left = this.items.filter((_item, i) => !this.done[i]);
+        const left = this.items.filter((_item, i) => !this.done.has(i));
         const rest = restIn(this.elsewhere, retryRows(left, this.wished), this.wished);
         this.elsewhere = "";
         this.goesOn = true;
@@ -411,6 +412,12 @@ export class MoveRun extends BaseRun {
         this.noteInLog(parts, this.undone === null ? describe() : undoRow(parts, this.undone, this.id));
     }
 
+    // The list shows the results; nothing else asks for them.
+    noteInLog(result, row) {
+        this.countProblem(result);
+        this.rows.push(row);
+    }
+
     // The row of an item; in an undo, rows are found by the location of their files.
     idOf(item) {
         return item.row === undefined ? this.rowAt[item.from] || 0 : this.ids[item.row];
@@ -438,7 +445,7 @@ export class MoveRun extends BaseRun {
     * ending(how, value) {
         const reason = how === "failed" ? String(value) : qsTr("cancelled");
         for (let i = 0; i < this.items.length; i += 1) {
-            if (!this.done[i]) {
+            if (!this.done.has(i)) {
                 this.noteResult(this.items[i], { status: "Skipped", reason: reason, path: "" });
                 yield i;
             }
@@ -556,7 +563,7 @@ export class MoveRun extends BaseRun {
 
     tookBack(step) {
         const { status, reason } = step.result;
-        this.done[step.index] = true;
+        this.done.add(step.index);
         this.noteInLog(step.result, step.row);
         this.moved += status === "OK" ? 1 : 0;
         this.showResult(this.rowAt[step.from] || 0, { status: status, reason: reason, path: step.to }, status === "OK");

@@ -95,8 +95,12 @@ export class BaseRun {
     noteInLog(result, row, index) {
         const place = index === undefined ? this.results.length : index;
         this.results[place] = result;
-        this.problems += result.status === "Failed" || result.status === "Not Supported" ? 1 : 0;
+        this.countProblem(result);
         this.rows[place] = row;
+    }
+
+    countProblem(result) {
+        this.problems += result.status === "Failed" || result.status === "Not Supported" ? 1 : 0;
     }
 
     failedIds() {
