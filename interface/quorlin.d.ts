@@ -908,6 +908,8 @@ declare module "quorlin/files" {
         info(path: text): Info;
         /** Bytes that this user may still write there, and what tells file systems apart; -1 where it is not known. */
         space(path: text): { free: double; disk: double };
+        /** The same of where the trash keeps what is moved to it from a folder. */
+        trashSpace(path: text): { free: double; disk: double };
         /** From the current folder. */
         absolute(path: text): string;
         /** What tells an item from all others, however its path is spelled; a link not followed. Empty where nothing is. */

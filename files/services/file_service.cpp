@@ -9,6 +9,7 @@
 #include "image/services/format_words.h"
 #include "platform/disk/disk_file_system.h"
 #include "platform/disk/item_identity.h"
+#include "platform/disk/trash.h"
 #include "platform/file/atomic_file.h"
 #include "platform/file/regular_file.h"
 #include "platform/foundation/human_texts.h"
@@ -64,6 +65,11 @@ QVariantMap FileService::space(const QString &path) const
 {
     const DiskSpace space = diskSpace(path);
     return {{QStringLiteral("free"), double(space.freeBytes)}, {QStringLiteral("disk"), double(space.disk)}};
+}
+
+QVariantMap FileService::trashSpace(const QString &path) const
+{
+    return space(platform::trashPlaceFor(path));
 }
 
 QString FileService::absolute(const QString &path) const

@@ -34,6 +34,8 @@ public:
      * the file system}; both -1 if unknown.
      */
     Q_INVOKABLE QVariantMap space(const QString &path) const;
+    /** The same of the file system that keeps what is moved from the folder @p path to the trash. */
+    Q_INVOKABLE QVariantMap trashSpace(const QString &path) const;
     /** The path as an absolute one, from the current folder. */
     Q_INVOKABLE QString absolute(const QString &path) const;
     /**

@@ -2,7 +2,7 @@
 // translation; the services are passed in.
 
 import { itemOf } from "./move-plan.js";
-import { emptyTable } from "../lib/names.js";
+import { emptyTable, splitPath } from "../lib/names.js";
 import { fill } from "../lib/wording.js";
 
 function isWritten(plan, i) {
@@ -42,6 +42,79 @@ export class DiskNeeds {
         });
         return joined;
     }
+}
+
+/**
+ * How many bytes each file system gets from a run that writes pictures, and from the trash that keeps what it replaces.
+ * Sizes of results are guessed from their pixels until a few of them have been made.
+ */
+export class WriteNeeds {
+    /** @param files  the service: space, trashSpace, info */
+    constructor(files) {
+        this.files = files;
+        this.folders = emptyTable();
+        this.written = 0;
+    }
+
+    add(path, bytes) {
+        const { folder } = splitPath(path);
+        if (this.folders[folder] === undefined) {
+            this.folders[folder] = { here: this.files.space(folder), trash: null,
+                                     bytes: 0, largest: 0, replaced: 0 };
+        }
+        const sum = this.folders[folder];
+        sum.bytes += bytes;
+        sum.largest = Math.max(sum.largest, bytes);
+        this.written += bytes;
+    }
+
+    /** The file at the path is replaced; bytes: its size, if that is known. */
+    addReplaced(path, bytes) {
+        const { folder } = splitPath(path);
+        const sum = this.folders[folder];
+        sum.trash = sum.trash || this.files.trashSpace(folder);
+        sum.replaced += bytes || Math.max(0, this.files.info(path).bytes);
+    }
+
+    /** [{disk, bytes, free, folder}] if all results have so many bytes together, -1: as guessed. */
+    disks(all) {
+        const scale = all >= 0 && this.written > 0 ? all / this.written : 1;
+        const joined = [];
+        const note = (found, bytes, folder) => {
+            const same = joined.find((other) => other.disk === found.disk && found.disk >= 0);
+            if (same === undefined) {
+                joined.push({ disk: found.disk, free: found.free, bytes: bytes, folder: folder });
+            } else {
+                same.bytes += bytes;
+            }
+        };
+        Object.keys(this.folders).forEach((folder) => {
+            const sum = this.folders[folder];
+            const { here, trash } = sum;
+            // What is replaced leaves the disk only if another one has the trash; the result is finished before that.
+            const isElsewhere = trash !== null && trash.disk !== here.disk && here.disk >= 0;
+            const freed = isElsewhere ? sum.replaced : 0;
+            note(here, Math.round(Math.max(sum.bytes * scale - freed, sum.largest * scale)), folder);
+            if (isElsewhere) {
+                note(trash, sum.replaced, qsTr("the disk of the trash"));
+            }
+        });
+        return joined;
+    }
+}
+
+/** How large a result will be, roughly: as many bytes for each pixel as its picture has. */
+export function guessedBytes(photo, result) {
+    const pixels = photo.width * photo.height;
+    return pixels > 0 ? (Math.max(0, photo.bytes) * result.width * result.height) / pixels : 0;
+}
+
+/** What the plan of a run that writes pictures says where they will not fit; "" if they do. */
+export function tooMuchText(needs, all, byteText) {
+    const tight = needs.disks(all).find((each) => each.free >= 0 && each.bytes > each.free);
+    return tight === undefined ? ""
+        : fill(qsTr("This run needs about %1, but %3 has only %2 free."), byteText(tight.bytes), byteText(tight.free),
+               tight.folder);
 }
 
 /** A message about room: {note, problem}. */

@@ -5,6 +5,7 @@ import { planRun } from "./plan.js";
 import { fill, pixels, statusKind, statusText } from "../lib/wording.js";
 import { photosOf } from "./list-rows.js";
 import { LivePlan } from "./live-plan.js";
+import { guessedBytes, WriteNeeds } from "./room.js";
 
 /** Shows an item of a plan in its row; `simulated` says so in words. */
 export function showItem(list, id, item, simulated) {
@@ -29,13 +30,23 @@ export function showItem(list, id, item, simulated) {
 
 export class WritePlan extends LivePlan {
     nothing() {
-        return { ready: 0, originals: 0, replaced: 0, unwritable: 0, all: -1 };
+        return { ready: 0, originals: 0, replaced: 0, unwritable: 0, all: -1,
+                 needs: new WriteNeeds(this.window.services.files) };
     }
 
     noteSize(id, item) {
         if (item.status === "ready") {
             this.sizes.push({ id: id, pixels: item.width * item.height, bytes: Math.max(0, item.photo.bytes),
                               sourcePixels: item.photo.width * item.photo.height });
+        }
+    }
+
+    noteRoom(needs, item) {
+        if (item.status === "ready") {
+            needs.add(item.path, guessedBytes(item.photo, item));
+        }
+        if (item.replaces) {
+            needs.addReplaced(item.path, item.replacesOriginal ? item.photo.bytes : 0);
         }
     }
 
@@ -62,6 +73,7 @@ export class WritePlan extends LivePlan {
         if (this.isFinal(id)) {
             return;
         }
+        this.noteRoom(summary.needs, item);
         summary.originals += item.replacesOriginal ? 1 : 0;
         summary.replaced += item.replaces ? 1 : 0;
         showItem(this.window.pictures, id, item, false);

@@ -1,6 +1,7 @@
 // The manner of actions that write pictures through the output block.
 
 import { fill } from "../lib/wording.js";
+import { tooMuchText } from "./room.js";
 import { WritePlan } from "./write-plan.js";
 import { WriteRun } from "./write-run.js";
 
@@ -31,10 +32,23 @@ function withSize(window, note) {
     return [note, size].filter((text) => text !== "").join(" · ");
 }
 
+/** What will not fit, of the plan that is shown; "" if there is room, or none is planned. */
+export function roomNote(window) {
+    const { all, needs } = window.planned;
+    const { files } = window.services;
+    const sum = window.estimate === undefined ? -1 : window.estimate.sum;
+    return needs === undefined || all !== window.pictures.tickedCount
+        ? "" : tooMuchText(needs, sum, (bytes) => files.byteText(bytes));
+}
+
 function startNote(window) {
     const planned = window.planned;
     if (window.pictures.tickedCount === 0 || window.settings.output.simulation) {
         return "";
+    }
+    const problem = roomNote(window);
+    if (problem !== "") {
+        return problem;
     }
     if (planned.originals > 0) {
         return withSize(window, qsTr("Originals are replaced by their results."));

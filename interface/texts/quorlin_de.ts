@@ -9494,6 +9494,14 @@
         <source>not enough space (needs %1, %2 free)</source>
         <translation>nicht genug Platz (braucht %1, frei %2)</translation>
     </message>
+    <message>
+        <source>This run needs about %1, but %3 has only %2 free.</source>
+        <translation>Dieser Durchlauf braucht etwa %1, aber %3 hat nur %2 frei.</translation>
+    </message>
+    <message>
+        <source>the disk of the trash</source>
+        <translation>der Datenträger des Papierkorbs</translation>
+    </message>
 </context>
 <context>
     <name>round-action</name>

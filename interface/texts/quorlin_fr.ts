@@ -9494,6 +9494,14 @@
         <source>not enough space (needs %1, %2 free)</source>
         <translation>pas assez de place (il faut %1, %2 libres)</translation>
     </message>
+    <message>
+        <source>This run needs about %1, but %3 has only %2 free.</source>
+        <translation>Ce traitement demande environ %1, mais %3 n’a plus que %2 de libres.</translation>
+    </message>
+    <message>
+        <source>the disk of the trash</source>
+        <translation>le disque de la corbeille</translation>
+    </message>
 </context>
 <context>
     <name>round-action</name>

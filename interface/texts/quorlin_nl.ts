@@ -9494,6 +9494,14 @@
         <source>not enough space (needs %1, %2 free)</source>
         <translation>te weinig ruimte (nodig %1, vrij %2)</translation>
     </message>
+    <message>
+        <source>This run needs about %1, but %3 has only %2 free.</source>
+        <translation>Deze uitvoering heeft ongeveer %1 nodig, maar op %3 is slechts %2 vrij.</translation>
+    </message>
+    <message>
+        <source>the disk of the trash</source>
+        <translation>de schijf van de prullenbak</translation>
+    </message>
 </context>
 <context>
     <name>round-action</name>

@@ -156,15 +156,19 @@ QString topFolderOf(QString folder)
     return folder;
 }
 
+/** Whether it is a trash for all users, in which nobody can remove what another one put there. */
+bool isSafeForAll(const QString &trash)
+{
+    struct stat found = {};
+    return ::lstat(native(trash).constData(), &found) == 0 && S_ISDIR(found.st_mode) && (found.st_mode & S_ISVTX);
+}
+
 /** The user's folder in a trash that an administrator made for all users of a file system; empty if there is none. */
 QString sharedTrash(const QString &top)
 {
     const QString all = joinedPath(top, QStringLiteral(".Trash"));
-    struct stat found = {};
-    const bool isSafe =
-        ::lstat(native(all).constData(), &found) == 0 && S_ISDIR(found.st_mode) && (found.st_mode & S_ISVTX);
     const QString own = joinedPath(all, QString::number(::geteuid()));
-    return isSafe && makePrivateFolder(own) && isOwnFolder(own) ? own : QString();
+    return isSafeForAll(all) && makePrivateFolder(own) && isOwnFolder(own) ? own : QString();
 }
 
 /** The user's own trash on a file system; empty if it cannot be created, or somebody else created it. */
@@ -295,6 +299,17 @@ QString itemOf(const QString &trash, const QString &infoFile)
 }
 
 } // namespace
+
+QString trashPlaceFor(const QString &folder)
+{
+    const QString place = canonicalFolder(folder);
+    const QString top = topFolderOf(place);
+    if (deviceOf(topFolderOf(homeTrash())) == deviceOf(top))
+        return homeTrash();
+    const QString own = joinedPath(top, QStringLiteral(".Trash-") + QString::number(::geteuid()));
+    const bool canBeMade = !isTaken(own) && ::access(native(top).constData(), W_OK) == 0;
+    return isSafeForAll(joinedPath(top, QStringLiteral(".Trash"))) || isOwnFolder(own) || canBeMade ? top : homeTrash();
+}
 
 Result<TrashedItem> moveToTrash(const QString &path)
 {

@@ -20,6 +20,12 @@ namespace platform {
 Result<TrashedItem> moveToTrash(const QString &path);
 
 /**
+ * The folder whose file system keeps what moveToTrash() is given from @p folder: the trash of the user, or the topmost folder of another
+ * file system that has a trash or can have one. It need not exist; nothing is created.
+ */
+QString trashPlaceFor(const QString &folder);
+
+/**
  * Restores an item from the trash to the free path @p path, and removes its info file.
  *
  * Answers the system's error, none on success: std::errc::file_exists if @p path is taken. The item is then still in

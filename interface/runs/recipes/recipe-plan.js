@@ -5,6 +5,7 @@ import { RecipeBatch } from "quorlin/recipes";
 import { splitPath } from "../../lib/names.js";
 import { fill, pixels, statusKind, statusText } from "../../lib/wording.js";
 import { LivePlan } from "../live-plan.js";
+import { guessedBytes, WriteNeeds } from "../room.js";
 import { vanishedInWords } from "./recipe-making.js";
 
 // Of several outputs the first of these statuses applies to the whole picture.
@@ -125,9 +126,19 @@ export function countItem(summary, item) {
     summary.replaced += item.outputs.filter((output) => output.replaces).length;
 }
 
+function noteRoom(needs, item) {
+    item.outputs.filter(isReady).forEach((output) => {
+        needs.add(output.path, guessedBytes(item.photo, output));
+        if (output.replaces) {
+            needs.addReplaced(output.path, output.replacesOriginal ? item.photo.bytes : 0);
+        }
+    });
+}
+
 export class RecipePlan extends LivePlan {
     nothing() {
-        return { ready: 0, files: 0, originals: 0, replaced: 0, all: -1 };
+        return { ready: 0, files: 0, originals: 0, replaced: 0, all: -1,
+                 needs: new WriteNeeds(this.window.services.files) };
     }
 
     work(ids, settings) {
@@ -152,6 +163,7 @@ export class RecipePlan extends LivePlan {
             return;
         }
         countItem(summary, item);
+        noteRoom(summary.needs, item);
         showRecipeItem(this.window.pictures, id, item, false);
     }
 

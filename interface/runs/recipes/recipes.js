@@ -4,7 +4,7 @@
 import { fill } from "../../lib/wording.js";
 import { RecipePlan } from "./recipe-plan.js";
 import { RecipeRun } from "./recipe-run.js";
-import { WRITES } from "../writes.js";
+import { roomNote, WRITES } from "../writes.js";
 
 function startText(window) {
     const total = window.pictures.tickedCount;
@@ -25,6 +25,10 @@ function startNote(window) {
     const planned = window.planned;
     if (window.pictures.tickedCount === 0 || window.settings.simulation) {
         return "";
+    }
+    const problem = roomNote(window);
+    if (problem !== "") {
+        return problem;
     }
     if (planned.originals > 0) {
         return qsTr("Originals are replaced by their results.");

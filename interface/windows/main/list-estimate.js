@@ -14,6 +14,8 @@ export class ListEstimate {
         this.window = window;
         this.shown = shown;
         this.text = "";
+        /** In bytes; -1 while it is not known. */
+        this.sum = -1;
         this.sizes = [];
         this.samples = [];
         this.waiting = 0;
@@ -36,6 +38,7 @@ export class ListEstimate {
         this.service.stop();
         this.samples = [];
         this.text = "";
+        this.sum = -1;
     }
 
     // The result of each sample is made as a run would.
@@ -70,6 +73,7 @@ export class ListEstimate {
         this.waiting -= 1;
         const sum = this.waiting > 0 ? -1 : estimated(this.samples);
         if (sum >= 0) {
+            this.sum = sum;
             this.text = fill(qsTr("about %1 in total"), files.byteText(sum));
             this.shown();
         }

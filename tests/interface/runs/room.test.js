@@ -1,5 +1,7 @@
 import { FakeFiles } from "../fakes.js";
-import { DiskNeeds, roomProblem, roomText } from "../../../interface/runs/room.js";
+import {
+    DiskNeeds, guessedBytes, roomProblem, roomText, tooMuchText, WriteNeeds,
+} from "../../../interface/runs/room.js";
 import { equal, finish, test } from "../check.js";
 
 const SPACES = { "/a": { disk: 1, free: 100 }, "/b": { disk: 1, free: 100 }, "/c": { disk: 2, free: 50 },
@@ -61,5 +63,51 @@ for (const row of SINGLE) {
               row[3] ? "" : "not enough space (needs 101 B, " + free + " B free)");
     });
 }
+
+// The trash of /a is on its own disk, that of /c on the one of /a.
+function writes(rows) {
+    const files = new FakeFiles({ "/a/old": 90, "/c/old": 45 });
+    files.space = space;
+    files.trashSpace = () => SPACES["/a"];
+    const sum = new WriteNeeds(files);
+    rows.forEach((row) => {
+        sum.add(row[0], row[1]);
+        if (row[2] !== undefined) {
+            sum.addReplaced(row[0], row[2]);
+        }
+    });
+    return sum;
+}
+
+const tooMuch = (bytes, free, folder) => "This run needs about " + bytes + " B, but " + folder + " has only " + free +
+    " B free.";
+
+// [rows: path, bytes of the result, bytes of what it replaces], bytes of all results as measured, the text
+const WRITTEN = [
+    [[["/a/x", 60], ["/a/y", 40]], -1, ""],
+    [[["/a/x", 60], ["/b/y", 41]], -1, tooMuch(101, 100, "/a")],
+    [[["/a/x", 60], ["/b/y", 41]], 90, ""],
+    [[["/a/x", 6], ["/b/y", 4]], 150, tooMuch(150, 100, "/a")],
+    // What stays on the same disk frees nothing there.
+    [[["/a/old", 60, 0], ["/a/y", 41, 80]], -1, tooMuch(101, 100, "/a")],
+    // What leaves it does, but not before its result is finished.
+    [[["/c/old", 40, 0], ["/c/y", 45, 40]], -1, ""],
+    [[["/c/old", 51, 0]], -1, tooMuch(51, 50, "/c")],
+    [[["/c/old", 40, 0], ["/c/y", 40, 56]], -1, tooMuch(101, 100, "the disk of the trash")],
+    [[["/a/x", 60], ["/c/old", 40, 0]], -1, tooMuch(105, 100, "/a")],
+    [[["/unknown/x", 900]], -1, ""],
+    [[], -1, ""],
+];
+
+for (const row of WRITTEN) {
+    test("tells too little room for results: " + JSON.stringify(row.slice(0, 2)),
+         () => equal(tooMuchText(writes(row[0]), row[1], words), row[2]));
+}
+
+test("guessesFromThePixels", () => {
+    const photo = { width: 100, height: 50, bytes: 1000 };
+    equal(guessedBytes(photo, { width: 50, height: 25 }), 250);
+    equal(guessedBytes(Object.assign({}, photo, { width: 0 }), { width: 50, height: 25 }), 0);
+});
 
 finish();

@@ -233,6 +233,9 @@ void TestTrash::usesTheTrashOfAnotherFileSystem()
     if (!areApart(m_home->path(), other.path()))
         QSKIP("no second file system");
     const QString name = QFileInfo(other.path()).fileName() + QStringLiteral(".jpg");
+    QCOMPARE(trashPlaceFor(other.path()), QStringLiteral("/dev/shm"));
+    QCOMPARE(trashPlaceFor(other.path("not/there")), QStringLiteral("/dev/shm"));
+    QCOMPARE(trashPlaceFor(m_home->path()), m_home->path("data/Trash"));
     QVERIFY(other.write("a b.jpg", "a") && QFile::rename(other.path("a b.jpg"), other.path(name)));
     QVERIFY(moveToTrash(other.path(name)));
     const QString trash = QStringLiteral("/dev/shm/.Trash-%1").arg(::geteuid());
@@ -253,8 +256,10 @@ void TestTrash::copiesIntoTheTrashWhereAFileSystemHasNone()
         QSKIP("no second file system without a trash");
     QFile inTheWay(trash);
     QVERIFY(inTheWay.open(QIODevice::WriteOnly) && other.write("folder/a.jpg", "a"));
+    const QString place = trashPlaceFor(other.path());
     const auto trashed = moveToTrash(other.path("folder"));
     QVERIFY(inTheWay.remove());
+    QCOMPARE(place, m_home->path("data/Trash"));
     QVERIFY(trashed);
     QCOMPARE(m_home->read("data/Trash/files/folder/a.jpg"), QByteArray("a"));
     QCOMPARE(infoLines("folder")[1], QStringLiteral("Path=") + other.path("folder"));
