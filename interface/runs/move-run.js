@@ -89,8 +89,7 @@ export class MoveRun extends BaseRun {
     }
 
     start() {
-        const window = this.window;
-        this.startWith(window.pictures.tickedIds(), null);
+        this.startWith(null, null);
     }
 
     /** Does the same to these rows alone; counters start again. */
@@ -99,10 +98,11 @@ export class MoveRun extends BaseRun {
         this.startWith(ids, ids.map((id) => list.photo(id).path));
     }
 
+    // Without ids all ticked rows are taken; of ten thousand they are not read where the button is clicked.
     startWith(ids, paths) {
         const window = this.window;
         this.tellPane("starting");
-        this.startPlanning(ids);
+        this.startPlanning(ids || []);
         this.title = window.action.title();
         this.undoes = "";
         this.undone = null;
@@ -116,6 +116,9 @@ export class MoveRun extends BaseRun {
     * plan() {
         const window = this.window;
         if (this.paths === null) {
+            yield 0;
+            this.ids = window.pictures.tickedIds();
+            yield this.ids.length;
             this.paths = yield* pathsInParts(window.pictures, this.ids);
         }
         const plan = yield* showPlan(window, { ids: this.ids, paths: this.paths }, this.settings, () => false);
@@ -529,7 +532,7 @@ export class MoveRun extends BaseRun {
 
     /** Undoes a run of the move engine, or redoes what it undid. */
     undo(run) {
-        this.startPlanning(this.window.pictures.ids());
+        this.startPlanning([]);
         this.title = run.title;
         this.undoes = run.undoes ? "" : run.id;
         this.undone = { id: run.id, process: run.title, action: undoAction(run.undoes !== "") };
@@ -542,6 +545,9 @@ export class MoveRun extends BaseRun {
     }
 
     * beginningUndo(id) {
+        yield 0;
+        this.ids = this.window.pictures.ids();
+        yield this.ids.length;
         this.rowAt = yield* rowsByPathInParts(this.window.pictures);
         const begun = yield* beginUndo(this.window.services.moves, id);
         return begun;
