@@ -77,7 +77,7 @@ SUB_ROOMS = {
                          "imageio/metadata imageio/source",
         "desktop": "foundation file disk imageio/formats imageio/encode imageio/source",
     },
-    "image": {"types": "", "": "types", "recipe": "*", "services": "*"},
+    "image": {"types": "", "": "types", "recipe/keys": "types", "recipe": "*", "services": "*"},
     "text": {"": "", "page": "*", "services": "*"},
     "files": {
         "items": "",

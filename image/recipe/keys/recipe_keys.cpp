@@ -1,5 +1,5 @@
 #include "image/recipe/keys/recipe_keys.h"
-#include "image/recipe/sentence.h"
+#include "image/types/sentence.h"
 #include "platform/foundation/paths.h"
 
 #include <QJsonDocument>
