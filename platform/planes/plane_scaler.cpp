@@ -18,43 +18,55 @@ bool isPart(const PlaneSpan &span, int samples)
 } // namespace
 
 PlaneScaler::PlaneScaler(QSize from, const PlaneSpan &across, const PlaneSpan &down)
-    : m_from(from), m_across(across), m_down(down),
-      m_isPart(isPart(across, from.width()) && isPart(down, from.height())),
-      m_rowBytes(wholeUnits(from.width(), planeRowUnit)), m_columns(across, from.width()), m_rows(down, from.height()),
-      m_plane(QSize(across.count, down.count))
+    : m_from(from), m_to(across.count, down.count), m_rowBytes(wholeUnits(from.width(), planeRowUnit)),
+      m_columns(across, from.width()), m_rows(down, from.height()), m_plane(m_to)
 {
-    if (m_isPart)
+    if (isPart(across, from.width()) && isPart(down, from.height()))
+        m_part = QPoint(int(across.start), int(down.start));
+    makeRoom();
+}
+
+PlaneScaler::PlaneScaler(QSize from, const PixelSpan &across, const PixelSpan &down)
+    : m_from(from), m_to(across.count(), down.count()), m_rowBytes(wholeUnits(from.width(), planeRowUnit)),
+      m_columns(weightsOf(across, from.width())), m_rows(weightsOf(down, from.height())), m_plane(m_to)
+{
+    makeRoom();
+}
+
+void PlaneScaler::makeRoom()
+{
+    if (m_part)
         return;
     m_kept.resize(size_t(m_rowBytes) * size_t(m_rows.taps()));
     m_window.resize(size_t(m_rows.taps()));
     // After the row there is room for what the last windows read beyond it, with weight 0.
     m_sums.resize(size_t(m_rowBytes + m_columns.taps()));
-    m_row.resize(size_t(wholeUnits(across.count, planeOutputUnit)));
+    m_row.resize(size_t(wholeUnits(m_to.width(), planeOutputUnit)));
 }
 
 void PlaneScaler::add(const uchar *row)
 {
     if (m_added == m_from.height())
         return;
-    if (m_isPart)
+    if (m_part)
         copy(row);
     else
         keep(row);
     ++m_added;
-    if (!m_isPart)
+    if (!m_part)
         make();
 }
 
 void PlaneScaler::copy(const uchar *row)
 {
-    const int y = m_added - int(m_down.start);
-    if (y >= 0 && y < m_down.count)
-        std::memcpy(m_plane.row(y), row + int(m_across.start), size_t(m_across.count));
+    const int y = m_added - m_part->y();
+    if (y >= 0 && y < m_to.height())
+        std::memcpy(m_plane.row(y), row + m_part->x(), size_t(m_to.width()));
 }
 
 void PlaneScaler::keep(const uchar *row)
 {
-    const bool isOfUse = m_made < m_down.count && m_added >= m_rows.start(m_made);
+    const bool isOfUse = m_made < m_to.height() && m_added >= m_rows.start(m_made);
     if (isOfUse)
         planeKernels().widenRow(row, m_kept.data() + size_t(m_added % m_rows.taps()) * size_t(m_rowBytes), m_rowBytes);
 }
@@ -62,7 +74,7 @@ void PlaneScaler::keep(const uchar *row)
 void PlaneScaler::make()
 {
     const int taps = m_rows.taps();
-    while (m_made < m_down.count && (m_rows.start(m_made) + taps <= m_added || m_added == m_from.height())) {
+    while (m_made < m_to.height() && (m_rows.start(m_made) + taps <= m_added || m_added == m_from.height())) {
         for (int tap = 0; tap < taps; ++tap) {
             const int y = std::min(m_rows.start(m_made) + tap, m_from.height() - 1);
             m_window[size_t(tap)] = m_kept.data() + size_t(y % taps) * size_t(m_rowBytes);
@@ -70,7 +82,7 @@ void PlaneScaler::make()
         planeKernels().sumRows(m_window.data(), m_rows.of(m_made), taps, m_sums.data(), m_rowBytes);
         planeKernels().sumColumns(m_sums.data(), m_columns.starts(), m_columns.of(0), m_columns.taps(), m_row.data(),
                                   int(m_row.size()));
-        std::memcpy(m_plane.row(m_made), m_row.data(), size_t(m_across.count));
+        std::memcpy(m_plane.row(m_made), m_row.data(), size_t(m_to.width()));
         ++m_made;
     }
 }

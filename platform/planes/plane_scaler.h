@@ -5,6 +5,9 @@
 #include "platform/planes/plane.h"
 #include "platform/planes/plane_weights.h"
 
+#include <QPoint>
+
+#include <optional>
 #include <vector>
 
 namespace platform {
@@ -18,6 +21,8 @@ class PlaneScaler
 public:
     /** Throws std::bad_alloc. */
     PlaneScaler(QSize from, const PlaneSpan &across, const PlaneSpan &down);
+    /** The same as of the picture's pixels. Throws std::bad_alloc. */
+    PlaneScaler(QSize from, const PixelSpan &across, const PixelSpan &down);
 
     /** The next row, from top to bottom: rowBytes() must be readable. Rows after the last one are ignored. */
     void add(const uchar *row);
@@ -27,14 +32,14 @@ public:
     Plane &&plane() { return std::move(m_plane); }
 
 private:
+    void makeRoom();
     void copy(const uchar *row);
     void keep(const uchar *row);
     void make();
 
     QSize m_from;
-    PlaneSpan m_across;
-    PlaneSpan m_down;
-    bool m_isPart; ///< nothing to compute: the new samples are the old ones
+    QSize m_to;
+    std::optional<QPoint> m_part; ///< nothing to compute: the new samples are the old ones from here on
     int m_rowBytes;
     PlaneWeights m_columns;
     PlaneWeights m_rows;

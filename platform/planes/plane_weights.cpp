@@ -88,6 +88,24 @@ PlaneWeights::PlaneWeights(const PlaneSpan &span, int samples)
         weigh(i, span.start / span.block + (i + 0.5) * step, {span.block, scale, reach, samples}, exact);
 }
 
+PlaneWeights::PlaneWeights(const std::vector<SampleWeights> &exact)
+{
+    size_t most = 0;
+    for (const SampleWeights &each : exact)
+        most = std::max(most, each.weights.size());
+    m_taps = wholeUnits(int(most), planeTapUnit);
+    const size_t count = size_t(wholeUnits(int(exact.size()), planeOutputUnit));
+    m_starts.assign(count, 0);
+    m_values.assign(count * size_t(m_taps), 0);
+    std::vector<double> padded;
+    for (size_t i = 0; i < exact.size(); ++i) {
+        padded = exact[i].weights;
+        padded.resize(size_t(m_taps));
+        m_starts[i] = exact[i].start;
+        store(int(i), padded, 1);
+    }
+}
+
 void PlaneWeights::weigh(int index, double centre, const Blocks &blocks, std::vector<double> &exact)
 {
     std::fill(exact.begin(), exact.end(), 0);
@@ -102,6 +120,11 @@ void PlaneWeights::weigh(int index, double centre, const Blocks &blocks, std::ve
         sum += weight;
     }
     m_starts[size_t(index)] = start;
+    store(index, exact, sum);
+}
+
+void PlaneWeights::store(int index, const std::vector<double> &exact, double sum)
+{
     qint16 *whole = m_values.data() + size_t(index) * size_t(m_taps);
     int rest = wholeWeight;
     for (int tap = 0; tap < m_taps; ++tap) {

@@ -2,6 +2,7 @@
 
 // Private to the platform.
 
+#include "platform/planes/pixel_span.h"
 #include "platform/planes/plane.h"
 
 #include <vector>
@@ -18,6 +19,8 @@ class PlaneWeights
 public:
     /** Throws std::bad_alloc. */
     PlaneWeights(const PlaneSpan &span, int samples);
+    /** The same for weights that are known. Throws std::bad_alloc. */
+    explicit PlaneWeights(const std::vector<SampleWeights> &exact);
 
     int taps() const { return m_taps; } ///< weights of a new sample, whole units; padded with 0
     int start(int index) const { return m_starts[size_t(index)]; }
@@ -36,6 +39,8 @@ private:
     };
 
     void weigh(int index, double centre, const Blocks &blocks, std::vector<double> &exact);
+    /** Rounds the weights, whose sum is @p sum. */
+    void store(int index, const std::vector<double> &exact, double sum);
 
     int m_taps = 0;
     std::vector<int> m_starts;

@@ -7,8 +7,12 @@
 #include "platform/planes/plane_scaler.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <new>
+#include <utility>
+
+#include <vips/vector.h>
 
 namespace platform {
 namespace {
@@ -36,53 +40,85 @@ bool isMemoryLeft(const PlaneFacts &facts, qsizetype fileBytes, const JpegResize
     return need < memoryLeft();
 }
 
-/** The position of the new samples of one direction among the decoded ones. */
+/** One direction of a picture that is made smaller. */
 struct Direction
 {
-    double pixels; ///< decoded pixels per new one
-    double block;  ///< decoded pixels that are averaged first, or 1
-    int first;     ///< first new pixel that is kept
-    int count;
+    int stored;
+    int wanted;
+    int first; ///< new pixel that is kept
+    int kept;
 
-    /** For a plane with one sample per @p had pixels that becomes one with a sample per @p made. */
-    PlaneSpan of(int had, int made) const
+    /** For a plane with one sample per @p had decoded pixels that becomes one with a sample per @p made. */
+    PlaneSpan of(int shrink, int had, int made) const
     {
-        return {first * pixels / had, pixels * made / had, (count + made - 1) / made, block > 1 ? block / had : 1};
+        const double pixels = double(stored) / shrink / wanted;
+        return {first * pixels / had, pixels * made / had, (kept + made - 1) / made, 1};
+    }
+    PixelSpan fineOf(int shrink, int had, int made, int block, bool isCoarse) const
+    {
+        PixelSpan span;
+        span.step = double(stored) / wanted;
+        span.pixels = stored;
+        span.block = block;
+        span.halved = shrink;
+        span.isInterpolated = had > 1;
+        span.first = first;
+        span.kept = kept;
+        span.shared = made;
+        span.isCoarse = isCoarse;
+        return span;
     }
 };
 
-/** Which part of a plane becomes which, horizontally and vertically. */
-struct PlaneSpans
+/** The pixel library rounds its weights along columns, but not along rows, where it computes with vectors. */
+bool hasCoarseColumns()
 {
-    PlaneSpan columns;
-    PlaneSpan rows;
+    constexpr int lastMajor = 8;
+    constexpr int lastMinor = 14;
+    return vips_version(0) == lastMajor && vips_version(1) <= lastMinor && vips_vector_isenabled() != 0;
+}
 
-    bool isPossible() const { return columns.step <= mostPlaneStep && rows.step <= mostPlaneStep; }
-};
-
-struct Directions
+/** How the planes of a picture are scaled. */
+struct Scaling
 {
-    Direction across;
-    Direction down;
+    QSize stored;
+    JpegResize resize;
+    QSize made; ///< how many new samples of brightness share one of colour
+    int shrink; ///< of the decoder
 
-    /** For the colour planes, whose sampling differs, or for the brightness plane. */
-    PlaneSpans of(bool isColour, QSize had, QSize made) const
+    /** None where weights would be too small, or in doubt what the decoder makes of its samples. */
+    std::optional<PlaneScaler> scaler(QSize plane, bool isColour, QSize decodedSampling) const
     {
-        const QSize one(1, 1);
-        const QSize from = isColour ? had : one;
-        const QSize to = isColour ? made : one;
-        return {across.of(from.width(), to.width()), down.of(from.height(), to.height())};
+        const Direction across = {stored.width(), resize.size.width(), resize.kept.x(), resize.kept.width()};
+        const Direction down = {stored.height(), resize.size.height(), resize.kept.y(), resize.kept.height()};
+        const QSize had = isColour ? decodedSampling : QSize(1, 1);
+        const QSize to = isColour ? made : QSize(1, 1);
+        if (resize.isFine) {
+            constexpr int mostInterpolated = 2;
+            const QSize blocks = blocksOf(stored, resize.size);
+            const PixelSpan columns = across.fineOf(shrink, had.width(), to.width(), blocks.width(), false);
+            const PixelSpan rows = down.fineOf(shrink, had.height(), to.height(), blocks.height(), hasCoarseColumns());
+            const bool isPossible = std::max(columns.step, rows.step) <= mostPlaneStep &&
+                                    std::max(had.width(), had.height()) <= mostInterpolated;
+            return isPossible ? std::optional<PlaneScaler>(std::in_place, plane, columns, rows) : std::nullopt;
+        }
+        const PlaneSpan columns = across.of(shrink, had.width(), to.width());
+        const PlaneSpan rows = down.of(shrink, had.height(), to.height());
+        const bool isPossible = columns.step <= mostPlaneStep && rows.step <= mostPlaneStep;
+        return isPossible ? std::optional<PlaneScaler>(std::in_place, plane, columns, rows) : std::nullopt;
     }
 };
 
-std::optional<JpegPlanes> scaledPlanes(const DecodedPlanes &decoded, const Directions &directions, QSize sampling)
+std::optional<JpegPlanes> scaledPlanes(const DecodedPlanes &decoded, const Scaling &scaling)
 {
     JpegPlanes scaled;
     for (const Plane &plane : decoded.planes) {
-        const PlaneSpans spans = directions.of(!scaled.empty(), decoded.sampling, sampling);
-        if (!spans.isPossible())
+        std::optional<PlaneScaler> scaler = scaling.scaler(plane.size(), !scaled.empty(), decoded.sampling);
+        if (!scaler)
             return std::nullopt;
-        scaled.push_back(scaledPlane(plane, spans.columns, spans.rows));
+        for (int y = 0; y < plane.height(); ++y)
+            scaler->add(plane.row(y));
+        scaled.push_back(scaler->plane());
     }
     return scaled;
 }
@@ -96,55 +132,84 @@ int shrinkFor(QSize stored, const JpegResize &resize)
                          : jpegShrinkFor(stored, resize.size * resize.finer);
 }
 
-/** The average difference of neighbours, one step to the right or down. */
-double detailOf(const Plane &plane)
+/** Whether the decoder's shrinking would be seen, from bands of rows; like showsShrinking() for pictures. */
+class ShrinkingWatch
 {
-    qint64 across = 0;
-    qint64 down = 0;
-    for (int y = 0; y + 1 < plane.height(); ++y) {
-        const uchar *row = plane.row(y);
-        const uchar *below = plane.row(y + 1);
-        for (int x = 0; x + 1 < plane.width(); ++x) {
+public:
+    void add(const PlaneRows &band)
+    {
+        for (int plane = 0; plane < band.planes(); ++plane) {
+            const int rows = std::min(band.rows(plane), band.size(plane).height());
+            for (int y = 0; y + 1 < rows; y += everyRow)
+                addRow(plane, band.row(plane, y), band.row(plane, y + 1), band.size(plane).width());
+        }
+    }
+    bool isShown() const
+    {
+        constexpr double mostDetail = 24;
+        constexpr double share = 0.1;
+        return double(m_paper) > share * double(m_details[0].count) ||
+               std::any_of(m_details.begin(), m_details.end(), [](const Detail &each) {
+                   return double(std::max(each.across, each.down)) > mostDetail * double(each.count);
+               });
+    }
+
+private:
+    static constexpr int everyRow = 2;
+
+    /** The differences of neighbours, one step to the right or down. */
+    struct Detail
+    {
+        qint64 across = 0;
+        qint64 down = 0;
+        qint64 count = 0;
+    };
+
+    void addRow(int plane, const uchar *row, const uchar *below, int width)
+    {
+        constexpr uchar nearly = 2;
+        constexpr uchar most = 255;
+        int across = 0;
+        int down = 0;
+        for (int x = 0; x + 1 < width; ++x) {
             across += std::abs(row[x + 1] - row[x]);
             down += std::abs(below[x] - row[x]);
         }
+        Detail &detail = m_details[size_t(plane)];
+        detail.across += across;
+        detail.down += down;
+        detail.count += width;
+        const auto isPaper = [](uchar sample) { return sample <= nearly || sample >= most - nearly; };
+        if (plane == 0)
+            m_paper += std::count_if(row, row + width, isPaper);
     }
-    return double(std::max(across, down)) / (double(plane.width()) * plane.height());
-}
 
-/** Like showsShrinking() for pictures. */
-bool showsShrinking(const std::vector<Plane> &planes)
-{
-    constexpr double mostDetail = 24;
-    const Plane &brightness = planes.front();
-    constexpr double share = 0.1;
-    constexpr uchar nearly = 2;
-    constexpr uchar most = 255;
-    const auto isPaper = [](uchar sample) { return sample <= nearly || sample >= most - nearly; };
-    qint64 count = 0;
-    for (int y = 0; y < brightness.height(); ++y)
-        count += std::count_if(brightness.row(y), brightness.row(y) + brightness.width(), isPaper);
-    return double(count) > share * brightness.width() * brightness.height() ||
-           std::any_of(planes.begin(), planes.end(), [](const Plane &each) { return detailOf(each) > mostDetail; });
-}
+    std::array<Detail, 3> m_details;
+    qint64 m_paper = 0;
+};
 
-/** Scales the rows as the decoder delivers them, so that planes are never complete at full size. */
-std::optional<JpegPlanes> scaledRows(PlaneRows &decoder, const Directions &directions, QSize sampling)
+/** Scales the rows as the decoder delivers them, so that planes are never complete. */
+std::optional<JpegPlanes> scaledRows(PlaneRows &decoder, const Scaling &scaling)
 {
     std::vector<PlaneScaler> scalers;
     for (int plane = 0; plane < decoder.planes(); ++plane) {
-        const PlaneSpans spans = directions.of(plane > 0, decoder.sampling(), sampling);
-        if (!spans.isPossible())
+        std::optional<PlaneScaler> scaler = scaling.scaler(decoder.size(plane), plane > 0, decoder.sampling());
+        if (!scaler)
             return std::nullopt;
-        scalers.emplace_back(decoder.size(plane), spans.columns, spans.rows);
+        scalers.push_back(std::move(*scaler));
     }
+    ShrinkingWatch watch;
     while (!decoder.isAtEnd()) {
         if (!decoder.read())
             return std::nullopt;
         for (int plane = 0; plane < decoder.planes(); ++plane)
             for (int y = 0; y < decoder.rows(plane); ++y)
                 scalers[size_t(plane)].add(decoder.row(plane, y));
+        if (scaling.shrink > 1)
+            watch.add(decoder);
     }
+    if (scaling.shrink > 1 && watch.isShown())
+        return std::nullopt;
     JpegPlanes scaled;
     for (PlaneScaler &scaler : scalers)
         scaled.push_back(scaler.plane());
@@ -152,28 +217,17 @@ std::optional<JpegPlanes> scaledRows(PlaneRows &decoder, const Directions &direc
 }
 
 /** The planes at the new size; none if the file must go the plain way. */
-std::optional<JpegPlanes> newPlanes(const QByteArray &jpeg, int shrink, const Directions &directions,
-                                    const JpegSettings &settings, bool isFine)
+std::optional<JpegPlanes> newPlanes(const QByteArray &jpeg, const Scaling &scaling)
 {
-    if (shrink == 1) {
-        PlaneRows decoder(jpeg);
+    if (scaling.shrink == 1 || scaling.resize.isFine) {
+        PlaneRows decoder(jpeg, scaling.shrink);
         if (decoder.isGood())
-            return scaledRows(decoder, directions, jpegSampling(settings, decoder.planes()));
+            return scaledRows(decoder, scaling);
+        if (scaling.shrink > 1)
+            return std::nullopt;
     }
-    const std::optional<DecodedPlanes> decoded = decodedPlanes(jpeg, shrink);
-    const bool isToBeWhole = decoded && isFine && shrink > 1 && showsShrinking(decoded->planes);
-    return decoded && !isToBeWhole
-               ? scaledPlanes(*decoded, directions, jpegSampling(settings, int(decoded->planes.size())))
-               : std::nullopt;
-}
-
-Directions directionsOf(QSize stored, const JpegResize &resize, int shrink)
-{
-    const QSize blocks = resize.isFine ? blocksOf(stored, resize.size) : QSize(1, 1);
-    const double each = shrink;
-    return {
-        {stored.width() / each / resize.size.width(), blocks.width() / each, resize.kept.x(), resize.kept.width()},
-        {stored.height() / each / resize.size.height(), blocks.height() / each, resize.kept.y(), resize.kept.height()}};
+    const std::optional<DecodedPlanes> decoded = decodedPlanes(jpeg, scaling.shrink);
+    return decoded ? scaledPlanes(*decoded, scaling) : std::nullopt;
 }
 
 std::optional<QByteArray> resizedFile(const ImageSource::File &file, const JpegResize &resize,
@@ -181,11 +235,12 @@ std::optional<QByteArray> resizedFile(const ImageSource::File &file, const JpegR
 {
     const JpegFromJpeg made(file, options);
     const std::optional<PlaneFacts> &facts = made.facts();
-    const int shrink = shrinkFor(file.storedSize, resize);
+    const bool isInPasses = facts && facts->comesInPasses;
+    const int shrink = isInPasses && resize.isFine ? 1 : shrinkFor(file.storedSize, resize);
     if (!facts || !isMemoryLeft(*facts, made.source().size(), resize, shrink))
         return std::nullopt;
     auto planes =
-        newPlanes(made.source(), shrink, directionsOf(facts->stored, resize, shrink), made.settings(), resize.isFine);
+        newPlanes(made.source(), {facts->stored, resize, jpegSampling(made.settings(), facts->components), shrink});
     if (!planes)
         return std::nullopt;
     return made.finished(encodeJpegPlanes(std::move(*planes), facts->profile, made.settings()), resize.kept.size());

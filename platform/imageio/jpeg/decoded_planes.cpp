@@ -74,6 +74,7 @@ std::optional<PlaneFacts> planeFacts(const QByteArray &jpeg)
         return std::nullopt;
     PlaneFacts facts;
     facts.stored = QSize(int(info.image_width), int(info.image_height));
+    facts.components = info.num_components;
     facts.comesInPasses = info.progressive_mode || jpeg_has_multiple_scans(&info);
     if (jpeg_read_icc_profile(&info, &reader.profile, &reader.profileBytes)) {
         const QByteArray profile(reinterpret_cast<const char *>(reader.profile), qsizetype(reader.profileBytes));

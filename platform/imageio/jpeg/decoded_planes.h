@@ -22,6 +22,7 @@ struct DecodedPlanes
 struct PlaneFacts
 {
     QSize stored;
+    int components = 0;         ///< one or three
     bool comesInPasses = false; ///< so that all of its coefficients are in memory at once
     QByteArray profile;         ///< one that matches the colours; empty if there is none
 };

@@ -14,14 +14,14 @@ void endAtWarning(j_common_ptr info, int level)
 /** Not in the function that is jumped to, since this changes its variables. */
 void readBand(jpeg_decompress_struct &info, JSAMPIMAGE planes)
 {
-    jpeg_read_raw_data(&info, planes, JDIMENSION(info.max_v_samp_factor) * DCTSIZE);
+    jpeg_read_raw_data(&info, planes, JDIMENSION(info.max_v_samp_factor * info.min_DCT_scaled_size));
     if (info.output_scanline >= info.output_height)
         jpeg_finish_decompress(&info);
 }
 
 } // namespace
 
-PlaneRows::PlaneRows(const QByteArray &jpeg) : m_jpeg(jpeg)
+PlaneRows::PlaneRows(const QByteArray &jpeg, int shrink) : m_jpeg(jpeg)
 {
     m_info.err = prepare(m_errors);
     m_errors.base.emit_message = endAtWarning;
@@ -34,6 +34,8 @@ PlaneRows::PlaneRows(const QByteArray &jpeg) : m_jpeg(jpeg)
     if (!isPossible())
         return;
     m_info.raw_data_out = TRUE;
+    m_info.scale_num = 1;
+    m_info.scale_denom = unsigned(shrink);
     m_info.out_color_space = m_info.jpeg_color_space;
     jpeg_start_decompress(&m_info);
     m_isGood = true;
@@ -67,11 +69,24 @@ QSize PlaneRows::size(int plane) const
     return {int(component.downsampled_width), int(component.downsampled_height)};
 }
 
+QSize PlaneRows::sampling() const
+{
+    if (m_info.num_components == 1)
+        return {1, 1};
+    const jpeg_component_info &brightness = m_info.comp_info[0];
+    const jpeg_component_info &colour = m_info.comp_info[1];
+    const int times = colour.DCT_scaled_size / brightness.DCT_scaled_size;
+    return {brightness.h_samp_factor / times, brightness.v_samp_factor / times};
+}
+
 void PlaneRows::makeRoom()
 {
-    const auto height = [this](int plane) { return m_info.comp_info[plane].v_samp_factor * DCTSIZE; };
+    const auto height = [this](int plane) {
+        return m_info.comp_info[plane].v_samp_factor * m_info.comp_info[plane].DCT_scaled_size;
+    };
     const auto stride = [this](int plane) {
-        return wholeUnits(int(m_info.comp_info[plane].width_in_blocks + 1) * DCTSIZE, planeRowUnit);
+        const jpeg_component_info &component = m_info.comp_info[plane];
+        return wholeUnits(int(component.width_in_blocks + 1) * component.DCT_scaled_size, planeRowUnit);
     };
     size_t bytes = 0;
     for (int plane = 0; plane < planes(); ++plane)

@@ -13,14 +13,15 @@
 namespace platform {
 
 /**
- * Decodes a JPEG of grey, or of brightness and two colour differences, as its planes at full size, a band of rows at a
- * time, so that the planes are never complete. Anything that the decoder reports about the file, even a mere warning,
+ * Decodes a JPEG of grey, or of brightness and two colour differences, as its planes, a band of rows at a time, so that
+ * the planes are never complete. At half the size, colours that are stored so are as fine as brightness. Anything that the decoder reports about the file, even a mere warning,
  * ends it.
  */
 class PlaneRows
 {
 public:
-    explicit PlaneRows(const QByteArray &jpeg);
+    /** At full size, or at half of it if @p shrink is 2. */
+    explicit PlaneRows(const QByteArray &jpeg, int shrink = 1);
     PlaneRows(const PlaneRows &) = delete;
     PlaneRows &operator=(const PlaneRows &) = delete;
     ~PlaneRows();
@@ -32,7 +33,7 @@ public:
     int planes() const { return m_info.num_components; }
     QSize size(int plane) const;
     /** How many samples of brightness share one of colour. */
-    QSize sampling() const { return {m_info.max_h_samp_factor, m_info.max_v_samp_factor}; }
+    QSize sampling() const;
 
     /**
      * The next band; with the last one the end of the file has been checked too. Throws std::bad_alloc the first time.

@@ -1,9 +1,10 @@
 #include "image/recipe/encoding.h"
 #include "image/recipe/make.h"
 #include "platform/graphics/resample.h"
-#include "tests/support/scratch_folder.h"
+#include "platform/imageio/convert/resized_jpeg.h"
 #include "tests/support/test_program.h"
 
+#include <QBuffer>
 #include <QDirIterator>
 #include <QImage>
 #include <QTest>
@@ -22,6 +23,8 @@ class TestRecipeScaling : public QObject
 private Q_SLOTS:
     void isAsIfAllPixelsWereThere_data();
     void isAsIfAllPixelsWereThere();
+    void isSoFromJpegToJpeg_data();
+    void isSoFromJpegToJpeg();
     void isSoWhicheverWayAPictureIsStored_data();
     void isSoWhicheverWayAPictureIsStored();
 };
@@ -99,29 +102,63 @@ QString tooFar(const QImage &one, const QImage &other)
             .arg(other.height());
     double sum = 0;
     int most = 0;
+    QPoint place;
     for (int y = 0; y < one.height(); ++y)
         for (int i = 0; i < 4 * one.width(); ++i) {
             const int each = std::abs(one.constScanLine(y)[i] - other.constScanLine(y)[i]);
             sum += each;
-            most = std::max(most, each);
+            if (each > most) {
+                most = each;
+                place = QPoint(i / 4, y);
+            }
         }
     const double mean = sum / (4.0 * one.width() * one.height());
-    return mean > mostMean || most > mostOfOne ? QStringLiteral("%1 on average, %2 at most").arg(mean).arg(most)
+    return mean > mostMean || most > mostOfOne ? QStringLiteral("%1 on average, %2 at most, at %3, %4")
+                                                     .arg(mean)
+                                                     .arg(most)
+                                                     .arg(place.x())
+                                                     .arg(place.y())
                                                : QString();
 }
 
 } // namespace
 
-void TestRecipeScaling::isAsIfAllPixelsWereThere_data()
+/** Stripes, checks and slants of several widths, in sizes that a decoder can halve and in others. */
+static void addPatterns(const QList<int> &cells)
 {
     QTest::addColumn<int>("pattern");
     QTest::addColumn<int>("cell");
     QTest::addColumn<QSize>("size");
     const char *names[] = {"checks", "upright", "level", "slanted", "colours"};
     for (int pattern = 0; pattern < 5; ++pattern)
-        for (const int cell : tests::isSlowRun() ? QList<int>{3, 5, 8, 11, 16} : QList<int>{3, 11})
+        for (const int cell : cells)
             for (const QSize size : {QSize(1203, 905), QSize(1204, 906)}) // a decoder can halve the second
                 QTest::addRow("%s of %d, %d", names[pattern], cell, size.width()) << pattern << cell << size;
+}
+
+void TestRecipeScaling::isAsIfAllPixelsWereThere_data()
+{
+    addPatterns(tests::isSlowRun() ? QList<int>{3, 5, 8, 11, 16} : QList<int>{3, 11});
+}
+
+/** What is wrong with the outputs, in sentences; @p way says which they are. */
+static QStringList problemsOf(const Recipe &recipe, const ImageSource &source, const char *way)
+{
+    QStringList problems;
+    const QList<QImage> made = madeFrom(recipe, source);
+    for (int i = 0; i < made.size(); ++i)
+        if (const QString problem = tooFar(made[i], plainly(recipe, i, source)); !problem.isEmpty())
+            problems.append(
+                QStringLiteral("%1 %2: %3").arg(QLatin1String(way), QString::number(made[i].width()), problem));
+    return problems;
+}
+
+static QByteArray jpegOf(const QImage &image, int quality)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    image.save(&buffer, "jpeg", quality);
+    return bytes;
 }
 
 void TestRecipeScaling::isAsIfAllPixelsWereThere()
@@ -129,24 +166,42 @@ void TestRecipeScaling::isAsIfAllPixelsWereThere()
     QFETCH(int, pattern);
     QFETCH(int, cell);
     QFETCH(QSize, size);
-    const ScratchFolder folder;
-    const QString path = folder.path("a.jpg");
     constexpr int good = 92;
-    QVERIFY(patterned(Pattern(pattern), cell, size).save(path, nullptr, good));
-    const ImageSource source = ImageSource::open(path).value();
+    const ImageSource source = ImageSource::fromData(jpegOf(patterned(Pattern(pattern), cell, size), good)).value();
     QStringList problems;
-    const auto compare = [&](const Recipe &recipe, const char *way) {
-        const QList<QImage> made = madeFrom(recipe, source);
-        for (int i = 0; i < made.size(); ++i)
-            if (const QString problem = tooFar(made[i], plainly(recipe, i, source)); !problem.isEmpty())
-                problems.append(
-                    QStringLiteral("%1 %2: %3").arg(QLatin1String(way), QString::number(made[i].width()), problem));
-    };
     const QList<double> all = {2.3, 4.0, 6.5, 8.0, 8.3, 9.0, 10.0, 10.4, 12.0, 15.0, 17.7, 21.0, 25.5, 33.0, 50.0};
     for (const double times : tests::isSlowRun() ? all : QList<double>{4.0, 8.3, 10.0, 15.0, 25.5}) {
         const int side = int(std::lround(size.width() / times));
-        compare(withSides({side}, OutputType::Png), "one");
-        compare(withSides({side, side * 2 / 3}, OutputType::Png), "two");
+        problems += problemsOf(withSides({side}, OutputType::Png), source, "one");
+        problems += problemsOf(withSides({side, side * 2 / 3}, OutputType::Png), source, "two");
+    }
+    QVERIFY2(problems.isEmpty(), qPrintable(problems.join(u'\n')));
+}
+
+void TestRecipeScaling::isSoFromJpegToJpeg_data()
+{
+    addPatterns(tests::isSlowRun() ? QList<int>{2, 3, 4, 5, 8, 11, 16} : QList<int>{3, 4, 11});
+}
+
+/** Planes that are scaled as they come from the decoder must not be seen. */
+void TestRecipeScaling::isSoFromJpegToJpeg()
+{
+    QFETCH(int, pattern);
+    QFETCH(int, cell);
+    QFETCH(QSize, size);
+    constexpr int good = 92;
+    const ImageSource source = ImageSource::fromData(jpegOf(patterned(Pattern(pattern), cell, size), good)).value();
+    QStringList problems;
+    const QList<double> all = {2.1, 2.3, 2.7, 3.1, 4.0, 4.4, 5.3, 5.9, 6.5, 7.0};
+    for (const double times : tests::isSlowRun() ? all : QList<double>{2.1, 2.3, 3.1, 4.0, 5.3, 6.5, 7.0}) {
+        Recipe recipe = withSides({int(std::lround(size.width() / times))}, OutputType::Jpeg);
+        recipe.outputs.first().quality = 100;
+        const QSize made = planOf(recipe, source).first().size;
+        const bool isWhole = size.width() % 2 != 0 || times < 5;
+        const auto planes =
+            platform::resizedJpeg(source, {.size = made, .kept = QRect(QPoint(), made), .isFine = true}, {});
+        QVERIFY2(!isWhole || planes, "this is to be about planes");
+        problems += problemsOf(recipe, source, "to");
     }
     QVERIFY2(problems.isEmpty(), qPrintable(problems.join(u'\n')));
 }
