@@ -50,7 +50,7 @@ enum class Stop {
 Summary runBatch(const image::Recipe &recipe, Inputs &inputs, const BatchOptions &options, Crew &crew,
                  const TakeLine &take, const std::function<Stop()> &isStopped);
 
-/** Whether an input belongs to a part: pathHash() of the place below its root, or of its own name, modulo their number. */
+/** Whether an input belongs to a part: pathHash() of the path below its root, or of the name of a root, modulo their number. */
 bool isInShard(const Input &input, int shard, int shards);
 
 } // namespace jobs

@@ -92,7 +92,7 @@ private:
     std::deque<Input> m_waiting;
     int m_taken = 0;
     QSet<platform::ItemNumber> m_items;
-    QSet<PathKey> m_names; ///< of what is not there, or has second names that count for themselves
+    QSet<PathKey> m_names; ///< of missing files, and of files with second names, which count separately
     QString m_problem;
 };
 

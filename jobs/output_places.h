@@ -79,7 +79,7 @@ private:
 /** Whether the names of results, but for their numbers, need more of the pictures than their paths. */
 bool namesNeedPictures(const image::Recipe &recipe);
 
-/** Whether a result may take the place of what is there, so that all inputs must be known before. */
+/** Whether a result may replace an existing file, so that all inputs must be known before. */
 bool replacesAnything(const image::Recipe &recipe);
 
 } // namespace jobs

@@ -102,7 +102,7 @@ public:
 
     /** Puts everything in its place, what replaces the picture itself last. A name that was taken meanwhile gets a number. */
     QList<Placed> placeAll(OutputPlaces &places);
-    /** An output has taken its place at @p path: it can be known to be up to date later. placeAll() says it of its own. */
+    /** An output is in place at @p path: it can be recognised as up to date later. placeAll() calls this for its outputs. */
     void note(int index, const QString &path) const;
 
 private:

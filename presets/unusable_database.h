@@ -9,7 +9,7 @@ namespace presets {
  * tables, as left by a full disk or a kill at the very first start. It becomes "NAME.unusable-1", or the next free
  * number, and its path is free for a new one.
  *
- * Anything else is left as it is: a database with one of the tables, one in use, a damaged file and what is not a
+ * Anything else is left alone: a database with one of the tables, one in use, a damaged file and what is not a
  * database at all.
  *
  * @return the new path; empty if nothing was renamed

@@ -11,7 +11,7 @@ namespace text {
 std::optional<QByteArray> asciiBytes(const QString &text);
 
 /**
- * The data that a base64 text stands for.
+ * The data that a base64 text encodes.
  *
  * Characters outside the alphabet (line breaks, spaces, the URL-safe alphabet) are skipped. Nothing if what remains is
  * not whole groups of four, or if "=" occurs anywhere but in the last two places.

@@ -55,7 +55,7 @@ struct OfferedToken
     QStringList forms;
 };
 
-/** The meaning of a token in the reader's words; its name if there is no such token. */
+/** The meaning of a token in the reader's language; its name if there is no such token. */
 QString tokenWords(const QString &name);
 
 /** All tokens, in the order in which they are offered. */

@@ -29,7 +29,7 @@ struct PrintSource
 PrintSource decodedHere();
 
 /**
- * Shows the print panel and, unless it is cancelled, prints each picture on a page of its own: on the printer that was chosen in
+ * Shows the print panel and, unless it is cancelled, prints each picture on a separate page: on the printer that was chosen in
  * the panel, or into the PDF file that the panel named, which is written atomically.
  *
  * @param paths  a picture that cannot be read gives an empty page

@@ -83,7 +83,7 @@ public:
 
     /**
      * Calls a function that a script connected to a signal or passed to an operation, and answers what it returns;
-     * replaced by whoever reports what such functions throw.
+     * replaced by the code that reports what such functions throw.
      */
     std::function<QJSValue(const QJSValue &function, const QJSValueList &values)> callHandler;
 

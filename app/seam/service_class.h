@@ -109,7 +109,7 @@ struct ServiceEntry
     QByteArray module = "quorlin";
     /** new takes a dictionary of fields. */
     bool takesFields = false;
-    /** It stands for a window, a view or a control: outlets without a class take it. */
+    /** It represents a window, a view or a control: outlets without a class accept it. */
     bool isControl = false;
     /** Scripts can make one with new; otherwise only operations return them. */
     bool isMadeByScripts = true;

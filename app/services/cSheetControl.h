@@ -53,7 +53,7 @@ public:
     /**
      * Opens the info sheet with the texts of two keys; a key without a text is shown itself.
      *
-     * @param caption  unused: the sheet has a caption of its own
+     * @param caption  unused: the sheet has a fixed caption
      *
      * The message replaces as many UTF-16 units at the beginning of the shown text as the title is long, or all of it
      * if it is shorter.

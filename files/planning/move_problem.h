@@ -49,7 +49,7 @@ enum class PlanRemark {
 QString wordOf(MoveProblem problem);
 /** "aside", "case", "numbered" or "disk"; empty for none. */
 QString wordOf(PlanRemark remark);
-/** The problem that a word stands for; nothing for any other word. */
+/** The problem that a word means; nothing for any other word. */
 std::optional<MoveProblem> moveProblem(QStringView word);
 
 /** The problem with the item at @p path as a sentence; "could not be copied correctly" for those without one. */

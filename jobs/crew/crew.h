@@ -16,7 +16,7 @@ struct CrewOptions
     platform::WorkerLimits limits;
 };
 
-/** How many workers in a row may end before they are ready; one that is ended by something else is no reason to give up. */
+/** How many workers in a row may end before they are ready; a single one that is killed is no reason to give up. */
 constexpr int mostFailedStarts = 5;
 
 /** Worker processes that know one recipe. Needs an event loop; what is called back comes out of it. */

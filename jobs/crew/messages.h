@@ -42,7 +42,7 @@ struct HelloMessage
     bool hasCallRules = false;
 };
 
-/** Files come along, in the order of the paths. */
+/** Files are attached in the order of the paths. */
 struct RecipeFilesMessage
 {
     QStringList paths;
@@ -60,7 +60,7 @@ struct ReadyMessage
     QString problem; ///< a sentence that begins with the place
 };
 
-/** One picture, which comes along as an open file. */
+/** One picture, which is attached as an open file. */
 struct PictureMessage
 {
     text::TokenFacts facts; ///< what is known without looking into the picture
@@ -71,13 +71,13 @@ struct PictureMessage
 /** What a picture will become, one plan an output; only what the other side needs of each. */
 struct PlannedMessage
 {
-    QString problem; ///< a sentence where the picture cannot be opened; there are no plans then
+    QString problem; ///< a sentence if the picture cannot be opened; then there are no plans
     QList<image::OutputPlan> plans;
     platform::PictureFacts facts; ///< where they were wanted
     QSize pixels;
 };
 
-/** Files for these outputs come along, in this order. */
+/** Files for these outputs are attached in this order. */
 struct OutputsMessage
 {
     QList<int> indices;

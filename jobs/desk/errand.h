@@ -18,7 +18,7 @@ struct Hand
 /**
  * One task for one worker: the order, the answer, and what happens with that. A desk carries it out, see WorkerDesk.
  *
- * Each kind of work has messages of its own (see messages.h) and a case in the worker that takes them (recipe_worker.cpp). Pictures are
+ * Each kind of work has separate messages (see messages.h) and a case in the worker that handles them (recipe_worker.cpp). Pictures are
  * handed over as open descriptors: LentFile::open() for what is read, a file that was made for what is written, a memfd for pixels that
  * come back.
  */

@@ -49,7 +49,7 @@ enum class Reading {
     Comment,
     /** {name, heldBy}: of the colour profile, and the type identifiers of those kinds of files that hold some profiles and this one. */
     Profile,
-    /** What {recipe} makes of the picture, see RecipeService::planOutput(). The files that the recipe names come along. */
+    /** What {recipe} makes of the picture, see RecipeService::planOutput(). The files that the recipe names are attached. */
     Plan,
     /** {bytes}: how large the file is that {recipe} makes of the picture, or else its conversion to {type} with {quality}, by making it. */
     Bytes,
@@ -69,7 +69,7 @@ enum class Reading {
     Values,
 };
 
-/** Files come along, in the order of the paths; the picture is the first. */
+/** Files are attached in the order of the paths; the picture is the first. */
 struct ReadMessage
 {
     Reading what = Reading::Facts;
@@ -77,7 +77,7 @@ struct ReadMessage
     QStringList paths;
 };
 
-/** Pixels come along as an open file where their size is not empty, see platform::SharedImage. */
+/** Pixels are attached as an open file if their size is not empty, see platform::SharedImage. */
 struct AnswerMessage
 {
     QString problem; ///< a sentence on failure

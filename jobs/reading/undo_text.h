@@ -28,7 +28,7 @@ struct SidecarUndo
 QString undoText(const PictureUndo &undo);
 QString undoText(const SidecarUndo &undo);
 
-/** None where the text is no such undo. */
+/** None if the text is not such an undo. */
 std::optional<PictureUndo> pictureUndo(const QString &text);
 std::optional<SidecarUndo> sidecarUndo(const QString &text);
 

@@ -111,7 +111,7 @@ public:
     Q_INVOKABLE QStringList takes() const;
 
     /**
-     * Those of @p paths that a run of this program wrote and nobody changed since. Results that took the place of their own original do not
+     * Those of @p paths that a run of this program wrote and nobody changed since. Results that replaced their own original do not
      * count, and neither does what is on disks that cannot note it.
      */
     Q_INVOKABLE QStringList resultsAmong(const QStringList &paths) const;

@@ -12,7 +12,7 @@ namespace platform {
 void beginSheet(QObject *window, QObject *sheet);
 
 /**
- * Closes @p sheet, wherever it is open; does nothing if it is not. A window on which another sheet was opened before
+ * Closes @p sheet; does nothing if it is not open. A window on which another sheet was opened before
  * shows that one again. @p window is checked too, in case it got the sheet from someone else.
  */
 void endSheet(QObject *sheet, QObject *window);

@@ -167,7 +167,7 @@ public:
     void setSheet(QObject *sheet) { m_sheet = sheet; }
 
 private:
-    QPointer<QObject> m_sheet; ///< the sheet belongs to whoever made it and may be destroyed first
+    QPointer<QObject> m_sheet; ///< the sheet belongs to its maker and may be destroyed first
 };
 
 } // namespace platform

@@ -40,7 +40,7 @@ struct JpegQuantisation
 /**
  * Decoded pixels in memory with their colour model, depth, alpha, colour profile and resolution.
  *
- * A cheap value: copies share the pixels, which never change. A null bitmap stands for "no picture". Coordinates are
+ * A cheap value: copies share the pixels, which never change. A null bitmap means "no picture". Coordinates are
  * pixels, origin top left. Alpha is not premultiplied. A bitmap without a profile is sRGB (or grey with its curve).
  */
 class Bitmap

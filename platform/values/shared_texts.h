@@ -10,7 +10,7 @@
 namespace platform {
 
 /**
- * A list of texts shared by everybody who received it: whoever empties it empties it for all.
+ * A list of texts shared by all holders: emptying it empties it for all of them.
  *
  * Copies share one list; a default-constructed one is no list at all. A script gets the list as an array, always the
  * same one, which is emptied with it. What is appended after that does not reach the array. Main thread only.

@@ -13,7 +13,7 @@ struct MadeTiff
     int pages = 1;
     /** The first directory names the version of a raw format, as a camera's file does. */
     bool isRaw = false;
-    /** The first directory has a tag 0x9286 of its own, which belongs into the EXIF directory. */
+    /** The first directory has a tag 0x9286, which belongs in the EXIF directory. */
     QByteArray misplacedComment = {};
 };
 

@@ -412,7 +412,7 @@ private:
             item = isOpen(*item->second) ? node.items.erase(item) : std::next(item);
         }
     }
-    /** Each disk has a trash of its own, unless that is apart. */
+    /** Each disk has its own trash, unless the trash is on another disk. */
     quint64 deviceOf(const QString &path) const
     {
         const bool isTrashed = path.startsWith(QStringLiteral("/trash/")) && !isTrashApart;

@@ -7,7 +7,7 @@
 
 #include <sqlite3.h>
 
-/** A user's data folder of its own for the presets database, and a look at the file past the services. */
+/** A separate data folder for the presets database, and a look at the file past the services. */
 class PresetStore
 {
 public:

@@ -4,8 +4,8 @@
 
 /**
  * Many tests in one program: each is known by the name of its file, and the program runs the one under whose name it is
- * started. QUORLIN_TEST(Class) stands where QTEST_GUILESS_MAIN(Class) would, QUORLIN_GUI_TEST(Class) where
- * QTEST_MAIN(Class) would; a file with a main of its own stays a program of its own.
+ * started. QUORLIN_TEST(Class) replaces QTEST_GUILESS_MAIN(Class), and QUORLIN_GUI_TEST(Class) replaces
+ * QTEST_MAIN(Class); a file with a main remains a separate program.
  */
 namespace tests {
 

@@ -11,7 +11,7 @@
 #include <memory>
 
 /**
- * A server in this process that answers every request as the test says, from a thread of its own: the client may block
+ * A server in this process that answers every request as the test says, from a separate thread: the client may block
  * while it waits.
  */
 class WebServer

@@ -8,7 +8,7 @@
 struct Attack
 {
     QLatin1String name;
-    bool isEnded; ///< whoever tries it is killed, rather than refused
+    bool isEnded; ///< a process that tries it is killed, rather than refused
 };
 
 inline const std::array<Attack, 26> attacks = {{

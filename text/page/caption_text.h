@@ -14,7 +14,7 @@ QStringList captionTokens();
 /** Those of them that say where a picture was taken: {city} and others. */
 QStringList placeTokens();
 
-/** What a token of captions stands for, in the reader's words. */
+/** The meaning of a token of captions, in the reader's language. */
 QString captionTokenWords(const QString &name);
 
 enum class Places { MayBeTold, AreKeptBack };

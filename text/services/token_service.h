@@ -20,7 +20,7 @@ public:
     /** A text parsed: {text} or {token, form} each. See tokenParts(). */
     Q_INVOKABLE QVariantList parts(const QString &pattern) const;
 
-    /** What a token stands for, in the reader's words; its name if there is no such token. */
+    /** The meaning of a token in the reader's language; its name if there is no such token. */
     Q_INVOKABLE QString words(const QString &token) const;
 
     /** The pattern of each level of a folder pattern. See tokenLevels(). */

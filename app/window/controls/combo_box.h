@@ -8,7 +8,7 @@ namespace window {
 
 /**
  * A combo box whose entries stay readable however narrow it is: a chosen entry without enough room ends in an ellipsis
- * and is shown in the tooltip, if the box has none of its own, and the list opens as wide as its entries need.
+ * and is shown in the tooltip, if the box has no other, and the list opens as wide as its entries need.
  */
 class ComboBox : public QComboBox
 {

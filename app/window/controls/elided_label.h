@@ -6,7 +6,7 @@ namespace window {
 
 /**
  * One line of text that ends in an ellipsis if it does not fit; then the tooltip shows all of it, unless the label has
- * one of its own.
+ * another one.
  */
 class ElidedLabel : public QLabel
 {

@@ -8,13 +8,13 @@
 
 namespace window {
 
-/** The runs of a log, the newest first, under one entry that stands for all of them. */
+/** The runs of a log, the newest first, under one entry for all of them. */
 class RunRows : public QAbstractListModel
 {
     Q_OBJECT
 
 public:
-    /** Numbers of runs are found under this role; -1 stands for all. */
+    /** Numbers of runs are found under this role; -1 means all. */
     static constexpr int numberRole = Qt::UserRole;
     static constexpr int dateRole = Qt::UserRole + 1;
     static constexpr int countRole = Qt::UserRole + 2;

@@ -14,7 +14,7 @@ namespace window {
  * Folders as slots with keys. A key, a click or Enter chooses a slot; F2 edits its label; slots can be dragged to
  * another place, and folders dropped on the list become new ones. The script decides what each of these does.
  *
- * While the list is visible and active the keys work wherever the focus is in the window, except in text fields.
+ * While the list is visible and active the keys work anywhere in the window, except in text fields.
  */
 class SlotList : public QListView
 {

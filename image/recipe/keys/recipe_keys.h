@@ -13,7 +13,7 @@
 
 namespace image {
 
-/** A word of a recipe and what it stands for. */
+/** A word of a recipe and its meaning. */
 template<typename T> struct Word
 {
     const char *word;

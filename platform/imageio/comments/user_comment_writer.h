@@ -18,7 +18,7 @@ class LentFile;
  * pages keeps only the first, whatever its name; a camera raw file, recognised by its content, keeps everything.
  *
  * Supported are JPEG (an EXIF segment), TIFF (its directories), PNG (a chunk eXIf, which also replaces the same block
- * stored as a text), JPEG 2000 (a box of its own) and WebP (a chunk EXIF). The file is replaced as by spliceFile(), and
+ * stored as a text), JPEG 2000 (a separate box) and WebP (a chunk EXIF). The file is replaced as by spliceFile(), and
  * only if something changes. Reads headers only, except for TIFF files, and for JPEG 2000 and WebP the chain of their
  * parts.
  *

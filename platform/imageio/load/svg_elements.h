@@ -51,7 +51,7 @@ struct SvgElement
     SvgOutline outline;
     QList<SvgReference> references;
     bool isDefinition = false; ///< drawn only where it is referenced
-    bool isLayer = false;      ///< has a surface of its own, of the size of the canvas
+    bool isLayer = false;      ///< has a separate surface in the size of the canvas
     bool isText = false;
     double letters = 0;
     bool isRefused = false; ///< the drawing library ends the process for numbers such as these

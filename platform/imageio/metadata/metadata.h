@@ -126,7 +126,7 @@ public:
      * file cannot hold metadata; pixels are never touched.
      *
      * With Carried::Everything also JPEG 2000, JPEG XL, WebP, GIF and PDF files made by our own encoders; @p encoded
-     * must then have no metadata of its own. AVIF gets its metadata when it is encoded.
+     * must then have no metadata yet. AVIF gets its metadata when it is encoded.
      *
      * @param pixels  the size of the picture if its file does not say: PDF and JPEG XL
      */

@@ -11,7 +11,7 @@ namespace platform {
 class ImageSource;
 
 /**
- * A picture in memory: upright pixels and a size in points of its own.
+ * A picture in memory: upright pixels, and a separate size in points.
  *
  * A cheap value whose copies share their pixels, including those decoded later. If it was opened from a file, its size
  * in points is pixels x 72 / dots per inch.

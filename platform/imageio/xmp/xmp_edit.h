@@ -27,7 +27,7 @@ struct XmpValue
  * An XMP packet with those of its properties that @p isKept selects, and with other texts for those of @p values that
  * it contains; none is added. Nested properties stay or go with their parent. What stays keeps its words and prefixes.
  *
- * None if the packet is not well-formed XML, or has a document type of its own.
+ * None if the packet is not well-formed XML, or declares a document type.
  */
 std::optional<QByteArray> editedXmp(const QByteArray &packet, const std::function<bool(const XmpName &)> &isKept,
                                     const QList<XmpValue> &values = {});

@@ -224,7 +224,7 @@ public:
                 continue; // it was being written
             for (const char *passing : {"date", "run"})
                 row.remove(QLatin1String(passing));
-            for (const char *path : {"inputPath", "outputPath"}) // each home has a name of its own
+            for (const char *path : {"inputPath", "outputPath"}) // each home has a different name
                 row[QLatin1String(path)] = row[QLatin1String(path)].toString().remove(input());
             rows.append(row);
         }

@@ -16,7 +16,7 @@
 
 /**
  * The program with its main window, as a person would work it: finds controls by name, waits for what the window does.
- * Settings and logs go to a folder of its own.
+ * Settings and logs go to a separate folder.
  */
 class WindowDriver
 {

@@ -19,7 +19,7 @@ public:
     WindowTour(WindowDriver &driver, QSize size, Look look);
 
     void actions();
-    /** What asks for something without a window of its own. */
+    /** Bars that ask for something inside the window. */
     void bars();
     void runs();
     void sheets();

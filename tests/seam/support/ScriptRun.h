@@ -5,7 +5,7 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
-/** Runs pieces of script as modules in a folder of their own and collects what they report. */
+/** Runs pieces of script as modules in a separate folder and collects what they report. */
 class ScriptRun
 {
 public:
