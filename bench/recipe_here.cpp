@@ -17,8 +17,9 @@ int main(int argc, char **argv)
     const QStringList arguments = QCoreApplication::arguments();
     constexpr int own = 3;
     const auto recipe = image::readRecipeFile(arguments.value(1));
-    if (argc <= own || !recipe || !platform::startPictureLibraries(1))
+    if (argc <= own || !recipe)
         return EXIT_FAILURE;
+    platform::prepareForPictures(1);
     for (int i = own; i < argc; ++i) {
         const auto source = platform::ImageSource::open(arguments[i]);
         if (!source)

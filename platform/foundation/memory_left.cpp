@@ -175,4 +175,45 @@ Result<void> memoryIsLeftFor(qint64 need, const QString &name, qint64 addresses)
     return failure(ErrorCode::TooLarge, sentence);
 }
 
+#ifdef __GLIBC__
+namespace {
+
+/**
+ * Keeps the memory of one picture for the next. Otherwise the system takes every large buffer back and hands it out again
+ * page by page, which costs as much time as writing the file.
+ */
+void keepMemoryForNextPicture()
+{
+    constexpr int noBufferIsLargeEnough = 1 << 30;
+    constexpr int mostKept = 256 << 20;
+    mallopt(M_MMAP_THRESHOLD, noBufferIsLargeEnough);
+    mallopt(M_TRIM_THRESHOLD, mostKept);
+}
+
+/**
+ * A heap of its own for each thread reserves 64 MB of address space and more. Where that is limited, what is left for pixels
+ * would depend on how many threads there happen to be, and libraries that end the process where they get nothing would.
+ */
+void shareOneHeapWhereAddressesAreShort()
+{
+    rlimit limit = {};
+    if (::getrlimit(RLIMIT_AS, &limit) == 0 && limit.rlim_cur != RLIM_INFINITY)
+        mallopt(M_ARENA_MAX, 1);
+}
+
+} // namespace
+#endif
+
+void prepareHeapForPictures()
+{
+#ifdef __GLIBC__
+    static const bool isReady = [] {
+        shareOneHeapWhereAddressesAreShort();
+        keepMemoryForNextPicture();
+        return true;
+    }();
+    static_cast<void>(isReady);
+#endif
+}
+
 } // namespace platform

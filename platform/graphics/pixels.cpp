@@ -8,13 +8,14 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
-#include <malloc.h>
-#include <sys/resource.h>
 
 namespace platform {
 namespace {
 
 using vips::VImage;
+
+bool s_isVipsStarted = false;
+int s_threads = 0; ///< that the library may use; 0 for as many as it likes
 
 void ignoreMessage(const gchar *, GLogLevelFlags, const gchar *, gpointer) {}
 
@@ -39,33 +40,6 @@ bool profileFits(const VImage &image)
     default:
         return space == "RGB ";
     }
-}
-
-/**
- * Keeps the memory of one picture for the next. Otherwise the system would reclaim every large buffer and hand it out
- * again page by page, which takes as much time as writing the file.
- */
-void keepMemoryForNextPicture()
-{
-#ifdef __GLIBC__
-    constexpr int noBufferIsLargeEnough = 1 << 30;
-    constexpr int mostKept = 256 << 20;
-    mallopt(M_MMAP_THRESHOLD, noBufferIsLargeEnough);
-    mallopt(M_TRIM_THRESHOLD, mostKept);
-#endif
-}
-
-/**
- * A separate heap for each thread reserves 64 MB of address space and more. If that is limited, the remainder for
- * pixels would depend on the number of threads, and libraries that end the process when allocation fails would do so.
- */
-void shareOneHeapWhereAddressesAreShort()
-{
-#ifdef __GLIBC__
-    rlimit limit = {};
-    if (::getrlimit(RLIMIT_AS, &limit) == 0 && limit.rlim_cur != RLIM_INFINITY)
-        mallopt(M_ARENA_MAX, 1);
-#endif
 }
 
 /**
@@ -112,22 +86,32 @@ void initVips()
         // Libraries below report odd files on standard error, which is reserved for the log lines of this program.
         g_log_set_handler("VIPS", GLogLevelFlags(G_LOG_LEVEL_WARNING | G_LOG_LEVEL_INFO | G_LOG_LEVEL_MESSAGE),
                           ignoreMessage, nullptr);
-        shareOneHeapWhereAddressesAreShort();
+        prepareHeapForPictures();
         if (VIPS_INIT("quorlin") != 0)
             return false;
-        keepMemoryForNextPicture();
+        if (s_threads > 0)
+            vips_concurrency_set(s_threads);
         // A file that was replaced must not be answered from the cache.
         vips_cache_set_max(0);
+        s_isVipsStarted = true;
         return true;
     }();
     if (!ready)
         throw vips::VError("libvips could not be started");
 }
 
+void limitVipsThreads(int threads)
+{
+    s_threads = threads;
+    if (s_isVipsStarted)
+        vips_concurrency_set(threads);
+}
+
 QString takeVipsError(const vips::VError &error)
 {
     const QString text = QString::fromUtf8(error.what()).trimmed();
-    vips_error_clear();
+    if (s_isVipsStarted) // others throw this error too
+        vips_error_clear();
     return text.section(u'\n', 0, 0);
 }
 

@@ -30,9 +30,13 @@ struct Bitmap::Pixels
 
 /**
  * Initialises the library; cheap if it is initialised. Whatever creates an image from scratch calls this first, and so
- * does code that clears the library's errors: before initialisation even that ends the process.
+ * does code that clears the library's errors: before initialisation even that ends the process. The first call loads the
+ * library, which takes tens of milliseconds, so code that does not need it does not call this.
  */
 void initVips();
+
+/** How many threads an operation of the library may use, now or once it is initialised. */
+void limitVipsThreads(int threads);
 
 /** The text of a caught library error; empties the error buffer for the next operation. */
 QString takeVipsError(const vips::VError &error);

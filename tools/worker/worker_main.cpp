@@ -62,8 +62,7 @@ int runWorker(int count, char **arguments, const jobs::WorkerTrial &trial)
     limitAddresses(std::atoll(arguments[2]));
     const QCoreApplication application(count, arguments);
     const Tables tables(arguments + own, arguments + count);
-    if (!platform::startPictureLibraries(1))
-        return EXIT_FAILURE;
+    platform::prepareForPictures(1);
     const platform::Confinement active = platform::confine(platform::systemFolders());
     platform::MessageSocket socket(platform::Descriptor(platform::workerSocket), platform::MessageSocket::Files::Taken);
     jobs::workOnRecipes(socket, active, trial);

@@ -70,15 +70,40 @@ void readDensity(const jpeg_decompress_struct &info, JpegHeader &header)
     header.verticalDpi = info.Y_density * factor;
 }
 
+void countWarning(j_common_ptr info, int level)
+{
+    info->err->num_warnings += level < 0 ? 1 : 0;
+}
+
+bool isPlain(const jpeg_decompress_struct &info)
+{
+    const bool isGrey = info.num_components == 1 && info.jpeg_color_space == JCS_GRAYSCALE;
+    const bool isDifferences = info.num_components == 3 && info.jpeg_color_space == JCS_YCbCr;
+    return (isGrey || isDifferences) && info.data_precision == BITS_IN_JSAMPLE && info.err->num_warnings == 0;
+}
+
+QList<QByteArray> exifsOf(const jpeg_decompress_struct &info)
+{
+    QList<QByteArray> found;
+    for (const jpeg_marker_struct *marker = info.marker_list; marker; marker = marker->next) {
+        const QByteArray content(reinterpret_cast<const char *>(marker->data), qsizetype(marker->data_length));
+        if (content.startsWith("Exif"))
+            found.append(content);
+    }
+    return found;
+}
+
 } // namespace
 
 std::optional<JpegHeader> readJpegHeader(QIODevice &file)
 {
+    constexpr unsigned wholeSegment = 0xffff;
     JpegErrorManager errors;
     jpeg_decompress_struct info = {};
     auto source = std::make_unique<DeviceSource>();
     JpegHeader header;
     info.err = prepare(errors);
+    errors.base.emit_message = countWarning;
     if (setjmp(errors.jump)) {
         jpeg_destroy_decompress(&info);
         return std::nullopt;
@@ -91,9 +116,12 @@ std::optional<JpegHeader> readJpegHeader(QIODevice &file)
     source->base.resync_to_restart = jpeg_resync_to_restart;
     source->base.term_source = initSource;
     info.src = &source->base;
+    jpeg_save_markers(&info, JPEG_APP0 + 1, wholeSegment);
     jpeg_read_header(&info, TRUE);
     readTables(info, header);
     readDensity(info, header);
+    header.isPlain = isPlain(info);
+    header.exifs = exifsOf(info);
     jpeg_destroy_decompress(&info);
     return header;
 }

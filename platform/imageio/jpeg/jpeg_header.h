@@ -2,7 +2,9 @@
 
 #include "platform/graphics/bitmap.h"
 
+#include <QByteArray>
 #include <QIODevice>
+#include <QList>
 #include <QSize>
 
 namespace platform {
@@ -15,6 +17,8 @@ struct JpegHeader
     QSize size;               ///< pixels as stored
     double horizontalDpi = 0; ///< of the JFIF segment; 0 if there is none or it names no unit
     double verticalDpi = 0;
+    bool isPlain = false; ///< 8 bits of grey or of brightness and two differences, and the decoder has no remark on it
+    QList<QByteArray> exifs; ///< the contents of all segments that begin as EXIF does
 };
 
 /** Reads the tables before the first scan. None if they cannot be read. */

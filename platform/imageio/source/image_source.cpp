@@ -3,6 +3,7 @@
 #include "platform/file/atomic_file.h"
 #include "platform/file/lent_file.h"
 #include "platform/file/regular_file.h"
+#include "platform/foundation/memory_left.h"
 #include "platform/foundation/paths.h"
 #include "platform/graphics/resample.h"
 #include "platform/imageio/codecs/codecs.h"
@@ -14,6 +15,7 @@
 #include "platform/imageio/jpeg/shrunk_jpeg.h"
 #include "platform/imageio/source/opened_file.h"
 #include "platform/imageio/source/opening_watch.h"
+#include "platform/imageio/source/plain_jpeg.h"
 #include "platform/imageio/tiff/camera_raw.h"
 
 #include <QCoreApplication>
@@ -105,8 +107,24 @@ Result<void> readPlainHeader(File &file)
     return {};
 }
 
+std::optional<PlainJpeg> plainJpegOf(const File &file)
+{
+    if (file.content != Content::Jpeg || file.isRaw())
+        return std::nullopt;
+    const std::unique_ptr<QIODevice> device = file.bytes.openedDevice();
+    const std::optional<PlainJpeg> known = plainJpeg(*device);
+    demandRead(*device);
+    return known;
+}
+
 Result<void> readHeader(File &file)
 {
+    if (const std::optional<PlainJpeg> jpeg = plainJpegOf(file)) {
+        file.storedSize = jpeg->size;
+        file.orientation = jpeg->orientation;
+        const bool isWithin = fitsMemoryBudget(jpeg->size.width(), jpeg->size.height(), jpeg->components, 1);
+        return isWithin ? Result<void>() : tooLarge(file.name(), file.storedSize);
+    }
     initVips();
     const VImage image = openImage(file.bytes, file.content);
     file.storedSize = QSize(image.width(), image.height());
@@ -144,6 +162,7 @@ Result<void> usePreview(File &file)
 Result<std::shared_ptr<const File>> opened(PictureBytes bytes)
 {
     tellOpening(bytes.path);
+    prepareHeapForPictures();
     auto file = std::make_shared<File>();
     file->bytes = std::move(bytes);
     const std::unique_ptr<QIODevice> device = file->bytes.device();

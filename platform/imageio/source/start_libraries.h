@@ -3,13 +3,11 @@
 namespace platform {
 
 /**
- * Initialises the libraries for reading and writing pictures, with everything that they load, and without starting a
- * thread.
+ * Prepares this process for pictures. The libraries that read and write them are loaded when one of them is needed, since
+ * that takes longer than shrinking a photograph for the web.
  *
  * @param threads  how many an operation on a picture may use
- *
- * False if they cannot be initialised.
  */
-bool startPictureLibraries(int threads);
+void prepareForPictures(int threads);
 
 } // namespace platform

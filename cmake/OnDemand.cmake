@@ -1,0 +1,47 @@
+# Shared libraries that are loaded when something of them is called for the first time: what most pictures never need would else be
+# most of what a start costs (docs/decisions/0063).
+set(on_demand_can OFF)
+if(CMAKE_SYSTEM_NAME STREQUAL "Linux" AND CMAKE_SYSTEM_PROCESSOR STREQUAL "x86_64" AND NOT QUORLIN_SANITIZE AND NOT QUORLIN_FUZZ)
+  set(on_demand_can ON)
+endif()
+find_package(Python3 3.9 REQUIRED COMPONENTS Interpreter)
+option(QUORLIN_ON_DEMAND "Load libraries when they are needed" ${on_demand_can})
+if(QUORLIN_ON_DEMAND)
+  enable_language(ASM)
+endif()
+
+# quorlin_links_on_demand(room PACKAGE...): the room uses what pkg-config knows under these prefixes; whoever links the room links
+# none of it. What the toolkit links anyway, or every picture needs, is linked as usual.
+function(quorlin_links_on_demand room)
+  if(NOT QUORLIN_ON_DEMAND)
+    foreach(package ${ARGN})
+      target_link_libraries(${room} PRIVATE PkgConfig::${package})
+    endforeach()
+    return()
+  endif()
+  set(libraries "")
+  foreach(package ${ARGN})
+    target_include_directories(${room} SYSTEM PRIVATE ${${package}_INCLUDE_DIRS})
+    target_compile_options(${room} PRIVATE ${${package}_CFLAGS_OTHER})
+    list(APPEND libraries ${${package}_LINK_LIBRARIES})
+  endforeach()
+  list(REMOVE_DUPLICATES libraries)
+  set(linked ${libraries})
+  list(FILTER linked INCLUDE REGEX "/lib(glib-2\\.0|m|z)\\.so")
+  list(REMOVE_ITEM libraries ${linked})
+  set(source ${CMAKE_CURRENT_BINARY_DIR}/${room}_on_demand.S)
+  add_custom_command(OUTPUT ${source}
+    COMMAND ${CMAKE_COMMAND} -E env NM=${CMAKE_NM} READELF=${CMAKE_READELF}
+      ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/cmake/on_demand.py ${source} $<TARGET_FILE:${room}> ${libraries}
+    DEPENDS ${room} ${PROJECT_SOURCE_DIR}/cmake/on_demand.py VERBATIM)
+  add_library(${room}-on-demand STATIC ${source} ${PROJECT_SOURCE_DIR}/cmake/on_demand.cpp)
+  target_link_libraries(${room}-on-demand PRIVATE quorlin-common ${CMAKE_DL_LIBS} INTERFACE ${linked})
+  # What the package needs is told by a library that is linked to all of them, and is not installed.
+  file(CONFIGURE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/${room}_needs.cpp CONTENT "// Only what it is linked to matters.\n")
+  add_library(${room}-needs SHARED ${CMAKE_CURRENT_BINARY_DIR}/${room}_needs.cpp)
+  set_target_properties(${room}-needs PROPERTIES AUTOMOC OFF)
+  target_link_options(${room}-needs PRIVATE -Wl,--no-as-needed)
+  target_link_libraries(${room}-needs PRIVATE ${libraries})
+  # Not a dependency of the room, since it is made of it.
+  set_property(TARGET ${room} APPEND PROPERTY INTERFACE_LINK_LIBRARIES ${room}-on-demand)
+endfunction()
