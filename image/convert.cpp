@@ -32,6 +32,9 @@ Result<Metadata> metadataForStoredPixels(const ImageSource &source)
 /** The stored pixels and nothing else. */
 Result<QByteArray> plainFile(const ImageSource &source, FileFormat format)
 {
+    if (format == FileFormat::Png)
+        if (const auto straight = platform::rowsAsPng(source))
+            return *straight;
     const platform::Forms forms = format == FileFormat::Tiff ? platform::Forms::AsTiffHolds : platform::Forms::Plain;
     return source.decode({0, platform::Orientation::AsStored, forms, format}).and_then([format](const Bitmap &bitmap) {
         return platform::encodeImage(bitmap, format, withResolution());

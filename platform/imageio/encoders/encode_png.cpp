@@ -6,16 +6,17 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace platform {
 namespace {
 
-QByteArray headerOf(const vips::VImage &image)
+QByteArray headerOf(const PngShape &shape)
 {
     constexpr char colourTypes[] = {0, 4, 2, 6}; // grey, grey with alpha, RGB, RGB with alpha
-    QByteArray header = bigEndian(quint32(image.width())) + bigEndian(quint32(image.height()));
-    header.append(char(bytesPerComponent(image) * 8));
-    header.append(colourTypes[image.bands() - 1]);
+    QByteArray header = bigEndian(quint32(shape.size.width())) + bigEndian(quint32(shape.size.height()));
+    header.append(char(shape.bits));
+    header.append(colourTypes[shape.bands - 1]);
     return header.append(3, '\0'); // the only compression, the only set of filters, not interlaced
 }
 
@@ -30,9 +31,8 @@ void appendResolution(QByteArray &png, Resolution resolution)
     appendPngChunk(png, "pHYs", perMetre(resolution.horizontal) + perMetre(vertical) + '\x01');
 }
 
-void appendProfile(QByteArray &png, const vips::VImage &image)
+void appendProfile(QByteArray &png, const QByteArray &profile)
 {
-    const QByteArray profile = iccProfileOf(image);
     if (!profile.isEmpty())
         appendPngChunk(png, "iCCP", QByteArray("icc\0\0", 5) + deflated(profile));
 }
@@ -46,23 +46,34 @@ vips::VImage fitted(const vips::VImage &image)
 
 } // namespace
 
-QByteArray encodePng(const vips::VImage &image, Resolution resolution)
+QByteArray pngFile(const PngShape &shape, QByteArray rows)
 {
-    const vips::VImage pixels = inMemory(fitted(image));
-    const QByteArray stream = deflated(filteredRows(pixels));
+    const QByteArray stream = deflated(std::exchange(rows, {}));
     if (stream.isEmpty())
         throw vips::VError("not enough memory");
     QByteArray png("\x89PNG\r\n\x1a\n");
     png.reserve(stream.size() + 65536);
-    appendPngChunk(png, "IHDR", headerOf(pixels));
-    appendProfile(png, pixels);
-    appendResolution(png, resolution);
+    appendPngChunk(png, "IHDR", headerOf(shape));
+    appendProfile(png, shape.profile);
+    appendResolution(png, shape.resolution);
     constexpr qsizetype largestChunk = 1 << 30;
     for (qsizetype at = 0; at < stream.size(); at += largestChunk)
         appendPngChunk(png, "IDAT",
                        QByteArray::fromRawData(stream.constData() + at, std::min(largestChunk, stream.size() - at)));
     appendPngChunk(png, "IEND", {});
     return png;
+}
+
+QByteArray encodePng(const vips::VImage &image, Resolution resolution)
+{
+    const vips::VImage pixels = inMemory(fitted(image));
+    constexpr int bitsPerByte = 8;
+    const PngShape shape = {{pixels.width(), pixels.height()},
+                            pixels.bands(),
+                            bitsPerByte * bytesPerComponent(pixels),
+                            iccProfileOf(pixels),
+                            resolution};
+    return pngFile(shape, filteredRows(pixels));
 }
 
 } // namespace platform

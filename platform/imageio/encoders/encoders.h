@@ -50,6 +50,19 @@ using DrawPlaneRows = std::function<void(int plane, int first, int count, uchar 
 Result<QByteArray> encodeJpegRows(QSize size, int components, const DrawPlaneRows &draw, const QByteArray &profile,
                                   const JpegSettings &settings);
 
+/** What a PNG file says of its rows. */
+struct PngShape
+{
+    QSize size;
+    int bands = 3; ///< grey, grey with transparency, RGB, RGB with transparency
+    int bits = 8;  ///< of a component
+    QByteArray profile;
+    Resolution resolution;
+};
+
+/** The file of rows as PngRows makes them, which are given away. Throws vips::VError. */
+QByteArray pngFile(const PngShape &shape, QByteArray rows);
+
 /** These throw vips::VError. */
 QByteArray encodePng(const vips::VImage &image, Resolution resolution);
 QByteArray encodeTiff(const vips::VImage &image, Resolution resolution);

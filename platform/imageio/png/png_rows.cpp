@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <utility>
 #include <vector>
 
 namespace platform {
@@ -132,20 +133,47 @@ void copyRow(const uchar *from, uchar *to, size_t bytes, bool isDeep)
 
 } // namespace
 
+struct PngRows::Filters : RowFilters
+{
+    using RowFilters::RowFilters;
+};
+
+PngRows::PngRows(QSize size, qsizetype pixelBytes)
+    : m_filters(std::make_unique<Filters>(size_t(size.width() * pixelBytes), size_t(pixelBytes))),
+      m_rows((size.width() * pixelBytes + 1) * size.height(), Qt::Uninitialized), m_out(m_rows.data()),
+      m_rowBytes(size.width() * pixelBytes)
+{
+}
+
+PngRows::~PngRows() = default;
+
+uchar *PngRows::next()
+{
+    return m_filters->nextRow();
+}
+
+void PngRows::add()
+{
+    m_filters->writeBest(m_out);
+    m_out += m_rowBytes + 1;
+}
+
+QByteArray PngRows::take()
+{
+    return std::move(m_rows);
+}
+
 QByteArray filteredRows(const vips::VImage &image)
 {
     const bool isDeep = image.format() == VIPS_FORMAT_USHORT;
     const size_t rowBytes = VIPS_IMAGE_SIZEOF_LINE(image.get_image());
     const auto *pixels = static_cast<const uchar *>(image.data());
-    QByteArray rows(qsizetype(rowBytes + 1) * image.height(), Qt::Uninitialized);
-    RowFilters filters(rowBytes, VIPS_IMAGE_SIZEOF_PEL(image.get_image()));
-    char *out = rows.data();
+    PngRows rows({image.width(), image.height()}, qsizetype(VIPS_IMAGE_SIZEOF_PEL(image.get_image())));
     for (int y = 0; y < image.height(); ++y) {
-        copyRow(pixels + rowBytes * size_t(y), filters.nextRow(), rowBytes, isDeep);
-        filters.writeBest(out);
-        out += rowBytes + 1;
+        copyRow(pixels + rowBytes * size_t(y), rows.next(), rowBytes, isDeep);
+        rows.add();
     }
-    return rows;
+    return rows.take();
 }
 
 } // namespace platform

@@ -6,6 +6,7 @@
 #include "tests/support/test_pictures.h"
 #include "tests/support/test_program.h"
 
+#include <QRandomGenerator>
 #include <QTest>
 
 using platform::FileFormat;
@@ -41,6 +42,7 @@ private Q_SLOTS:
     void makesTheSameFiles();
     void makesTheSameFilesOfCameras_data();
     void makesTheSameFilesOfCameras();
+    void makesTheSamePngsOfAnySize();
     void leavesDamagedScansToTheOtherWay();
     void tellsWhatCannotBeWritten();
 
@@ -67,6 +69,8 @@ void JpegStraight::makesTheSameFiles()
     QCOMPARE(writeRowsAsBmp(*source, at("made.bmp")).value(), goes);
     QCOMPARE(writeRowsAsTiff(*source, at("made.tif"), Metadata()).value(), goes);
     QCOMPARE(m_home->names().size(), goes ? 2 : 0);
+    const auto png = platform::rowsAsPng(*source);
+    QVERIFY(!png || *png == encoded(*source, FileFormat::Png, platform::Orientation::AsStored));
     if (!goes)
         return;
     QVERIFY(m_home->read("made.bmp") == encoded(*source, FileFormat::Bmp, platform::Orientation::Upright));
@@ -101,11 +105,35 @@ void JpegStraight::makesTheSameFilesOfCameras()
     if (isBmp)
         QVERIFY(m_home->read("made.bmp") == encoded(*source, FileFormat::Bmp, platform::Orientation::Upright));
     QCOMPARE(m_home->names().size(), int(isTiff) + int(isBmp));
+    const auto png = platform::rowsAsPng(*source);
+    QVERIFY(!png || *png == encoded(*source, FileFormat::Png, platform::Orientation::AsStored));
     const QString name = QString::fromUtf8(QTest::currentDataTag());
+    QVERIFY(png || name != QLatin1String("exif-real/Canon_40D.jpg"));
     const bool isPlainPhotograph = name == QLatin1String("exif-real/Canon_40D.jpg"); // sRGB by its profile, upright
     QVERIFY(!isPlainPhotograph || (isTiff && isBmp));
     const bool hasOtherColours = name == QLatin1String("exif-real/Reagan.jpg");
     QVERIFY(!hasOtherColours || (isTiff && !isBmp));
+}
+
+void JpegStraight::makesTheSamePngsOfAnySize()
+{
+    QRandomGenerator random(63);
+    for (int i = 0; i < tests::repetitions(20, 500); ++i) {
+        QImage image(random.bounded(1, 400), random.bounded(1, 300),
+                     i % 4 == 0 ? QImage::Format_Grayscale8 : QImage::Format_RGB888);
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.bytesPerLine(); ++x)
+                image.scanLine(y)[x] = uchar((x * 3 + y * 5) / 7 + random.bounded(20));
+        platform::EncodeOptions options;
+        options.quality = i % 2 == 0 ? 80 : 95;
+        const auto jpeg = platform::encodeImage(platform::Bitmap::fromImage(image), FileFormat::Jpeg, options);
+        QVERIFY(jpeg);
+        const auto source = ImageSource::fromData(*jpeg);
+        QVERIFY(source);
+        const auto png = platform::rowsAsPng(*source);
+        QVERIFY(png);
+        QVERIFY(*png == encoded(*source, FileFormat::Png, platform::Orientation::AsStored));
+    }
 }
 
 void JpegStraight::leavesDamagedScansToTheOtherWay()
@@ -116,6 +144,7 @@ void JpegStraight::leavesDamagedScansToTheOtherWay()
     jpeg[mark + 1] = '\xd5'; // a mark out of turn, about which the decoder only warns
     const auto source = ImageSource::fromData(jpeg);
     QVERIFY(source);
+    QVERIFY(!platform::rowsAsPng(*source));
     QCOMPARE(writeRowsAsBmp(*source, at("made.bmp")).value(), false);
     QCOMPARE(writeRowsAsTiff(*source, at("made.tif"), *source->metadata()).value(), false);
     QCOMPARE(m_home->names(), QStringList());
