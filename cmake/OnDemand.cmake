@@ -1,5 +1,5 @@
-# Shared libraries that are loaded when something of them is called for the first time: what most pictures never need would else be
-# most of what a start costs (docs/decisions/0063).
+# Shared libraries that are loaded at the first call of one of their functions; otherwise libraries that most pictures do not
+# need would take most of the time of a start (docs/decisions/0063).
 set(on_demand_can OFF)
 if(CMAKE_SYSTEM_NAME STREQUAL "Linux" AND CMAKE_SYSTEM_PROCESSOR STREQUAL "x86_64" AND NOT QUORLIN_SANITIZE AND NOT QUORLIN_FUZZ)
   set(on_demand_can ON)
@@ -10,8 +10,8 @@ if(QUORLIN_ON_DEMAND)
   enable_language(ASM)
 endif()
 
-# quorlin_links_on_demand(room PACKAGE...): the room uses what pkg-config knows under these prefixes; whoever links the room links
-# none of it. What the toolkit links anyway, or every picture needs, is linked as usual.
+# quorlin_links_on_demand(room PACKAGE...): the room uses the packages of pkg-config with these prefixes; programs that link
+# the room do not link them. Libraries that the toolkit links anyway are linked as usual.
 function(quorlin_links_on_demand room)
   if(NOT QUORLIN_ON_DEMAND)
     foreach(package ${ARGN})
@@ -36,12 +36,12 @@ function(quorlin_links_on_demand room)
     DEPENDS ${room} ${PROJECT_SOURCE_DIR}/cmake/on_demand.py VERBATIM)
   add_library(${room}-on-demand STATIC ${source} ${PROJECT_SOURCE_DIR}/cmake/on_demand.cpp)
   target_link_libraries(${room}-on-demand PRIVATE quorlin-common ${CMAKE_DL_LIBS} INTERFACE ${linked})
-  # What the package needs is told by a library that is linked to all of them, and is not installed.
+  # A library that is linked to all of them, and is not installed, shows the package what it depends on.
   file(CONFIGURE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/${room}_needs.cpp CONTENT "// Only what it is linked to matters.\n")
   add_library(${room}-needs SHARED ${CMAKE_CURRENT_BINARY_DIR}/${room}_needs.cpp)
   set_target_properties(${room}-needs PROPERTIES AUTOMOC OFF)
   target_link_options(${room}-needs PRIVATE -Wl,--no-as-needed)
   target_link_libraries(${room}-needs PRIVATE ${libraries})
-  # Not a dependency of the room, since it is made of it.
+  # Not a dependency of the room, since it is made from it.
   set_property(TARGET ${room} APPEND PROPERTY INTERFACE_LINK_LIBRARIES ${room}-on-demand)
 endfunction()

@@ -1,5 +1,5 @@
-// What loads shared libraries when the first of their functions is called. The tables are made by cmake/on_demand.py, and so are the
-// stubs that call this.
+// Loads shared libraries when the first of their functions is called. cmake/on_demand.py makes the tables, and the stubs that
+// call this.
 
 #include <cstddef>
 #include <cstdint>
@@ -32,11 +32,11 @@ struct QuorlinData
     std::size_t bytes;
 };
 
-// Each is as long as it happens to be; the last has a row without a name at its end.
+// The table of data ends with a row without a name.
 extern QuorlinLibrary quorlin_libraries[];
 extern const QuorlinFunction quorlin_functions[];
 extern const QuorlinData quorlin_data[];
-extern void *quorlin_slots[]; ///< where the stubs jump to, one a function
+extern void *quorlin_slots[]; ///< where the stubs jump to, one for each function
 
 void *quorlin_function_on_demand(std::size_t number);
 }

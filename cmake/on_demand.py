@@ -1,12 +1,12 @@
 #!/usr/bin/env python3
-"""on_demand.py OUT ARCHIVE LIBRARY...: lets what is in ARCHIVE call shared libraries that nothing is linked to.
+"""on_demand.py OUT ARCHIVE LIBRARY...: lets the code in ARCHIVE call shared libraries that no program is linked to.
 
-Writes OUT, assembler for x86-64. It has, under the same name, a stub of every function of a library that the archive calls, and the
-tables by which cmake/on_demand.cpp finds what is behind a stub when it is called for the first time:
+Writes OUT, assembler for x86-64. It has a stub, of the same name, for every function of a library that the archive calls, and
+the tables by which cmake/on_demand.cpp finds the function at the first call of its stub:
 
-  stub      jumps to where its slot points: first to what asks for the function, later to the function itself
-  data      of a library, as far as the compiler refers to it by itself (tables of virtual functions, facts about types): room for a
-            copy, which is filled when the library comes
+  stub      jumps to where its slot points: first to code that finds the function, later to the function itself
+  data      of a library, as far as the compiler refers to it without being asked (tables of virtual functions, type
+            information): room for a copy, which is filled when the library is loaded
 
   NM, READELF  programs of that kind
 """
@@ -21,8 +21,8 @@ FUNCTIONS, DATA = "TWi", "DBRV"
 
 HEAD = """# Made by cmake/on_demand.py.
     .text
-# What a slot points to at first comes here with the number of its function behind the place to return to. Registers that may hold
-# arguments stay as they are.
+# The first call of a stub arrives here with the number of its function on top of the return address. Registers that may hold
+# arguments are preserved.
     .p2align 4
 quorlin_ask:
     .cfi_startproc
@@ -125,7 +125,7 @@ def exported(library):
 
 
 def file_name(library):
-    """What the loader calls the library."""
+    """The name by which the loader knows the library."""
     for line in said(READELF, "--dynamic", "--wide", library).splitlines():
         if "(SONAME)" in line:
             return line.split("[")[1].rstrip("]")
@@ -137,7 +137,7 @@ def table(name, rows):
 
 
 class Source:
-    """The texts of the source, and its tables."""
+    """The texts and tables of the assembler file."""
 
     def __init__(self):
         self.texts, self.stubs, self.rooms = [], [], []
@@ -159,7 +159,7 @@ class Source:
                 self.rooms.append(ROOM.format(name=name, size=size))
                 self.data.append((number, self.text(name), name, size))
             else:
-                sys.exit(f"on_demand: {name} of {library} is of the kind {kind}, which nothing is known of")
+                sys.exit(f"on_demand: {name} of {library} is of the kind {kind}, which is not known here")
 
     def words(self):
         first = [f"quorlin_first_{at}" for at in range(len(self.functions))]

@@ -56,7 +56,6 @@ QStringList systemFolders()
         QStringLiteral("/usr"),
         QStringLiteral("/lib"),
         QStringLiteral("/lib64"),
-        QStringLiteral("/app/lib"), // of a Flatpak
         QStringLiteral("/etc/fonts"),
         QStringLiteral("/etc/ld.so.cache"),
         QStringLiteral("/etc/localtime"),

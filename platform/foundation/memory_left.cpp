@@ -179,8 +179,8 @@ Result<void> memoryIsLeftFor(qint64 need, const QString &name, qint64 addresses)
 namespace {
 
 /**
- * Keeps the memory of one picture for the next. Otherwise the system takes every large buffer back and hands it out again
- * page by page, which costs as much time as writing the file.
+ * Keeps the memory of one picture for the next. Otherwise the system would reclaim every large buffer and hand it out
+ * again page by page, which takes as much time as writing the file.
  */
 void keepMemoryForNextPicture()
 {
@@ -191,8 +191,8 @@ void keepMemoryForNextPicture()
 }
 
 /**
- * A heap of its own for each thread reserves 64 MB of address space and more. Where that is limited, what is left for pixels
- * would depend on how many threads there happen to be, and libraries that end the process where they get nothing would.
+ * A separate heap for each thread reserves 64 MB of address space and more. If that is limited, the remainder for
+ * pixels would depend on the number of threads, and libraries that end the process when allocation fails would do so.
  */
 void shareOneHeapWhereAddressesAreShort()
 {

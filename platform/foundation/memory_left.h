@@ -33,8 +33,8 @@ QString takeMemoryRefusal();
 Result<void> memoryIsLeftFor(qint64 need, const QString &name, qint64 addresses = 0);
 
 /**
- * Makes the heap fit for pictures: the memory of one is kept for the next, and where addresses are limited all threads share one heap.
- * Cheap when that is done already; to be called before the first picture.
+ * Prepares the heap for pictures: the memory of one is kept for the next, and if addresses are limited all threads share
+ * one heap. Cheap after the first call, which comes before the first picture.
  */
 void prepareHeapForPictures();
 

@@ -17,6 +17,18 @@ using vips::VImage;
 bool s_isVipsStarted = false;
 int s_threads = 0; ///< that the library may use; 0 for as many as it likes
 
+std::function<void(Loading)> &loadingWatch()
+{
+    static std::function<void(Loading)> call;
+    return call;
+}
+
+void tellLoading(Loading loading)
+{
+    if (loadingWatch())
+        loadingWatch()(loading);
+}
+
 void ignoreMessage(const gchar *, GLogLevelFlags, const gchar *, gpointer) {}
 
 /** Metadata that determines the meaning of pixels; everything else is dropped from bitmaps. */
@@ -78,16 +90,32 @@ void dropMetadata(VImage &image)
     g_strfreev(fields);
 }
 
+/** Before they are loaded, since this process ends if they cannot be. Throws vips::VError. */
+void demandMemoryForLibraries()
+{
+#ifdef QUORLIN_ON_DEMAND
+    constexpr qint64 bytes = 32LL << 20;
+    constexpr qint64 addresses = 128LL << 20; // measured: 101 MB with the libraries for metadata
+    const auto left = memoryIsLeftFor(bytes, QCoreApplication::translate("platform", "Reading the picture"), addresses);
+    if (!left)
+        throw vips::VError(left.error().message.toStdString());
+#endif
+}
+
 } // namespace
 
 void initVips()
 {
     static const bool ready = [] {
+        demandMemoryForLibraries();
+        tellLoading(Loading::Begins);
         // Libraries below report odd files on standard error, which is reserved for the log lines of this program.
         g_log_set_handler("VIPS", GLogLevelFlags(G_LOG_LEVEL_WARNING | G_LOG_LEVEL_INFO | G_LOG_LEVEL_MESSAGE),
                           ignoreMessage, nullptr);
         prepareHeapForPictures();
-        if (VIPS_INIT("quorlin") != 0)
+        const bool isLoaded = VIPS_INIT("quorlin") == 0;
+        tellLoading(Loading::Ended);
+        if (!isLoaded)
             return false;
         if (s_threads > 0)
             vips_concurrency_set(s_threads);
@@ -98,6 +126,11 @@ void initVips()
     }();
     if (!ready)
         throw vips::VError("libvips could not be started");
+}
+
+void watchVipsLoading(std::function<void(Loading)> call)
+{
+    loadingWatch() = std::move(call);
 }
 
 void limitVipsThreads(int threads)

@@ -5,6 +5,8 @@
 #include "platform/graphics/bitmap.h"
 #include "platform/graphics/pixel_forms.h"
 
+#include <functional>
+
 #include <vips/vips8>
 
 namespace platform {
@@ -34,6 +36,10 @@ struct Bitmap::Pixels
  * library, which takes tens of milliseconds, so code that does not need it does not call this.
  */
 void initVips();
+
+enum class Loading { Begins, Ended };
+/** What to call before and after the library is loaded, which takes so long that it must not count as work on a picture. */
+void watchVipsLoading(std::function<void(Loading)> call);
 
 /** How many threads an operation of the library may use, now or once it is initialised. */
 void limitVipsThreads(int threads);

@@ -22,6 +22,9 @@ namespace platform {
 namespace {
 
 constexpr int betweenLooks = 100; // milliseconds
+constexpr int loadingSeconds = 60;
+
+enum class Libraries { Unloaded, Loading, Loaded };
 
 /** The descriptors of a child: nothing to read, no output except errors, and its socket. */
 class SpawnActions
@@ -92,6 +95,7 @@ struct WorkerPool::Worker
     std::unique_ptr<QSocketNotifier> readable;
     std::unique_ptr<QSocketNotifier> writable;
     bool isAtWork = false;
+    Libraries libraries = Libraries::Unloaded;
     qint64 workedFor = 0; ///< milliseconds
     int mostSeconds = 0;
 };
@@ -180,9 +184,25 @@ void WorkerPool::serve(Id id)
                        socket.state() == MessageSocket::State::Ended ? WorkerEnd::Crashed : WorkerEnd::SpokeNonsense);
             return;
         }
-        if (onMessage)
+        if (message->kind == loadingLibraries || message->kind == librariesLoaded) {
+            if (!takeLoading(id, *message))
+                finish(id, WorkerEnd::SpokeNonsense);
+        } else if (onMessage) {
             onMessage(id, std::move(*message));
+        }
     }
+}
+
+/** Only once, so that a worker cannot work forever. */
+bool WorkerPool::takeLoading(Id id, const Message &message)
+{
+    Worker &worker = *m_workers.at(id);
+    const Libraries expected = message.kind == loadingLibraries ? Libraries::Unloaded : Libraries::Loading;
+    if (worker.libraries != expected || !message.body.isEmpty() || !message.files.empty())
+        return false;
+    worker.libraries = expected == Libraries::Unloaded ? Libraries::Loading : Libraries::Loaded;
+    worker.workedFor = 0;
+    return true;
 }
 
 bool WorkerPool::waitFor(Id id, int milliseconds)
@@ -263,7 +283,8 @@ void WorkerPool::watch()
     std::vector<std::pair<Id, WorkerEnd>> beyond;
     for (const auto &[id, worker] : m_workers) {
         worker->workedFor += worker->isAtWork ? since : 0;
-        if (worker->isAtWork && worker->workedFor > worker->mostSeconds * milliseconds)
+        const int seconds = worker->mostSeconds + (worker->libraries == Libraries::Loading ? loadingSeconds : 0);
+        if (worker->isAtWork && worker->workedFor > seconds * milliseconds)
             beyond.emplace_back(id, WorkerEnd::TookTooLong);
         else if (worker->residentBytes() > m_limits.residentBytes)
             beyond.emplace_back(id, WorkerEnd::TookTooMuch);

@@ -82,6 +82,7 @@ public:
 private:
     struct Worker;
     void serve(Id worker);
+    bool takeLoading(Id worker, const Message &message);
     void sendWaiting(Id worker);
     void finish(Id worker, WorkerEnd end);
     void remove(Id worker);
@@ -107,6 +108,13 @@ private:
  * @param parent  the number of the parent process; if that has ended already, so does this one
  */
 void endWithParent(int parent);
+
+/**
+ * The kinds of empty messages that a worker may send once each, in this order, at any time: it has to load libraries, and
+ * has loaded them. This does not count as work on its item, whose time then restarts. The pool passes neither on.
+ */
+inline constexpr quint16 loadingLibraries = 0xfffe;
+inline constexpr quint16 librariesLoaded = 0xffff;
 
 /** The descriptor of a worker's socket. */
 inline constexpr int workerSocket = 3;

@@ -127,6 +127,24 @@ int attack(const QString &what)
     return attackOnInput(what);
 }
 
+void tell(quint16 kind)
+{
+    platform::MessageSocket socket(platform::Descriptor(::dup(platform::workerSocket)),
+                                   platform::MessageSocket::Files::Refused);
+    platform::Message message;
+    message.kind = kind;
+    socket.send(std::move(message));
+}
+
+void hangAfterLoading()
+{
+    tell(platform::loadingLibraries);
+    ::sleep(3); // more than it may work
+    tell(platform::librariesLoaded);
+    for (;;)
+        ::pause();
+}
+
 /** @return why nothing is made of the picture; empty if it is a picture like any other */
 QString trial(const QString &path, QLatin1String prefix)
 {
@@ -139,6 +157,10 @@ QString trial(const QString &path, QLatin1String prefix)
     if (what == QLatin1String("hang"))
         for (;;)
             ::pause();
+    if (what == QLatin1String("again"))
+        tell(platform::librariesLoaded);
+    if (what == QLatin1String("late"))
+        hangAfterLoading();
     if (what == QLatin1String("nonsense"))
         (void)::write(platform::workerSocket, "nonsense that is no message at all", 34);
     if (what == QLatin1String("memory")) {

@@ -9,6 +9,7 @@
 
 #include <cstdlib>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include <sys/resource.h>
@@ -65,6 +66,12 @@ int runWorker(int count, char **arguments, const jobs::WorkerTrial &trial)
     platform::prepareForPictures(1);
     const platform::Confinement active = platform::confine(platform::systemFolders());
     platform::MessageSocket socket(platform::Descriptor(platform::workerSocket), platform::MessageSocket::Files::Taken);
+    const auto tell = [&socket](quint16 kind) {
+        platform::Message message;
+        message.kind = kind;
+        socket.send(std::move(message));
+    };
+    platform::watchLibraries([tell] { tell(platform::loadingLibraries); }, [tell] { tell(platform::librariesLoaded); });
     jobs::workOnRecipes(socket, active, trial);
     return EXIT_SUCCESS;
 }

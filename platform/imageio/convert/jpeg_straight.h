@@ -24,8 +24,8 @@ Result<bool> writeRowsAsBmp(const ImageSource &source, const QString &path);
 Result<bool> writeRowsAsTiff(const ImageSource &source, const QString &path, const Metadata &metadata);
 
 /**
- * Image 0 as stored as the PNG file that decode() and encodeImage() would make of it, with its resolution and without other metadata.
- * Nothing where it does not go that way: for all but JPEGs of grey or three colours.
+ * The stored image 0 as the PNG file that decode() and encodeImage() would make of it, with its resolution and without
+ * other metadata. Nothing for files that are not JPEGs of grey or three colours.
  */
 std::optional<QByteArray> rowsAsPng(const ImageSource &source);
 

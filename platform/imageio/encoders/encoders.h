@@ -50,7 +50,7 @@ using DrawPlaneRows = std::function<void(int plane, int first, int count, uchar 
 Result<QByteArray> encodeJpegRows(QSize size, int components, const DrawPlaneRows &draw, const QByteArray &profile,
                                   const JpegSettings &settings);
 
-/** What a PNG file says of its rows. */
+/** The facts about its rows that a PNG file states. */
 struct PngShape
 {
     QSize size;

@@ -9,7 +9,7 @@
 namespace platform {
 namespace {
 
-/** The orientation that a block of EXIF states, 1 where it states none; none where the block is not sound. */
+/** The orientation that a block of EXIF states, 1 if it states none; nothing if the block is not sound. */
 std::optional<int> orientationIn(const QByteArray &block)
 {
     const TiffReader reader(block);
@@ -28,7 +28,7 @@ std::optional<int> orientationIn(const QByteArray &block)
     return isPlain ? std::optional(orientation) : std::nullopt;
 }
 
-/** Of all segments of EXIF; none where there are several, or where it is not sound. */
+/** Of all segments of EXIF; nothing if there are several, or if it is not sound. */
 std::optional<int> orientationOf(const QList<QByteArray> &exifs)
 {
     const QByteArray name("Exif\0\0", 6);

@@ -9,7 +9,7 @@
 
 namespace platform {
 
-/** What opening a JPEG tells of it. */
+/** What is known of a JPEG once it is open. */
 struct PlainJpeg
 {
     QSize size; ///< pixels as stored
@@ -18,9 +18,9 @@ struct PlainJpeg
 };
 
 /**
- * Opens a JPEG as openImage() does, without the library behind that, which takes longer to start than a photograph to be made smaller.
- * None for everything that is not quite plain, which openImage() is to judge: other colours, remarks of the decoder, and EXIF that two
- * readers may understand differently.
+ * Opens a JPEG as openImage() does, but without its library, which takes longer to load than a photograph to shrink.
+ * Nothing for everything that openImage() has to judge: other colours, remarks of the decoder, and EXIF that two readers
+ * may understand differently.
  */
 std::optional<PlainJpeg> plainJpeg(QIODevice &file);
 

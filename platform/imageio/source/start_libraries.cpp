@@ -2,6 +2,9 @@
 
 #include "platform/foundation/memory_left.h"
 #include "platform/graphics/pixels.h"
+#include "platform/imageio/metadata/metadata_blocks.h"
+
+#include <utility>
 
 namespace platform {
 
@@ -9,6 +12,18 @@ void prepareForPictures(int threads)
 {
     prepareHeapForPictures();
     limitVipsThreads(threads);
+}
+
+void watchLibraries(std::function<void()> begins, std::function<void()> ended)
+{
+    watchVipsLoading([begins = std::move(begins), ended = std::move(ended)](Loading loading) {
+        if (loading == Loading::Begins) {
+            begins();
+        } else {
+            startMetadataLibrary(); // nearly every picture that needs the one needs the other
+            ended();
+        }
+    });
 }
 
 } // namespace platform

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 namespace platform {
 
 /**
@@ -9,5 +11,8 @@ namespace platform {
  * @param threads  how many an operation on a picture may use
  */
 void prepareForPictures(int threads);
+
+/** What to call, once each, before and after the libraries are loaded, so that this does not count as work on a picture. */
+void watchLibraries(std::function<void()> begins, std::function<void()> ended);
 
 } // namespace platform

@@ -5,6 +5,7 @@
 #include "tests/unit/jobs/batches.h"
 
 #include <QDirIterator>
+#include <QElapsedTimer>
 #include <QTest>
 
 #include <memory>
@@ -24,6 +25,7 @@ private Q_SLOTS:
     void saysWhatHappened();
     void waitsWhereItHasTo();
     void waitsNoLongerThanItMay();
+    void doesNotCountTheLoadingOfLibraries();
     void saysThatThereIsNoWorker();
     void asksFromWithinAnAnswer();
     void readsTheCorpus();
@@ -192,6 +194,18 @@ void TestReading::waitsNoLongerThanItMay()
     QCOMPARE(readNow(facts(world.add(QStringLiteral("read-crash.png"))), desk).problem,
              QStringLiteral("its reader crashed"));
     QCOMPARE(readNow(facts(world.add(QStringLiteral("a.png"))), desk).size(), QSize(64, 48));
+}
+
+/** The trial spends three seconds on loading them before it looks into the picture, and then hangs. */
+void TestReading::doesNotCountTheLoadingOfLibraries()
+{
+    World world;
+    WorkerDesk desk(with(1, trialProgram()));
+    const QString path = world.add(QStringLiteral("read-late.png"));
+    QElapsedTimer timer;
+    timer.start();
+    QCOMPARE(readNow(facts(path, 1), desk).problem, QStringLiteral("it took longer than 1 seconds"));
+    QVERIFY2(timer.elapsed() >= 3000, "it was ended while it loaded them");
 }
 
 void TestReading::saysThatThereIsNoWorker()

@@ -250,6 +250,7 @@ void TestWorkerDesk::answersForEachPicture_data()
     QTest::addColumn<QString>("reason");
     QTest::newRow("crash") << "its reader crashed";
     QTest::newRow("nonsense") << "its reader crashed";
+    QTest::newRow("again") << "its reader crashed"; // it claims twice that it had to load libraries
     QTest::newRow("hang") << "it took longer than 2 seconds";
     QTest::newRow("memory") << "it needs more than 300 MB of memory";
 }

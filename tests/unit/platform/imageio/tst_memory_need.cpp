@@ -49,15 +49,25 @@ bool limitTo(qint64 bytes)
     return ::setrlimit(RLIMIT_AS, &limit) == 0;
 }
 
+enum class Libraries { Loaded, ToLoad };
+
+/** Those of pictures are loaded by the first picture that needs them. */
+void loadLibraries()
+{
+    (void)platform::Bitmap::fromImage(QImage(1, 1, QImage::Format_RGB888));
+}
+
 /**
  * What @p task returns, 0 to 100, in a process that can get @p bytes more of address space; -1 where a signal ended it. Without memory
  * a library may wait for its own threads for ever.
  */
-template<typename Task> int resultWithin(qint64 bytes, Task task)
+template<typename Task> int resultWithin(qint64 bytes, Task task, Libraries libraries = Libraries::Loaded)
 {
     const pid_t child = ::fork();
     constexpr unsigned mostSeconds = 20;
     if (child == 0) {
+        if (libraries == Libraries::Loaded)
+            loadLibraries();
         ::alarm(mostSeconds);
         ::_exit(limitTo(bytes) ? task() : 100);
     }
@@ -241,6 +251,25 @@ private Q_SLOTS:
             return written ? *written ? 0 : 95 : kindOf(written);
         };
         QCOMPARE(done("large.jpg", rows), 0);
+    }
+
+    void librariesThatDoNotFitRefuseThePicture()
+    {
+#ifndef QUORLIN_ON_DEMAND
+        QSKIP("this build links its libraries");
+#endif
+        const auto sizeOf = [this](const char *name, qint64 bytes) {
+            return resultWithin(
+                bytes,
+                [&] {
+                    const auto source = ImageSource::open(path(name));
+                    return source && source->uprightSize().isValid() ? 0 : kindOf(source);
+                },
+                Libraries::ToLoad);
+        };
+        QCOMPARE(sizeOf("large.jpg", 60 * mega), 0); // needs none
+        QCOMPARE(sizeOf("small.png", 60 * mega), 1 + int(ErrorCode::Unreadable));
+        QCOMPARE(sizeOf("small.png", 600 * mega), 0);
     }
 
     void theWritingCountsBeforeTheDecoding()
