@@ -30,18 +30,20 @@ function(quorlin_links_on_demand room)
   list(FILTER linked INCLUDE REGEX "/lib(glib-2\\.0|m|z)\\.so")
   list(REMOVE_ITEM libraries ${linked})
   set(source ${CMAKE_CURRENT_BINARY_DIR}/${room}_on_demand.S)
-  add_custom_command(OUTPUT ${source}
+  set(needs ${CMAKE_CURRENT_BINARY_DIR}/${room}_needs.S)
+  add_custom_command(OUTPUT ${source} ${needs}
     COMMAND ${CMAKE_COMMAND} -E env NM=${CMAKE_NM} READELF=${CMAKE_READELF}
-      ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/cmake/on_demand.py ${source} $<TARGET_FILE:${room}> ${libraries}
+      ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/cmake/on_demand.py ${source} ${needs} $<TARGET_FILE:${room}> ${libraries}
     DEPENDS ${room} ${PROJECT_SOURCE_DIR}/cmake/on_demand.py VERBATIM)
   add_library(${room}-on-demand STATIC ${source} ${PROJECT_SOURCE_DIR}/cmake/on_demand.cpp)
   target_link_libraries(${room}-on-demand PRIVATE quorlin-common ${CMAKE_DL_LIBS} INTERFACE ${linked})
-  # A library that is linked to all of them, and is not installed, shows the package what it depends on.
-  file(CONFIGURE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/${room}_needs.cpp CONTENT "// Only what it is linked to matters.\n")
-  add_library(${room}-needs SHARED ${CMAKE_CURRENT_BINARY_DIR}/${room}_needs.cpp)
-  set_target_properties(${room}-needs PROPERTIES AUTOMOC OFF)
+  # A library that refers to all that is called, and is not installed, shows the package what it depends on.
+  add_library(${room}-needs SHARED ${needs})
+  set_target_properties(${room}-needs PROPERTIES AUTOMOC OFF LINKER_LANGUAGE CXX)
   target_link_options(${room}-needs PRIVATE -Wl,--no-as-needed)
   target_link_libraries(${room}-needs PRIVATE ${libraries})
+  # One of the two runs the command that writes both sources.
+  add_dependencies(${room}-needs ${room}-on-demand)
   # Not a dependency of the room, since it is made from it.
   set_property(TARGET ${room} APPEND PROPERTY INTERFACE_LINK_LIBRARIES ${room}-on-demand)
 endfunction()

@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
-"""on_demand.py OUT ARCHIVE LIBRARY...: lets the code in ARCHIVE call shared libraries that no program is linked to.
+"""on_demand.py OUT NEEDS ARCHIVE LIBRARY...: lets the code in ARCHIVE call shared libraries that no program is linked to.
 
-Writes OUT, assembler for x86-64. It has a stub, of the same name, for every function of a library that the archive calls, and
+Writes NEEDS, a table of all that is called, by which tools for packages see which versions of the libraries are needed, and
+OUT, assembler for x86-64. It has a stub, of the same name, for every function of a library that the archive calls, and
 the tables by which cmake/on_demand.cpp finds the function at the first call of its stub:
 
   stub      jumps to where its slot points: first to code that finds the function, later to the function itself
@@ -173,19 +174,26 @@ class Source:
                  '    .section .note.GNU-stack, "", @progbits\n']
         return "".join(parts)
 
+    def needs(self, names):
+        """Only refers to them."""
+        return "".join(["    .section .data.rel.ro, \"aw\"\n", *(f"    .quad {name}\n" for name in names),
+                        '    .section .note.GNU-stack, "", @progbits\n'])
+
 
 def main():
-    out, archive, *libraries = sys.argv[1:]
+    out, needs, archive, *libraries = sys.argv[1:]
     missing = wanted(archive)
     source = Source()
+    names = []
     for library in libraries:
         found = {name: facts for name, facts in exported(library).items() if name in missing}
         missing -= set(found)
         if found:
             source.add(library, found)
-    words = source.words()
-    if not Path(out).exists() or Path(out).read_text() != words:
-        Path(out).write_text(words)
+            names += sorted(found)
+    for file, words in ((Path(out), source.words()), (Path(needs), source.needs(names))):
+        if not file.exists() or file.read_text() != words:
+            file.write_text(words)
 
 
 if __name__ == "__main__":
