@@ -157,9 +157,10 @@ void TestListProperties::anyPropertyIsAColumn()
         return column(PictureModel::FirstProperty) ==
                QStringList({QStringLiteral("Ann"), QString(), QStringLiteral("Bob"), QStringLiteral("Ann & Bob")});
     }));
-    QCOMPARE(column(PictureModel::FirstProperty + 1),
-             QStringList({QStringLiteral("800"), QStringLiteral("6,400"), QStringLiteral("12,800"), QString()}));
-    QVERIFY(!column(PictureModel::FirstProperty + 2).contains(QString()));
+    // A row without a copyright may be read after the others.
+    const QStringList speeds = {QStringLiteral("800"), QStringLiteral("6,400"), QStringLiteral("12,800"), QString()};
+    QVERIFY(m_driver->waitFor([&] { return column(PictureModel::FirstProperty + 1) == speeds; }));
+    QVERIFY(m_driver->waitFor([this] { return !column(PictureModel::FirstProperty + 2).contains(QString()); }));
     const QHeaderView &header = *list().horizontalHeader();
     QVERIFY(!header.isSectionHidden(PictureModel::FirstProperty));
     QVERIFY(header.isSectionHidden(PictureModel::FirstProperty + 3));

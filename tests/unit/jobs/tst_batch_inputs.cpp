@@ -75,8 +75,9 @@ struct World
 
     static QList<ReportLine> run(const QByteArray &json, const QStringList &names, const BatchOptions &options = {})
     {
-        Inputs inputs(names);
-        return run(json, inputs, options);
+        batches::Run batch;
+        batch.options = options;
+        return batches::sortedLinesOf(json, names, batch);
     }
 };
 
