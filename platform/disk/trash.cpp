@@ -145,9 +145,14 @@ std::optional<dev_t> deviceOf(const QString &folder)
     return ::stat(native(folder).constData(), &found) == 0 ? std::optional(found.st_dev) : std::nullopt;
 }
 
-/** The topmost folder of the file system of @p folder, a path without links. */
+/**
+ * The topmost folder of the file system of @p folder, a path without links. A name in a working folder that somebody
+ * has removed stays relative, and has no parent to climb to: the answer is the root.
+ */
 QString topFolderOf(QString folder)
 {
+    if (!folder.startsWith(u'/'))
+        return QStringLiteral("/");
     while (!deviceOf(folder) && folder != QStringLiteral("/"))
         folder = parentFolder(folder);
     const auto device = deviceOf(folder);
@@ -202,7 +207,7 @@ QString homeTrash()
 QString canonicalFolder(const QString &folder)
 {
     const QString canonical = QFileInfo(folder.isEmpty() ? QStringLiteral(".") : folder).canonicalFilePath();
-    if (!canonical.isEmpty() || folder.size() < 2)
+    if (!canonical.isEmpty() || folder.isEmpty() || folder == QStringLiteral("/"))
         return canonical;
     return joinedPath(canonicalFolder(parentFolder(folder)), lastPathComponent(folder));
 }

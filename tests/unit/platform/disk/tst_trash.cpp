@@ -32,6 +32,7 @@ private Q_SLOTS:
     void leavesTheItemThatMayNotBeTaken();
     void leavesAFolderThatHoldsTheTrash();
     void usesTheTrashOfAnotherFileSystem();
+    void namesAPlaceForNamesThatAreNoPaths();
     void copiesIntoTheTrashWhereAFileSystemHasNone();
 
 private:
@@ -246,6 +247,26 @@ void TestTrash::usesTheTrashOfAnotherFileSystem()
     QVERIFY(QFile::remove(trash + QStringLiteral("/files/") + name) && info.remove());
     for (const char *folder : {"/files", "/info", ""}) // it stays if others have items in it
         QDir().rmdir(trash + QString::fromLatin1(folder));
+}
+
+void TestTrash::namesAPlaceForNamesThatAreNoPaths()
+{
+    const ScratchFolder gone;
+    QVERIFY(gone.write("removed/a", "a") && QFile::remove(gone.path("removed/a")));
+    const QString working = QDir::currentPath();
+    for (const QString &folder : {working, gone.path("removed")}) {
+        QVERIFY(QDir::setCurrent(folder));
+        if (folder != working)
+            QVERIFY(QDir().rmdir(folder));
+        QStringList places;
+        for (const char *name : {"", "a", "abc", "abc/d", ".", "..", "/", "//", "a\nb"})
+            places << trashPlaceFor(QString::fromLatin1(name));
+        places << trashPlaceFor(QString(QChar(u'\0'))) << trashPlaceFor(QStringLiteral("a") + QChar(u'\0'));
+        const auto trashed = moveToTrash(QStringLiteral("a"));
+        QVERIFY(QDir::setCurrent(working));
+        QVERIFY(!places.contains(QString()));
+        QVERIFY(!trashed);
+    }
 }
 
 void TestTrash::copiesIntoTheTrashWhereAFileSystemHasNone()
