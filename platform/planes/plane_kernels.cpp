@@ -45,7 +45,14 @@ void sumColumnsPlainly(const qint16 *sums, const int *starts, const qint16 *weig
     }
 }
 
-constexpr PlaneKernels plainKernels = {widenRowPlainly, sumRowsPlainly, sumColumnsPlainly};
+void sumPairsPlainly(const qint16 *sums, const qint16 *weights, int taps, uchar *out, int count)
+{
+    constexpr int start = 0;
+    for (int i = 0; i < count; ++i, sums += 2)
+        sumColumnsPlainly(sums, &start, weights, taps, out + i, 1);
+}
+
+constexpr PlaneKernels plainKernels = {widenRowPlainly, sumRowsPlainly, sumColumnsPlainly, sumPairsPlainly};
 
 #ifdef QUORLIN_HAS_AVX2
 
@@ -132,7 +139,53 @@ QUORLIN_AVX2 void sumColumnsInVectors(const qint16 *sums, const int *starts, con
     }
 }
 
-constexpr PlaneKernels vectorKernels = {widenRowInVectors, sumRowsInVectors, sumColumnsInVectors};
+QUORLIN_AVX2 inline __m256i pairOf(const qint16 *weights)
+{
+    int pair = 0;
+    __builtin_memcpy(&pair, weights, sizeof pair);
+    return _mm256_set1_epi32(pair);
+}
+
+/**
+ * Eight new samples at a time: a vector holds the same two sums of each of them, so that nothing is added across. The
+ * weights stay in registers, up to those of half the size.
+ */
+template<int pairs> QUORLIN_AVX2 void sumSoManyPairs(const qint16 *sums, const qint16 *weights, uchar *out, int count)
+{
+    __m256i each[pairs];
+    for (int pair = 0; pair < pairs; ++pair)
+        each[pair] = pairOf(weights + 2 * qptrdiff(pair));
+    for (int i = 0; i < count; i += planePairUnit, sums += 2 * planePairUnit) {
+        __m256i sum = _mm256_set1_epi32(1 << (columnShift - 1));
+        for (int pair = 0; pair < pairs; ++pair)
+            sum = _mm256_add_epi32(sum, _mm256_madd_epi16(loaded(sums + 2 * qptrdiff(pair)), each[pair]));
+        const __m256i whole = _mm256_srai_epi32(sum, columnShift);
+        const __m128i shorts = _mm_packs_epi32(_mm256_castsi256_si128(whole), _mm256_extracti128_si256(whole, 1));
+        _mm_storel_epi64(reinterpret_cast<__m128i *>(out + i), _mm_packus_epi16(shorts, shorts));
+    }
+}
+
+QUORLIN_AVX2 void sumPairsInVectors(const qint16 *sums, const qint16 *weights, int taps, uchar *out, int count)
+{
+    const auto isEmpty = [weights](int tap) { return weights[tap] == 0 && weights[tap + 1] == 0; };
+    int first = 0;
+    while (first + 2 < taps && isEmpty(first))
+        first += 2;
+    while (taps > first + 2 && isEmpty(taps - 2))
+        taps -= 2;
+    switch ((taps - first) / 2) {
+    case 6:
+        return sumSoManyPairs<6>(sums + first, weights + first, out, count);
+    case 7:
+        return sumSoManyPairs<7>(sums + first, weights + first, out, count);
+    case 8:
+        return sumSoManyPairs<8>(sums + first, weights + first, out, count);
+    default:
+        return sumPairsPlainly(sums + first, weights + first, taps - first, out, count);
+    }
+}
+
+constexpr PlaneKernels vectorKernels = {widenRowInVectors, sumRowsInVectors, sumColumnsInVectors, sumPairsInVectors};
 
 #endif
 

@@ -9,6 +9,7 @@ namespace platform {
 constexpr int planeRowUnit = 64;    ///< row sizes in bytes are multiples of this
 constexpr int planeTapUnit = 16;    ///< and weights of a sample
 constexpr int planeOutputUnit = 4;  ///< and new samples of a row
+constexpr int planePairUnit = 8;    ///< and those that sumPairs makes
 constexpr int planeWeightBits = 14; ///< fraction bits of a weight
 constexpr int planeWideBits = 7;    ///< fraction bits of a widened sample
 constexpr int planeSumBits = 6;     ///< fraction bits between the two loops
@@ -27,6 +28,11 @@ struct PlaneKernels
     void (*sumRows)(const qint16 *const *rows, const qint16 *weights, int taps, qint16 *out, int count);
     /** Makes new samples of one row, each from @p taps sums from its start on. @p taps and @p count are whole units. */
     void (*sumColumns)(const qint16 *sums, const int *starts, const qint16 *weights, int taps, uchar *out, int count);
+    /**
+     * The same for half the size, where all new samples have the same weights and each starts two sums after the last
+     * one. @p count is whole units of pairs.
+     */
+    void (*sumPairs)(const qint16 *sums, const qint16 *weights, int taps, uchar *out, int count);
 };
 
 /** For any processor. */

@@ -80,11 +80,24 @@ void PlaneScaler::make()
             m_window[size_t(tap)] = m_kept.data() + size_t(y % taps) * size_t(m_rowBytes);
         }
         planeKernels().sumRows(m_window.data(), m_rows.of(m_made), taps, m_sums.data(), m_rowBytes);
-        planeKernels().sumColumns(m_sums.data(), m_columns.starts(), m_columns.of(0), m_columns.taps(), m_row.data(),
-                                  int(m_row.size()));
+        sumColumns();
         std::memcpy(m_plane.row(m_made), m_row.data(), size_t(m_to.width()));
         ++m_made;
     }
+}
+
+void PlaneScaler::sumColumns()
+{
+    const auto [first, count] = m_columns.pairs();
+    const auto sum = [this](int begin, int end) {
+        planeKernels().sumColumns(m_sums.data(), m_columns.starts() + begin, m_columns.of(begin), m_columns.taps(),
+                                  m_row.data() + begin, end - begin);
+    };
+    sum(0, first);
+    if (count > 0)
+        planeKernels().sumPairs(m_sums.data() + m_columns.start(first), m_columns.of(first), m_columns.taps(),
+                                m_row.data() + first, count);
+    sum(first + count, int(m_row.size()));
 }
 
 Plane scaledPlane(const Plane &plane, const PlaneSpan &across, const PlaneSpan &down)

@@ -36,6 +36,7 @@ private:
     void copy(const uchar *row);
     void keep(const uchar *row);
     void make();
+    void sumColumns();
 
     QSize m_from;
     QSize m_to;

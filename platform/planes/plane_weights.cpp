@@ -72,6 +72,25 @@ void addBlock(std::vector<double> &weights, int start, double begin, double leng
     }
 }
 
+/** After so many new samples their places between the old ones are the same again. */
+struct Period
+{
+    int count = 0;   ///< new samples; 0: not soon
+    int samples = 0; ///< old ones that these span
+};
+
+Period periodOf(const PlaneSpan &span, double step)
+{
+    constexpr int longest = 64;
+    for (int count = 1; count <= longest; ++count) {
+        const double blocks = count * step;
+        const double samples = blocks * span.block;
+        if (blocks == std::floor(blocks) && samples == std::floor(samples))
+            return {count, int(samples)};
+    }
+    return {};
+}
+
 } // namespace
 
 PlaneWeights::PlaneWeights(const PlaneSpan &span, int samples)
@@ -84,8 +103,20 @@ PlaneWeights::PlaneWeights(const PlaneSpan &span, int samples)
     m_starts.assign(size_t(count), 0);
     m_values.assign(size_t(count) * size_t(m_taps), 0);
     std::vector<double> exact(static_cast<size_t>(m_taps) + 1);
-    for (int i = 0; i < span.count; ++i)
-        weigh(i, span.start / span.block + (i + 0.5) * step, {span.block, scale, reach, samples}, exact);
+    const Period period = periodOf(span, step);
+    const int lastBlock = int(std::ceil(samples / span.block)) - 1;
+    int inside = 0; // so many before this one reach beyond no edge
+    for (int i = 0; i < span.count; ++i) {
+        const double centre = span.start / span.block + (i + 0.5) * step;
+        const int first = int(std::floor(centre)) - reach;
+        const bool isInside = first >= 0 && first + 2 * reach < lastBlock;
+        if (isInside && period.count > 0 && inside >= period.count)
+            repeat(i, period.count, period.samples);
+        else
+            weigh(i, centre, {span.block, scale, reach, samples}, exact);
+        inside = isInside ? inside + 1 : 0;
+    }
+    findPairs();
 }
 
 PlaneWeights::PlaneWeights(const std::vector<SampleWeights> &exact)
@@ -103,6 +134,31 @@ PlaneWeights::PlaneWeights(const std::vector<SampleWeights> &exact)
         padded.resize(size_t(m_taps));
         m_starts[i] = exact[i].start;
         store(int(i), padded, 1);
+    }
+    findPairs();
+}
+
+void PlaneWeights::repeat(int index, int period, int samples)
+{
+    m_starts[size_t(index)] = m_starts[size_t(index - period)] + samples;
+    std::copy_n(of(index - period), m_taps, m_values.data() + size_t(index) * size_t(m_taps));
+}
+
+bool PlaneWeights::isPairAfter(int index) const
+{
+    return start(index) == start(index - 1) + 2 && std::equal(of(index), of(index) + m_taps, of(index - 1));
+}
+
+void PlaneWeights::findPairs()
+{
+    const int all = int(m_starts.size());
+    for (int begin = 0, end = 0; begin < all; begin = end) {
+        for (end = begin + 1; end < all && isPairAfter(end);)
+            ++end;
+        const int first = wholeUnits(begin, planeOutputUnit);
+        const int count = (end - first) / planePairUnit * planePairUnit;
+        if (count > m_pairs.count)
+            m_pairs = {first, count};
     }
 }
 

@@ -28,6 +28,14 @@ public:
     const qint16 *of(int index) const { return m_values.data() + size_t(index) * size_t(m_taps); }
     const int *starts() const { return m_starts.data(); }
 
+    /** New samples with the same weights, each starting two old ones after the last: most of them at half the size. */
+    struct Pairs
+    {
+        int first = 0; ///< whole units of new samples
+        int count = 0; ///< whole units of pairs; 0: there are none
+    };
+    const Pairs &pairs() const { return m_pairs; }
+
 private:
     /** The positions of the weighted blocks, and of the samples that they average. */
     struct Blocks
@@ -39,12 +47,17 @@ private:
     };
 
     void weigh(int index, double centre, const Blocks &blocks, std::vector<double> &exact);
+    /** Takes the weights of the sample that many before, which has the same place between the old ones. */
+    void repeat(int index, int period, int samples);
+    bool isPairAfter(int index) const;
+    void findPairs();
     /** Rounds the weights, whose sum is @p sum. */
     void store(int index, const std::vector<double> &exact, double sum);
 
     int m_taps = 0;
     std::vector<int> m_starts;
     std::vector<qint16> m_values;
+    Pairs m_pairs;
 };
 
 } // namespace platform

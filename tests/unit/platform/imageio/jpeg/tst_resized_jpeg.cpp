@@ -2,6 +2,7 @@
 
 #include "platform/graphics/resample.h"
 #include "platform/planes/plane_kernels.h"
+#include "platform/planes/plane_weights.h"
 #include "tests/support/expected_pictures.h"
 #include "tests/support/test_program.h"
 #include "tests/unit/platform/imageio/jpeg/jpeg_difference.h"
@@ -66,6 +67,7 @@ private Q_SLOTS:
     void leavesOtherPicturesToTheLongWay();
     void takesWhatIsKnownAlong();
     void vectorsGiveTheSameNumbers();
+    void weightsAreTheSameAtTheSamePlaces();
 };
 
 /** Both ways against the reference, and against each other; sizes have to be the same. */
@@ -231,6 +233,44 @@ void ResizedJpeg::vectorsGiveTheSameNumbers()
         plain.sumColumns(sums.data(), starts.data(), weights.data(), taps, out.data(), count);
         fast.sumColumns(sums.data(), starts.data(), weights.data(), taps, otherOut.data(), count);
         QCOMPARE(otherOut, out);
+        const int pairs = (count - taps) / 2 / platform::planePairUnit * platform::planePairUnit;
+        if (pairs <= 0)
+            continue;
+        std::fill_n(weights.begin() + random.bounded(taps), random.bounded(taps), 0); // as around the kernel
+        plain.sumPairs(sums.data(), weights.data(), taps, out.data(), pairs);
+        fast.sumPairs(sums.data(), weights.data(), taps, otherOut.data(), pairs);
+        QCOMPARE(otherOut, out);
+        for (int at = 0; at < pairs; ++at)
+            starts[size_t(at)] = 2 * at;
+        std::vector<qint16> same;
+        for (int at = 0; at < pairs; ++at)
+            same.insert(same.end(), weights.begin(), weights.begin() + taps);
+        plain.sumColumns(sums.data(), starts.data(), same.data(), taps, otherOut.data(), pairs);
+        QCOMPARE(otherOut, out);
+    }
+}
+
+/** What is repeated and what is summed in pairs is the same as if each new sample had been computed by itself. */
+void ResizedJpeg::weightsAreTheSameAtTheSamePlaces()
+{
+    QRandomGenerator random(6);
+    for (const double step : {2.0, 1.5, 1.875, 3.0, 1.37}) {
+        for (const double block : {1.0, 2.0}) {
+            const platform::PlaneSpan span = {double(random.bounded(3)), step * block, 400, block};
+            const int samples = int(step * block * 400) + 7;
+            const platform::PlaneWeights all(span, samples);
+            for (int i = 0; i < span.count; ++i) {
+                const platform::PlaneWeights one({span.start + i * span.step, span.step, 1, span.block}, samples);
+                QCOMPARE(all.start(i), one.start(0));
+                QVERIFY(std::equal(all.of(i), all.of(i) + all.taps(), one.of(0)));
+            }
+            const auto [first, count] = all.pairs();
+            QCOMPARE(count > 0, step == 2.0 && block == 1.0);
+            for (int i = first + 1; i < first + count; ++i) {
+                QCOMPARE(all.start(i), all.start(i - 1) + 2);
+                QVERIFY(std::equal(all.of(i), all.of(i) + all.taps(), all.of(first)));
+            }
+        }
     }
 }
 
