@@ -4,13 +4,13 @@
 #include "platform/file/atomic_file.h"
 #include "platform/foundation/paths.h"
 
-#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
 #include <cerrno>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -18,10 +18,70 @@ namespace files {
 
 namespace {
 
-bool endsInTheMiddleOfALine(QFile &file)
+/** A file of lines, which other processes append to and shorten as well. */
+class LineFile
 {
-    char last = '\n';
-    return file.size() > 0 && file.seek(file.size() - 1) && file.getChar(&last) && last != '\n';
+public:
+    LineFile(const QString &path, int mode) : m_path(platform::encodedPath(path)), m_mode(mode)
+    {
+        constexpr int tries = 200;
+        constexpr unsigned betweenUs = 5000;
+        open();
+        for (int i = 0; i < tries && isFile() && !m_isHeld; ++i) {
+            if (::flock(number(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)
+                ::usleep(betweenUs);
+            else if (isNamed())
+                m_isHeld = true;
+            else
+                open(); // it was replaced meanwhile
+        }
+    }
+
+    int number() const { return m_file.number(); }
+    /** Whether no other process changes it as long as it is open here. Nobody who holds it is waited for longer than a second. */
+    bool isHeld() const { return m_isHeld; }
+
+    /** Anything else, such as a named pipe, could keep everybody waiting. */
+    bool isFile() const
+    {
+        struct stat open = {};
+        return ::fstat(number(), &open) == 0 && S_ISREG(open.st_mode);
+    }
+
+    bool endsInTheMiddleOfALine() const
+    {
+        struct stat open = {};
+        char last = '\n';
+        return ::fstat(number(), &open) == 0 && open.st_size > 0 &&
+               ::pread(number(), &last, 1, open.st_size - 1) == 1 && last != '\n';
+    }
+
+private:
+    void open()
+    {
+        constexpr int flags = O_RDWR | O_APPEND | O_NONBLOCK | O_CLOEXEC;
+        constexpr mode_t allowedToAll = 0666;
+        m_file = platform::Descriptor(::open(m_path.constData(), flags | m_mode, allowedToAll));
+    }
+
+    bool isNamed() const
+    {
+        struct stat open = {};
+        struct stat named = {};
+        return ::fstat(number(), &open) == 0 && ::stat(m_path.constData(), &named) == 0 &&
+               open.st_ino == named.st_ino && open.st_dev == named.st_dev;
+    }
+
+    QByteArray m_path;
+    int m_mode;
+    platform::Descriptor m_file;
+    bool m_isHeld = false;
+};
+
+tl::unexpected<platform::Error> noPath(const QString &path)
+{
+    errno = EINVAL;
+    return platform::failure(platform::ErrorCode::WriteFailed, QStringLiteral("%1: %2").arg(path, qt_error_string()));
 }
 
 // Where the last @p count lines begin.
@@ -37,16 +97,14 @@ qsizetype startOfLast(const QByteArray &text, int count)
 
 platform::Result<void> appendLines(const QString &path, const QByteArray &lines)
 {
-    QFile file(path);
-    // Opening a named pipe for writing waits for a reader.
-    const bool isFile = !QFileInfo::exists(path) || QFileInfo(path).isFile();
-    if (isFile && file.open(QIODevice::ReadWrite | QIODevice::Append)) {
-        // In one piece, so that the lines of two processes writing at once do not mix.
-        const QByteArray bytes = endsInTheMiddleOfALine(file) ? '\n' + lines : lines;
-        if (file.write(bytes) == bytes.size() && file.flush())
-            return {};
-    }
-    return platform::failure(platform::ErrorCode::WriteFailed, QStringLiteral("%1: %2").arg(path, file.errorString()));
+    if (!platform::canBeAPath(path))
+        return noPath(path);
+    const LineFile file(path, O_CREAT);
+    // In one piece, so that the lines of two processes writing at once do not mix.
+    const QByteArray bytes = file.endsInTheMiddleOfALine() ? '\n' + lines : lines;
+    if (file.isFile() && ::write(file.number(), bytes.constData(), size_t(bytes.size())) == bytes.size())
+        return {};
+    return platform::failure(platform::ErrorCode::WriteFailed, QStringLiteral("%1: %2").arg(path, qt_error_string()));
 }
 
 platform::Result<void> appendPrivateLines(const QString &path, const QByteArray &lines)
@@ -57,6 +115,8 @@ platform::Result<void> appendPrivateLines(const QString &path, const QByteArray 
         return platform::failure(platform::ErrorCode::WriteFailed,
                                  QStringLiteral("%1: %2").arg(path, qt_error_string()));
     };
+    if (!platform::canBeAPath(path))
+        return noPath(path);
     const QByteArray folder = platform::encodedPath(QFileInfo(path).path());
     if (::mkdir(folder.constData(), onlyMyFolder) != 0 && errno != EEXIST)
         return failed();
@@ -78,9 +138,13 @@ platform::Result<void> appendPrivateLines(const QString &path, const QByteArray 
 
 platform::Result<void> keepNewestLines(const QString &path, int most, int limit)
 {
+    // Lines that others append are lost if that happens between reading and replacing.
+    const LineFile file(path, 0);
     const auto text = platform::readFile(path);
     if (!text)
         return tl::unexpected(text.error());
+    if (!file.isHeld())
+        return {};
     if (std::count(text->cbegin(), text->cend(), '\n') <= limit)
         return {};
     return platform::replaceFile(path, text->mid(startOfLast(*text, most)));

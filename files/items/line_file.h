@@ -9,7 +9,8 @@ namespace files {
 
 /**
  * Appends lines to a file, which is created if necessary. They start on a new line even if the file ends in the middle
- * of one, as a killed process leaves it. Not atomic. Fails with WriteFailed.
+ * of one, as a killed process leaves it. Not atomic. Lines that two processes append at once are all kept, also while
+ * one of them calls keepNewestLines(). Fails with WriteFailed.
  */
 platform::Result<void> appendLines(const QString &path, const QByteArray &lines);
 
@@ -20,7 +21,8 @@ platform::Result<void> appendLines(const QString &path, const QByteArray &lines)
 platform::Result<void> appendPrivateLines(const QString &path, const QByteArray &lines);
 
 /**
- * Keeps the last @p most lines of a file that has more than @p limit; otherwise leaves it untouched. Atomic.
+ * Keeps the last @p most lines of a file that has more than @p limit; otherwise leaves it untouched, as it does if
+ * another process holds the file for longer than a second. Atomic.
  *
  * @param limit  more than @p most, so that the file is not rewritten for each added line
  *
