@@ -1241,6 +1241,8 @@ declare module "quorlin/pages" {
         readonly problem: string;
         /** Of all pictures; 0 where the settings are wrong. */
         readonly pages: whole;
+        /** How many pixels the largest picture of a place has; 0 where the settings are wrong. */
+        readonly placePixels: double;
         /** Of a page as it is held, in points. */
         readonly pageWidth: double;
         readonly pageHeight: double;

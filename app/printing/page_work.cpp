@@ -107,6 +107,16 @@ int PageWork::pages() const
     return m_problem.isEmpty() ? jobs::pageCount(m_settings, int(m_paths.size())) : 0;
 }
 
+double PageWork::placePixels() const
+{
+    constexpr double pointsInAnInch = 72;
+    const jobs::PageGrid grid = jobs::gridOf(m_settings);
+    if (!m_problem.isEmpty() || grid.cells.empty())
+        return 0;
+    const QSizeF place = grid.cells.front().picture.size() * (m_settings.dpi / pointsInAnInch);
+    return place.width() * place.height();
+}
+
 QVariantList PageWork::papers() const
 {
     QVariantList all;

@@ -29,6 +29,8 @@ class PageWork : public QObject
     Q_PROPERTY(QString problem READ problem)
     /** Of all pictures; 0 if the settings are wrong. */
     Q_PROPERTY(int pages READ pages)
+    /** How many pixels the largest picture of a place has; 0 if the settings are wrong. */
+    Q_PROPERTY(double placePixels READ placePixels)
     /** Of a page as it is held, in points. */
     Q_PROPERTY(double pageWidth READ pageWidth)
     Q_PROPERTY(double pageHeight READ pageHeight)
@@ -45,6 +47,7 @@ public:
     void setPaths(const QStringList &paths) { m_paths = paths; }
     QString problem() const { return m_problem; }
     int pages() const;
+    double placePixels() const;
     double pageWidth() const { return m_settings.paper.width(); }
     double pageHeight() const { return m_settings.paper.height(); }
     QVariantList papers() const;

@@ -50,6 +50,7 @@ export class LivePlan {
 
     /** Plans again when things have settled. */
     refresh() {
+        this.window.estimate.forget(); // of what another action would write, maybe
         this.job.cancel();
         this.timer.start(this.settleMs);
     }

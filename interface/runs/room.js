@@ -103,10 +103,22 @@ export class WriteNeeds {
     }
 }
 
-/** How large a result will be, roughly: as many bytes for each pixel as its picture has. */
+// Bytes for each pixel of a photograph without loss; those of BMP and TIFF are not packed.
+const LOSSLESS = { bmp: 3, tiff: 3, png: 1.2, gif: 0.7 };
+const NEVER_PACKED = ["bmp", "tiff"];
+const LOSSY = ["JPEG", "HEIC", "AVIF", "WebP", "JPEG 2000", "JPEG XL"];
+
+/**
+ * How large a result will be, roughly: as many bytes for each pixel as its picture has, but more where the picture is
+ * packed with loss and the result is not.
+ *
+ * @param result  with width, height and type, which is that of recipes, if it is known
+ */
 export function guessedBytes(photo, result) {
     const pixels = photo.width * photo.height;
-    return pixels > 0 ? (Math.max(0, photo.bytes) * result.width * result.height) / pixels : 0;
+    const grows = NEVER_PACKED.indexOf(result.type) >= 0 || LOSSY.indexOf(photo.type) >= 0;
+    const least = (grows && LOSSLESS[result.type]) || 0;
+    return pixels > 0 ? Math.max(Math.max(0, photo.bytes) / pixels, least) * result.width * result.height : 0;
 }
 
 /** What the plan of a run that writes pictures says where they will not fit; "" if they do. */

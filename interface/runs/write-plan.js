@@ -50,11 +50,6 @@ export class WritePlan extends LivePlan {
         }
     }
 
-    refresh() {
-        super.refresh();
-        this.window.estimate.forget();
-    }
-
     work(ids, settings) {
         const window = this.window;
         this.sizes = [];

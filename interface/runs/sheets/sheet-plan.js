@@ -4,6 +4,7 @@ import { statusKind, statusText } from "../../lib/wording.js";
 import { photosOf } from "../list-rows.js";
 import { LivePlan } from "../live-plan.js";
 import { planRun } from "../plan.js";
+import { guessedBytes, WriteNeeds } from "../room.js";
 
 const ROWS_A_SLICE = 100;
 
@@ -17,25 +18,33 @@ export function forOneFile(settings) {
 }
 
 /**
- * A generator that plans the file of all pictures with these ids. It yields how far it is, and returns {item, paths, pages, cancelled}; the
- * item is that of planRun() for the first picture, or null if there is none.
+ * A generator that plans the file of all pictures with these ids. It yields how far it is, and returns {item, paths,
+ * pages, placePixels, cancelled}; the item is that of planRun() for the first picture, or null if there is none.
  */
 export function* sheetPlan(window, ids, settings, services) {
     const paths = window.pictures.tickedPaths();
     const step = window.action.step;
-    const pages = step.workFor(settings, paths).pages;
+    const work = step.workFor(settings, paths);
     const photos = photosOf(window, ids.slice(0, 1));
     const planning = planRun(photos, step, forOneFile(settings), services);
     let part = planning.next();
     for (; !part.done; part = planning.next()) {
         yield 0;
     }
-    return { item: part.value.items[0] || null, paths: paths, pages: pages, cancelled: part.value.cancelled };
+    return { item: part.value.items[0] || null, paths: paths, pages: work.pages, placePixels: work.placePixels,
+             cancelled: part.value.cancelled };
+}
+
+/** How large a picture on a page will be, roughly: a JPEG with no more pixels than its place has. */
+export function bytesOnPage(photo, placePixels) {
+    const share = Math.min(1, placePixels / Math.max(1, photo.width * photo.height));
+    return guessedBytes(photo, { width: photo.width, height: photo.height * share, type: "jpeg" });
 }
 
 export class SheetPlan extends LivePlan {
     nothing() {
-        return { ready: 0, pages: 0, name: "", replaces: false };
+        return { ready: 0, pages: 0, name: "", replaces: false, all: -1,
+                 needs: new WriteNeeds(this.window.services.files) };
     }
 
     start() {
@@ -48,13 +57,20 @@ export class SheetPlan extends LivePlan {
 
     * work(ids, settings) {
         const plan = yield* sheetPlan(this.window, ids, settings, this.window.services);
+        plan.bytes = 0;
         for (let i = 0; i < ids.length; i += 1) {
+            plan.bytes += this.bytesOf(ids[i], plan.placePixels);
             this.showRow(ids[i], plan.item);
             if (i % ROWS_A_SLICE === ROWS_A_SLICE - 1) {
                 yield i;
             }
         }
         return plan;
+    }
+
+    bytesOf(id, placePixels) {
+        const photo = this.window.pictures.photo(id);
+        return photo === null ? 0 : bytesOnPage(photo, placePixels);
     }
 
     showRow(id, item) {
@@ -75,6 +91,13 @@ export class SheetPlan extends LivePlan {
     ended(plan, summary) {
         const { item } = plan;
         summary.ready = this.ids.length;
+        summary.all = this.ids.length;
+        if (item !== null && item.status === "ready") {
+            summary.needs.add(item.path, plan.bytes);
+        }
+        if (item !== null && item.replaces) {
+            summary.needs.addReplaced(item.path, 0);
+        }
         summary.pages = plan.pages;
         summary.name = item === null ? "" : item.name;
         summary.replaces = item !== null && item.replaces;

@@ -3,6 +3,7 @@
 import { fill } from "../../lib/wording.js";
 import { SheetPlan } from "./sheet-plan.js";
 import { SheetRun } from "./sheet-run.js";
+import { roomNote } from "../writes.js";
 
 function startText(window) {
     const pages = window.planned.pages;
@@ -17,6 +18,10 @@ function startNote(window) {
     const planned = window.planned;
     if (!planned.pages || window.settings.output.simulation) {
         return "";
+    }
+    const problem = roomNote(window);
+    if (problem !== "") {
+        return problem;
     }
     const words = planned.replaces ? qsTr("%1 is replaced.") : qsTr("As %1");
     return planned.name === "" ? "" : fill(words, planned.name);

@@ -107,6 +107,12 @@ for (const row of WRITTEN) {
 test("guessesFromThePixels", () => {
     const photo = { width: 100, height: 50, bytes: 1000 };
     equal(guessedBytes(photo, { width: 50, height: 25 }), 250);
+    const guessed = (from, to) => guessedBytes(Object.assign({ type: from }, photo),
+                                               { width: 50, height: 20, type: to });
+    equal(["jpeg", "webp", "png", "tiff", "bmp", "gif"].map((to) => guessed("JPEG", to)),
+          [200, 200, 1200, 3000, 3000, 700]);
+    // A drawing may be packed well without loss.
+    equal(["png", "gif", "tiff"].map((to) => guessed("PNG", to)), [200, 200, 3000]);
     equal(guessedBytes(Object.assign({}, photo, { width: 0 }), { width: 50, height: 25 }), 0);
 });
 
