@@ -1,10 +1,12 @@
 // A run that puts all pictures of the list on pages: one file, and a line in the log for each picture on it.
 
 import { files } from "quorlin/files";
+import { runRecords } from "quorlin/records";
 import { guard } from "../../lib/guard.js";
 import { splitPath } from "../../lib/names.js";
 import { fill, fillNumbers, statusKind, statusText } from "../../lib/wording.js";
 import { Replacing } from "../making/replacing.js";
+import { forgetUnfinished, noteUnfinished } from "../making/unfinished.js";
 import { clockText, Progress } from "../progress.js";
 import { logRow } from "../report.js";
 import { BaseRun } from "../run-base.js";
@@ -80,6 +82,7 @@ export class SheetRun extends BaseRun {
         this.steppedMs = Date.now();
         const pages = window.action.step.workFor(this.settings, plan.paths);
         const rule = forOneFile(this.settings).output.ifTaken;
+        this.note = noteUnfinished(plan.item.folder, runRecords, files);
         const work = makeSheet(pages, plan.item, rule, services, () => this.job.wake());
         this.job.start(work, guard("run.step", (event) => this.takePicture(event)),
                        guard("run.end", (how, value) => this.runEnded(how, value)));
@@ -106,6 +109,7 @@ export class SheetRun extends BaseRun {
             : { status: how === "failed" ? "Failed" : "Skipped",
                 reason: how === "failed" ? String(value) : qsTr("cancelled") };
         this.isComplete = this.made.status === "OK";
+        forgetUnfinished(this.note, runRecords);
         this.endWith(this.ending());
     }
 

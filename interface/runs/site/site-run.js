@@ -3,17 +3,17 @@
 // The `site` of the action says how the page is made: folder(services, place), finish(folder, pictures, settings,
 // services, language), page: the name of its file.
 
-import { defaults } from "quorlin/defaults";
 import { files } from "quorlin/files";
 import { program } from "quorlin/program";
+import { runRecords } from "quorlin/records";
 import { joinPath } from "../../lib/names.js";
 import { fill } from "../../lib/wording.js";
 import { askForRoom } from "../making/full-disk.js";
+import { forgetUnfinished, noteUnfinished } from "../making/unfinished.js";
 import { RecipeRun } from "../recipes/recipe-run.js";
 import { logRow } from "../report.js";
 import { movedTo, picturesOf } from "./site-files.js";
 import { parentOf } from "./site-place.js";
-import { forgetUnfinished, noteUnfinished } from "./unfinished.js";
 
 export class SiteRun extends RecipeRun {
     reset(ids) {
@@ -57,12 +57,13 @@ export class SiteRun extends RecipeRun {
             return;
         }
         folder.close();
+        forgetUnfinished(this.note, runRecords);
         this.startPlanning(wanted);
         this.finish(problem);
     }
 
     open(folder) {
-        noteUnfinished(defaults, this.place.parent);
+        this.note = noteUnfinished(this.place.parent, runRecords, files);
         return folder.open();
     }
 
@@ -172,7 +173,7 @@ export class SiteRun extends RecipeRun {
     closeFolder() {
         if (this.folder !== null) {
             this.folder.close();
-            forgetUnfinished(defaults, this.place.parent);
+            forgetUnfinished(this.note, runRecords);
             this.folder = null;
         }
     }

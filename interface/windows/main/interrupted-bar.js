@@ -15,7 +15,7 @@ import { appendRows, keepRows } from "../../runs/log-file.js";
 import { doneResults } from "../../runs/making/run-record.js";
 import { recoveredWords } from "../../runs/recovered.js";
 import { settleKeptRuns } from "../../runs/fields/kept-run.js";
-import { removeUnfinished } from "../../runs/site/unfinished.js";
+import { removeUnfinished } from "../../runs/making/unfinished.js";
 
 // Runs that moved files have been completed by then: a user who does not answer is asked again.
 const ASKED = "InterruptedRuns";
@@ -37,7 +37,7 @@ export class InterruptedBar {
 
     /** Once, at start: completes interrupted steps, restores the lists and asks. */
     look() {
-        removeUnfinished(defaults, files);
+        removeUnfinished(runRecords, files);
         const recovered = moves.recover();
         const written = interruptedPictures(runRecords, files, moves);
         const ids = recall(defaults, ASKED, { ids: [] }).ids.concat(recovered.map((run) => run.id));

@@ -5,6 +5,7 @@
 import { defaults } from "quorlin/defaults";
 import { files } from "quorlin/files";
 import { program } from "quorlin/program";
+import { runRecords } from "quorlin/records";
 import { shell } from "quorlin/shell";
 import { ContactPane } from "../../actions/contact/contact-pane.js";
 import * as contact from "../../actions/contact/contact-step.js";
@@ -13,6 +14,7 @@ import { splitPath } from "../../lib/names.js";
 import { keep, recall } from "../../lib/store.js";
 import { fill, fillNumbers } from "../../lib/wording.js";
 import { Workshop } from "../../runs/making/job.js";
+import { forgetUnfinished, noteUnfinished } from "../../runs/making/unfinished.js";
 import { makePages } from "../../runs/sheets/sheet-making.js";
 
 const KEY = "PrintedPages";
@@ -118,6 +120,7 @@ export class Print {
     * printing(work, choice) {
         const workshop = new Workshop(files);
         const folder = choice.file === "" ? files.dataFolder : splitPath(choice.file).folder;
+        const note = noteUnfinished(folder, runRecords, files);
         try {
             const place = workshop.open(folder);
             if (place.problem) {
@@ -135,6 +138,7 @@ export class Print {
             return problem || fill(qsTr("Printing: %1"), qsTr("%n pages", "", made.pages));
         } finally {
             workshop.close();
+            forgetUnfinished(note, runRecords);
         }
     }
 

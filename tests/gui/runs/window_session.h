@@ -3,6 +3,7 @@
 #include "tests/gui/support/window_driver.h"
 #include "tests/support/every_call.h"
 
+#include "app/window/controls/segmented_control.h"
 #include "jobs/desk/worker_desk.h"
 
 #include <QDirIterator>
@@ -55,15 +56,33 @@ inline void say(const QString &line)
     std::fflush(stdout);
 }
 
-inline void begin(WindowDriver &driver, int endAt, bool isReplacing)
+/** Copies into folders below "sorted", beside the folder of the pictures. */
+inline void chooseCopies(WindowDriver &driver)
+{
+    const QString target = driver.folder() + QStringLiteral("/sorted");
+    QDir().mkpath(target);
+    WindowDriver::answerPanels({target});
+    driver.choose("sortDestination", QStringLiteral("choose"));
+    auto *kind = driver.control<window::SegmentedControl>("sortKind");
+    QTest::keyClick(kind, Qt::Key_Home);
+    QTest::keyClick(kind, Qt::Key_Right);
+}
+
+/** does: "begin" for Resize, "replace", or the name of an action */
+inline void begin(WindowDriver &driver, int endAt, const QString &does)
 {
     jobs::WorkerDesk::ofProcess().setSize(2);
+    if (does != QLatin1String("begin") && does != QLatin1String("replace"))
+        driver.show(qPrintable(does));
     driver.drop({driver.inputFolder()});
-    if (isReplacing) {
+    if (does == QLatin1String("replace")) {
         driver.choose("destination", QStringLiteral("source"));
         driver.choose("ifTaken", QStringLiteral("replace"));
         WindowDriver::answerNextQuestion(QStringLiteral("Replace"));
     }
+    if (does == QLatin1String("sort"))
+        chooseCopies(driver);
+    driver.waitFor([&] { return driver.control<QAbstractButton>("startButton")->isEnabled(); });
     say(QStringLiteral("started"));
     Calls::endBefore(endAt);
     driver.click("startButton");
@@ -108,14 +127,14 @@ inline int act(int argc, char **argv)
     const QString does = arguments.value(3);
     const int endAt = arguments.value(4).toInt();
     auto driver = WindowDriver::started(arguments.value(2));
-    if (does == QLatin1String("begin") || does == QLatin1String("replace"))
-        begin(*driver, endAt, does == QLatin1String("replace"));
-    else if (does == QLatin1String("continue"))
+    if (does == QLatin1String("continue"))
         answer(*driver, endAt, "interruptedGo");
     else if (does == QLatin1String("leave"))
         answer(*driver, endAt, "interruptedLeave");
-    else
+    else if (does == QLatin1String("undo"))
         undo(*driver);
+    else
+        begin(*driver, endAt, does);
     driver.reset();
     say(QStringLiteral("calls %1").arg(Calls::count()));
     return 0;
