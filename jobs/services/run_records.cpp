@@ -51,17 +51,23 @@ void RunRecords::endWithProgram(const QString &path)
 
 QString RunRecords::begin(const QString &folder)
 {
-    const QString name = QStringLiteral("%1-%2.jsonl").arg(QDateTime::currentMSecsSinceEpoch()).arg(::getpid());
-    const QString path = QDir(folder).filePath(name);
     constexpr mode_t onlyMine = 0600;
-    if (!QDir().mkpath(folder))
+    constexpr int tries = 10;
+    constexpr int flags = O_WRONLY | O_APPEND | O_CREAT | O_EXCL | O_CLOEXEC;
+    if (!platform::canBeAPath(folder) || !QDir().mkpath(folder))
         return {};
-    Descriptor file(
-        ::open(platform::encodedPath(path).constData(), O_WRONLY | O_APPEND | O_CREAT | O_EXCL | O_CLOEXEC, onlyMine));
-    if (!isHeld(file))
-        return {};
-    m_held.insert_or_assign(path, std::move(file));
-    return path;
+    for (int i = 0; i < tries; ++i) {
+        const QString name =
+            QStringLiteral("%1-%2-%3.jsonl").arg(QDateTime::currentMSecsSinceEpoch()).arg(::getpid()).arg(i);
+        const QString path = QDir(folder).filePath(name);
+        Descriptor file(::open(platform::encodedPath(path).constData(), flags, onlyMine));
+        // A window that starts looks for records of ended ones, and may hold a new one before this one does.
+        if (!isHeld(file))
+            continue;
+        m_held.insert_or_assign(path, std::move(file));
+        return path;
+    }
+    return {};
 }
 
 bool RunRecords::add(const QString &path, const QString &lines, bool isKept)

@@ -42,12 +42,12 @@ export class KeptList {
         this.timer = shell.timer(guard("list.keep", () => this.keep()));
     }
 
-    /** Once, at start: restores the list of a program that did not exit normally. */
+    /** Once, at start: restores the list of a program that did not exit normally, or those of several as one. */
     look() {
         const found = runRecords.interrupted(listsFolder());
         const whole = found.map((path) => pathsFrom(files.readText(path) || "")).filter((paths) => paths !== null);
         found.forEach((path) => runRecords.end(path));
-        const paths = (whole.pop() || []).filter((path) => files.info(path).exists);
+        const paths = [].concat(...whole).filter((path) => files.info(path).exists);
         if (paths.length > 0 && this.window.pictures.addPaths(paths, []) > 0) {
             this.window.sayBeside(qsTr("The list of the last session was restored."));
         }
