@@ -908,7 +908,10 @@ declare module "quorlin/files" {
         info(path: text): Info;
         /** Bytes that this user may still write there, and what tells file systems apart; -1 where it is not known. */
         space(path: text): { free: double; disk: double };
-        /** The same of where the trash keeps what is moved to it from a folder. */
+        /**
+         * The same of where the trash keeps what is moved to it from a folder, which may be missing. What cannot be a path is answered
+         * as well: with the user's own trash, or the root.
+         */
         trashSpace(path: text): { free: double; disk: double };
         /** From the current folder. */
         absolute(path: text): string;

@@ -100,6 +100,8 @@ QString makeStaging(const QString &folder)
 {
     static int count = 0;
     constexpr int attempts = 100;
+    if (!platform::canBeAPath(folder))
+        return {};
     for (int i = 0; i < attempts; ++i) {
         const QString path = QStringLiteral("%1/%2%3-%4-%5")
                                  .arg(platform::withoutTrailingSlashes(folder), prefix, machineMark())

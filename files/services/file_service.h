@@ -34,7 +34,10 @@ public:
      * the file system}; both -1 if unknown.
      */
     Q_INVOKABLE QVariantMap space(const QString &path) const;
-    /** The same of the file system that keeps what is moved from the folder @p path to the trash. */
+    /**
+     * The same of the file system that keeps what is moved from the folder @p path to the trash. For a folder that is
+     * missing this is that of its place, and for what cannot be a path that of the user's own trash or of the root.
+     */
     Q_INVOKABLE QVariantMap trashSpace(const QString &path) const;
     /** The path as an absolute one, from the current folder. */
     Q_INVOKABLE QString absolute(const QString &path) const;

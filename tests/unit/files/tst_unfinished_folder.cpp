@@ -77,6 +77,8 @@ void TestUnfinishedFolder::keepsUnfinishedFilesInAFolderOfItsOwn()
     removeStaging(m_folder.path() + u'/');
     QCOMPARE(names(), QStringList{text("a.jpg")});
     QVERIFY(makeStaging(at("missing")).isEmpty());
+    QVERIFY(makeStaging(QString()).isEmpty());
+    QVERIFY(makeStaging(m_folder.path() + QChar(u'\0') + u'b').isEmpty());
 }
 
 void TestUnfinishedFolder::writesIntoItsFolderAlsoWhenALinkTakesItsPlace()
