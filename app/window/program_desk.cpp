@@ -177,9 +177,11 @@ void ProgramDesk::sendToPrinter(const QString &path, const QStringList &printer,
     connect(process, &QProcess::finished, this, [answer, process](int code, QProcess::ExitStatus status) {
         const bool isTaken = status == QProcess::NormalExit && code == 0;
         const QString said = QString::fromLocal8Bit(process->readAllStandardError()).trimmed();
-        answer(isTaken ? QString() : tr("The print system did not accept the pages: %1").arg(said));
+        answer(isTaken ? QStringLiteral("") : tr("The print system did not accept the pages: %1").arg(said));
     });
-    process->start(QStringLiteral("lp"), printer + QStringList{QStringLiteral("--"), path});
+    // Opened here: a path below a descriptor of this process is another one for the command.
+    process->setStandardInputFile(path);
+    process->start(QStringLiteral("lp"), printer);
 }
 
 QVariantMap ProgramDesk::paper() const
