@@ -2234,6 +2234,8 @@ declare module "quorlin/shell" {
         sharesThumbnails: boolean;
         /** False while it is sorted by something that is still being read. */
         readonly settled: boolean;
+        /** The rows are not in the chosen order yet, because that needs what is still being read. */
+        readonly sortPending: boolean;
         /** The properties that stand in columns: fields of metadata, or paths such as "{Exif}|FNumber"; at most eight. */
         propertyColumns: texts;
         /** Whether setFilter() hides any pictures that it does not take. */

@@ -129,7 +129,7 @@ bool PictureTable::isReadFor(int column) const
 void PictureTable::noteSorting(int column)
 {
     m_resortPending = !isReadFor(column);
-    if (m_resortPending)
+    if (m_resortPending || m_isReadingProperties) // which may end now
         wakeLoader();
 }
 

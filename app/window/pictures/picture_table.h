@@ -41,6 +41,8 @@ class PictureTable : public QTableView
     Q_PROPERTY(bool sharesThumbnails READ sharesThumbnails WRITE setSharesThumbnails)
     /** False while the list is sorted by something that is still being read for some files. */
     Q_PROPERTY(bool settled READ isSettled NOTIFY orderChanged)
+    /** Whether the rows are not in the chosen order yet, because that needs what is still being read. */
+    Q_PROPERTY(bool sortPending READ isSortPending NOTIFY orderChanged)
     /**
      * The properties that have columns, by their names: those of offeredProperties(), or paths. At most eight; others
      * are dropped.
@@ -72,6 +74,7 @@ public:
     bool keysRate() const { return m_keysRate; }
     void setKeysRate(bool on) { m_keysRate = on; }
     bool isSettled() const { return !m_resortPending && !m_isReadingProperties; }
+    bool isSortPending() const { return m_resortPending; }
     bool sharesThumbnails() const { return m_model.sharesThumbnails(); }
     void setSharesThumbnails(bool shares) { m_model.setSharesThumbnails(shares); }
     bool isBusy() const { return m_busy; }

@@ -11,6 +11,8 @@ export class Escape {
             filter: { isOpen: () => window.pictures.problemsOnly || window.pictures.leastRating > 0
                           || window.pictures.filtered,
                       close: () => window.showAllRows() },
+            // Files that nobody waits for any longer are not read.
+            sorting: { isOpen: () => window.pictures.sortPending, close: () => { window.pictures.sorting = ""; } },
             fullScreen: { isOpen: () => shell.fullScreen, close: () => shell.toggleFullScreen() },
         };
         this.open = []; // the latest last

@@ -302,6 +302,7 @@ export class MainWindow {
             this.livePlan.refresh();
         }
         this.showStart();
+        showStatusBar(this); // Esc cancels sorting that takes long
     }
 
     // Results of a run in the other rows stay visible.

@@ -5,6 +5,8 @@
 #include "platform/imageio/metadata/metadata.h"
 
 #include <QBuffer>
+#include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QHeaderView>
 #include <QImage>
@@ -12,6 +14,8 @@
 #include <QListWidget>
 #include <QSignalSpy>
 #include <QTest>
+
+#include <unistd.h>
 
 using window::PictureModel;
 
@@ -27,6 +31,9 @@ private Q_SLOTS:
     void columnsAreKept();
     void sortsNumbersAsNumbers();
     void showsHowFarReadingIs();
+    void readsOnlyRowsInView();
+    void escapeEndsSortingTenThousand();
+    void thousandsAreSorted();
     void filtersByPropertyComparisonAndValue();
     void joinsRulesByAllOrAny();
     void typedTextIsSearchedInNamesAndValues();
@@ -36,6 +43,7 @@ private Q_SLOTS:
     void sidecarsCount();
 
 private:
+    void addLinks(int count);
     void picture(const QString &name, int iso, const QString &copyright);
     QString path(const QString &name) const { return m_driver->inputFolder() + u'/' + name; }
     window::PictureTable &list() { return m_driver->pictures(); }
@@ -207,6 +215,82 @@ void TestListProperties::showsHowFarReadingIs()
     QCOMPARE(progress.constLast().at(1).toInt(), 304);
     for (const QList<QVariant> &told : std::as_const(progress))
         QVERIFY(told.at(0).toInt() <= told.at(1).toInt());
+}
+
+/** Adds so many files with the content of the first three pictures, by turns. */
+void TestListProperties::addLinks(int count)
+{
+    const QString folder = m_driver->folder() + QStringLiteral("/many");
+    QVERIFY(QDir().mkpath(folder));
+    const QList<QByteArray> sources = {QFile::encodeName(path(QStringLiteral("c.jpg"))),
+                                       QFile::encodeName(path(QStringLiteral("a.jpg"))),
+                                       QFile::encodeName(path(QStringLiteral("b.jpg")))};
+    for (int i = 0; i < count; ++i) {
+        const QByteArray target = QFile::encodeName(folder) + "/m" + QByteArray::number(i + 10000) + ".jpg";
+        QCOMPARE(::link(sources[i % sources.size()].constData(), target.constData()), 0);
+    }
+    m_driver->drop({folder});
+    QVERIFY(m_driver->waitFor([&] { return list().count() == count + 4; }));
+}
+
+void TestListProperties::readsOnlyRowsInView()
+{
+    constexpr int count = 600;
+    addLinks(count);
+    chooseProperty("propAddColumn", QStringLiteral("ISO speed ratings"));
+    const auto isRead = [this](int row) {
+        return !list().model()->index(row, PictureModel::FirstProperty).data().toString().isEmpty();
+    };
+    QVERIFY(m_driver->waitFor([&] { return isRead(0) && isRead(1) && isRead(2); }));
+    // Sizes of all rows arrive later than the properties of those in view.
+    QVERIFY(m_driver->waitFor(
+        [this] { return !list().model()->index(count + 3, PictureModel::Pixels).data().toString().isEmpty(); }, 60000));
+    QVERIFY(list().rowAt(list().viewport()->height() - 1) < count / 2);
+    for (int row = count / 2; row < count + 4; ++row)
+        QVERIFY2(!isRead(row), qPrintable(QString::number(row)));
+    list().scrollToBottom();
+    QVERIFY(m_driver->waitFor([&] { return isRead(count + 3); }));
+    QVERIFY(!isRead(count / 2));
+}
+
+void TestListProperties::escapeEndsSortingTenThousand()
+{
+    constexpr int count = 10000;
+    addLinks(count);
+    const QStringList before = shownNames();
+    QSignalSpy progress(&list(), &window::PictureTable::propertiesProgress);
+    chooseProperty("propAddColumn", QStringLiteral("ISO speed ratings"));
+    list().horizontalHeader()->setSortIndicator(PictureModel::FirstProperty, Qt::AscendingOrder);
+    const auto done = [&progress] { return progress.isEmpty() ? 0 : progress.constLast().at(0).toInt(); };
+    QVERIFY(m_driver->waitFor([&] { return done() > 0; }));
+    QVERIFY2(done() < count, qPrintable(QString::number(done())));
+    QCOMPARE(
+        m_driver->text("statusText"),
+        QStringLiteral("Reading properties: %1 of %2").arg(QLocale().toString(done()), QLocale().toString(count + 4)));
+    m_driver->trigger("cancelAction");
+    QVERIFY(m_driver->waitFor([this] { return list().isSettled(); }));
+    QVERIFY(list().sorting().isEmpty());
+    QCOMPARE(shownNames(), before);
+    QVERIFY(column(PictureModel::FirstProperty).count(QString()) > 1); // only d.jpg has no value
+}
+
+void TestListProperties::thousandsAreSorted()
+{
+    const int count = tests::repetitions(1000, 10000);
+    addLinks(count);
+    chooseProperty("propAddColumn", QStringLiteral("ISO speed ratings"));
+    QElapsedTimer clock;
+    clock.start();
+    list().horizontalHeader()->setSortIndicator(PictureModel::FirstProperty, Qt::AscendingOrder);
+    QVERIFY(!list().isSettled());
+    QVERIFY(m_driver->waitFor([this] { return list().isSettled(); }, 1'200'000));
+    qInfo("%d pictures were read and sorted in %lld ms", count, clock.elapsed());
+    const QStringList values = column(PictureModel::FirstProperty);
+    QStringList wanted;
+    for (const char *speed : {"800", "6,400", "12,800"})
+        wanted += QStringList(values.count(QLatin1String(speed)), QLatin1String(speed));
+    QCOMPARE(values, wanted + QStringList(QString())); // d.jpg has none
+    QCOMPARE(values.size(), count + 4);
 }
 
 void TestListProperties::filtersByPropertyComparisonAndValue()
