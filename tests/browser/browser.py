@@ -91,6 +91,17 @@ class Browser:
         for kind in ("keyDown", "keyUp"):
             self.ask("Input.dispatchKeyEvent", type=kind, key=key, code=key, windowsVirtualKeyCode=code, **text)
 
+    def touch(self, kind, *fingers):
+        self.ask("Input.dispatchTouchEvent", type=kind,
+                 touchPoints=[{"x": x, "y": y, "id": number} for number, (x, y) in enumerate(fingers)])
+
+    def swipe(self, start, end):
+        """One finger from one place to another, in pixels of the window."""
+        self.touch("touchStart", start)
+        for part in (1 / 3, 2 / 3, 1):
+            self.touch("touchMove", tuple(a + (b - a) * part for a, b in zip(start, end)))
+        self.touch("touchEnd")
+
     def close(self):
         self.process.kill()
         self.process.wait(PATIENCE)

@@ -143,6 +143,45 @@ def check_keys(asked, is_from_right, has_download):
     assert asked.value(hash_is) == "#picture-2", "there is nothing more to close"
 
 
+def place_after(asked, gesture):
+    """Where the page is after a gesture that may do nothing: touches have been handled once two frames are drawn."""
+    gesture()
+    asked.value("new Promise((done) => requestAnimationFrame(() => requestAnimationFrame(done)))", wait=True)
+    return asked.value("location.hash")
+
+
+def check_swipes(asked, is_from_right, width):
+    """A swipe turns the large view, one downwards closes it; short and slanting ones, and two fingers, do nothing."""
+    asked.ask("Emulation.setTouchEmulationEnabled", enabled=True)
+    asked.value("document.querySelector('main a').click(); 0")
+    wait_for(asked, "document.activeElement.id === 'view-1'")
+    middle, down = HEIGHT / 2, HEIGHT / 2 + 150
+    left, right = (width * 0.25, middle), (width * 0.75, middle)
+    on, back = ((left, right), (right, left)) if is_from_right else ((right, left), (left, right))
+    for way, place in ((on, 2), (on, 3), (back, 2)):
+        asked.swipe(*way)
+        wait_for(asked, f"document.activeElement.id === 'view-{place}'")
+    short = (right[0] - 40, middle)
+    slanting = (right[0] - 100, middle - 100)
+    for end in (short, slanting, (right[0], middle - 150)):
+        assert place_after(asked, lambda: asked.swipe(right, end)) == "#view-2", end
+
+    def pinch():
+        asked.touch("touchStart", left, right)
+        asked.touch("touchMove", (left[0] + 60, middle), (right[0] - 60, middle))
+        asked.touch("touchEnd")
+    assert place_after(asked, pinch) == "#view-2"
+    # Somebody who has enlarged the page moves about in it.
+    asked.ask("Emulation.setPageScaleFactor", pageScaleFactor=2)
+    assert place_after(asked, lambda: asked.swipe(*on)) == "#view-2"
+    asked.ask("Emulation.setPageScaleFactor", pageScaleFactor=1)
+    asked.swipe((width / 2, middle), (width / 2, down))
+    wait_for(asked, "location.hash === '#picture-2'")
+    assert focused(asked) == "#view-2", focused(asked)
+    assert place_after(asked, lambda: asked.swipe(*on)) == "#picture-2", "there is nothing to turn"
+    asked.ask("Emulation.setTouchEmulationEnabled", enabled=False)
+
+
 def without_script(page):
     copy = page.with_name("without-script.html")
     copy.write_text(re.sub(r"<script>.*?</script>", "", page.read_text(encoding="utf-8"), flags=re.S), encoding="utf-8")
@@ -197,6 +236,7 @@ def main():
                             check_axe(asked, source, what)
                         asked.open(page.as_uri())
                         check_keys(asked, name == "rtl", "download" in PAGES[name])
+                        check_swipes(asked, name == "rtl", width)
                         asked.open(bare.as_uri())
                         check_links(asked)
                 if os.environ.get("QUORLIN_SHOTS"):
