@@ -70,6 +70,17 @@ class Sidecars(BatchTest):
         tags = self.made(self.picture("a.gif"), type="gif")
         self.assertEqual(tags["XMP-dc:Description"], "Möwe über dem Fluß")
 
+    def test_copies_that_cannot_have_them(self):
+        """An AVIF or BMP that is only copied stays as it is, and the result says what it is missing."""
+        for name, source in (("a.avif", "rgb.avif"), ("b.bmp", "palette8.bmp")):
+            picture = self.picture(name, source=source)
+            recipe = self.recipe({"quorlin": 1, "outputs": [{"type": name[2:]}]})
+            line = self.lines("--to", "out", recipe, picture)[0]
+            self.assertEqual(line["status"], "OK", line)
+            self.assertIn("Metadata of its sidecar file is left out, since the file is copied", line["losses"])
+            self.assertEqual(Path(line["output"]).read_bytes(), picture.read_bytes(), name)
+            self.assertNotIn("XMP-dc:Title", self.tags(line["output"]))
+
     def test_other_kinds_of_files(self):
         for name, source in (("a.heic", "profile.heic"), ("b.bmp", "palette8.bmp"), ("c.dng", "plain.dng")):
             tags = self.made(self.picture(name, source=source))

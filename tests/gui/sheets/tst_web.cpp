@@ -2,6 +2,13 @@
 #include "tests/support/test_pictures.h"
 #include "tests/support/test_program.h"
 
+#include "app/window/controls/segmented_control.h"
+#include "app/window/web/page_sketch.h"
+#include "meta/metadata_file.h"
+#include "platform/imageio/metadata/metadata.h"
+#include "platform/imageio/source/opening_watch.h"
+
+#include <QBuffer>
 #include <QDesktopServices>
 #include <QDir>
 #include <QDirIterator>
@@ -42,6 +49,10 @@ private Q_SLOTS:
     void updatesItsOwnPageOnly();
     void opensAPreviewOfTwelve();
     void saysWhatIsWrong();
+    void captionsAreWhatTheFormShows();
+    void sketchesTheLayout();
+    void sketchesEachStyle_data();
+    void sketchesEachStyle();
 
 private:
     void addSome(int count);
@@ -169,6 +180,94 @@ void Web::saysWhatIsWrong()
     m_driver->control<QLineEdit>("webCaption")->setText(QStringLiteral("{city}")); // locations are kept back
     QVERIFY(m_driver->waitFor([&] { return !m_driver->text("problemText").isEmpty(); }));
     QVERIFY(!m_driver->control<QAbstractButton>("startButton")->isEnabled());
+}
+
+void Web::captionsAreWhatTheFormShows()
+{
+    // Programs disagree about this one; the form shows what EXIF says.
+    QBuffer buffer;
+    QVERIFY(buffer.open(QIODevice::WriteOnly) && pictures::gradient(200, 150).save(&buffer, "jpeg"));
+    const QVariantMap said = {
+        {QStringLiteral("{TIFF}"), QVariantMap{{QStringLiteral("ImageDescription"), QStringLiteral("In EXIF")}}},
+        {QStringLiteral("{XMP}"), QVariantMap{{QStringLiteral("dc:description"), QStringLiteral("In XMP")}}}};
+    const auto jpeg = platform::Metadata::fromProperties(said).writtenInto(buffer.data());
+    QVERIFY(jpeg);
+    QFile file(in(QStringLiteral("a.jpg")));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(*jpeg) == jpeg->size());
+    file.close();
+    // The fields of this one are in a sidecar.
+    QVERIFY(pictures::gradient(200, 150).save(in(QStringLiteral("b.bmp"))));
+    meta::MetadataWork work;
+    work.fields.insert(QStringLiteral("caption"), {meta::FieldEdit::What::Set, {QStringLiteral("In the sidecar")}});
+    QVERIFY(meta::writeFields(in(QStringLiteral("b.bmp")), work));
+    QVERIFY(QFile::exists(in(QStringLiteral("b.bmp.xmp"))));
+    m_driver->drop({m_pictures});
+    QVERIFY(m_driver->waitFor([&] { return m_driver->pictures().count() == 2; }));
+    m_driver->control<QLineEdit>("webName")->setText(QStringLiteral("site"));
+    m_driver->control<QLineEdit>("webCaption")->setText(QStringLiteral("{caption}"));
+    const QString summary = run();
+    const QByteArray html = page(QStringLiteral("site"));
+    QVERIFY2(html.contains("In EXIF") && html.contains("In the sidecar"), qPrintable(summary));
+    QVERIFY(!html.contains("In XMP"));
+}
+
+/** Drawn in the colours of the page, light and dark, without reading any picture. */
+void Web::sketchesTheLayout()
+{
+    addSome(3);
+    QStringList opened;
+    platform::watchOpening([&opened](const QString &name) { opened.append(name); });
+    auto *sketch = m_driver->control<window::PageSketch>("webSketch");
+    QVERIFY(m_driver->waitFor([&] { return sketch->title() == QStringLiteral("Two <b>rivers"); }));
+    auto *styles = m_driver->control<window::SegmentedControl>("webStyle");
+    const QStringList styleWords = {QStringLiteral("grid"), QStringLiteral("rows"), QStringLiteral("story")};
+    QList<QImage> seen;
+    for (int i = 0; i < styles->segments().size(); ++i) {
+        styles->setSelectedSegment(i);
+        Q_EMIT styles->chosen(i);
+        QVERIFY(m_driver->waitFor([&] { return sketch->style() == styleWords[i]; }));
+        const QImage drawn = sketch->grab().toImage();
+        QVERIFY2(!seen.contains(drawn), qPrintable(sketch->style()));
+        seen.append(drawn);
+        QCOMPARE(drawn.pixelColor(drawn.width() / 4, 3), QColor(sketch->lightPaper()));
+        QCOMPARE(drawn.pixelColor(drawn.width() * 7 / 8, 3), QColor(sketch->darkPaper()));
+    }
+    platform::watchOpening({});
+    QVERIFY2(opened.isEmpty(), qPrintable(opened.join(u' ')));
+}
+
+void Web::sketchesEachStyle_data()
+{
+    QTest::addColumn<QString>("style");
+    QTest::addColumn<bool>("captions");
+    for (const char *style : {"grid", "rows", "story"})
+        for (const bool captions : {false, true})
+            QTest::addRow("%s%s", style, captions ? " with captions" : "") << style << captions;
+}
+
+void Web::sketchesEachStyle()
+{
+    QFETCH(const QString, style);
+    QFETCH(const bool, captions);
+    constexpr double width = 180;
+    const QList<double> ratios = {1.5, 0.67, 10, 0.1, 1, 1.78, 1.33, 0.75};
+    const QList<QRectF> places = window::PageSketch::places(style, ratios, width, captions);
+    QCOMPARE(places.size(), ratios.size());
+    QMap<double, double> ends; // of each row
+    for (int i = 0; i < places.size(); ++i) {
+        QVERIFY(places[i].left() >= 0 && places[i].right() <= width + 0.01);
+        for (int other = 0; other < i; ++other)
+            QVERIFY(!places[i].intersects(places[other]));
+        const double ratio = style == QStringLiteral("grid") ? 1 : ratios[i];
+        QVERIFY(qAbs(places[i].width() / places[i].height() - ratio) < 0.001);
+        ends[places[i].top()] = places[i].right();
+    }
+    if (style == QStringLiteral("story"))
+        QCOMPARE(ends.size(), places.size()); // one below the other
+    ends.remove(ends.lastKey());
+    if (style == QStringLiteral("rows")) // each is filled, except the last
+        for (const double end : std::as_const(ends))
+            QVERIFY2(qAbs(end - width) < 0.01, qPrintable(QString::number(end)));
 }
 
 QUORLIN_GUI_TEST(Web)
