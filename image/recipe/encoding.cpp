@@ -30,6 +30,8 @@ tl::unexpected<platform::Error> impossible()
 
 Result<QByteArray> turnedFile(const ImageSource &source, const RightTurn &turn)
 {
+    if (turn.isNothing())
+        return source.fileContent().and_then([](const QByteArray &file) { return platform::markedUpright(file); });
     ImageSource now = source;
     QByteArray file;
     for (const platform::ExactTurn step : turn.steps()) {
@@ -160,12 +162,8 @@ Result<QByteArray> pageOfSamePixels(const ImageSource &source, const RecipeOutpu
 /** The file unchanged, or turned without encoding. */
 Result<QByteArray> lyingFile(const ImageSource &source, const OutputPlan &plan)
 {
-    if (!plan.turn.isNothing())
-        return turnedFile(source, plan.turn);
-    const Result<QByteArray> file = source.fileContent();
-    if (source.orientation() == 1 || plan.keepsOrientation)
-        return file;
-    return file.and_then([](const QByteArray &bytes) { return platform::markedUpright(bytes); });
+    const bool isUpright = source.orientation() == 1 || plan.keepsOrientation;
+    return plan.turn.isNothing() && isUpright ? source.fileContent() : turnedFile(source, plan.turn);
 }
 
 } // namespace

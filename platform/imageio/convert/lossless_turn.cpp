@@ -32,7 +32,7 @@ bool canTurnWithoutLoss(const ImageSource &source, ExactTurn turn)
         return false;
     const std::unique_ptr<QIODevice> device = file->bytes.device();
     const std::optional<JpegHeader> header = device ? readJpegHeader(*device) : std::nullopt;
-    if (!header)
+    if (!header || !header->isSound)
         return false;
     constexpr int block = 8;
     const bool hasColours = header->componentCount > 1;

@@ -175,6 +175,13 @@ Metadata withKnownResolution(const ImageSource &source, const Metadata &metadata
     return isLost ? metadata.withResolution(stated.width(), stated.height()) : metadata;
 }
 
+/** Pixels that stay on their side need the tag, whatever else is left out. JPEG XL states it beside its pixels. */
+Metadata withKnownOrientation(const ImageSource &source, const Metadata &metadata)
+{
+    const bool isElsewhere = source.orientation() == 1 || source.file()->content == Content::JpegXl;
+    return isElsewhere ? metadata : metadata.statingOrientation(source.orientation());
+}
+
 /** Whether only its maker understands a segment. */
 bool isOfMaker(uchar marker, const QByteArray &payload)
 {
@@ -294,7 +301,8 @@ std::optional<QByteArray> withOtherMetadata(const ImageSource &source, const Met
     const QByteArray bare = file ? bareFile(*file, source.file()->content, dpi) : QByteArray();
     if (bare.isEmpty())
         return std::nullopt;
-    const Metadata known = withKnownResolution(source, metadata, bare, dpi).withoutColours();
+    const Metadata upright = withKnownResolution(source, metadata, bare, dpi).withoutColours();
+    const Metadata known = withKnownOrientation(source, upright);
     const Result<QByteArray> written = known.writtenInto(bare, Carried::Everything, source.storedSize());
     return written ? std::optional(*written) : std::nullopt;
 }

@@ -79,7 +79,7 @@ bool isPlain(const jpeg_decompress_struct &info)
 {
     const bool isGrey = info.num_components == 1 && info.jpeg_color_space == JCS_GRAYSCALE;
     const bool isDifferences = info.num_components == 3 && info.jpeg_color_space == JCS_YCbCr;
-    return (isGrey || isDifferences) && info.data_precision == BITS_IN_JSAMPLE && info.err->num_warnings == 0;
+    return (isGrey || isDifferences) && info.data_precision == BITS_IN_JSAMPLE;
 }
 
 QList<QByteArray> exifsOf(const jpeg_decompress_struct &info)
@@ -120,7 +120,8 @@ std::optional<JpegHeader> readJpegHeader(QIODevice &file)
     jpeg_read_header(&info, TRUE);
     readTables(info, header);
     readDensity(info, header);
-    header.isPlain = isPlain(info);
+    header.isSound = info.err->num_warnings == 0;
+    header.isPlain = header.isSound && isPlain(info);
     header.exifs = exifsOf(info);
     jpeg_destroy_decompress(&info);
     return header;

@@ -17,7 +17,8 @@ struct JpegHeader
     QSize size;               ///< pixels as stored
     double horizontalDpi = 0; ///< of the JFIF segment; 0 if there is none or it names no unit
     double verticalDpi = 0;
-    bool isPlain = false;    ///< 8 bits of grey or of luma and chroma, and the decoder has no remark
+    bool isSound = false;    ///< the decoder has no remark
+    bool isPlain = false;    ///< sound, with 8 bits of grey or of luma and chroma
     QList<QByteArray> exifs; ///< the contents of all segments that begin as EXIF does
 };
 

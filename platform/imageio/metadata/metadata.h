@@ -90,6 +90,9 @@ public:
     /** The same with another orientation, 1 to 8, if one is stated; for pixels that were turned meanwhile. */
     Metadata withOrientation(int orientation) const;
 
+    /** The same, with an orientation that EXIF states even if there was no EXIF before. */
+    Metadata statingOrientation(int orientation) const;
+
     /** The same with horizontal and vertical resolution swapped; for pixels that were turned on their side. */
     Metadata withResolutionSwapped() const;
 

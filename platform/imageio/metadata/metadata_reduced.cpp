@@ -242,6 +242,16 @@ Metadata Metadata::withResolution(double horizontal, double vertical) const
     return metadata;
 }
 
+Metadata Metadata::statingOrientation(int orientation) const
+{
+    startMetadataLibrary();
+    auto blocks = m_blocks ? std::make_shared<Blocks>(*m_blocks) : std::make_shared<Blocks>();
+    blocks->exif["Exif.Image.Orientation"] = uint16_t(orientation);
+    Metadata metadata;
+    metadata.m_blocks = std::move(blocks);
+    return metadata.withOrientation(orientation);
+}
+
 Metadata Metadata::withoutColours() const
 {
     if (!m_blocks || m_blocks->pngChunks.isEmpty())
