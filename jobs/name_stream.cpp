@@ -17,7 +17,9 @@ platform::Result<NameStream> NameStream::open(const QString &path, Separator sep
 {
     if (path == QLatin1String("-"))
         return NameStream(STDIN_FILENO, false, separator);
-    const int descriptor = ::open(platform::encodedPath(path).constData(), O_RDONLY | O_NOCTTY | O_CLOEXEC);
+    // A pipe that nobody writes to yet must not keep signals waiting.
+    constexpr int flags = O_RDONLY | O_NOCTTY | O_CLOEXEC | O_NONBLOCK;
+    const int descriptor = ::open(platform::encodedPath(path).constData(), flags);
     if (descriptor >= 0)
         return NameStream(descriptor, true, separator);
     return platform::failure(platform::ErrorCode::NotFound,

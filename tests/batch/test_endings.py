@@ -72,6 +72,24 @@ class Signals(BatchTest):
             self.assertEqual(process.returncode, 3)
             self.check_stopped("out", b"".join(lines) + report, 3)
 
+    def test_stops_while_nobody_writes_names(self):
+        os.mkfifo(self.path("names"))
+        with self.start("--report", "report", "--to", "out", "--from", "names", "r.quorlin", stderr=subprocess.DEVNULL) as process:
+            while not self.path("report").exists():
+                time.sleep(0.02)
+            process.send_signal(signal.SIGTERM)
+            self.assertEqual(process.wait(timeout=LONGEST_SECONDS), 3)
+        self.assertEqual(list(json.loads(self.path("report").read_text())), ["summary"])
+
+    def test_takes_names_from_a_pipe(self):
+        os.mkfifo(self.path("names"))
+        with self.start("--report", "-", "--to", "out", "--from", "names", "r.quorlin") as process:
+            with open(self.path("names"), "w", encoding="utf-8") as names:
+                names.write("in/p0.png\nin/p1.png\n")
+            report, _ = process.communicate(timeout=100)
+            self.assertEqual(process.returncode, 0)
+        self.assertEqual(len(self.checked(report)), 4)
+
     def test_resumes_what_was_stopped(self):
         with self.start("--report", "report", "--to", "out", "r.quorlin", "in", stderr=subprocess.DEVNULL) as process:
             time.sleep(self.seconds / 2)

@@ -123,6 +123,11 @@ class BadRequests(BatchTest):
         self.run_batch("--report", "-", "r.quorlin", "in", status=2, stdout=None, preexec_fn=lambda: os.close(1))
         self.assertEqual(self.files("in"), ["a.png"])
 
+    def test_names_on_a_closed_standard_input(self):
+        self.plain()
+        self.run_batch("--from", "-", "r.quorlin", status=2, stdin=None, preexec_fn=lambda: os.close(0))
+        self.assertIn("standard input is closed", self.said)
+
     def test_plan_of_another_recipe(self):
         png(self.path("a.png"))
         self.plain()

@@ -145,6 +145,7 @@ QStringList argumentsFrom(int argc, char **argv)
 
 int main(int argc, char **argv)
 {
+    const bool hasInput = ::fcntl(STDIN_FILENO, F_GETFD) >= 0;
     const bool hasOutput = ::fcntl(STDOUT_FILENO, F_GETFD) >= 0;
     openStandardStreams();
     QCoreApplication application(argc, argv);
@@ -154,6 +155,8 @@ int main(int argc, char **argv)
     if (!hasOutput &&
         (line.report == QLatin1String("-") || line.asksForHelp || line.asksForVersion || line.asksForPresets))
         return refuse(QStringLiteral("standard output is closed"));
+    if (!hasInput && line.from == QLatin1String("-"))
+        return refuse(QStringLiteral("standard input is closed"));
     if (line.asksForHelp || line.asksForVersion)
         return answer(line.asksForHelp ? helpText().toUtf8() : versionText());
     if (line.asksForPresets)
