@@ -2,11 +2,19 @@
 
 import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";
-import { shortestTurn } from "./turns.js";
 import * as turn from "./turn-step.js";
 import { Pane } from "../shared/pane.js";
 
 const QUARTERS = { turnLeft: 90, turnRight: -90, turnHalf: 180 };
+const WHOLE_TURN = 360;
+
+// The same direction within the range of the dial.
+function onDial(angle) {
+    if (angle > WHOLE_TURN / 2) {
+        return onDial(angle - WHOLE_TURN);
+    }
+    return angle > -WHOLE_TURN / 2 ? Number(angle.toFixed(1)) : onDial(angle + WHOLE_TURN); // tenths, as in the field
+}
 
 // The direction of an angle; anticlockwise is positive.
 function senseText(angle) {
@@ -26,9 +34,8 @@ export class TurnPane extends Pane {
     join() {
         for (const name of Object.keys(QUARTERS)) {
             this.form.control(name).clicked.connect(guard(name,
-                                                          () => this.set("angle",
-                                                                         shortestTurn(this.settings.angle
-                                                                                      + QUARTERS[name]))));
+                                                          () => this.set("angle", onDial(this.settings.angle
+                                                                                        + QUARTERS[name]))));
         }
         this.form.control("angleDial").turned.connect(guard("angleDial", (degrees) => this.set("angle", degrees)));
         this.number("angle", "angle");

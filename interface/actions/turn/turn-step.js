@@ -1,7 +1,6 @@
 // Turns and flips a picture, as operations of a recipe.
 // Services used: recipes (planOutput, make), files. Plain data in, plain data out.
 
-import { isNothing, wanted } from "./turns.js";
 import { madeType, ORIGINAL, WRITTEN } from "../../lib/types.js";
 import { fill } from "../../lib/wording.js";
 import { makeBy, planBy, recipeOf, showBy, statedQuality, usualOutput } from "../shared/by-recipe.js";
@@ -9,6 +8,7 @@ import { ownName } from "../shared/own-name.js";
 import { outputMessages } from "../shared/written.js";
 
 const RIGHT_ANGLE = 90;
+const HALF_TURN = 180;
 
 /** What a new pane shows. The angle is in degrees, anticlockwise, in tenths. */
 export const defaults = {
@@ -27,12 +27,18 @@ export function describe(settings) {
                 settings.flipVertical ? [qsTr("flip vertically")] : []).join(", ");
 }
 
+// Both flips and half a turn undo each other.
+function changesNothing(settings) {
+    return settings.flipHorizontal === settings.flipVertical
+        && Math.abs(settings.angle) === (settings.flipVertical ? HALF_TURN : 0);
+}
+
 /** Messages on what is wrong with the settings; empty if a run can start. */
 export function validate(settings) {
     const messages = [];
-    if (!(settings.angle >= -180 && settings.angle <= 180)) {
+    if (!(settings.angle >= -HALF_TURN && settings.angle <= HALF_TURN)) {
         messages.push(qsTr("Enter an angle from −180 to 180 degrees."));
-    } else if (isNothing(wanted(settings))) {
+    } else if (changesNothing(settings)) {
         messages.push(qsTr("Choose an angle or a flip."));
     }
     return messages.concat(outputMessages(settings.output));

@@ -39,7 +39,10 @@ test("keepsTheNameWhereTheTypeStays", () => {
 });
 
 const VALID = [[{ angle: 90 }, 0], [{ angle: 0 }, 1], [{ angle: 0, flipVertical: true }, 0], [{ angle: 181 }, 1],
-               [{ angle: 180, flipVertical: true, flipHorizontal: true }, 1]];
+               [{ angle: 180, flipVertical: true, flipHorizontal: true }, 1],
+               [{ angle: -180, flipVertical: true, flipHorizontal: true }, 1],
+               [{ angle: 0, flipVertical: true, flipHorizontal: true }, 0],
+               [{ angle: 180, flipHorizontal: true }, 0], [{ angle: -180 }, 0], [{ angle: 0.1 }, 0]];
 
 for (const row of VALID) {
     test("validates " + JSON.stringify(row[0]),
