@@ -48,7 +48,8 @@ export class InterruptedBar {
         this.tellEdited(settleKeptRuns(files, runRecords));
         this.window.history.lookForEarlier();
         this.own(recovered, written);
-        this.changed();
+        keep(defaults, ASKED, { ids: this.waiting.map((work) => work.id).filter((id) => id !== "") });
+        this.show();
         if (this.waiting.length > 0) {
             this.showAction(this.waiting[0]);
         }
@@ -155,11 +156,9 @@ export class InterruptedBar {
 
     forget(work) {
         this.waiting = this.waiting.filter((each) => each !== work);
-        this.changed();
-    }
-
-    changed() {
-        keep(defaults, ASKED, { ids: this.waiting.map((work) => work.id).filter((id) => id !== "") });
+        // Another window may ask about others.
+        const { ids } = recall(defaults, ASKED, { ids: [] });
+        keep(defaults, ASKED, { ids: ids.filter((id) => id !== work.id) });
         this.show();
     }
 

@@ -1,7 +1,10 @@
 #include "tests/gui/runs/window_session.h"
 #include "tests/support/test_program.h"
 
+#include "files/moving/journal_shelf.h"
+#include "files/moving/move_run.h"
 #include "platform/desktop/user_defaults.h"
+#include "platform/disk/disk_file_system.h"
 
 #include <QImage>
 #include <QProgressBar>
@@ -65,6 +68,34 @@ int lookAndRun(const QString &home)
     return 0;
 }
 
+/** A rename of two files as a crash leaves it after the first one. */
+void interruptARename(const QString &folder, const QString &home)
+{
+    platform::DiskFileSystem disk;
+    files::DiskJournalShelf shelf(home + QStringLiteral("/.local/share/quorlin/moves"));
+    files::MoveOrderForm form;
+    form.title = QStringLiteral("Rename");
+    for (const char *number : {"00", "01"})
+        form.items.push_back({files::Operation::Move, folder + QStringLiteral("/p%1.jpg").arg(QLatin1String(number)),
+                              folder + QStringLiteral("/new %1.jpg").arg(QLatin1String(number))});
+    const auto run = files::MoveRun::begin(disk, shelf, form);
+    if (!run || !(*run)->next())
+        qFatal("no run");
+}
+
+/** Says what it asks about, and answers "Leave" when it is told to. */
+int ask(const QString &home)
+{
+    auto driver = WindowDriver::started(home);
+    const bool isAsked = driver->control<QWidget>("interruptedBar")->isVisible();
+    session::say(isAsked ? QStringLiteral("asked") : QStringLiteral("not asked"));
+    waitToGoOn();
+    driver->click("interruptedLeave");
+    session::say(driver->control<QWidget>("interruptedBar")->isVisible() ? QStringLiteral("asks for more")
+                                                                         : QStringLiteral("answered"));
+    return 0;
+}
+
 /** A list that is kept on disk by now. */
 int keepAList(const QString &home, const QString &folder)
 {
@@ -95,6 +126,7 @@ private Q_SLOTS:
     void leaveEachOthersRunsAlone_data();
     void leaveEachOthersRunsAlone();
     void bringBothListsBack();
+    void keepTheQuestionsOfEachOther();
 
 private:
     static constexpr int pictureCount = 12;
@@ -198,14 +230,44 @@ void TwoWindows::bringBothListsBack()
     QVERIFY(third->waitForFinished());
 }
 
+/** What one asks about is asked again after its end, though another window was answered meanwhile. */
+void TwoWindows::keepTheQuestionsOfEachOther()
+{
+    const Home home;
+    addPictures(home.input(), 2);
+    addPictures(home.path() + QStringLiteral("/other"), 2);
+    interruptARename(home.input(), home.path());
+    const auto first = window(home, "--ask");
+    QCOMPARE(lineOf(*first, ""), QStringLiteral("asked"));
+    interruptARename(home.path() + QStringLiteral("/other"), home.path());
+    const auto second = window(home, "--ask"); // about both
+    QCOMPARE(lineOf(*second, ""), QStringLiteral("asked"));
+    first->write("go\n");
+    QCOMPARE(lineOf(*first, ""), QStringLiteral("answered"));
+    QVERIFY(first->waitForFinished());
+    second->kill();
+    QVERIFY(second->waitForFinished());
+    const auto third = window(home, "--ask");
+    QCOMPARE(lineOf(*third, ""), QStringLiteral("asked"));
+    third->write("go\n");
+    QCOMPARE(lineOf(*third, ""), QStringLiteral("answered"));
+    QVERIFY(third->waitForFinished());
+    const auto fourth = window(home, "--ask");
+    QCOMPARE(lineOf(*fourth, ""), QStringLiteral("not asked"));
+    fourth->kill();
+    QVERIFY(fourth->waitForFinished());
+}
+
 int main(int argc, char **argv)
 {
     const QByteArray kind = argc > 2 ? argv[1] : "";
-    if (kind != "--hold" && kind != "--look" && kind != "--list")
+    if (!QByteArrayList{"--hold", "--look", "--list", "--ask"}.contains(kind))
         return tests::mainWithoutWindows<TwoWindows>(argc, argv);
     QApplication application(argc, argv);
     const QString home = QString::fromLocal8Bit(argv[2]);
     const QString does = argc > 3 ? QString::fromLocal8Bit(argv[3]) : QString();
+    if (kind == "--ask")
+        return ask(home);
     if (kind == "--list")
         return keepAList(home, does);
     return kind == "--hold" ? holdARun(home, does) : lookAndRun(home);
