@@ -15,7 +15,7 @@ Result<QRect> attentionPart(const Bitmap &bitmap, QSize size)
         return QRect(QPoint(0, 0), kept);
     try {
         initVips();
-        const vips::VImage seen = with8Bits(convertedToSrgb(inForm(bitmap.pixels().image)));
+        const vips::VImage seen = with8Bits(convertedToSrgb(inForm(bitmap.pixels().image())));
         const vips::VImage part = seen.smartcrop(
             kept.width(), kept.height(), vips::VImage::option()->set("interesting", VIPS_INTERESTING_ATTENTION));
         // A part of an image remembers the origin of the whole.

@@ -30,11 +30,11 @@ Result<Bitmap> onCanvas(const Bitmap &bitmap, QPoint place, QSize size, const QC
         return part;
     const Bitmap::Pixels &pixels = part.pixels();
     constexpr int rgba = 4;
-    if (!fitsMemoryBudget(size.width(), size.height(), rgba, bytesPerComponent(pixels.image)))
+    if (!fitsMemoryBudget(size.width(), size.height(), rgba, pixels.bytesPerComponent()))
         return failure(ErrorCode::TooLarge, QCoreApplication::translate("platform", "The picture is too large"));
     try {
         initVips();
-        const MatchedLayers both = matched(composable(pixels.image, !isGrey(color)), colorImage(color));
+        const MatchedLayers both = matched(composable(pixels.image(), !isGrey(color)), colorImage(color));
         VImage image = both.over;
         if (color.alphaF() < 1 && !hasTransparency(image))
             image = image.bandjoin_const({opaqueValue(image)});

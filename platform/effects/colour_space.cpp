@@ -147,7 +147,7 @@ Result<Bitmap> convertedTo(const Bitmap &bitmap, const QByteArray &iccProfile)
     try {
         initVips();
         const Bitmap::Pixels &pixels = bitmap.pixels();
-        const VImage image = inForm(pixels.image);
+        const VImage image = inForm(pixels.image());
         const VImage made = iccProfile.isEmpty() ? inGrey(image) : inProfile(image, iccProfile);
         return bitmapFromImage(made, pixels.resolution, pixels.quantisation);
     } catch (const vips::VError &error) {

@@ -123,12 +123,11 @@ Result<Bitmap> sharpened(const Bitmap &bitmap, const Sharpening &sharpening)
         return failure(ErrorCode::InvalidValue, QCoreApplication::translate("platform", "There is no picture to draw"));
     try {
         const Bitmap::Pixels &pixels = bitmap.pixels();
-        const VImage image = inMemory(inForm(pixels.image));
+        const VImage image = inMemory(inForm(pixels.image()));
         const bool isDeep = image.format() == VIPS_FORMAT_USHORT;
         const VImage made =
             isDeep ? sharpenedImage<quint16>(image, sharpening) : sharpenedImage<uchar>(image, sharpening);
-        return Bitmap(
-            std::make_shared<const Bitmap::Pixels>(Bitmap::Pixels{made, pixels.resolution, pixels.quantisation}));
+        return Bitmap(std::make_shared<const Bitmap::Pixels>(made, pixels.resolution, pixels.quantisation));
     } catch (const vips::VError &error) {
         return failure(ErrorCode::TooLarge, takeVipsError(error));
     }

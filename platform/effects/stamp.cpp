@@ -86,14 +86,13 @@ Result<Bitmap> stamped(const Bitmap &bitmap, const Stamp &stamp)
         return failure(ErrorCode::InvalidValue, QCoreApplication::translate("platform", "There is no picture to draw"));
     try {
         const Bitmap::Pixels &pixels = bitmap.pixels();
-        const VImage colours = convertedToSrgb(composable(stamp.bitmap.pixels().image, false)).copy_memory();
+        const VImage colours = convertedToSrgb(composable(stamp.bitmap.pixels().image(), false)).copy_memory();
         const bool hasColours = colourBands(colours) > 1;
-        const MatchedLayers both = matched(composable(pixels.image, hasColours), colours);
+        const MatchedLayers both = matched(composable(pixels.image(), hasColours), colours);
         const bool isDeep = both.over.format() == VIPS_FORMAT_USHORT;
         const VImage made = isDeep ? stampedImage<quint16>(both.over, both.under, stamp)
                                    : stampedImage<uchar>(both.over, both.under, stamp);
-        return Bitmap(
-            std::make_shared<const Bitmap::Pixels>(Bitmap::Pixels{made, pixels.resolution, pixels.quantisation}));
+        return Bitmap(std::make_shared<const Bitmap::Pixels>(made, pixels.resolution, pixels.quantisation));
     } catch (const vips::VError &error) {
         return failure(ErrorCode::TooLarge, takeVipsError(error));
     }

@@ -1,6 +1,9 @@
 #include "platform/graphics/bitmap.h"
 
+#include "platform/graphics/icc_profile.h"
 #include "platform/graphics/pixels.h"
+
+#include <QColor>
 
 #include <algorithm>
 
@@ -46,6 +49,18 @@ std::array<int, 4> rgbaOf(const VImage &image, int x, int y)
             hasAlpha ? byteOf(pixel, isGrey ? 1 : 3, format) : 255};
 }
 
+std::array<int, 4> rgbaOf(const QImage &rows, int x, int y)
+{
+    const QColor color = rows.pixelColor(x, y);
+    return {color.red(), color.green(), color.blue(), color.alpha()};
+}
+
+/** Whether these are the components that are shown. */
+bool isForScreens(const Bitmap::Pixels &pixels)
+{
+    return !pixels.rows().isNull() && (pixels.profile().isEmpty() || (pixels.bands() > 1 && isSrgb(pixels.profile())));
+}
+
 bool isRgbOrGreyOfIntegers(const VImage &image)
 {
     const bool isInteger = image.format() == VIPS_FORMAT_UCHAR || image.format() == VIPS_FORMAT_USHORT;
@@ -78,19 +93,21 @@ Bitmap Bitmap::fromImage(const QImage &image)
 
 int Bitmap::width() const
 {
-    return m_pixels ? m_pixels->image.width() : 0;
+    return m_pixels ? m_pixels->size().width() : 0;
 }
 
 int Bitmap::height() const
 {
-    return m_pixels ? m_pixels->image.height() : 0;
+    return m_pixels ? m_pixels->size().height() : 0;
 }
 
 ColorModel Bitmap::colorModel() const
 {
     if (!m_pixels)
         return ColorModel::Rgb;
-    switch (m_pixels->image.interpretation()) {
+    if (!m_pixels->rows().isNull())
+        return m_pixels->bands() == 1 ? ColorModel::Gray : ColorModel::Rgb;
+    switch (m_pixels->image().interpretation()) {
     case VIPS_INTERPRETATION_B_W:
     case VIPS_INTERPRETATION_GREY16:
         return ColorModel::Gray;
@@ -106,23 +123,25 @@ ColorModel Bitmap::colorModel() const
 
 int Bitmap::bandCount() const
 {
-    return m_pixels ? m_pixels->image.bands() : 0;
+    return m_pixels ? m_pixels->bands() : 0;
 }
 
 bool Bitmap::hasAlpha() const
 {
-    return m_pixels && hasTransparency(m_pixels->image);
+    if (!m_pixels)
+        return false;
+    return m_pixels->rows().isNull() ? hasTransparency(m_pixels->image()) : m_pixels->rows().hasAlphaChannel();
 }
 
 int Bitmap::bitsPerComponent() const
 {
     constexpr int bitsPerByte = 8;
-    return m_pixels ? bytesPerComponent(m_pixels->image) * bitsPerByte : 0;
+    return m_pixels ? m_pixels->bytesPerComponent() * bitsPerByte : 0;
 }
 
 QByteArray Bitmap::iccProfile() const
 {
-    return m_pixels ? iccProfileOf(m_pixels->image) : QByteArray();
+    return m_pixels ? m_pixels->profile() : QByteArray();
 }
 
 double Bitmap::horizontalDpi() const
@@ -159,10 +178,12 @@ std::array<int, 4> Bitmap::pixel(int x, int y) const
 {
     if (!m_pixels || x < 0 || y < 0 || x >= width() || y >= height())
         return {0, 0, 0, 0};
-    if (isRgbOrGreyOfIntegers(m_pixels->image))
-        return rgbaOf(m_pixels->image, x, y);
+    if (!m_pixels->rows().isNull())
+        return rgbaOf(m_pixels->rows(), x, y);
+    if (isRgbOrGreyOfIntegers(m_pixels->image()))
+        return rgbaOf(m_pixels->image(), x, y);
     try {
-        const VImage one = asRgbOrGrey(m_pixels->image.extract_area(x, y, 1, 1)).copy_memory();
+        const VImage one = asRgbOrGrey(m_pixels->image().extract_area(x, y, 1, 1)).copy_memory();
         return rgbaOf(one, 0, 0);
     } catch (const vips::VError &error) {
         takeVipsError(error);
@@ -174,8 +195,10 @@ QImage Bitmap::toScreenImage() const
 {
     if (!m_pixels)
         return {};
+    if (isForScreens(*m_pixels))
+        return m_pixels->rows();
     try {
-        return qImageFrom(with8Bits(convertedToSrgb(inForm(m_pixels->image))));
+        return qImageFrom(with8Bits(convertedToSrgb(inForm(m_pixels->image()))));
     } catch (const vips::VError &error) {
         takeVipsError(error);
         return toRawImage();
@@ -186,8 +209,10 @@ QImage Bitmap::toRawImage() const
 {
     if (!m_pixels)
         return {};
+    if (!m_pixels->rows().isNull())
+        return m_pixels->rows();
     try {
-        return qImageFrom(asRgbOrGrey(m_pixels->image));
+        return qImageFrom(asRgbOrGrey(m_pixels->image()));
     } catch (const vips::VError &error) {
         takeVipsError(error);
         return {};

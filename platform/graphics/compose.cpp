@@ -21,8 +21,7 @@ Result<Bitmap> nothingThere()
 /** New pixels with everything else from the bitmap they were made from. */
 Bitmap like(const Bitmap &bitmap, const VImage &pixels)
 {
-    return Bitmap(std::make_shared<Bitmap::Pixels>(
-        Bitmap::Pixels{pixels, bitmap.pixels().resolution, bitmap.pixels().quantisation}));
+    return Bitmap(std::make_shared<Bitmap::Pixels>(pixels, bitmap.pixels().resolution, bitmap.pixels().quantisation));
 }
 
 template<typename Drawing> Result<Bitmap> guarded(Drawing drawing)
@@ -141,7 +140,7 @@ Result<Bitmap> shapedBy(const Bitmap &bitmap, const QRect &part, const RoundedRe
     }
     return guarded([&]() -> Result<Bitmap> {
         const bool needsColors = background && !isGrey(*background);
-        const VImage image = composable(bitmap.pixels().image, needsColors);
+        const VImage image = composable(bitmap.pixels().image(), needsColors);
         return like(bitmap, shaped(image, kept, shape, background));
     });
 }
@@ -153,7 +152,7 @@ Result<Bitmap> laidOn(const Bitmap &bitmap, const QColor &color)
     if (!bitmap.hasAlpha())
         return bitmap;
     return guarded([&]() -> Result<Bitmap> {
-        const VImage image = composable(bitmap.pixels().image, !isGrey(color));
+        const VImage image = composable(bitmap.pixels().image(), !isGrey(color));
         return like(bitmap, laid(image, colorImage(color)));
     });
 }
@@ -165,8 +164,8 @@ Result<Bitmap> laidOn(const Bitmap &bitmap, const Bitmap &tile)
     if (!bitmap.hasAlpha())
         return bitmap;
     return guarded([&]() -> Result<Bitmap> {
-        const VImage pattern = convertedToSrgb(composable(tile.pixels().image, false));
-        const VImage image = composable(bitmap.pixels().image, pattern.bands() > 2);
+        const VImage pattern = convertedToSrgb(composable(tile.pixels().image(), false));
+        const VImage image = composable(bitmap.pixels().image(), pattern.bands() > 2);
         return like(bitmap, laid(image, pattern));
     });
 }
@@ -176,7 +175,7 @@ Result<Bitmap> drawnOnWhite(const Bitmap &bitmap, QSize canvas, const QRect &tar
     if (bitmap.isNull() || canvas.isEmpty())
         return nothingThere();
     return guarded([&]() -> Result<Bitmap> {
-        VImage image = composable(bitmap.pixels().image, false);
+        VImage image = composable(bitmap.pixels().image(), false);
         if (!fitsMemoryBudget(canvas.width(), canvas.height(), image.bands(), bytesPerComponent(image)))
             return failure(ErrorCode::TooLarge, QCoreApplication::translate("platform", "The picture is too large"));
         const QRect seen = target.intersected(QRect(QPoint(0, 0), canvas));

@@ -142,7 +142,7 @@ Result<Bitmap> drawnLines(QSize canvas, const DashedLines &lines)
         for (const QLineF &line : seen)
             for (const QRect &piece : surroundings(line, lines.width, canvas))
                 paint(image, coverageOfLines(seen, lines.width, lines.dash, piece), piece, lines.color);
-        return Bitmap(std::make_shared<Bitmap::Pixels>(Bitmap::Pixels{image, {}, {}}));
+        return Bitmap(std::make_shared<Bitmap::Pixels>(image));
     } catch (const vips::VError &error) {
         return failure(ErrorCode::TooLarge, takeVipsError(error));
     }

@@ -34,23 +34,18 @@ void ignoreMessage(const gchar *, GLogLevelFlags, const gchar *, gpointer) {}
 /** Metadata that determines the meaning of pixels; everything else is dropped from bitmaps. */
 constexpr const char *profileField = VIPS_META_ICC_NAME;
 
-bool profileFits(const VImage &image)
+ColorModel modelOf(const VImage &image)
 {
-    const QByteArray profile = iccProfileOf(image);
-    constexpr qsizetype headerLength = 128;
-    if (profile.size() < headerLength)
-        return false;
-    const QByteArray space = profile.mid(16, 4);
     switch (image.interpretation()) {
     case VIPS_INTERPRETATION_B_W:
     case VIPS_INTERPRETATION_GREY16:
-        return space == "GRAY";
+        return ColorModel::Gray;
     case VIPS_INTERPRETATION_CMYK:
-        return space == "CMYK";
+        return ColorModel::Cmyk;
     case VIPS_INTERPRETATION_LAB:
-        return space == "Lab ";
+        return ColorModel::Lab;
     default:
-        return space == "RGB ";
+        return ColorModel::Rgb;
     }
 }
 
@@ -80,7 +75,7 @@ bool tellsOfDamage(const char *texts)
 
 void dropMetadata(VImage &image)
 {
-    const bool keepProfile = profileFits(image);
+    const bool keepProfile = profileFits(iccProfileOf(image), modelOf(image));
     gchar **fields = vips_image_get_fields(image.get_image());
     for (gchar **field = fields; field && *field; ++field) {
         if ((keepProfile && std::strcmp(*field, profileField) == 0) || isFormField(*field))
@@ -173,6 +168,24 @@ double dotsPerInch(double dotsPerMetre)
     return std::round(whole / metresPerInch) == dotsPerMetre ? whole : exact;
 }
 
+bool profileFits(const QByteArray &profile, ColorModel colours)
+{
+    constexpr qsizetype headerLength = 128;
+    if (profile.size() < headerLength)
+        return false;
+    const QByteArray space = profile.mid(16, 4);
+    switch (colours) {
+    case ColorModel::Gray:
+        return space == "GRAY";
+    case ColorModel::Cmyk:
+        return space == "CMYK";
+    case ColorModel::Lab:
+        return space == "Lab ";
+    default:
+        return space == "RGB ";
+    }
+}
+
 QByteArray iccProfileOf(const VImage &image)
 {
     if (image.get_typeof(profileField) == 0)
@@ -197,8 +210,7 @@ VImage bareImage(const VImage &image)
 Bitmap bitmapFromImage(const VImage &image, Resolution resolution, std::optional<JpegQuantisation> quantisation)
 {
     const VImage decoded = inMemory(bareImage(image));
-    auto pixels = std::make_shared<Bitmap::Pixels>(Bitmap::Pixels{decoded, resolution, quantisation});
-    return Bitmap(std::move(pixels));
+    return Bitmap(std::make_shared<Bitmap::Pixels>(decoded, resolution, quantisation));
 }
 
 VImage turnedUpright(const VImage &image, int orientation)

@@ -23,11 +23,33 @@ struct Resolution
  */
 double dotsPerInch(double dotsPerMetre);
 
+/**
+ * The contents of a bitmap, decoded, in memory. Grey and RGB(A) of 8 bits can do without the library, which takes tens of
+ * milliseconds to load, until somebody asks for image().
+ */
 struct Bitmap::Pixels
 {
-    vips::VImage image; ///< decoded, in memory; only interpretation and profile are kept of its metadata
+    /** @param image  in memory; only interpretation and profile are kept of its metadata */
+    explicit Pixels(const vips::VImage &image, Resolution dpi = {}, std::optional<JpegQuantisation> tables = {});
+    /** @param rows  Grayscale8, RGB888 or RGBA8888; a profile for other colours is dropped */
+    Pixels(const QImage &rows, const QByteArray &profile, Resolution dpi, std::optional<JpegQuantisation> tables);
+
+    /** Throws vips::VError. */
+    const vips::VImage &image() const;
+    /** The pixels as they were given; null if there is only the image. */
+    const QImage &rows() const { return m_rows; }
+    QByteArray profile() const;
+    QSize size() const;
+    int bands() const;
+    int bytesPerComponent() const;
+
     Resolution resolution;
     std::optional<JpegQuantisation> quantisation;
+
+private:
+    mutable vips::VImage m_image;
+    mutable QImage m_rows; ///< instead of the image
+    QByteArray m_profile;  ///< of the rows
 };
 
 /**
@@ -53,6 +75,9 @@ QString takeVipsError(const vips::VError &error);
  * only a text in its error buffer to reveal it.
  */
 vips::VImage inMemory(const vips::VImage &image);
+
+/** Whether it describes such colours. */
+bool profileFits(const QByteArray &iccProfile, ColorModel colours);
 
 /** The profile of an image; empty if it has none. */
 QByteArray iccProfileOf(const vips::VImage &image);

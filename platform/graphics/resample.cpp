@@ -29,6 +29,24 @@ tl::unexpected<Error> impossible(QSize size)
                        .arg(size.height()));
 }
 
+/** RGB in a transparent canvas, all of it; null if there is no memory for it. */
+QImage placedRows(const QImage &rgb, QPoint corner, QSize size)
+{
+    QImage canvas(size, QImage::Format_RGBA8888);
+    canvas.fill(Qt::transparent);
+    constexpr int bands = 3;
+    constexpr int opaque = 255;
+    for (int y = 0; y < rgb.height() && !canvas.isNull(); ++y) {
+        const uchar *from = rgb.constScanLine(y);
+        uchar *to = canvas.scanLine(corner.y() + y) + ptrdiff_t(bands + 1) * corner.x();
+        for (int x = 0; x < rgb.width(); ++x, from += bands, to += bands + 1) {
+            std::copy_n(from, bands, to);
+            to[bands] = opaque;
+        }
+    }
+    return canvas;
+}
+
 } // namespace
 
 bool fitsMemoryBudget(qint64 width, qint64 height, int bands, int bytesPerComponent)
@@ -44,12 +62,11 @@ Result<Bitmap> resample(const Bitmap &bitmap, QSize size)
     if (bitmap.isNull())
         return failure(ErrorCode::InvalidValue,
                        QCoreApplication::translate("platform", "There is no picture to scale"));
-    const vips::VImage &image = bitmap.pixels().image;
-    if (!fitsMemoryBudget(size.width(), size.height(), image.bands(), bytesPerComponent(image)))
+    const Bitmap::Pixels &pixels = bitmap.pixels();
+    if (!fitsMemoryBudget(size.width(), size.height(), bitmap.bandCount(), pixels.bytesPerComponent()))
         return impossible(size);
     try {
-        const Bitmap::Pixels &pixels = bitmap.pixels();
-        return bitmapFromImage(scaledTo(image, size), pixels.resolution, pixels.quantisation);
+        return bitmapFromImage(scaledTo(pixels.image(), size), pixels.resolution, pixels.quantisation);
     } catch (const vips::VError &error) {
         return failure(ErrorCode::TooLarge, takeVipsError(error));
     }
@@ -63,7 +80,7 @@ Result<Bitmap> resampleRoughly(const Bitmap &bitmap, QSize size)
     const int down = std::max(1, bitmap.height() / size.height());
     try {
         const Bitmap::Pixels &pixels = bitmap.pixels();
-        const vips::VImage fewer = pixels.image.subsample(across, down);
+        const vips::VImage fewer = pixels.image().subsample(across, down);
         return resample(bitmapFromImage(fewer, pixels.resolution, pixels.quantisation), size);
     } catch (const vips::VError &error) {
         return failure(ErrorCode::TooLarge, takeVipsError(error));
@@ -94,12 +111,19 @@ Result<Bitmap> placed(const Bitmap &bitmap, QPoint place, QSize size)
     if (part.size() == size)
         return part;
     const Bitmap::Pixels &pixels = part.pixels();
-    if (!fitsMemoryBudget(size.width(), size.height(), pixels.image.bands() + 1, bytesPerComponent(pixels.image)))
+    if (!fitsMemoryBudget(size.width(), size.height(), part.bandCount() + 1, pixels.bytesPerComponent()))
         return impossible(size);
+    const QPoint corner(std::max(0, place.x()), std::max(0, place.y()));
+    if (pixels.rows().format() == QImage::Format_RGB888) {
+        const QImage rows = placedRows(pixels.rows(), corner, size);
+        if (rows.isNull())
+            return impossible(size);
+        return Bitmap(
+            std::make_shared<const Bitmap::Pixels>(rows, pixels.profile(), pixels.resolution, pixels.quantisation));
+    }
     try {
-        const vips::VImage plain = inForm(pixels.image);
+        const vips::VImage plain = inForm(pixels.image());
         const vips::VImage layer = hasTransparency(plain) ? plain : plain.bandjoin_const({opaqueValue(plain)});
-        const QPoint corner(std::max(0, place.x()), std::max(0, place.y()));
         return bitmapFromImage(layer.embed(corner.x(), corner.y(), size.width(), size.height()), pixels.resolution,
                                pixels.quantisation);
     } catch (const vips::VError &error) {
@@ -116,7 +140,7 @@ Bitmap cut(const Bitmap &bitmap, const QRect &rect)
         return bitmap;
     try {
         const Bitmap::Pixels &pixels = bitmap.pixels();
-        return bitmapFromImage(pixels.image.extract_area(kept.x(), kept.y(), kept.width(), kept.height()),
+        return bitmapFromImage(pixels.image().extract_area(kept.x(), kept.y(), kept.width(), kept.height()),
                                pixels.resolution, pixels.quantisation);
     } catch (const vips::VError &error) {
         takeVipsError(error);

@@ -51,9 +51,8 @@ JpegQuantisation withSidesSwapped(const JpegQuantisation &quantisation)
 
 Bitmap bitmapLike(const Bitmap &source, const VImage &image)
 {
-    Bitmap::Pixels pixels = source.pixels();
-    pixels.image = image;
-    return Bitmap(std::make_shared<const Bitmap::Pixels>(std::move(pixels)));
+    const Bitmap::Pixels &pixels = source.pixels();
+    return Bitmap(std::make_shared<const Bitmap::Pixels>(image, pixels.resolution, pixels.quantisation));
 }
 
 Bitmap withSidesSwapped(const Bitmap &bitmap)
@@ -98,7 +97,7 @@ Result<Bitmap> turned(const Bitmap &bitmap, ExactTurn turn)
     if (turn == ExactTurn::None)
         return bitmap;
     try {
-        const Bitmap result = bitmapLike(bitmap, turnedExactly(bitmap.pixels().image, turn).copy_memory());
+        const Bitmap result = bitmapLike(bitmap, turnedExactly(bitmap.pixels().image(), turn).copy_memory());
         return swapsSides(turn) ? withSidesSwapped(result) : result;
     } catch (const vips::VError &error) {
         return failure(ErrorCode::TooLarge, takeVipsError(error));
@@ -112,7 +111,7 @@ Result<Bitmap> turned(const Bitmap &bitmap, const FreeTurn &turn)
     if (!std::isfinite(turn.degrees) || !std::isfinite(turn.centre.x()) || !std::isfinite(turn.centre.y()))
         return failure(ErrorCode::InvalidValue,
                        QCoreApplication::translate("platform", "A picture cannot be rotated by that angle"));
-    VImage image = bitmap.pixels().image;
+    VImage image = bitmap.pixels().image();
     if (otherBands(image) > 0)
         image = inForm(image); // their position is unknown outside the picture
     if (!fitsMemoryBudget(turn.canvas.width(), turn.canvas.height(), image.bands() + 1, bytesPerComponent(image)))

@@ -69,7 +69,7 @@ Stream storedPixels(const VImage &image, const QByteArray &space)
 /** The page of a picture whose pixels are in memory. Throws vips::VError. */
 QByteArray pageOfPixels(const Bitmap &bitmap, QSizeF points)
 {
-    const VImage prepared = inMemory(preparedFor(formatOf(Content::Pdf)->keeps, bitmap.pixels().image));
+    const VImage prepared = inMemory(preparedFor(formatOf(Content::Pdf)->keeps, bitmap.pixels().image()));
     const int components = hasTransparency(prepared) ? prepared.bands() - 1 : prepared.bands();
     PdfFile file;
     const QByteArray space = colourSpace(file, iccProfileOf(prepared), components);
@@ -143,7 +143,7 @@ Result<QByteArray> pdfPageOf(const Bitmap &bitmap)
                        QCoreApplication::translate("platform", "There is no picture to write"));
     try {
         initVips();
-        return memoryIsLeftFor(memoryNeedOfPage(bitmap.pixels().image),
+        return memoryIsLeftFor(memoryNeedOfPage(bitmap.pixels().image()),
                                QCoreApplication::translate("platform", "Writing the picture"))
             .map([&] { return pageOfPixels(bitmap, bitmap.pointSize()); });
     } catch (const vips::VError &error) {
@@ -174,7 +174,7 @@ Result<QByteArray> pdfPageOf(const ImageSource &source, std::optional<double> dp
                 return page;
         }
         return source.decode().and_then([&](const Bitmap &bitmap) {
-            return memoryIsLeftFor(memoryNeedOfPage(bitmap.pixels().image), file->name()).map([&] {
+            return memoryIsLeftFor(memoryNeedOfPage(bitmap.pixels().image()), file->name()).map([&] {
                 return pageOfPixels(bitmap, points);
             });
         });

@@ -42,7 +42,7 @@ Result<QByteArray> encodePixels(const Bitmap &bitmap, FileFormat format, const E
     const QByteArray profile = bitmap.iccProfile();
     if (keeps.profile == Kept::IfItFits)
         keeps.profile = !profile.isEmpty() && holdsProfile(format, profile) ? Kept::Yes : Kept::No;
-    const vips::VImage image = preparedFor(keeps, bitmap.pixels().image);
+    const vips::VImage image = preparedFor(keeps, bitmap.pixels().image());
     CodecOptions how;
     how.resolution = writtenResolution(bitmap.pixels().resolution, options);
     how.jpegQuality = jpegQualityOf(options);
@@ -73,7 +73,7 @@ Result<QByteArray> encodeImage(const Bitmap &bitmap, FileFormat format, const En
         if (const auto fitting = fits(bitmap, format); !fitting)
             return tl::unexpected<Error>(fitting.error());
         const auto left = memoryIsLeftFor(
-            memoryNeedOfWriting(format, bitmap.pixels().image, options.isLossless ? Loss::None : Loss::Some),
+            memoryNeedOfWriting(format, bitmap.pixels().image(), options.isLossless ? Loss::None : Loss::Some),
             QCoreApplication::translate("platform", "Writing the picture"));
         if (!left)
             return tl::unexpected<Error>(left.error());

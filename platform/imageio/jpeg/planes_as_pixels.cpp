@@ -1,15 +1,13 @@
 #include "platform/imageio/jpeg/planes_as_pixels.h"
 
-#include "platform/graphics/pixel_memory.h"
 #include "platform/planes/plane_colours.h"
 #include "platform/planes/plane_scaler.h"
 
 #include <algorithm>
+#include <new>
 
 namespace platform {
 namespace {
-
-using vips::VImage;
 
 /** All planes at the same size; none if they would have to be reduced too much. */
 std::optional<std::vector<Plane>> scaledPlanes(const DecodedPlanes &decoded, QSizeF step, QSize size)
@@ -26,32 +24,31 @@ std::optional<std::vector<Plane>> scaledPlanes(const DecodedPlanes &decoded, QSi
     return scaled;
 }
 
-VImage pixelsOf(const std::vector<Plane> &planes, const QByteArray &profile)
+QImage pixelsOf(const std::vector<Plane> &planes)
 {
     const QSize size = planes.front().size();
     const bool isGrey = planes.size() == 1;
-    PixelMemory memory(size, int(planes.size()), VIPS_FORMAT_UCHAR);
+    QImage pixels(size, isGrey ? QImage::Format_Grayscale8 : QImage::Format_RGB888);
+    if (pixels.isNull())
+        throw std::bad_alloc();
     for (int y = 0; y < size.height(); ++y) {
         if (isGrey)
-            std::copy_n(planes[0].row(y), size.width(), memory.row(y));
+            std::copy_n(planes[0].row(y), size.width(), pixels.scanLine(y));
         else
-            coloursOf(planes[0].row(y), planes[1].row(y), planes[2].row(y), memory.row(y), size.width());
+            coloursOf(planes[0].row(y), planes[1].row(y), planes[2].row(y), pixels.scanLine(y), size.width());
     }
-    const VImage image = memory.taken(isGrey ? VIPS_INTERPRETATION_B_W : VIPS_INTERPRETATION_sRGB);
-    if (!profile.isEmpty())
-        vips_image_set_blob_copy(image.get_image(), VIPS_META_ICC_NAME, profile.constData(), size_t(profile.size()));
-    return image;
+    return pixels;
 }
 
 } // namespace
 
-std::optional<VImage> pixelsOfPlanes(const QByteArray &jpeg, const PlaneFacts &facts, int shrink, QSize size)
+std::optional<QImage> pixelsOfPlanes(const QByteArray &jpeg, const PlaneFacts &facts, int shrink, QSize size)
 {
     const std::optional<DecodedPlanes> decoded = decodedPlanes(jpeg, shrink);
     const QSizeF step(double(facts.stored.width()) / shrink / size.width(),
                       double(facts.stored.height()) / shrink / size.height());
     const auto planes = decoded ? scaledPlanes(*decoded, step, size) : std::nullopt;
-    return planes ? std::optional(pixelsOf(*planes, facts.profile)) : std::nullopt;
+    return planes ? std::optional(pixelsOf(*planes)) : std::nullopt;
 }
 
 } // namespace platform

@@ -407,7 +407,7 @@ Result<Bitmap> ImageSource::decodeFinely(QSize size) const
     if (!m_file || m_file->content != Content::Jpeg || !hasHalves || jpegShrinkFor(all, wanted) == 1)
         return decode();
     const Result<Bitmap> shrunk = decodeFor(wanted, Scaling::AtLeast, Forms::Plain);
-    return shrunk && showsShrinking(shrunk->pixels().image) ? decode() : shrunk;
+    return shrunk && showsShrinking(shrunk->pixels().image()) ? decode() : shrunk;
 }
 
 Result<Bitmap> ImageSource::scaledFinely(const Bitmap &decoded, QSize size) const
@@ -417,7 +417,7 @@ Result<Bitmap> ImageSource::scaledFinely(const Bitmap &decoded, QSize size) cons
     try {
         // Each pixel is at the position of those it was made from, so that blocks are those of the whole picture.
         const Bitmap::Pixels &pixels = decoded.pixels();
-        return bitmapFromImage(scaledTo(pixels.image.zoom(mostFineShrink, mostFineShrink), size), pixels.resolution,
+        return bitmapFromImage(scaledTo(pixels.image().zoom(mostFineShrink, mostFineShrink), size), pixels.resolution,
                                pixels.quantisation);
     } catch (const vips::VError &error) {
         return failure(ErrorCode::TooLarge, takeVipsError(error));

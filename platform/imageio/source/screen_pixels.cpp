@@ -8,13 +8,13 @@
 #include "platform/imageio/jpeg/shrunk_jpeg.h"
 #include "platform/imageio/source/opened_file.h"
 
+#include <QTransform>
+
 #include <algorithm>
 #include <new>
 
 namespace platform {
 namespace {
-
-using vips::VImage;
 
 /** Below that a decoder that is asked for a size might choose another scale. */
 constexpr int shortestSide = 64;
@@ -36,6 +36,29 @@ bool isMemoryLeft(const PlaneFacts &facts, qsizetype fileBytes, int shrink, QSiz
     return fileBytes + coefficients + area(facts.stored / shrink) + 2 * area(size) < memoryLeft();
 }
 
+QImage upright(const QImage &stored, int orientation)
+{
+    const auto turned = [&stored](int degrees) { return stored.transformed(QTransform().rotate(degrees)); };
+    switch (orientation) {
+    case 2:
+        return stored.mirrored(true, false);
+    case 3:
+        return stored.mirrored(true, true);
+    case 4:
+        return stored.mirrored(false, true);
+    case 5:
+        return turned(90).mirrored(true, false);
+    case 6:
+        return turned(90);
+    case 7:
+        return turned(270).mirrored(true, false);
+    case 8:
+        return turned(270);
+    default:
+        return stored;
+    }
+}
+
 std::optional<Bitmap> decodedAt(const ImageSource::File &file, QSize size)
 {
     const QByteArray jpeg = file.bytes.all();
@@ -43,13 +66,14 @@ std::optional<Bitmap> decodedAt(const ImageSource::File &file, QSize size)
     const int shrink = jpegShrinkFor(file.storedSize, size);
     if (!facts || facts->stored != file.storedSize || !isMemoryLeft(*facts, jpeg.size(), shrink, size))
         return std::nullopt;
-    const std::optional<VImage> pixels = pixelsOfPlanes(jpeg, *facts, shrink, size);
-    if (!pixels)
+    const std::optional<QImage> stored = pixelsOfPlanes(jpeg, *facts, shrink, size);
+    const QImage pixels = stored ? upright(*stored, file.orientation) : QImage();
+    if (pixels.isNull())
         return std::nullopt;
     const auto header = jpegHeaderOf(file.bytes, file.content);
-    return bitmapFromImage(turnedUpright(*pixels, file.orientation),
-                           uprightResolution(resolutionOf(file.bytes, file.content), file.orientation),
-                           header ? std::optional(header->quantisation) : std::nullopt);
+    return Bitmap(std::make_shared<const Bitmap::Pixels>(
+        pixels, facts->profile, uprightResolution(resolutionOf(file.bytes, file.content), file.orientation),
+        header ? std::optional(header->quantisation) : std::nullopt));
 }
 
 } // namespace
@@ -62,10 +86,7 @@ std::optional<Bitmap> screenPixelsOf(const ImageSource &source, QSize size)
     if (!file || !isPossible(*file, stored))
         return std::nullopt;
     try {
-        initVips();
         return decodedAt(*file, stored);
-    } catch (const vips::VError &error) {
-        takeVipsError(error);
     } catch (const std::bad_alloc &) {
     }
     return std::nullopt; // the other way reports it properly

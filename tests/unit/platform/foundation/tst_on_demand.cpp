@@ -1,4 +1,6 @@
+#include "platform/graphics/resample.h"
 #include "platform/imageio/convert/resized_jpeg.h"
+#include "platform/imageio/source/screen_pixels.h"
 #include "tests/support/corpus.h"
 #include "tests/support/test_program.h"
 
@@ -46,6 +48,22 @@ private Q_SLOTS:
         QVERIFY(platform::resizedJpeg(*source, {half, QRect(QPoint(0, 0), half), 1}, options));
         QVERIFY(!isLoaded("libvips.so"));
         QVERIFY(!isLoaded("libheif.so"));
+    }
+
+    void aJpegIsShownWithoutThem()
+    {
+        if (!isMadeOnDemand())
+            QSKIP("this build links its libraries");
+        const auto source = ImageSource::open(picturePath("own/formats/photo.jpg"));
+        QVERIFY(source);
+        const auto shown = platform::screenPixelsOf(*source, source->uprightSize() / 3);
+        QVERIFY(shown);
+        const auto page = platform::placed(*shown, {5, 7}, shown->size() + QSize(10, 14));
+        QVERIFY(page && page->hasAlpha());
+        QVERIFY(!page->toScreenImage().isNull());
+        QCOMPARE(page->pixel(0, 0)[3], 0);
+        QCOMPARE(page->pixel(5, 7), shown->pixel(0, 0));
+        QVERIFY(!isLoaded("libvips.so"));
     }
 
     void anotherPictureLoadsThem()

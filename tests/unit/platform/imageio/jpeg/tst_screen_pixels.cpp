@@ -30,6 +30,8 @@ class ScreenPixels : public QObject
 
 private Q_SLOTS:
     void areAsGoodAsTheLongWayAtAnySize();
+    void areTheSameForThePixelLibrary_data();
+    void areTheSameForThePixelLibrary();
     void areUpright_data();
     void areUpright();
     void leaveOtherPicturesToTheLongWay_data();
@@ -74,6 +76,47 @@ void ScreenPixels::areAsGoodAsTheLongWayAtAnySize()
         QVERIFY2(found.decibels > std::min(long_.decibels - 0.3, nobodySees), about.constData());
     }
     qInfo("at most %d levels from the long way", largest);
+}
+
+void ScreenPixels::areTheSameForThePixelLibrary_data()
+{
+    QTest::addColumn<bool>("isGrey");
+    QTest::addColumn<bool>("isPlaced");
+    QTest::newRow("colours") << false << false;
+    QTest::newRow("grey") << true << false;
+    QTest::newRow("colours on a page") << false << true;
+    QTest::newRow("grey on a page") << true << true;
+}
+
+/** They are rows of a Qt image until an operation asks for them in another form. */
+void ScreenPixels::areTheSameForThePixelLibrary()
+{
+    QFETCH(bool, isGrey);
+    QFETCH(bool, isPlaced);
+    const QImage image = photograph({300, 200}, 1);
+    const Bitmap whole = Bitmap::fromImage(isGrey ? image.convertToFormat(QImage::Format_Grayscale8) : image);
+    const auto source = ImageSource::fromData(jpegOf(whole, 90));
+    QVERIFY(source);
+    const auto shown = platform::screenPixelsOf(*source, {101, 67}); // rows of an odd number of bytes
+    QVERIFY(shown);
+    const QSize page(120, 80);
+    const auto before = isPlaced ? platform::placed(*shown, {4, 9}, page) : platform::Result<Bitmap>(*shown);
+    QVERIFY(before);
+    const QImage screen = before->toScreenImage();
+    const QImage raw = before->toRawImage();
+    const auto corner = before->pixel(50, 30);
+    const auto after = platform::placed(*before, {-1, -1}, before->size() - QSize(1, 1)); // all but a row and a column
+    QVERIFY(after);
+    QCOMPARE(before->toScreenImage(), screen);
+    QCOMPARE(before->toRawImage(), raw);
+    QCOMPARE(before->pixel(50, 30), corner);
+    QCOMPARE(after->pixel(49, 29), corner);
+    QCOMPARE(after->toRawImage(), raw.copy(1, 1, raw.width() - 1, raw.height() - 1));
+    QCOMPARE(after->bandCount(), before->bandCount());
+    QCOMPARE(after->hasAlpha(), isPlaced);
+    QCOMPARE(after->colorModel(), isGrey ? platform::ColorModel::Gray : platform::ColorModel::Rgb);
+    QCOMPARE(after->iccProfile(), before->iccProfile());
+    QCOMPARE(after->bitsPerComponent(), 8);
 }
 
 void ScreenPixels::areUpright_data()
