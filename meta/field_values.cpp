@@ -59,9 +59,11 @@ FieldValues textValues(const Field &field, const StatedMetadata &stated)
     return values;
 }
 
-/** IPTC agrees if it contains as much of the value as it can hold. */
+/** IPTC agrees if it contains as much of the value as it can hold. It writes dates in another form, and whole. */
 QStringList cut(QStringList texts, const Field &field)
 {
+    if (field.kind == FieldKind::Date)
+        return texts;
     for (QString &text : texts)
         text = field.iptc ? cutToBytes(text, field.iptc->mostBytes).trimmed() : text;
     return texts;
@@ -71,8 +73,11 @@ bool isSame(const Field &field, QStringList a, QStringList b)
 {
     if (a.isEmpty() || b.isEmpty())
         return true;
-    if (field.kind == FieldKind::Date)
-        return TakenDate::fromText(a.first())->agreesWith(*TakenDate::fromText(b.first()));
+    if (field.kind == FieldKind::Date) {
+        const auto one = TakenDate::fromText(a.first());
+        const auto other = TakenDate::fromText(b.first());
+        return one && other ? one->agreesWith(*other) : a == b;
+    }
     if (field.kind == FieldKind::Words) {
         std::sort(a.begin(), a.end());
         std::sort(b.begin(), b.end());

@@ -114,6 +114,8 @@ private Q_SLOTS:
     void keepsAllPagesOfATiffFile();
     void addsAndTakesOutKeywords();
     void shiftsTheDateTaken();
+    void saysWhereDatesDisagree_data();
+    void saysWhereDatesDisagree();
     void cutsForIptcAtACharacter();
     void keepsAlternativesOfOtherLanguages();
     void writesASidecarForOtherTypes();
@@ -271,6 +273,35 @@ void TestMetadataFields::shiftsTheDateTaken()
              QStringList{QStringLiteral("2020-01-01T00:30:01.5-03:30")});
     QCOMPARE(valueOf(folder.path("a"), "dateTaken", "iptc"), QStringList{QStringLiteral("2020-01-01T00:30:01-03:30")});
     QCOMPARE(valueOf(folder.path("a"), "dateTaken", "xmp"), QStringList{QStringLiteral("2020-01-01T00:30:01.5-03:30")});
+}
+
+void TestMetadataFields::saysWhereDatesDisagree_data()
+{
+    QTest::addColumn<QByteArray>("said");
+    QTest::addColumn<QByteArray>("other");
+    QTest::addColumn<bool>("disputed");
+    QTest::newRow("none") << QByteArray("20191231") << QByteArray("20191231") << false;
+    QTest::newRow("day") << QByteArray("20191231") << QByteArray("20181231") << true;
+    QTest::newRow("time") << QByteArray("233001+0100") << QByteArray("223001+0100") << true;
+    QTest::newRow("zone") << QByteArray("233001+0100") << QByteArray("233001+0200") << true;
+    QTest::newRow("no day") << QByteArray("20191231") << QByteArray("20199999") << false;
+}
+
+/** Another program has changed what IPTC says. */
+void TestMetadataFields::saysWhereDatesDisagree()
+{
+    QFETCH(const QByteArray, said);
+    QFETCH(const QByteArray, other);
+    const ScratchFolder folder;
+    QVERIFY(folder.write("a", pictures::bytesOf(picturePath("own/formats/rgb.jpg"))));
+    QVERIFY(meta::writeFields(folder.path("a"), setting("dateTaken", QStringLiteral("2019-12-31T23:30:01+01:00"))));
+    const QByteArray written = folder.read("a");
+    QCOMPARE(written.count(said), 1);
+    QVERIFY(folder.write("a", QByteArray(written).replace(said, other)));
+    const QVariantMap field = fieldsOf(folder.path("a")).value(QStringLiteral("dateTaken")).toMap();
+    QTEST(field.value(QStringLiteral("disputed")).toBool(), "disputed");
+    QCOMPARE(field.value(QStringLiteral("value")).toStringList(),
+             QStringList{QStringLiteral("2019-12-31T23:30:01+01:00")});
 }
 
 void TestMetadataFields::cutsForIptcAtACharacter()
