@@ -2991,7 +2991,7 @@
     <name>SortTree</name>
     <message>
         <source>Resulting folders</source>
-        <translation>Resulterende mappen</translation>
+        <translation>Doelmappen</translation>
     </message>
     <message>
         <source>Show All</source>

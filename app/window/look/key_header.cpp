@@ -90,6 +90,54 @@ void KeyHeader::focusOutEvent(QFocusEvent *event)
     showPlace();
 }
 
+QFontMetrics KeyHeader::metrics() const
+{
+    QFont bold = font();
+    bold.setBold(true);
+    return QFontMetrics(bold);
+}
+
+/** The heading in one line, or in two if it is long and has a space; about as wide as each other. */
+QStringList KeyHeader::linesOf(int column) const
+{
+    constexpr int mostInOneLinePx = 120;
+    const QString title = model()->headerData(column, orientation()).toString();
+    const QFontMetrics bold = metrics();
+    QStringList lines(title);
+    int width = bold.horizontalAdvance(title);
+    const bool isLong = width > mostInOneLinePx;
+    for (qsizetype at = title.indexOf(u' '); isLong && at > 0; at = title.indexOf(u' ', at + 1)) {
+        const int widest = qMax(bold.horizontalAdvance(title.left(at)), bold.horizontalAdvance(title.mid(at + 1)));
+        if (widest < width)
+            lines = {title.left(at), title.mid(at + 1)};
+        width = qMin(width, widest);
+    }
+    return lines;
+}
+
+QSize KeyHeader::sectionSizeFromContents(int column) const
+{
+    const QFontMetrics bold = metrics();
+    const QStringList lines = linesOf(column);
+    int widest = 0;
+    for (const QString &line : lines)
+        widest = qMax(widest, bold.horizontalAdvance(line));
+    return QHeaderView::sectionSizeFromContents(column) +
+           QSize(widest - bold.horizontalAdvance(lines.join(u' ')), int(lines.size() - 1) * bold.lineSpacing());
+}
+
+// Each line is elided here: with style sheets the toolkit cuts a letter in two.
+void KeyHeader::initStyleOptionForIndex(QStyleOptionHeader *option, int column) const
+{
+    QHeaderView::initStyleOptionForIndex(option, column);
+    const QFontMetrics bold = metrics();
+    QStringList lines = linesOf(column);
+    const int around = QHeaderView::sectionSizeFromContents(column).width() - bold.horizontalAdvance(lines.join(u' '));
+    for (QString &line : lines)
+        line = bold.elidedText(line, textElideMode(), sectionSize(column) - around);
+    option->text = lines.join(u'\n');
+}
+
 void KeyHeader::paintEvent(QPaintEvent *event)
 {
     QHeaderView::paintEvent(event);

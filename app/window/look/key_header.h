@@ -6,7 +6,7 @@ namespace window {
 
 /**
  * Table headings that can be sorted by keyboard: Tab reaches them, the left and right arrow keys move between them, and
- * Space or Return sorts by the one with the frame, reversed when pressed again.
+ * Space or Return sorts by the one with the frame, reversed when pressed again. Long headings take two lines.
  */
 class KeyHeader : public QHeaderView
 {
@@ -21,11 +21,15 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
+    QSize sectionSizeFromContents(int column) const override;
+    void initStyleOptionForIndex(QStyleOptionHeader *option, int column) const override;
 
 private:
     void step(int by);
     void sort();
     void showPlace();
+    QFontMetrics metrics() const;
+    QStringList linesOf(int column) const;
 
     int m_place = 0; ///< as the columns lie
 };

@@ -25,6 +25,61 @@ int wholePx(const ColumnNeed &need)
     return std::max(need.fixedPx, need.headingPx);
 }
 
+/** Gives columns part of what they lack; of @p sparePx, which becomes less. */
+void giveAll(std::vector<int> &widths, const std::vector<int> &lacks, int &sparePx)
+{
+    const int lacking = std::accumulate(lacks.begin(), lacks.end(), 0);
+    const int given = std::min(lacking, sparePx);
+    for (size_t i = 0; lacking > 0 && i < widths.size(); ++i)
+        widths[i] += lacks[i] * given / lacking;
+    sparePx -= given;
+}
+
+/** The same for the columns one after the other, as far as there is something. */
+void giveInOrder(std::vector<int> &widths, const std::vector<int> &lacks, int &sparePx)
+{
+    for (size_t i = 0; i < widths.size(); ++i) {
+        const int given = std::min(lacks[i], sparePx);
+        widths[i] += given;
+        sparePx -= given;
+    }
+}
+
+/** Takes from texts @p takenPx of what they do not need, which is no less; from the last first, the status. */
+void takeFrom(std::vector<int> &widths, const std::vector<int> &spares, int takenPx)
+{
+    for (size_t i = widths.size(); i-- > 0;) {
+        const int taken = std::min(takenPx, spares[i]);
+        widths[i] -= taken;
+        takenPx -= taken;
+    }
+}
+
+/** Lets texts pass on what they do not need: to sizes, then to names that are short of leastPx, then to all. */
+void passOn(const std::vector<ColumnNeed> &needs, std::vector<int> &widths)
+{
+    std::vector<int> spares;
+    for (size_t i = 0; i < needs.size(); ++i) {
+        const int needed = std::max({needs[i].contentPx, needs[i].headingPx, narrowestTextPx});
+        spares.push_back(isText(needs[i]) && needs[i].contentPx > 0 ? std::max(0, widths[i] - needed) : 0);
+    }
+    const int spare = std::accumulate(spares.begin(), spares.end(), 0);
+    int left = spare;
+    const auto lacks = [&](const auto &counts, bool isLimited) {
+        std::vector<int> lacking;
+        for (size_t i = 0; i < needs.size(); ++i) {
+            const int wanted = isLimited ? std::min(needs[i].contentPx, needs[i].leastPx) : needs[i].contentPx;
+            lacking.push_back(counts(needs[i]) ? std::max(0, wanted - widths[i]) : 0);
+        }
+        return lacking;
+    };
+    giveInOrder(widths, lacks([](const ColumnNeed &each) { return !isText(each); }, false), left);
+    giveInOrder(widths, lacks([](const ColumnNeed &each) { return each.isName; }, true), left);
+    giveAll(widths, lacks([](const ColumnNeed &) { return true; }, false), left);
+    // A column that is given something has nothing to spare.
+    takeFrom(widths, spares, spare - left);
+}
+
 } // namespace
 
 std::vector<int> sidewaysWidths(const std::vector<ColumnNeed> &needs, int roomPx)
@@ -62,6 +117,7 @@ std::vector<int> fittingWidths(const std::vector<ColumnNeed> &needs, int roomPx)
         const int text = (isNarrow ? narrowestTextPx : least(each)) + spare * each.share / std::max(1, shares);
         widths.push_back(isText(each) ? text : wholePx(each) - given);
     }
+    passOn(needs, widths);
     return widths;
 }
 

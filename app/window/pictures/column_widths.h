@@ -11,6 +11,7 @@ struct ColumnNeed
     int headingPx; ///< for its heading
     int share;     ///< of a text
     int leastPx;   ///< of a text beside columns that the user added
+    int contentPx; ///< for all that it shows; 0 if that does not matter
     bool isName;
     bool isAdded; ///< by the user
 };
@@ -22,7 +23,8 @@ struct ColumnNeed
 std::vector<int> sidewaysWidths(const std::vector<ColumnNeed> &needs, int roomPx);
 
 /**
- * Widths for the room that there is. Without added columns, headings and then texts become as narrow as necessary.
+ * Widths for the room that there is. Without added columns, headings and then texts become as narrow as necessary. What
+ * texts do not need for their content goes to columns that lack room for theirs: first to sizes, then to names, as far as leastPx.
  */
 std::vector<int> fittingWidths(const std::vector<ColumnNeed> &needs, int roomPx);
 

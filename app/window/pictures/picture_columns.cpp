@@ -3,6 +3,7 @@
 #include "app/window/pictures/picture_table.h"
 
 #include "app/window/pictures/column_widths.h"
+#include "app/window/pictures/picture_delegate.h"
 #include "platform/foundation/raised.h"
 #include "platform/values/fields.h"
 
@@ -15,6 +16,7 @@
 #include <QSignalBlocker>
 
 #include <array>
+#include <functional>
 #include <vector>
 
 namespace window {
@@ -23,6 +25,7 @@ namespace {
 
 constexpr int leastNamePx = 140;   ///< beside columns that the user added
 constexpr int leastStatusPx = 160; ///< beside them
+constexpr int mostSizesPx = 160;   ///< for several new sizes
 constexpr int mostWidthPx = 4000;  ///< limit of a stored width
 /** What texts get in addition, where dates and cameras are shown by default. */
 constexpr int comfortPx = 260;
@@ -58,6 +61,43 @@ int columnNamed(const QString &name)
         if (name == QLatin1String(kinds[i].name))
             return int(i);
     return -1;
+}
+
+/** What a column needs to show its content whole, from some of its rows; 0 if that does not change its width. */
+int contentWidth(const QAbstractItemView &list, int column)
+{
+    const bool counts = kinds[size_t(column)].widthPx == 0 || column == PictureModel::NewSize;
+    if (!counts || column == PictureModel::Status)
+        return 0;
+    constexpr int mostRows = 200;
+    const int rows = list.model()->rowCount();
+    QStyleOptionViewItem option;
+    option.font = list.font();
+    int widest = 0;
+    for (int row = 0; row < rows; row += 1 + rows / mostRows)
+        widest = qMax(widest, list.itemDelegate()->sizeHint(option, list.model()->index(row, column)).width());
+    return column == PictureModel::NewSize ? qMin(widest, mostSizesPx) : widest;
+}
+
+/** Calls @p work a moment after pictures, or names of their results, arrived: many come at a time. */
+void whenContentCame(const PictureModel &model, QObject *owner, const std::function<void()> &work)
+{
+    constexpr int momentMs = 100;
+    auto *soon = new QTimer(owner);
+    soon->setSingleShot(true);
+    soon->setInterval(momentMs);
+    const auto wake = [soon] {
+        if (!soon->isActive())
+            soon->start();
+    };
+    QObject::connect(soon, &QTimer::timeout, owner, work);
+    QObject::connect(&model, &QAbstractItemModel::rowsInserted, soon, wake);
+    QObject::connect(
+        &model, &QAbstractItemModel::dataChanged, soon, [wake](const QModelIndex &first, const QModelIndex &last) {
+            const bool hasName = first.column() <= PictureModel::Name && last.column() >= PictureModel::Name;
+            if (hasName || last.column() == PictureModel::NewSize)
+                wake();
+        });
 }
 
 bool isProperty(int column)
@@ -108,6 +148,7 @@ void PictureTable::prepareHeader()
         Q_EMIT orderChanged();
         Q_EMIT layoutChanged();
     });
+    whenContentCame(m_model, this, [this] { showColumns(); });
     header->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(header, &QWidget::customContextMenuRequested, this, [this, header](const QPoint &place) {
         QMenu menu(this);
@@ -311,6 +352,8 @@ void PictureTable::chooseDispensable()
         int needed = comfort;
         for (size_t i = 0; i < kinds.size(); ++i)
             needed += isShown(i) ? qMax(kinds[i].leastPx, kinds[i].widthPx > 0 ? fixedWidth(i) : 0) : 0;
+        if (isShown(PictureModel::NewSize))
+            needed += qMax(0, contentWidth(*this, PictureModel::NewSize) - fixedWidth(PictureModel::NewSize));
         return needed > viewport()->width();
     };
     for (size_t i = 0; i < dispensable.size(); ++i) {
@@ -321,21 +364,23 @@ void PictureTable::chooseDispensable()
     }
 }
 
+/** Sets the widths, unless the user has chosen them, and the height of the rows for the statuses in these. */
 void PictureTable::arrangeColumns()
 {
-    if (m_columnsChosen)
-        return;
+    auto *delegate = qobject_cast<PictureDelegate *>(itemDelegate());
+    delegate->measureStatuses(font());
     const QScopedValueRollback<bool> arranging(m_arranging, true);
     std::vector<ColumnNeed> needs;
     QList<int> shown;
-    for (int i = 0; i < PictureModel::ColumnCount; ++i) {
+    for (int i = 0; i < PictureModel::ColumnCount && !m_columnsChosen; ++i) {
         if (!isShown(size_t(i)))
             continue;
         const ColumnKind &kind = kinds[size_t(i)];
         const bool isName = i == PictureModel::Name || i == PictureModel::NewName;
         const int least = isName ? leastNamePx : i == PictureModel::Status ? leastStatusPx : kind.leastPx;
         const int share = m_model.stressesNewNames() ? kind.stressedShare : kind.share;
-        needs.push_back({kind.widthPx, horizontalHeader()->sectionSizeHint(i), share, least, isName,
+        const int content = i == PictureModel::Status ? delegate->statusPx() : contentWidth(*this, i);
+        needs.push_back({kind.widthPx, horizontalHeader()->sectionSizeHint(i), share, least, content, isName,
                          isProperty(i) || m_wanted.value(i)});
         shown.append(i);
     }
@@ -343,10 +388,15 @@ void PictureTable::arrangeColumns()
     const std::vector<int> sideways = sidewaysWidths(needs, room);
     const std::vector<int> widths = sideways.empty() ? fittingWidths(needs, room) : sideways;
     // It lays out all columns, also where it is what it was.
-    if (horizontalHeader()->stretchLastSection() != sideways.empty())
+    if (!m_columnsChosen && horizontalHeader()->stretchLastSection() != sideways.empty())
         horizontalHeader()->setStretchLastSection(sideways.empty());
-    for (size_t i = 0; i < widths.size(); ++i)
-        horizontalHeader()->resizeSection(shown[int(i)], widths[i]);
+    // Never more together than there is room for, else the list scrolls sideways.
+    for (const bool narrower : {true, false})
+        for (size_t i = 0; i < widths.size(); ++i)
+            if ((widths[i] < horizontalHeader()->sectionSize(shown[int(i)])) == narrower)
+                horizontalHeader()->resizeSection(shown[int(i)], widths[i]);
+    if (delegate->fitStatuses(font()))
+        verticalHeader()->setDefaultSectionSize(delegate->rowHeight(fontMetrics()));
 }
 
 } // namespace window

@@ -8,13 +8,17 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include <utility>
+
 namespace window {
 
 namespace {
 
 constexpr int paddingPx = 10;
 constexpr int tickPx = 16;
-constexpr int tickRoomPx = 28;                        ///< before the thumbnail
+constexpr int tickRoomPx = 28; ///< before the thumbnail
+constexpr int leastLines = 2;  ///< of a status
+constexpr int mostLines = 4;
 constexpr int paddingsPx = paddingPx + paddingPx / 2; ///< at both sides
 
 QString colorName(StatusKind kind)
@@ -92,7 +96,71 @@ bool PictureDelegate::isStatusCut(const PictureRow &row, const QFont &font) cons
 {
     const QFontMetrics metrics(statusFont(font, row.kind));
     const auto first = statusColumn(row, m_header, metrics, paddingsPx);
-    return !fitsInTwoLines(row.status, metrics, statusWidth(first));
+    return !fitsInLines(row.status, metrics, statusWidth(first), m_lines);
+}
+
+/** For a status in two lines; few are different, and there may be many rows. */
+int PictureDelegate::neededPx(const PictureRow &row, const QFont &font)
+{
+    constexpr int mostKnown = 1000;
+    QHash<QString, int> &known = m_knownPx[isFinal(row.kind) ? 1 : 0];
+    if (font != m_knownFont || known.size() > mostKnown)
+        m_knownPx = {};
+    m_knownFont = font;
+    auto width = known.constFind(row.status);
+    if (width == known.constEnd())
+        width = known.insert(row.status, widthInTwoLines(row.status, QFontMetrics(statusFont(font, row.kind))));
+    return *width + paddingsPx;
+}
+
+void PictureDelegate::measureStatuses(const QFont &font)
+{
+    m_statusPx = 0;
+    for (int row = 0; row < m_model.rowCount(); ++row)
+        if (m_model.row(row).kind != StatusKind::Bad)
+            m_statusPx = qMax(m_statusPx, neededPx(m_model.row(row), font));
+}
+
+int PictureDelegate::neededLines(const PictureRow &row, const QFont &font) const
+{
+    const QFontMetrics metrics(statusFont(font, row.kind));
+    const int room = statusWidth(statusColumn(row, m_header, metrics, paddingsPx));
+    int lines = leastLines;
+    while (lines < mostLines && !fitsInLines(row.status, metrics, room, lines))
+        ++lines;
+    return lines;
+}
+
+bool PictureDelegate::fitStatuses(const QFont &font)
+{
+    int lines = leastLines;
+    const int room = m_header.sectionSize(PictureModel::Status);
+    for (int row = 0; row < m_model.rowCount(); ++row)
+        if (neededPx(m_model.row(row), font) > room)
+            lines = qMax(lines, neededLines(m_model.row(row), font));
+    return std::exchange(m_lines, lines) != lines;
+}
+
+bool PictureDelegate::needsRoom(const PictureRow &row, const QFont &font)
+{
+    const bool isWider = row.kind != StatusKind::Bad && neededPx(row, font) > m_statusPx;
+    return isWider || (m_lines < mostLines && isStatusCut(row, font));
+}
+
+int PictureDelegate::rowHeight(const QFontMetrics &metrics) const
+{
+    constexpr int leastPx = 36;
+    constexpr int aroundPx = 4;
+    return qMax(leastPx, m_lines * metrics.height() + aroundPx);
+}
+
+QSize PictureDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    const QFontMetrics metrics(textFont(option.font, index.column()));
+    const QString text = index.data(Qt::DisplayRole).toString();
+    const bool mayWrap = index.column() == PictureModel::NewSize;
+    return {(mayWrap ? widthInTwoLines(text, metrics) : metrics.horizontalAdvance(text)) + paddingsPx,
+            metrics.height()};
 }
 
 /** Whether the status covers a cell. */
@@ -119,7 +187,7 @@ void PictureDelegate::paintStatus(QPainter &painter, const QStyleOptionViewItem 
     place.setLeft(place.right() + 1 - statusWidth(first));
     painter.setFont(font);
     painter.setPen(Theme::color(colorName(row.kind)));
-    painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter, inTwoLines(row.status, metrics, place.width()));
+    painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter, inLines(row.status, metrics, place.width(), m_lines));
 }
 
 QRect PictureDelegate::tickPlace(const QRect &cell)
@@ -165,20 +233,24 @@ void PictureDelegate::paintThumbnail(QPainter &painter, const QRect &cell, int r
     painter.drawImage(place, ScreenLook::ofProcess().shown(pixmap.toImage(), screen));
 }
 
+QFont PictureDelegate::textFont(QFont font, int column) const
+{
+    if (column == PictureModel::NewName && m_model.stressesNewNames())
+        font.setWeight(QFont::DemiBold);
+    return font;
+}
+
 void PictureDelegate::paintText(QPainter &painter, const QStyleOptionViewItem &option, const PictureRow &row,
                                 int column) const
 {
-    QFont font = option.font;
+    const QFont font = textFont(option.font, column);
     const bool mayBeCovered = column == PictureModel::NewName || column == PictureModel::NewSize;
     if (mayBeCovered && isCovered(row, option.font, column))
         return;
     const bool isName = column == PictureModel::Name && row.isTicked;
     QColor color = Theme::color(isName ? QStringLiteral("text") : QStringLiteral("muted"));
-    if (mayBeCovered) {
+    if (mayBeCovered)
         color = Theme::color(QStringLiteral("text"));
-        if (column == PictureModel::NewName && m_model.stressesNewNames())
-            font.setWeight(QFont::DemiBold);
-    }
     const QString text = m_model.data(m_model.index(int(&row - &m_model.row(0)), column), Qt::DisplayRole).toString();
     const QRect place = option.rect.adjusted(paddingPx, 0, -paddingPx / 2, -1);
     const Qt::TextElideMode elide =
@@ -186,7 +258,7 @@ void PictureDelegate::paintText(QPainter &painter, const QStyleOptionViewItem &o
     painter.setFont(font);
     painter.setPen(color);
     // A picture may have several results.
-    const QString shown = column == PictureModel::NewSize ? inTwoLines(text, QFontMetrics(font), place.width())
+    const QString shown = column == PictureModel::NewSize ? inLines(text, QFontMetrics(font), place.width(), leastLines)
                                                           : QFontMetrics(font).elidedText(text, elide, place.width());
     painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter, shown);
 }

@@ -16,7 +16,6 @@ namespace window {
 
 namespace {
 
-constexpr int rowHeightPx = 36;
 constexpr int sliceMs = 2;
 /** The event loop is left alone this long between slices, so that reading ahead uses only part of one processor. */
 constexpr int pauseMs = 1;
@@ -73,9 +72,10 @@ bool PictureTable::isStatusCut(int id) const
 void PictureTable::changeEvent(QEvent *event)
 {
     QTableView::changeEvent(event);
-    // Two lines of a status fit.
+    // The lines of a status fit.
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
-        verticalHeader()->setDefaultSectionSize(qMax(rowHeightPx, 2 * fontMetrics().height() + 4));
+        if (const auto *delegate = qobject_cast<PictureDelegate *>(itemDelegate()))
+            verticalHeader()->setDefaultSectionSize(delegate->rowHeight(fontMetrics()));
 }
 
 int PictureTable::count() const
@@ -226,8 +226,11 @@ void PictureTable::setStatus(int id, const QString &kind, const QString &text, c
 {
     const StatusKind status = kindOf(kind);
     const int index = m_model.indexOfId(id);
-    if (index >= 0)
-        m_model.setStatus(index, status, text, detail);
+    if (index < 0)
+        return;
+    m_model.setStatus(index, status, text, detail);
+    if (qobject_cast<PictureDelegate *>(itemDelegate())->needsRoom(m_model.row(index), font()))
+        arrangeColumns();
 }
 
 QVariant PictureTable::shown(int id) const

@@ -22,20 +22,29 @@ bool isReason(StatusKind kind)
 
 } // namespace
 
-QString inTwoLines(const QString &text, const QFontMetrics &metrics, int widthPx)
+QString inLines(const QString &text, const QFontMetrics &metrics, int widthPx, int lines)
 {
     const qsizetype end = lineEnd(text, metrics, widthPx);
     if (end == text.size())
         return text;
-    if (end == 0)
+    if (end == 0 || lines == 1)
         return metrics.elidedText(text, Qt::ElideRight, widthPx);
-    return text.left(end) + u'\n' + metrics.elidedText(text.mid(end + 1), Qt::ElideRight, widthPx);
+    return text.left(end) + u'\n' + inLines(text.mid(end + 1), metrics, widthPx, lines - 1);
 }
 
-bool fitsInTwoLines(const QString &text, const QFontMetrics &metrics, int widthPx)
+bool fitsInLines(const QString &text, const QFontMetrics &metrics, int widthPx, int lines)
 {
     const qsizetype end = lineEnd(text, metrics, widthPx);
-    return end == text.size() || (end > 0 && metrics.horizontalAdvance(text.mid(end + 1)) <= widthPx);
+    return end == text.size() || (end > 0 && lines > 1 && fitsInLines(text.mid(end + 1), metrics, widthPx, lines - 1));
+}
+
+int widthInTwoLines(const QString &text, const QFontMetrics &metrics)
+{
+    int least = metrics.horizontalAdvance(text);
+    for (qsizetype at = text.indexOf(u' '); at > 0; at = text.indexOf(u' ', at + 1))
+        least =
+            qMin(least, qMax(metrics.horizontalAdvance(text, int(at)), metrics.horizontalAdvance(text.mid(at + 1))));
+    return least;
 }
 
 PictureModel::Column statusColumn(const PictureRow &row, const QHeaderView &header, const QFontMetrics &metrics,
@@ -46,7 +55,7 @@ PictureModel::Column statusColumn(const PictureRow &row, const QHeaderView &head
     for (const PictureModel::Column before : {PictureModel::NewSize, PictureModel::NewName}) {
         // The name of a future result is what the user wants to see.
         const bool mayCover = before == PictureModel::NewSize || isReason(row.kind);
-        if (!mayCover || fitsInTwoLines(row.status, metrics, width))
+        if (!mayCover || fitsInLines(row.status, metrics, width, 2))
             break;
         if (header.isSectionHidden(before))
             continue;

@@ -1,10 +1,14 @@
 #include "tests/gui/support/window_driver.h"
+
+#include "app/window/folders/folder_tree.h"
+#include "tests/support/dated_pictures.h"
 #include "tests/support/test_program.h"
 
 #include <QDir>
 #include <QFile>
 #include <QHeaderView>
 #include <QImage>
+#include <QPushButton>
 #include <QScopeGuard>
 #include <QScrollBar>
 #include <QTest>
@@ -19,6 +23,9 @@ QSet<QString> contextsOf(const QString &action)
 {
     if (action == QLatin1String("rename"))
         return {QStringLiteral("move-words"), QStringLiteral("move-run"), QStringLiteral("rename-step"),
+                QStringLiteral("platform")};
+    if (action == QLatin1String("sort"))
+        return {QStringLiteral("move-words"), QStringLiteral("move-run"), QStringLiteral("sort-step"),
                 QStringLiteral("platform")};
     return {QStringLiteral("job"),
             QStringLiteral("plan"),
@@ -134,6 +141,10 @@ private Q_SLOTS:
     void theFolderIsShownWherePicturesLieInSeveral();
     void namesKeepTheirRoomBesideAddedColumns_data();
     void namesKeepTheirRoomBesideAddedColumns();
+    void shortNamesAreSeenWhole_data();
+    void shortNamesAreSeenWhole();
+    void severalSizesAreSeenWhole();
+    void longHeadingsTakeTwoLines();
     void whatTheUserDidIsKept();
     void aWrongLayoutIsNoLayout();
 
@@ -158,7 +169,7 @@ void TestColumns::everyReasonCanBeRead_data()
     QTest::addColumn<QString>("language");
     QTest::addColumn<QString>("action");
     for (const char *language : {"en", "de", "fr", "nl"})
-        for (const char *action : {"resize", "rename"})
+        for (const char *action : {"resize", "rename", "sort"})
             QTest::addRow("%s %s", language, action) << QString::fromLatin1(language) << QString::fromLatin1(action);
 }
 
@@ -279,6 +290,77 @@ void TestColumns::namesKeepTheirRoomBesideAddedColumns()
     QCoreApplication::processEvents();
     QCOMPARE(sideways.maximum(), 0);
     QCOMPARE(header().length(), list.viewport()->width());
+}
+
+void TestColumns::shortNamesAreSeenWhole_data()
+{
+    everyPlanCanBeRead_data();
+}
+
+// The list is narrowest beside the tree of folders.
+void TestColumns::shortNamesAreSeenWhole()
+{
+    QFETCH(QString, language);
+    qputenv("QUORLIN_LANGUAGE", language.toLatin1());
+    const auto usual = qScopeGuard([] { qunsetenv("QUORLIN_LANGUAGE"); });
+    m_driver->startAgain();
+    QFile file(path(QStringLiteral("IMG_2041.JPG")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(pictures::datedJpeg(QStringLiteral("2026:08:14 10:20:30")));
+    file.close();
+    m_driver->window().resize(1280, 720);
+    m_driver->show("sort");
+    m_driver->drop({m_driver->inputFolder()});
+    window::PictureTable &list = m_driver->pictures();
+    const auto isWhole = [&] {
+        const int needed = list.fontMetrics().horizontalAdvance(QStringLiteral("IMG_2041.JPG"));
+        return header().sectionSize(PictureModel::Name) >= needed + 15; // the space at both sides
+    };
+    QVERIFY(m_driver->waitFor([&] { return m_driver->cell(0, PictureModel::Status).size() > 1 && isWhole(); }));
+    // The title of the tree is whole beside the button that comes with a choice.
+    m_driver->control<window::FolderTree>("sortTree")->setChosen(path(QStringLiteral("2026/2026-08-14")));
+    QVERIFY(m_driver->waitFor([&] { return m_driver->control<QPushButton>("sortShowAll")->isVisible(); }));
+    const auto *title = m_driver->control<QLabel>("sortTreeTitle");
+    QVERIFY(m_driver->waitFor([title] { return title->width() >= title->sizeHint().width(); }));
+    // A reason that comes later gets the room that it needs.
+    const QStringList reasons = reasonsIn(language, QStringLiteral("sort"));
+    for (const QString &reason : reasons) {
+        list.setStatus(list.currentId(), QStringLiteral("bad"), reason, {});
+        QVERIFY2(!list.isStatusCut(list.currentId()), qPrintable(reason));
+    }
+}
+
+void TestColumns::severalSizesAreSeenWhole()
+{
+    picture(QStringLiteral("Evening ridge above Brelmark.png"));
+    m_driver->window().resize(1280, 720);
+    m_driver->drop({m_driver->inputFolder()});
+    window::PictureTable &list = m_driver->pictures();
+    const QString sizes = QStringLiteral("640×426, 1280×853, 2400×1600");
+    const auto cutAt = [&](const QString &text) {
+        return list.fontMetrics().horizontalAdvance(text) + 15 > header().sectionSize(PictureModel::NewSize);
+    };
+    QVERIFY(m_driver->waitFor([&] { return m_driver->cell(0, PictureModel::Status).size() > 1; }));
+    QVERIFY(cutAt(QStringLiteral("640×426, 1280×853,")));
+    list.setPlan(list.currentId(), QStringLiteral("001-Evening ridge above Brelmark-large.jpg"), sizes);
+    QVERIFY(m_driver->waitFor([&] { return !cutAt(QStringLiteral("640×426, 1280×853,")); }));
+    QVERIFY(!list.isStatusCut(list.currentId()));
+    QCOMPARE(header().length(), list.viewport()->width());
+}
+
+void TestColumns::longHeadingsTakeTwoLines()
+{
+    qputenv("QUORLIN_LANGUAGE", "fr");
+    const auto usual = qScopeGuard([] { qunsetenv("QUORLIN_LANGUAGE"); });
+    const int inOneLine = header().sizeHint().height();
+    m_driver->startAgain();
+    m_driver->show("resize");
+    const QString title = m_driver->pictures().model()->headerData(PictureModel::NewSize, Qt::Horizontal).toString();
+    QFont bold = header().font();
+    bold.setBold(true);
+    QVERIFY2(header().sectionSizeHint(PictureModel::NewSize) < QFontMetrics(bold).horizontalAdvance(title),
+             qPrintable(title));
+    QVERIFY(header().sizeHint().height() >= inOneLine + QFontMetrics(bold).lineSpacing());
 }
 
 void TestColumns::whatTheUserDidIsKept()
