@@ -442,8 +442,8 @@
         <translation>Qualité</translation>
     </message>
     <message>
-        <source> %</source>
-        <translation> %</translation>
+        <source>%</source>
+        <translation> %</translation>
     </message>
     <message>
         <source>Quality of the pictures</source>
@@ -564,8 +564,8 @@
         <translation>Rogner</translation>
     </message>
     <message>
-        <source> %</source>
-        <translation> %</translation>
+        <source>%</source>
+        <translation> %</translation>
     </message>
     <message>
         <source>Percentage to trim from width and height</source>
@@ -3148,8 +3148,8 @@
         <translation>Taille</translation>
     </message>
     <message>
-        <source> %</source>
-        <translation> %</translation>
+        <source>%</source>
+        <translation> %</translation>
     </message>
     <message>
         <source>Text size, in % of the picture height</source>
