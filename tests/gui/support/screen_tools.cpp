@@ -55,6 +55,8 @@ void choosePreset(WindowDriver &driver, const char *name)
 int makeScreenshots(int argc, char **argv,
                     const std::function<void(WindowDriver &, const QString &samples, const PicturePath &)> &work)
 {
+    if (argc > 3)
+        qputenv("QT_SCALE_FACTOR", argv[3]); // the harness has cleared that of the surroundings
     QApplication application(argc, argv);
     const QString samples = QString::fromLocal8Bit(argv[1]);
     const QString folder = QString::fromLocal8Bit(argv[2]);

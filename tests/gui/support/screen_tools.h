@@ -15,8 +15,8 @@ void saveScreen(WindowDriver &driver, const QString &path);
 void choosePreset(WindowDriver &driver, const char *name);
 
 /**
- * What every maker of screenshots does: reads SAMPLES and FOLDER from its arguments, makes the folder, and starts the program
- * once in each appearance, 1440 x 900 large.
+ * What every maker of screenshots does: reads SAMPLES, FOLDER and, if it is given, SCALE (how many pixels of the screen a pixel of the window
+ * has) from its arguments, makes the folder, and starts the program once in each appearance, 1440 x 900 large.
  *
  * @param work  gets the program, the folder of the samples, and the path of a picture without its ending: "-light" or "-dark"
  *              after the name that is requested
