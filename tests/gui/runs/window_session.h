@@ -37,6 +37,18 @@ public:
             return 0;
         };
     }
+    /** From that call on the disk is full instead, as far as this process writes to it; 0: never. */
+    static void fillBefore(int call)
+    {
+        EveryCall::before = [call](std::string_view name, const char *) {
+            static constexpr std::string_view needing[] = {"write",           "mkdir",   "open", "open without a name",
+                                                           "copy_file_range", "symlink", "link", "linkat"};
+            if (::gettid() != ::getpid() || (name == "write" && !isOfADisk(EveryCall::file)) ||
+                std::find(std::begin(needing), std::end(needing), name) == std::end(needing))
+                return 0;
+            return ++s_count >= call && call > 0 ? ENOSPC : 0;
+        };
+    }
     static int count() { return s_count; }
 
 private:
