@@ -9,6 +9,7 @@
 
 #include <fcntl.h>
 #include <poll.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace jobs {
@@ -20,8 +21,14 @@ platform::Result<NameStream> NameStream::open(const QString &path, Separator sep
     // A pipe that nobody writes to yet must not keep signals waiting.
     constexpr int flags = O_RDONLY | O_NOCTTY | O_CLOEXEC | O_NONBLOCK;
     const int descriptor = ::open(platform::encodedPath(path).constData(), flags);
-    if (descriptor >= 0)
+    struct stat facts = {};
+    const bool isFolder = descriptor >= 0 && ::fstat(descriptor, &facts) == 0 && S_ISDIR(facts.st_mode);
+    if (descriptor >= 0 && !isFolder)
         return NameStream(descriptor, true, separator);
+    if (isFolder) {
+        ::close(descriptor);
+        errno = EISDIR;
+    }
     return platform::failure(platform::ErrorCode::NotFound,
                              image::sentence("%1 cannot be read: %2").arg(path, QLatin1String(std::strerror(errno))));
 }

@@ -90,7 +90,7 @@ class BadRequests(BatchTest):
                 ["--progress", "often", "r.quorlin", "a.png"], ["--keep-tree", "r.quorlin", "a.png"],
                 ["-0", "r.quorlin", "a.png"], ["--quiet=yes", "r.quorlin", "a.png"], ["none.quorlin", "a.png"],
                 ["--preset", "Resize/None", "a.png"], ["--preset", "Rename/Date", "a.png"],
-                ["--from", "none", "r.quorlin"], ["--plan", "none", "r.quorlin", "a.png"],
+                ["--from", "none", "r.quorlin"], ["--from", ".", "r.quorlin"], ["--plan", "none", "r.quorlin", "a.png"],
                 ["--resume", "none", "r.quorlin", "a.png"], ["--report", "none/report", "r.quorlin", "a.png"],
                 ["--report", "r.quorlin", "r.quorlin", "a.png"], ["--report", "a.png", "r.quorlin", "a.png"]):
             self.assertTrue(self.refuse(*arguments).startswith("quorlin-batch: "), arguments)
