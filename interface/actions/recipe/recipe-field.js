@@ -28,6 +28,8 @@ export class RecipeField {
         this.field = null;
         this.filling = false;
         this.form = shell.loadForm("actions/recipe/recipe-field.ui");
+        // A row with every control would widen the settings until the field is shown.
+        Object.values(CONTROLS).concat(OTHERS).forEach((name) => { this.control(name).visible = false; });
         this.connect();
     }
 
@@ -86,8 +88,8 @@ export class RecipeField {
     /** Shows a field; null hides the form. */
     show(field) {
         this.field = field;
-        this.form.shown = field !== null;
         if (field === null) {
+            this.form.shown = false;
             return;
         }
         this.filling = true;
@@ -101,6 +103,7 @@ export class RecipeField {
         this.control(own).toolTip = field.tip || "";
         this.showValue(field, own);
         this.filling = false;
+        this.form.shown = true;
     }
 
     showValue(field, name) {

@@ -19,10 +19,25 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
+#include <QResizeEvent>
 #include <QSignalSpy>
 #include <QTest>
 
 using window::PictureModel;
+
+/** The largest width that a control has had. */
+class WidthRecord : public QObject
+{
+public:
+    int largest = 0;
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Resize)
+            largest = qMax(largest, static_cast<QResizeEvent *>(event)->size().width());
+        return false;
+    }
+};
 
 /** The Recipe action, as a person works it. */
 class RecipeAction : public QObject
@@ -129,6 +144,27 @@ private Q_SLOTS:
         field<QLineEdit>("Folder")->setText(QStringLiteral("Made"));
         run(QStringLiteral("1 file made"));
         QCOMPARE(QImage(at("Made/a-200.jpg")).size(), QSize(200, 100));
+    }
+
+    void keepsTheWidthOfTheSettings()
+    {
+        save("a.png", QSize(400, 200));
+        m_driver->drop({m_folder});
+        newRecipe();
+        QTRY_COMPARE(m_driver->text("resultText"), QStringLiteral("400×200 → 400×200"));
+        auto *settings = m_driver->control<QWidget>("settingsScroll");
+        const int before = settings->width();
+        WidthRecord widths;
+        settings->installEventFilter(&widths);
+        for (const char *words : {"watermark", "crop", "round"}) {
+            add(words);
+            QTest::qWait(50);
+        }
+        QTRY_COMPARE(titles(), QStringLiteral("Watermark, Crop, Round corners, Output 1: Original file type"));
+        constexpr int ofLabels = 8; // which differ from card to card
+        QVERIFY2(widths.largest <= qMax(before, settings->width()) + ofLabels,
+                 qPrintable(QString::number(widths.largest)));
+        settings->removeEventFilter(&widths);
     }
 
     void movesCopiesAndRemovesCards()
