@@ -41,6 +41,26 @@ public:
     /** Whether no other process changes it as long as it is open here. Nobody who holds it is waited for longer than a second. */
     bool isHeld() const { return m_isHeld; }
 
+    /** Whether the name still leads to this file. */
+    bool isNamed() const
+    {
+        struct stat open = {};
+        struct stat named = {};
+        return ::fstat(number(), &open) == 0 && ::stat(m_path.constData(), &named) == 0 &&
+               open.st_ino == named.st_ino && open.st_dev == named.st_dev;
+    }
+
+    /** What was written behind that many bytes. */
+    QByteArray after(qsizetype bytes) const
+    {
+        struct stat open = {};
+        QByteArray rest;
+        if (::fstat(number(), &open) == 0 && open.st_size > bytes)
+            rest.resize(qsizetype(open.st_size) - bytes);
+        const ssize_t got = ::pread(number(), rest.data(), size_t(rest.size()), off_t(bytes));
+        return rest.left(std::max<ssize_t>(got, 0));
+    }
+
     /** Anything else, such as a named pipe, could keep everybody waiting. */
     bool isFile() const
     {
@@ -62,14 +82,6 @@ private:
         constexpr int flags = O_RDWR | O_APPEND | O_NONBLOCK | O_CLOEXEC;
         constexpr mode_t allowedToAll = 0666;
         m_file = platform::Descriptor(::open(m_path.constData(), flags | m_mode, allowedToAll));
-    }
-
-    bool isNamed() const
-    {
-        struct stat open = {};
-        struct stat named = {};
-        return ::fstat(number(), &open) == 0 && ::stat(m_path.constData(), &named) == 0 &&
-               open.st_ino == named.st_ino && open.st_dev == named.st_dev;
     }
 
     QByteArray m_path;
@@ -102,9 +114,16 @@ platform::Result<void> appendLines(const QString &path, const QByteArray &lines)
     const LineFile file(path, O_CREAT);
     // In one piece, so that the lines of two processes writing at once do not mix.
     const QByteArray bytes = file.endsInTheMiddleOfALine() ? '\n' + lines : lines;
-    if (file.isFile() && ::write(file.number(), bytes.constData(), size_t(bytes.size())) == bytes.size())
-        return {};
-    return platform::failure(platform::ErrorCode::WriteFailed, QStringLiteral("%1: %2").arg(path, qt_error_string()));
+    if (!file.isFile() || ::write(file.number(), bytes.constData(), size_t(bytes.size())) != bytes.size())
+        return platform::failure(platform::ErrorCode::WriteFailed,
+                                 QStringLiteral("%1: %2").arg(path, qt_error_string()));
+    // Another process that took longer than a second to replace the file may have read it before.
+    if (!file.isHeld() && !file.isNamed()) {
+        const auto text = platform::readFile(path);
+        if (!text || !text->contains(lines))
+            return appendLines(path, lines);
+    }
+    return {};
 }
 
 platform::Result<void> appendPrivateLines(const QString &path, const QByteArray &lines)
@@ -147,7 +166,11 @@ platform::Result<void> keepNewestLines(const QString &path, int most, int limit)
         return {};
     if (std::count(text->cbegin(), text->cend(), '\n') <= limit)
         return {};
-    return platform::replaceFile(path, text->mid(startOfLast(*text, most)));
+    // While that is synced, others may have stopped waiting and written to the file that is replaced.
+    return platform::replaceFile(path, text->mid(startOfLast(*text, most))).and_then([&]() -> platform::Result<void> {
+        const QByteArray late = file.after(text->size());
+        return late.isEmpty() ? platform::Result<void>() : appendLines(path, late);
+    });
 }
 
 } // namespace files
