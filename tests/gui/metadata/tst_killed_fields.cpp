@@ -236,7 +236,7 @@ void KilledFields::revertAll(const Home &home, const QMap<QString, QByteArray> &
 
 void KilledFields::revertsAfterAKillAtAnyCall()
 {
-    const int stride = std::max(1, m_calls / tests::repetitions(4, 60));
+    const int stride = std::max(1, m_calls / tests::repetitions(4, 30));
     int tries = 0;
     m_changed = 0;
     for (int call = 1 + QRandomGenerator::global()->bounded(stride); call <= m_calls; call += stride, ++tries) {
@@ -257,7 +257,7 @@ void KilledFields::revertsAfterAKillAtAnyCall()
 
 void KilledFields::revertsAfterAKillAtAnyMoment()
 {
-    const int rounds = tests::repetitions(1, 60);
+    const int rounds = tests::repetitions(1, 30);
     for (int i = 0; i < rounds; ++i) {
         const Home home;
         addPictures(home);
@@ -281,7 +281,7 @@ void KilledFields::revertsAfterAKillOfReverting()
         calls = home.window(QStringLiteral("revert")).line("calls ").toInt();
         QVERIFY(calls > int(std::size(names)));
     }
-    const int stride = std::max(1, calls / tests::repetitions(2, 40));
+    const int stride = std::max(1, calls / tests::repetitions(2, 20));
     for (int call = 1 + QRandomGenerator::global()->bounded(stride); call <= calls; call += stride) {
         const Home home;
         addPictures(home);

@@ -96,7 +96,7 @@ void FullMoments::leaveNothingInHalf()
     m_whole = Home::files(home.input());
     const int calls = ended.line("calls ").toInt();
     QVERIFY2(!ended.isKilled && m_whole.size() > before.size() && calls > 5, qPrintable(ended.said.join(u'\n')));
-    const int stride = std::max(1, calls / tests::repetitions(6, 100));
+    const int stride = std::max(1, calls / tests::repetitions(6, 50));
     for (int call = 1 + QRandomGenerator::global()->bounded(stride); call <= calls; call += stride) {
         fillOnce(action, call);
         if (QTest::currentTestFailed())

@@ -121,7 +121,7 @@ void KilledReplacing::losesNothing_data()
 void KilledReplacing::losesNothing()
 {
     QFETCH(int, first);
-    const int stride = tests::isSlowRun() ? answers : std::max(answers, m_calls / 4);
+    const int stride = std::max(answers, m_calls / tests::repetitions(4, 12));
     for (int call = first; call <= m_calls; call += stride) {
         killAt(call, QString::fromLatin1(QTest::currentDataTag()));
         if (QTest::currentTestFailed())

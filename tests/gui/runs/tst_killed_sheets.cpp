@@ -64,13 +64,13 @@ private:
 
 void KilledSheets::killAll(int calls, int runMs, const std::function<void(session::Moment, const QString &)> &kill)
 {
-    const int stride = std::max(1, calls / tests::repetitions(5, 100));
+    const int stride = std::max(1, calls / tests::repetitions(5, 30));
     for (int call = 1 + QRandomGenerator::global()->bounded(stride); call <= calls; call += stride) {
         kill({-1, call}, QStringLiteral("killed before change %1 of %2").arg(call).arg(calls));
         if (QTest::currentTestFailed())
             return;
     }
-    for (int i = 0; i < tests::repetitions(2, 50); ++i) {
+    for (int i = 0; i < tests::repetitions(2, 15); ++i) {
         const int after = QRandomGenerator::global()->bounded(runMs);
         kill({after, 0}, QStringLiteral("killed after %1 of %2 ms").arg(after).arg(runMs));
         if (QTest::currentTestFailed())
