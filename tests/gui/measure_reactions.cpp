@@ -98,8 +98,13 @@ private:
 
 bool report(const QString &what, std::vector<double> taken, int made)
 {
-    if (taken.size() < 100)
+    constexpr size_t fewest = 100;
+    if (taken.size() < fewest) {
+        std::printf("%s, %d pictures: only %zu reactions, which is too few to tell; COUNT=64 gives it more pictures\n",
+                    qPrintable(what), made, taken.size());
+        std::fflush(stdout);
         return false;
+    }
     std::sort(taken.begin(), taken.end());
     const double nearlyAll = taken[taken.size() * 99 / 100];
     const bool isWell = nearlyAll < mostOfNearlyAll && taken.back() <= mostOfAny;

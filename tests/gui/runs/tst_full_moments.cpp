@@ -1,7 +1,6 @@
 #include "tests/gui/runs/window_session.h"
 #include "tests/support/test_program.h"
 
-#include <QImage>
 #include <QPushButton>
 #include <QRandomGenerator>
 
@@ -48,17 +47,6 @@ private Q_SLOTS:
 private:
     using Files = QMap<QString, QByteArray>;
 
-    static Files withPictures(const Home &home)
-    {
-        for (int i = 0; i < pictureCount; ++i) {
-            QImage image(500 + i, 300, QImage::Format_RGB32);
-            image.fill(qRgb(90, 20 * i, 7));
-            if (!image.save(QStringLiteral("%1/p%2.jpg").arg(home.input()).arg(i)))
-                qFatal("no picture");
-        }
-        return Home::files(home.input());
-    }
-
     static Ended run(const Home &home, const QString &action, int call)
     {
         QProcess process;
@@ -91,7 +79,7 @@ void FullMoments::leaveNothingInHalf()
 {
     QFETCH(QString, action);
     const Home home;
-    const Files before = withPictures(home);
+    const Files before = home.addPictures(pictureCount);
     const Ended ended = run(home, action, 0);
     m_whole = Home::files(home.input());
     const int calls = ended.line("calls ").toInt();
@@ -107,7 +95,7 @@ void FullMoments::leaveNothingInHalf()
 void FullMoments::fillOnce(const QString &action, int call)
 {
     const Home home;
-    const Files before = withPictures(home);
+    const Files before = home.addPictures(pictureCount);
     const Ended ended = run(home, action, call);
     const QString told = QStringLiteral("full from change %1: ").arg(call) + ended.said.join(QStringLiteral(" | "));
     QVERIFY2(!ended.isKilled && ended.has("summary "), qPrintable(told));

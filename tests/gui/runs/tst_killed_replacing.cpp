@@ -1,7 +1,6 @@
 #include "tests/gui/runs/window_session.h"
 #include "tests/support/test_program.h"
 
-#include <QImage>
 #include <QRandomGenerator>
 
 using session::Ended;
@@ -23,17 +22,6 @@ private Q_SLOTS:
 private:
     using Files = QMap<QString, QByteArray>;
 
-    static Files withPictures(const Home &home)
-    {
-        for (int i = 0; i < pictureCount; ++i) {
-            QImage image(400 + i, 300, QImage::Format_RGB32);
-            image.fill(qRgb(90, 20 * i, 7));
-            if (!image.save(QStringLiteral("%1/p%2.jpg").arg(home.input()).arg(i)))
-                qFatal("no picture");
-        }
-        return Home::files(home.input());
-    }
-
     void killAt(int call, const QString &answer);
     QString faultOf(const Home &home, const Files &before) const;
 
@@ -46,7 +34,7 @@ private:
 void KilledReplacing::initTestCase()
 {
     const Home home;
-    const Files before = withPictures(home);
+    const Files before = home.addPictures(pictureCount);
     const Ended ended = home.window(QStringLiteral("replace"));
     QVERIFY2(!ended.isKilled && ended.line("summary ").startsWith(QStringLiteral("3 pictures done")),
              qPrintable(ended.said.join(u'\n')));
@@ -83,7 +71,7 @@ QString KilledReplacing::faultOf(const Home &home, const Files &before) const
 void KilledReplacing::killAt(int call, const QString &answer)
 {
     const Home home;
-    const Files before = withPictures(home);
+    const Files before = home.addPictures(pictureCount);
     const Ended ended = home.window(QStringLiteral("replace"), {-1, call});
     QString told = QStringLiteral("killed before change %1 of %2, ").arg(call).arg(m_calls) +
                    ended.said.join(QStringLiteral(" | "));

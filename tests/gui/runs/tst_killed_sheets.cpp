@@ -1,7 +1,6 @@
 #include "tests/gui/runs/window_session.h"
 #include "tests/support/test_program.h"
 
-#include <QImage>
 #include <QRandomGenerator>
 
 using session::Ended;
@@ -23,17 +22,6 @@ private Q_SLOTS:
 
 private:
     using Files = QMap<QString, QByteArray>;
-
-    static Files withPictures(const Home &home)
-    {
-        for (int i = 0; i < pictureCount; ++i) {
-            QImage image(500 + i, 300, QImage::Format_RGB32);
-            image.fill(qRgb(90, 20 * i, 7));
-            if (!image.save(QStringLiteral("%1/p%2.jpg").arg(home.input()).arg(i)))
-                qFatal("no picture");
-        }
-        return Home::files(home.input());
-    }
 
     static QString sorted(const Home &home) { return home.path() + QStringLiteral("/sorted"); }
 
@@ -89,7 +77,7 @@ void KilledSheets::leavesNothingInHalf()
 {
     QFETCH(QString, action);
     const Home home;
-    const Files before = withPictures(home);
+    const Files before = home.addPictures(pictureCount);
     const Ended ended = home.window(action);
     m_whole = visible(Home::files(home.input()));
     QVERIFY2(!ended.isKilled && m_whole.size() > before.size(), qPrintable(ended.said.join(u'\n')));
@@ -102,7 +90,7 @@ void KilledSheets::leavesNothingInHalf()
 void KilledSheets::killSheet(const QString &action, session::Moment moment, const QString &told)
 {
     const Home home;
-    const Files before = withPictures(home);
+    const Files before = home.addPictures(pictureCount);
     const auto originals = [&] {
         Files now = Home::files(home.input());
         now.removeIf([&](const Files::iterator &file) { return !before.contains(file.key()); });
@@ -134,7 +122,7 @@ void KilledSheets::leavesWholeCopies()
 {
     QFETCH(QString, answer);
     const Home home;
-    const Files before = withPictures(home);
+    const Files before = home.addPictures(pictureCount);
     const Ended ended = home.window(QStringLiteral("sort"));
     m_copies = filesOnly(Home::files(sorted(home)));
     QVERIFY2(!ended.isKilled && m_copies.size() == pictureCount, qPrintable(ended.said.join(u'\n')));
@@ -149,7 +137,7 @@ void KilledSheets::leavesWholeCopies()
 void KilledSheets::killCopies(const QString &answer, session::Moment moment, const QString &told)
 {
     const Home home;
-    const Files before = withPictures(home);
+    const Files before = home.addPictures(pictureCount);
     const Ended ended = home.window(QStringLiteral("sort"), moment);
     QVERIFY2(Home::files(home.input()) == before, qPrintable(told));
     const Ended next = home.window(answer);

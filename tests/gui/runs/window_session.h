@@ -8,6 +8,7 @@
 
 #include <QDirIterator>
 #include <QElapsedTimer>
+#include <QImage>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QMessageBox>
@@ -188,6 +189,18 @@ public:
 
     QString path() const { return m_folder.path(); }
     QString input() const { return path() + QStringLiteral("/in"); }
+
+    /** So many JPEGs of different sizes and colours, and what is in the folder then. */
+    QMap<QString, QByteArray> addPictures(int count) const
+    {
+        for (int i = 0; i < count; ++i) {
+            QImage image(500 + i, 300, QImage::Format_RGB32);
+            image.fill(qRgb(90, 20 * i, 7));
+            if (!image.save(QStringLiteral("%1/p%2.jpg").arg(input()).arg(i)))
+                qFatal("no picture");
+        }
+        return files(input());
+    }
 
     Ended window(const QString &does, Moment moment = {}) const
     {
