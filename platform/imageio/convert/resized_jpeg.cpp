@@ -54,6 +54,7 @@ struct Direction
         const double pixels = double(stored) / shrink / wanted;
         return {first * pixels / had, pixels * made / had, (kept + made - 1) / made, 1};
     }
+    /** For a plane with one sample per @p had pixels of a decoder that has made each of @p shrink of the picture. */
     PixelSpan fineOf(int shrink, int had, int made, int block, bool isCoarse) const
     {
         PixelSpan span;
@@ -87,7 +88,7 @@ struct Scaling
     int shrink; ///< of the decoder
 
     /** None where weights would be too small, or in doubt what the decoder makes of its samples. */
-    std::optional<PlaneScaler> scaler(QSize plane, bool isColour, QSize decodedSampling) const
+    std::optional<PlaneScaler> scaler(QSize plane, bool isColour, QSize decodedSampling, int finerColours) const
     {
         const Direction across = {stored.width(), resize.size.width(), resize.kept.x(), resize.kept.width()};
         const Direction down = {stored.height(), resize.size.height(), resize.kept.y(), resize.kept.height()};
@@ -96,10 +97,15 @@ struct Scaling
         if (resize.isFine) {
             constexpr int mostInterpolated = 2;
             const QSize blocks = blocksOf(stored, resize.size);
-            const PixelSpan columns = across.fineOf(shrink, had.width(), to.width(), blocks.width(), false);
-            const PixelSpan rows = down.fineOf(shrink, had.height(), to.height(), blocks.height(), hasCoarseColumns());
+            // Samples that are as fine as brightness at half the size are those of the file, which the decoder would
+            // interpolate in the whole picture.
+            const int finer = isColour ? finerColours : 1;
+            const QSize shared = had * finer;
+            const PixelSpan columns = across.fineOf(shrink / finer, shared.width(), to.width(), blocks.width(), false);
+            const PixelSpan rows =
+                down.fineOf(shrink / finer, shared.height(), to.height(), blocks.height(), hasCoarseColumns());
             const bool isPossible = std::max(columns.step, rows.step) <= mostPlaneStep &&
-                                    std::max(had.width(), had.height()) <= mostInterpolated;
+                                    std::max(shared.width(), shared.height()) <= mostInterpolated;
             return isPossible ? std::optional<PlaneScaler>(std::in_place, plane, columns, rows) : std::nullopt;
         }
         const PlaneSpan columns = across.of(shrink, had.width(), to.width());
@@ -113,7 +119,7 @@ std::optional<JpegPlanes> scaledPlanes(const DecodedPlanes &decoded, const Scali
 {
     JpegPlanes scaled;
     for (const Plane &plane : decoded.planes) {
-        std::optional<PlaneScaler> scaler = scaling.scaler(plane.size(), !scaled.empty(), decoded.sampling);
+        std::optional<PlaneScaler> scaler = scaling.scaler(plane.size(), !scaled.empty(), decoded.sampling, 1);
         if (!scaler)
             return std::nullopt;
         for (int y = 0; y < plane.height(); ++y)
@@ -193,7 +199,8 @@ std::optional<JpegPlanes> scaledRows(PlaneRows &decoder, const Scaling &scaling)
 {
     std::vector<PlaneScaler> scalers;
     for (int plane = 0; plane < decoder.planes(); ++plane) {
-        std::optional<PlaneScaler> scaler = scaling.scaler(decoder.size(plane), plane > 0, decoder.sampling());
+        std::optional<PlaneScaler> scaler =
+            scaling.scaler(decoder.size(plane), plane > 0, decoder.sampling(), decoder.finerColours());
         if (!scaler)
             return std::nullopt;
         scalers.push_back(std::move(*scaler));

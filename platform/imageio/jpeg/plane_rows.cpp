@@ -69,14 +69,15 @@ QSize PlaneRows::size(int plane) const
     return {int(component.downsampled_width), int(component.downsampled_height)};
 }
 
+int PlaneRows::finerColours() const
+{
+    return m_info.num_components == 1 ? 1 : m_info.comp_info[1].DCT_scaled_size / m_info.comp_info[0].DCT_scaled_size;
+}
+
 QSize PlaneRows::sampling() const
 {
-    if (m_info.num_components == 1)
-        return {1, 1};
     const jpeg_component_info &brightness = m_info.comp_info[0];
-    const jpeg_component_info &colour = m_info.comp_info[1];
-    const int times = colour.DCT_scaled_size / brightness.DCT_scaled_size;
-    return {brightness.h_samp_factor / times, brightness.v_samp_factor / times};
+    return {brightness.h_samp_factor / finerColours(), brightness.v_samp_factor / finerColours()};
 }
 
 void PlaneRows::makeRoom()

@@ -34,6 +34,8 @@ public:
     QSize size(int plane) const;
     /** How many samples of brightness share one of colour. */
     QSize sampling() const;
+    /** Colours are so many times as fine, in relation to brightness, as in the file. */
+    int finerColours() const;
 
     /**
      * The next band; with the last one the end of the file has been checked too. Throws std::bad_alloc the first time.
