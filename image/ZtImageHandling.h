@@ -2,6 +2,7 @@
 
 #include "image/crop.h"
 #include "image/round_corners.h"
+#include "platform/imageio/convert/png_from_jpeg.h"
 #include "platform/imageio/encode/image_destination.h"
 #include "platform/imageio/source/image_source.h"
 #include "platform/imageio/source/picture.h"
@@ -64,8 +65,8 @@ class ZtImageHandling : public QObject
     Q_PROPERTY(float cropBoxLine MEMBER cropBoxLine)
     Q_PROPERTY(float myCompressionLevelFloat MEMBER myCompressionLevelFloat)
     Q_PROPERTY(double myScaleFactor MEMBER myScaleFactor)
-    Q_PROPERTY(platform::Picture composedMasked MEMBER composedMasked)
-    Q_PROPERTY(platform::BitmapHandle imageMasked MEMBER imageMasked)
+    Q_PROPERTY(platform::Picture composedMasked READ currentComposed WRITE setComposed)
+    Q_PROPERTY(platform::BitmapHandle imageMasked READ currentMasked WRITE setMasked)
     Q_PROPERTY(platform::BitmapHandle myImageRef READ currentImage WRITE setCurrentImage)
     Q_PROPERTY(QString myFileType MEMBER myFileType)
     Q_PROPERTY(QString fileExtension MEMBER fileExtension)
@@ -184,6 +185,13 @@ private:
         QString qualityCode;
     };
 
+    platform::Picture currentComposed();
+    void setComposed(const platform::Picture &picture);
+    platform::BitmapHandle currentMasked();
+    void setMasked(const platform::BitmapHandle &imageRef);
+    /** Makes the fields of the written file, if a shape was cut without a bitmap. */
+    void settleComposed();
+    void compose(const platform::Bitmap &bitmap);
     QString turnAndWrite(const QString &path, const QString &prefix, const image::Turning &turning);
     platform::BitmapHandle currentImage() const;
     void setCurrentImage(const platform::BitmapHandle &imageRef);
@@ -202,6 +210,8 @@ private:
     image::CornerOptions readCorners(quint32 radius, const QString &shapeCode) const;
     /** Sets the type variables by a format code; answers the name of the new file. */
     QString decideComposedName(const QString &path, const QString &formatCode);
+    /** The answer to a PNG cut from the open picture without a bitmap; none if that is not possible. */
+    std::optional<QString> writtenAsShape(const QString &path, const image::CornerOptions &corners);
     QString writeComposed(const QString &path, const platform::Result<platform::EncodeOptions> &options);
 
     QPointer<QObject> scImageCropPos;
@@ -238,6 +248,7 @@ private:
     double myScaleFactor = 0;
     platform::Picture composedMasked;
     platform::BitmapHandle imageMasked;
+    std::optional<platform::ShapedPng> writtenShape; // what the two are made of when they are asked for
     platform::BitmapHandle imageRefVariable;
     QString myFileType;
     QString fileExtension;

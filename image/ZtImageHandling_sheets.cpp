@@ -10,6 +10,7 @@
 #include "platform/imageio/formats/type_identifiers.h"
 
 #include <array>
+#include <utility>
 
 using platform::Bitmap;
 using platform::BitmapHandle;
@@ -151,10 +152,11 @@ QString ZtImageHandling::roundCornersOfImage(const QString &path, const QString 
     if (image::isNeverWritten(myFileType))
         return image::statusNotSupported();
     openUpright(path);
-    // Frees the picture of the previous call first.
-    composedMasked = {};
-    imageMasked = {};
-    if (const Result<Bitmap> cut = cutToShape(imageCIImage, readCorners(radius, shapeCode)))
+    compose({}); // frees the picture of the previous call first
+    const image::CornerOptions corners = readCorners(radius, shapeCode);
+    if (const auto answer = writtenAsShape(prefix + name, corners))
+        return *answer;
+    if (const Result<Bitmap> cut = cutToShape(imageCIImage, corners))
         composedMasked = Picture(*cut, QSizeF(cut->size()));
     return writeComposed(prefix + name, image::optionsCarrying(imageCIImage));
 }
@@ -167,14 +169,63 @@ QString ZtImageHandling::addOverlayColor(const QString &path, const QString &pre
     const QString name = decideComposedName(path, formatCode);
     if (image::isNeverWritten(myFileType))
         return image::statusNotSupported();
-    composedMasked = {};
-    imageMasked = {};
+    compose({});
     if (const Result<Bitmap> laid =
             image::laidOnColor(Picture::fromFile(path).bitmap(), opaqueColorOf(cwImageBackgroundColor)))
         composedMasked = Picture(*laid);
     EncodeOptions options;
     options.resolution = platform::WriteResolution::Yes;
     return writeComposed(prefix + name, options);
+}
+
+std::optional<QString> ZtImageHandling::writtenAsShape(const QString &path, const image::CornerOptions &corners)
+{
+    const bool isFromJpeg = imageCIImage.typeIdentifier() == QLatin1String("public.jpeg");
+    if (!isFromJpeg || myFileType != QLatin1String("public.png") || corners.background)
+        return std::nullopt;
+    const Result<EncodeOptions> options = image::optionsCarrying(imageCIImage);
+    const image::RoundedShape shape = image::roundedShape(corners, imageCIImage.uprightSize());
+    if (!options || shape.part.size() != imageCIImage.uprightSize())
+        return std::nullopt;
+    writtenShape = platform::rowsAsShapedPng(imageCIImage, {shape.outline, shape.xRadius, shape.yRadius}, *options);
+    return writtenShape ? std::optional(image::writeAnswering(path, writtenShape->file)) : std::nullopt;
+}
+
+void ZtImageHandling::compose(const Bitmap &bitmap)
+{
+    writtenShape.reset();
+    composedMasked = bitmap.isNull() ? Picture() : Picture(bitmap, QSizeF(bitmap.size()));
+    imageMasked = bitmap.isNull() ? BitmapHandle() : BitmapHandle(bitmap);
+}
+
+void ZtImageHandling::settleComposed()
+{
+    if (const auto shape = std::exchange(writtenShape, std::nullopt))
+        compose(shape->bitmap());
+}
+
+Picture ZtImageHandling::currentComposed()
+{
+    settleComposed();
+    return composedMasked;
+}
+
+void ZtImageHandling::setComposed(const Picture &picture)
+{
+    settleComposed();
+    composedMasked = picture;
+}
+
+BitmapHandle ZtImageHandling::currentMasked()
+{
+    settleComposed();
+    return imageMasked;
+}
+
+void ZtImageHandling::setMasked(const BitmapHandle &imageRef)
+{
+    settleComposed();
+    imageMasked = imageRef;
 }
 
 QString ZtImageHandling::writeComposed(const QString &path, const Result<EncodeOptions> &options)

@@ -3,6 +3,7 @@
 #include "platform/file/atomic_file.h"
 #include "platform/imageio/convert/jpeg_straight.h"
 #include "platform/imageio/convert/pdf_page.h"
+#include "platform/imageio/convert/png_from_jpeg.h"
 #include "platform/imageio/encode/image_destination.h"
 #include "platform/imageio/source/image_source.h"
 

@@ -2,11 +2,11 @@
 
 #include "image/recipe/output_kind.h"
 #include "image/recipe/sentence.h"
-#include "platform/graphics/compose.h"
 #include "platform/imageio/convert/cropped_jpeg.h"
 #include "platform/imageio/convert/lossless_turn.h"
 #include "platform/imageio/convert/other_metadata.h"
 #include "platform/imageio/convert/pdf_page.h"
+#include "platform/imageio/convert/png_from_jpeg.h"
 #include "platform/imageio/convert/turned_jpeg.h"
 #include "platform/imageio/encode/image_destination.h"
 #include "platform/imageio/exif/orientation_mark.h"
@@ -219,6 +219,14 @@ std::optional<QByteArray> freelyTurnedFile(const ImageSource &source, const Turn
     return options ? platform::turnedJpeg(source, freeTurnFor(turn, source.uprightSize()),
                                           turn.color.value_or(output.matte), *options)
                    : std::nullopt;
+}
+
+std::optional<QByteArray> shapedFile(const ImageSource &source, const platform::RoundedRect &shape,
+                                     const RecipeOutput &output)
+{
+    const Result<platform::EncodeOptions> options = optionsFor(source, output);
+    const auto png = options ? platform::rowsAsShapedPng(source, shape, *options) : std::nullopt;
+    return png ? std::optional(png->file) : std::nullopt;
 }
 
 } // namespace image

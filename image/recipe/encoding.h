@@ -1,6 +1,7 @@
 #pragma once
 
 #include "image/recipe/plan.h"
+#include "platform/graphics/compose.h"
 #include "platform/imageio/convert/resized_jpeg.h"
 
 #include <optional>
@@ -32,5 +33,9 @@ std::optional<QByteArray> croppedFile(const platform::ImageSource &source, const
 /** The same for one that only turns an upright picture by an angle; see platform::turnedJpeg(). */
 std::optional<QByteArray> freelyTurnedFile(const platform::ImageSource &source, const TurnOperation &turn,
                                            const RecipeOutput &output);
+
+/** The file of an output of type png that only shows an upright picture through a shape; see platform::rowsAsShapedPng(). */
+std::optional<QByteArray> shapedFile(const platform::ImageSource &source, const platform::RoundedRect &shape,
+                                     const RecipeOutput &output);
 
 } // namespace image

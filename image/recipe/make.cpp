@@ -189,7 +189,11 @@ private:
     std::optional<MadeOutput> madeStraight(int index, const QList<RecipeStep> &steps) const
     {
         const RecipeOutput &output = m_recipe.outputs[index];
-        if (m_plans[index].type != OutputType::Jpeg || output.maxBytes)
+        if (output.maxBytes)
+            return std::nullopt;
+        if (m_plans[index].type == OutputType::Png)
+            return madeAsShape(index, steps);
+        if (m_plans[index].type != OutputType::Jpeg)
             return std::nullopt;
         if (const auto resize = onlyResize(steps, m_stage))
             return madeOf(index, resizedFile(m_source, *resize, output), resize->kept.size());
@@ -203,6 +207,16 @@ private:
         const auto *turn = only && isUpright ? std::get_if<TurnOperation>(only) : nullptr;
         return turn ? madeOf(index, freelyTurnedFile(m_source, *turn, output), turnedCanvas(*turn, m_stage.size))
                     : std::nullopt;
+    }
+
+    /** The output of an upright JPEG that is only seen through a shape, with nothing round it. */
+    std::optional<MadeOutput> madeAsShape(int index, const QList<RecipeStep> &steps) const
+    {
+        const Operation *only = onlyOperation(steps, m_stage);
+        const auto *round = only ? std::get_if<RoundOperation>(only) : nullptr;
+        const auto shape = round ? onlyShapeOf(*round, m_stage.size) : std::nullopt;
+        return shape ? madeOf(index, shapedFile(m_source, *shape, m_recipe.outputs[index]), m_stage.size)
+                     : std::nullopt;
     }
 
     static std::optional<MadeOutput> madeOf(int index, const std::optional<QByteArray> &file, QSize size)

@@ -286,6 +286,14 @@ private:
 
 } // namespace
 
+std::optional<platform::RoundedRect> onlyShapeOf(const RoundOperation &round, QSize size)
+{
+    const bool isInPixels = round.scale.unit == RecipeUnit::Pixel && !round.scale.dpi;
+    if (round.shape == RoundShape::Circle || round.color || round.band || !isInPixels)
+        return std::nullopt;
+    return shapeInside(round.shape, round.radius, size, 0);
+}
+
 Stage stageOf(const Bitmap &bitmap)
 {
     Stage stage;

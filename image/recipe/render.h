@@ -1,7 +1,7 @@
 #pragma once
 
 #include "image/recipe/stage.h"
-#include "platform/graphics/bitmap.h"
+#include "platform/graphics/compose.h"
 
 #include <functional>
 #include <optional>
@@ -40,6 +40,12 @@ platform::Result<Rendition> fittedInto(const platform::Bitmap &scaled, const Res
  * memory fails.
  */
 platform::Result<Rendition> rendered(const QList<RecipeStep> &steps, const Rendition &start, const FillText &fill);
+
+/**
+ * The shape through which a picture of @p size is seen, if the operation does nothing else: no colour, no band, nothing
+ * cut off.
+ */
+std::optional<platform::RoundedRect> onlyShapeOf(const RoundOperation &round, QSize size);
 
 /**
  * The position of the initial crop, if it depends on the content of the picture, in pixels of the full one; nothing for

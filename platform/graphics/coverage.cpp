@@ -66,6 +66,16 @@ void addOutline(cairo_t *pen, const RoundedRect &shape)
     cairo_close_path(pen);
 }
 
+constexpr uchar covered = 255;
+
+RoundedRect withBoundedRadii(const RoundedRect &shape)
+{
+    RoundedRect bounded = shape;
+    bounded.xRadius = std::clamp(shape.xRadius, 0.0, std::max(0.0, shape.rect.width() / 2));
+    bounded.yRadius = std::clamp(shape.yRadius, 0.0, std::max(0.0, shape.rect.height() / 2));
+    return bounded;
+}
+
 } // namespace
 
 Coverage::Coverage(QSize size) : m_surface(std::make_unique<Surface>(size)) {}
@@ -116,6 +126,71 @@ Coverage coverageOfLines(const QList<QLineF> &lines, double width, double dash, 
     cairo_set_line_join(pen, CAIRO_LINE_JOIN_MITER);
     cairo_stroke(pen);
     return coverage;
+}
+
+bool coversAll(const RoundedRect &shape, QSize canvas)
+{
+    const bool isSquare = !(shape.xRadius > 0) || !(shape.yRadius > 0);
+    return isSquare && shape.rect.contains(QRectF(QPointF(0, 0), canvas));
+}
+
+ShapeRows::ShapeRows(const RoundedRect &shape, int width) : m_shape(withBoundedRadii(shape)), m_row(size_t(width)) {}
+
+const uchar *ShapeRows::row(int y)
+{
+    if (!isDrawn(y))
+        draw(y);
+    return m_strips.empty() ? nullptr : joined(y - m_first);
+}
+
+void ShapeRows::uncover(int y, uchar *pixels, int bands)
+{
+    if (isDrawn(y) && m_isWhole)
+        return;
+    const uchar *coverage = row(y);
+    const size_t width = m_row.size();
+    m_isWhole = m_isAlike && std::all_of(coverage, coverage + width, [](uchar part) { return part == covered; });
+    for (size_t x = 0; x < width; ++x, pixels += bands) {
+        if (coverage[x] == 0) // an invisible pixel leaves no trace
+            std::fill_n(pixels, bands, uchar(0));
+        else
+            pixels[bands - 1] = coverage[x];
+    }
+}
+
+void ShapeRows::draw(int y)
+{
+    constexpr int stripRows = 64;
+    const double straightTop = m_shape.rect.top() + m_shape.yRadius;
+    const double straightBottom = m_shape.rect.bottom() - m_shape.yRadius;
+    const bool isStraight = y >= straightTop && y + 1 <= straightBottom;
+    const int rows = isStraight ? 1 : stripRows;
+    m_isAlike = isStraight;
+    m_isWhole = false;
+    m_first = y;
+    m_end = isStraight ? int(straightBottom) : y + rows;
+    m_strips.clear();
+    const int width = int(m_row.size());
+    for (int x = 0; x < width; x += Coverage::longestSide)
+        m_strips.push_back(coverageOf(m_shape, QRect(x, y, std::min(Coverage::longestSide, width - x), rows)));
+    m_joinedRow = -1;
+}
+
+const uchar *ShapeRows::joined(int index)
+{
+    const int wanted = m_isAlike ? 0 : index;
+    if (m_strips.size() == 1)
+        return m_strips.front().row(wanted);
+    if (wanted != m_joinedRow) {
+        size_t x = 0;
+        for (const Coverage &strip : m_strips) {
+            const size_t length = std::min(size_t(Coverage::longestSide), m_row.size() - x);
+            std::copy_n(strip.row(wanted), length, m_row.data() + x);
+            x += length;
+        }
+        m_joinedRow = wanted;
+    }
+    return m_row.data();
 }
 
 } // namespace platform

@@ -6,20 +6,28 @@
 
 namespace platform {
 
-QByteArray deflated(const QByteArray &bytes)
+bool appendDeflated(QByteArray &out, const QByteArray &bytes)
 {
     // Above this level photographs hardly get smaller, but take several times as long.
     constexpr int quickLevel = 1;
     const std::unique_ptr<libdeflate_compressor, void (*)(libdeflate_compressor *)> compressor(
         libdeflate_alloc_compressor(quickLevel), libdeflate_free_compressor);
     if (!compressor)
-        return {};
-    QByteArray stream(qsizetype(libdeflate_zlib_compress_bound(compressor.get(), size_t(bytes.size()))),
-                      Qt::Uninitialized);
+        return false;
+    const qsizetype before = out.size();
+    const qsizetype most = before + qsizetype(libdeflate_zlib_compress_bound(compressor.get(), size_t(bytes.size())));
+    out.reserve(most); // resize() alone would take up to twice as much
+    out.resize(most);
     const size_t size = libdeflate_zlib_compress(compressor.get(), bytes.constData(), size_t(bytes.size()),
-                                                 stream.data(), size_t(stream.size()));
-    stream.truncate(qsizetype(size)); // the pages after it were never touched
-    return stream;
+                                                 out.data() + before, size_t(out.size() - before));
+    out.truncate(before + qsizetype(size)); // the pages after it were never touched
+    return size > 0;
+}
+
+QByteArray deflated(const QByteArray &bytes)
+{
+    QByteArray stream;
+    return appendDeflated(stream, bytes) ? stream : QByteArray();
 }
 
 quint32 crc32Of(const QByteArray &bytes, quint32 before)

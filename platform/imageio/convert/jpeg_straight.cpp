@@ -4,20 +4,15 @@
 // that.
 
 #include "platform/file/replacement_file.h"
-#include "platform/foundation/memory_left.h"
 #include "platform/graphics/icc_profile.h"
 #include "platform/imageio/codecs/codecs.h"
 #include "platform/imageio/encoders/encoders.h"
 #include "platform/imageio/facts/resolution.h"
 #include "platform/imageio/formats/memory_need.h"
-#include "platform/imageio/jpeg/decoded_planes.h"
 #include "platform/imageio/jpeg/jpeg_rows.h"
-#include "platform/imageio/png/png_rows.h"
 #include "platform/imageio/source/opened_file.h"
 
 #include <algorithm>
-#include <new>
-#include <utility>
 #include <vector>
 
 namespace platform {
@@ -159,42 +154,6 @@ Result<bool> writeTiff(const ImageSource::File &file, const QString &path, const
     return isDone(first.takePlace().and_then([&second] { return second.takePlace(); }));
 }
 
-/** Rows, the stream made of them, which exists twice while it becomes a file, and the file that they come from. */
-bool isMemoryLeftForPng(const PlaneFacts &facts, int bands, qsizetype fileBytes)
-{
-    constexpr qint64 coefficientBytes = 2;
-    const qint64 samples = qint64(facts.stored.width()) * facts.stored.height() * bands;
-    return 3 * samples + fileBytes + (facts.comesInPasses ? coefficientBytes * samples : 0) < memoryLeft();
-}
-
-/** The rows of the new file, and its facts; the source of the pixels is freed when this returns. */
-std::optional<QByteArray> pngRowsOf(const ImageSource::File &file, PngShape &shape)
-{
-    const QByteArray jpeg = file.bytes.all();
-    const std::optional<PlaneFacts> facts = planeFacts(jpeg);
-    if (!facts || facts->stored != file.storedSize)
-        return std::nullopt;
-    JpegRows rows(jpeg, JpegRows::Order::RedFirst);
-    if (!rows.isGood() || !isMemoryLeftForPng(*facts, rows.bands(), jpeg.size()))
-        return std::nullopt;
-    PngRows png(rows.size(), rows.bands());
-    for (int y = 0; y < rows.size().height(); ++y) {
-        uchar *row = png.next();
-        if (!rows.read(&row, 1))
-            return std::nullopt;
-        png.add();
-    }
-    shape = {rows.size(), rows.bands(), BITS_IN_JSAMPLE, facts->profile, resolutionOf(file.bytes, file.content)};
-    return png.take();
-}
-
-std::optional<QByteArray> pngOf(const ImageSource::File &file)
-{
-    PngShape shape;
-    std::optional<QByteArray> rows = pngRowsOf(file, shape);
-    return rows ? std::optional(pngFile(shape, *std::exchange(rows, std::nullopt))) : std::nullopt;
-}
-
 /** If anything is odd about the file, the other way is taken, which reports it properly. */
 template<typename Writing> Result<bool> attempted(Writing writing)
 {
@@ -223,20 +182,6 @@ Result<bool> writeRowsAsTiff(const ImageSource &source, const QString &path, con
     if (!file || file->content != Content::Jpeg)
         return false;
     return attempted([&] { return writeTiff(*file, path, metadata); });
-}
-
-std::optional<QByteArray> rowsAsPng(const ImageSource &source)
-{
-    const ImageSource::File *file = source.file();
-    if (!file || file->content != Content::Jpeg || file->isRaw())
-        return std::nullopt;
-    try {
-        return pngOf(*file);
-    } catch (const vips::VError &error) {
-        takeVipsError(error);
-    } catch (const std::bad_alloc &) {
-    }
-    return std::nullopt;
 }
 
 } // namespace platform

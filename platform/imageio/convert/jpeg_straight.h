@@ -23,10 +23,4 @@ Result<bool> writeRowsAsBmp(const ImageSource &source, const QString &path);
  */
 Result<bool> writeRowsAsTiff(const ImageSource &source, const QString &path, const Metadata &metadata);
 
-/**
- * The stored image 0 as the PNG file that decode() and encodeImage() would make of it, with its resolution and without
- * other metadata. Nothing for files that are not JPEGs of grey or three colours.
- */
-std::optional<QByteArray> rowsAsPng(const ImageSource &source);
-
 } // namespace platform

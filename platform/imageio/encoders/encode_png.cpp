@@ -37,6 +37,22 @@ void appendProfile(QByteArray &png, const QByteArray &profile)
         appendPngChunk(png, "iCCP", QByteArray("icc\0\0", 5) + deflated(profile));
 }
 
+/** The stream from @p streamAt on becomes the chunks of pixels from @p at on: one, unless it is enormous. */
+void finishPixels(QByteArray &png, qsizetype at, qsizetype streamAt)
+{
+    constexpr qsizetype largestChunk = 1 << 30;
+    if (png.size() - streamAt <= largestChunk) {
+        closePngChunk(png, "IDAT", at);
+        return;
+    }
+    const QByteArray stream = png.sliced(streamAt);
+    png.truncate(at);
+    for (qsizetype done = 0; done < stream.size(); done += largestChunk)
+        appendPngChunk(
+            png, "IDAT",
+            QByteArray::fromRawData(stream.constData() + done, std::min(largestChunk, stream.size() - done)));
+}
+
 /** The image with at most the four components that the format allows. */
 vips::VImage fitted(const vips::VImage &image)
 {
@@ -48,19 +64,18 @@ vips::VImage fitted(const vips::VImage &image)
 
 QByteArray pngFile(const PngShape &shape, QByteArray rows)
 {
-    const QByteArray stream = deflated(std::exchange(rows, {}));
-    if (stream.isEmpty())
-        throw vips::VError("not enough memory");
+    constexpr qsizetype chunkHead = 8;
     QByteArray png("\x89PNG\r\n\x1a\n");
-    png.reserve(stream.size() + 65536);
     appendPngChunk(png, "IHDR", headerOf(shape));
     appendProfile(png, shape.profile);
     appendResolution(png, shape.resolution);
-    constexpr qsizetype largestChunk = 1 << 30;
-    for (qsizetype at = 0; at < stream.size(); at += largestChunk)
-        appendPngChunk(png, "IDAT",
-                       QByteArray::fromRawData(stream.constData() + at, std::min(largestChunk, stream.size() - at)));
+    const qsizetype at = png.size();
+    png.append(chunkHead, '\0');
+    if (!appendDeflated(png, std::exchange(rows, {})))
+        throw vips::VError("not enough memory");
+    finishPixels(png, at, at + chunkHead);
     appendPngChunk(png, "IEND", {});
+    png.squeeze();
     return png;
 }
 

@@ -19,6 +19,19 @@ bool isGreyOrThreeColours(const jpeg_decompress_struct &info)
            (info.num_components == 3 && (space == JCS_YCbCr || space == JCS_RGB));
 }
 
+J_COLOR_SPACE spaceOf(JpegRows::Order order)
+{
+    switch (order) {
+    case JpegRows::Order::BlueFirst:
+        return JCS_EXT_BGR;
+    case JpegRows::Order::RedFirstAlphaLast:
+        return JCS_EXT_RGBA;
+    case JpegRows::Order::RedFirst:
+        break;
+    }
+    return JCS_RGB;
+}
+
 /** Not in the function that is jumped to, since this changes its variables. */
 void readRows(jpeg_decompress_struct &info, uchar **rows, JDIMENSION count)
 {
@@ -57,7 +70,7 @@ void JpegRows::start(Order order)
     if (!isGreyOrThreeColours(m_info))
         return;
     if (m_info.num_components == 3)
-        m_info.out_color_space = order == Order::BlueFirst ? JCS_EXT_BGR : JCS_RGB;
+        m_info.out_color_space = spaceOf(order);
     jpeg_start_decompress(&m_info);
     m_isGood = true;
 }

@@ -19,7 +19,8 @@ namespace platform {
 class JpegRows
 {
 public:
-    enum class Order { RedFirst, BlueFirst };
+    /** Of three colours; the alpha after them is opaque. Grey is a single component with each of them. */
+    enum class Order { RedFirst, BlueFirst, RedFirstAlphaLast };
 
     JpegRows(const QByteArray &jpeg, Order order);
     /**

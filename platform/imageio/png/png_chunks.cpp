@@ -49,6 +49,16 @@ void appendPngChunk(QByteArray &file, const char *name, const QByteArray &data)
     file.append(number, sumSize);
 }
 
+void closePngChunk(QByteArray &file, const char *name, qsizetype at)
+{
+    char number[sumSize];
+    qToBigEndian<quint32>(quint32(file.size() - at - headSize), file.data() + at);
+    std::copy_n(name, sumSize, file.data() + at + sumSize);
+    const QByteArray summed = QByteArray::fromRawData(file.constData() + at + sumSize, file.size() - at - sumSize);
+    qToBigEndian<quint32>(crc32Of(summed), number);
+    file.append(number, sumSize);
+}
+
 PngParts findPngParts(const QByteArray &bytes)
 {
     PngParts parts;

@@ -11,6 +11,9 @@ namespace platform {
 /** Adds one chunk to a PNG file: its length, its four letters, @p data and the checksum. */
 void appendPngChunk(QByteArray &file, const char *name, const QByteArray &data);
 
+/** Completes the chunk whose data is at the end of @p file, after room for length and name from @p at on. */
+void closePngChunk(QByteArray &file, const char *name, qsizetype at);
+
 /** The chunks between the header of a PNG file and its pixels, and those after them, that concern metadata. */
 struct PngParts
 {

@@ -217,6 +217,60 @@ private Q_SLOTS:
         QVERIFY(m_service->property("composedMasked").value<Picture>().isNull());
     }
 
+    /** A JPEG becomes a PNG without a bitmap, which is made when somebody asks for it, from the file as it was. */
+    void leavesItThereWithoutABitmap_data()
+    {
+        QTest::addColumn<QString>("shape");
+        QTest::addColumn<bool>("isWritten");
+        QTest::newRow("round corners") << text("0") << true;
+        QTest::newRow("an ellipse") << text("2") << true;
+        QTest::newRow("no folder") << text("0") << false;
+    }
+
+    void leavesItThereWithoutABitmap()
+    {
+        QFETCH(QString, shape);
+        QFETCH(bool, isWritten);
+        const QString path = m_folder.filePath(text("dense.jpg"));
+        QVERIFY(QFile::copy(pictureNamed("own/dpi/jfif-300dpi.jpg"), path));
+        m_sheet->fillBackground("#10c820", "0");
+        QCOMPARE(m_service->roundCornersOfImage(path, m_out, 10, shape, text("1")), ok); // the long way
+        const Bitmap filled = m_service->property("composedMasked").value<Picture>().bitmap();
+        m_sheet->check.setProperty("state", 0);
+        QCOMPARE(m_service->roundCornersOfImage(path, m_out, 10, shape, text("1")), ok);
+        const Bitmap known = m_service->property("composedMasked").value<Picture>().bitmap();
+        QVERIFY(known.toRawImage() != filled.toRawImage());
+        const QString prefix = isWritten ? m_out : m_out + text("missing/");
+        QCOMPARE(m_service->roundCornersOfImage(path, prefix, 10, shape, text("0")), isWritten ? ok : failed);
+        QVERIFY(QFile::remove(path));
+        const auto composed = m_service->property("composedMasked").value<Picture>();
+        QCOMPARE(composed.size(), QSizeF(known.size()));
+        QCOMPARE(composed.bitmap().toRawImage(), known.toRawImage());
+        QCOMPARE(composed.bitmap().horizontalDpi(), known.horizontalDpi());
+        QCOMPARE(composed.bitmap().jpegQuantisation()->tables, known.jpegQuantisation()->tables);
+        QVERIFY(m_service->property("imageMasked").value<platform::BitmapHandle>().bitmap() == composed.bitmap());
+        QVERIFY(m_service->property("composedMasked").value<Picture>() == composed);
+        if (isWritten)
+            QCOMPARE(result("dense.png").toRawImage(), known.toRawImage());
+    }
+
+    void keepsWhatAScriptPutsThere()
+    {
+        const QString path = pictureNamed("own/dpi/jfif-300dpi.jpg");
+        QCOMPARE(rounded(path, 10, "0", "0"), ok);
+        const Picture other(Bitmap::fromImage(pictures::gradient(3, 2)));
+        QVERIFY(m_service->setProperty("composedMasked", QVariant::fromValue(other)));
+        QVERIFY(m_service->property("composedMasked").value<Picture>() == other);
+        QCOMPARE(m_service->property("imageMasked").value<platform::BitmapHandle>().bitmap().size(),
+                 Picture::fromFile(path).bitmap().size());
+        QCOMPARE(rounded(path, 10, "0", "0"), ok);
+        QVERIFY(m_service->setProperty("imageMasked", QVariant::fromValue(platform::BitmapHandle())));
+        QVERIFY(m_service->property("imageMasked").value<platform::BitmapHandle>().isNull());
+        QVERIFY(!m_service->property("composedMasked").value<Picture>().isNull());
+        QCOMPARE(rounded(m_folder.filePath(text("missing.jpg")), 5, "1", "0"), failed);
+        QVERIFY(m_service->property("composedMasked").value<Picture>().isNull());
+    }
+
     void laysTransparentPicturesOnTheColor()
     {
         m_sheet->well.setColor(text("#ff8000"));

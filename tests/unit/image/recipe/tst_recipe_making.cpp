@@ -1,4 +1,6 @@
 #include "image/recipe/make.h"
+
+#include "image/recipe/encoding.h"
 #include "tests/support/scratch_folder.h"
 #include "tests/support/test_program.h"
 
@@ -34,6 +36,8 @@ private Q_SLOTS:
     void paddingAndFramesHaveTheirColour();
     void turnsFillTheNewCornersAlone();
     void carriesAsMuchMetadataAsIsAskedFor();
+    void roundsCornersAsItWouldInMemory_data();
+    void roundsCornersAsItWouldInMemory();
 };
 
 namespace {
@@ -470,6 +474,47 @@ void TestRecipeMaking::carriesAsMuchMetadataAsIsAskedFor()
         QVERIFY2(!none.contains(QStringLiteral("{GPS}")) && !none.contains(QStringLiteral("{IPTC}")), name);
         QVERIFY2(!none.value(QStringLiteral("{TIFF}")).toMap().contains(QStringLiteral("Copyright")), name);
     }
+}
+
+void TestRecipeMaking::roundsCornersAsItWouldInMemory_data()
+{
+    QTest::addColumn<RoundOperation>("round");
+    RoundOperation round;
+    round.radius = 20;
+    QTest::newRow("transparent") << round;
+    RoundOperation filled = round;
+    filled.color = Qt::red;
+    QTest::newRow("on a colour") << filled;
+    RoundOperation banded = round;
+    banded.band = Band{3, Qt::blue};
+    QTest::newRow("with a band") << banded;
+    RoundOperation measured = round;
+    measured.scale.unit = RecipeUnit::Millimetre;
+    measured.scale.dpi = 100;
+    QTest::newRow("in millimetres") << measured;
+    round.shape = RoundShape::Ellipse;
+    QTest::newRow("an ellipse") << round;
+    round.shape = RoundShape::Circle;
+    QTest::newRow("a circle") << round;
+}
+
+/** JPEGs are read row by row for some of these. */
+void TestRecipeMaking::roundsCornersAsItWouldInMemory()
+{
+    QFETCH(RoundOperation, round);
+    ScratchFolder folder;
+    const QString path = saved(folder, "photo.jpg", photograph({300, 200}));
+    const Recipe recipe = recipeOf({round});
+    const auto made = madeFrom(recipe, path);
+    QCOMPARE(made.size(), 1);
+    QVERIFY(made.first());
+    const ImageSource source = ImageSource::open(path).value();
+    const Bitmap bitmap = source.decode().value();
+    const auto composed = rendered(recipe.operations, {bitmap, stageOf(bitmap)}, {});
+    QVERIFY(composed);
+    QCOMPARE(made.first()->size, composed->bitmap.size());
+    const auto plan = planOf(recipe, source).first();
+    QCOMPARE(made.first()->bytes, encodedFile(composed->bitmap, source, recipe.outputs.first(), plan).value());
 }
 
 QUORLIN_TEST(TestRecipeMaking)

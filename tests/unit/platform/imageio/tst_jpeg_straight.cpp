@@ -1,4 +1,5 @@
 #include "platform/imageio/convert/jpeg_straight.h"
+#include "platform/imageio/convert/png_from_jpeg.h"
 #include "platform/imageio/encode/image_destination.h"
 #include "platform/imageio/source/image_source.h"
 #include "tests/support/expected_pictures.h"
