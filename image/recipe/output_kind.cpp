@@ -27,14 +27,36 @@ bool holdsProfileOf(OutputType type, const QByteArray &profile)
     return !format || platform::holdsProfile(*format, profile);
 }
 
+/** What becomes of transparent parts; a colour that everybody has a word for is named by it. */
+QString becomingOpaque(const QString &type, const QColor &matte)
+{
+    struct Named
+    {
+        QRgb color;
+        const char *sentence;
+    };
+    static constexpr Named all[] = {
+        {0xffffffff, QT_TRANSLATE_NOOP("recipe", "%1 has no transparency: transparent parts become white")},
+        {0xff000000, QT_TRANSLATE_NOOP("recipe", "%1 has no transparency: transparent parts become black")},
+        {0xff808080, QT_TRANSLATE_NOOP("recipe", "%1 has no transparency: transparent parts become grey")},
+        {0xffff0000, QT_TRANSLATE_NOOP("recipe", "%1 has no transparency: transparent parts become red")},
+        {0xff008000, QT_TRANSLATE_NOOP("recipe", "%1 has no transparency: transparent parts become green")},
+        {0xff0000ff, QT_TRANSLATE_NOOP("recipe", "%1 has no transparency: transparent parts become blue")},
+        {0xffffff00, QT_TRANSLATE_NOOP("recipe", "%1 has no transparency: transparent parts become yellow")}};
+    for (const Named &each : all)
+        if (each.color == matte.rgba())
+            return sentence(each.sentence).arg(type);
+    return sentence(QT_TRANSLATE_NOOP("recipe", "%1 has no transparency: transparent parts become %2"))
+        .arg(type, matte.name());
+}
+
 QStringList lossesOfPixels(const OutputPlan &plan, const RecipeOutput &output, const Stage &end,
                            const platform::PixelFacts &facts)
 {
     const QString name = writtenType(plan.type).word;
     QStringList losses;
     if (end.hasAlpha && !holdsAlpha(plan.type))
-        losses.append(sentence(QT_TRANSLATE_NOOP("recipe", "%1 has no transparency: transparent parts become %2"))
-                          .arg(name, output.matte.name()));
+        losses.append(becomingOpaque(name, output.matte));
     if (facts.bits > 8 && !holdsDepth16(plan.type))
         losses.append(
             sentence(QT_TRANSLATE_NOOP("recipe", "%1 has 8 bits per channel, the picture has more")).arg(name));

@@ -8348,6 +8348,34 @@
         <source>Metadata of its sidecar file is left out, since the file is copied</source>
         <translation>Die Metadaten der Begleitdatei fehlen, da die Datei kopiert wird</translation>
     </message>
+    <message>
+        <source>%1 has no transparency: transparent parts become white</source>
+        <translation>%1 kennt keine Transparenz: Transparente Bereiche werden weiß</translation>
+    </message>
+    <message>
+        <source>%1 has no transparency: transparent parts become black</source>
+        <translation>%1 kennt keine Transparenz: Transparente Bereiche werden schwarz</translation>
+    </message>
+    <message>
+        <source>%1 has no transparency: transparent parts become grey</source>
+        <translation>%1 kennt keine Transparenz: Transparente Bereiche werden grau</translation>
+    </message>
+    <message>
+        <source>%1 has no transparency: transparent parts become red</source>
+        <translation>%1 kennt keine Transparenz: Transparente Bereiche werden rot</translation>
+    </message>
+    <message>
+        <source>%1 has no transparency: transparent parts become green</source>
+        <translation>%1 kennt keine Transparenz: Transparente Bereiche werden grün</translation>
+    </message>
+    <message>
+        <source>%1 has no transparency: transparent parts become blue</source>
+        <translation>%1 kennt keine Transparenz: Transparente Bereiche werden blau</translation>
+    </message>
+    <message>
+        <source>%1 has no transparency: transparent parts become yellow</source>
+        <translation>%1 kennt keine Transparenz: Transparente Bereiche werden gelb</translation>
+    </message>
 </context>
 <context>
     <name>recipe-action</name>

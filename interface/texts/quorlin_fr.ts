@@ -8348,6 +8348,34 @@
         <source>Metadata of its sidecar file is left out, since the file is copied</source>
         <translation>Les métadonnées du fichier annexe sont omises, car le fichier est copié</translation>
     </message>
+    <message>
+        <source>%1 has no transparency: transparent parts become white</source>
+        <translation>%1 n’a pas de transparence : les parties transparentes deviennent blanches</translation>
+    </message>
+    <message>
+        <source>%1 has no transparency: transparent parts become black</source>
+        <translation>%1 n’a pas de transparence : les parties transparentes deviennent noires</translation>
+    </message>
+    <message>
+        <source>%1 has no transparency: transparent parts become grey</source>
+        <translation>%1 n’a pas de transparence : les parties transparentes deviennent grises</translation>
+    </message>
+    <message>
+        <source>%1 has no transparency: transparent parts become red</source>
+        <translation>%1 n’a pas de transparence : les parties transparentes deviennent rouges</translation>
+    </message>
+    <message>
+        <source>%1 has no transparency: transparent parts become green</source>
+        <translation>%1 n’a pas de transparence : les parties transparentes deviennent vertes</translation>
+    </message>
+    <message>
+        <source>%1 has no transparency: transparent parts become blue</source>
+        <translation>%1 n’a pas de transparence : les parties transparentes deviennent bleues</translation>
+    </message>
+    <message>
+        <source>%1 has no transparency: transparent parts become yellow</source>
+        <translation>%1 n’a pas de transparence : les parties transparentes deviennent jaunes</translation>
+    </message>
 </context>
 <context>
     <name>recipe-action</name>

@@ -8348,6 +8348,34 @@
         <source>Metadata of its sidecar file is left out, since the file is copied</source>
         <translation>Metadata van het sidecarbestand ontbreekt, omdat het bestand wordt gekopieerd</translation>
     </message>
+    <message>
+        <source>%1 has no transparency: transparent parts become white</source>
+        <translation>%1 kent geen transparantie: transparante delen worden wit</translation>
+    </message>
+    <message>
+        <source>%1 has no transparency: transparent parts become black</source>
+        <translation>%1 kent geen transparantie: transparante delen worden zwart</translation>
+    </message>
+    <message>
+        <source>%1 has no transparency: transparent parts become grey</source>
+        <translation>%1 kent geen transparantie: transparante delen worden grijs</translation>
+    </message>
+    <message>
+        <source>%1 has no transparency: transparent parts become red</source>
+        <translation>%1 kent geen transparantie: transparante delen worden rood</translation>
+    </message>
+    <message>
+        <source>%1 has no transparency: transparent parts become green</source>
+        <translation>%1 kent geen transparantie: transparante delen worden groen</translation>
+    </message>
+    <message>
+        <source>%1 has no transparency: transparent parts become blue</source>
+        <translation>%1 kent geen transparantie: transparante delen worden blauw</translation>
+    </message>
+    <message>
+        <source>%1 has no transparency: transparent parts become yellow</source>
+        <translation>%1 kent geen transparantie: transparante delen worden geel</translation>
+    </message>
 </context>
 <context>
     <name>recipe-action</name>

@@ -312,7 +312,8 @@ private Q_SLOTS:
         QCOMPARE(preview->estimatedBytes(), 64 * 48 * 3 + 54.0);
         QVERIFY(
             m_driver->waitFor([preview] { return preview->accessibleDescription().contains(QStringLiteral("9 KB")); }));
-        QVERIFY(preview->accessibleDescription().contains(QStringLiteral("BMP has no transparency")));
+        QVERIFY(preview->accessibleDescription().contains(
+            QStringLiteral("BMP has no transparency: transparent parts become white")));
     }
 
     void asksForConfirmationBeforeAnOriginalIsReplaced()
