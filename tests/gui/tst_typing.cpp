@@ -1,6 +1,7 @@
 #include "tests/gui/support/window_driver.h"
 #include "tests/support/test_program.h"
 
+#include "app/window/controls/search_menu.h"
 #include "app/window/controls/segmented_control.h"
 
 #include <QApplication>
@@ -8,18 +9,33 @@
 #include <QDir>
 #include <QDoubleSpinBox>
 #include <QImage>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QLocale>
+#include <QPlainTextEdit>
 #include <QSet>
 
 #include <cmath>
 
 namespace {
 
-const QList<const char *> allActions = {"resize", "crop", "turn", "round", "background", "watermark"};
+const QList<const char *> withNumbers = {"resize",    "crop", "turn",    "round",  "background",
+                                         "watermark", "web",  "contact", "rename", "recipe"};
+const QList<const char *> allActions = {"resize",  "crop",    "turn",     "round", "background", "watermark",
+                                        "recipe",  "convert", "rename",   "sort",  "hand",       "web",
+                                        "contact", "fields",  "metadata", "log"};
+
+bool isWrittenIn(const QWidget &widget)
+{
+    const auto *line = qobject_cast<const QLineEdit *>(&widget);
+    const auto *lines = qobject_cast<const QPlainTextEdit *>(&widget);
+    const auto *number = qobject_cast<const QAbstractSpinBox *>(&widget);
+    return (line && !line->isReadOnly() && !line->focusProxy()) || (lines && !lines->isReadOnly()) || number;
+}
 
 } // namespace
 
-/** Numbers are typed into every field of every action, key by key. */
+/** What is typed into the fields of every action, key by key, stays as it was typed. */
 class Typing : public QObject
 {
     Q_OBJECT
@@ -27,14 +43,18 @@ class Typing : public QObject
 private Q_SLOTS:
     void init() { m_driver = WindowDriver::started(); }
 
-    void cleanup() { m_driver.reset(); }
+    void cleanup()
+    {
+        m_driver.reset();
+        qunsetenv("QUORLIN_LANGUAGE");
+    }
 
     void numbersAreTypedKeyByKey_data()
     {
         QTest::addColumn<QString>("language");
         QTest::addColumn<QString>("action");
         for (const char *language : {"en", "de"})
-            for (const char *action : allActions)
+            for (const char *action : withNumbers)
                 QTest::addRow("%s, %s", language, action)
                     << QString::fromLatin1(language) << QString::fromLatin1(action);
     }
@@ -46,49 +66,119 @@ private Q_SLOTS:
         QFETCH(QString, action);
         qputenv("QUORLIN_LANGUAGE", language.toLatin1());
         m_driver->startAgain();
+        begin(action);
+        QSet<QString> typed;
+        if (action == QLatin1String("background"))
+            m_driver->choose("frame", QStringLiteral("band"));
+        const auto typeAll = [&] { typeIntoAllFields(typed); };
+        typeAll();
+        throughSegments(typeAll);
+        throughCards(action, typeAll);
+        QVERIFY(!typed.isEmpty());
+    }
+
+    void theUndoKeyBelongsToEveryField_data()
+    {
+        QTest::addColumn<QString>("action");
+        for (const char *action : allActions)
+            QTest::addRow("%s", action) << QString::fromLatin1(action);
+    }
+
+    // The latest step of the window was the adding of a picture.
+    void theUndoKeyBelongsToEveryField()
+    {
+        QFETCH(QString, action);
+        begin(action);
+        QVERIFY(m_driver->pictures().count() == 1);
+        QSet<QWidget *> seen;
+        const auto undoAll = [&] { undoInAllFields(seen); };
+        undoAll();
+        throughSegments(undoAll);
+        throughCards(action, undoAll);
+        QCOMPARE(m_driver->pictures().count(), 1);
+        if (action != QLatin1String("hand")) // its fields appear with a new folder
+            QVERIFY(!seen.isEmpty());
+    }
+
+private:
+    void begin(const QString &action)
+    {
         QImage image(100, 100, QImage::Format_RGB32);
         image.fill(Qt::red);
         const QString pictures = m_driver->folder() + QStringLiteral("/in");
         QVERIFY(QDir().mkpath(pictures) && image.save(pictures + QStringLiteral("/a.png")));
         m_driver->drop({pictures});
         m_driver->show(qPrintable(action));
-        QSet<QString> typed;
-        if (action == QLatin1String("background"))
-            m_driver->choose("frame", QStringLiteral("band"));
-        typeIntoAllFields(typed);
+        activate();
+    }
+
+    void activate()
+    {
+        m_driver->window().activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&m_driver->window()));
+        QCoreApplication::processEvents();
+    }
+
+    void throughSegments(const std::function<void()> &work)
+    {
         const auto rows = m_driver->window().findChildren<window::SegmentedControl *>();
         for (window::SegmentedControl *row : rows) {
             for (int i = 0; row->isVisible() && i < row->segments().size(); ++i) {
                 row->setFocus();
                 QTest::keyClick(row, i == 0 ? Qt::Key_Home : Qt::Key_Right);
-                typeIntoAllFields(typed);
+                work();
             }
+            if (row->isVisible()) // the list is one of files, not of folders
+                QTest::keyClick(row, Qt::Key_Home);
         }
-        qunsetenv("QUORLIN_LANGUAGE");
-        QVERIFY(!typed.isEmpty());
     }
 
-private:
+    // Every kind of step or operation, open.
+    void throughCards(const QString &action, const std::function<void()> &work)
+    {
+        const bool isRename = action == QLatin1String("rename");
+        if (!isRename && action != QLatin1String("recipe"))
+            return;
+        const char *button = isRename ? "addStep" : "addOperation";
+        int kinds = 1;
+        for (int kind = 0; kind < kinds; ++kind) {
+            m_driver->click(button);
+            QWidget *menu = QApplication::activePopupWidget();
+            QVERIFY(menu);
+            kinds = menu->findChild<QListWidget *>()->count();
+            QVERIFY(kinds > 3);
+            auto *field = menu->findChild<QLineEdit *>();
+            for (int i = 0; i < kind; ++i)
+                QTest::keyClick(field, Qt::Key_Down);
+            QTest::keyClick(field, Qt::Key_Return);
+            activate(); // the windowless platform leaves the focus to the menu
+            work();
+            if (isRename)
+                m_driver->click("cardDelete");
+        }
+    }
+
     void typeIntoAllFields(QSet<QString> &typed)
     {
         const auto units = m_driver->window().findChildren<QComboBox *>(QStringLiteral("unit"));
         for (const QComboBox *unit : units)
             if (unit->isVisible())
                 m_driver->choose("unit", QStringLiteral("cm"));
-        const auto fields = m_driver->window().findChildren<QDoubleSpinBox *>();
-        for (QDoubleSpinBox *field : fields) {
+        const auto fields = m_driver->window().findChildren<QAbstractSpinBox *>();
+        for (QAbstractSpinBox *field : fields) {
             if (!field->isVisible() || !field->isEnabled())
                 continue;
             typed.insert(field->objectName());
             const double numbers[] = {12.5, -1.3, 0.7, 1600};
             for (const double number : numbers)
-                if (number >= field->minimum() && number <= field->maximum() &&
-                    (field->decimals() > 0 || number == std::round(number)))
+                if (number >= field->property("minimum").toDouble() &&
+                    number <= field->property("maximum").toDouble() &&
+                    (field->property("decimals").toInt() > 0 || number == std::round(number)))
                     type(*field, number);
         }
     }
 
-    void type(QDoubleSpinBox &field, double number)
+    void type(QAbstractSpinBox &field, double number)
     {
         const QString text =
             QLocale().toString(number, 'f', number == std::round(number) ? 0 : 1).remove(QLocale().groupSeparator());
@@ -100,12 +190,31 @@ private:
             QTest::keyClick(&field, key.toLatin1());
             QCoreApplication::processEvents();
         }
+        const auto value = [&field] { return field.property("value").toDouble(); };
         const QByteArray what = QStringLiteral("%1 in %2: %3").arg(text, field.objectName(), field.text()).toUtf8();
         QVERIFY2(field.hasFocus(), what);
-        QVERIFY2(field.value() == number, what);
-        QVERIFY2(field.cleanText() == text, what);
+        QVERIFY2(value() == number, what);
+        QVERIFY2(field.property("cleanText").toString() == text, what);
         QTest::keyClick(&field, Qt::Key_Tab);
-        QVERIFY2(field.value() == number, what);
+        QVERIFY2(value() == number, what);
+    }
+
+    void undoInAllFields(QSet<QWidget *> &seen)
+    {
+        const auto fields = m_driver->window().findChildren<QWidget *>();
+        for (QWidget *field : fields) {
+            if (seen.contains(field) || !field->isVisible() || !field->isEnabled() || !isWrittenIn(*field))
+                continue;
+            seen.insert(field);
+            field->setFocus();
+            QVERIFY2(field->hasFocus(), qPrintable(field->objectName()));
+            QTest::keyClicks(field, QStringLiteral("75"));
+            for (int i = 0; i < 4; ++i) {
+                QTest::keyClick(field, Qt::Key_Z, Qt::ControlModifier);
+                QCoreApplication::processEvents();
+            }
+            QVERIFY2(m_driver->pictures().count() == 1, qPrintable(field->objectName()));
+        }
     }
 
     std::unique_ptr<WindowDriver> m_driver;
