@@ -2323,8 +2323,10 @@ declare module "quorlin/shell" {
         photo(id: whole): anything;
         setPlan(id: whole, newName: text, newSize: text): null;
         setStatus(id: whole, kind: text, text: text, detail: text): null;
-        /** As the list shows it; null for an unknown id. */
+        /** As the list shows it, the properties in the order of their columns; null for an unknown id. */
         shown(id: whole): anything;
+        /** Of all rows, not only of those in view; "settled" tells when they are known. */
+        readProperties(): null;
         forget(id: whole): null;
         /** Files that a run made of a picture, after its status. */
         setResults(id: whole, paths: texts): null;

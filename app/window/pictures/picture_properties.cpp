@@ -153,9 +153,19 @@ void PictureTable::filterAgain()
         Q_EMIT countChanged(count());
 }
 
+void PictureTable::readProperties()
+{
+    m_wantsAllProperties = true;
+    m_propertiesUpTo = 0;
+    m_isReadingProperties = !m_model.wantedProperties().isEmpty() && m_model.rowCount() > 0;
+    m_sinceProgress.start();
+    wakeLoader();
+}
+
 bool PictureTable::needsAllProperties() const
 {
-    return isFiltered() || !m_model.propertyOf(horizontalHeader()->sortIndicatorSection()).isEmpty();
+    return m_wantsAllProperties || isFiltered() ||
+           !m_model.propertyOf(horizontalHeader()->sortIndicatorSection()).isEmpty();
 }
 
 bool PictureTable::arePropertiesRead() const
@@ -182,6 +192,7 @@ void PictureTable::loadProperties()
         m_model.wantProperties(m_propertiesUpTo, jobs::Urgency::Later);
     }
     const bool isOver = arePropertiesRead();
+    m_wantsAllProperties = m_wantsAllProperties && !isOver;
     const bool wasReading = std::exchange(m_isReadingProperties, !isOver);
     if (!wasReading && !isOver)
         m_sinceProgress.start();

@@ -239,7 +239,12 @@ QVariant PictureTable::shown(int id) const
     if (index < 0)
         return QVariant::fromValue(nullptr);
     const PictureRow &row = m_model.row(index);
-    return QVariantMap{{QStringLiteral("newName"), row.newName},
+    QStringList properties;
+    for (const QString &name : m_propertyColumns)
+        properties.append(row.properties.value(name).words);
+    return QVariantMap{{QStringLiteral("rating"), row.rating},
+                       {QStringLiteral("properties"), properties},
+                       {QStringLiteral("newName"), row.newName},
                        {QStringLiteral("newSize"), row.newSize},
                        {QStringLiteral("status"), row.status}};
 }

@@ -200,6 +200,8 @@ public:
     Q_INVOKABLE void setStatus(int id, const QString &kind, const QString &text, const QString &detail);
     /** {newName, newSize, kind, status} as the list shows them; null for an unknown id. */
     Q_INVOKABLE QVariant shown(int id) const;
+    /** Of all rows, not only of those in view; "settled" tells when they are known. */
+    Q_INVOKABLE void readProperties();
     Q_INVOKABLE void forget(int id);
     /**
      * The files that a run made of a picture, set after its status: they are dragged and copied as long as that stays.
@@ -253,6 +255,7 @@ private:
     void showColumns();
     bool isShown(size_t column) const;
     void chooseDispensable();
+    int numbersWidth(size_t column) const;
     int fixedWidth(size_t column) const;
     void layOutAsFirst();
     void columnsChanged();
@@ -293,6 +296,7 @@ private:
     QVariantMap m_fieldNames;
     QElapsedTimer m_sinceProgress; ///< was reported while the list was filtered
     bool m_isReadingProperties = false;
+    bool m_wantsAllProperties = false; ///< since readProperties(), until they are read
     bool m_busy = false;
     bool m_resortPending = false;
     bool m_arranging = false;

@@ -4,7 +4,7 @@
 import { files } from "quorlin/files";
 import { shell } from "quorlin/shell";
 import { guard } from "../../lib/guard.js";
-import { COLUMNS, tableOf } from "../../lib/list-table.js";
+import { tableOf, titlesOf } from "../../lib/list-table.js";
 import { fill, numberText } from "../../lib/wording.js";
 import { tableCsv } from "../../runs/report.js";
 import { Clocks } from "../clocks/clocks.js";
@@ -123,7 +123,7 @@ export class ListTools {
         const work = tableOf(this.window.pictures, this.window.services.facts);
         this.job.start(work, () => undefined, guard("export.end", (how, rows) => {
             if (how === "done") {
-                this.window.say(files.writeText(path, tableCsv(COLUMNS, rows)) ||
+                this.window.say(files.writeText(path, tableCsv(titlesOf(this.window.pictures), rows)) ||
                                 fill(qsTr("The list was exported to %1"), path));
             }
         }));

@@ -140,6 +140,8 @@ void TestListTools::theListIsExported()
     pictures({QStringLiteral("a.jpg"), QStringLiteral("b, \"c\".jpg")});
     m_driver->pictures().selectRow(0);
     m_driver->trigger("tickAction");
+    m_driver->pictures().rate(4);
+    m_driver->pictures().setPropertyColumns({QStringLiteral("{TIFF}|Model")});
     QVERIFY(m_driver->waitFor([this] { return m_driver->cell(1, PictureModel::Status) == QLatin1String("Ready"); }));
     const QString target = m_driver->folder() + QStringLiteral("/List.csv");
     m_driver->answerPanels({target});
@@ -150,14 +152,14 @@ void TestListTools::theListIsExported()
     const QByteArray content = file.readAll();
     QVERIFY(content.startsWith("\xEF\xBB\xBF"));
     const QStringList lines = QString::fromUtf8(content.mid(3)).split(QStringLiteral("\r\n"));
-    const QString head =
-        QStringLiteral("Ticked,Name,Folder,DateTaken,Camera,Width,Height,Bytes,Type,NewName,NewSize,Status");
+    const QString head = QStringLiteral(
+        "Ticked,Name,Folder,DateTaken,Camera,Rating,Width,Height,Bytes,Type,NewName,NewSize,Status,{TIFF}|Model");
     QCOMPARE(lines.at(0), head);
     const QString bytes = QString::number(QFileInfo(path(QStringLiteral("a.jpg"))).size());
-    QCOMPARE(lines.at(1), QStringLiteral("no,a.jpg,%1,2026-08-14T10:20:30,Camera A,30,20,%2,JPEG,,,Left out")
+    QCOMPARE(lines.at(1), QStringLiteral("no,a.jpg,%1,2026-08-14T10:20:30,Camera A,4,30,20,%2,JPEG,,,Left out,Camera A")
                               .arg(m_driver->inputFolder(), bytes));
     QVERIFY2(lines.at(2).startsWith(QStringLiteral("yes,\"b, \"\"c\"\".jpg\",")), qPrintable(lines.at(2)));
-    QVERIFY2(lines.at(2).endsWith(QStringLiteral(",Ready")), qPrintable(lines.at(2)));
+    QVERIFY2(lines.at(2).endsWith(QStringLiteral(",Ready,Camera A")), qPrintable(lines.at(2)));
     QCOMPARE(lines.size(), 4);
 }
 
@@ -253,6 +255,11 @@ void TestListTools::recentRecipesAreOffered()
     QVERIFY(entriesOf("recipesMenu").constFirst().endsWith(QLatin1String("web.quorlin")));
     m_driver->control<QMenu>("recipesMenu")->actions().constLast()->trigger();
     QVERIFY(!m_driver->control<QMenu>("recipesMenu")->isEnabled());
+    m_driver->drop({path(QStringLiteral("web.quorlin"))});
+    QCOMPARE(entriesOf("recipesMenu").size(), 2);
+    QVERIFY(QFile::remove(path(QStringLiteral("web.quorlin"))));
+    m_driver->startAgain();
+    QVERIFY(!m_driver->control<QMenu>("recipesMenu")->isEnabled()); // what is gone is forgotten
 }
 
 QUORLIN_GUI_TEST(TestListTools)

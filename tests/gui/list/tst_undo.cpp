@@ -232,6 +232,7 @@ void TestUndo::theLogSaysThatARunIsUnderWay()
     m_driver->click("startButton");
     auto *pause = m_driver->control<QAbstractButton>("pauseButton");
     QVERIFY(m_driver->waitFor([pause] { return pause->isVisible(); }));
+    QVERIFY(!isEnabled("undoAction")); // it is no edit of the list
     m_driver->show("log");
     QVERIFY(m_driver->text("logEmpty").startsWith(QStringLiteral("A run is in progress.")));
     m_driver->trigger("cancelAction");
