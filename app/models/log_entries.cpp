@@ -82,6 +82,12 @@ void LogEntries::clear()
     *this = LogEntries();
 }
 
+QString LogEntries::actionWords(int process, int action) const
+{
+    const QString &name = m_texts.text(process);
+    return action == 0 ? name : name + QStringLiteral(", ") + m_texts.text(action);
+}
+
 QString LogEntries::inputPath(const LogEntry &entry) const
 {
     return entry.inputFolder == 0 ? QString() : m_texts.text(entry.inputFolder) + entry.input;

@@ -93,6 +93,9 @@ public:
     /** Numbers of the runs, those of the newer end of the log first. */
     const std::vector<int> &runOrder() const { return m_runOrder; }
 
+    /** The action with its settings, as "Resize, longest 1600". */
+    QString actionWords(int process, int action) const;
+
     /** The path of the file that was read or written; empty where the line has only its name, or none. */
     QString inputPath(const LogEntry &entry) const;
     QString outputPath(const LogEntry &entry) const;

@@ -340,8 +340,7 @@ QString LogModel::cell(const LogEntry &entry, int column) const
     case Date:
         return dateText(entry.time);
     case Action:
-        return entry.action == 0 ? texts.text(entry.process)
-                                 : texts.text(entry.process) + QStringLiteral(", ") + texts.text(entry.action);
+        return m_entries.actionWords(entry.process, entry.action);
     case File:
         return entry.input;
     case Status:

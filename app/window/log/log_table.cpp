@@ -1,7 +1,5 @@
 #include "app/window/log/log_table.h"
 
-#include "platform/foundation/human_texts.h"
-
 #include "app/window/look/item_looks.h"
 #include "app/window/look/key_header.h"
 
@@ -52,7 +50,10 @@ LogTable::LogTable(QWidget *parent) : QTableView(parent)
     setSortingEnabled(true);
     showColumns();
     connect(header, &QHeaderView::sectionResized, this, [this] { m_columnsChosen |= !m_arranging && underMouse(); });
-    connect(&m_model, &LogModel::grown, this, &LogTable::changed);
+    connect(&m_model, &LogModel::grown, this, [this] {
+        measureActions();
+        Q_EMIT changed();
+    });
     connect(this, &QTableView::doubleClicked, this, &LogTable::openRequested);
 }
 
@@ -253,19 +254,45 @@ void LogTable::keyPressEvent(QKeyEvent *event)
         QTableView::keyPressEvent(event);
 }
 
+/** The words of the latest runs, also of those that are not shown: the columns stay in place when one is chosen. */
+void LogTable::measureActions()
+{
+    const LogEntries &all = m_model.entries();
+    if (all.runCount() == m_runsMeasured)
+        return;
+    m_runsMeasured = all.runCount();
+    constexpr size_t mostRuns = 200;
+    int widest = 0;
+    for (size_t i = 0; i < qMin(mostRuns, all.runOrder().size()); ++i) {
+        const LogRun &run = all.run(all.runOrder()[i]);
+        widest = qMax(widest, fontMetrics().horizontalAdvance(all.actionWords(run.process, run.action)));
+    }
+    m_actionPx = widest == 0 ? 0 : widest + paddingPx;
+    arrangeColumns();
+}
+
 void LogTable::arrangeColumns()
 {
     if (m_columnsChosen)
         return;
     m_arranging = true;
-    const QDateTime wide(QDate(2028, 12, 28), QTime(20, 48, 58));
-    const int date = fontMetrics().horizontalAdvance(platform::localDateText(wide)) + paddingPx;
+    const int date = dateTimeWidth(fontMetrics()) + paddingPx;
+    const int room = viewport()->width() - date;
     setColumnWidth(LogModel::Date, date);
     const auto arrange = [&](const auto &parts) {
+        const auto share = [&](int column) {
+            return qMax(room * parts[column] / 100, horizontalHeader()->sectionSizeHint(column));
+        };
+        int spare = room - horizontalHeader()->sectionSizeHint(m_showsComments ? LogModel::After : LogModel::Folder);
+        for (int column = LogModel::Action; column < int(std::size(parts)); ++column)
+            spare -= parts[column] > 0 ? share(column) : 0;
         for (int column = LogModel::Action; column < int(std::size(parts)); ++column)
             if (parts[column] > 0)
-                setColumnWidth(column, qMax((viewport()->width() - date) * parts[column] / 100,
-                                            horizontalHeader()->sectionSizeHint(column)));
+                setColumnWidth(column, share(column));
+        // What the words of an action need beyond it, the last column lets go.
+        const int lacking = m_actionPx - share(LogModel::Action);
+        if (lacking > 0 && spare > 0)
+            setColumnWidth(LogModel::Action, share(LogModel::Action) + qMin(lacking, spare));
     };
     m_showsComments ? arrange(sharesOfComments) : arrange(shares);
     m_arranging = false;

@@ -79,6 +79,7 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    void measureActions();
     void arrangeColumns();
     void filter();
     QVariantMap entryMap(int row) const;
@@ -90,6 +91,8 @@ private:
     LogFilter m_filter;
     bool m_columnsChosen = false; ///< by hand; then their widths are not adjusted
     bool m_arranging = false;
+    int m_actionPx = 0; ///< that the longest action needs
+    int m_runsMeasured = 0;
     bool m_showsComments = false;
 };
 

@@ -1,7 +1,9 @@
 #include "app/window/look/item_looks.h"
 
 #include "app/window/look/theme.h"
+#include "platform/foundation/human_texts.h"
 
+#include <QDateTime>
 #include <QPainter>
 
 namespace window {
@@ -24,6 +26,18 @@ void QuietCellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opt
     painter->drawText(place, Qt::AlignLeft | Qt::AlignVCenter,
                       option.fontMetrics.elidedText(index.data().toString(), elide, place.width()));
     painter->restore();
+}
+
+// Digits are as wide as each other in most fonts, names of months are not.
+int dateTimeWidth(const QFontMetrics &metrics)
+{
+    constexpr int months = 12;
+    constexpr int lateDay = 28;
+    int widest = 0;
+    for (int month = 1; month <= months; ++month)
+        widest = qMax(widest, metrics.horizontalAdvance(
+                                  platform::localDateText(QDateTime(QDate(2028, month, lateDay), QTime(20, 48, 58)))));
+    return widest;
 }
 
 } // namespace window

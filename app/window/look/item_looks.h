@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFontMetrics>
 #include <QStyledItemDelegate>
 
 namespace window {
@@ -18,5 +19,8 @@ public:
 private:
     QList<int> m_names;
 };
+
+/** The width of a date and time in the form of the reader, without space beside it. */
+int dateTimeWidth(const QFontMetrics &metrics);
 
 } // namespace window

@@ -5,6 +5,9 @@
 #include <QAccessible>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QStyle>
+
+#include <algorithm>
 
 namespace window {
 
@@ -100,7 +103,7 @@ QFontMetrics KeyHeader::metrics() const
 /** The heading in one line, or in two if it is long and has a space; about as wide as each other. */
 QStringList KeyHeader::linesOf(int column) const
 {
-    constexpr int mostInOneLinePx = 120;
+    constexpr int mostInOneLinePx = 96;
     const QString title = model()->headerData(column, orientation()).toString();
     const QFontMetrics bold = metrics();
     QStringList lines(title);
@@ -126,15 +129,29 @@ QSize KeyHeader::sectionSizeFromContents(int column) const
            QSize(widest - bold.horizontalAdvance(lines.join(u' ')), int(lines.size() - 1) * bold.lineSpacing());
 }
 
+/** Of one line; room for the arrow is kept only in the column that the list is sorted by. */
+int KeyHeader::roomForText(int column) const
+{
+    const int around =
+        QHeaderView::sectionSizeFromContents(column).width() - metrics().horizontalAdvance(linesOf(column).join(u' '));
+    const int arrow = style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, this);
+    return sectionSize(column) - around + (sortIndicatorSection() == column ? 0 : arrow);
+}
+
+bool KeyHeader::isCut(int column) const
+{
+    const QStringList lines = linesOf(column);
+    return std::any_of(lines.cbegin(), lines.cend(),
+                       [&](const QString &line) { return metrics().horizontalAdvance(line) > roomForText(column); });
+}
+
 // Each line is elided here: with style sheets the toolkit cuts a letter in two.
 void KeyHeader::initStyleOptionForIndex(QStyleOptionHeader *option, int column) const
 {
     QHeaderView::initStyleOptionForIndex(option, column);
-    const QFontMetrics bold = metrics();
     QStringList lines = linesOf(column);
-    const int around = QHeaderView::sectionSizeFromContents(column).width() - bold.horizontalAdvance(lines.join(u' '));
     for (QString &line : lines)
-        line = bold.elidedText(line, textElideMode(), sectionSize(column) - around);
+        line = metrics().elidedText(line, textElideMode(), roomForText(column));
     option->text = lines.join(u'\n');
 }
 

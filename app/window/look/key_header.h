@@ -15,6 +15,9 @@ class KeyHeader : public QHeaderView
 public:
     explicit KeyHeader(QWidget *parent);
 
+    /** Whether the heading has too little room. */
+    bool isCut(int column) const;
+
 protected:
     bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
@@ -30,6 +33,7 @@ private:
     void showPlace();
     QFontMetrics metrics() const;
     QStringList linesOf(int column) const;
+    int roomForText(int column) const;
 
     int m_place = 0; ///< as the columns lie
 };

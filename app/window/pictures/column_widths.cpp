@@ -55,12 +55,16 @@ void takeFrom(std::vector<int> &widths, const std::vector<int> &spares, int take
     }
 }
 
-/** Lets texts pass on what they do not need: to sizes, then to names that are short of leastPx, then to all. */
+/**
+ * Lets texts pass on what they do not need, and names what they have beyond leastPx: to sizes, then to names that are
+ * short of it, then to all.
+ */
 void passOn(const std::vector<ColumnNeed> &needs, std::vector<int> &widths)
 {
     std::vector<int> spares;
     for (size_t i = 0; i < needs.size(); ++i) {
-        const int needed = std::max({needs[i].contentPx, needs[i].headingPx, narrowestTextPx});
+        const int content = needs[i].isName ? std::min(needs[i].contentPx, needs[i].leastPx) : needs[i].contentPx;
+        const int needed = std::max({content, needs[i].headingPx, narrowestTextPx});
         spares.push_back(isText(needs[i]) && needs[i].contentPx > 0 ? std::max(0, widths[i] - needed) : 0);
     }
     const int spare = std::accumulate(spares.begin(), spares.end(), 0);
@@ -76,7 +80,6 @@ void passOn(const std::vector<ColumnNeed> &needs, std::vector<int> &widths)
     giveInOrder(widths, lacks([](const ColumnNeed &each) { return !isText(each); }, false), left);
     giveInOrder(widths, lacks([](const ColumnNeed &each) { return each.isName; }, true), left);
     giveAll(widths, lacks([](const ColumnNeed &) { return true; }, false), left);
-    // A column that is given something has nothing to spare.
     takeFrom(widths, spares, spare - left);
 }
 

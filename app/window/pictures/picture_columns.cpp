@@ -2,6 +2,7 @@
 
 #include "app/window/pictures/picture_table.h"
 
+#include "app/window/look/item_looks.h"
 #include "app/window/pictures/column_widths.h"
 #include "app/window/pictures/picture_delegate.h"
 #include "platform/foundation/raised.h"
@@ -336,10 +337,18 @@ bool PictureTable::isShown(size_t column) const
            !m_leftOut.contains(int(column));
 }
 
-/** The width of a numeric column with its heading. */
+/** What a column of numbers needs for its content; 0 for a text. */
+int PictureTable::numbersWidth(size_t column) const
+{
+    constexpr int paddingsPx = 16;
+    const bool isDate = column == PictureModel::Taken;
+    return qMax(kinds[column].widthPx, isDate ? dateTimeWidth(fontMetrics()) + paddingsPx : 0);
+}
+
+/** The same with its heading. */
 int PictureTable::fixedWidth(size_t column) const
 {
-    return qMax(kinds[column].widthPx, horizontalHeader()->sectionSizeHint(int(column)));
+    return qMax(numbersWidth(column), horizontalHeader()->sectionSizeHint(int(column)));
 }
 
 /** Hides columns if texts would have too little room, unless the user has arranged them. */
@@ -380,7 +389,7 @@ void PictureTable::arrangeColumns()
         const int least = isName ? leastNamePx : i == PictureModel::Status ? leastStatusPx : kind.leastPx;
         const int share = m_model.stressesNewNames() ? kind.stressedShare : kind.share;
         const int content = i == PictureModel::Status ? delegate->statusPx() : contentWidth(*this, i);
-        needs.push_back({kind.widthPx, horizontalHeader()->sectionSizeHint(i), share, least, content, isName,
+        needs.push_back({numbersWidth(size_t(i)), horizontalHeader()->sectionSizeHint(i), share, least, content, isName,
                          isProperty(i) || m_wanted.value(i)});
         shown.append(i);
     }

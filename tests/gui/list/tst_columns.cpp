@@ -1,6 +1,7 @@
 #include "tests/gui/support/window_driver.h"
 
 #include "app/window/folders/folder_tree.h"
+#include "app/window/look/key_header.h"
 #include "tests/support/dated_pictures.h"
 #include "tests/support/test_program.h"
 
@@ -143,7 +144,13 @@ private Q_SLOTS:
     void namesKeepTheirRoomBesideAddedColumns();
     void shortNamesAreSeenWhole_data();
     void shortNamesAreSeenWhole();
+    void headingsAreSeenWhole_data();
+    void headingsAreSeenWhole();
+    void datesAreSeenWhole_data();
+    void datesAreSeenWhole();
     void severalSizesAreSeenWhole();
+    void threeSizesAreSeenWhole_data();
+    void threeSizesAreSeenWhole();
     void longHeadingsTakeTwoLines();
     void whatTheUserDidIsKept();
     void aWrongLayoutIsNoLayout();
@@ -151,6 +158,7 @@ private Q_SLOTS:
 private:
     QString path(const QString &name) const { return m_driver->inputFolder() + u'/' + name; }
     void picture(const QString &name);
+    void dated(const QString &name);
     QHeaderView &header() { return *m_driver->pictures().horizontalHeader(); }
 
     std::unique_ptr<WindowDriver> m_driver;
@@ -162,6 +170,14 @@ void TestColumns::picture(const QString &name)
     image.fill(Qt::darkGreen);
     QVERIFY(QDir().mkpath(QFileInfo(path(name)).path()));
     QVERIFY(image.save(path(name)));
+}
+
+void TestColumns::dated(const QString &name)
+{
+    QVERIFY(QDir().mkpath(QFileInfo(path(name)).path()));
+    QFile file(path(name));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(pictures::datedJpeg(QStringLiteral("2026:08:14 10:20:30")));
 }
 
 void TestColumns::everyReasonCanBeRead_data()
@@ -304,10 +320,7 @@ void TestColumns::shortNamesAreSeenWhole()
     qputenv("QUORLIN_LANGUAGE", language.toLatin1());
     const auto usual = qScopeGuard([] { qunsetenv("QUORLIN_LANGUAGE"); });
     m_driver->startAgain();
-    QFile file(path(QStringLiteral("IMG_2041.JPG")));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(pictures::datedJpeg(QStringLiteral("2026:08:14 10:20:30")));
-    file.close();
+    dated(QStringLiteral("IMG_2041.JPG"));
     m_driver->window().resize(1280, 720);
     m_driver->show("sort");
     m_driver->drop({m_driver->inputFolder()});
@@ -318,8 +331,10 @@ void TestColumns::shortNamesAreSeenWhole()
     };
     QVERIFY(m_driver->waitFor([&] { return m_driver->cell(0, PictureModel::Status).size() > 1 && isWhole(); }));
     // The title of the tree is whole beside the button that comes with a choice.
-    m_driver->control<window::FolderTree>("sortTree")->setChosen(path(QStringLiteral("2026/2026-08-14")));
-    QVERIFY(m_driver->waitFor([&] { return m_driver->control<QPushButton>("sortShowAll")->isVisible(); }));
+    QVERIFY(m_driver->waitFor([&] { // until the tree has the folder
+        m_driver->control<window::FolderTree>("sortTree")->setChosen(path(QStringLiteral("2026/2026-08-14")));
+        return m_driver->control<QPushButton>("sortShowAll")->isVisible();
+    }));
     const auto *title = m_driver->control<QLabel>("sortTreeTitle");
     QVERIFY(m_driver->waitFor([title] { return title->width() >= title->sizeHint().width(); }));
     // A reason that comes later gets the room that it needs.
@@ -328,6 +343,92 @@ void TestColumns::shortNamesAreSeenWhole()
         list.setStatus(list.currentId(), QStringLiteral("bad"), reason, {});
         QVERIFY2(!list.isStatusCut(list.currentId()), qPrintable(reason));
     }
+}
+
+void TestColumns::headingsAreSeenWhole_data()
+{
+    everyPlanCanBeRead_data();
+}
+
+void TestColumns::headingsAreSeenWhole()
+{
+    QFETCH(QString, language);
+    qputenv("QUORLIN_LANGUAGE", language.toLatin1());
+    const auto usual = qScopeGuard([] { qunsetenv("QUORLIN_LANGUAGE"); });
+    m_driver->startAgain();
+    dated(QStringLiteral("IMG_2041.JPG"));
+    dated(QStringLiteral("second/IMG_2042.JPG"));
+    m_driver->window().resize(1280, 720);
+    QStringList cut;
+    int seen = 0;
+    for (const char *action : {"resize", "crop", "convert", "rename", "sort", "web", "contact", "fields"}) {
+        m_driver->show(action);
+        if (m_driver->pictures().count() == 0)
+            m_driver->drop({m_driver->inputFolder()});
+        QVERIFY(m_driver->waitFor([&] { return header().length() == m_driver->pictures().viewport()->width(); }));
+        const auto &keyed = dynamic_cast<const window::KeyHeader &>(header());
+        for (int column = PictureModel::Name; column < PictureModel::ColumnCount; ++column) {
+            const QString title = m_driver->pictures().model()->headerData(column, Qt::Horizontal).toString();
+            seen += header().isSectionHidden(column) ? 0 : 1;
+            if (!header().isSectionHidden(column) && keyed.isCut(column))
+                cut.append(QLatin1String(action) + QStringLiteral(": ") + title);
+        }
+    }
+    QVERIFY2(cut.isEmpty(), qPrintable(cut.join(u'\n')));
+    QVERIFY2(seen > 30, qPrintable(QString::number(seen)));
+    header().resizeSection(PictureModel::Name, 20); // it can be seen
+    QVERIFY(dynamic_cast<const window::KeyHeader &>(header()).isCut(PictureModel::Name));
+}
+
+void TestColumns::datesAreSeenWhole_data()
+{
+    everyPlanCanBeRead_data();
+}
+
+// At 1440 x 900, where they are shown unless the user hides them.
+void TestColumns::datesAreSeenWhole()
+{
+    QFETCH(QString, language);
+    qputenv("QUORLIN_LANGUAGE", language.toLatin1());
+    const auto usual = qScopeGuard([] { qunsetenv("QUORLIN_LANGUAGE"); });
+    m_driver->startAgain();
+    dated(QStringLiteral("IMG_2041.JPG"));
+    m_driver->window().resize(1440, 900);
+    m_driver->show("rename");
+    m_driver->drop({m_driver->inputFolder()});
+    QVERIFY(m_driver->waitFor([&] { return !m_driver->cell(0, PictureModel::Taken).isEmpty(); }));
+    QVERIFY(!header().isSectionHidden(PictureModel::Taken));
+    const int needed = m_driver->pictures().fontMetrics().horizontalAdvance(m_driver->cell(0, PictureModel::Taken));
+    QVERIFY2(header().sectionSize(PictureModel::Taken) >= needed + 15,
+             qPrintable(QStringLiteral("%1 in %2").arg(needed).arg(header().sectionSize(PictureModel::Taken))));
+}
+
+void TestColumns::threeSizesAreSeenWhole_data()
+{
+    everyPlanCanBeRead_data();
+}
+
+// Two lines, the first of them with two sizes.
+void TestColumns::threeSizesAreSeenWhole()
+{
+    QFETCH(QString, language);
+    qputenv("QUORLIN_LANGUAGE", language.toLatin1());
+    const auto usual = qScopeGuard([] { qunsetenv("QUORLIN_LANGUAGE"); });
+    m_driver->startAgain();
+    const QImage large(2400, 1600, QImage::Format_RGB32);
+    QVERIFY(QDir().mkpath(m_driver->inputFolder()));
+    QVERIFY(large.save(path(QStringLiteral("Evening ridge above Brelmark.png"))));
+    m_driver->window().resize(1280, 720);
+    m_driver->show("web");
+    m_driver->drop({m_driver->inputFolder()});
+    window::PictureTable &list = m_driver->pictures();
+    const auto sizes = [&] { return m_driver->cell(0, PictureModel::NewSize); };
+    QVERIFY(m_driver->waitFor([&] { return sizes().contains(u','); }));
+    const QString line = sizes().section(u',', 0, 1) + u',';
+    const auto isWhole = [&] {
+        return list.fontMetrics().horizontalAdvance(line) + 15 <= header().sectionSize(PictureModel::NewSize);
+    };
+    QVERIFY2(m_driver->waitFor(isWhole), qPrintable(sizes()));
 }
 
 void TestColumns::severalSizesAreSeenWhole()

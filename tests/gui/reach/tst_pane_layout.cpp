@@ -2,12 +2,16 @@
 #include "tests/support/test_pictures.h"
 #include "tests/support/test_program.h"
 
+#include "app/models/log_model.h"
 #include "app/window/controls/combo_box.h"
 #include "app/window/controls/segmented_control.h"
+#include "app/window/log/log_table.h"
 #include "app/window/preview/compare_preview.h"
+#include "app/window/slots/slot_list.h"
 
 #include <QAbstractSpinBox>
 #include <QApplication>
+#include <QDir>
 #include <QEnterEvent>
 #include <QFontMetrics>
 #include <QGridLayout>
@@ -84,6 +88,10 @@ private Q_SLOTS:
     void nothingMovesWhenTheResultTakesTwoLines();
     void titlesOfQuestionsHaveRoom();
     void allOfANoteUnderAResultIsSeen();
+    void aSortedPictureIsDescribedWhole_data() { languages(); }
+    void aSortedPictureIsDescribedWhole();
+    void anActionOfTheLogIsSeenWhole_data() { languages(); }
+    void anActionOfTheLogIsSeenWhole();
 
 private:
     static void languages()
@@ -328,6 +336,48 @@ void PaneLayout::allOfANoteUnderAResultIsSeen()
     QVERIFY(preview->fontMetrics().horizontalAdvance(note) > preview->width());
     QVERIFY(seenWith(QString(), note + QStringLiteral("white")) != seenWith(QString(), note + QStringLiteral("black")));
     QVERIFY(seenWith(QStringLiteral("1 px"), note) != seenWith(QStringLiteral("9 px"), note));
+}
+
+// Beside its name, which may be shortened.
+void PaneLayout::aSortedPictureIsDescribedWhole()
+{
+    QFETCH(QString, language);
+    begin(language);
+    QVERIFY(pictures::plain(2400, 1600, Qt::darkCyan).save(m_driver->inputFolder() + QStringLiteral("/b.png")));
+    m_driver->drop({m_driver->inputFolder()});
+    QVERIFY(QDir().mkpath(m_driver->folder() + QStringLiteral("/Mountains")));
+    show("hand");
+    auto *slots = m_driver->control<window::SlotList>("handSlots");
+    Q_EMIT slots->foldersDropped({m_driver->folder() + QStringLiteral("/Mountains")});
+    settle();
+    QTest::keyClick(m_driver->control<QWidget>("handView"), Qt::Key_1);
+    m_driver->pictures().step(-1);
+    settle();
+    for (const char *name : {"handDone", "handFacts", "handPlace"}) {
+        const auto *label = m_driver->control<QLabel>(name);
+        QVERIFY2(label->isVisible() && !label->text().isEmpty(), name);
+        QVERIFY2(label->width() >= label->sizeHint().width(), qPrintable(QStringLiteral("%1: %2 of %3 px")
+                                                                             .arg(label->text())
+                                                                             .arg(label->width())
+                                                                             .arg(label->sizeHint().width())));
+    }
+}
+
+void PaneLayout::anActionOfTheLogIsSeenWhole()
+{
+    QFETCH(QString, language);
+    begin(language);
+    show("resize");
+    m_driver->click("startButton");
+    m_driver->waitForSummary();
+    show("log");
+    const auto *table = m_driver->control<window::LogTable>("logTable");
+    QVERIFY(m_driver->waitFor([table] { return table->model()->rowCount() >= 1; }));
+    for (int row = 0; row < table->model()->rowCount(); ++row) {
+        const QString words = table->model()->index(row, window::LogModel::Action).data().toString();
+        const int needed = table->fontMetrics().horizontalAdvance(words);
+        QVERIFY2(!words.isEmpty() && table->columnWidth(window::LogModel::Action) >= needed + 15, qPrintable(words));
+    }
 }
 
 QUORLIN_GUI_TEST(PaneLayout)
