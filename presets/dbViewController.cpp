@@ -5,6 +5,7 @@
 #include "platform/foundation/paths.h"
 #include "platform/foundation/raised.h"
 #include "presets/layout.h"
+#include "presets/seeding.h"
 #include "presets/statements.h"
 
 #include <QFile>
@@ -106,7 +107,9 @@ void dbViewController::insertRecordIntoTableNamed(const QString &table, const QS
 
 void dbViewController::linkToPresetsDB()
 {
-    if (platform::itemExists(dbFilePath()))
+    const QString path = dbFilePath();
+    const presets::Seeding others(platform::parentFolder(path));
+    if (platform::itemExists(path))
         return;
     openmyPresetsDb();
     createTableNamed(presetsTable, presets::presetColumns());
