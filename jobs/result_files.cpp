@@ -6,6 +6,7 @@
 #include "image/recipe/sentence.h"
 #include "jobs/result_mark.h"
 #include "platform/disk/disk_file_system.h"
+#include "platform/disk/folders.h"
 #include "platform/disk/item_identity.h"
 #include "platform/file/regular_file.h"
 #include "platform/foundation/paths.h"
@@ -22,10 +23,22 @@ namespace {
 
 using platform::Result;
 
+/** Of the folder and those above it, the first one that is there and is something else; empty if none is. */
+QString noFolderIn(const QString &folder)
+{
+    QString path = folder;
+    while (!platform::isTaken(path) && path != platform::parentFolder(path))
+        path = platform::parentFolder(path);
+    return platform::folderExists(path) ? QString() : path;
+}
+
 tl::unexpected<platform::Error> unwritten(const QString &folder)
 {
+    const QString other = noFolderIn(folder);
     return platform::failure(platform::ErrorCode::WriteFailed,
-                             image::sentence(QT_TRANSLATE_NOOP("recipe", "%1 is read-only")).arg(folder));
+                             other.isEmpty()
+                                 ? image::sentence(QT_TRANSLATE_NOOP("recipe", "%1 is read-only")).arg(folder)
+                                 : image::sentence(QT_TRANSLATE_NOOP("recipe", "%1 is not a folder")).arg(other));
 }
 
 } // namespace

@@ -8376,6 +8376,10 @@
         <source>%1 has no transparency: transparent parts become yellow</source>
         <translation>%1 kennt keine Transparenz: Transparente Bereiche werden gelb</translation>
     </message>
+    <message>
+        <source>%1 is not a folder</source>
+        <translation>%1 ist kein Ordner</translation>
+    </message>
 </context>
 <context>
     <name>recipe-action</name>

@@ -8376,6 +8376,10 @@
         <source>%1 has no transparency: transparent parts become yellow</source>
         <translation>%1 n’a pas de transparence : les parties transparentes deviennent jaunes</translation>
     </message>
+    <message>
+        <source>%1 is not a folder</source>
+        <translation>%1 n’est pas un dossier</translation>
+    </message>
 </context>
 <context>
     <name>recipe-action</name>

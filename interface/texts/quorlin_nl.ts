@@ -8376,6 +8376,10 @@
         <source>%1 has no transparency: transparent parts become yellow</source>
         <translation>%1 kent geen transparantie: transparante delen worden geel</translation>
     </message>
+    <message>
+        <source>%1 is not a folder</source>
+        <translation>%1 is geen map</translation>
+    </message>
 </context>
 <context>
     <name>recipe-action</name>

@@ -18,6 +18,19 @@ namespace jobs {
 using platform::Message;
 using platform::WorkerEnd;
 
+namespace {
+
+constexpr qint64 megabyte = 1 << 20;
+
+/** With so little a worker cannot even begin: it crashes for want of memory before anybody sees how much it has. */
+bool needsMore(WorkerEnd end, const platform::WorkerLimits &limits)
+{
+    constexpr qint64 leastToBegin = 64 * megabyte;
+    return end == WorkerEnd::TookTooMuch || (end == WorkerEnd::Crashed && limits.residentBytes < leastToBegin);
+}
+
+} // namespace
+
 Crew::Crew(const CrewOptions &options, const QByteArray &recipe, const QString &folder)
     : m_options(options), m_size(options.workers > 0 ? options.workers : platform::usableProcessors()),
       m_recipe(recipe), m_folder(folder), m_pool(options.program, options.limits)
@@ -123,7 +136,10 @@ void Crew::takeEnd(Id worker, WorkerEnd end)
             onEnded(worker, end);
         return;
     }
-    m_problem = image::sentence("a worker ended while it read the recipe");
+    m_problem =
+        needsMore(end, m_options.limits)
+            ? image::sentence("a worker needs more than %1 MB of memory").arg(m_options.limits.residentBytes / megabyte)
+            : image::sentence("a worker ended while it read the recipe");
     if (m_wake)
         m_wake();
     else if (onMissing)
@@ -132,17 +148,11 @@ void Crew::takeEnd(Id worker, WorkerEnd end)
 
 QString reasonFor(WorkerEnd end, const platform::WorkerLimits &limits)
 {
-    constexpr qint64 megabyte = 1 << 20;
-    switch (end) {
-    case WorkerEnd::TookTooLong:
-        return image::sentence(QT_TRANSLATE_NOOP("recipe", "it took longer than %1 seconds")).arg(limits.seconds);
-    case WorkerEnd::TookTooMuch:
+    if (needsMore(end, limits))
         return image::sentence(QT_TRANSLATE_NOOP("recipe", "it needs more than %1 MB of memory"))
             .arg(limits.residentBytes / megabyte);
-    case WorkerEnd::Crashed:
-    case WorkerEnd::SpokeNonsense:
-        break;
-    }
+    if (end == WorkerEnd::TookTooLong)
+        return image::sentence(QT_TRANSLATE_NOOP("recipe", "it took longer than %1 seconds")).arg(limits.seconds);
     return image::sentence(QT_TRANSLATE_NOOP("recipe", "its reader crashed"));
 }
 

@@ -95,6 +95,32 @@ class BadRequests(BatchTest):
                 ["--report", "r.quorlin", "r.quorlin", "a.png"], ["--report", "a.png", "r.quorlin", "a.png"]):
             self.assertTrue(self.refuse(*arguments).startswith("quorlin-batch: "), arguments)
 
+    def test_a_file_is_no_folder(self):
+        """Neither the base folder nor one of the recipe's: the sentence says which item is in the way."""
+        png(self.path("a.png"))
+        self.plain(folder="b/c")
+        self.path("file").write_text("here before")
+        self.assertEqual(self.refuse("--to", "file", "r.quorlin", "a.png"), "quorlin-batch: file is not a folder\n")
+        self.assertEqual(self.refuse("--dry-run", "--to", "file", "r.quorlin", "a.png"), "quorlin-batch: file is not a folder\n")
+        self.path("to").mkdir()
+        self.path("to/b").write_text("here before")
+        line = self.lines("--to", "to", "r.quorlin", "a.png", status=1)[0]
+        self.assertEqual(line["reason"], f"{self.path('to/b')} is not a folder")
+        self.assertEqual(self.lines("--to", "file/x", "r.quorlin", "a.png", status=1)[0]["reason"], f"{self.path('file')} is not a folder")
+        self.assertEqual(self.files("to"), ["b"])
+
+    def test_too_little_memory_is_named(self):
+        """Whether the worker ends before it has read the recipe, or over the picture, depends on the moment."""
+        png(self.path("a.png"))
+        self.plain()
+        for memory in (1, 5, 20, 30, 60):
+            with self.start("--to", "out", "--memory", str(memory), "r.quorlin", "a.png") as process:
+                said = process.communicate(timeout=120)[1].decode()
+            self.assertIn(process.returncode, (1, 2))
+            needs = rf"needs more than {memory} MB of memory|needs about [0-9.]+ MB of memory"
+            self.assertRegex(said, needs)
+            self.assertNotRegex(said, "crashed|ended while")
+
     def test_a_list_is_no_report(self):
         png(self.path("a.png"))
         self.plain()

@@ -165,6 +165,10 @@ Request requestFrom(const CommandLine &line)
         request.problem = QStringLiteral("%1 is read, so it cannot be the report").arg(line.report);
         return request;
     }
+    if (!line.to.isEmpty() && platform::itemExists(line.to) && !platform::folderExists(line.to)) {
+        request.problem = QStringLiteral("%1 is not a folder").arg(line.to);
+        return request;
+    }
     request.options.destination = destinationFor(line);
     request.options.isDryRun = line.isDryRun;
     request.options.shard = line.shard;
