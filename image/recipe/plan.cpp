@@ -102,7 +102,10 @@ OutputPlan planned(const Recipe &recipe, const RecipeOutput &output, const Image
     plan.cut = cutOf(recipe.operations, stage);
     chooseRoad(plan, *way, output, source);
     const platform::PixelFacts facts = source.pixelFacts().value_or(platform::PixelFacts());
-    plan.problem = refusalFor(plan, output, way->end, facts.bits);
+    plan.problem =
+        facts.areUnknown && !plan.isLossless
+            ? sentence(QT_TRANSLATE_NOOP("recipe", "Its pixels are compressed in a way that is not supported"))
+            : refusalFor(plan, output, way->end, facts.bits);
     if (!plan.problem.isEmpty())
         return plan;
     plan.leftOut = plan.isLossless ? 0 : source.imageCount() - 1;

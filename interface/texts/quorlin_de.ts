@@ -8380,6 +8380,10 @@
         <source>%1 is not a folder</source>
         <translation>%1 ist kein Ordner</translation>
     </message>
+    <message>
+        <source>Its pixels are compressed in a way that is not supported</source>
+        <translation>Die Pixel sind auf eine Weise komprimiert, die nicht unterstützt wird</translation>
+    </message>
 </context>
 <context>
     <name>recipe-action</name>

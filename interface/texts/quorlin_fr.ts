@@ -8380,6 +8380,10 @@
         <source>%1 is not a folder</source>
         <translation>%1 n’est pas un dossier</translation>
     </message>
+    <message>
+        <source>Its pixels are compressed in a way that is not supported</source>
+        <translation>Ses pixels sont compressés d’une manière non prise en charge</translation>
+    </message>
 </context>
 <context>
     <name>recipe-action</name>

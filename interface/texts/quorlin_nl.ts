@@ -8380,6 +8380,10 @@
         <source>%1 is not a folder</source>
         <translation>%1 is geen map</translation>
     </message>
+    <message>
+        <source>Its pixels are compressed in a way that is not supported</source>
+        <translation>De pixels zijn gecomprimeerd op een manier die niet wordt ondersteund</translation>
+    </message>
 </context>
 <context>
     <name>recipe-action</name>

@@ -85,6 +85,23 @@ class Plans(BatchTest):
             # A JPEG turned without loss is decoded along other rows, which rounds in another way.
             self.assertLessEqual(max(abs(a - b) for a, b in zip(one[54:], other[54:])), 4, line["output"])
 
+    @unittest.skipUnless((PICTURES / "formats/jpeg-in-tiff.tif").exists(), "there is no JPEG in a TIFF")
+    def test_a_plan_knows_that_nobody_decodes_the_pixels(self):
+        """A lossless JPEG in a TIFF: its header tells, and a copy is made of it all the same."""
+        data = (PICTURES / "formats/jpeg-in-tiff.tif").read_bytes()
+        lossless = data.replace(b"\xff\xc0\x00\x11", b"\xff\xc3\x00\x11")
+        self.assertNotEqual(lossless, data)
+        self.path("lossless.tif").write_bytes(lossless)
+        self.path("usual.tif").write_bytes(data)
+        self.recipe({"quorlin": 1, "outputs": [{}, {"type": "png"}]})
+        for flags in ["--dry-run"], []:
+            lines = self.lines("--to", "out", *flags, "r.quorlin", "lossless.tif", "usual.tif", status=1)
+            said = {(Path(line["input"]).stem, line["index"]): line for line in lines}
+            made = "Planned" if flags else "OK"
+            self.assertEqual({key: line["status"] for key, line in said.items()},
+                             {("lossless", 0): made, ("lossless", 1): "Failed", ("usual", 0): made, ("usual", 1): made})
+            self.assertEqual(said["lossless", 1]["reason"], "Its pixels are compressed in a way that is not supported")
+
     def report(self, report, to, *flags):
         pictures = [self.with_bytes_between_segments(), *(str(PICTURES / folder) for folder in FOLDERS)]
         with self.start("--quiet", "--report", report, "--to", to, *flags, "r.quorlin", *pictures) as run:

@@ -4,6 +4,7 @@
 #include "platform/imageio/facts/resolution.h"
 #include "platform/imageio/facts/sample_depth.h"
 #include "platform/imageio/source/opened_file.h"
+#include "platform/imageio/tiff/jpeg_process.h"
 
 namespace platform {
 namespace {
@@ -91,6 +92,7 @@ Result<PixelFacts> ImageSource::pixelFacts() const
         facts.hasAlpha = hasTransparency(image);
         facts.bits = bytesPerComponent(image) * bitsPerByte;
         facts.iccProfile = iccProfileOf(image);
+        facts.areUnknown = m_file->content == Content::Tiff && hasUnknownJpegProcess(*m_file->bytes.openedDevice());
         return facts;
     } catch (const vips::VError &error) {
         return unreadable(m_file->name(), takeVipsError(error));

@@ -33,6 +33,8 @@ struct PixelFacts
     bool hasAlpha = false;
     int bits = 8;          ///< per component, as decoded: 8, 16, or 32 for floating point
     QByteArray iccProfile; ///< empty if there is none
+    /** They are compressed in a way that no decoder here knows, though the rest of the file can be read. */
+    bool areUnknown = false;
 };
 
 /**
