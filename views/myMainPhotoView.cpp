@@ -26,7 +26,7 @@ void myMainPhotoView::setImageWithPath(const QString &path)
 void myMainPhotoView::setImageWithPath2(const QString &path)
 {
     pImage = Picture::opened(path);
-    pImageOrig = Picture::opened(path);
+    pImageOrig = pImage;
     views::publishBounds(m_stage.boundsSize());
     pImageLoaded = true;
     applyMode();

@@ -12,12 +12,15 @@
 #include <QVarLengthArray>
 
 #include <cmath>
+#include <ctime>
 
 namespace script {
 namespace {
 
 /** The garbage collector cannot see native pixel memory, so we trigger it after this many bytes or values. */
 constexpr qint64 bytesBetweenCollections = 96'000'000;
+/** The same while a collection takes next to no time, as in a script without windows. */
+constexpr qint64 bytesBetweenQuickCollections = 6'000'000;
 constexpr int valuesBetweenCollections = 64;
 
 constexpr const char *propertyOfEngine = "quorlinSeam";
@@ -38,6 +41,14 @@ qint64 pixelBytes(const QVariant &value)
     if (value.metaType() == QMetaType::fromType<platform::Bitmap>())
         return byteCount(value.value<platform::Bitmap>());
     return 0;
+}
+
+double secondsOfThread()
+{
+    constexpr double nanosecond = 1e-9;
+    timespec time = {};
+    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return double(time.tv_sec) + nanosecond * double(time.tv_nsec);
 }
 
 QString arityText(const Operation &operation, int received)
@@ -401,11 +412,15 @@ void Seam::collectAfterPixels(const QVariant &value, Kind kind)
         return;
     m_pixelBytesHandedOut += pixelBytes(value);
     ++m_pixelValuesHandedOut;
-    if (m_pixelBytesHandedOut < bytesBetweenCollections && m_pixelValuesHandedOut < valuesBetweenCollections)
+    const qint64 most = m_isQuickToCollect ? bytesBetweenQuickCollections : bytesBetweenCollections;
+    if (m_pixelBytesHandedOut < most && m_pixelValuesHandedOut < valuesBetweenCollections)
         return;
     m_pixelBytesHandedOut = 0;
     m_pixelValuesHandedOut = 0;
+    const double before = secondsOfThread();
     m_engine.collectGarbage();
+    constexpr double quick = 0.003;
+    m_isQuickToCollect = secondsOfThread() - before < quick;
 }
 
 QJSValue Seam::read(const QVariant &native, int fieldId, const QJSValue &kept)

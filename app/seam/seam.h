@@ -167,6 +167,7 @@ private:
     QJSValue m_itself;
     qint64 m_pixelBytesHandedOut = 0;
     int m_pixelValuesHandedOut = 0;
+    bool m_isQuickToCollect = true;
 };
 
 } // namespace script

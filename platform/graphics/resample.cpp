@@ -1,6 +1,7 @@
 #include "platform/graphics/resample.h"
 
 #include "platform/graphics/pixels.h"
+#include "platform/planes/plane_colours.h"
 
 #include <QCoreApplication>
 
@@ -34,16 +35,9 @@ QImage placedRows(const QImage &rgb, QPoint corner, QSize size)
 {
     QImage canvas(size, QImage::Format_RGBA8888);
     canvas.fill(Qt::transparent);
-    constexpr int bands = 3;
-    constexpr int opaque = 255;
-    for (int y = 0; y < rgb.height() && !canvas.isNull(); ++y) {
-        const uchar *from = rgb.constScanLine(y);
-        uchar *to = canvas.scanLine(corner.y() + y) + ptrdiff_t(bands + 1) * corner.x();
-        for (int x = 0; x < rgb.width(); ++x, from += bands, to += bands + 1) {
-            std::copy_n(from, bands, to);
-            to[bands] = opaque;
-        }
-    }
+    constexpr int bands = 4;
+    for (int y = 0; y < rgb.height() && !canvas.isNull(); ++y)
+        addAlpha(rgb.constScanLine(y), canvas.scanLine(corner.y() + y) + ptrdiff_t(bands) * corner.x(), rgb.width());
     return canvas;
 }
 

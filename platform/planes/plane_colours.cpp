@@ -35,4 +35,15 @@ QUORLIN_FAST_LOOP void coloursOf(const uchar *brightness, const uchar *blueness,
     }
 }
 
+QUORLIN_FAST_LOOP void addAlpha(const uchar *__restrict rgb, uchar *__restrict rgba, int count)
+{
+    constexpr uchar opaque = 255;
+    for (int x = 0; x < count; ++x) {
+        rgba[4 * x] = rgb[3 * x];
+        rgba[4 * x + 1] = rgb[3 * x + 1];
+        rgba[4 * x + 2] = rgb[3 * x + 2];
+        rgba[4 * x + 3] = opaque;
+    }
+}
+
 } // namespace platform

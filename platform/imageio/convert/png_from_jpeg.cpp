@@ -12,6 +12,7 @@
 #include "platform/imageio/png/png_rows.h"
 #include "platform/imageio/source/opened_file.h"
 
+#include <memory>
 #include <new>
 #include <utility>
 
@@ -44,7 +45,7 @@ public:
         : m_rows(jpeg, shape ? JpegRows::Order::RedFirstAlphaLast : JpegRows::Order::RedFirst)
     {
         if (shape && m_rows.isGood())
-            m_shape.emplace(*shape, m_rows.size().width());
+            m_shape = std::make_unique<ShapeRows>(*shape, m_rows.size().width());
     }
 
     bool isGood() const { return m_rows.isGood(); }
@@ -66,7 +67,7 @@ private:
     bool isGrey() const { return m_rows.bands() == 1; }
 
     JpegRows m_rows;
-    std::optional<ShapeRows> m_shape;
+    std::unique_ptr<ShapeRows> m_shape;
 };
 
 /** The rows of the new file, and its facts; the source of the pixels is freed when this returns. */

@@ -1,6 +1,7 @@
 #include "platform/imageio/encode/image_destination.h"
 
 #include "platform/file/atomic_file.h"
+#include "platform/file/replacement_file.h"
 #include "platform/foundation/memory_left.h"
 #include "platform/graphics/compose.h"
 #include "platform/imageio/codecs/codecs.h"
@@ -55,6 +56,29 @@ Result<QByteArray> encodePixels(const Bitmap &bitmap, FileFormat format, const E
     return encodedPixels(image, format, how);
 }
 
+/** Writes rows as a TIFF file without metadata, straight from where they are; false if this way is not possible. */
+Result<bool> writeRowsAsTiff(const QString &path, const Bitmap &bitmap, FileFormat format, const EncodeOptions &options)
+{
+    const bool isPlain = options.metadata.isEmpty() && options.carried == Carried::Blocks;
+    if (bitmap.isNull() || format != FileFormat::Tiff || !isPlain || bitmap.pixels().rows().isNull())
+        return false;
+    const Bitmap::Pixels &pixels = bitmap.pixels();
+    const QImage &rows = pixels.rows();
+    const auto ends = plainTiffEnds(rows, pixels.profile(), writtenResolution(pixels.resolution, options));
+    if (!ends)
+        return false;
+    const qint64 rowBytes = qint64(rows.width()) * pixels.bands();
+    const bool isOnePiece = rows.bytesPerLine() == rowBytes;
+    ReplacementFile file(path);
+    file.write(0, ends->head);
+    qint64 at = ends->head.size();
+    const qint64 piece = isOnePiece ? rowBytes * rows.height() : rowBytes;
+    for (int y = 0; y < rows.height(); y += isOnePiece ? rows.height() : 1, at += piece)
+        file.write(at, reinterpret_cast<const char *>(rows.constScanLine(y)), piece);
+    file.write(at, ends->tail);
+    return file.takePlace().map([] { return true; });
+}
+
 } // namespace
 
 bool holdsProfile(FileFormat format, const QByteArray &iccProfile)
@@ -94,6 +118,8 @@ Result<QByteArray> encodeImage(const Bitmap &bitmap, FileFormat format, const En
 
 Result<void> writeImageFile(const QString &path, const Bitmap &bitmap, FileFormat format, const EncodeOptions &options)
 {
+    if (const Result<bool> written = writeRowsAsTiff(path, bitmap, format, options); !written || *written)
+        return written.map([](bool) {});
     const Result<QByteArray> encoded = encodeImage(bitmap, format, options);
     if (!encoded)
         return tl::unexpected<Error>(encoded.error());

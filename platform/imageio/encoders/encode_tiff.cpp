@@ -66,34 +66,41 @@ struct Strips
     QList<quint32> sizes;
 };
 
-Strips stripsOf(const vips::VImage &image, quint32 start)
-{
-    Strips strips;
-    const auto rowBytes = quint32(VIPS_IMAGE_SIZEOF_LINE(image.get_image()));
-    for (int y = 0; y < image.height(); y += rowsPerStrip) {
-        strips.offsets.append(start + rowBytes * quint32(y));
-        strips.sizes.append(rowBytes * quint32(std::min(rowsPerStrip, image.height() - y)));
-    }
-    return strips;
-}
-
-void addProfile(DirectoryWriter &directory, const vips::VImage &image)
-{
-    const QByteArray profile = iccProfileOf(image);
-    if (!profile.isEmpty())
-        directory.add(tiffTag::profile, tiffType::undefinedType, quint32(profile.size()), profile);
-}
-
 struct ColourModel
 {
     quint16 photometric;
     int colours;
 };
 
+constexpr ColourModel minIsBlack = {1, 1};
+constexpr ColourModel rgb = {2, 3};
+
+/** What the directory says about the pixels. */
+struct PixelKind
+{
+    QSize size;
+    ColourModel model;
+    int bands = 0;
+    int componentBytes = 1;
+    bool hasTransparency = false;
+    bool isFloat = false;
+    QByteArray profile;
+
+    quint32 rowBytes() const { return quint32(size.width()) * quint32(bands * componentBytes); }
+};
+
+Strips stripsOf(const PixelKind &kind, quint32 start)
+{
+    Strips strips;
+    for (int y = 0; y < kind.size.height(); y += rowsPerStrip) {
+        strips.offsets.append(start + kind.rowBytes() * quint32(y));
+        strips.sizes.append(kind.rowBytes() * quint32(std::min(rowsPerStrip, kind.size.height() - y)));
+    }
+    return strips;
+}
+
 ColourModel modelOf(const vips::VImage &image)
 {
-    constexpr ColourModel minIsBlack = {1, 1};
-    constexpr ColourModel rgb = {2, 3};
     constexpr ColourModel separated = {5, 4};
     constexpr ColourModel lab = {8, 3};
     switch (image.interpretation()) {
@@ -107,6 +114,51 @@ ColourModel modelOf(const vips::VImage &image)
     default:
         return rgb;
     }
+}
+
+PixelKind kindOf(const vips::VImage &image)
+{
+    const ColourModel model = modelOf(image);
+    const bool hasTransparency = image.bands() - model.colours > otherBands(image);
+    return {{image.width(), image.height()},
+            model,
+            image.bands(),
+            bytesPerComponent(image),
+            hasTransparency,
+            image.format() == VIPS_FORMAT_FLOAT,
+            iccProfileOf(image)};
+}
+
+FileEnds endsOf(const PixelKind &kind, Resolution resolution, qint64 tailAt)
+{
+    constexpr double defaultDpi = 72;
+    const Strips strips = stripsOf(kind, plainTiffHeadBytes);
+    const double across = resolution.horizontal > 0 ? resolution.horizontal : defaultDpi;
+    DirectoryWriter directory(tailAt); // tags in ascending order, as the format requires
+    directory.addLongs(tiffTag::width, {quint32(kind.size.width())});
+    directory.addLongs(tiffTag::height, {quint32(kind.size.height())});
+    directory.addShorts(tiffTag::bits, QList<quint16>(kind.bands, quint16(kind.componentBytes * 8)));
+    directory.add(tiffTag::compression, 1); // not compressed
+    directory.add(tiffTag::photometric, kind.model.photometric);
+    directory.addLongs(tiffTag::stripOffsets, strips.offsets);
+    directory.add(tiffTag::orientation, 1);
+    directory.add(tiffTag::samplesPerPixel, quint16(kind.bands));
+    directory.addLongs(tiffTag::rowsPerStrip, {quint32(rowsPerStrip)});
+    directory.addLongs(tiffTag::stripSizes, strips.sizes);
+    directory.addFraction(tiffTag::resolutionAcross, across);
+    directory.addFraction(tiffTag::resolutionDown, resolution.vertical > 0 ? resolution.vertical : across);
+    directory.add(tiffTag::planarConfiguration, 1); // interleaved components
+    directory.add(tiffTag::resolutionUnit, 2);      // inches
+    QList<quint16> others(kind.bands - kind.model.colours, 0);
+    if (!others.isEmpty()) {
+        others.first() = kind.hasTransparency ? 2 : 0; // 2: transparency, not premultiplied
+        directory.addShorts(tiffTag::extraSamples, others);
+    }
+    if (kind.isFloat)
+        directory.addShorts(tiffTag::sampleFormat, QList<quint16>(kind.bands, 3));
+    if (!kind.profile.isEmpty())
+        directory.add(tiffTag::profile, tiffType::undefinedType, quint32(kind.profile.size()), kind.profile);
+    return directory.finished();
 }
 
 /** Lab in the format's representation: integers, the two colours signed; @p image is in floating point. */
@@ -146,34 +198,18 @@ bool isPlainTiff(const vips::VImage &image)
 
 FileEnds plainTiffEnds(const vips::VImage &image, Resolution resolution, qint64 tailAt)
 {
-    constexpr double defaultDpi = 72;
-    const ColourModel model = modelOf(image);
-    const Strips strips = stripsOf(image, plainTiffHeadBytes);
-    const double across = resolution.horizontal > 0 ? resolution.horizontal : defaultDpi;
-    DirectoryWriter directory(tailAt); // tags in ascending order, as the format requires
-    directory.addLongs(tiffTag::width, {quint32(image.width())});
-    directory.addLongs(tiffTag::height, {quint32(image.height())});
-    directory.addShorts(tiffTag::bits, QList<quint16>(image.bands(), quint16(bytesPerComponent(image) * 8)));
-    directory.add(tiffTag::compression, 1); // not compressed
-    directory.add(tiffTag::photometric, model.photometric);
-    directory.addLongs(tiffTag::stripOffsets, strips.offsets);
-    directory.add(tiffTag::orientation, 1);
-    directory.add(tiffTag::samplesPerPixel, quint16(image.bands()));
-    directory.addLongs(tiffTag::rowsPerStrip, {quint32(rowsPerStrip)});
-    directory.addLongs(tiffTag::stripSizes, strips.sizes);
-    directory.addFraction(tiffTag::resolutionAcross, across);
-    directory.addFraction(tiffTag::resolutionDown, resolution.vertical > 0 ? resolution.vertical : across);
-    directory.add(tiffTag::planarConfiguration, 1); // interleaved components
-    directory.add(tiffTag::resolutionUnit, 2);      // inches
-    QList<quint16> others(image.bands() - model.colours, 0);
-    if (!others.isEmpty()) {
-        others.first() = others.size() > otherBands(image) ? 2 : 0; // 2: transparency, not premultiplied
-        directory.addShorts(tiffTag::extraSamples, others);
-    }
-    if (image.format() == VIPS_FORMAT_FLOAT)
-        directory.addShorts(tiffTag::sampleFormat, QList<quint16>(image.bands(), 3));
-    addProfile(directory, image);
-    return directory.finished();
+    return endsOf(kindOf(image), resolution, tailAt);
+}
+
+std::optional<FileEnds> plainTiffEnds(const QImage &rows, const QByteArray &profile, Resolution resolution)
+{
+    const int bands = rows.depth() / 8;
+    const ColourModel model = bands == 1 ? minIsBlack : rgb;
+    const PixelKind kind = {rows.size(), model, bands, 1, bands > model.colours, false, profile};
+    const qint64 size = qint64(kind.rowBytes()) * rows.height();
+    if (quint64(size) >= mostBytes)
+        return std::nullopt;
+    return endsOf(kind, resolution, plainTiffHeadBytes + size);
 }
 
 QByteArray encodePlainTiff(const vips::VImage &image, Resolution resolution)

@@ -77,6 +77,8 @@ bool isPlainTiff(const vips::VImage &image);
  * the tail: after head and pixels, or elsewhere if the pixels are left out at first.
  */
 FileEnds plainTiffEnds(const vips::VImage &image, Resolution resolution, qint64 tailAt);
+/** The same for the rows of a bitmap, which come between the two; none if they are too large. */
+std::optional<FileEnds> plainTiffEnds(const QImage &rows, const QByteArray &profile, Resolution resolution);
 /** The length of its head. */
 constexpr qint64 plainTiffHeadBytes = 8;
 

@@ -44,10 +44,11 @@ QImage pixelsOf(const std::vector<Plane> &planes)
 
 std::optional<QImage> pixelsOfPlanes(const QByteArray &jpeg, const PlaneFacts &facts, int shrink, QSize size)
 {
-    const std::optional<DecodedPlanes> decoded = decodedPlanes(jpeg, shrink);
+    std::optional<DecodedPlanes> decoded = decodedPlanes(jpeg, shrink);
     const QSizeF step(double(facts.stored.width()) / shrink / size.width(),
                       double(facts.stored.height()) / shrink / size.height());
     const auto planes = decoded ? scaledPlanes(*decoded, step, size) : std::nullopt;
+    decoded.reset(); // three times as large as what is left of them
     return planes ? std::optional(pixelsOf(*planes)) : std::nullopt;
 }
 

@@ -131,6 +131,8 @@ void setTopLevel(Metadata::Blocks &blocks, const QVariantMap &properties)
 
 Metadata Metadata::fromProperties(const QVariantMap &properties)
 {
+    if (properties.isEmpty())
+        return {};
     startMetadataLibrary();
     auto blocks = std::make_shared<Blocks>();
     blocks->byteOrder = madeByteOrder;

@@ -1,7 +1,9 @@
 #include "platform/imageio/source/screen_pixels.h"
 
 #include "platform/graphics/resample.h"
+#include "platform/imageio/encode/image_destination.h"
 #include "tests/support/expected_pictures.h"
+#include "tests/support/scratch_folder.h"
 #include "tests/support/test_program.h"
 #include "tests/unit/platform/imageio/jpeg/jpeg_difference.h"
 
@@ -32,6 +34,7 @@ private Q_SLOTS:
     void areAsGoodAsTheLongWayAtAnySize();
     void areTheSameForThePixelLibrary_data();
     void areTheSameForThePixelLibrary();
+    void becomeTheSameTiffStraightFromTheRows();
     void areUpright_data();
     void areUpright();
     void leaveOtherPicturesToTheLongWay_data();
@@ -172,6 +175,40 @@ void ScreenPixels::leaveOtherPicturesToTheLongWay()
     const auto odd = ImageSource::fromData(damaged);
     QVERIFY(odd);
     QVERIFY(!platform::screenPixelsOf(*odd, {50, 25}));
+}
+
+/** Grey, RGB, and RGB on a transparent page, of any size. Encoding them in memory takes the pixel library. */
+void ScreenPixels::becomeTheSameTiffStraightFromTheRows()
+{
+    const ScratchFolder folder;
+    const auto profiled = ImageSource::open(picturePath("exif-real/Canon_40D.jpg"));
+    QVERIFY(profiled && !profiled->iccProfile().isEmpty());
+    QRandomGenerator random(64);
+    for (int i = 0; i < tests::repetitions(20, 500); ++i) {
+        const QSize size(random.bounded(100, 500), random.bounded(100, 500));
+        const QImage image = photograph(size, quint32(i))
+                                 .convertToFormat(i % 3 == 0 ? QImage::Format_Grayscale8 : QImage::Format_RGB888);
+        const auto made = ImageSource::fromData(jpegOf(Bitmap::fromImage(image), 85));
+        const ImageSource &source = i % 4 == 3 ? *profiled : *made;
+        const QSize most(source.uprightSize().width() / 2, source.uprightSize().height() / 2);
+        const QSize wanted(random.bounded(most.width() * 2 / 3, most.width() + 1),
+                           random.bounded(most.height() * 2 / 3, most.height() + 1));
+        const auto shown = platform::screenPixelsOf(source, wanted);
+        QVERIFY(shown);
+        const QSize page(wanted + QSize(random.bounded(9), random.bounded(9)));
+        const Bitmap bitmap = i % 2 == 0 ? *shown : platform::placed(*shown, {0, 0}, page).value();
+        const Bitmap stated = i % 5 < 2 ? bitmap.withDpi(300.5, i % 5 == 0 ? 0 : 150) : bitmap;
+        platform::EncodeOptions options;
+        options.resolution = i % 7 == 0 ? platform::WriteResolution::No : platform::WriteResolution::Yes;
+        QVERIFY(platform::writeImageFile(folder.path("shown.tiff"), stated, platform::FileFormat::Tiff, options));
+        QCOMPARE(folder.read("shown.tiff"),
+                 platform::encodeImage(stated, platform::FileFormat::Tiff, options).value_or(QByteArray()));
+    }
+    const auto small = platform::screenPixelsOf(*profiled, {20, 14});
+    QVERIFY(small);
+    const auto written = platform::writeImageFile(folder.path("nowhere/a.tiff"), *small, platform::FileFormat::Tiff);
+    QVERIFY(!written && written.error().code == platform::ErrorCode::WriteFailed);
+    QCOMPARE(folder.names(), QStringList{QStringLiteral("shown.tiff")});
 }
 
 QUORLIN_TEST(ScreenPixels)
