@@ -180,7 +180,12 @@ QSize largestThat(const std::function<bool(QSize)> &fits, QSize size)
 QString refusalFor(const OutputPlan &plan, const RecipeOutput &output, const Stage &end, int bits)
 {
     constexpr qint64 most = 3LL << 29; // leaves a worker room for the pixels within its limit
-    if (plan.type != OutputType::JpegXl || plan.isLossless)
+    if (plan.isLossless)
+        return {};
+    const std::optional<FileFormat> format = formatFor(plan.type);
+    if (const auto fitting = format ? platform::sidesFit(plan.size, *format) : platform::Result<void>(); !fitting)
+        return fitting.error().message;
+    if (plan.type != OutputType::JpegXl)
         return {};
     const int bands = (end.isGray ? 1 : 3) + (end.hasAlpha ? 1 : 0);
     const auto fits = [&](QSize size) {

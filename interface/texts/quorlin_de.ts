@@ -6213,10 +6213,6 @@
         <translation>Das JPEG konnte nicht erzeugt werden: %1</translation>
     </message>
     <message>
-        <source>A WebP file can have at most %1 pixels on a side, not %2</source>
-        <translation>Eine WebP-Datei fasst höchstens %1 Pixel je Seite, nicht %2</translation>
-    </message>
-    <message>
         <source>Writing the picture</source>
         <translation>Das Schreiben des Bildes</translation>
     </message>
@@ -6323,6 +6319,10 @@
     <message>
         <source>no such file</source>
         <translation>keine solche Datei</translation>
+    </message>
+    <message>
+        <source>%1 files can have at most %2 pixels on a side, not %3</source>
+        <translation>%1-Dateien fassen höchstens %2 Pixel je Seite, nicht %3</translation>
     </message>
 </context>
 <context>

@@ -6213,10 +6213,6 @@
         <translation>Le JPEG n’a pas pu être créé&#x202f;: %1</translation>
     </message>
     <message>
-        <source>A WebP file can have at most %1 pixels on a side, not %2</source>
-        <translation>Un fichier WebP contient au plus %1 pixels par côté, et non %2</translation>
-    </message>
-    <message>
         <source>Writing the picture</source>
         <translation>L’écriture de l’image</translation>
     </message>
@@ -6323,6 +6319,10 @@
     <message>
         <source>no such file</source>
         <translation>fichier introuvable</translation>
+    </message>
+    <message>
+        <source>%1 files can have at most %2 pixels on a side, not %3</source>
+        <translation>Les fichiers %1 peuvent avoir au plus %2 pixels par côté, et non %3</translation>
     </message>
 </context>
 <context>

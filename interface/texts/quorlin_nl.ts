@@ -6213,10 +6213,6 @@
         <translation>De JPEG kon niet worden gemaakt: %1</translation>
     </message>
     <message>
-        <source>A WebP file can have at most %1 pixels on a side, not %2</source>
-        <translation>Een WebP-bestand bevat hoogstens %1 pixels per zijde, niet %2</translation>
-    </message>
-    <message>
         <source>Writing the picture</source>
         <translation>Het schrijven van de foto</translation>
     </message>
@@ -6323,6 +6319,10 @@
     <message>
         <source>no such file</source>
         <translation>bestand niet gevonden</translation>
+    </message>
+    <message>
+        <source>%1 files can have at most %2 pixels on a side, not %3</source>
+        <translation>%1-bestanden kunnen hoogstens %2 pixels per zijde hebben, niet %3</translation>
     </message>
 </context>
 <context>

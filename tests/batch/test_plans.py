@@ -13,7 +13,7 @@ import unittest
 from pathlib import Path
 
 import batch_world
-from batch_world import BatchTest
+from batch_world import BatchTest, png
 
 PICTURES = Path(sys.argv.pop(2) if len(sys.argv) > 2 else "").resolve()
 FOLDERS = [name for name in ("formats", "broken", "found", "orientation") if (PICTURES / name).is_dir()]
@@ -101,6 +101,23 @@ class Plans(BatchTest):
             self.assertEqual({key: line["status"] for key, line in said.items()},
                              {("lossless", 0): made, ("lossless", 1): "Failed", ("usual", 0): made, ("usual", 1): made})
             self.assertEqual(said["lossless", 1]["reason"], "Its pixels are compressed in a way that is not supported")
+
+    def test_a_plan_knows_how_long_a_side_can_be(self):
+        """Of each type the longest picture is made and opens again, and the next one is refused before it is encoded."""
+        longest = {"webp": 16383, "avif": 16384, "jpeg": 65500, "gif": 65535}
+        self.recipe({"quorlin": 1, "outputs": [{"type": word} for word in longest]})
+        sides = {each + more for each in longest.values() for more in (0, 1)}
+        for side in sides:
+            png(self.path(f"in/{side}.png"), *((side, 1) if side % 2 else (1, side)))
+        for flags in ["--dry-run"], []:
+            for line in self.lines("--to", "out", *flags, "r.quorlin", "in", status=1):
+                side, most = int(Path(line["input"]).stem), longest[line["type"]]
+                self.assertEqual(line["status"], "Failed" if side > most else "Planned" if flags else "OK", line)
+                if side > most:
+                    self.assertRegex(line["reason"], f" files can have at most {most} pixels on a side, not {side}$")
+        self.recipe({"quorlin": 1, "outputs": [{"type": "png"}]})
+        made = {max(line["width"], line["height"]) for line in self.lines("--to", "again", "r.quorlin", "out")}
+        self.assertEqual(made, {side for side in sides if side <= max(longest.values())})
 
     def report(self, report, to, *flags):
         pictures = [self.with_bytes_between_segments(), *(str(PICTURES / folder) for folder in FOLDERS)]

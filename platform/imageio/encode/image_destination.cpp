@@ -25,16 +25,27 @@ Result<Bitmap> onMatte(const Bitmap &bitmap, FileFormat format, const EncodeOpti
     return isNeeded ? laidOn(bitmap, *options.matte) : Result<Bitmap>(bitmap);
 }
 
-/** Why the picture cannot be written in this format, regardless of memory. */
-Result<void> fits(const Bitmap &bitmap, FileFormat format)
+/** How many pixels a side can have, and what the type is called; 0: no limit that a picture could reach. */
+struct Sides
 {
-    const int longest = std::max(bitmap.width(), bitmap.height());
-    if (format != FileFormat::Webp || longest <= longestWebpSide)
+    int longest = 0;
+    const char *name = "";
+};
+
+Sides sidesOf(FileFormat format)
+{
+    switch (format) {
+    case FileFormat::Jpeg:
+        return {65500, "JPEG"};
+    case FileFormat::Gif:
+        return {65535, "GIF"};
+    case FileFormat::Webp:
+        return {longestWebpSide, "WebP"};
+    case FileFormat::Avif: // as many as the decoder accepts
+        return {16384, "AVIF"};
+    default:
         return {};
-    return failure(ErrorCode::TooLarge,
-                   QCoreApplication::translate("platform", "A WebP file can have at most %1 pixels on a side, not %2")
-                       .arg(longestWebpSide)
-                       .arg(longest));
+    }
 }
 
 Result<QByteArray> encodePixels(const Bitmap &bitmap, FileFormat format, const EncodeOptions &options)
@@ -81,6 +92,19 @@ Result<bool> writeRowsAsTiff(const QString &path, const Bitmap &bitmap, FileForm
 
 } // namespace
 
+Result<void> sidesFit(QSize size, FileFormat format)
+{
+    const Sides sides = sidesOf(format);
+    const int longest = std::max(size.width(), size.height());
+    if (sides.longest == 0 || longest <= sides.longest)
+        return {};
+    return failure(ErrorCode::TooLarge,
+                   QCoreApplication::translate("platform", "%1 files can have at most %2 pixels on a side, not %3")
+                       .arg(QLatin1String(sides.name))
+                       .arg(sides.longest)
+                       .arg(longest));
+}
+
 bool holdsProfile(FileFormat format, const QByteArray &iccProfile)
 {
     const Kept kept = formatOf(format).keeps.profile;
@@ -94,7 +118,7 @@ Result<QByteArray> encodeImage(const Bitmap &bitmap, FileFormat format, const En
                        QCoreApplication::translate("platform", "There is no picture to write"));
     try {
         initVips();
-        if (const auto fitting = fits(bitmap, format); !fitting)
+        if (const auto fitting = sidesFit(bitmap.size(), format); !fitting)
             return tl::unexpected<Error>(fitting.error());
         const auto left = memoryIsLeftFor(
             memoryNeedOfWriting(format, bitmap.pixels().image(), options.isLossless ? Loss::None : Loss::Some),

@@ -10,6 +10,9 @@
 
 namespace platform {
 
+/** Fails with TooLarge if a picture of @p size has more pixels on a side than a file of @p format can have. */
+Result<void> sidesFit(QSize size, FileFormat format);
+
 /** Whether a file of @p format can hold that profile; true for an empty one. If not, colours become sRGB. */
 bool holdsProfile(FileFormat format, const QByteArray &iccProfile);
 
