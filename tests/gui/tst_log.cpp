@@ -1,6 +1,7 @@
 #include "tests/gui/support/window_driver.h"
 #include "tests/support/test_program.h"
 
+#include "app/models/log_model.h"
 #include "app/window/log/log_table.h"
 #include "app/window/log/run_list.h"
 #include "app/window/preview/compare_preview.h"
@@ -15,6 +16,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTest>
 #include <QUrl>
 
@@ -137,6 +139,42 @@ private Q_SLOTS:
         QVERIFY(!table()->isColumnHidden(window::LogModel::Before));
         runs()->chooseAll();
         QVERIFY(table()->isColumnHidden(window::LogModel::Before));
+    }
+
+    // At each size, also after the other columns of comments were shown.
+    void isNeverScrolledSidewaysByItself()
+    {
+        QByteArray text;
+        for (int i = 0; i < 40; ++i)
+            text += line(QStringLiteral("IMG_20%1.JPG").arg(i), "OK", i < 30 ? "1" : "2", "Resize, longest side 1600");
+        show(text);
+        const auto fits = [this] {
+            return m_driver->waitFor([this] { return table()->horizontalScrollBar()->maximum() == 0; }, 3000);
+        };
+        for (const QSize size : {QSize(1440, 900), QSize(1280, 720), QSize(1440, 900), QSize(1280, 720)}) {
+            m_driver->window().resize(size);
+            QVERIFY(fits());
+            QVERIFY(runs()->choose(QStringLiteral("2"))); // no bar for scrolling down
+            QVERIFY(fits());
+            runs()->chooseAll();
+            QVERIFY(fits());
+            m_driver->choose("logKind", QStringLiteral("comments"));
+            QVERIFY(fits());
+            m_driver->choose("logKind", QString());
+            QVERIFY(fits());
+            const QModelIndex first = table()->model()->index(0, window::LogModel::Action);
+            QVERIFY(table()->columnWidth(window::LogModel::Action) >=
+                    table()->fontMetrics().horizontalAdvance(first.data().toString()) + 15);
+        }
+        // Widths that nobody chose are not kept for a smaller window.
+        m_driver->window().resize(1440, 900);
+        QVERIFY(fits());
+        m_driver->window().close();
+        m_driver->startAgain();
+        m_driver->window().resize(1280, 720);
+        m_driver->show("log");
+        QVERIFY(m_driver->waitFor([this] { return table()->shownCount() == 40; }));
+        QVERIFY(fits());
     }
 
     void searchAndStatusHoldTogether()

@@ -23,6 +23,9 @@ constexpr int shares[] = {0, 20, 18, 29, 17, 0};
 /** The same while comments are shown, which need the most room. */
 constexpr int sharesOfComments[] = {0, 15, 15, 10, 0, 15, 22};
 
+/** Before a stored layout whose widths are not those of the user. */
+constexpr QLatin1Char unchosen('-');
+
 } // namespace
 
 LogTable::LogTable(QWidget *parent) : QTableView(parent)
@@ -64,12 +67,16 @@ int LogTable::chosenCount() const
 
 QString LogTable::columns() const
 {
-    return QString::fromLatin1(horizontalHeader()->saveState().toBase64());
+    const bool areChosen = m_columnsChosen || widths() != m_arranged;
+    return (areChosen ? QString() : QString(unchosen)) +
+           QString::fromLatin1(horizontalHeader()->saveState().toBase64());
 }
 
 void LogTable::setColumns(const QString &kept)
 {
-    m_columnsChosen = !kept.isEmpty() && horizontalHeader()->restoreState(QByteArray::fromBase64(kept.toLatin1()));
+    const bool areChosen = !kept.startsWith(unchosen);
+    const QByteArray state = QByteArray::fromBase64(kept.mid(areChosen ? 0 : 1).toLatin1());
+    m_columnsChosen = !kept.isEmpty() && horizontalHeader()->restoreState(state) && areChosen;
     const QHeaderView *header = horizontalHeader();
     m_model.sort(header->sortIndicatorSection(), header->sortIndicatorOrder());
     showColumns();
@@ -88,6 +95,7 @@ void LogTable::setShowsComments(bool shows)
 void LogTable::showColumns()
 {
     setColumnHidden(LogModel::Result, m_showsComments);
+    setColumnHidden(LogModel::Folder, false);
     setColumnHidden(LogModel::Before, !m_showsComments);
     setColumnHidden(LogModel::After, !m_showsComments);
     arrangeColumns();
@@ -279,23 +287,38 @@ void LogTable::arrangeColumns()
     const int date = dateTimeWidth(fontMetrics()) + paddingPx;
     const int room = viewport()->width() - date;
     setColumnWidth(LogModel::Date, date);
-    const auto arrange = [&](const auto &parts) {
+    const auto arrange = [&](const auto &parts, int last) {
+        setColumnHidden(last, false); // what is hidden has no size
         const auto share = [&](int column) {
-            return qMax(room * parts[column] / 100, horizontalHeader()->sectionSizeHint(column));
+            return parts[column] == 0 ? 0
+                                      : qMax(room * parts[column] / 100, horizontalHeader()->sectionSizeHint(column));
         };
-        int spare = room - horizontalHeader()->sectionSizeHint(m_showsComments ? LogModel::After : LogModel::Folder);
+        int left = room;
         for (int column = LogModel::Action; column < int(std::size(parts)); ++column)
-            spare -= parts[column] > 0 ? share(column) : 0;
+            left -= share(column);
+        const int lacking = qMax(0, m_actionPx - share(LogModel::Action));
+        // Folders that are no more than an ellipsis: the tooltip of the result has them.
+        const bool hidesFolder = last == LogModel::Folder && left - lacking < horizontalHeader()->sectionSizeHint(last);
+        const int rest = hidesFolder ? 0 : horizontalHeader()->sectionSizeHint(last);
+        setColumnHidden(last, hidesFolder);
+        const int given = qBound(0, left - rest, lacking);
         for (int column = LogModel::Action; column < int(std::size(parts)); ++column)
             if (parts[column] > 0)
-                setColumnWidth(column, share(column));
-        // What the words of an action need beyond it, the last column lets go.
-        const int lacking = m_actionPx - share(LogModel::Action);
-        if (lacking > 0 && spare > 0)
-            setColumnWidth(LogModel::Action, share(LogModel::Action) + qMin(lacking, spare));
+                setColumnWidth(column, share(column) + (column == LogModel::Action ? given : 0));
+        // The toolkit stretches the last one, but never makes it narrower than it was told.
+        const int end = hidesFolder ? LogModel::Result : last;
+        setColumnWidth(end, (hidesFolder ? share(end) : 0) + left - given);
     };
-    m_showsComments ? arrange(sharesOfComments) : arrange(shares);
+    m_showsComments ? arrange(sharesOfComments, LogModel::After) : arrange(shares, LogModel::Folder);
     m_arranging = false;
+    m_arranged = widths();
+}
+
+/** Of the columns that are not stretched. */
+std::vector<int> LogTable::widths() const
+{
+    return {columnWidth(LogModel::Date), columnWidth(LogModel::Action), columnWidth(LogModel::File),
+            columnWidth(LogModel::Status)};
 }
 
 } // namespace window

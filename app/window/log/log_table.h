@@ -5,6 +5,8 @@
 #include <QTableView>
 #include <QVariant>
 
+#include <vector>
+
 namespace window {
 
 /**
@@ -81,6 +83,7 @@ protected:
 private:
     void measureActions();
     void arrangeColumns();
+    std::vector<int> widths() const;
     void filter();
     QVariantMap entryMap(int row) const;
     std::vector<int> placesOfChosenEdits() const;
@@ -91,7 +94,8 @@ private:
     LogFilter m_filter;
     bool m_columnsChosen = false; ///< by hand; then their widths are not adjusted
     bool m_arranging = false;
-    int m_actionPx = 0; ///< that the longest action needs
+    std::vector<int> m_arranged; ///< what widths() were then
+    int m_actionPx = 0;          ///< that the longest action needs
     int m_runsMeasured = 0;
     bool m_showsComments = false;
 };
