@@ -6,7 +6,6 @@
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
-#include <QTest>
 
 namespace {
 
@@ -56,7 +55,7 @@ QStringList prepared(const QString &from, const QString &folder)
 
 void save(WindowDriver &driver, const QString &path)
 {
-    QTest::qWait(900);
+    settle(driver);
     driver.window().grab().toImage().convertToFormat(QImage::Format_RGB888).save(path, "PNG", 0);
 }
 
@@ -85,7 +84,7 @@ int main(int argc, char **argv)
         driver.control<QWidget>("central")->setFocus();
         save(driver, name + QStringLiteral(".png"));
         driver.click("addStep");
-        QTest::qWait(200);
+        driver.waitFor([&driver] { return driver.control<QWidget>("addMenu")->isVisible(); });
         driver.control<QWidget>("addMenu")->grab().save(name + QStringLiteral("-menu.png"));
         driver.control<QWidget>("addMenu")->hide();
         driver.click("startButton");
