@@ -20,12 +20,12 @@ namespace platform {
 namespace {
 
 /** Rows, the stream made of them, which may be as large, and the file that they come from. */
-bool isMemoryLeftFor(const PngShape &png, const PlaneFacts &facts, qsizetype fileBytes)
+qint64 memoryNeedOf(const PngShape &png, const PlaneFacts &facts, qsizetype fileBytes)
 {
     constexpr qint64 coefficientBytes = 2;
     const qint64 pixels = qint64(facts.stored.width()) * facts.stored.height();
     const qint64 coefficients = facts.comesInPasses ? coefficientBytes * facts.components * pixels : 0;
-    return 3 * pixels * png.bands + fileBytes + coefficients < memoryLeft();
+    return 3 * pixels * png.bands + fileBytes + coefficients;
 }
 
 /** Grey becomes grey with an opaque alpha, from the last pixel to the first. */
@@ -73,6 +73,13 @@ private:
 /** The rows of the new file, and its facts; the source of the pixels is freed when this returns. */
 std::optional<QByteArray> pngRowsOf(const ImageSource::File &file, const RoundedRect *shape, PngShape &png)
 {
+    constexpr qsizetype usualProfile = 1 << 16;
+    const int usualBands = shape ? 4 : 3;
+    const qint64 left = memoryLeft();
+    // What stays gets its place first, so that the compressed stream can use what is freed behind it.
+    png.resolution = resolutionOf(file.bytes, file.content);
+    png.profile.reserve(usualProfile);
+    std::optional<PngRows> filtered(std::in_place, file.storedSize, usualBands);
     const QByteArray jpeg = file.bytes.all();
     const std::optional<PlaneFacts> facts = planeFacts(jpeg);
     if (!facts || facts->stored != file.storedSize)
@@ -80,16 +87,19 @@ std::optional<QByteArray> pngRowsOf(const ImageSource::File &file, const Rounded
     SeenRows rows(jpeg, shape);
     if (!rows.isGood())
         return std::nullopt;
-    png = {rows.size(), rows.bands(), BITS_IN_JSAMPLE, facts->profile, resolutionOf(file.bytes, file.content)};
-    if (!isMemoryLeftFor(png, *facts, jpeg.size()))
+    png.size = rows.size();
+    png.bands = rows.bands();
+    png.profile.append(facts->profile);
+    if (memoryNeedOf(png, *facts, jpeg.size()) >= left)
         return std::nullopt;
-    PngRows filtered(png.size, png.bands);
+    if (png.bands != usualBands)
+        filtered.emplace(png.size, png.bands);
     for (int y = 0; y < png.size.height(); ++y) {
-        if (!rows.read(filtered.next(), y))
+        if (!rows.read(filtered->next(), y))
             return std::nullopt;
-        filtered.add();
+        filtered->add();
     }
-    return filtered.take();
+    return filtered->take();
 }
 
 std::optional<QByteArray> pngOf(const ImageSource::File &file)
