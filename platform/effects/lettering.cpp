@@ -121,6 +121,8 @@ Result<Bitmap> drawn(const Lettering &lettering)
         return failure(ErrorCode::InvalidValue, QStringLiteral("There is no text to draw"));
     if (lettering.size > largestSize || lettering.text.size() > longest)
         return failure(ErrorCode::TooLarge, QStringLiteral("The text is too large"));
+    if (installedFamilies().isEmpty())
+        return failure(ErrorCode::Unsupported, QStringLiteral("There is no font"));
     try {
         initVips();
         const VImage coverage = coverageOf(lettering);

@@ -4,7 +4,9 @@ import hashlib
 import json
 import os
 import pty
+import shutil
 import sqlite3
+import subprocess
 import unittest
 import zlib
 
@@ -109,17 +111,36 @@ class BadRequests(BatchTest):
         self.assertEqual(self.lines("--to", "file/x", "r.quorlin", "a.png", status=1)[0]["reason"], f"{self.path('file')} is not a folder")
         self.assertEqual(self.files("to"), ["b"])
 
+    def fonts(self, name):
+        """An environment with the fonts of the system and a cache of its own for them."""
+        self.path(name).write_text(f"<fontconfig><dir>/usr/share/fonts</dir><cachedir>{self.path(name + '-cache')}</cachedir></fontconfig>")
+        return {"FONTCONFIG_FILE": str(self.path(name))}
+
     def test_too_little_memory_is_named(self):
         """Whether the worker ends before it has read the recipe, or over the picture, depends on the moment."""
         png(self.path("a.png"))
         self.plain()
+        fonts = self.fonts("fonts")
         for memory in (1, 5, 20, 30, 60):
-            with self.start("--to", "out", "--memory", str(memory), "r.quorlin", "a.png") as process:
+            with self.start("--to", "out", "--memory", str(memory), "r.quorlin", "a.png", env=fonts) as process:
                 said = process.communicate(timeout=120)[1].decode()
             self.assertIn(process.returncode, (1, 2))
             needs = rf"needs more than {memory} MB of memory|needs about [0-9.]+ MB of memory"
             self.assertRegex(said, needs)
             self.assertNotRegex(said, "crashed|ended while")
+
+    @unittest.skipUnless(shutil.which("fc-list"), "nothing lists fonts")
+    def test_too_little_memory_loses_no_fonts(self):
+        """What a worker finds of fonts is kept for all programs, so it looks for them while it has memory."""
+        png(self.path("a.png"))
+        self.plain()
+        fonts, others = self.fonts("fonts"), self.fonts("others")
+        for memory in (1, 5, 10, 20, 30, 60):
+            with self.start("--to", "out", "--memory", str(memory), "r.quorlin", "a.png", env=fonts) as process:
+                process.communicate(timeout=120)
+        listed = [sorted(subprocess.run(["fc-list"], env={**os.environ, **each}, stdout=subprocess.PIPE, check=True).stdout.splitlines())
+                  for each in (fonts, others)]
+        self.assertEqual(*listed)
 
     def test_a_list_is_no_report(self):
         png(self.path("a.png"))

@@ -60,11 +60,13 @@ int runWorker(int count, char **arguments, const jobs::WorkerTrial &trial)
         return EXIT_FAILURE;
     platform::endWithParent(std::atoi(arguments[1]));
     limit(RLIMIT_CORE, 0); // no pictures of users are around
+    // Before memory is short: the font library would find no font, and write that to the cache of all programs.
+    const auto folders = platform::systemFolders();
     limitAddresses(std::atoll(arguments[2]));
     const QCoreApplication application(count, arguments);
     const Tables tables(arguments + own, arguments + count);
     platform::prepareForPictures(1);
-    const platform::Confinement active = platform::confine(platform::systemFolders());
+    const platform::Confinement active = platform::confine(folders);
     platform::MessageSocket socket(platform::Descriptor(platform::workerSocket), platform::MessageSocket::Files::Taken);
     const auto tell = [&socket](quint16 kind) {
         platform::Message message;
