@@ -5,6 +5,8 @@
 #include "platform/imageio/encode/image_destination.h"
 #include "platform/imageio/source/image_source.h"
 
+#include <QBuffer>
+#include <QColorSpace>
 #include <QImage>
 #include <QRandomGenerator>
 
@@ -36,6 +38,14 @@ inline QByteArray jpegOf(const platform::Bitmap &bitmap, int quality)
     platform::EncodeOptions options;
     options.quality = quality;
     return platform::encodeImage(bitmap, platform::FileFormat::Jpeg, options).value_or(QByteArray());
+}
+
+/** With the profile of a colour space, as another program writes it. */
+inline QByteArray profiledJpegOf(QImage image, const QColorSpace &space)
+{
+    image.setColorSpace(space);
+    QBuffer file;
+    return file.open(QIODevice::WriteOnly) && image.save(&file, "JPEG", 90) ? file.data() : QByteArray();
 }
 
 inline QImage pixelsOf(const QByteArray &file)

@@ -181,7 +181,8 @@ void ScreenPixels::leaveOtherPicturesToTheLongWay()
 void ScreenPixels::becomeTheSameTiffStraightFromTheRows()
 {
     const ScratchFolder folder;
-    const auto profiled = ImageSource::open(picturePath("exif-real/Canon_40D.jpg"));
+    const QByteArray wide = tests::profiledJpegOf(photograph({300, 200}, 64), QColorSpace::AdobeRgb);
+    const auto profiled = ImageSource::fromData(wide);
     QVERIFY(profiled && !profiled->iccProfile().isEmpty());
     QRandomGenerator random(64);
     for (int i = 0; i < tests::repetitions(20, 500); ++i) {
