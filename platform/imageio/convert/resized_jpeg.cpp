@@ -12,7 +12,7 @@
 #include <new>
 #include <utility>
 
-#include <vips/vector.h>
+#include <vips/version.h>
 
 namespace platform {
 namespace {
@@ -71,12 +71,14 @@ struct Direction
     }
 };
 
-/** The pixel library rounds its weights along columns, but not along rows, where it computes with vectors. */
+/**
+ * The pixel library rounds its weights along columns, but not along rows, where it computes with vectors. It is not
+ * asked: that would load it for pictures that need nothing else of it.
+ */
 bool hasCoarseColumns()
 {
-    constexpr int lastMajor = 8;
-    constexpr int lastMinor = 14;
-    return vips_version(0) == lastMajor && vips_version(1) <= lastMinor && vips_vector_isenabled() != 0;
+    constexpr bool isCoarse = VIPS_MAJOR_VERSION == 8 && VIPS_MINOR_VERSION <= 14;
+    return isCoarse && !qEnvironmentVariableIsSet("VIPS_NOVECTOR");
 }
 
 /** How the planes of a picture are scaled. */

@@ -3,9 +3,13 @@
 #include "platform/imageio/jpeg/jpeg_error.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace platform {
 namespace {
+
+constexpr int exifMarker = JPEG_APP0 + 1;
+constexpr int profileMarker = JPEG_APP0 + 2;
 
 /** Feeds the decoder from a device, so that only the beginning of a large file is read. */
 struct DeviceSource
@@ -82,15 +86,29 @@ bool isPlain(const jpeg_decompress_struct &info)
     return (isGrey || isDifferences) && info.data_precision == BITS_IN_JSAMPLE;
 }
 
-QList<QByteArray> exifsOf(const jpeg_decompress_struct &info)
+/** The contents of all segments of that kind that begin so. */
+QList<QByteArray> segmentsOf(const jpeg_decompress_struct &info, int marker, QByteArrayView beginning)
 {
     QList<QByteArray> found;
-    for (const jpeg_marker_struct *marker = info.marker_list; marker; marker = marker->next) {
-        const QByteArray content(reinterpret_cast<const char *>(marker->data), qsizetype(marker->data_length));
-        if (content.startsWith("Exif"))
+    for (const jpeg_marker_struct *each = info.marker_list; each; each = each->next) {
+        const QByteArray content(reinterpret_cast<const char *>(each->data), qsizetype(each->data_length));
+        if (each->marker == marker && content.startsWith(beginning))
             found.append(content);
     }
     return found;
+}
+
+std::optional<QByteArray> profileOf(jpeg_decompress_struct &info)
+{
+    if (segmentsOf(info, profileMarker, "ICC_PROFILE").isEmpty())
+        return QByteArray();
+    JOCTET *joined = nullptr;
+    unsigned length = 0;
+    if (!jpeg_read_icc_profile(&info, &joined, &length))
+        return std::nullopt;
+    const QByteArray profile(reinterpret_cast<const char *>(joined), qsizetype(length));
+    std::free(joined);
+    return profile;
 }
 
 } // namespace
@@ -116,13 +134,15 @@ std::optional<JpegHeader> readJpegHeader(QIODevice &file)
     source->base.resync_to_restart = jpeg_resync_to_restart;
     source->base.term_source = initSource;
     info.src = &source->base;
-    jpeg_save_markers(&info, JPEG_APP0 + 1, wholeSegment);
+    jpeg_save_markers(&info, exifMarker, wholeSegment);
+    jpeg_save_markers(&info, profileMarker, wholeSegment);
     jpeg_read_header(&info, TRUE);
     readTables(info, header);
     readDensity(info, header);
     header.isSound = info.err->num_warnings == 0;
     header.isPlain = header.isSound && isPlain(info);
-    header.exifs = exifsOf(info);
+    header.exifs = segmentsOf(info, exifMarker, "Exif");
+    header.profile = profileOf(info);
     jpeg_destroy_decompress(&info);
     return header;
 }

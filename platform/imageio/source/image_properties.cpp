@@ -3,6 +3,7 @@
 #include "platform/imageio/facts/profile_name.h"
 #include "platform/imageio/facts/resolution.h"
 #include "platform/imageio/facts/sample_depth.h"
+#include "platform/imageio/jpeg/jpeg_header.h"
 #include "platform/imageio/source/opened_file.h"
 #include "platform/imageio/tiff/jpeg_process.h"
 
@@ -46,6 +47,18 @@ void addPixelProperties(QVariantMap &properties, const vips::VImage &image)
         properties.insert(QStringLiteral("ProfileName"), name);
 }
 
+/** Those of a JPEG without surprises, for which the pixel library need not be loaded. */
+std::optional<PixelFacts> factsOfJpeg(const ImageSource::File &file)
+{
+    const std::optional<JpegHeader> header = jpegHeaderOf(file.bytes, file.content);
+    if (!header || !header->isPlain || !header->profile)
+        return std::nullopt;
+    PixelFacts facts;
+    facts.model = header->componentCount == 1 ? ColorModel::Gray : ColorModel::Rgb;
+    facts.iccProfile = *header->profile;
+    return facts;
+}
+
 } // namespace
 
 QSizeF ImageSource::pointSize() const
@@ -82,6 +95,8 @@ Result<PixelFacts> ImageSource::pixelFacts() const
     if (!m_file)
         return PixelFacts();
     try {
+        if (const std::optional<PixelFacts> facts = factsOfJpeg(*m_file))
+            return *facts;
         const vips::VImage image = inForm(openImage(m_file->bytes, m_file->content));
         constexpr int bitsPerByte = 8;
         PixelFacts facts;

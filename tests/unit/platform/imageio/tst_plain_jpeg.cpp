@@ -1,7 +1,10 @@
 #include "platform/imageio/source/plain_jpeg.h"
 
+#include "platform/imageio/source/image_source.h"
+
 #include "tests/support/expected_pictures.h"
 #include "tests/support/test_program.h"
+#include "tests/unit/platform/imageio/jpeg/jpeg_difference.h"
 
 #include <QProcess>
 #include <QRandomGenerator>
@@ -79,6 +82,45 @@ private Q_SLOTS:
             QCOMPARE(found->size, row.stored);
         }
         QVERIFY(plain >= 8); // else nothing was compared
+    }
+
+    /** Grey and colours, with and without a profile, whole ones and one of which a part is missing. */
+    void haveTheProfileThatTheLibraryFinds()
+    {
+        int profiles = 0;
+        for (const expected::Row &row : expected::rows()) {
+            if (row.format != QLatin1String("JPEG") || !row.isDecodable)
+                continue;
+            const auto source = platform::ImageSource::open(row.path);
+            if (!source || !plainOf(row.path))
+                continue;
+            const auto facts = source->pixelFacts();
+            QVERIFY2(facts, qPrintable(row.name));
+            QVERIFY2(facts->iccProfile == source->iccProfile(), qPrintable(row.name));
+            QCOMPARE(facts->model, source->decode().value().colorModel());
+            QVERIFY(!facts->hasAlpha && facts->bits == 8 && !facts->areUnknown);
+            profiles += facts->iccProfile.isEmpty() ? 0 : 1;
+        }
+        QVERIFY(profiles > 0 || !corpusIsThere());
+
+        QImage wide(64, 48, QImage::Format_RGB888);
+        wide.fill(Qt::red);
+        const QByteArray jpeg = tests::profiledJpegOf(wide, QColorSpace::AdobeRgb);
+        const qsizetype number = jpeg.indexOf("ICC_PROFILE") + 12;
+        QVERIFY(number > 12);
+        const auto isTheSame = [](const QByteArray &bytes) {
+            const auto source = platform::ImageSource::fromData(bytes);
+            return source && source->pixelFacts() && source->pixelFacts()->iccProfile == source->iccProfile();
+        };
+        QVERIFY(isTheSame(jpeg));
+        QVERIFY(!platform::ImageSource::fromData(jpeg)->pixelFacts()->iccProfile.isEmpty());
+        for (const int place : {0, 1}) { // the number of the part, and of all parts
+            for (const int value : {0, 2, 255}) {
+                QByteArray broken = jpeg;
+                broken[number + place] = char(value);
+                QVERIFY2(isTheSame(broken), qPrintable(QStringLiteral("%1 %2").arg(place).arg(value)));
+            }
+        }
     }
 
     void damagedHeadersAreNotUnderstoodDifferently()
