@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <map>
 
 namespace platform {
 namespace {
@@ -67,7 +66,7 @@ public:
     int reach() const { return m_reach; }
     const std::vector<double> &at(int place)
     {
-        std::vector<double> &weights = m_known[place];
+        std::vector<double> &weights = m_known[size_t(place)];
         if (!weights.empty())
             return weights;
         double sum = 0;
@@ -86,43 +85,56 @@ private:
     double m_scale;
     int m_reach;
     bool m_isCoarse;
-    std::map<int, std::vector<double>> m_known;
+    std::array<std::vector<double>, places + 1> m_known;
 };
 
 /** Adds weights of pixels to those of the samples that they come from. */
 class SampleSum
 {
 public:
-    SampleSum(const PixelSpan &span, int samples) : m_span(span), m_samples(samples) {}
+    SampleSum(const PixelSpan &span, int samples)
+        : m_span(span), m_samples(samples), m_weights(size_t(samples)), m_first(samples)
+    {
+    }
 
-    void begin() { m_weights.clear(); }
     void add(int pixel, double weight)
     {
         const int delivered = std::clamp(pixel, 0, m_span.pixels - 1) / m_span.halved;
         if (!m_span.isInterpolated) {
-            m_weights[std::min(delivered, m_samples - 1)] += weight;
+            addToSample(std::min(delivered, m_samples - 1), weight);
             return;
         }
         constexpr double nearer = 0.75;
         const int own = delivered / 2;
         const int other = delivered % 2 == 0 ? own - 1 : own + 1;
-        m_weights[std::clamp(own, 0, m_samples - 1)] += nearer * weight;
-        m_weights[std::clamp(other, 0, m_samples - 1)] += (1 - nearer) * weight;
+        addToSample(std::clamp(own, 0, m_samples - 1), nearer * weight);
+        addToSample(std::clamp(other, 0, m_samples - 1), (1 - nearer) * weight);
     }
-    SampleWeights weights() const
+    /** What was added since the last time. */
+    SampleWeights taken()
     {
-        SampleWeights all;
-        all.start = m_weights.begin()->first;
-        all.weights.resize(size_t(m_weights.rbegin()->first - all.start) + 1);
-        for (const auto &[sample, weight] : m_weights)
-            all.weights[size_t(sample - all.start)] = weight;
+        const auto begin = m_weights.begin() + m_first;
+        const auto end = m_weights.begin() + m_last + 1;
+        SampleWeights all{m_first, {begin, end}};
+        std::fill(begin, end, 0);
+        m_first = m_samples;
+        m_last = -1;
         return all;
     }
 
 private:
+    void addToSample(int sample, double weight)
+    {
+        m_weights[size_t(sample)] += weight;
+        m_first = std::min(m_first, sample);
+        m_last = std::max(m_last, sample);
+    }
+
     const PixelSpan &m_span;
     int m_samples;
-    std::map<int, double> m_weights;
+    std::vector<double> m_weights; ///< of all samples; 0 but from the first to the last one
+    int m_first;
+    int m_last = -1;
 };
 
 } // namespace
@@ -134,8 +146,8 @@ std::vector<SampleWeights> weightsOf(const PixelSpan &span, int samples)
     Filter filter(step, span.isCoarse);
     SampleSum sum(span, samples);
     std::vector<SampleWeights> all;
+    all.reserve(size_t(span.count()));
     for (int i = 0; i < span.count(); ++i) {
-        sum.begin();
         for (int j = 0; j < span.shared; ++j) {
             const int pixel = span.first + std::min(i * span.shared + j, span.kept - 1);
             if (span.step == 1) { // nothing is scaled along this side
@@ -150,7 +162,7 @@ std::vector<SampleWeights> weightsOf(const PixelSpan &span, int samples)
                     sum.add(std::clamp(own + at, 0, blocks - 1) * span.block + in,
                             weights[size_t(at + filter.reach())] / (span.block * span.shared));
         }
-        all.push_back(sum.weights());
+        all.push_back(sum.taken());
     }
     return all;
 }

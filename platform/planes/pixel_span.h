@@ -24,6 +24,8 @@ struct PixelSpan
     /** Weights are rounded as those that the pixel library uses along columns. */
     bool isCoarse = false;
 
+    bool operator==(const PixelSpan &other) const = default;
+
     int count() const { return (kept + shared - 1) / shared; }
 };
 

@@ -43,6 +43,8 @@ struct PlaneSpan
     int count = 0;    ///< of new samples
     /** So many old samples are averaged first, from the edge of the first one on; 1 if each counts by itself. */
     double block = 1;
+
+    bool operator==(const PlaneSpan &other) const = default;
 };
 
 /** Beyond this a weight is too small for the arithmetic. */

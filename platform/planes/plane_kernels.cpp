@@ -174,12 +174,18 @@ QUORLIN_AVX2 void sumPairsInVectors(const qint16 *sums, const qint16 *weights, i
     while (taps > first + 2 && isEmpty(taps - 2))
         taps -= 2;
     switch ((taps - first) / 2) {
+    case 4:
+        return sumSoManyPairs<4>(sums + first, weights + first, out, count);
+    case 5:
+        return sumSoManyPairs<5>(sums + first, weights + first, out, count);
     case 6:
         return sumSoManyPairs<6>(sums + first, weights + first, out, count);
     case 7:
         return sumSoManyPairs<7>(sums + first, weights + first, out, count);
     case 8:
         return sumSoManyPairs<8>(sums + first, weights + first, out, count);
+    case 9:
+        return sumSoManyPairs<9>(sums + first, weights + first, out, count);
     default:
         return sumPairsPlainly(sums + first, weights + first, taps - first, out, count);
     }

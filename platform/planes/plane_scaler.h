@@ -7,6 +7,7 @@
 
 #include <QPoint>
 
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -42,8 +43,8 @@ private:
     QSize m_to;
     std::optional<QPoint> m_part; ///< nothing to compute: the new samples are the old ones from here on
     int m_rowBytes;
-    PlaneWeights m_columns;
-    PlaneWeights m_rows;
+    std::shared_ptr<const PlaneWeights> m_columns;
+    std::shared_ptr<const PlaneWeights> m_rows;
     int m_added = 0;
     int m_made = 0;
     std::vector<qint16> m_kept; ///< the rows of a window, widened, in a ring buffer

@@ -3,6 +3,7 @@
 #include "platform/planes/plane_kernels.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace platform {
@@ -91,7 +92,40 @@ Period periodOf(const PlaneSpan &span, double step)
     return {};
 }
 
+template<typename Span> std::shared_ptr<const PlaneWeights> keptOrMade(const Span &span, int samples)
+{
+    struct Kept
+    {
+        Span span;
+        int samples = 0;
+        std::shared_ptr<const PlaneWeights> weights;
+    };
+    constexpr int most = 4; // both sides, of luma and of chroma
+    thread_local std::array<Kept, most> kept;
+    thread_local size_t next = 0;
+    for (const Kept &each : kept)
+        if (each.weights && each.samples == samples && each.span == span)
+            return each.weights;
+    auto made = std::make_shared<const PlaneWeights>(span, samples);
+    constexpr int largest = 1 << 18; // weights; those of a photograph are far fewer
+    if (made->size() > largest)
+        return made;
+    kept[next] = {span, samples, made};
+    next = (next + 1) % most;
+    return made;
+}
+
 } // namespace
+
+std::shared_ptr<const PlaneWeights> keptWeights(const PlaneSpan &span, int samples)
+{
+    return keptOrMade(span, samples);
+}
+
+std::shared_ptr<const PlaneWeights> keptWeights(const PixelSpan &span, int samples)
+{
+    return keptOrMade(span, samples);
+}
 
 PlaneWeights::PlaneWeights(const PlaneSpan &span, int samples)
 {
@@ -119,8 +153,9 @@ PlaneWeights::PlaneWeights(const PlaneSpan &span, int samples)
     findPairs();
 }
 
-PlaneWeights::PlaneWeights(const std::vector<SampleWeights> &exact)
+PlaneWeights::PlaneWeights(const PixelSpan &span, int samples)
 {
+    const std::vector<SampleWeights> exact = weightsOf(span, samples);
     size_t most = 0;
     for (const SampleWeights &each : exact)
         most = std::max(most, each.weights.size());
@@ -190,4 +225,5 @@ void PlaneWeights::store(int index, const std::vector<double> &exact, double sum
     qint16 *most = std::max_element(whole, whole + m_taps);
     *most = qint16(*most + rest);
 }
+
 } // namespace platform

@@ -5,6 +5,7 @@
 #include "platform/planes/pixel_span.h"
 #include "platform/planes/plane.h"
 
+#include <memory>
 #include <vector>
 
 namespace platform {
@@ -19,10 +20,11 @@ class PlaneWeights
 public:
     /** Throws std::bad_alloc. */
     PlaneWeights(const PlaneSpan &span, int samples);
-    /** The same for weights that are known. Throws std::bad_alloc. */
-    explicit PlaneWeights(const std::vector<SampleWeights> &exact);
+    /** The same as of the picture's pixels. Throws std::bad_alloc. */
+    PlaneWeights(const PixelSpan &span, int samples);
 
-    int taps() const { return m_taps; } ///< weights of a new sample, whole units; padded with 0
+    size_t size() const { return m_values.size(); } ///< weights of all new samples
+    int taps() const { return m_taps; }             ///< weights of a new sample, whole units; padded with 0
     int start(int index) const { return m_starts[size_t(index)]; }
     /** Those of this one and of all that follow. */
     const qint16 *of(int index) const { return m_values.data() + size_t(index) * size_t(m_taps); }
@@ -59,5 +61,12 @@ private:
     std::vector<qint16> m_values;
     Pairs m_pairs;
 };
+
+/**
+ * Those that were made last are kept for each thread: the two planes of colours need the same, and pictures of one
+ * camera too. Throws std::bad_alloc.
+ */
+std::shared_ptr<const PlaneWeights> keptWeights(const PlaneSpan &span, int samples);
+std::shared_ptr<const PlaneWeights> keptWeights(const PixelSpan &span, int samples);
 
 } // namespace platform

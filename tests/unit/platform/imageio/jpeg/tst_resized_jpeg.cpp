@@ -68,6 +68,7 @@ private Q_SLOTS:
     void takesWhatIsKnownAlong();
     void vectorsGiveTheSameNumbers();
     void weightsAreTheSameAtTheSamePlaces();
+    void keptWeightsAreThoseOfTheirSpan();
 };
 
 /** Both ways against the reference, and against each other; sizes have to be the same. */
@@ -260,7 +261,8 @@ void ResizedJpeg::weightsAreTheSameAtTheSamePlaces()
             const int samples = int(step * block * 400) + 7;
             const platform::PlaneWeights all(span, samples);
             for (int i = 0; i < span.count; ++i) {
-                const platform::PlaneWeights one({span.start + i * span.step, span.step, 1, span.block}, samples);
+                const platform::PlaneSpan own = {span.start + i * span.step, span.step, 1, span.block};
+                const platform::PlaneWeights one(own, samples);
                 QCOMPARE(all.start(i), one.start(0));
                 QVERIFY(std::equal(all.of(i), all.of(i) + all.taps(), one.of(0)));
             }
@@ -271,6 +273,30 @@ void ResizedJpeg::weightsAreTheSameAtTheSamePlaces()
                 QVERIFY(std::equal(all.of(i), all.of(i) + all.taps(), all.of(first)));
             }
         }
+    }
+}
+
+/** Spans and pictures that differ in one thing each, so that none is taken for another. */
+void ResizedJpeg::keptWeightsAreThoseOfTheirSpan()
+{
+    QRandomGenerator random(23);
+    for (int i = 0; i < 400; ++i) {
+        const int samples = 300 + random.bounded(2);
+        const platform::PlaneSpan span = {double(random.bounded(2)), 2.0 + random.bounded(2) * 0.5,
+                                          100 + random.bounded(2), 1.0 + random.bounded(2)};
+        const auto kept = platform::keptWeights(span, samples);
+        const platform::PlaneWeights made(span, samples);
+        QCOMPARE(kept->taps(), made.taps());
+        QVERIFY(std::equal(kept->starts(), kept->starts() + span.count, made.starts()));
+        QVERIFY(std::equal(kept->of(0), kept->of(span.count), made.of(0)));
+        const platform::PixelSpan pixels = {2.0 + random.bounded(2) * 0.5, samples,           1,   1,
+                                            random.bounded(2) == 0,        random.bounded(2), 100, 1,
+                                            random.bounded(2) == 0};
+        const auto other = platform::keptWeights(pixels, samples / (pixels.isInterpolated ? 2 : 1));
+        const platform::PlaneWeights exact(pixels, samples / (pixels.isInterpolated ? 2 : 1));
+        QCOMPARE(other->taps(), exact.taps());
+        QVERIFY(std::equal(other->starts(), other->starts() + pixels.count(), exact.starts()));
+        QVERIFY(std::equal(other->of(0), other->of(pixels.count()), exact.of(0)));
     }
 }
 
