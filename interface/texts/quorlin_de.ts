@@ -9956,7 +9956,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n folders created</source>
+        <source>%n folders made</source>
         <translation>
             <numerusform>%n Ordner angelegt</numerusform>
             <numerusform>%n Ordner angelegt</numerusform>
@@ -10161,10 +10161,10 @@
         <translation>%1 (%2)</translation>
     </message>
     <message numerus="yes">
-        <source>%n new folders, including parents</source>
+        <source>%n folders will be made, counting parents</source>
         <translation>
-            <numerusform>%n neuer Ordner, übergeordnete mitgezählt</numerusform>
-            <numerusform>%n neue Ordner, übergeordnete mitgezählt</numerusform>
+            <numerusform>%n Ordner wird angelegt, übergeordnete mitgezählt</numerusform>
+            <numerusform>%n Ordner werden angelegt, übergeordnete mitgezählt</numerusform>
         </translation>
     </message>
 </context>

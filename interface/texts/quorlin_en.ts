@@ -919,10 +919,10 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n folders created</source>
+        <source>%n folders made</source>
         <translation>
-            <numerusform>%n folder created</numerusform>
-            <numerusform>%n folders created</numerusform>
+            <numerusform>%n folder made</numerusform>
+            <numerusform>%n folders made</numerusform>
         </translation>
     </message>
 </context>
@@ -943,10 +943,10 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n new folders, including parents</source>
+        <source>%n folders will be made, counting parents</source>
         <translation>
-            <numerusform>%n new folder, including parents</numerusform>
-            <numerusform>%n new folders, including parents</numerusform>
+            <numerusform>%n folder will be made, counting parents</numerusform>
+            <numerusform>%n folders will be made, counting parents</numerusform>
         </translation>
     </message>
 </context>

@@ -9956,7 +9956,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n folders created</source>
+        <source>%n folders made</source>
         <translation>
             <numerusform>%n dossier créé</numerusform>
             <numerusform>%n dossiers créés</numerusform>
@@ -10161,10 +10161,10 @@
         <translation>%1 (%2)</translation>
     </message>
     <message numerus="yes">
-        <source>%n new folders, including parents</source>
+        <source>%n folders will be made, counting parents</source>
         <translation>
-            <numerusform>%n nouveau dossier, parents compris</numerusform>
-            <numerusform>%n nouveaux dossiers, parents compris</numerusform>
+            <numerusform>%n dossier sera créé, parents compris</numerusform>
+            <numerusform>%n dossiers seront créés, parents compris</numerusform>
         </translation>
     </message>
 </context>

@@ -9956,7 +9956,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n folders created</source>
+        <source>%n folders made</source>
         <translation>
             <numerusform>%n map gemaakt</numerusform>
             <numerusform>%n mappen gemaakt</numerusform>
@@ -10161,10 +10161,10 @@
         <translation>%1 (%2)</translation>
     </message>
     <message numerus="yes">
-        <source>%n new folders, including parents</source>
+        <source>%n folders will be made, counting parents</source>
         <translation>
-            <numerusform>%n nieuwe map, bovenliggende meegeteld</numerusform>
-            <numerusform>%n nieuwe mappen, bovenliggende meegeteld</numerusform>
+            <numerusform>%n map wordt gemaakt, bovenliggende meegeteld</numerusform>
+            <numerusform>%n mappen worden gemaakt, bovenliggende meegeteld</numerusform>
         </translation>
     </message>
 </context>

@@ -50,7 +50,7 @@ private Q_SLOTS:
                                          QStringLiteral("2025-12-31 1 new"), QStringLiteral("2026 2"),
                                          QStringLiteral("2026-08-14 2 new"), QStringLiteral("Undated 1 new")}));
         QCOMPARE(m_driver->text("sortTreeSummary"),
-                 QStringLiteral("4 files into 3 folders (4 new folders, including parents)"));
+                 QStringLiteral("4 files into 3 folders (4 folders will be made, counting parents)"));
         QCOMPARE(m_driver->cell(0, PictureModel::NewName), QStringLiteral("2026/2026-08-14"));
         QCOMPARE(m_driver->cell(3, PictureModel::Status), QStringLiteral("No date taken"));
         QCOMPARE(button("startButton")->text(), QStringLiteral("Sort 4 Files into Folders"));
@@ -64,7 +64,7 @@ private Q_SLOTS:
         const QStringList before = filesBelow(m_pictures);
         const QByteArray bytes = pictures::bytesOf(at("a.jpg"));
         m_driver->drop({m_pictures});
-        run(QStringLiteral("4 files moved into 3 folders · 5 folders created, 0 problems"));
+        run(QStringLiteral("4 files moved into 3 folders · 5 folders made, 0 problems"));
         QVERIFY(button("openFolderButton")->isVisible());
         QCOMPARE(m_driver->text("sortTreeSummary"), QString());
         QCOMPARE(filesBelow(m_pictures),

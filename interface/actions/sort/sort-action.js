@@ -25,7 +25,7 @@ function done(number, settings, folders) {
             link: () => qsTr("%n files linked", "", number),
         }[settings.kind]();
         const words = fill(qsTr("%1 into %2"), files, qsTr("%n folders", "", folders.used.length));
-        return folders.made === 0 ? words : words + " · " + qsTr("%n folders created", "", folders.made);
+        return folders.made === 0 ? words : words + " · " + qsTr("%n folders made", "", folders.made);
     }
     return {
         move: () => qsTr("%n files sorted", "", number),

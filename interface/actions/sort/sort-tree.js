@@ -20,7 +20,7 @@ export function summaryText(ready, folders, fresh) {
     const words = fill(qsTr("%1 into %2"), qsTr("%n files", "", ready),
                        qsTr("%n folders", "", folders));
     return fresh === 0
-        ? words : fill(qsTr("%1 (%2)"), words, qsTr("%n new folders, including parents", "", fresh));
+        ? words : fill(qsTr("%1 (%2)"), words, qsTr("%n folders will be made, counting parents", "", fresh));
 }
 
 export class SortTree {
