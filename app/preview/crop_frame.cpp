@@ -176,7 +176,7 @@ QRect keyedFrame(const QRect &frame, int key, Qt::KeyboardModifiers modifiers, Q
     const int low = key == Qt::Key_Down ? step : key == Qt::Key_Up ? -step : 0;
     if (right == 0 && low == 0)
         return frame;
-    if (!(modifiers & (Qt::AltModifier | Qt::ControlModifier)))
+    if (!(modifiers & Qt::AltModifier))
         return movedFrame(frame, {right, low}, picture);
     const Grip grip = ratio > 0 ? Grip::BottomRight : right != 0 ? Grip::Right : Grip::Bottom;
     return sizedFrame(frame, grip, {right, low}, picture, ratio);

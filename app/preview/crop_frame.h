@@ -33,8 +33,8 @@ QRect movedFrame(const QRect &frame, QPoint by, QSize picture);
 QRect sizedFrame(const QRect &frame, Grip grip, QPoint by, QSize picture, double ratio);
 
 /**
- * What an arrow key does to the frame: it moves by a pixel, with Shift by ten; with Alt or Ctrl the right and bottom
- * edges move. Other keys return the same frame.
+ * What an arrow key does to the frame: it moves by a pixel, with Shift by ten; with Alt the right and bottom edges move.
+ * Other keys return the same frame.
  */
 QRect keyedFrame(const QRect &frame, int key, Qt::KeyboardModifiers modifiers, QSize picture, double ratio);
 

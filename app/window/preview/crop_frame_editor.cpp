@@ -16,9 +16,12 @@ constexpr int handlePx = 9;
 constexpr double reachPx = 8;
 const QColor frameColor(255, 59, 48);
 
-bool isArrow(int key)
+/** An arrow key; with Ctrl they are those of the list. */
+bool isForFrame(const QKeyEvent &event)
 {
-    return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
+    const int key = event.key();
+    return !(event.modifiers() & Qt::ControlModifier) &&
+           (key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down);
 }
 
 void paintDashes(QPainter &painter, const QRectF &frame)
@@ -175,7 +178,7 @@ bool CropFrameEditor::event(QEvent *event)
     // The frame gets the arrow keys before any menu entry or shortcut does.
     if (event->type() == QEvent::ShortcutOverride) {
         const auto *key = static_cast<QKeyEvent *>(event);
-        if (isArrow(key->key())) {
+        if (isForFrame(*key)) {
             event->accept();
             return true;
         }
@@ -185,7 +188,7 @@ bool CropFrameEditor::event(QEvent *event)
 
 void CropFrameEditor::keyPressEvent(QKeyEvent *event)
 {
-    if (isArrow(event->key()))
+    if (isForFrame(*event))
         take(keyedFrame(m_frame, event->key(), event->modifiers(), m_pixels, m_ratio));
     else if (event->key() == Qt::Key_Escape)
         parentWidget()->setFocus(Qt::OtherFocusReason);

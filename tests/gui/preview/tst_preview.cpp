@@ -406,7 +406,7 @@ void TestPreview::worksTheFrameWithTheKeyboard()
     QTest::keyClick(&cropFrame(), Qt::Key_Right);
     QTest::keyClick(&cropFrame(), Qt::Key_Down, Qt::ShiftModifier);
     QTest::keyClick(&cropFrame(), Qt::Key_Left, Qt::AltModifier);
-    QTest::keyClick(&cropFrame(), Qt::Key_Up, Qt::ControlModifier | Qt::ShiftModifier);
+    QTest::keyClick(&cropFrame(), Qt::Key_Up, Qt::AltModifier | Qt::ShiftModifier);
     QCOMPARE(cropFrame().frame(), QRect(101, 110, 199, 190));
     QCOMPARE(edited.size(), 4);
     QCOMPARE(stepped.size(), 0);
