@@ -5,6 +5,7 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QDir>
+#include <QDrag>
 #include <QFile>
 #include <QHeaderView>
 #include <QImage>
@@ -14,6 +15,7 @@
 #include <QRandomGenerator>
 #include <QRegularExpression>
 #include <QTest>
+#include <QTimer>
 
 using window::PictureModel;
 
@@ -26,6 +28,7 @@ private Q_SLOTS:
     void init() { m_driver = WindowDriver::showing("resize"); }
     void cleanup() { m_driver.reset(); }
     void rowsGiveTheirFilesOrTheirResults();
+    void rowsAreDraggedOutAsCopies();
     void rowsAreMovedByHand();
     void theListIsExported();
     void aCounterThatIsTooNarrowIsWidened();
@@ -97,6 +100,38 @@ void TestListTools::rowsGiveTheirFilesOrTheirResults()
              QList<QUrl>{QUrl::fromLocalFile(path(QStringLiteral("Resized/b.jpg")))});
     m_driver->choose("metadata", QStringLiteral("none")); // what was made is the past now
     QVERIFY(m_driver->waitFor([&] { return list.chosenFiles() == QStringList(path(QStringLiteral("b.jpg"))); }));
+}
+
+// What is dragged is seen while it is on its way; Esc ends it.
+void TestListTools::rowsAreDraggedOutAsCopies()
+{
+    pictures({QStringLiteral("a.jpg"), QStringLiteral("b.jpg")});
+    window::PictureTable &list = m_driver->pictures();
+    list.selectAll();
+    Qt::DropActions offered;
+    QList<QUrl> urls;
+    QTimer look;
+    connect(&look, &QTimer::timeout, this, [&] {
+        const auto *drag = list.findChild<QDrag *>();
+        if (!drag)
+            return;
+        offered = drag->supportedActions();
+        urls = drag->mimeData()->urls();
+        look.stop();
+        QTest::keyClick(&list, Qt::Key_Escape);
+    });
+    look.start(10);
+    const QPoint from = list.visualRect(list.model()->index(0, PictureModel::Name)).center();
+    QTest::mousePress(list.viewport(), Qt::LeftButton, {}, from);
+    for (int step = 1; step < 4; ++step)
+        QTest::mouseMove(list.viewport(), from + QPoint(0, 20 * step));
+    QVERIFY(m_driver->waitFor([&] { return !urls.isEmpty(); }));
+    QTest::mouseRelease(list.viewport(), Qt::LeftButton, {}, from);
+    QCOMPARE(offered, Qt::DropActions(Qt::CopyAction));
+    QCOMPARE(urls, QList<QUrl>({QUrl::fromLocalFile(path(QStringLiteral("a.jpg"))),
+                                QUrl::fromLocalFile(path(QStringLiteral("b.jpg")))}));
+    QCOMPARE(list.count(), 2);
+    QVERIFY(QFile::exists(path(QStringLiteral("a.jpg"))));
 }
 
 void TestListTools::rowsAreMovedByHand()
