@@ -128,6 +128,27 @@ private Q_SLOTS:
         QVERIFY(qAbs(result.dotsPerMeterX() / inchesPerMetre - dpi) < 0.1);
     }
 
+    // 1600 px at 300 dpi are 5.33 inches, which are 1599 px.
+    void aTypedSizeComesBackWithItsUnit()
+    {
+        addPicture();
+        m_driver->choose("unit", QStringLiteral("cm"));
+        m_driver->choose("resolution", QStringLiteral("print"));
+        m_driver->choose("unit", QStringLiteral("pixel"));
+        for (const auto &[mode, names] : {std::pair{0, QList<const char *>{"value"}},
+                                          std::pair{boxMode, QList<const char *>{"boxWidth", "boxHeight"}}}) {
+            chooseMode(*m_driver, mode);
+            for (int i = 0; i < names.size(); ++i)
+                setNumber(*m_driver, names.at(i), i == 0 ? 1600 : 1200);
+            for (const char *unit : {"cm", "inch", "mm", "pica", "punt", "pixel"}) {
+                m_driver->choose("unit", QString::fromLatin1(unit));
+                QCOMPARE(numberIn(names.constFirst()) == 1600, qstrcmp(unit, "pixel") == 0);
+            }
+            for (int i = 0; i < names.size(); ++i)
+                QCOMPARE(numberIn(names.at(i)), i == 0 ? 1600.0 : 1200.0);
+        }
+    }
+
     void presetsRememberBoxAndResolution()
     {
         m_driver->choose("preset", QStringLiteral("=Web 1600"));
@@ -145,6 +166,8 @@ private Q_SLOTS:
     }
 
 private:
+    double numberIn(const char *name) { return m_driver->control<QDoubleSpinBox>(name)->value(); }
+
     void addPicture()
     {
         QImage picture = pictures::gradient(400, 300);
