@@ -122,12 +122,12 @@ Resolution plausible(Resolution stated)
 
 } // namespace
 
-std::optional<JpegHeader> jpegHeaderOf(const PictureBytes &bytes, Content content)
+std::optional<JpegHeader> jpegHeaderOf(const PictureBytes &bytes, Content content, JpegProfile profile)
 {
     if (content != Content::Jpeg)
         return std::nullopt;
     const std::unique_ptr<QIODevice> device = bytes.openedDevice();
-    std::optional<JpegHeader> header = readJpegHeader(*device);
+    std::optional<JpegHeader> header = readJpegHeader(*device, profile);
     demandRead(*device);
     return header;
 }

@@ -10,7 +10,8 @@
 namespace platform {
 
 /** The tables and the density of a JPEG; none for other content. */
-std::optional<JpegHeader> jpegHeaderOf(const PictureBytes &bytes, Content content);
+std::optional<JpegHeader> jpegHeaderOf(const PictureBytes &bytes, Content content,
+                                       JpegProfile profile = JpegProfile::Skipped);
 
 /**
  * The resolution a file states, in dots per inch; 0 where it states none or gives a number without a unit.

@@ -113,7 +113,7 @@ std::optional<QByteArray> profileOf(jpeg_decompress_struct &info)
 
 } // namespace
 
-std::optional<JpegHeader> readJpegHeader(QIODevice &file)
+std::optional<JpegHeader> readJpegHeader(QIODevice &file, JpegProfile profile)
 {
     constexpr unsigned wholeSegment = 0xffff;
     JpegErrorManager errors;
@@ -135,14 +135,16 @@ std::optional<JpegHeader> readJpegHeader(QIODevice &file)
     source->base.term_source = initSource;
     info.src = &source->base;
     jpeg_save_markers(&info, exifMarker, wholeSegment);
-    jpeg_save_markers(&info, profileMarker, wholeSegment);
+    if (profile == JpegProfile::Read)
+        jpeg_save_markers(&info, profileMarker, wholeSegment);
     jpeg_read_header(&info, TRUE);
     readTables(info, header);
     readDensity(info, header);
     header.isSound = info.err->num_warnings == 0;
     header.isPlain = header.isSound && isPlain(info);
     header.exifs = segmentsOf(info, exifMarker, "Exif");
-    header.profile = profileOf(info);
+    if (profile == JpegProfile::Read)
+        header.profile = profileOf(info);
     jpeg_destroy_decompress(&info);
     return header;
 }

@@ -50,7 +50,7 @@ void addPixelProperties(QVariantMap &properties, const vips::VImage &image)
 /** Those of a JPEG without surprises, for which the pixel library need not be loaded. */
 std::optional<PixelFacts> factsOfJpeg(const ImageSource::File &file)
 {
-    const std::optional<JpegHeader> header = jpegHeaderOf(file.bytes, file.content);
+    const std::optional<JpegHeader> header = jpegHeaderOf(file.bytes, file.content, JpegProfile::Read);
     if (!header || !header->isPlain || !header->profile)
         return std::nullopt;
     PixelFacts facts;
