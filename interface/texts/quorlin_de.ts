@@ -9919,10 +9919,6 @@
         <source>Sort into Folders</source>
         <translation>In Ordner sortieren</translation>
     </message>
-    <message>
-        <source>Folder</source>
-        <translation>Ordner</translation>
-    </message>
     <message numerus="yes">
         <source>%n files restored</source>
         <translation>
@@ -9965,6 +9961,10 @@
     <message>
         <source>Sorting</source>
         <translation>Das Einsortieren</translation>
+    </message>
+    <message>
+        <source>Into</source>
+        <translation>Ziel</translation>
     </message>
 </context>
 <context>

@@ -9919,10 +9919,6 @@
         <source>Sort into Folders</source>
         <translation>Classer en dossiers</translation>
     </message>
-    <message>
-        <source>Folder</source>
-        <translation>Dossier</translation>
-    </message>
     <message numerus="yes">
         <source>%n files restored</source>
         <translation>
@@ -9965,6 +9961,10 @@
     <message>
         <source>Sorting</source>
         <translation>Le classement</translation>
+    </message>
+    <message>
+        <source>Into</source>
+        <translation>Vers</translation>
     </message>
 </context>
 <context>

@@ -5363,7 +5363,7 @@
     </message>
     <message>
         <source>a sidecar file cannot be moved: its name is in use by %1</source>
-        <translation>een sidecarbestand kan niet worden verplaatst: die naam is in gebruik door %1</translation>
+        <translation>sidecarbestand kan niet worden verplaatst: die naam is in gebruik door %1</translation>
     </message>
     <message>
         <source>a sidecar file cannot be moved</source>
@@ -9919,10 +9919,6 @@
         <source>Sort into Folders</source>
         <translation>In mappen sorteren</translation>
     </message>
-    <message>
-        <source>Folder</source>
-        <translation>Map</translation>
-    </message>
     <message numerus="yes">
         <source>%n files restored</source>
         <translation>
@@ -9965,6 +9961,10 @@
     <message>
         <source>Sorting</source>
         <translation>Het sorteren</translation>
+    </message>
+    <message>
+        <source>Into</source>
+        <translation>Naar</translation>
     </message>
 </context>
 <context>

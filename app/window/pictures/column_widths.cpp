@@ -19,6 +19,21 @@ bool isText(const ColumnNeed &need)
     return need.fixedPx == 0;
 }
 
+bool isNumbers(const ColumnNeed &need)
+{
+    return !isText(need);
+}
+
+bool isName(const ColumnNeed &need)
+{
+    return need.isName;
+}
+
+bool isAny(const ColumnNeed &)
+{
+    return true;
+}
+
 /** A numeric column with its heading. */
 int wholePx(const ColumnNeed &need)
 {
@@ -55,31 +70,54 @@ void takeFrom(std::vector<int> &widths, const std::vector<int> &spares, int take
     }
 }
 
-/**
- * Lets texts pass on what they do not need, and names what they have beyond leastPx: to sizes, then to names that are
- * short of it, then to all.
- */
-void passOn(const std::vector<ColumnNeed> &needs, std::vector<int> &widths)
+/** What a text wants to show of its content; a name no more than leastPx where @p areNamesLimited. */
+int wantedPx(const ColumnNeed &need, bool areNamesLimited)
+{
+    return need.isName && areNamesLimited ? std::min(need.contentPx, need.leastPx) : need.contentPx;
+}
+
+/** What those columns that count lack for what they want. */
+std::vector<int> lacksOf(const std::vector<ColumnNeed> &needs, const std::vector<int> &widths,
+                         bool (*counts)(const ColumnNeed &), bool areNamesLimited)
+{
+    std::vector<int> lacks;
+    for (size_t i = 0; i < needs.size(); ++i)
+        lacks.push_back(counts(needs[i]) ? std::max(0, wantedPx(needs[i], areNamesLimited) - widths[i]) : 0);
+    return lacks;
+}
+
+/** What texts have beyond what they want. */
+std::vector<int> sparesOf(const std::vector<ColumnNeed> &needs, const std::vector<int> &widths, bool areNamesLimited)
 {
     std::vector<int> spares;
     for (size_t i = 0; i < needs.size(); ++i) {
-        const int content = needs[i].isName ? std::min(needs[i].contentPx, needs[i].leastPx) : needs[i].contentPx;
-        const int needed = std::max({content, needs[i].headingPx, narrowestTextPx});
+        const int needed = std::max({wantedPx(needs[i], areNamesLimited), needs[i].headingPx, narrowestTextPx});
         spares.push_back(isText(needs[i]) && needs[i].contentPx > 0 ? std::max(0, widths[i] - needed) : 0);
     }
+    return spares;
+}
+
+/**
+ * Texts pass on what they have beyond their content, and names what they have beyond leastPx: to sizes, then to names
+ * that lack it.
+ */
+void passOnToShort(const std::vector<ColumnNeed> &needs, std::vector<int> &widths)
+{
+    const std::vector<int> spares = sparesOf(needs, widths, true);
     const int spare = std::accumulate(spares.begin(), spares.end(), 0);
     int left = spare;
-    const auto lacks = [&](const auto &counts, bool isLimited) {
-        std::vector<int> lacking;
-        for (size_t i = 0; i < needs.size(); ++i) {
-            const int wanted = isLimited ? std::min(needs[i].contentPx, needs[i].leastPx) : needs[i].contentPx;
-            lacking.push_back(counts(needs[i]) ? std::max(0, wanted - widths[i]) : 0);
-        }
-        return lacking;
-    };
-    giveInOrder(widths, lacks([](const ColumnNeed &each) { return !isText(each); }, false), left);
-    giveInOrder(widths, lacks([](const ColumnNeed &each) { return each.isName; }, true), left);
-    giveAll(widths, lacks([](const ColumnNeed &) { return true; }, false), left);
+    giveInOrder(widths, lacksOf(needs, widths, isNumbers, true), left);
+    giveInOrder(widths, lacksOf(needs, widths, isName, true), left);
+    takeFrom(widths, spares, spare - left);
+}
+
+/** The same for the rest, to all that lack room. A name that is seen whole gives nothing to a longer one. */
+void passOnToAll(const std::vector<ColumnNeed> &needs, std::vector<int> &widths)
+{
+    const std::vector<int> spares = sparesOf(needs, widths, false);
+    const int spare = std::accumulate(spares.begin(), spares.end(), 0);
+    int left = spare;
+    giveAll(widths, lacksOf(needs, widths, isAny, false), left);
     takeFrom(widths, spares, spare - left);
 }
 
@@ -120,7 +158,8 @@ std::vector<int> fittingWidths(const std::vector<ColumnNeed> &needs, int roomPx)
         const int text = (isNarrow ? narrowestTextPx : least(each)) + spare * each.share / std::max(1, shares);
         widths.push_back(isText(each) ? text : wholePx(each) - given);
     }
-    passOn(needs, widths);
+    passOnToShort(needs, widths);
+    passOnToAll(needs, widths);
     return widths;
 }
 

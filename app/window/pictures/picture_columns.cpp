@@ -41,8 +41,8 @@ struct ColumnKind
 };
 
 // Also shown beside the picture; least important first.
-constexpr std::array<PictureModel::Column, 4> dispensable = {PictureModel::Camera, PictureModel::Taken,
-                                                             PictureModel::Type, PictureModel::Bytes};
+constexpr std::array<PictureModel::Column, 5> dispensable = {
+    PictureModel::Camera, PictureModel::Taken, PictureModel::Type, PictureModel::Bytes, PictureModel::Pixels};
 
 constexpr std::array<ColumnKind, PictureModel::ColumnCount> kinds = {
     {{"thumbnail", 82, 0, 0, 0},  {"name", 0, 4, 3, 130},      {"folder", 0, 2, 2, 90},     {"taken", 128, 0, 0, 0},
@@ -351,6 +351,16 @@ int PictureTable::fixedWidth(size_t column) const
     return qMax(numbersWidth(column), horizontalHeader()->sectionSizeHint(int(column)));
 }
 
+/** What a column gets at least before a less important one is hidden for it; short folders need less than long ones. */
+int PictureTable::leastWidth(size_t column) const
+{
+    if (kinds[column].widthPx > 0)
+        return fixedWidth(column);
+    const int least = kinds[column].leastPx;
+    const int content = column == PictureModel::Folder ? contentWidth(*this, PictureModel::Folder) : 0;
+    return content > 0 ? qMin(least, qMax(content, horizontalHeader()->sectionSizeHint(int(column)))) : least;
+}
+
 /** Hides columns if texts would have too little room, unless the user has arranged them. */
 void PictureTable::chooseDispensable()
 {
@@ -360,14 +370,15 @@ void PictureTable::chooseDispensable()
     const auto lacking = [this](int comfort) {
         int needed = comfort;
         for (size_t i = 0; i < kinds.size(); ++i)
-            needed += isShown(i) ? qMax(kinds[i].leastPx, kinds[i].widthPx > 0 ? fixedWidth(i) : 0) : 0;
+            needed += isShown(i) ? leastWidth(i) : 0;
         if (isShown(PictureModel::NewSize))
             needed += qMax(0, contentWidth(*this, PictureModel::NewSize) - fixedWidth(PictureModel::NewSize));
         return needed > viewport()->width();
     };
     for (size_t i = 0; i < dispensable.size(); ++i) {
         const bool isExtra = dispensable[i] == PictureModel::Camera || dispensable[i] == PictureModel::Taken;
-        if (!lacking(isExtra ? comfortPx : 0))
+        const bool givesToFolder = dispensable[i] == PictureModel::Pixels; // which tells pictures apart
+        if (!lacking(isExtra ? comfortPx : 0) || (givesToFolder && !isShown(PictureModel::Folder)))
             break;
         m_leftOut.append(dispensable[i]);
     }

@@ -257,6 +257,7 @@ private:
     void chooseDispensable();
     int numbersWidth(size_t column) const;
     int fixedWidth(size_t column) const;
+    int leastWidth(size_t column) const;
     void layOutAsFirst();
     void columnsChanged();
     void addColumnEntries(QMenu &menu);

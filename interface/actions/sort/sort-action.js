@@ -46,7 +46,7 @@ export const sort = {
     lists: () => "pictures",
     takes: PHOTO_INPUT,
     takesAlong: () => true,
-    headings: () => ({ newName: qsTr("Folder") }),
+    headings: () => ({ newName: qsTr("Into") }),
     startText: startText,
     fillsFolders: true,
     done: done,

@@ -149,6 +149,9 @@ private Q_SLOTS:
     void datesAreSeenWhole_data();
     void datesAreSeenWhole();
     void severalSizesAreSeenWhole();
+    void twoFoldersLeaveRoomForNames_data();
+    void twoFoldersLeaveRoomForNames();
+    void aNewNameGivesNothingToALongerOldOne();
     void threeSizesAreSeenWhole_data();
     void threeSizesAreSeenWhole();
     void longHeadingsTakeTwoLines();
@@ -401,6 +404,59 @@ void TestColumns::datesAreSeenWhole()
     const int needed = m_driver->pictures().fontMetrics().horizontalAdvance(m_driver->cell(0, PictureModel::Taken));
     QVERIFY2(header().sectionSize(PictureModel::Taken) >= needed + 15,
              qPrintable(QStringLiteral("%1 in %2").arg(needed).arg(header().sectionSize(PictureModel::Taken))));
+}
+
+void TestColumns::twoFoldersLeaveRoomForNames_data()
+{
+    everyPlanCanBeRead_data();
+}
+
+// The column for the folder takes its room from what is shown beside the picture too; no two headings are the same.
+void TestColumns::twoFoldersLeaveRoomForNames()
+{
+    QFETCH(QString, language);
+    qputenv("QUORLIN_LANGUAGE", language.toLatin1());
+    const auto usual = qScopeGuard([] { qunsetenv("QUORLIN_LANGUAGE"); });
+    m_driver->startAgain();
+    dated(QStringLiteral("Church/DSC04120.jpg"));
+    dated(QStringLiteral("Party/DSC07310.jpg"));
+    m_driver->window().resize(1280, 720);
+    const int needed = m_driver->pictures().fontMetrics().horizontalAdvance(QStringLiteral("DSC04120.jpg")) + 15;
+    for (const char *action : {"resize", "crop", "turn", "background", "convert", "web", "rename", "sort"}) {
+        m_driver->show(action);
+        if (m_driver->pictures().count() == 0)
+            m_driver->drop({m_driver->inputFolder()});
+        QVERIFY(m_driver->waitFor([&] { return m_driver->cell(0, PictureModel::Status).size() > 1; }));
+        QVERIFY(!header().isSectionHidden(PictureModel::Folder));
+        QStringList headings;
+        for (int column = PictureModel::Name; column < PictureModel::ColumnCount; ++column)
+            if (!header().isSectionHidden(column))
+                headings.append(m_driver->pictures().model()->headerData(column, Qt::Horizontal).toString());
+        QVERIFY2(QSet<QString>(headings.begin(), headings.end()).size() == headings.size(),
+                 qPrintable(QLatin1String(action) + QStringLiteral(": ") + headings.join(u'|')));
+        QVERIFY2(m_driver->waitFor([&] { return header().sectionSize(PictureModel::Name) >= needed; }),
+                 qPrintable(QStringLiteral("%1: %2 of %3")
+                                .arg(QLatin1String(action))
+                                .arg(header().sectionSize(PictureModel::Name))
+                                .arg(needed)));
+    }
+}
+
+void TestColumns::aNewNameGivesNothingToALongerOldOne()
+{
+    dated(QStringLiteral("Bride and groom at the gate, second try, with the dog.jpg"));
+    dated(QStringLiteral("Party/DSC07310.jpg"));
+    m_driver->window().resize(1280, 720);
+    m_driver->show("rename");
+    m_driver->drop({m_driver->inputFolder()});
+    m_driver->choose("preset", QStringLiteral("=Date and place"));
+    const auto newName = [&] { return m_driver->cell(0, PictureModel::NewName); };
+    QVERIFY(m_driver->waitFor([&] { return newName().startsWith(QLatin1String("2026-08-14")); }));
+    QFont bold = m_driver->pictures().font();
+    bold.setWeight(QFont::DemiBold);
+    const int needed = QFontMetrics(bold).horizontalAdvance(newName()) + 15;
+    QVERIFY2(m_driver->waitFor([&] { return header().sectionSize(PictureModel::NewName) >= needed; }),
+             qPrintable(QStringLiteral("%1 of %2").arg(header().sectionSize(PictureModel::NewName)).arg(needed)));
 }
 
 void TestColumns::threeSizesAreSeenWhole_data()
