@@ -13354,4 +13354,11 @@
         <translation>Den Rest speichern in</translation>
     </message>
 </context>
+<context>
+    <name>window::DialogPanels</name>
+    <message>
+        <source>Folder:</source>
+        <translation>Ordner:</translation>
+    </message>
+</context>
 </TS>

@@ -13354,4 +13354,11 @@
         <translation>Enregistrer le reste dans</translation>
     </message>
 </context>
+<context>
+    <name>window::DialogPanels</name>
+    <message>
+        <source>Folder:</source>
+        <translation>Dossier :</translation>
+    </message>
+</context>
 </TS>

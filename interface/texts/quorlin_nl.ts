@@ -13354,4 +13354,11 @@
         <translation>De rest bewaren in</translation>
     </message>
 </context>
+<context>
+    <name>window::DialogPanels</name>
+    <message>
+        <source>Folder:</source>
+        <translation>Map:</translation>
+    </message>
+</context>
 </TS>

@@ -6,6 +6,7 @@
 #include "platform/desktop/tags.h"
 #include "platform/desktop/user_defaults.h"
 #include "platform/file/file_note.h"
+#include "platform/foundation/human_texts.h"
 #include "platform/imageio/source/image_source.h"
 #include "platform/imageio/source/opening_watch.h"
 #include "platform/imageio/source/picture_facts.h"
@@ -128,6 +129,40 @@ private Q_SLOTS:
         QCOMPARE(names.join(u' '), QStringLiteral("a.b.png a.b.tiff a.b.jp2 a.b.jpeg a.b.pdf"));
         QCOMPARE(hasQuality, (QList<bool>{false, false, false, true, false}));
         QCOMPARE(typeOf("Desktop/a.b.pdf"), QStringLiteral("com.adobe.pdf"));
+    }
+
+    // The toolkit counts in other units and has dates of its own; its headings are at the top of their row.
+    void showsFilesInTheReadersForm()
+    {
+        qputenv("QUORLIN_LANGUAGE", "de");
+        m_driver->startAgain();
+        qunsetenv("QUORLIN_LANGUAGE");
+        const QString path = m_driver->folder() + QStringLiteral("/Desktop/b.jpeg");
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(QByteArray(1234567, 'x')) > 0);
+        file.close();
+        QStringList shown;
+        QList<int> alignments;
+        save([&](window::SaveDialog &panel) {
+            const auto &files = *panel.findChild<QTreeView *>(QStringLiteral("treeView"))->model();
+            const auto rowOf = [&] {
+                const QModelIndex folder = panel.findChild<QTreeView *>(QStringLiteral("treeView"))->rootIndex();
+                for (int row = 0; row < files.rowCount(folder); ++row)
+                    if (files.index(row, 0, folder).data().toString() == QLatin1String("b.jpeg"))
+                        return files.index(row, 0, folder);
+                return QModelIndex();
+            };
+            QVERIFY(m_driver->waitFor([&] { return rowOf().isValid(); }));
+            for (const int column : {1, 3}) {
+                shown.append(rowOf().siblingAtColumn(column).data().toString());
+                alignments.append(files.headerData(column, Qt::Horizontal, Qt::TextAlignmentRole).toInt());
+            }
+            panel.reject();
+        });
+        QCOMPARE(shown,
+                 QStringList({QStringLiteral("1,2 MB"), platform::localDateText(QFileInfo(path).lastModified())}));
+        for (const int alignment : alignments)
+            QVERIFY(alignment & Qt::AlignVCenter);
     }
 
     void offersWhatConvertOffers_data()

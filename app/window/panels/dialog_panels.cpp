@@ -1,11 +1,13 @@
 #include "app/window/panels/dialog_panels.h"
 
+#include "app/window/panels/panel_files.h"
 #include "app/window/panels/print_dialog.h"
 #include "app/window/panels/save_dialog.h"
 
 #include "platform/desktop/user_defaults.h"
 
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>
@@ -36,14 +38,24 @@ namespace {
 void prepareOpen(QFileDialog &dialog, const platform::PanelRequest &request)
 {
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    dialog.setOption(QFileDialog::HideNameFilterDetails); // all the patterns would fit nowhere
     if (request.choosesFolders && !request.choosesFiles) {
         dialog.setFileMode(QFileDialog::Directory);
         dialog.setOption(QFileDialog::ShowDirsOnly);
+        dialog.setLabelText(QFileDialog::FileName, QCoreApplication::translate("window::DialogPanels", "Folder:"));
     } else {
         dialog.setFileMode(request.choosesSeveral ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile);
     }
     if (request.types && !request.types->isEmpty() && request.choosesFiles)
         dialog.setNameFilter(panelFilter(*request.types));
+}
+
+/** Hides the row that says which types of files are shown: a panel for folders shows none. */
+void hideTypesOfFolders(const QFileDialog &dialog, const platform::PanelRequest &request)
+{
+    for (const char *name : {"fileTypeLabel", "fileTypeCombo"})
+        if (auto *part = dialog.findChild<QWidget *>(QString::fromLatin1(name)); part && !request.choosesFiles)
+            part->hide();
 }
 
 /** Puts a view under the files of a dialog, which must be the toolkit's own, and hands it back afterwards. */
@@ -56,8 +68,19 @@ public:
             return;
         dialog.setOption(QFileDialog::DontUseNativeDialog);
         auto *grid = qobject_cast<QGridLayout *>(dialog.layout());
+        auto *buttons = dialog.findChild<QDialogButtonBox *>(QStringLiteral("buttonBox"));
+        auto *name = dialog.findChild<QWidget *>(QStringLiteral("fileNameEdit"));
+        constexpr int nameRow = 2; // of the toolkit's own layout
+        grid->removeWidget(buttons);
+        grid->removeWidget(name);
+        grid->addWidget(name, nameRow, 1, 1, -1);
+        grid->setColumnStretch(1, 1);
         grid->addWidget(view, grid->rowCount(), 0, 1, -1);
         view->show();
+        buttons->setOrientation(Qt::Horizontal);
+        grid->addWidget(buttons, grid->rowCount(), 0, 1, -1);
+        constexpr QSize roomy(760, 560);
+        dialog.resize(roomy);
     }
     ~ViewBelow()
     {
@@ -114,6 +137,8 @@ platform::PanelAnswer DialogPanels::run(const platform::PanelRequest &request)
         dialog.setOption(QFileDialog::ReadOnly);
     prepareOpen(dialog, request);
     const ViewBelow view(dialog, qobject_cast<QWidget *>(request.accessory.data()));
+    showFilesInOwnForm(dialog);
+    hideTypesOfFolders(dialog, request);
     if (!isAccepted(dialog, request))
         return {};
     return {true, dialog.selectedFiles(), {}};

@@ -1,6 +1,7 @@
 #include "app/window/panels/save_dialog.h"
 
 #include "app/window/panels/dialog_panels.h"
+#include "app/window/panels/panel_files.h"
 
 #include "platform/controls/save_panel.h"
 #include "platform/desktop/user_defaults.h"
@@ -63,6 +64,7 @@ SaveDialog::SaveDialog(const platform::PanelRequest &request, QWidget *parent)
     setAcceptMode(AcceptSave);
     setFileMode(AnyFile);
     setOption(DontUseNativeDialog);
+    showFilesInOwnForm(*this);
     setOption(DontConfirmOverwrite); // the question names the file with its extension
     setWindowTitle(request.message.isEmpty() ? tr("Save As") : request.message);
     selectFile(request.name);
@@ -110,6 +112,7 @@ void SaveDialog::arrange(const platform::PanelRequest &request)
     constexpr int filesRow = 1;
     constexpr int filesShare = 3;
     grid->setRowStretch(filesRow, filesShare);
+    grid->setColumnStretch(1, 1); // else wide parts below make the column of labels wide too
     showNames();
     if (request.showsTagField)
         addTagField(grid);

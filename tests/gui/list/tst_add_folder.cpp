@@ -24,6 +24,7 @@ private Q_SLOTS:
     void init();
     void cleanup() { m_driver.reset(); }
     void allOfAFolderIsAdded();
+    void typesOfFilesAreNoPartOfFolders();
     void foldersInsideAreLeftOut();
     void aFilterChooses_data();
     void aFilterChooses();
@@ -97,6 +98,28 @@ void TestAddFolder::allOfAFolderIsAdded()
     QCOMPARE(m_driver->pictures().count(), 4);
     QCOMPARE(m_driver->text("statusText"),
              QStringLiteral("4 pictures added · 2 files were not added: they are not supported pictures."));
+}
+
+void TestAddFolder::typesOfFilesAreNoPartOfFolders()
+{
+    bool hasTypes = true;
+    QString label;
+    int needed = 0;
+    int room = 0;
+    addFolder([&](QFileDialog &panel) {
+        hasTypes = panel.findChild<QWidget *>(QStringLiteral("fileTypeCombo"))->isVisible();
+        label = panel.labelText(QFileDialog::FileName);
+        panel.findChild<QAbstractButton *>(QStringLiteral("addFilter"))->click();
+        QCoreApplication::processEvents();
+        const auto *types = panel.findChild<QLineEdit *>(QStringLiteral("addTypes"));
+        needed = types->fontMetrics().horizontalAdvance(types->placeholderText());
+        constexpr int paddingsPx = 24;
+        room = types->width() - paddingsPx;
+        panel.reject();
+    });
+    QVERIFY(!hasTypes);
+    QCOMPARE(label, QStringLiteral("Folder:"));
+    QVERIFY2(room >= needed, qPrintable(QStringLiteral("%1 of %2").arg(room).arg(needed)));
 }
 
 void TestAddFolder::foldersInsideAreLeftOut()
