@@ -8407,7 +8407,7 @@
     <name>recipe-base</name>
     <message>
         <source>Folder of each picture</source>
-        <translation>Dossier de chaque image</translation>
+        <translation>Dossier de l’image</translation>
     </message>
     <message>
         <source>Choose Folder…</source>

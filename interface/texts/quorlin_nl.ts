@@ -4828,7 +4828,7 @@
     </message>
     <message>
         <source>Undo of %1</source>
-        <translation>Ongedaan gemaakt: %1</translation>
+        <translation>Ongedaan: %1</translation>
     </message>
     <message>
         <source>Redo of %1</source>
@@ -12976,7 +12976,7 @@
     </message>
     <message>
         <source>(several values)</source>
-        <translation>(meerdere waarden)</translation>
+        <translation>(verschillend)</translation>
     </message>
     <message>
         <source>Leave as it is</source>

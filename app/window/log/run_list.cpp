@@ -49,13 +49,19 @@ public:
     }
 
 private:
+    static int takenBy(const QString &right, const QFont &font)
+    {
+        constexpr int gapPx = 8;
+        return right.isEmpty() ? 0 : QFontMetrics(font).horizontalAdvance(right) + gapPx;
+    }
+
     // Draws a text on the right, then one on the left in the remaining space.
     static void paintLine(QPainter &painter, const QRect &place, Qt::Alignment line, const QString &left,
                           const QFont &leftFont, const QString &right, const QFont &rightFont, const char *rightColor)
     {
-        const int taken = right.isEmpty() ? 0 : QFontMetrics(rightFont).horizontalAdvance(right) + 8;
         painter.setFont(leftFont);
-        const QString shown = QFontMetrics(leftFont).elidedText(left, Qt::ElideRight, place.width() - taken);
+        const QString shown =
+            QFontMetrics(leftFont).elidedText(left, Qt::ElideRight, place.width() - takenBy(right, rightFont));
         painter.drawText(place, Qt::AlignLeft | line, shown);
         painter.setFont(rightFont);
         painter.setPen(Theme::color(QString::fromLatin1(rightColor)));
@@ -69,12 +75,17 @@ private:
         bold.setWeight(QFont::DemiBold);
         QFont small = option.font;
         small.setPixelSize(Theme::scaled(smallFontPx));
+        const QString title = index.data().toString();
+        const QString count = index.data(RunRows::countRole).toString();
+        const QString problems = index.data(RunRows::problemsRole).toString();
+        // A long title has its line to itself; the bar below the table gives all counts of the chosen run.
+        const bool isLong = QFontMetrics(bold).horizontalAdvance(title) + takenBy(count, small) > place.width();
+        const bool isCountBelow = isLong && problems.isEmpty();
         painter.setPen(Theme::color(QStringLiteral("text")));
-        paintLine(painter, place, Qt::AlignTop, index.data().toString(), bold,
-                  index.data(RunRows::countRole).toString(), small, "muted");
+        paintLine(painter, place, Qt::AlignTop, title, bold, isLong ? QString() : count, small, "muted");
         painter.setPen(Theme::color(QStringLiteral("muted")));
         paintLine(painter, place, Qt::AlignBottom, index.data(RunRows::dateRole).toString(), small,
-                  index.data(RunRows::problemsRole).toString(), small, "bad");
+                  isCountBelow ? count : problems, small, isCountBelow ? "muted" : "bad");
     }
 };
 

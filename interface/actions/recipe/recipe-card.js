@@ -75,6 +75,7 @@ export class RecipeCard {
         const isOutput = entry.isOutput === true;
         const thing = thingOf(entry);
         this.control("cardOn").visible = !isOutput;
+        this.control("cardOnSpace").visible = !isOutput;
         this.control("cardOn").checked = thing.off !== true;
         this.control("cardShow").visible = isOutput && !isShown;
         this.control("cardDelete").enabled = mayRemove;

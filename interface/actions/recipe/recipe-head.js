@@ -180,7 +180,7 @@ export class RecipeHead {
     showEditing() {
         const on = this.editing !== "";
         EDITING.forEach((name) => { this.form.control(name).visible = on; });
-        ["recipeLabel", "recipeHost"].forEach((name) => { this.form.control(name).visible = !on; });
+        ["recipeHost", "recipeMenu"].forEach((name) => { this.form.control(name).visible = !on; });
         this.form.control("recipeEscape").enabled = on;
         this.showNameProblem();
     }

@@ -82,6 +82,9 @@ private Q_SLOTS:
     void theNameOfAPresetLinesUp();
     void everyChoiceCanBeRead_data() { languages(); }
     void everyChoiceCanBeRead();
+    void everyChoiceOfAWindowCanBeRead_data() { languages(); }
+    void everyChoiceOfAWindowCanBeRead();
+    void theTextsOfACardLineUp();
     void theEndOfALongNameIsSeen();
     void theUnitsOfACropStandBesideItsSizes();
     void nothingMovesWhenTheResultTakesTwoLines_data();
@@ -203,10 +206,13 @@ void PaneLayout::everyChoiceCanBeRead()
     begin(language);
     QStringList problems;
     int seen = 0;
-    for (const char *action : actionNames) {
+    std::vector<const char *> actions(std::begin(actionNames), std::end(actionNames));
+    actions.push_back("recipe"); // which has recipes instead of presets
+    for (const char *action : actions) {
         show(action);
         const auto *preset = m_driver->control<window::ComboBox>("preset");
-        QVERIFY2(preset->isVisible() && preset->count() >= 4, action); // those supplied are there
+        const bool hasPresets = preset->isVisible() && preset->count() >= 4; // those supplied are there
+        QVERIFY2(hasPresets || action == actions.back(), action);
         for (const auto *box : settings().findChildren<window::ComboBox *>())
             for (int i = 0; i < box->count() && box->isVisible() && !isNamedByOthers(*box); ++i) {
                 // Changed settings put a dot before the name.
@@ -222,6 +228,54 @@ void PaneLayout::everyChoiceCanBeRead()
     problems.removeDuplicates();
     QVERIFY2(problems.isEmpty(), qPrintable(problems.join(u'\n')));
     QVERIFY2(seen > 200, qPrintable(QString::number(seen)));
+}
+
+void PaneLayout::everyChoiceOfAWindowCanBeRead()
+{
+    QFETCH(QString, language);
+    begin(language);
+    show("resize");
+    QStringList problems;
+    int seen = 0;
+    for (const char *action : {"clocksAction", "listPropertiesAction", "preferencesAction"}) {
+        m_driver->trigger(action);
+        settle();
+        for (QWidget *each : QApplication::topLevelWidgets()) {
+            if (!each->isVisible() || each == &m_driver->window())
+                continue;
+            for (const auto *box : each->findChildren<window::ComboBox *>())
+                for (int i = 0; i < box->count() && box->isVisible(); ++i, ++seen)
+                    if (box->fontMetrics().horizontalAdvance(box->itemText(i)) > box->roomForText())
+                        problems.append(box->objectName() + QStringLiteral(": ") + box->itemText(i));
+            each->close();
+        }
+    }
+    QVERIFY2(problems.isEmpty(), qPrintable(problems.join(u'\n')));
+    QVERIFY2(seen > 25, qPrintable(QString::number(seen)));
+}
+
+// The title is the text of a button; those of outputs have no box to tick before them.
+void PaneLayout::theTextsOfACardLineUp()
+{
+    begin(QStringLiteral("en"));
+    int seen = 0;
+    for (const char *action : {"recipe", "rename"}) {
+        show(action);
+        if (qstrcmp(action, "rename") == 0)
+            m_driver->choose("preset", QStringLiteral("=Date and place"));
+        settle();
+        for (const auto *title : settings().findChildren<QPushButton *>(QStringLiteral("cardTitle"))) {
+            const auto *summary =
+                title->parentWidget()->parentWidget()->findChild<QWidget *>(QStringLiteral("cardSummary"));
+            if (!title->isVisible() || !summary->isVisible())
+                continue;
+            constexpr int frameAndPaddingPx = 5;
+            QCOMPARE(placeIn(m_driver->window(), *summary).left(),
+                     placeIn(m_driver->window(), *title).left() + frameAndPaddingPx);
+            ++seen;
+        }
+    }
+    QVERIFY2(seen >= 8, qPrintable(QString::number(seen)));
 }
 
 // Names that users give are not bound to fit.
