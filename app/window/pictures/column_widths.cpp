@@ -8,6 +8,18 @@ namespace window {
 namespace {
 
 constexpr int narrowestTextPx = 60;
+constexpr int shortNamePx = 112; // as cameras give them
+
+enum class Part {
+    Least,
+    All,
+};
+
+struct Wish
+{
+    Part ofNames;
+    bool areNamesKept; ///< at leastPx, beside added columns
+};
 
 bool hasAdded(const std::vector<ColumnNeed> &needs)
 {
@@ -70,54 +82,58 @@ void takeFrom(std::vector<int> &widths, const std::vector<int> &spares, int take
     }
 }
 
-/** What a text wants to show of its content; a name no more than leastPx where @p areNamesLimited. */
-int wantedPx(const ColumnNeed &need, bool areNamesLimited)
+/** What a text wants to show of its content: of a name no more than its least part first, then all. */
+int wantedPx(const ColumnNeed &need, const Wish &wish)
 {
-    return need.isName && areNamesLimited ? std::min(need.contentPx, need.leastPx) : need.contentPx;
+    if (!need.isName || wish.ofNames == Part::All)
+        return need.contentPx;
+    return std::min(need.contentPx, wish.areNamesKept ? need.leastPx : shortNamePx);
 }
 
 /** What those columns that count lack for what they want. */
 std::vector<int> lacksOf(const std::vector<ColumnNeed> &needs, const std::vector<int> &widths,
-                         bool (*counts)(const ColumnNeed &), bool areNamesLimited)
+                         bool (*counts)(const ColumnNeed &), const Wish &wish)
 {
     std::vector<int> lacks;
     for (size_t i = 0; i < needs.size(); ++i)
-        lacks.push_back(counts(needs[i]) ? std::max(0, wantedPx(needs[i], areNamesLimited) - widths[i]) : 0);
+        lacks.push_back(counts(needs[i]) ? std::max(0, wantedPx(needs[i], wish) - widths[i]) : 0);
     return lacks;
 }
 
 /** What texts have beyond what they want. */
-std::vector<int> sparesOf(const std::vector<ColumnNeed> &needs, const std::vector<int> &widths, bool areNamesLimited)
+std::vector<int> sparesOf(const std::vector<ColumnNeed> &needs, const std::vector<int> &widths, const Wish &wish)
 {
     std::vector<int> spares;
     for (size_t i = 0; i < needs.size(); ++i) {
-        const int needed = std::max({wantedPx(needs[i], areNamesLimited), needs[i].headingPx, narrowestTextPx});
+        const int needed = std::max({wantedPx(needs[i], wish), needs[i].headingPx, narrowestTextPx});
         spares.push_back(isText(needs[i]) && needs[i].contentPx > 0 ? std::max(0, widths[i] - needed) : 0);
     }
     return spares;
 }
 
 /**
- * Texts pass on what they have beyond their content, and names what they have beyond leastPx: to sizes, then to names
- * that lack it.
+ * Texts pass on what they have beyond their content, and names what they have beyond the least part: to sizes, then to
+ * names that lack it.
  */
 void passOnToShort(const std::vector<ColumnNeed> &needs, std::vector<int> &widths)
 {
-    const std::vector<int> spares = sparesOf(needs, widths, true);
+    const Wish wish = {Part::Least, hasAdded(needs)};
+    const std::vector<int> spares = sparesOf(needs, widths, wish);
     const int spare = std::accumulate(spares.begin(), spares.end(), 0);
     int left = spare;
-    giveInOrder(widths, lacksOf(needs, widths, isNumbers, true), left);
-    giveInOrder(widths, lacksOf(needs, widths, isName, true), left);
+    giveInOrder(widths, lacksOf(needs, widths, isNumbers, wish), left);
+    giveInOrder(widths, lacksOf(needs, widths, isName, wish), left);
     takeFrom(widths, spares, spare - left);
 }
 
 /** The same for the rest, to all that lack room. A name that is seen whole gives nothing to a longer one. */
 void passOnToAll(const std::vector<ColumnNeed> &needs, std::vector<int> &widths)
 {
-    const std::vector<int> spares = sparesOf(needs, widths, false);
+    const Wish wish = {Part::All, hasAdded(needs)};
+    const std::vector<int> spares = sparesOf(needs, widths, wish);
     const int spare = std::accumulate(spares.begin(), spares.end(), 0);
     int left = spare;
-    giveAll(widths, lacksOf(needs, widths, isAny, false), left);
+    giveAll(widths, lacksOf(needs, widths, isAny, wish), left);
     takeFrom(widths, spares, spare - left);
 }
 

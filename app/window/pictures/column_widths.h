@@ -24,7 +24,7 @@ std::vector<int> sidewaysWidths(const std::vector<ColumnNeed> &needs, int roomPx
 
 /**
  * Widths for the room that there is. Without added columns, headings and then texts become as narrow as necessary. What
- * texts do not need for their content goes to columns that lack room for theirs: first to sizes, then to names, as far as leastPx.
+ * texts do not need for their content goes to columns that lack room for theirs: first to sizes, then to short names.
  */
 std::vector<int> fittingWidths(const std::vector<ColumnNeed> &needs, int roomPx);
 
