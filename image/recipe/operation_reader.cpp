@@ -256,7 +256,9 @@ void readLetters(RecipeKeys &keys, WatermarkOperation &mark)
     if (const QStringList problems = text::tokenProblems(mark.text); !problems.isEmpty())
         keys.complain("text", problems.first());
     mark.font = keys.text("font").value_or(QString());
-    if (!mark.font.isEmpty() && !platform::hasFont(mark.font))
+    if (platform::fontFamilies().isEmpty())
+        keys.complain("text", sentence(QT_TRANSLATE_NOOP("recipe", "no font is installed, so no text can be drawn")));
+    else if (!mark.font.isEmpty() && !platform::hasFont(mark.font))
         keys.complain("font",
                       sentence(QT_TRANSLATE_NOOP("recipe", "there is no font \"%1\"")).arg(shortened(mark.font)));
     mark.color = keys.color("color").value_or(mark.color);

@@ -2,6 +2,7 @@
 
 #include "image/recipe/output_kind.h"
 #include "image/recipe/sentence.h"
+#include "image/recipe/watermark.h"
 #include "platform/imageio/convert/lossless_turn.h"
 
 #include <algorithm>
@@ -20,13 +21,23 @@ struct Way
     bool computesPixels = false;
 };
 
-Result<Way> wayThrough(const QList<RecipeStep> &steps, const Way &start)
+/** Fails where the numbers of an operation are sound, but what it puts on the picture cannot be made. */
+Result<Change> changeWith(const Operation &operation, const Stage &stage, const FillText &fill)
+{
+    const Result<Change> change = changeOf(operation, stage);
+    const auto *mark = std::get_if<WatermarkOperation>(&operation);
+    if (!change || !mark || change->effect == Effect::None)
+        return change;
+    return canWatermark(stage.size, *mark, fill).map([&] { return *change; });
+}
+
+Result<Way> wayThrough(const QList<RecipeStep> &steps, const Way &start, const FillText &fill)
 {
     Way way = start;
     for (const RecipeStep &step : steps) {
         if (step.isOff)
             continue;
-        const Result<Change> change = changeOf(step.operation, way.end);
+        const Result<Change> change = changeWith(step.operation, way.end, fill);
         if (!change)
             return tl::unexpected<platform::Error>(change.error());
         way.end = change->after;
@@ -80,9 +91,10 @@ std::optional<CutPlan> cutOf(const QList<RecipeStep> &steps, const Stage &stage)
     return CutPlan{cropFrameOf(*crop, stage), cropPartOf(*crop, stage), crop->position != Place::Attention};
 }
 
-OutputPlan planned(const Recipe &recipe, const RecipeOutput &output, const ImageSource &source, const Stage &stage)
+OutputPlan planned(const Recipe &recipe, const RecipeOutput &output, const ImageSource &source, const FillText &fill)
 {
     OutputPlan plan;
+    const Stage stage = stageOf(source);
     const std::optional<OutputType> own = ownTypeOf(source);
     if (output.type == OutputType::Original && !own) {
         plan.problem = sentence(
@@ -91,8 +103,8 @@ OutputPlan planned(const Recipe &recipe, const RecipeOutput &output, const Image
         return plan;
     }
     plan.type = output.type == OutputType::Original ? *own : output.type;
-    const Result<Way> way = wayThrough(recipe.operations, {stage, {}, false}).and_then([&](const Way &common) {
-        return wayThrough(stepsOf(output), common);
+    const Result<Way> way = wayThrough(recipe.operations, {stage, {}, false}, fill).and_then([&](const Way &common) {
+        return wayThrough(stepsOf(output), common, fill);
     });
     if (!way) {
         plan.problem = way.error().message;
@@ -140,12 +152,11 @@ QList<RecipeStep> stepsOf(const RecipeOutput &output)
     return steps;
 }
 
-QList<OutputPlan> planOf(const Recipe &recipe, const ImageSource &source)
+QList<OutputPlan> planOf(const Recipe &recipe, const ImageSource &source, const FillText &fill)
 {
-    const Stage stage = stageOf(source);
     QList<OutputPlan> plans;
     for (const RecipeOutput &output : recipe.outputs)
-        plans.append(planned(recipe, output, source, stage));
+        plans.append(planned(recipe, output, source, fill));
     return plans;
 }
 

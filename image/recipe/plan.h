@@ -1,6 +1,6 @@
 #pragma once
 
-#include "image/recipe/stage.h"
+#include "image/recipe/render.h"
 #include "platform/imageio/source/image_source.h"
 
 #include <QStringList>
@@ -36,9 +36,9 @@ struct OutputPlan
 
 /**
  * What a recipe makes of one picture, without decoding it. One plan per output; each contains a failure that precedes
- * them.
+ * them. @param fill  without it a text counts with its tokens as they are written
  */
-QList<OutputPlan> planOf(const Recipe &recipe, const platform::ImageSource &source);
+QList<OutputPlan> planOf(const Recipe &recipe, const platform::ImageSource &source, const FillText &fill = {});
 
 /** What is known about a picture from its header. */
 Stage stageOf(const platform::ImageSource &source);

@@ -1,5 +1,6 @@
 #include "image/recipe/watermark.h"
 
+#include "image/recipe/sentence.h"
 #include "image/turn.h"
 #include "platform/effects/lettering.h"
 #include "platform/effects/stamp.h"
@@ -29,22 +30,51 @@ Qt::Alignment linesFor(Place place)
     }
 }
 
-/** A null bitmap if the text is empty once its tokens are filled in. */
-Result<Bitmap> letters(const Rendition &rendition, const WatermarkOperation &mark, const FillText &fill)
+/** Empty if its tokens leave nothing. @p size is that of the picture at full size. */
+QString textOn(QSize size, const WatermarkOperation &mark, const FillText &fill)
 {
-    const QString text = fill ? fill(mark.text, rendition.stage.size) : mark.text;
-    if (text.trimmed().isEmpty())
-        return Bitmap();
-    const double size = std::max(1.0, rendition.bitmap.height() * mark.size / hundred);
-    return platform::drawn({text, mark.font, size, mark.color, linesFor(mark.position)});
+    const QString text = fill ? fill(mark.text, size) : mark.text;
+    return text.trimmed().isEmpty() ? QString() : text;
 }
 
-Result<Bitmap> pictureOf(const Rendition &rendition, const WatermarkOperation &mark)
+platform::Lettering letteringOn(QSize picture, const WatermarkOperation &mark, const QString &text)
 {
+    return {text, mark.font, std::max(1.0, picture.height() * mark.size / hundred), mark.color,
+            linesFor(mark.position)};
+}
+
+QSize sizeOfPictureOn(QSize picture, const WatermarkOperation &mark)
+{
+    constexpr double most = 1 << 30;
     const QSize own = mark.picture.source.uprightSize();
-    const double width = std::max(1.0, std::round(rendition.bitmap.width() * mark.size / hundred));
+    const double width = std::max(1.0, std::round(picture.width() * mark.size / hundred));
     const double height = std::max(1.0, std::round(own.height() * width / own.width()));
-    return mark.picture.source.decodeScaled(QSize(int(width), int(height)));
+    return {int(std::min(width, most)), int(std::min(height, most))};
+}
+
+Result<void> fits(QSize stamp, double degrees)
+{
+    constexpr int bands = 5; // as turning counts them
+    const bool isTurned = !platform::exactTurn(-degrees);
+    const QSize size = isTurned ? turnedCanvas({degrees, {}}, stamp) : stamp;
+    if (platform::fitsMemoryBudget(size.width(), size.height(), isTurned ? bands : bands - 1, 1))
+        return {};
+    return platform::failure(platform::ErrorCode::TooLarge,
+                             sentence(QT_TRANSLATE_NOOP("recipe", "A picture of %1 × %2 pixels cannot be made"))
+                                 .arg(size.width())
+                                 .arg(size.height()));
+}
+
+/** Whether a text or picture of that size can be made; an empty text can. */
+Result<void> canBeOn(QSize picture, const WatermarkOperation &mark, const QString &text)
+{
+    if (mark.picture.isNamed())
+        return fits(sizeOfPictureOn(picture, mark), mark.angle);
+    if (text.isEmpty())
+        return {};
+    return platform::sizeOfDrawn(letteringOn(picture, mark, text)).and_then([&](QSize size) {
+        return fits(size.expandedTo({1, 1}), mark.angle);
+    });
 }
 
 Result<Bitmap> turnedBy(const Bitmap &stamp, double degrees)
@@ -83,15 +113,26 @@ platform::Stamp stampOf(const Bitmap &stamp, QSize picture, const WatermarkOpera
 
 } // namespace
 
+Result<void> canWatermark(QSize size, const WatermarkOperation &mark, const FillText &fill)
+{
+    return canBeOn(size, mark, textOn(size, mark, fill));
+}
+
 Result<Bitmap> watermarked(const Rendition &rendition, const WatermarkOperation &mark, const FillText &fill)
 {
-    const Result<Bitmap> stamp = mark.picture.isNamed() ? pictureOf(rendition, mark) : letters(rendition, mark, fill);
+    const QSize size = rendition.bitmap.size();
+    const bool isPicture = mark.picture.isNamed();
+    const QString text = textOn(rendition.stage.size, mark, fill);
+    if (const Result<void> can = canBeOn(size, mark, text); !can)
+        return tl::unexpected<platform::Error>(can.error());
+    if (!isPicture && text.isEmpty())
+        return rendition.bitmap;
+    const Result<Bitmap> stamp = isPicture ? mark.picture.source.decodeScaled(sizeOfPictureOn(size, mark))
+                                           : platform::drawn(letteringOn(size, mark, text));
     if (!stamp)
         return stamp;
-    if (stamp->isNull())
-        return rendition.bitmap;
     return turnedBy(*stamp, mark.angle).and_then([&](const Bitmap &laid) {
-        return platform::stamped(rendition.bitmap, stampOf(laid, rendition.bitmap.size(), mark));
+        return platform::stamped(rendition.bitmap, stampOf(laid, size, mark));
     });
 }
 

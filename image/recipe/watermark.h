@@ -12,4 +12,7 @@ namespace image {
 platform::Result<platform::Bitmap> watermarked(const Rendition &rendition, const WatermarkOperation &mark,
                                                const FillText &fill);
 
+/** Fails as watermarked() would on a picture of @p size, if the text or picture is too large to be made. */
+platform::Result<void> canWatermark(QSize size, const WatermarkOperation &mark, const FillText &fill);
+
 } // namespace image

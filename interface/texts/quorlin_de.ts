@@ -6324,6 +6324,14 @@
         <source>%1 files can have at most %2 pixels on a side, not %3</source>
         <translation>%1-Dateien fassen höchstens %2 Pixel je Seite, nicht %3</translation>
     </message>
+    <message>
+        <source>The text is too large to be drawn</source>
+        <translation>Der Text ist zu groß, um gezeichnet zu werden</translation>
+    </message>
+    <message>
+        <source>No font is installed, so no text can be drawn</source>
+        <translation>Es ist keine Schrift installiert, daher kann kein Text gezeichnet werden</translation>
+    </message>
 </context>
 <context>
     <name>preferences</name>
@@ -8383,6 +8391,10 @@
     <message>
         <source>Its pixels are compressed in a way that is not supported</source>
         <translation>Die Pixel sind auf eine Weise komprimiert, die nicht unterstützt wird</translation>
+    </message>
+    <message>
+        <source>no font is installed, so no text can be drawn</source>
+        <translation>es ist keine Schrift installiert, daher kann kein Text gezeichnet werden</translation>
     </message>
 </context>
 <context>

@@ -6324,6 +6324,14 @@
         <source>%1 files can have at most %2 pixels on a side, not %3</source>
         <translation>Les fichiers %1 peuvent avoir au plus %2 pixels par côté, et non %3</translation>
     </message>
+    <message>
+        <source>The text is too large to be drawn</source>
+        <translation>Le texte est trop grand pour être dessiné</translation>
+    </message>
+    <message>
+        <source>No font is installed, so no text can be drawn</source>
+        <translation>Aucune police n’est installée, aucun texte ne peut donc être dessiné</translation>
+    </message>
 </context>
 <context>
     <name>preferences</name>
@@ -8383,6 +8391,10 @@
     <message>
         <source>Its pixels are compressed in a way that is not supported</source>
         <translation>Ses pixels sont compressés d’une manière non prise en charge</translation>
+    </message>
+    <message>
+        <source>no font is installed, so no text can be drawn</source>
+        <translation>aucune police n’est installée, aucun texte ne peut donc être dessiné</translation>
     </message>
 </context>
 <context>

@@ -6324,6 +6324,14 @@
         <source>%1 files can have at most %2 pixels on a side, not %3</source>
         <translation>%1-bestanden kunnen hoogstens %2 pixels per zijde hebben, niet %3</translation>
     </message>
+    <message>
+        <source>The text is too large to be drawn</source>
+        <translation>De tekst is te groot om te worden getekend</translation>
+    </message>
+    <message>
+        <source>No font is installed, so no text can be drawn</source>
+        <translation>Er is geen lettertype geïnstalleerd, dus kan er geen tekst worden getekend</translation>
+    </message>
 </context>
 <context>
     <name>preferences</name>
@@ -8383,6 +8391,10 @@
     <message>
         <source>Its pixels are compressed in a way that is not supported</source>
         <translation>De pixels zijn gecomprimeerd op een manier die niet wordt ondersteund</translation>
+    </message>
+    <message>
+        <source>no font is installed, so no text can be drawn</source>
+        <translation>er is geen lettertype geïnstalleerd, dus kan er geen tekst worden getekend</translation>
     </message>
 </context>
 <context>

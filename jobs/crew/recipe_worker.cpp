@@ -103,7 +103,7 @@ private:
         m_facts = withPictureFacts(m_facts, planned.facts);
         if (source) {
             m_source = meta::withSidecar(*source, file, told->packet);
-            m_plans = image::planOf(m_recipe, m_source);
+            m_plans = image::planOf(m_recipe, m_source, fill());
             planned.plans = m_plans;
             planned.pixels = m_source.uprightSize();
         } else {
@@ -190,6 +190,11 @@ private:
         return !m_problem.isEmpty();
     }
 
+    image::FillText fill() const
+    {
+        return [this](const QString &pattern, QSize size) { return watermarkFrom(pattern, m_facts, size); };
+    }
+
     void make()
     {
         if (lacksPicture() || tries())
@@ -199,9 +204,6 @@ private:
                 m_plans[index].problem = QStringLiteral("-"); // nothing is to be made of it
         QElapsedTimer timer;
         timer.start();
-        const image::FillText fill = [this](const QString &pattern, QSize size) {
-            return watermarkFrom(pattern, m_facts, size);
-        };
         const auto take = [&](int index, const Result<image::MadeOutput> &made) {
             MadeMessage message;
             message.index = index;
@@ -212,7 +214,7 @@ private:
             message.milliseconds = timer.restart();
             m_socket.send(toMessage(message));
         };
-        image::makeOutputs(m_recipe, m_source, m_plans, fill, take);
+        image::makeOutputs(m_recipe, m_source, m_plans, fill(), take);
         forgetPicture();
         m_socket.send(toMessage(MessageKind::Done));
     }

@@ -260,7 +260,7 @@ ReadAnswer bytesOf(const image::Recipe &recipe, const ImageSource &source, const
     const image::FillText fill = [&facts](const QString &pattern, QSize size) {
         return watermarkFrom(pattern, facts, size);
     };
-    const image::OutputPlan plan = image::planOf(recipe, source).first();
+    const image::OutputPlan plan = image::planOf(recipe, source, fill).first();
     if (!plan.problem.isEmpty())
         return failed(plan.problem);
     image::makeOutputs(recipe, source, {plan}, fill, [&answer](int, const Result<image::MadeOutput> &made) {

@@ -6,6 +6,8 @@
 #include <fontconfig/fontconfig.h>
 #include <pango/pangocairo.h>
 
+#include <QCoreApplication>
+
 #include <memory>
 
 namespace platform {
@@ -28,8 +30,27 @@ bool isGeneric(const QString &family)
            family.compare(QLatin1String("monospace"), Qt::CaseInsensitive) == 0;
 }
 
+QString text(const char *sentence)
+{
+    return QCoreApplication::translate("platform", sentence);
+}
+
+tl::unexpected<Error> tooLarge()
+{
+    return failure(ErrorCode::TooLarge, text(QT_TRANSLATE_NOOP("platform", "The text is too large to be drawn")));
+}
+
+/** The generic families are always among those of the layout library, even where it finds no letters for them. */
+bool hasAnyFont()
+{
+    const FcFontSet *fonts = FcConfigGetFonts(nullptr, FcSetSystem);
+    return fonts && fonts->nfont > 0;
+}
+
 QStringList installedFamilies()
 {
+    if (!hasAnyFont())
+        return {};
     PangoFontFamily **families = nullptr;
     int count = 0;
     pango_font_map_list_families(pango_cairo_font_map_get_default(), &families, &count);
@@ -58,12 +79,17 @@ VipsAlign alignmentOf(Qt::Alignment lines)
     return lines.testFlag(Qt::AlignHCenter) ? VIPS_ALIGN_CENTRE : VIPS_ALIGN_LOW;
 }
 
+Description descriptionFor(const Lettering &lettering)
+{
+    Description description = descriptionOf(lettering.font.isEmpty() ? QString::fromLatin1(usualFont) : lettering.font);
+    pango_font_description_set_absolute_size(description.get(), lettering.size * PANGO_SCALE);
+    return description;
+}
+
 /** One band: how much of each pixel is covered. */
 VImage coverageOf(const Lettering &lettering)
 {
-    const QString font = lettering.font.isEmpty() ? QString::fromLatin1(usualFont) : lettering.font;
-    const Description description = descriptionOf(font);
-    pango_font_description_set_absolute_size(description.get(), lettering.size * PANGO_SCALE);
+    const Description description = descriptionFor(lettering);
     const std::unique_ptr<char, decltype(&g_free)> name(pango_font_description_to_string(description.get()), g_free);
     return VImage::text(lettering.text.toHtmlEscaped().toUtf8().constData(), // the library would parse it as markup
                         VImage::option()->set("font", name.get())->set("align", alignmentOf(lettering.lines)));
@@ -77,7 +103,9 @@ bool hasFont(const QString &font)
     const char *family = pango_font_description_get_family(description.get());
     const QString name = QString::fromUtf8(family);
     const bool hasSize = (pango_font_description_get_set_fields(description.get()) & PANGO_FONT_MASK_SIZE) != 0;
-    return family && !hasSize && (isGeneric(name) || installedFamilies().contains(name, Qt::CaseInsensitive));
+    const QStringList installed = installedFamilies();
+    return family && !hasSize && !installed.isEmpty() &&
+           (isGeneric(name) || installed.contains(name, Qt::CaseInsensitive));
 }
 
 QStringList fontFamilies()
@@ -113,21 +141,43 @@ QString fontFile(const QString &font)
     return QString::fromUtf8(reinterpret_cast<const char *>(file));
 }
 
-Result<Bitmap> drawn(const Lettering &lettering)
+Result<QSize> sizeOfDrawn(const Lettering &lettering)
 {
+    struct Unreference
+    {
+        void operator()(void *object) const { g_object_unref(object); }
+    };
     constexpr double largestSize = 20'000;
     constexpr qsizetype longest = 10'000;
+    constexpr int longestSide = 32'000; // a little less than the drawing library has
     if (lettering.text.trimmed().isEmpty() || !(lettering.size > 0))
         return failure(ErrorCode::InvalidValue, QStringLiteral("There is no text to draw"));
     if (lettering.size > largestSize || lettering.text.size() > longest)
-        return failure(ErrorCode::TooLarge, QStringLiteral("The text is too large"));
-    if (installedFamilies().isEmpty())
-        return failure(ErrorCode::Unsupported, QStringLiteral("There is no font"));
+        return tooLarge();
+    if (!hasAnyFont())
+        return failure(ErrorCode::Unsupported,
+                       text(QT_TRANSLATE_NOOP("platform", "No font is installed, so no text can be drawn")));
+    const std::unique_ptr<PangoContext, Unreference> context(
+        pango_font_map_create_context(pango_cairo_font_map_get_default()));
+    const std::unique_ptr<PangoLayout, Unreference> layout(pango_layout_new(context.get()));
+    const Description description = descriptionFor(lettering);
+    pango_layout_set_font_description(layout.get(), description.get());
+    pango_layout_set_text(layout.get(), lettering.text.toUtf8().constData(), -1);
+    PangoRectangle ink;
+    pango_layout_get_pixel_extents(layout.get(), &ink, nullptr);
+    const bool fits = ink.width <= longestSide && ink.height <= longestSide;
+    return fits && fitsMemoryBudget(std::max(1, ink.width), std::max(1, ink.height), 4, 1)
+               ? Result<QSize>(QSize(ink.width, ink.height))
+               : tooLarge();
+}
+
+Result<Bitmap> drawn(const Lettering &lettering)
+{
+    if (const Result<QSize> size = sizeOfDrawn(lettering); !size)
+        return tl::unexpected<Error>(size.error());
     try {
         initVips();
         const VImage coverage = coverageOf(lettering);
-        if (!fitsMemoryBudget(coverage.width(), coverage.height(), 4, 1))
-            return failure(ErrorCode::TooLarge, QStringLiteral("The text is too large"));
         const QColor color = lettering.color.toRgb();
         const VImage plain =
             coverage.new_from_image({double(color.red()), double(color.green()), double(color.blue())});

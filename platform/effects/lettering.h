@@ -33,9 +33,12 @@ struct Lettering
 };
 
 /**
- * The text on a transparent bitmap of exactly its size. Fails with InvalidValue if nothing is visible, and with
- * TooLarge if it would be larger than any picture.
+ * The size of the text in pixels, without drawing it; a pixel more or less than drawn() needs. Fails with InvalidValue
+ * if there is no text, with TooLarge if it is larger than can be drawn, and with Unsupported where no font is installed.
  */
+Result<QSize> sizeOfDrawn(const Lettering &lettering);
+
+/** The text on a transparent bitmap of exactly its size. Fails like sizeOfDrawn(). */
 Result<Bitmap> drawn(const Lettering &lettering);
 
 } // namespace platform

@@ -241,6 +241,33 @@ class OtherOperations(ContractTest):
         self.assertTrue(ink and min(x for x, y in ink) > 100 and min(y for x, y in ink) > 40, ink[:1])
         self.assertLessEqual(max(max(text.at(x, y)) for x, y in ink), 180)  # 70 of 100
 
+    def test_what_cannot_be_made_is_not_planned(self):
+        """A mark or frame that is too large: the plan says what the run says, and nothing is written."""
+        large = {"do": "resize", "width": 4000, "enlarge": True}
+        png(self.path("m.png"), 1, 3000)
+        png(self.path(f"{'long ' * 40}.png"))
+        text = "The text is too large to be drawn"
+        for name, operations, reason in (
+                ("a.png", [large, {"do": "watermark", "text": "W" * 40, "size": 60}], text),
+                ("a.png", [large, {"do": "watermark", "text": "W\n" * 40, "size": 60, "opacity": 1}], text),
+                ("a.png", [{"do": "watermark", "text": "W" * 10001, "size": 1}], text),
+                (f"{'long ' * 40}.png", [large, {"do": "watermark", "text": "{name}", "size": 100}], text),
+                ("a.png", [large, {"do": "watermark", "text": "W" * 14, "size": 70, "angle": 45}], "cannot be made"),
+                ("a.png", [large, {"do": "watermark", "picture": "m.png", "size": 100}], "4000 × 12000000 pixels cannot be made"),
+                ("a.png", [{"do": "frame", "width": 100000}], "200040 × 200030 pixels cannot be made")):
+            for outputs in ([{"type": "png"}], [{"type": "png", "operations": operations}]):
+                own = operations if "operations" not in outputs[0] else []
+                self.recipe({"quorlin": 1, "operations": own, "outputs": outputs})
+                with self.subTest(operations=str(operations)[:99]):
+                    planned = self.lines("--dry-run", "--to", "out", "r.quorlin", name, status=1)
+                    made = self.lines("--to", "out", "r.quorlin", name, status=1)
+                    self.assertIn(reason, planned[0]["reason"])
+                    self.assertEqual(planned[0]["reason"], made[0]["reason"])
+                    self.assertFalse(self.path("out").exists())
+        self.made([large, {"do": "watermark", "text": "W" * 9, "size": 60}])
+        self.made([large, {"do": "watermark", "text": "{camera}" * 9, "size": 100}])  # of which nothing is left
+        self.made([large, {"do": "watermark", "text": "W" * 40, "size": 60, "off": True}])
+
 
 class Outputs(ContractTest):
     def setUp(self):

@@ -116,6 +116,20 @@ class BadRequests(BatchTest):
         self.path(name).write_text(f"<fontconfig><dir>/usr/share/fonts</dir><cachedir>{self.path(name + '-cache')}</cachedir></fontconfig>")
         return {"FONTCONFIG_FILE": str(self.path(name))}
 
+    def test_text_without_any_font(self):
+        """The boxes that are drawn for missing letters are no substitute: nothing is planned, made or written."""
+        png(self.path("a.png"))
+        self.path("none").write_text(f"<fontconfig><dir>{self.folder}/nothing</dir><cachedir>{self.folder}/none-cache</cachedir></fontconfig>")
+        self.plain()
+        self.run_batch("--dry-run", "--report", "plan", "r.quorlin", "a.png")
+        for name, mark in (("r.quorlin", {}), ("sans.quorlin", {"font": "Sans"}), ("named.quorlin", {"font": "DejaVu Sans"})):
+            self.recipe({"quorlin": 1, "operations": [{"do": "watermark", "text": "x", **mark}], "outputs": [{"type": "png"}]}, name)
+            before = self.files(".")
+            for options in ((), ("--dry-run",), ("--plan", "plan"), ("--jobs", "2"), ("--dry-run", "--jobs", "2")):
+                self.run_batch(*options, "--to", "out", name, "a.png", status=2, env={"FONTCONFIG_FILE": str(self.path("none"))})
+                self.assertEqual(self.said, f"quorlin-batch: {name}: operations[0].text: no font is installed, so no text can be drawn\n")
+                self.assertEqual([each for each in self.files(".") if not each.startswith("none-cache")], before)
+
     def test_too_little_memory_is_named(self):
         """Whether the worker ends before it has read the recipe, or over the picture, depends on the moment."""
         png(self.path("a.png"))
