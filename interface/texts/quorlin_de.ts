@@ -59,8 +59,8 @@
         <translation>T&amp;ypen</translation>
     </message>
     <message>
-        <source>all, or such as jpg, tif</source>
-        <translation>alle, oder etwa jpg, tif</translation>
+        <source>all, or jpg, tif</source>
+        <translation>alle, oder jpg, tif</translation>
     </message>
     <message>
         <source>File types, by extension</source>
@@ -107,12 +107,12 @@
         <translation>Das Aufnahmedatum, oder das Änderungsdatum, wenn die Datei kein Aufnahmedatum hat</translation>
     </message>
     <message>
-        <source>Date from</source>
-        <translation>Datum von</translation>
+        <source>First day</source>
+        <translation>Erster Tag</translation>
     </message>
     <message>
-        <source>Date to</source>
-        <translation>Datum bis</translation>
+        <source>Last day</source>
+        <translation>Letzter Tag</translation>
     </message>
 </context>
 <context>

@@ -59,8 +59,8 @@
         <translation>F&amp;ormats</translation>
     </message>
     <message>
-        <source>all, or such as jpg, tif</source>
-        <translation>tous, ou par exemple jpg, tif</translation>
+        <source>all, or jpg, tif</source>
+        <translation>tous, ou jpg, tif</translation>
     </message>
     <message>
         <source>File types, by extension</source>
@@ -107,12 +107,12 @@
         <translation>La date de prise de vue ou, à défaut, la date de modification</translation>
     </message>
     <message>
-        <source>Date from</source>
-        <translation>Date du</translation>
+        <source>First day</source>
+        <translation>Premier jour</translation>
     </message>
     <message>
-        <source>Date to</source>
-        <translation>Date au</translation>
+        <source>Last day</source>
+        <translation>Dernier jour</translation>
     </message>
 </context>
 <context>

@@ -59,8 +59,8 @@
         <translation>T&amp;ypen</translation>
     </message>
     <message>
-        <source>all, or such as jpg, tif</source>
-        <translation>alle, of bijvoorbeeld jpg, tif</translation>
+        <source>all, or jpg, tif</source>
+        <translation>alle, of jpg, tif</translation>
     </message>
     <message>
         <source>File types, by extension</source>
@@ -107,12 +107,12 @@
         <translation>De opnamedatum, of de wijzigingsdatum als het bestand geen opnamedatum heeft</translation>
     </message>
     <message>
-        <source>Date from</source>
-        <translation>Datum van</translation>
+        <source>First day</source>
+        <translation>Eerste dag</translation>
     </message>
     <message>
-        <source>Date to</source>
-        <translation>Datum tot</translation>
+        <source>Last day</source>
+        <translation>Laatste dag</translation>
     </message>
 </context>
 <context>

@@ -8,11 +8,18 @@
 #include "tests/support/pseudo_texts.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QFile>
 #include <QFontMetrics>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTest>
+
+#include <algorithm>
 
 namespace {
 
@@ -30,7 +37,7 @@ QStringList sameEverywhere()
             "日本語 "
             "한국어 Norsk Polski Português Русский Svenska Türkçe Українська 中文 Qt libvips exiv Cairo libjpeg turbo "
             "libdeflate OpenJPEG "
-            "OpenJPEG libplist SQLite GPL LGPL IJG BSD MIT public domain "
+            "OpenJPEG libplist SQLite GPL LGPL IJG BSD MIT public domain Adobe Display "
             // forms of dates, and property names as files have them
             "yyyy MM dd ColorModel Depth DPIHeight DPIWidth HasAlpha PixelHeight PixelWidth")
             .split(u' ');
@@ -40,6 +47,24 @@ QStringList sameEverywhere()
     for (const QString &font : platform::fontFamilies())
         words += font.split(QRegularExpression(QStringLiteral("\\P{L}+")), Qt::SkipEmptyParts);
     return words;
+}
+
+/** What the supplied recipes call their files and folders, the longest first. */
+QStringList namesInRecipes()
+{
+    QStringList names;
+    const QDir folder(QStringLiteral(QUORLIN_INTERFACE_FOLDER) + QStringLiteral("/../recipes"));
+    for (const QFileInfo &info : folder.entryInfoList({QStringLiteral("*.quorlin")}, QDir::Files)) {
+        names.append(info.canonicalFilePath());
+        QFile file(info.filePath());
+        if (!file.open(QIODevice::ReadOnly))
+            return {};
+        const QJsonArray outputs = QJsonDocument::fromJson(file.readAll()).object()[QLatin1String("outputs")].toArray();
+        for (const QJsonValue output : outputs)
+            names.append(output[QLatin1String("folder")].toString() + u'/' + output[QLatin1String("name")].toString());
+    }
+    std::sort(names.begin(), names.end(), [](const QString &a, const QString &b) { return a.size() > b.size(); });
+    return names;
 }
 
 } // namespace
@@ -126,7 +151,7 @@ private Q_SLOTS:
                     problems.append(place + QStringLiteral(": ") + each);
                 }
             if (language == QLatin1String("qq"))
-                m_texts += shownTexts(window).replaceInStrings(m_driver->folder().section(u'/', -1), QString());
+                m_texts += ownTexts(window);
         };
         tour(size, look);
         report(problems);
@@ -143,6 +168,16 @@ private Q_SLOTS:
     }
 
 private:
+    /** The texts of a window without names of files and folders. */
+    QStringList ownTexts(const QWidget &window)
+    {
+        static const QStringList names = namesInRecipes();
+        QStringList texts = shownTexts(window).replaceInStrings(m_driver->folder().section(u'/', -1), QString());
+        for (const QString &name : names)
+            texts.replaceInStrings(name, QString());
+        return texts;
+    }
+
     // One message a line: a long one would be cut off.
     static void report(const QStringList &problems)
     {
@@ -164,7 +199,8 @@ private:
         tour.runs();
         tour.bars();
         tour.actions();
-        tour.savePanel();
+        tour.windows();
+        tour.panels();
     }
 
     QTemporaryDir m_folder;

@@ -21,6 +21,15 @@ ComboBox::ComboBox(QWidget *parent) : QComboBox(parent)
     setSizeAdjustPolicy(AdjustToContents);
 }
 
+QSize ComboBox::sizeHint() const
+{
+    QSize size = withBearing(QComboBox::sizeHint());
+    const int most = property("mostCharacters").toInt();
+    if (most > 0)
+        size.setWidth(qMin(size.width(), most * fontMetrics().averageCharWidth() + besideEntryPx));
+    return size;
+}
+
 // The toolkit does not update this size when the entries change.
 QSize ComboBox::minimumSizeHint() const
 {

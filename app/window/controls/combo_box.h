@@ -17,7 +17,10 @@ class ComboBox : public QComboBox
 public:
     explicit ComboBox(QWidget *parent = nullptr);
 
-    QSize sizeHint() const override { return withBearing(QComboBox::sizeHint()); }
+    /**
+     * As wide as its entries. The property mostCharacters limits that in a box whose entries others may name.
+     */
+    QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
     void showPopup() override;
     /** The widest text that is readable while the box is closed, in pixels. */

@@ -113,6 +113,9 @@ private Q_SLOTS:
         tour.runs();
         tour.bars();
         tour.actions();
+        tour.windows();
+        tour.manual();
+        tour.panels();
         for (const QString &each : problems)
             qWarning("%s", qPrintable(each));
         QVERIFY2(most > 20, qPrintable(QString::number(most)));

@@ -205,7 +205,7 @@ void CodecWords::lookAtSheets()
     WindowTour tour(*m_driver, {1440, 900},
                     [this](const QString &place, const QWidget &window) { look(place, window); });
     tour.sheets();
-    tour.savePanel();
+    tour.panels();
 }
 
 void CodecWords::areExplainedInEveryPane_data()

@@ -50,6 +50,9 @@ private Q_SLOTS:
         tour.runs();
         tour.bars();
         tour.actions();
+        tour.windows();
+        tour.manual();
+        tour.panels();
         for (const QString &each : problems)
             qWarning("%s", qPrintable(each));
         QCOMPARE(problems.size(), 0);

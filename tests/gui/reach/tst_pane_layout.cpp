@@ -144,6 +144,7 @@ private:
     }
 
     QStringList misplaced(const QString &action);
+    void openCards();
 
     std::unique_ptr<WindowDriver> m_driver;
 };
@@ -199,6 +200,15 @@ void PaneLayout::theNameOfAPresetLinesUp()
     }
 }
 
+void PaneLayout::openCards()
+{
+    const auto cards = [this] { return settings().findChildren<QPushButton *>(QStringLiteral("cardTitle")); };
+    for (int i = 0; i < cards().size(); ++i)
+        cards().at(i)->click();
+    settle();
+    QVERIFY(cards().size() > 4);
+}
+
 // The chosen entry is not all: the others are read as well when the box is open, and are as wide.
 void PaneLayout::everyChoiceCanBeRead()
 {
@@ -206,13 +216,15 @@ void PaneLayout::everyChoiceCanBeRead()
     begin(language);
     QStringList problems;
     int seen = 0;
-    std::vector<const char *> actions(std::begin(actionNames), std::end(actionNames));
-    actions.push_back("recipe"); // which has recipes instead of presets
-    for (const char *action : actions) {
+    QList<const char *> names(std::begin(actionNames), std::end(actionNames));
+    names.append("recipe"); // which has recipes instead of presets
+    for (const char *action : qAsConst(names)) {
         show(action);
-        const auto *preset = m_driver->control<window::ComboBox>("preset");
-        const bool hasPresets = preset->isVisible() && preset->count() >= 4; // those supplied are there
-        QVERIFY2(hasPresets || action == actions.back(), action);
+        const bool isRecipe = qstrcmp(action, "recipe") == 0;
+        const auto *preset = m_driver->control<window::ComboBox>(isRecipe ? "recipeChoice" : "preset");
+        QVERIFY2(preset->isVisible() && preset->count() >= 4, action); // those supplied are there
+        if (isRecipe)
+            openCards();
         for (const auto *box : settings().findChildren<window::ComboBox *>())
             for (int i = 0; i < box->count() && box->isVisible() && !isNamedByOthers(*box); ++i) {
                 // Changed settings put a dot before the name.

@@ -2,7 +2,6 @@
 
 #include "app/window/controls/search_menu.h"
 #include "app/window/controls/segmented_control.h"
-#include "app/window/panels/save_dialog.h"
 
 #include "platform/desktop/user_defaults.h"
 #include "tests/support/test_pictures.h"
@@ -13,6 +12,7 @@
 #include <QDialog>
 #include <QDir>
 #include <QFile>
+#include <QFileDialog>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -25,8 +25,8 @@
 
 namespace {
 
-const char *const actionNames[] = {"resize", "crop", "turn", "round",   "background", "watermark", "convert", "rename",
-                                   "sort",   "hand", "web",  "contact", "metadata",   "fields",    "log"};
+const char *const actionNames[] = {"resize", "crop", "turn", "round", "background", "watermark", "recipe", "convert",
+                                   "rename", "sort", "hand", "web",   "contact",    "metadata",  "fields", "log"};
 
 /** How many values a control has that a person can choose by one click; 0 for other controls. */
 int valuesOf(const QWidget &control)
@@ -104,6 +104,8 @@ void WindowTour::look(const QString &place, QWidget &window)
     constexpr int deepest = 8;
     for (int i = 0; i < deepest; ++i)
         QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    // The toolkit updates the bars of a list by a timer once its columns have changed.
+    QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
     m_look(place, window);
 }
 
@@ -138,6 +140,8 @@ void WindowTour::actions()
         visit(QString::fromLatin1(name), visited);
         if (qstrcmp(name, "rename") == 0)
             visitCards();
+        if (qstrcmp(name, "recipe") == 0)
+            visitOperations();
     }
     m_driver.show("resize");
     m_driver.trigger("clearAction");
@@ -206,6 +210,36 @@ void WindowTour::visitCards()
         QSet<QString> visited;
         visit(place, visited);
         m_driver.click("cardDelete");
+    }
+}
+
+// Each kind of operation, and the outputs, open.
+void WindowTour::visitOperations()
+{
+    auto *menu = m_driver.control<window::SearchMenu>("operationMenu");
+    const auto cards = [this] {
+        return m_driver.control<QWidget>("settings")->findChildren<QPushButton *>(QStringLiteral("cardTitle"));
+    };
+    QSet<QString> visited;
+    int kinds = 1;
+    for (int kind = 0; kind < kinds; ++kind) {
+        m_driver.click("addOperation");
+        kinds = menu->findChild<QListWidget *>()->count();
+        if (kind == 0)
+            look(QStringLiteral("recipe, menu of operations"), *menu);
+        auto *field = menu->findChild<QLineEdit *>();
+        for (int i = 0; i < kind; ++i)
+            QTest::keyClick(field, Qt::Key_Down);
+        QTest::keyClick(field, Qt::Key_Return);
+        const QString place = QStringLiteral("recipe, operation %1").arg(kind);
+        look(place);
+        visit(place, visited);
+    }
+    for (int card = 0; card < cards().size(); ++card) {
+        cards().at(card)->click();
+        const QString place = QStringLiteral("recipe, card %1").arg(card);
+        look(place);
+        visit(place, visited);
     }
 }
 
@@ -288,17 +322,64 @@ void WindowTour::sheets()
     qunsetenv("QUORLIN_PRODUCT_PAGE");
 }
 
-void WindowTour::savePanel()
+void WindowTour::visitWindow(const char *opens, const char *name)
+{
+    m_driver.trigger(opens);
+    QWidget *opened = nullptr;
+    m_driver.waitFor([&] {
+        for (QWidget *each : QApplication::topLevelWidgets())
+            if (each->isVisible() && each->objectName() == QLatin1String(name))
+                opened = each;
+        return opened != nullptr;
+    });
+    if (!opened)
+        qFatal("%s opened nothing", opens);
+    look(QString::fromLatin1(name), *opened);
+    opened->close();
+}
+
+void WindowTour::windows()
+{
+    startAgain();
+    m_driver.show("resize");
+    addPictures();
+    visitWindow("clocksAction", "clocksWindow");
+    visitWindow("listPropertiesAction", "listPropertiesWindow");
+    m_driver.trigger("selectAllAction");
+    visitSheet("printAction", true, "printWindow", "printClose");
+}
+
+void WindowTour::manual()
+{
+    visitWindow("manualAction", "manualWindow");
+}
+
+// Panels are modal: they are visited by a timer.
+void WindowTour::panels()
 {
     m_driver.startAgain();
     m_driver.window().resize(m_size);
     addPictures();
-    QTimer::singleShot(300, qApp, [this] {
-        auto *panel = qobject_cast<window::SaveDialog *>(QApplication::activeModalWidget());
+    visitPanel("saveAsAction", [](QFileDialog &) {});
+    visitPanel("addFolderAction", [](QFileDialog &panel) {
+        for (const char *box : {"addFilter", "addDated"})
+            panel.findChild<QAbstractButton *>(QString::fromLatin1(box))->click();
+    });
+}
+
+void WindowTour::visitPanel(const char *opens, const std::function<void(QFileDialog &)> &prepare)
+{
+    bool isSeen = false;
+    QTimer::singleShot(300, qApp, [&] {
+        auto *panel = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
         if (!panel)
             return;
-        look(QStringLiteral("save panel"), *panel);
+        isSeen = true;
+        prepare(*panel);
+        look(QString::fromLatin1(opens) + QStringLiteral(", panel"), *panel);
         panel->reject();
     });
-    m_driver.trigger("saveAsAction");
+    m_driver.trigger(opens);
+    if (!isSeen)
+        qFatal("%s opened no panel", opens);
 }

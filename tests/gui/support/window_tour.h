@@ -5,6 +5,8 @@
 #include <QSet>
 #include <QTimer>
 
+class QFileDialog;
+
 /**
  * Visits everything that the program shows: each action without and with pictures, each choice of its settings, its
  * cards and slots, a run and its summary, every sheet, and questions that come up. At each stop the window, or the
@@ -23,7 +25,12 @@ public:
     void bars();
     void runs();
     void sheets();
-    void savePanel();
+    /** Windows beside the main window. */
+    void windows();
+    /** The manual, whose pages are in each language. */
+    void manual();
+    /** Panels for files that have choices of this program. */
+    void panels();
 
 private:
     void look(const QString &place);
@@ -33,10 +40,13 @@ private:
     void visit(const QString &place, QSet<QString> &visited);
     void visitValues(const QString &place, QWidget &control, QSet<QString> &visited);
     void visitCards();
+    void visitOperations();
     void lookAtQuestion();
     void startAgain();
     void choosePreset();
     void visitSheet(const char *opens, bool isAction, const char *sheet, const char *closes);
+    void visitWindow(const char *opens, const char *name);
+    void visitPanel(const char *opens, const std::function<void(QFileDialog &)> &prepare);
 
     WindowDriver &m_driver;
     QSize m_size;
