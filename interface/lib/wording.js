@@ -46,7 +46,7 @@ export function statusKind(status) {
     return { "OK": "good", "Failed": "bad", "Not Supported": "bad", "Skipped": "caution" }[status];
 }
 
-/** "2 problems". */
+/** "2 problems", "no problems". */
 export function problemsText(number) {
-    return qsTr("%n problems", "", number);
+    return number === 0 ? qsTr("no problems") : qsTr("%n problems", "", number);
 }

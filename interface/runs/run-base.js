@@ -137,7 +137,7 @@ export class BaseRun {
         const time = this.timeText();
         this.text = fillNumbers(qsTr("%1 of %2"), this.progress.done, this.progress.count);
         this.detail = (time ? [time] : [])
-            .concat([this.problems === 0 ? qsTr("no problems") : problemsText(this.problems)]).join(" · ");
+            .concat([problemsText(this.problems)]).join(" · ");
     }
 
     showProgress() {

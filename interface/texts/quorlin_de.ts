@@ -114,6 +114,10 @@
         <source>Last day</source>
         <translation>Letzter Tag</translation>
     </message>
+    <message>
+        <source>With 0 there is no upper limit</source>
+        <translation>Bei 0 gibt es keine Obergrenze</translation>
+    </message>
 </context>
 <context>
     <name>AddToRecipe</name>
@@ -9665,10 +9669,6 @@
         <translation>%1 von %2</translation>
     </message>
     <message>
-        <source>no problems</source>
-        <translation>keine Probleme</translation>
-    </message>
-    <message>
         <source>Save the report</source>
         <translation>Bericht speichern</translation>
     </message>
@@ -11915,6 +11915,10 @@
     <message>
         <source>%1%</source>
         <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>no problems</source>
+        <translation>keine Probleme</translation>
     </message>
 </context>
 <context>

@@ -114,6 +114,10 @@
         <source>Last day</source>
         <translation>Dernier jour</translation>
     </message>
+    <message>
+        <source>With 0 there is no upper limit</source>
+        <translation>Avec 0, il n’y a pas de limite supérieure</translation>
+    </message>
 </context>
 <context>
     <name>AddToRecipe</name>
@@ -9665,10 +9669,6 @@
         <translation>%1 sur %2</translation>
     </message>
     <message>
-        <source>no problems</source>
-        <translation>aucun problème</translation>
-    </message>
-    <message>
         <source>Save the report</source>
         <translation>Enregistrer le rapport</translation>
     </message>
@@ -11915,6 +11915,10 @@
     <message>
         <source>%1%</source>
         <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>no problems</source>
+        <translation>aucun problème</translation>
     </message>
 </context>
 <context>

@@ -114,6 +114,10 @@
         <source>Last day</source>
         <translation>Laatste dag</translation>
     </message>
+    <message>
+        <source>With 0 there is no upper limit</source>
+        <translation>Bij 0 is er geen bovengrens</translation>
+    </message>
 </context>
 <context>
     <name>AddToRecipe</name>
@@ -9665,10 +9669,6 @@
         <translation>%1 van %2</translation>
     </message>
     <message>
-        <source>no problems</source>
-        <translation>geen problemen</translation>
-    </message>
-    <message>
         <source>Save the report</source>
         <translation>Rapport bewaren</translation>
     </message>
@@ -11915,6 +11915,10 @@
     <message>
         <source>%1%</source>
         <translation>%1%</translation>
+    </message>
+    <message>
+        <source>no problems</source>
+        <translation>geen problemen</translation>
     </message>
 </context>
 <context>

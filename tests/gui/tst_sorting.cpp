@@ -64,7 +64,7 @@ private Q_SLOTS:
         const QStringList before = filesBelow(m_pictures);
         const QByteArray bytes = pictures::bytesOf(at("a.jpg"));
         m_driver->drop({m_pictures});
-        run(QStringLiteral("4 files moved into 3 folders · 5 folders made, 0 problems"));
+        run(QStringLiteral("4 files moved into 3 folders · 5 folders made, no problems"));
         QVERIFY(button("openFolderButton")->isVisible());
         QCOMPARE(m_driver->text("sortTreeSummary"), QString());
         QCOMPARE(filesBelow(m_pictures),

@@ -166,7 +166,7 @@ void TwoWindows::leaveEachOthersRunsAlone_data()
     QTest::addColumn<QString>("result");
     QTest::newRow("pictures") << QStringLiteral("resize") << QStringLiteral("12 pictures done");
     QTest::newRow("several outputs") << QStringLiteral("web") << QStringLiteral("36 files made");
-    QTest::newRow("names") << QStringLiteral("rename") << QStringLiteral("12 files renamed, 0 problems");
+    QTest::newRow("names") << QStringLiteral("rename") << QStringLiteral("12 files renamed, no problems");
 }
 
 void TwoWindows::leaveEachOthersRunsAlone()
