@@ -20,9 +20,11 @@ QString samplePictures(const QString &from, const QString &folder)
 
 void settle(WindowDriver &driver)
 {
-    // A busy machine takes longer: until the window has looked the same for a while.
+    // A busy machine takes longer: until thumbnails are there and the window has looked the same for a while, in which
+    // a worker starts and makes a preview.
+    driver.waitFor([&driver] { return driver.pictures().isSettled(); });
     constexpr int stepMs = 300;
-    constexpr int stepsOfRest = 3;
+    constexpr int stepsOfRest = 8;
     constexpr int mostSteps = 100;
     QImage before;
     for (int step = 0, rest = 0; step < mostSteps && rest < stepsOfRest; ++step) {
