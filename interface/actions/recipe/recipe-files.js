@@ -6,7 +6,7 @@ import { files, FolderNames } from "quorlin/files";
 import { recipes } from "quorlin/recipes";
 import { joinPath, splitPath } from "../../lib/names.js";
 import { fill } from "../../lib/wording.js";
-import { parsed, RECIPE_TYPE, textOf, withAbsolutePaths } from "./recipe-text.js";
+import { canBeShown, parsed, RECIPE_TYPE, textOf, withAbsolutePaths } from "./recipe-text.js";
 
 /** The names of the supplied recipes in the reader's language. */
 function suppliedNames() {
@@ -73,7 +73,8 @@ export function readRecipe(path) {
     if (text === null) {
         return { text: "", problem: fill(qsTr("%1 cannot be read."), splitPath(path).name) };
     }
-    if (parsed(text) === null) {
+    const recipe = parsed(text);
+    if (recipe === null || !canBeShown(recipe)) {
         const reason = recipes.problemOf(text, splitPath(path).folder, false);
         return { text: "", problem: fill(qsTr("%1 is not a recipe: %2"), splitPath(path).name, reason) };
     }

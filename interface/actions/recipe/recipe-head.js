@@ -10,7 +10,7 @@ import { fill, shortPath } from "../../lib/wording.js";
 import {
     allRecipes, freeName, nameProblem, ownFolder, ownPath, readRecipe, trashRecipe, writeRecipe,
 } from "./recipe-files.js";
-import { newRecipe, RECIPE_TYPE, textOf, withAbsolutePaths } from "./recipe-text.js";
+import { newRecipe, parsed, RECIPE_TYPE, textOf, withAbsolutePaths } from "./recipe-text.js";
 
 const EDITING = ["recipeNameLabel", "recipeName", "recipeNameButtons"];
 
@@ -257,7 +257,7 @@ export class RecipeHead {
         }
         const read = readRecipe(from);
         const path = ownPath(freeName(splitPath(from).base));
-        this.problem = read.problem || writeRecipe(path, JSON.parse(read.text), splitPath(from).folder);
+        this.problem = read.problem || writeRecipe(path, parsed(read.text), splitPath(from).folder);
         if (this.problem === "") {
             this.choose(path);
         }

@@ -122,6 +122,7 @@ export class RecipePane extends Pane {
 
     /**
      * Adds the operations of another action to the own recipe of that path, or to a new one for "". It is not saved.
+     * Answers the problem.
      */
     addFrom(recipe, path) {
         if (path === "") {
@@ -130,16 +131,18 @@ export class RecipePane extends Pane {
             allow(this.settings);
             this.fill();
             this.changed();
-            return;
+            return "";
         }
-        if (path !== this.settings.path && this.openFile(path) !== "") {
-            return;
+        const problem = path === this.settings.path ? "" : this.openFile(path);
+        if (problem !== "") {
+            return problem;
         }
         if (recipe.operations.length === 0) {
             recipe.outputs.forEach((output) => this.recipe.outputs.push(output));
         }
         recipe.operations.forEach((operation) => this.recipe.operations.push(operation));
         this.listChanged();
+        return "";
     }
 
     take(settings) {

@@ -33,6 +33,39 @@ export function parsed(text) {
     return lists.every(areObjects) ? recipe : null;
 }
 
+const WORDS = ["do", "fit", "position", "unit", "direction", "shape", "amount", "type", "metadata", "dates",
+               "ifTaken"];
+const TEXTS = ["ratio", "color", "pattern", "text", "font", "picture", "to", "name", "folder", "profile",
+               "matte"].concat(WORDS);
+const CHOICES = ["off", "enlarge", "turn", "tile", "lossless", "location"];
+const PAIRS = ["box", "offset"];
+const NUMBERS = ["width", "height", "longest", "shortest", "percent", "megapixels", "degrees", "radius", "size",
+                 "margin", "angle", "opacity", "quality", "maxBytes", "dpi"];
+
+function hasKind(key, value) {
+    if (PAIRS.indexOf(key) >= 0) {
+        return Array.isArray(value) && value.length === 2 && value.every((number) => typeof number === "number");
+    }
+    if (key === "band") {
+        return value !== null && typeof value === "object" && !Array.isArray(value) && areShown([value]);
+    }
+    if (WORDS.indexOf(key) >= 0 && value in {}) {
+        return false; // "constructor" is no word, but every object answers to it
+    }
+    const kinds = [["string", TEXTS], ["boolean", CHOICES], ["number", NUMBERS]];
+    return kinds.every((kind) => kind[1].indexOf(key) < 0 || typeof value === kind[0]);
+}
+
+function areShown(list) {
+    return list.every((thing) => Object.keys(thing).every((key) => hasKind(key, thing[key])));
+}
+
+/** Whether cards can show it: no text where a number belongs. Values out of their range do not matter. */
+export function canBeShown(recipe) {
+    return areShown(recipe.outputs) && allOperations(recipe).every((operation) => typeof operation.do === "string") &&
+        areShown(allOperations(recipe));
+}
+
 /** The text of its file. */
 export function textOf(recipe) {
     return JSON.stringify(recipe, null, 2) + "\n";

@@ -146,8 +146,8 @@ export class ActionPage {
     addToRecipe(made, path) {
         this.window.chooseAction("recipe");
         this.window.form.control("sideBar").currentAction = "recipe";
-        this.window.pane.addFrom(made, path);
-        this.window.say(qsTr("Added. The recipe is not saved yet."));
+        const problem = this.window.pane.addFrom(made, path);
+        this.window.say(problem || qsTr("Added. The recipe is not saved yet."));
     }
 
     /** Called when files offered by a pane may have changed. */
