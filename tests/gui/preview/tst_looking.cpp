@@ -1,6 +1,7 @@
 #include "tests/gui/support/window_driver.h"
 #include "tests/support/test_program.h"
 
+#include "app/preview/picture_ahead.h"
 #include "app/window/controls/segmented_control.h"
 #include "app/window/preview/compare_preview.h"
 
@@ -109,6 +110,10 @@ private Q_SLOTS:
         m_driver->click("handActualButton");
         QCOMPARE(view->zoom(), 1.0);
         QVERIFY(m_driver->waitFor([&] { return middleOf(*view, 2) == middleOf(pattern(0)); }));
+        // The same part of the next picture is there before it is shown.
+        const auto *ahead = view->findChild<window::PictureAhead *>();
+        const window::ShownRoom part{QSizeF(view->size()) * view->devicePixelRatioF(), false, 1, {0.5, 0.5}};
+        QVERIFY(m_driver->waitFor([&] { return ahead->has(m_pictures + QStringLiteral("/p1.png"), part); }));
         m_driver->click("handSkipButton");
         QVERIFY(m_driver->waitFor([&] { return middleOf(*view, 2) == middleOf(pattern(40)); }));
         m_driver->click("handActualButton");
