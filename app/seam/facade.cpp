@@ -18,6 +18,8 @@ const char *const source = R"js((function (seam) {
     const KEPT = Symbol("kept");
     const FACADE = Symbol("facade");
     const ITSELF = Object.freeze({});
+    // Every look at a method of an object of the application makes a new function.
+    const { call, read, write, make: makeService } = seam;
 
     function nativeOf(value) {
         return value === null || value === undefined ? undefined : value[NATIVE];
@@ -43,7 +45,7 @@ const char *const source = R"js((function (seam) {
 
     function operation(id, name) {
         const result = function (...values) {
-            const value = seam.call(nativeOf(this), id, values);
+            const value = call(nativeOf(this), id, values);
             return value === ITSELF ? this : value;
         };
         Object.defineProperty(result, "name", { value: name });
@@ -54,10 +56,10 @@ const char *const source = R"js((function (seam) {
         return {
             get() {
                 const kept = isObject && this[KEPT] !== undefined ? this[KEPT][name] : undefined;
-                return seam.read(nativeOf(this), id, kept);
+                return read(nativeOf(this), id, kept);
             },
             set(value) {
-                seam.write(nativeOf(this), id, value);
+                write(nativeOf(this), id, value);
                 if (isObject)
                     this[KEPT][name] = value;
             },
@@ -95,7 +97,7 @@ const char *const source = R"js((function (seam) {
         const prototype = Object.create(guard(Object.prototype, name));
         const fields = {};
         const make = function (...values) {
-            const native = seam.make(classId, new.target !== undefined, values);
+            const native = makeService(classId, new.target !== undefined, values);
             const facade = wrap(prototype, fields, native);
             if (takesFields && values.length > 0)
                 setFields(facade, name, fields, values[0]);
