@@ -25,6 +25,21 @@ function shownUpTo(named, before) {
     return named.from < named.to ? named.to : before;
 }
 
+// The list is told of many rows at once: a call for each of ten thousand would take longer than their names.
+function showNames(list, ids, named, isFinal) {
+    const changed = [];
+    const names = [];
+    for (let i = named.from; i < named.to; i += 1) {
+        if (!isFinal(ids[i])) {
+            changed.push(ids[i]);
+            names.push(shownName(named.rows[i], null) || splitPath(named.rows[i].to).name);
+        }
+    }
+    if (changed.length > 0) {
+        list.setNewNames(changed, names);
+    }
+}
+
 /**
  * A generator that plans and shows the plan. It yields between slices, and returns the plan with its states.
  *
@@ -40,11 +55,7 @@ export function* showPlan(window, rows, settings, isFinal) {
     let shown = 0;
     while (!part.done) {
         const named = part.value;
-        for (let i = named.from; i < named.to; i += 1) {
-            if (!isFinal(ids[i])) {
-                list.setPlan(ids[i], shownName(named.rows[i], null) || splitPath(named.rows[i].to).name, "");
-            }
-        }
+        showNames(list, ids, named, isFinal);
         shown = shownUpTo(named, shown);
         yield named.to;
         part = planning.next();
@@ -52,16 +63,19 @@ export function* showPlan(window, rows, settings, isFinal) {
     const plan = part.value;
     const plain = stateOf(row({}), { status: "ready", code: "" }, "");
     plan.states = [];
+    let ready = []; // plainly, and their names are there
     for (let i = 0; i < plan.rows.length; i += 1) {
         if (isFinal(ids[i])) {
             plan.states.push(null);
         } else if (i < shown && isPlainlyReady(plan, i)) {
-            list.setStatus(ids[i], plain.kind, plain.text, plain.detail); // its name is there
+            ready.push(ids[i]);
             plan.states.push(plain.state);
         } else {
             plan.states.push(showRow(list, ids[i], plan, i, paths));
         }
-        if (i % ROWS_A_SLICE === ROWS_A_SLICE - 1) {
+        if (i % ROWS_A_SLICE === ROWS_A_SLICE - 1 || i === plan.rows.length - 1) {
+            list.setStatuses(ready, plain.kind, plain.text, plain.detail);
+            ready = [];
             yield plan.rows.length;
         }
     }

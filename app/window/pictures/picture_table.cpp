@@ -65,7 +65,7 @@ PictureTable::PictureTable(QWidget *parent) : QTableView(parent), m_order(m_mode
 
 bool PictureTable::isStatusCut(int id) const
 {
-    const auto *delegate = qobject_cast<const PictureDelegate *>(itemDelegate());
+    auto *delegate = qobject_cast<const PictureDelegate *>(itemDelegate());
     return delegate->isStatusCut(m_model.row(m_model.indexOfId(id)), font());
 }
 
@@ -222,14 +222,33 @@ void PictureTable::setPlan(int id, const QString &newName, const QString &newSiz
         m_model.setPlan(index, newName, newSize);
 }
 
+void PictureTable::setNewNames(const QVariantList &ids, const QStringList &newNames)
+{
+    if (ids.size() != newNames.size())
+        throw platform::Raised::rangeError(
+            QStringLiteral("Expected %1 names but received %2").arg(ids.size()).arg(newNames.size()));
+    for (qsizetype i = 0; i < ids.size(); ++i)
+        setPlan(ids[i].toInt(), newNames[i], QString());
+}
+
 void PictureTable::setStatus(int id, const QString &kind, const QString &text, const QString &detail)
 {
+    setStatuses({id}, kind, text, detail);
+}
+
+void PictureTable::setStatuses(const QVariantList &ids, const QString &kind, const QString &text, const QString &detail)
+{
     const StatusKind status = kindOf(kind);
-    const int index = m_model.indexOfId(id);
-    if (index < 0)
-        return;
-    m_model.setStatus(index, status, text, detail);
-    if (qobject_cast<PictureDelegate *>(itemDelegate())->needsRoom(m_model.row(index), font()))
+    auto *delegate = qobject_cast<PictureDelegate *>(itemDelegate());
+    bool needsRoom = false;
+    for (const QVariant &id : ids) {
+        const int index = m_model.indexOfId(id.toInt());
+        if (index < 0)
+            continue;
+        m_model.setStatus(index, status, text, detail);
+        needsRoom = needsRoom || delegate->needsRoom(m_model.row(index), font());
+    }
+    if (needsRoom)
         arrangeColumns();
 }
 

@@ -198,6 +198,11 @@ public:
     Q_INVOKABLE void setPlan(int id, const QString &newName, const QString &newSize);
     /** @param kind  "none", "waiting", "planned", "busy", "good", "bad" or "caution" */
     Q_INVOKABLE void setStatus(int id, const QString &kind, const QString &text, const QString &detail);
+    /** The new names of many pictures, without sizes. Raises a RangeError if there is not one for each. */
+    Q_INVOKABLE void setNewNames(const QVariantList &ids, const QStringList &newNames);
+    /** The same status for many pictures; see setStatus(). */
+    Q_INVOKABLE void setStatuses(const QVariantList &ids, const QString &kind, const QString &text,
+                                 const QString &detail);
     /** {newName, newSize, kind, status} as the list shows them; null for an unknown id. */
     Q_INVOKABLE QVariant shown(int id) const;
     /** Of all rows, not only of those in view; "settled" tells when they are known. */
