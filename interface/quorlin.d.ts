@@ -2323,6 +2323,10 @@ declare module "quorlin/shell" {
         photo(id: whole): anything;
         setPlan(id: whole, newName: text, newSize: text): null;
         setStatus(id: whole, kind: text, text: text, detail: text): null;
+        /** The new names of many pictures, one for each, without sizes. */
+        setNewNames(ids: list, newNames: texts): null;
+        /** The same status for many pictures. */
+        setStatuses(ids: list, kind: text, text: text, detail: text): null;
         /** As the list shows it, the properties in the order of their columns; null for an unknown id. */
         shown(id: whole): anything;
         /** Of all rows, not only of those in view; "settled" tells when they are known. */
