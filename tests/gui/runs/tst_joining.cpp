@@ -104,9 +104,9 @@ private Q_SLOTS:
         QTest::addColumn<QString>("action");
         QTest::addColumn<QString>("summary");
         QTest::newRow("rename") << "rename"
-                                << "40 files renamed";
+                                << "400 files renamed";
         QTest::newRow("sort") << "sort"
-                              << "40 files moved";
+                              << "400 files moved";
         QTest::newRow("contact") << "contact"
                                  << "Contact sheet.pdf: ";
         QTest::newRow("web") << "web"
@@ -122,7 +122,8 @@ private Q_SLOTS:
                                                 R"("new {counter:00001}"}],"sidecars":true,"simulation":false})"));
         m_driver->startAgain();
         m_driver->show(action.toLatin1().constData());
-        for (int i = 0; i < 40; ++i)
+        const int count = summary.startsWith(QLatin1String("400")) ? 400 : 40; // moves take no time on some machines
+        for (int i = 0; i < count; ++i)
             QVERIFY(QFile::copy(picture("p", 0), m_driver->inputFolder() + QStringLiteral("/r%1.jpg").arg(i)));
         QVERIFY(QFile::remove(picture("p", 0)));
         m_driver->drop({m_driver->inputFolder()});
@@ -130,9 +131,9 @@ private Q_SLOTS:
             m_driver->choose("sortLevel1", QStringLiteral("{type}"));
             m_driver->choose("sortLevel2", QString());
         }
-        QVERIFY(m_driver->waitFor([this] {
+        QVERIFY(m_driver->waitFor([&] {
             return m_driver->control<QAbstractButton>("startButton")->isEnabled() &&
-                   m_driver->cell(39, PictureModel::Status) == QStringLiteral("Ready");
+                   m_driver->cell(count - 1, PictureModel::Status) == QStringLiteral("Ready");
         }));
         m_driver->click("startButton");
         QVERIFY(m_driver->waitFor([this] { return m_driver->control<QWidget>("pauseButton")->isVisible(); }));
@@ -148,10 +149,10 @@ private Q_SLOTS:
         QVERIFY(m_driver->pictures().isEnabled());
         m_driver->click("pauseButton");
         const QString said = m_driver->waitForSummary();
-        QVERIFY2(said.startsWith(summary) && !said.startsWith(QStringLiteral("41")), qPrintable(said));
-        QCOMPARE(list().size(), 41);
+        QVERIFY2(said.startsWith(summary) && !said.startsWith(QString::number(count + 1)), qPrintable(said));
+        QCOMPARE(list().size(), count + 1);
         QVERIFY(
-            m_driver->waitFor([this] { return m_driver->cell(40, PictureModel::Status) == QStringLiteral("Ready"); }));
+            m_driver->waitFor([&] { return m_driver->cell(count, PictureModel::Status) == QStringLiteral("Ready"); }));
         QVERIFY(QFile::exists(picture("q", 0)));
     }
 
