@@ -50,14 +50,13 @@ QString becomingOpaque(const QString &type, const QColor &matte)
         .arg(type, matte.name());
 }
 
-QStringList lossesOfPixels(const OutputPlan &plan, const RecipeOutput &output, const Stage &end,
-                           const platform::PixelFacts &facts)
+QStringList lossesOfPixels(const OutputPlan &plan, const RecipeOutput &output, const Stage &end)
 {
     const QString name = writtenType(plan.type).word;
     QStringList losses;
     if (end.hasAlpha && !holdsAlpha(plan.type))
         losses.append(becomingOpaque(name, output.matte));
-    if (facts.bits > 8 && !holdsDepth16(plan.type))
+    if (end.bits > 8 && !holdsDepth16(plan.type))
         losses.append(
             sentence(QT_TRANSLATE_NOOP("recipe", "%1 has 8 bits per channel, the picture has more")).arg(name));
     if (!end.profile.isEmpty() && !holdsProfileOf(plan.type, end.profile))
@@ -177,7 +176,7 @@ QSize largestThat(const std::function<bool(QSize)> &fits, QSize size)
 
 } // namespace
 
-QString refusalFor(const OutputPlan &plan, const RecipeOutput &output, const Stage &end, int bits)
+QString refusalFor(const OutputPlan &plan, const RecipeOutput &output, const Stage &end)
 {
     constexpr qint64 most = 3LL << 29; // leaves a worker room for the pixels within its limit
     if (plan.isLossless)
@@ -189,7 +188,8 @@ QString refusalFor(const OutputPlan &plan, const RecipeOutput &output, const Sta
         return {};
     const int bands = (end.isGray ? 1 : 3) + (end.hasAlpha ? 1 : 0);
     const auto fits = [&](QSize size) {
-        return platform::memoryOfEncoding(FileFormat::JpegXl, size, bands, bits > 8 ? 2 : 1, output.isLossless) <= most;
+        return platform::memoryOfEncoding(FileFormat::JpegXl, size, bands, end.bits > 8 ? 2 : 1, output.isLossless) <=
+               most;
     };
     if (fits(plan.size))
         return {};
@@ -211,7 +211,7 @@ QStringList lossesOf(const OutputPlan &plan, const RecipeOutput &output, const S
     if (!plan.isLossless || rewritesMetadata(output, source, plan.type))
         losses += lossesOfParts(source);
     if (!plan.isLossless) {
-        losses += lossesOfPixels(plan, output, end, source.pixelFacts().value_or(platform::PixelFacts()));
+        losses += lossesOfPixels(plan, output, end);
         if (plan.leftOut > 0)
             losses.append(sentence(QT_TRANSLATE_NOOP("recipe", "Other pictures in the file that are left out: %1"))
                               .arg(plan.leftOut));

@@ -24,7 +24,7 @@ bool canRewriteMetadata(OutputType type, std::optional<double> dpi);
 bool rewritesMetadata(const RecipeOutput &output, const platform::ImageSource &source, OutputType type);
 
 /** Why a file of the planned size is not made, in a sentence: the memory that it would need. Empty if it is. */
-QString refusalFor(const OutputPlan &plan, const RecipeOutput &output, const Stage &end, int bits);
+QString refusalFor(const OutputPlan &plan, const RecipeOutput &output, const Stage &end);
 
 /** What the output will lack, in sentences. @p end is the picture after all operations. */
 QStringList lossesOf(const OutputPlan &plan, const RecipeOutput &output, const Stage &end,

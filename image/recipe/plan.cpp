@@ -91,10 +91,24 @@ std::optional<CutPlan> cutOf(const QList<RecipeStep> &steps, const Stage &stage)
     return CutPlan{cropFrameOf(*crop, stage), cropPartOf(*crop, stage), crop->position != Place::Attention};
 }
 
-OutputPlan planned(const Recipe &recipe, const RecipeOutput &output, const ImageSource &source, const FillText &fill)
+/** What all outputs of a picture share. */
+struct Common
+{
+    Result<Way> way; ///< through the operations of the recipe
+    std::optional<CutPlan> cut;
+    bool areUnknown = false; ///< the pixels, since they cannot be decoded
+};
+
+Common commonOf(const Recipe &recipe, const ImageSource &source, const FillText &fill)
+{
+    const Stage stage = stageOf(source);
+    return {wayThrough(recipe.operations, {stage, {}, false}, fill), cutOf(recipe.operations, stage),
+            source.pixelFacts().value_or(platform::PixelFacts()).areUnknown};
+}
+
+OutputPlan planned(const Common &common, const RecipeOutput &output, const ImageSource &source, const FillText &fill)
 {
     OutputPlan plan;
-    const Stage stage = stageOf(source);
     const std::optional<OutputType> own = ownTypeOf(source);
     if (output.type == OutputType::Original && !own) {
         plan.problem = sentence(
@@ -103,21 +117,19 @@ OutputPlan planned(const Recipe &recipe, const RecipeOutput &output, const Image
         return plan;
     }
     plan.type = output.type == OutputType::Original ? *own : output.type;
-    const Result<Way> way = wayThrough(recipe.operations, {stage, {}, false}, fill).and_then([&](const Way &common) {
-        return wayThrough(stepsOf(output), common, fill);
-    });
+    const Result<Way> way =
+        common.way.and_then([&](const Way &before) { return wayThrough(stepsOf(output), before, fill); });
     if (!way) {
         plan.problem = way.error().message;
         return plan;
     }
     plan.size = way->end.size;
-    plan.cut = cutOf(recipe.operations, stage);
+    plan.cut = common.cut;
     chooseRoad(plan, *way, output, source);
-    const platform::PixelFacts facts = source.pixelFacts().value_or(platform::PixelFacts());
     plan.problem =
-        facts.areUnknown && !plan.isLossless
+        common.areUnknown && !plan.isLossless
             ? sentence(QT_TRANSLATE_NOOP("recipe", "Its pixels are compressed in a way that is not supported"))
-            : refusalFor(plan, output, way->end, facts.bits);
+            : refusalFor(plan, output, way->end);
     if (!plan.problem.isEmpty())
         return plan;
     plan.leftOut = plan.isLossless ? 0 : source.imageCount() - 1;
@@ -141,6 +153,7 @@ Stage stageOf(const ImageSource &source)
     stage.hasAlpha = facts.hasAlpha;
     stage.profile = facts.iccProfile;
     stage.isGray = facts.model == platform::ColorModel::Gray;
+    stage.bits = facts.bits;
     return stage;
 }
 
@@ -154,9 +167,10 @@ QList<RecipeStep> stepsOf(const RecipeOutput &output)
 
 QList<OutputPlan> planOf(const Recipe &recipe, const ImageSource &source, const FillText &fill)
 {
+    const Common common = commonOf(recipe, source, fill);
     QList<OutputPlan> plans;
     for (const RecipeOutput &output : recipe.outputs)
-        plans.append(planned(recipe, output, source, fill));
+        plans.append(planned(common, output, source, fill));
     return plans;
 }
 

@@ -303,6 +303,7 @@ Stage stageOf(const Bitmap &bitmap)
     stage.hasAlpha = bitmap.hasAlpha();
     stage.profile = bitmap.iccProfile();
     stage.isGray = bitmap.colorModel() == platform::ColorModel::Gray;
+    stage.bits = bitmap.bitsPerComponent();
     return stage;
 }
 

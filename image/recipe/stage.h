@@ -20,6 +20,7 @@ struct Stage
     bool hasAlpha = false;
     QByteArray profile; ///< ICC; empty for sRGB, or grey with its curve
     bool isGray = false;
+    int bits = 8; ///< per channel
 };
 
 /**
