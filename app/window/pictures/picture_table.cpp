@@ -65,7 +65,7 @@ PictureTable::PictureTable(QWidget *parent) : QTableView(parent), m_order(m_mode
 
 bool PictureTable::isStatusCut(int id) const
 {
-    auto *delegate = qobject_cast<const PictureDelegate *>(itemDelegate());
+    const auto *delegate = qobject_cast<const PictureDelegate *>(itemDelegate());
     return delegate->isStatusCut(m_model.row(m_model.indexOfId(id)), font());
 }
 
