@@ -74,8 +74,10 @@ export function* showPlan(window, rows, settings, isFinal) {
             plan.states.push(showRow(list, ids[i], plan, i, paths));
         }
         if (i % ROWS_A_SLICE === ROWS_A_SLICE - 1 || i === plan.rows.length - 1) {
-            list.setStatuses(ready, plain.kind, plain.text, plain.detail);
-            ready = [];
+            if (ready.length > 0) {
+                list.setStatuses(ready, plain.kind, plain.text, plain.detail);
+                ready = [];
+            }
             yield plan.rows.length;
         }
     }

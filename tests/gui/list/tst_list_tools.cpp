@@ -1,5 +1,6 @@
 #include "tests/gui/support/window_driver.h"
 #include "tests/support/dated_pictures.h"
+#include "tests/support/raised_text.h"
 #include "tests/support/test_program.h"
 
 #include <QClipboard>
@@ -35,6 +36,7 @@ private Q_SLOTS:
     void allResultsAreEstimated();
     void recentDestinationsAreOfferedAndForgotten();
     void recentRecipesAreOffered();
+    void newNamesAreOneForEachPicture();
 
 private:
     QString path(const QString &name) const { return m_driver->inputFolder() + u'/' + name; }
@@ -295,6 +297,19 @@ void TestListTools::recentRecipesAreOffered()
     QVERIFY(QFile::remove(path(QStringLiteral("web.quorlin"))));
     m_driver->startAgain();
     QVERIFY(!m_driver->control<QMenu>("recipesMenu")->isEnabled()); // what is gone is forgotten
+}
+
+void TestListTools::newNamesAreOneForEachPicture()
+{
+    pictures({QStringLiteral("a.jpg"), QStringLiteral("b.jpg")});
+    window::PictureTable &list = m_driver->pictures();
+    const QVariantList ids = list.ids();
+    QCOMPARE(ids.size(), 2);
+    list.setNewNames(ids, {QStringLiteral("1.jpg"), QStringLiteral("2.jpg")});
+    QCOMPARE(m_driver->cell(1, PictureModel::NewName), QStringLiteral("2.jpg"));
+    QCOMPARE(raisedBy([&] { list.setNewNames(ids, {QStringLiteral("3.jpg")}); }),
+             QStringLiteral("RangeError: Expected 2 names but received 1"));
+    QCOMPARE(m_driver->cell(0, PictureModel::NewName), QStringLiteral("1.jpg"));
 }
 
 QUORLIN_GUI_TEST(TestListTools)
