@@ -58,6 +58,30 @@ def measure(commands, watches=False):
     return seconds, cpu, watch.most, said[0]
 
 
+def cost(command, watches=False):
+    """CPU seconds and megabytes of a command: of its largest process, and of all together. Ends the program if it fails.
+
+    A process counts as large as the one that started it was, so that is another process, which stays small.
+    """
+    starter = [sys.executable, "-B", "-S", "-E", __file__, "watched" if watches else "unwatched", *map(str, command)]
+    done = subprocess.run(starter, capture_output=True, text=True, check=False)
+    if done.returncode != 0:
+        sys.exit(f"bench: {command[0]} failed: {done.stderr[:300]}")
+    return tuple(map(float, done.stdout.split()[-3:]))
+
+
+def cost_from_here(command, watches):
+    process = subprocess.Popen(command, stdout=subprocess.DEVNULL)
+    watch = MemoryWatch(process.pid)
+    if watches:
+        watch.start()
+    _, status, usage = os.wait4(process.pid, 0)
+    process.returncode = status
+    watch.goes_on = False
+    print(usage.ru_utime + usage.ru_stime, usage.ru_maxrss / 1024, watch.most)
+    return 1 if status else 0
+
+
 def copies(folder, work, count):
     """So many pictures made of the photographs in a folder."""
     originals = sorted(Path(folder).glob("*.jpg"))
@@ -72,3 +96,7 @@ def copies(folder, work, count):
 
 def thumbnails(pictures, out):
     return ["vipsthumbnail", "--size", "1600x1600", "-o", f"{out}/%s.jpg[Q=85]", *pictures]
+
+
+if __name__ == "__main__":
+    sys.exit(cost_from_here(sys.argv[2:], sys.argv[1] == "watched"))

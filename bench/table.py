@@ -13,7 +13,7 @@ the interquartile range is above 10 % of the median the task is measured once mo
   PROGRAMS  folder of quorlin-script, quorlin-batch, quorlin-worker, quorlin
   PEERS     folder of the program "limit"; without it there are no ratios to it
   CORPUS    folder of photographs of 12 megapixels
-  RUNS=7    rounds        COUNT=40  photographs of a round (16 for what takes long)
+  RUNS=7    rounds        COUNT=40  photographs of a round (16 for h and png)
   BOUNDS=no  measures only: nothing is held against a bound, and what takes long is made smaller
 
 Besides the tasks over photographs there are i, jp2, recipe, names, walk, start and batch; see table_rows.py.
@@ -67,15 +67,15 @@ TASKS = {
     "c": Task("c {i} {o} -T fast", ("resize.js", "c"),
               jpeg(80, {"do": "resize", "box": [1000, 1000], "fit": "fill"}), 1.4, 60, size=lambda *_: (1000, 1000)),
     "d90": Task("r90 {i} {o}", ("turn.js", "d90"),
-                {"operations": [{"do": "turn", "degrees": -90}], "outputs": [{}]}, 0.95, 120, count=FEW,
+                {"operations": [{"do": "turn", "degrees": -90}], "outputs": [{}]}, 0.95, 120,
                 size=lambda width, height: (height, width),
                 others={"jpegtran": (each('jpegtran -rotate 270 -trim -copy all -outfile "$out/${f##*/}" "$f"'), 0.85)}),
     "e": Task("e {i} {o}", ("turn.js", "e"),
-              {"operations": [{"do": "flip", "direction": "horizontal"}], "outputs": [{}]}, 1.0, 120, count=FEW,
+              {"operations": [{"do": "flip", "direction": "horizontal"}], "outputs": [{}]}, 1.0, 120,
               others={"jpegtran": (each('jpegtran -flip horizontal -copy all -outfile "$out/${f##*/}" "$f"'), 0.85)}),
     "d7": Task("full {i} {o} -q 92", ("turn.js", "d7"),
-               {"operations": [{"do": "turn", "degrees": -7.5, "color": "#000000"}], "outputs": [{}]}, 2.7, 140, count=FEW, size=None),
-    "f": Task("crop {i} {o}", ("mask.js", "f"), jpeg(90, {"do": "crop", "width": 3000, "height": 2250}), 1.15, 80, count=FEW,
+               {"operations": [{"do": "turn", "degrees": -7.5, "color": "#000000"}], "outputs": [{}]}, 2.7, 140, size=None),
+    "f": Task("crop {i} {o}", ("mask.js", "f"), jpeg(90, {"do": "crop", "width": 3000, "height": 2250}), 1.15, 80,
               size=lambda width, height: (min(width, 3000), min(height, 2250)),
               others={"jpegtran": (each('jpegtran -crop 3000x2250+496+368 -copy all -outfile "$out/${f##*/}" "$f"'), 1.05)}),
     "h": Task("round {i} {o} -q 1", ("mask.js", "h"),

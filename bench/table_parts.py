@@ -3,11 +3,10 @@ import json
 import os
 import shutil
 import statistics
-import subprocess
 import sys
 from pathlib import Path
 
-from measure import MemoryWatch, copies
+from measure import copies, cost
 from picture_size import size_of
 
 ROOT = Path(__file__).resolve().parent.parent
@@ -18,26 +17,11 @@ RUNS = int(os.environ.get("RUNS", "7"))
 COUNT = int(os.environ.get("COUNT", "40"))
 HAS_BOUNDS = os.environ.get("BOUNDS") != "no"
 FEW = min(COUNT, 16)
+os.environ["QT_QPA_PLATFORM"] = "offscreen"
 
 
 def script(name):
     return [str(PROGRAMS / "quorlin-script"), str(ROOT / "bench" / name)]
-
-
-def cost(command, watches=False):
-    """CPU seconds and megabytes of a command: of its largest process, and of all together."""
-    process = subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.PIPE,
-                               env=dict(os.environ, QT_QPA_PLATFORM="offscreen"))
-    watch = MemoryWatch(process.pid)
-    if watches:
-        watch.start()
-    said = process.stderr.read()
-    _, status, usage = os.wait4(process.pid, 0)
-    process.returncode = status
-    watch.goes_on = False
-    if status != 0:
-        sys.exit(f"bench: {command[0]} failed: {said.decode(errors='replace')[:300]}")
-    return usage.ru_utime + usage.ru_stime, usage.ru_maxrss / 1024, watch.most
 
 
 class Workshop:
