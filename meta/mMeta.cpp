@@ -73,12 +73,10 @@ QStringList mMeta::hGetPixelFormat(const QString &path)
 
 QString mMeta::hSetExifData(const QString &path, const QString &comment)
 {
-    if (!ImageSource::canOpen(path))
-        return QStringLiteral("Failed");
-    // Write errors are not reported here; on failure the file is intact and unchanged.
-    const platform::Result<void> written = platform::writeUserComment(path, comment);
-    Q_UNUSED(written)
-    return QStringLiteral("OK");
+    // Write errors are not reported here, only that the picture cannot be opened; one that was written was opened. On
+    // failure the file is intact and unchanged.
+    const bool canOpen = platform::writeUserComment(path, comment) || ImageSource::canOpen(path);
+    return canOpen ? QStringLiteral("OK") : QStringLiteral("Failed");
 }
 
 void mMeta::btApplyExifUserComment(platform::Sender)
