@@ -111,7 +111,7 @@ void WindowDriver::show(const char *action)
 void WindowDriver::click(const char *button)
 {
     auto *found = control<QAbstractButton>(button);
-    if (!found->isVisible() || !found->isEnabled())
+    if (!waitFor([found] { return found->isVisible() && found->isEnabled(); }))
         qFatal("the button %s cannot be clicked", button);
     QTest::mouseClick(found, Qt::LeftButton);
 }

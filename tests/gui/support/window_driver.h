@@ -58,6 +58,7 @@ public:
     /** Chooses an action in the sidebar. */
     void show(const char *action);
 
+    /** Clicks as soon as the button can be clicked, like a person: a plan is shown row by row before it can be started. */
     void click(const char *button);
     void trigger(const char *action);
     /** Chooses an entry of a combo box by the value behind it, as a person would. */
