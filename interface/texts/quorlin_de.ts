@@ -8567,6 +8567,10 @@
         <translation>Löschen …</translation>
     </message>
     <message>
+        <source>Restore Unsaved Changes</source>
+        <translation>Nicht gespeicherte Änderungen wiederherstellen</translation>
+    </message>
+    <message>
         <source>Export…</source>
         <translation>Exportieren …</translation>
     </message>
@@ -8577,6 +8581,10 @@
     <message>
         <source>Results</source>
         <translation>Ergebnisse</translation>
+    </message>
+    <message>
+        <source>The changes to “%1” were not saved. Its menu can restore them.</source>
+        <translation>Die Änderungen an „%1“ wurden nicht gespeichert. Das Menü des Rezepts stellt sie wieder her.</translation>
     </message>
     <message>
         <source>My recipe</source>

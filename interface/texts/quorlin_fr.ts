@@ -8567,6 +8567,10 @@
         <translation>Supprimer…</translation>
     </message>
     <message>
+        <source>Restore Unsaved Changes</source>
+        <translation>Restaurer les modifications non enregistrées</translation>
+    </message>
+    <message>
         <source>Export…</source>
         <translation>Exporter…</translation>
     </message>
@@ -8577,6 +8581,10 @@
     <message>
         <source>Results</source>
         <translation>Résultats</translation>
+    </message>
+    <message>
+        <source>The changes to “%1” were not saved. Its menu can restore them.</source>
+        <translation>Les modifications de «&#x202f;%1&#x202f;» n’ont pas été enregistrées. Le menu de la recette les restaure.</translation>
     </message>
     <message>
         <source>My recipe</source>

@@ -8567,6 +8567,10 @@
         <translation>Verwijderen…</translation>
     </message>
     <message>
+        <source>Restore Unsaved Changes</source>
+        <translation>Niet-bewaarde wijzigingen terugzetten</translation>
+    </message>
+    <message>
         <source>Export…</source>
         <translation>Exporteren…</translation>
     </message>
@@ -8577,6 +8581,10 @@
     <message>
         <source>Results</source>
         <translation>Resultaten</translation>
+    </message>
+    <message>
+        <source>The changes to “%1” were not saved. Its menu can restore them.</source>
+        <translation>De wijzigingen in “%1” zijn niet bewaard. Het menu van het recept zet ze terug.</translation>
     </message>
     <message>
         <source>My recipe</source>

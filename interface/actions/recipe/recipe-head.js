@@ -23,6 +23,8 @@ export class RecipeHead {
         this.problem = "";
         this.menuState = "";
         this.fileText = null;
+        /** The changed recipe that another one replaced, {text, folder, path}, or null. */
+        this.left = null;
         this.all = [];
         this.connect();
     }
@@ -103,7 +105,8 @@ export class RecipeHead {
         const ifTrue = (condition, what) => (condition ? what : null);
         return [[qsTr("New Recipe"), "make"], ["-", null],
                 [qsTr("Save"), ifTrue(isFile && this.isChanged(), "save")], [qsTr("Save As…"), "saveAs"],
-                [qsTr("Rename…"), ifTrue(isOwn, "rename")], [qsTr("Delete…"), ifTrue(isOwn, "remove")], ["-", null],
+                [qsTr("Rename…"), ifTrue(isOwn, "rename")], [qsTr("Delete…"), ifTrue(isOwn, "remove")],
+                [qsTr("Restore Unsaved Changes"), ifTrue(this.left !== null, "restore")], ["-", null],
                 [qsTr("Export…"), "saveFile"], [qsTr("Import…"), "bringIn"]];
     }
 
@@ -125,6 +128,7 @@ export class RecipeHead {
             saveAs: () => this.edit("saveAs"),
             rename: () => this.edit("rename"),
             remove: () => this.remove(),
+            restore: () => this.restore(),
             saveFile: () => this.saveFile(),
             bringIn: () => this.bringIn()
         };
@@ -137,6 +141,7 @@ export class RecipeHead {
         const read = readRecipe(path);
         this.problem = read.problem;
         if (read.problem === "") {
+            this.keepChanges();
             this.fileText = read.text;
             this.pane.showRecipe({ text: read.text, folder: splitPath(path).folder, path: path });
         }
@@ -145,8 +150,33 @@ export class RecipeHead {
     }
 
     make() {
+        this.makeOf(newRecipe(qsTr("Results")));
+    }
+
+    /** Shows a recipe that no file holds. */
+    makeOf(recipe) {
+        this.keepChanges();
         this.fileText = null;
-        this.pane.showRecipe({ text: textOf(newRecipe(qsTr("Results"))), folder: ownFolder(), path: "" });
+        this.pane.showRecipe({ text: textOf(recipe), folder: ownFolder(), path: "" });
+    }
+
+    /** Keeps what is shown, since another recipe takes its place, if no file holds it. */
+    keepChanges() {
+        const settings = this.pane.settings;
+        const isNew = settings.path === "" && settings.text === textOf(newRecipe(qsTr("Results")));
+        if (settings.text !== "" && !isNew && this.isChanged()) {
+            this.left = { text: settings.text, folder: settings.folder, path: settings.path };
+            this.pane.tell(fill(qsTr("The changes to “%1” were not saved. Its menu can restore them."), this.name()));
+        }
+    }
+
+    /** Shows what another recipe replaced; that one is kept in turn if it has changes. */
+    restore() {
+        const left = this.left;
+        this.left = null;
+        this.keepChanges();
+        this.pane.showRecipe(left);
+        this.look();
     }
 
     save() {

@@ -126,8 +126,7 @@ export class RecipePane extends Pane {
      */
     addFrom(recipe, path) {
         if (path === "") {
-            this.head.fileText = null;
-            this.showRecipe({ text: textOf(recipe), folder: ownFolder(), path: "" });
+            this.head.makeOf(recipe);
             allow(this.settings);
             this.fill();
             this.changed();
@@ -146,6 +145,7 @@ export class RecipePane extends Pane {
     }
 
     take(settings) {
+        this.head.keepChanges();
         Object.assign(this.settings, settings);
         this.recipe = parsed(this.settings.text);
         this.fill();

@@ -120,6 +120,27 @@ private Q_SLOTS:
         QCOMPARE(chosen(), QStringLiteral("Three"));
     }
 
+    void keepsChangesThatAnotherRecipeReplaces()
+    {
+        const char *restore = "Restore Unsaved Changes";
+        saveAs("One");
+        QVERIFY(!entryOf("recipeMenu", restore)->isEnabled());
+        m_driver->control<QAbstractButton>("cardDelete")->click();
+        const QString changed = titles();
+        QCOMPARE(opened("two.quorlin", R"({"quorlin": 1, "outputs": [{"type": "png"}]})"), QString());
+        QCOMPARE(titles(), QStringLiteral("Output 1: PNG"));
+        menu(restore);
+        QCOMPARE(titles(), changed);
+        QCOMPARE(chosen(), QStringLiteral("• One"));
+        QVERIFY(!entryOf("recipeMenu", restore)->isEnabled()); // the other one had no changes
+        menu("New Recipe");
+        menu(restore);
+        QCOMPARE(titles(), changed);
+        menu("Save");
+        QCOMPARE(opened("two.quorlin", R"({"quorlin": 1, "outputs": [{"type": "png"}]})"), QString());
+        QVERIFY(!entryOf("recipeMenu", restore)->isEnabled());
+    }
+
     void addsNothingToOneThatIsGone()
     {
         saveAs("One");
@@ -190,15 +211,15 @@ private:
         return m_driver->text("recipeProblem");
     }
 
-    void trigger(const char *button, const char *entry)
+    QAction *entryOf(const char *button, const char *entry)
     {
         for (QAction *action : m_driver->control<QPushButton>(button)->menu()->actions())
-            if (action->text() == QString::fromUtf8(entry)) {
-                action->trigger();
-                return;
-            }
-        QFAIL(entry);
+            if (action->text() == QString::fromUtf8(entry))
+                return action;
+        qFatal("no entry %s", entry);
     }
+
+    void trigger(const char *button, const char *entry) { entryOf(button, entry)->trigger(); }
 
     void menu(const char *entry) { trigger("recipeMenu", entry); }
 
